@@ -1,0 +1,50 @@
+# The sources of a folder that belong to the platform that is built for.
+function(qel_folder_sources result)
+  set(sources)
+  foreach(folder IN LISTS ARGN)
+    file(GLOB found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
+    list(APPEND sources ${found})
+  endforeach()
+  if(WIN32)
+    list(FILTER sources EXCLUDE REGEX "_posix\\.cpp$")
+  else()
+    list(FILTER sources EXCLUDE REGEX "_win32\\.cpp$")
+  endif()
+  set(${result} ${sources} PARENT_SCOPE)
+endfunction()
+
+# qel_add_library(NAME BUILD_DEFINITION macro PORTABLE folders... WINDOWED folders...
+#                 LIBRARIES targets... SYSTEM_LIBRARIES names...)
+#
+# Adds the shared library NAME with all sources of its folders; of the WINDOWED ones only on
+# Windows. Where there are no sources there is no target. BUILD_DEFINITION is what the library's
+# api.h asks for to know whether it exports or imports.
+function(qel_add_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "BUILD_DEFINITION"
+                        "PORTABLE;WINDOWED;LIBRARIES;SYSTEM_LIBRARIES")
+  set(folders ${arg_PORTABLE})
+  if(WIN32)
+    list(APPEND folders ${arg_WINDOWED})
+  endif()
+  qel_folder_sources(sources ${folders})
+  if(NOT sources)
+    return()
+  endif()
+
+  add_library(${name} SHARED ${sources})
+  add_library(QEL::${name} ALIAS ${name})
+  set_target_properties(${name} PROPERTIES QEL_FOLDERS "${folders}")
+  target_compile_features(${name} PUBLIC cxx_std_20)
+  target_compile_definitions(${name} PRIVATE ${arg_BUILD_DEFINITION})
+  target_include_directories(${name} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:include/qel>)
+  target_link_libraries(${name} PUBLIC ${arg_LIBRARIES})
+  if(WIN32)
+    set_target_properties(${name} PROPERTIES PREFIX "")
+    target_link_libraries(${name} PRIVATE ${arg_SYSTEM_LIBRARIES})
+  endif()
+  if(MINGW)
+    # Only what is marked is exported, even while nothing is marked yet.
+    target_link_options(${name} PRIVATE -Wl,--exclude-all-symbols)
+  endif()
+endfunction()

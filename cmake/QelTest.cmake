@@ -1,0 +1,48 @@
+# How a test's executable is started where it can't just be run.
+if(WIN32 AND CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
+  set(arch win32)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(arch win64)
+  endif()
+  set(CMAKE_CROSSCOMPILING_EMULATOR
+      ${PROJECT_SOURCE_DIR}/tools/wine-run ${arch} ${PROJECT_BINARY_DIR}/wineprefix)
+endif()
+cmake_path(GET PROJECT_BINARY_DIR FILENAME QEL_BUILD_NAME)
+
+# qel_add_test(AREA [NATIVE] [WINDOW] [TIMEOUT seconds] [LIBRARIES targets...] [FORMS ...]
+#              [RESOURCES ...])
+#
+# Adds the test executable of tests/AREA, which is all sources in that folder; nothing while there
+# are none. NATIVE areas have no window in them and run on every platform. WINDOW areas use the
+# screen, the keyboard and the mouse and so run alone. A main of their own is main.cpp.
+function(qel_add_test area)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "NATIVE;WINDOW" "TIMEOUT" "LIBRARIES;FORMS;RESOURCES")
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${area}/*.cpp)
+  if(NOT sources OR NOT (WIN32 OR arg_NATIVE))
+    return()
+  endif()
+  set(main GTest::gmock_main)
+  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${area}/main.cpp)
+    set(main GTest::gmock)
+  endif()
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+
+  set(target test_${area})
+  add_executable(${target} ${sources})
+  target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_compile_definitions(${target} PRIVATE _GLIBCXX_ASSERTIONS)
+  target_link_libraries(${target} PRIVATE ${arg_LIBRARIES} ${main})
+  if(WIN32)
+    qel_target_resources(${target} MANIFEST FORMS ${arg_FORMS} RESOURCES ${arg_RESOURCES})
+  endif()
+
+  add_test(NAME ${QEL_BUILD_NAME}/${area} COMMAND ${target})
+  # What runs the program ends it first, so that it can say so and clean up.
+  math(EXPR last_resort "${arg_TIMEOUT} + 60")
+  set_tests_properties(${QEL_BUILD_NAME}/${area} PROPERTIES
+    TIMEOUT ${last_resort}
+    RUN_SERIAL "${arg_WINDOW}"
+    ENVIRONMENT "WINE_RUN_TIMEOUT=${arg_TIMEOUT};UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()

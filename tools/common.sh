@@ -1,0 +1,31 @@
+# What ./run, ./test and .ci/run share. Read by bash, from the top folder.
+
+jobs() { nproc 2>/dev/null || echo 2; }
+
+# configure_and_build PRESET [TARGETS...]
+configure_and_build() {
+  local preset=$1
+  shift
+  [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" || return
+  cmake --build --preset "$preset" --parallel "$(jobs)" ${1:+--target "$@"}
+}
+
+# windows_preset: which of the Windows builds can be built and run here; fails when none can.
+windows_preset() {
+  local preset compiler
+  for preset in win32 win64; do
+    case $preset in
+      win32) compiler=i686-w64-mingw32-g++-posix ;;
+      win64) compiler=x86_64-w64-mingw32-g++-posix ;;
+    esac
+    command -v "$compiler" >/dev/null || continue
+    tools/wine-run "$preset" "build/$preset/wineprefix" --prepare >&2 || continue
+    if [ "$preset" = win64 ]; then
+      echo "32-bit Windows programs can't be built or run here: using the 64-bit build instead." \
+        "The 32-bit product itself stays untested." >&2
+    fi
+    echo "$preset"
+    return
+  done
+  return 1
+}
