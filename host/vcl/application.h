@@ -1,0 +1,125 @@
+// TApplication: the message loop, the main form, hints and errors of a program with forms.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "host/rtl/customapplication.h"
+#include "host/vcl/controltypes.h"
+#include "host/vcl/graphics.h"
+#include "host/vcl/hints.h"
+#include "host/vcl/types.h"
+
+namespace vcl {
+
+class TCustomForm;
+
+/// Sender, error. Assigned, it takes the place of the message box.
+using TExceptionEvent = TEvent<TObject*, const std::exception&>;
+/// Sets `done` to false to be called again at once when no message waits.
+using TIdleEvent = TEvent<TObject*, bool&>;
+/// A message of the program's queue; `handled` keeps it from its window.
+using TMessageEvent = TEvent<MSG&, bool&>;
+template <>
+inline constexpr const char* EventName<TExceptionEvent> = "TExceptionEvent";
+template <>
+inline constexpr const char* EventName<TIdleEvent> = "TIdleEvent";
+template <>
+inline constexpr const char* EventName<TMessageEvent> = "TMessageEvent";
+
+/// The application. A program has one, `Application()`:
+///
+///     int WINAPI WinMain(...) {
+///       Application()->Initialize();
+///       Application()->CreateForm<TMainForm>();
+///       return Application()->Run();
+///     }
+class VCL_API TApplication : public TCustomApplication {
+ public:
+  explicit TApplication(TComponent* owner);
+  ~TApplication() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  /// Prepares the process: common controls, icon, title.
+  void Initialize();
+  /// Makes a form, owned by the application; the first one is the main form.
+  template <class TheForm>
+  TheForm* CreateForm() {
+    auto* form = new TheForm(this);
+    SetMainFormIfNone(form);
+    return form;
+  }
+  TCustomForm* MainForm() const { return FMainForm; }
+  /// Shows the main form and handles messages until the program ends. Returns its exit code.
+  int Run();
+  /// Handles one waiting message; false when none waits.
+  bool ProcessMessage();
+  void ProcessMessages() override;
+  /// Handles the next message, or does idle work and waits for one.
+  void HandleMessage();
+  /// Asks the message loop to end.
+  void Terminate() override;
+  /// The code that Run returns.
+  void SetExitCode(int code) { FExitCode = code; }
+
+  /// Hands the error to OnException, else shows it in a box; EAbort is silent. Never raises.
+  void HandleException(TObject* sender, const std::exception& error) override;
+  /// Like HandleException, for the exception being handled in a catch block, whatever its type.
+  void HandleCurrentException(TObject* sender);
+  void ShowException(const std::exception& error);
+  /// A box in front of the active window; see the system's MessageBox for the flags and the answer.
+  int MessageBox(const std::string& text, const std::string& caption, int flags) override;
+
+  /// The application's own window, hidden, which owns the boxes when no form is there.
+  HWND Handle();
+  void SetTitle(const std::string& title) override;
+  TIcon* Icon() const { return FIcon.get(); }
+  bool Active() const { return FActive; }
+  void Minimize();
+  void Restore();
+  void BringToFront();
+
+  // Hints.
+  /// Raises and lowers hints as the mouse moves; see hints.h.
+  THintControl& Hints() { return *FHints; }
+  bool ShowHint() const { return FShowHint; }
+  void SetShowHint(bool showHint);
+  /// The hint of the control under the mouse, as a status bar shows it.
+  const std::string& Hint() const { return FHint; }
+  void SetHint(const std::string& hint);
+  void CancelHint();
+
+  TExceptionEvent OnException;
+  TIdleEvent OnIdle;
+  TMessageEvent OnMessage;
+  TNotifyEvent OnHint, OnActivate, OnDeactivate, OnMinimize, OnRestore;
+  /// The application is about to show a hint; the handler may change the text, or refuse.
+  TShowHintEvent OnShowHint;
+
+ private:
+  friend class TCustomForm;
+  friend class TControl;
+  static LRESULT CALLBACK StaticWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void SetMainFormIfNone(TCustomForm* form);
+  bool Dispatch(MSG& message);
+  void Idle();
+  void TrackMouse();
+  void Notification(TComponent* component, TOperation operation) override;
+
+  HWND FHandle = nullptr;
+  TCustomForm* FMainForm = nullptr;
+  TControl* FMouseControl = nullptr;
+  std::unique_ptr<TIcon> FIcon;
+  std::unique_ptr<THintControl> FHints;
+  std::string FHint;
+  int FExitCode = 0;
+  bool FShowHint = true;
+  bool FActive = false;
+};
+
+/// The program's application; made at the first call.
+VCL_API TApplication* Application();
+
+}  // namespace vcl

@@ -1,0 +1,60 @@
+// Drag and drop between the controls of a program.
+#pragma once
+
+#include <memory>
+
+#include "host/vcl/control.h"
+
+namespace vcl {
+
+/// What is dragged. A control that is dragged without one of its own is dragged itself: handlers get
+/// the control as their source. An object that OnStartDrag gives is freed at the end of the drag,
+/// after OnEndDrag.
+class VCL_API TDragObject : public TObject {
+ public:
+  explicit TDragObject(TControl* control) : FControl(control) {}
+  TControl* Control() const { return FControl; }
+  /// The pointer shown while the object is over a control that takes it, or does not.
+  virtual TCursor GetDragCursor(bool accepted, int x, int y);
+
+ private:
+  TControl* FControl;
+};
+
+/// The one drag that can be under way. It captures the mouse with a window of its own, asks the
+/// control under the mouse (OnDragOver) and ends with a drop, a refusal, or Escape.
+class VCL_API TDragSession {
+ public:
+  /// The drag under way; null when there is none.
+  static TDragSession* Current();
+  /// Begins to drag; see TControl::BeginDrag.
+  static void Begin(TControl* control, bool immediate, int threshold);
+  static void End(bool drop);
+  /// Ends the drag without a drop when it has to do with the control, which is being freed.
+  static void Forget(TControl* control);
+
+  TControl* Control() const { return FControl; }
+  ~TDragSession();
+
+ private:
+  explicit TDragSession(TControl* control);
+  static LRESULT CALLBACK WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void Start();
+  void MoveTo(TPoint screen);
+  void Finish(bool drop);
+  TObject* Source() const;
+  bool AskTarget(TDragState state);
+
+  HWND FWindow = nullptr;
+  TControl* FControl;
+  TControl* FTarget = nullptr;
+  TDragObject* FObject = nullptr;
+  bool FOwnsObject = false;
+  bool FStarted = false;
+  bool FAccepted = false;
+  TPoint FStart;
+  TPoint FPosition;
+  int FThreshold = 0;
+};
+
+}  // namespace vcl

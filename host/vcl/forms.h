@@ -1,0 +1,163 @@
+// TCustomForm and TForm: the windows of an application, made from form files.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "host/vcl/wincontrol.h"
+
+namespace vcl {
+
+class TMainMenu;
+
+enum TBorderStyle { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bsSizeToolWin };
+template <>
+inline constexpr TEnumText EnumText<TBorderStyle>{
+    "TFormBorderStyle", "bsNone bsSingle bsSizeable bsDialog bsToolWindow bsSizeToolWin"};
+enum TBorderIcon { biSystemMenu, biMinimize, biMaximize, biHelp };
+template <>
+inline constexpr TEnumText EnumText<TBorderIcon>{
+    "TBorderIcon", "biSystemMenu biMinimize biMaximize biHelp", "TBorderIcons"};
+using TBorderIcons = TSet<TBorderIcon>;
+enum TFormStyle { fsNormal, fsStayOnTop };
+template <>
+inline constexpr TEnumText EnumText<TFormStyle>{"TFormStyle", "fsNormal fsStayOnTop"};
+enum TPosition { poDesigned, poDefault, poDefaultPosOnly, poDefaultSizeOnly, poScreenCenter };
+template <>
+inline constexpr TEnumText EnumText<TPosition>{
+    "TPosition", "poDesigned poDefault poDefaultPosOnly poDefaultSizeOnly poScreenCenter"};
+enum TWindowState { wsNormal, wsMinimized, wsMaximized };
+template <>
+inline constexpr TEnumText EnumText<TWindowState>{"TWindowState",
+                                                  "wsNormal wsMinimized wsMaximized"};
+/// What closing a form does with it.
+enum TCloseAction { caNone, caHide, caFree, caMinimize };
+
+using TCloseEvent = TEvent<TObject*, TCloseAction&>;
+using TCloseQueryEvent = TEvent<TObject*, bool&>;
+template <>
+inline constexpr const char* EventName<TCloseEvent> = "TCloseEvent";
+template <>
+inline constexpr const char* EventName<TCloseQueryEvent> = "TCloseQueryEvent";
+
+/// A window of the application. A form class made with a designer lists its fields and handlers in
+/// its table and calls `LoadForm` in its constructor:
+///
+///     TMainForm::TMainForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+class VCL_API TCustomForm : public TWinControl {
+ public:
+  explicit TCustomForm(TComponent* owner);
+  /// Fires OnDestroy if `Close` or `Release` has not ended the form otherwise; frees its components.
+  ~TCustomForm() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  /// Closes the form as a user would: asks CloseQuery and OnClose. Closing the main form ends the
+  /// application.
+  void Close();
+  /// True when the form and OnCloseQuery agree to close.
+  virtual bool CloseQuery();
+  /// Frees the form once the message in hand is done, which is safe in the form's own handlers.
+  void Release();
+  /// Shows the form and returns when it is closed or gets a ModalResult; the other forms are disabled
+  /// meanwhile. Raises EInvalidOperation for a form that is visible, disabled or modal already.
+  int ShowModal();
+  TModalResult ModalResult() const { return FModalResult; }
+  void SetModalResult(TModalResult result) { FModalResult = result; }
+  bool Modal() const { return FModal; }
+
+  bool Active() const { return FActive; }
+  TWinControl* ActiveControl() const { return FActiveControl; }
+  /// The control that has the focus while the form is active. Raises EInvalidOperation for one that is
+  /// not on the form or cannot have it.
+  void SetActiveControl(TWinControl* control);
+  void FocusControl(TWinControl* control);
+  void DefocusControl(TWinControl* control);
+
+  TBorderStyle BorderStyle() const { return FBorderStyle; }
+  void SetBorderStyle(TBorderStyle style);
+  TBorderIcons BorderIcons() const { return FBorderIcons; }
+  void SetBorderIcons(TBorderIcons icons);
+  TFormStyle FormStyle() const { return FFormStyle; }
+  void SetFormStyle(TFormStyle style);
+  TPosition Position() const { return FPosition; }
+  void SetPosition(TPosition position);
+  TWindowState WindowState() const;
+  void SetWindowState(TWindowState state);
+  bool KeyPreview() const { return FKeyPreview; }
+  /// The form's key events come before its controls'.
+  void SetKeyPreview(bool keyPreview) { FKeyPreview = keyPreview; }
+  TIcon* Icon() const { return FIcon.get(); }
+  void SetIcon(const TIcon* icon);
+  TMainMenu* Menu() const { return FMenu; }
+  void SetMenu(TMainMenu* menu);
+  TCanvas* Canvas() const;
+  /// A picture of the form as it stands on the screen or would.
+  std::unique_ptr<TBitmap> GetFormImage();
+
+  void SetVisible(bool visible) override;
+  void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
+  TComponent* GetChildOwner() override { return nullptr; }
+
+  TNotifyEvent OnCreate, OnDestroy, OnShow, OnHide, OnActivate, OnDeactivate, OnPaint;
+  TCloseEvent OnClose;
+  TCloseQueryEvent OnCloseQuery;
+
+ protected:
+  /// Reads the form from the resource that is named after its class, in the given module or the
+  /// executable, and fires OnCreate. Raises EResNotFound, and what reading a form file raises.
+  void LoadForm(HINSTANCE module = nullptr);
+
+  void CreateParams(TCreateParams& params) override;
+  void CreateWnd() override;
+  void Dispatch(TMessage& message) override;
+  void PaintWindow(HDC dc) override;
+  void Notification(TComponent* component, TOperation operation) override;
+  void Loaded() override;
+  void UpdateShowing() override;
+  void SetClientSize(int width, int height) override;
+  virtual void DoClose(TCloseAction& action);
+  virtual void DoShow();
+  virtual void DoHide();
+  virtual void Activate();
+  virtual void Deactivate();
+
+ private:
+  friend class TApplication;
+  friend class TScreen;
+  friend class TWinControl;
+  void WMSysCommand(TMessage& message);
+  bool DialogKey(TMessage& message);
+  bool DialogChar(TMessage& message);
+  void SetWindowFocus();
+  void SetActive(bool active);
+  void PlaceOnScreen();
+  void CloseModal();
+
+  TBorderStyle FBorderStyle = bsSizeable;
+  TBorderIcons FBorderIcons{biSystemMenu, biMinimize, biMaximize};
+  TFormStyle FFormStyle = fsNormal;
+  TPosition FPosition = poDesigned;
+  TWindowState FWindowState = wsNormal;
+  TModalResult FModalResult = mrNone;
+  bool FModal = false;
+  bool FActive = false;
+  bool FKeyPreview = false;
+  bool FCreated = false;
+  int FClientWidth = -1;   // As a form file gives it, until the window exists.
+  int FClientHeight = -1;
+  TWinControl* FActiveControl = nullptr;
+  TMainMenu* FMenu = nullptr;
+  std::unique_ptr<TIcon> FIcon;
+  std::unique_ptr<TControlCanvas> FCanvas;
+};
+
+/// A form as applications derive theirs from.
+class VCL_API TForm : public TCustomForm {
+ public:
+  explicit TForm(TComponent* owner) : TCustomForm(owner) {}
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+};
+
+}  // namespace vcl

@@ -1,0 +1,66 @@
+// TScreen: the screen's size, the forms of the program, and the mouse pointer.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/rtl/component.h"
+#include "host/vcl/controltypes.h"
+#include "host/vcl/types.h"
+
+namespace vcl {
+
+class TCustomForm;
+class TStrings;
+class TWinControl;
+
+class VCL_API TScreen : public TComponent {
+ public:
+  explicit TScreen(TComponent* owner);
+  ~TScreen() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  /// The primary monitor's size in pixels.
+  int Width() const;
+  int Height() const;
+  /// The part of the primary monitor that is not the taskbar's.
+  TRect WorkAreaRect() const;
+  /// The part of the monitor nearest to the point that is not the taskbar's.
+  TRect WorkAreaRect(TPoint nearest) const;
+  int PixelsPerInch() const;
+
+  int FormCount() const { return static_cast<int>(FForms.size()); }
+  /// The form at the index from 0, in order of making. Raises EListError outside.
+  TCustomForm* Forms(int index) const;
+  TCustomForm* ActiveForm() const { return FActiveForm; }
+  TWinControl* ActiveControl() const { return FActiveControl; }
+
+  /// The pointer shown over all of the program's windows; crDefault: each control's own.
+  TCursor Cursor() const { return FCursor; }
+  void SetCursor(TCursor cursor);
+  /// The system's handle for a pointer.
+  HCURSOR Cursors(TCursor cursor) const;
+  /// Makes a pointer known under a number of the application's own (above 0), or replaces one.
+  void SetCursors(TCursor cursor, HCURSOR handle);
+
+  TNotifyEvent OnActiveFormChange, OnActiveControlChange;
+
+ private:
+  friend class TCustomForm;
+  void AddForm(TCustomForm* form) { FForms.push_back(form); }
+  void RemoveForm(TCustomForm* form);
+  void SetActive(TCustomForm* form, TWinControl* control);
+
+  std::vector<TCustomForm*> FForms;
+  TCustomForm* FActiveForm = nullptr;
+  TWinControl* FActiveControl = nullptr;
+  TCursor FCursor = crDefault;
+  std::map<int, HCURSOR> FCursors;
+};
+
+/// The program's screen; made at the first call.
+VCL_API TScreen* Screen();
+
+}  // namespace vcl
