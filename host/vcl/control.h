@@ -194,7 +194,6 @@ class VCL_API TControl : public TComponent {
   bool IsFontStored() const { return !FParentFont; }
   bool IsColorStored() const { return !FParentColor; }
   bool IsShowHintStored() const { return !FParentShowHint; }
-  bool IsCaptionStored() const { return true; }
 
  private:
   friend class TWinControl;
@@ -204,9 +203,10 @@ class VCL_API TControl : public TComponent {
   void Notify(UINT notice);
   void MouseButtonDown(TMessage& message, TMouseButton button, TShiftState extra);
   void MouseButtonUp(TMessage& message, TMouseButton button);
+  bool DispatchMouse(TMessage& message);
   void DispatchNotice(TMessage& message);
+  void FollowParent();
   void InvalidateArea(bool visible, bool opaque);
-  bool BackgroundClipped() const;
   void PopupMenuAt(TMessage& message);
 
   TWinControl* FParent = nullptr;

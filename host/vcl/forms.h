@@ -129,6 +129,9 @@ class VCL_API TCustomForm : public TWinControl {
   void WMSysCommand(TMessage& message);
   bool DialogKey(TMessage& message);
   bool DialogChar(TMessage& message);
+  /// The system has given the control the focus: keeps it as the active one and sends CM_EXIT and
+  /// CM_ENTER along the way there. Called by TWinControl.
+  void SetFocusedControl(TWinControl* control);
   void SetWindowFocus();
   void SetActive(bool active);
   void PlaceOnScreen();
