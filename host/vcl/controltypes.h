@@ -55,6 +55,12 @@ VCL_API std::optional<std::int64_t> IdentToCursor(std::string_view ident);
 template <>
 inline constexpr TIntegerText IntegerText<TCursor>{"TCursor", &CursorToIdent, &IdentToCursor};
 
+/// A window's border: forms have all of them, other controls the first two.
+enum TBorderStyle { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bsSizeToolWin };
+template <>
+inline constexpr TEnumText EnumText<TBorderStyle>{
+    "TFormBorderStyle", "bsNone bsSingle bsSizeable bsDialog bsToolWindow bsSizeToolWin"};
+
 /// What a modal form answers.
 enum TModalResult : std::int32_t {
   mrNone = 0,

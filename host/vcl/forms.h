@@ -10,10 +10,6 @@ namespace vcl {
 
 class TMainMenu;
 
-enum TBorderStyle { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bsSizeToolWin };
-template <>
-inline constexpr TEnumText EnumText<TBorderStyle>{
-    "TFormBorderStyle", "bsNone bsSingle bsSizeable bsDialog bsToolWindow bsSizeToolWin"};
 enum TBorderIcon { biSystemMenu, biMinimize, biMaximize, biHelp };
 template <>
 inline constexpr TEnumText EnumText<TBorderIcon>{

@@ -67,7 +67,7 @@ class VCL_API TWinControl : public TControl {
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
 
   // Focus and tab order.
-  bool Focused() const;
+  virtual bool Focused() const;
   /// True when the control and its parents are visible and enabled.
   virtual bool CanFocus() const;
   /// Raises EInvalidOperation when the control cannot have the focus.
