@@ -1,11 +1,7 @@
 # How a test's executable is started where it can't just be run.
 if(WIN32 AND CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
-  set(arch win32)
-  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
-    set(arch win64)
-  endif()
   set(CMAKE_CROSSCOMPILING_EMULATOR
-      ${PROJECT_SOURCE_DIR}/tools/wine-run ${arch} ${PROJECT_BINARY_DIR}/wineprefix)
+      ${PROJECT_SOURCE_DIR}/tools/wine-run ${QEL_WINDOWS} ${PROJECT_BINARY_DIR}/wineprefix)
 endif()
 cmake_path(GET PROJECT_BINARY_DIR FILENAME QEL_BUILD_NAME)
 

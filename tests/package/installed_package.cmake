@@ -1,0 +1,43 @@
+# Installs the build in BUILD_DIR below WORK_DIR, builds APPLICATION_DIR against what was installed
+# and runs it. The ZIP must hold the same files.
+set(installed ${WORK_DIR}/installed)
+set(built ${WORK_DIR}/application)
+file(REMOVE_RECURSE ${WORK_DIR})
+file(MAKE_DIRECTORY ${WORK_DIR})
+
+function(run)
+  execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${WORK_DIR} RESULT_VARIABLE status
+                  OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  if(NOT status EQUAL 0)
+    string(JOIN " " command ${ARGN})
+    message(FATAL_ERROR "${command}\nended with ${status}:\n${output}")
+  endif()
+  set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+function(list_files result folder)
+  file(GLOB_RECURSE files RELATIVE ${folder} ${folder}/*)
+  list(SORT files)
+  set(${result} "${files}" PARENT_SCOPE)
+endfunction()
+
+run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${installed})
+
+run(${CMAKE_CPACK_COMMAND} -G ZIP --config ${BUILD_DIR}/CPackConfig.cmake -B ${WORK_DIR}/zip)
+file(GLOB zip ${WORK_DIR}/zip/*.zip)
+cmake_path(GET zip STEM LAST_ONLY top)
+run(${CMAKE_COMMAND} -E tar xf ${zip})
+list_files(expected ${installed})
+list_files(packed ${WORK_DIR}/${top})
+if(NOT packed STREQUAL expected)
+  message(FATAL_ERROR "${zip} holds\n${packed}\nand the installation\n${expected}")
+endif()
+
+run(${CMAKE_COMMAND} -S ${APPLICATION_DIR} -B ${built} -G Ninja
+    -D CMAKE_TOOLCHAIN_FILE=${TOOLCHAIN} -D CMAKE_PREFIX_PATH=${installed}
+    -D CMAKE_BUILD_TYPE=Release)
+run(${CMAKE_COMMAND} --build ${built})
+run(${EMULATOR} ${built}/application.exe)
+if(NOT output MATCHES "apple,pear")
+  message(FATAL_ERROR "The application wrote\n${output}")
+endif()
