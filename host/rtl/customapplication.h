@@ -1,0 +1,46 @@
+// What units without a window need of the application they run in.
+#pragma once
+
+#include <exception>
+#include <string>
+
+#include "host/rtl/component.h"
+
+namespace vcl {
+
+/// The application, as far as it needs no window: a console program or a test has one of these, a
+/// program with forms a TApplication.
+class VCL_API TCustomApplication : public TComponent {
+ public:
+  /// Becomes what `BaseApplication` returns until it is destroyed, unless there is one already.
+  explicit TCustomApplication(TComponent* owner);
+  ~TCustomApplication() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  /// The application's name as the user sees it; the executable's name until it is set.
+  virtual std::string Title() const;
+  virtual void SetTitle(const std::string& title) { FTitle = title; }
+  /// The full name of the executable.
+  std::string ExeName() const;
+  /// Handles all waiting messages of the calling thread's queue. Here: nothing waits.
+  virtual void ProcessMessages() {}
+  /// Shows the error to the user; shows nothing for EAbort. Here: one line on standard error. Never
+  /// raises.
+  virtual void HandleException(TObject* sender, const std::exception& error);
+  /// Shows a text in a box and returns the button's number as the system's MessageBox does. Here: the
+  /// text goes to standard error and the answer is 1 (OK).
+  virtual int MessageBox(const std::string& text, const std::string& caption, int flags);
+  /// True when the program has been asked to end.
+  bool Terminated() const { return FTerminated; }
+  virtual void Terminate() { FTerminated = true; }
+
+ private:
+  std::string FTitle;
+  bool FTerminated = false;
+};
+
+/// The application; made at the first call when the program has made none.
+VCL_API TCustomApplication& BaseApplication();
+
+}  // namespace vcl

@@ -1,0 +1,32 @@
+// The binary form of a form file: the signature and the sorts of values.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace vcl {
+
+/// The four bytes that a form file's binary form begins with.
+inline constexpr std::string_view FormSignature = "TPF0";
+
+/// The byte in front of each value of a form file's binary form.
+enum class TValueType : std::uint8_t {
+  vaNull = 0,        ///< The end of a list.
+  vaList = 1,        ///< Values up to the next vaNull.
+  vaInt8 = 2,
+  vaInt16 = 3,
+  vaInt32 = 4,
+  vaString = 6,      ///< A length byte and as many bytes.
+  vaIdent = 7,       ///< The same, for an enumeration's value, a component's or a handler's name.
+  vaFalse = 8,
+  vaTrue = 9,
+  vaBinary = 10,     ///< A 32-bit count and as many bytes.
+  vaSet = 11,        ///< Identifiers (length byte and bytes), ended by an empty one.
+  vaLString = 12,    ///< A 32-bit length and as many bytes.
+  vaNil = 13,        ///< A reference to nothing.
+  vaCollection = 14, ///< Items, each a vaList of properties; ended by a vaNull.
+  vaInt64 = 19,
+  vaDouble = 21,
+};
+
+}  // namespace vcl

@@ -1,0 +1,68 @@
+#include "host/rtl/properties.h"
+
+#include "host/rtl/exceptions.h"
+#include "host/rtl/text.h"
+
+namespace vcl {
+namespace {
+
+/// The alternative of TValue that a kind's values are of.
+std::size_t ValueIndex(TTypeKind kind) {
+  switch (kind) {
+    case TTypeKind::Float:
+      return 1;
+    case TTypeKind::String:
+      return 2;
+    case TTypeKind::Class:
+    case TTypeKind::Component:
+    case TTypeKind::Collection:
+      return 3;
+    default:
+      return 0;
+  }
+}
+
+void CheckOrdinal(const TPropInfo& prop, std::int64_t value) {
+  if (value >= prop.Type->Min && value <= prop.Type->Max) return;
+  throw EPropertyError(Concat(std::to_string(value), " is not a value of ", prop.Name, ": ",
+                              prop.TypeName()));
+}
+
+void CheckClass(const TPropInfo& prop, const TObject* value) {
+  if (!value || value->InheritsFrom(prop.Type->ClassOf())) return;
+  throw EPropertyError(Concat("A ", value->ClassName(), " cannot be the value of ", prop.Name,
+                              ": ", prop.TypeName()));
+}
+
+}  // namespace
+
+const TTypeInfo& detail::EventTypeInfo() {
+  static const TTypeInfo info{TTypeKind::Event, "TEvent"};
+  return info;
+}
+
+TClassEntry TClassEntry::Stored(bool stored) && {
+  FStored = stored ? TPropInfo::TStored::Always : TPropInfo::TStored::Never;
+  return std::move(*this);
+}
+
+void TPropInfo::Set(TObject& object, const TValue& value) const {
+  if (!Setter) throw EPropertyError(Concat("Property ", Name, " is read-only"));
+  if (value.index() != ValueIndex(Kind())) {
+    throw EPropertyError(Concat("Property ", Name, " takes no such value: it is a ",
+                                KindName(Kind())));
+  }
+  if (value.index() == 0) CheckOrdinal(*this, std::get<0>(value));
+  if (value.index() == 3) CheckClass(*this, std::get<3>(value));
+  Setter(object, value);
+}
+
+bool TPropInfo::NeedsWriting(const TObject& object) const {
+  if (IsEvent() || ReadOnly() || Stored == TStored::Never) return false;
+  if (Stored == TStored::Asked && !AskStored(object)) return false;
+  const TValue value = Get(object);
+  if (const auto* reference = std::get_if<TObject*>(&value)) return *reference != nullptr;
+  return !DefaultValue || *DefaultValue != value;
+}
+
+}  // namespace vcl

@@ -1,0 +1,72 @@
+// TReader: makes components from a form file in its binary form.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "host/rtl/filer.h"
+#include "host/rtl/formformat.h"
+
+namespace vcl {
+
+class TCollection;
+class TComponent;
+class TPersistent;
+class TPropInfo;
+
+/// Reads a form file. All methods raise EReadError, with the offset (and the line, when the file
+/// came from a text) and what was wrong, for what they cannot read.
+class VCL_API TReader : public TFiler {
+ public:
+  /// Reads from the stream's position on; the stream must outlive the reader.
+  explicit TReader(TStream& stream);
+  ~TReader() override;
+
+  /// Tells the line of the text that the byte at an offset came from; 0 when it is not known. Set
+  /// for a file that was converted from text, so that errors can name the line.
+  void SetLineOf(std::function<int(std::int64_t offset)> lineOf);
+
+  /// Reads the file's root into `root`, or into a new component of the file's class when it is null
+  /// (then the caller owns it), and everything in it; fills the fields of the root's class, binds
+  /// its events, resolves references, and calls Loaded on all. When anything fails, all that the
+  /// reader made is freed before the exception leaves.
+  TComponent* ReadRootComponent(TComponent* root);
+  /// Reads components until the end of the list into the given owner and parent, as a designer's
+  /// paste does, and hands each that stands at the outermost level to `made`.
+  void ReadComponents(TComponent* owner, TComponent* parent,
+                      const std::function<void(TComponent*)>& made);
+
+  /// Reads a component's published and defined properties; for overriders of
+  /// TComponent::ReadState.
+  void ReadData(TComponent* component);
+
+  void DefineProperty(const std::string& name, const TReaderProc& read, const TWriterProc& write,
+                      bool hasData) override;
+  void DefineBinaryProperty(const std::string& name, const TStreamProc& read,
+                            const TStreamProc& write, bool hasData) override;
+
+  /// The sort of the next value, which stays unread.
+  TValueType NextValue();
+  std::int64_t ReadInteger();
+  bool ReadBoolean();
+  double ReadFloat();
+  std::string ReadString();
+  std::string ReadIdent();
+  char32_t ReadChar();
+  void ReadListBegin();
+  void ReadListEnd();
+  bool EndOfList();
+  /// Reads a whole collection into `collection`, whose items it replaces.
+  void ReadCollection(TCollection& collection);
+
+  /// The root of the file being read.
+  TComponent* Root() const;
+
+ private:
+  struct TImpl;
+  std::unique_ptr<TImpl> FImpl;
+};
+
+}  // namespace vcl

@@ -1,0 +1,30 @@
+// Small operations on texts: comparison without case, trimming, splitting.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "host/rtl/api.h"
+
+namespace vcl {
+
+/// True when the texts are equal but for the case of the letters A to Z, which is how identifiers
+/// and names in form files are compared.
+VCL_API bool SameText(std::string_view a, std::string_view b);
+/// Negative, zero or positive as SameText's ordering of the two goes.
+VCL_API int CompareText(std::string_view a, std::string_view b);
+/// The text with A to Z in capitals.
+VCL_API std::string UpperCase(std::string_view text);
+/// The text without white space and control characters at both ends.
+VCL_API std::string_view Trim(std::string_view text);
+/// True for a letter or "_" followed by letters, digits and "_".
+VCL_API bool IsValidIdent(std::string_view text);
+/// The pieces joined; what a message is put together with.
+template <class... Pieces>
+std::string Concat(const Pieces&... pieces) {
+  std::string text;
+  (text.append(pieces), ...);
+  return text;
+}
+
+}  // namespace vcl

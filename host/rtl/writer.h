@@ -1,0 +1,55 @@
+// TWriter: writes components into a form file in its binary form.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "host/rtl/filer.h"
+#include "host/rtl/formformat.h"
+
+namespace vcl {
+
+class TCollection;
+class TComponent;
+class TPersistent;
+
+class VCL_API TWriter : public TFiler {
+ public:
+  /// Writes from the stream's position on; the stream must outlive the writer.
+  explicit TWriter(TStream& stream);
+  ~TWriter() override;
+
+  /// Writes the component, everything that it shows inside itself, and the signature in front.
+  void WriteRootComponent(TComponent* root);
+  /// Writes one component inside `root`'s file, as a designer's copy does.
+  void WriteComponent(TComponent* component, TComponent* root);
+  /// Writes a component's published and defined properties and its children; for overriders of
+  /// TComponent::WriteState.
+  void WriteData(TComponent* component);
+
+  void DefineProperty(const std::string& name, const TReaderProc& read, const TWriterProc& write,
+                      bool hasData) override;
+  void DefineBinaryProperty(const std::string& name, const TStreamProc& read,
+                            const TStreamProc& write, bool hasData) override;
+
+  void WriteInteger(std::int64_t value);
+  void WriteBoolean(bool value);
+  void WriteFloat(double value);
+  void WriteString(std::string_view value);
+  void WriteIdent(std::string_view ident);
+  void WriteChar(char32_t value);
+  void WriteListBegin();
+  void WriteListEnd();
+  void WriteCollection(TCollection& collection);
+
+  /// The root of the file being written.
+  TComponent* Root() const;
+
+ private:
+  struct TImpl;
+  std::unique_ptr<TImpl> FImpl;
+};
+
+}  // namespace vcl
