@@ -16,7 +16,9 @@ const TClass& TComponent::Class() {
       "TComponent", "component",
       {
           // The name stands in the heading of the component's part of the file.
-          Property<&TComponent::Name, &TComponent::SetName>("Name").Type("TComponentName").Stored(false),
+          Property<&TComponent::Name, &TComponent::SetName>("Name")
+              .Type("TComponentName")
+              .Stored(false),
           Property<&TComponent::Tag, &TComponent::SetTag>("Tag").Default(0),
       });
   return info;
@@ -51,7 +53,8 @@ void TComponent::AnnounceEnd() {
 
 void TComponent::MarkDestroying() {
   Include(csDestroying);
-  for (TComponent* component : FComponents) component->MarkDestroying();
+  for (TComponent* component : FComponents)
+    component->MarkDestroying();
 }
 
 void TComponent::SetName(const std::string& name) {
@@ -119,12 +122,14 @@ void TComponent::RemoveComponent(TComponent* component) {
 }
 
 void TComponent::DestroyComponents() {
-  while (!FComponents.empty()) delete FComponents.back();
+  while (!FComponents.empty())
+    delete FComponents.back();
 }
 
 void TComponent::SetDesigning(bool designing) {
   designing ? Include(csDesigning) : Exclude(csDesigning);
-  for (TComponent* component : FComponents) component->SetDesigning(designing);
+  for (TComponent* component : FComponents)
+    component->SetDesigning(designing);
 }
 
 void TComponent::FreeNotification(TComponent* component) {
@@ -178,7 +183,8 @@ TWatch::~TWatch() {
   if (!FComponent) return;
   // Watches end in the opposite order of their making, save across coroutines, which nobody uses.
   TWatch** link = &FComponent->FWatches;
-  while (*link != this) link = &(*link)->FNext;
+  while (*link != this)
+    link = &(*link)->FNext;
   *link = FNext;
 }
 

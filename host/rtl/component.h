@@ -90,6 +90,8 @@ class VCL_API TComponent : public TPersistent {
   /// file's own root.
   virtual TComponent* GetChildOwner() { return nullptr; }
   virtual TComponent* GetChildParent() { return this; }
+  /// Puts a component that a form file shows inside this one at a place among its siblings, from 0.
+  virtual void SetChildOrder(TComponent* /*child*/, int /*order*/) {}
 
  protected:
   /// A component is being added to or freed from this one, its owner, or one it asked about.

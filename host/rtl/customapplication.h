@@ -40,7 +40,7 @@ class VCL_API TCustomApplication : public TComponent {
   bool FTerminated = false;
 };
 
-/// The application; made at the first call when the program has made none.
+/// The application. While the program has made none, one that stands in for it.
 VCL_API TCustomApplication& BaseApplication();
 
 }  // namespace vcl

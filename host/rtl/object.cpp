@@ -45,7 +45,8 @@ bool TObject::InheritsFrom(const TClass& ancestor) const {
 TClass::TClass(std::string name, std::string unit, const TClass* parent, TMaker maker,
                std::vector<TClassEntry> entries)
     : FName(std::move(name)), FUnit(std::move(unit)), FParent(parent), FMaker(maker) {
-  for (TClassEntry& entry : entries) Add(std::move(entry));
+  for (TClassEntry& entry : entries)
+    Add(std::move(entry));
 }
 
 TClass::TClass(TClass&&) noexcept = default;
@@ -58,8 +59,8 @@ void TClass::Add(TClassEntry entry) {
   if (entry.Sort == Sort::Inherit) {
     const TPropInfo* inherited = FParent ? FParent->FindDescribed(entry.Prop.Name) : nullptr;
     if (!inherited) {
-      throw EPropertyError(Concat(FName, " publishes ", entry.Prop.Name,
-                                  ", which no ancestor describes"));
+      throw EPropertyError(
+          Concat(FName, " publishes ", entry.Prop.Name, ", which no ancestor describes"));
     }
     entry.Prop = Redeclared(*inherited, entry);
   } else if (entry.FStored) {
@@ -70,12 +71,14 @@ void TClass::Add(TClassEntry entry) {
 
 bool TClass::InheritsFrom(const TClass& ancestor) const {
   const TClass* each = this;
-  while (each && each != &ancestor) each = each->Parent();
+  while (each && each != &ancestor)
+    each = each->Parent();
   return each != nullptr;
 }
 
 std::vector<const TPropInfo*> TClass::Published() const {
-  std::vector<const TPropInfo*> all = FParent ? FParent->Published() : std::vector<const TPropInfo*>{};
+  std::vector<const TPropInfo*> all =
+      FParent ? FParent->Published() : std::vector<const TPropInfo*>{};
   for (const TPropInfo& own : FPublished) {
     const auto same = std::ranges::find_if(
         all, [&](const TPropInfo* info) { return SameText(info->Name, own.Name); });

@@ -24,14 +24,14 @@ std::size_t ValueIndex(TTypeKind kind) {
 
 void CheckOrdinal(const TPropInfo& prop, std::int64_t value) {
   if (value >= prop.Type->Min && value <= prop.Type->Max) return;
-  throw EPropertyError(Concat(std::to_string(value), " is not a value of ", prop.Name, ": ",
-                              prop.TypeName()));
+  throw EPropertyError(
+      Concat(std::to_string(value), " is not a value of ", prop.Name, ": ", prop.TypeName()));
 }
 
 void CheckClass(const TPropInfo& prop, const TObject* value) {
   if (!value || value->InheritsFrom(prop.Type->ClassOf())) return;
-  throw EPropertyError(Concat("A ", value->ClassName(), " cannot be the value of ", prop.Name,
-                              ": ", prop.TypeName()));
+  throw EPropertyError(Concat("A ", value->ClassName(), " cannot be the value of ", prop.Name, ": ",
+                              prop.TypeName()));
 }
 
 }  // namespace
@@ -49,17 +49,20 @@ TClassEntry TClassEntry::Stored(bool stored) && {
 void TPropInfo::Set(TObject& object, const TValue& value) const {
   if (!Setter) throw EPropertyError(Concat("Property ", Name, " is read-only"));
   if (value.index() != ValueIndex(Kind())) {
-    throw EPropertyError(Concat("Property ", Name, " takes no such value: it is a ",
-                                KindName(Kind())));
+    throw EPropertyError(
+        Concat("Property ", Name, " takes no such value: it is a ", KindName(Kind())));
   }
   if (value.index() == 0) CheckOrdinal(*this, std::get<0>(value));
   if (value.index() == 3) CheckClass(*this, std::get<3>(value));
   Setter(object, value);
 }
 
+bool TPropInfo::IsStored(const TObject& object) const {
+  return Stored == TStored::Asked ? AskStored(object) : Stored == TStored::Always;
+}
+
 bool TPropInfo::NeedsWriting(const TObject& object) const {
-  if (IsEvent() || ReadOnly() || Stored == TStored::Never) return false;
-  if (Stored == TStored::Asked && !AskStored(object)) return false;
+  if (IsEvent() || ReadOnly() || !IsStored(object)) return false;
   const TValue value = Get(object);
   if (const auto* reference = std::get_if<TObject*>(&value)) return *reference != nullptr;
   return !DefaultValue || *DefaultValue != value;

@@ -57,6 +57,8 @@ class VCL_API TPropInfo {
   /// Sets the value as code would. Raises EPropertyError for a read-only property, an ordinal
   /// outside the type's range, or a value of another sort.
   void Set(TObject& object, const TValue& value) const;
+  /// True when form files may hold the property of this object.
+  bool IsStored(const TObject& object) const;
   /// True when a form file would hold the property of this object: it is stored, and has no
   /// declared default or differs from it. Says nothing of an object's own properties.
   bool NeedsWriting(const TObject& object) const;

@@ -13,8 +13,6 @@ namespace vcl {
 
 class TCollection;
 class TComponent;
-class TPersistent;
-class TPropInfo;
 
 /// Reads a form file. All methods raise EReadError, with the offset (and the line, when the file
 /// came from a text) and what was wrong, for what they cannot read.
@@ -28,13 +26,19 @@ class VCL_API TReader : public TFiler {
   /// for a file that was converted from text, so that errors can name the line.
   void SetLineOf(std::function<int(std::int64_t offset)> lineOf);
 
-  /// Reads the file's root into `root`, or into a new component of the file's class when it is null
+  /// Reads the file's root into `root`, whatever class the file gives it, or into a new component of the file's class when it is null
   /// (then the caller owns it), and everything in it; fills the fields of the root's class, binds
-  /// its events, resolves references, and calls Loaded on all. When anything fails, all that the
-  /// reader made is freed before the exception leaves.
+  /// its events, resolves references, and calls Loaded on all, the root first and then in the file's
+  /// order. A root that is being designed has its events named and not bound. When anything fails, all
+  /// that the reader made is freed before the exception leaves.
+  ///
+  /// What a property's setter raises leaves as an EReadError with the place; EClassNotFound and EAbort
+  /// leave as they are.
   TComponent* ReadRootComponent(TComponent* root);
-  /// Reads components until the end of the list into the given owner and parent, as a designer's
-  /// paste does, and hands each that stands at the outermost level to `made`.
+  /// Reads components, each with the signature in front, until the end of the stream or of the list
+  /// into the given owner and parent, as a designer's paste does, and hands each that stands at the
+  /// outermost level to `made` when all are whole. One whose name is taken gets another; references
+  /// to components that are not there stay empty. When anything fails, none is left.
   void ReadComponents(TComponent* owner, TComponent* parent,
                       const std::function<void(TComponent*)>& made);
 
@@ -63,6 +67,8 @@ class VCL_API TReader : public TFiler {
 
   /// The root of the file being read.
   TComponent* Root() const;
+  /// The class that the file gives its root; a designer's root is of another.
+  const std::string& RootClassName() const;
 
  private:
   struct TImpl;

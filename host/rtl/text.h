@@ -1,6 +1,7 @@
 // Small operations on texts: comparison without case, trimming, splitting.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,10 @@ VCL_API std::string UpperCase(std::string_view text);
 VCL_API std::string_view Trim(std::string_view text);
 /// True for a letter or "_" followed by letters, digits and "_".
 VCL_API bool IsValidIdent(std::string_view text);
+/// The character in UTF-8; empty for a number that is no character.
+VCL_API std::string Utf8(char32_t character);
+/// The character that the text consists of; nothing when it is not exactly one in UTF-8.
+VCL_API std::optional<char32_t> OnlyCharacter(std::string_view text);
 /// The pieces joined; what a message is put together with.
 template <class... Pieces>
 std::string Concat(const Pieces&... pieces) {

@@ -6,9 +6,9 @@
 namespace vcl {
 
 std::string_view KindName(TTypeKind kind) {
-  static constexpr std::string_view names[] = {"integer", "enumeration", "set",        "char",
-                                               "string",  "float",       "color",      "class",
-                                               "component", "collection", "event", "boolean"};
+  static constexpr std::string_view names[] = {"integer",   "enumeration", "set",   "char",
+                                               "string",    "float",       "color", "class",
+                                               "component", "collection",  "event", "boolean"};
   return names[static_cast<int>(kind)];
 }
 

@@ -1,0 +1,28 @@
+// What the library asks of the operating system, each with one implementation per system.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace vcl::os {
+
+/// What `OpenFile` returns when the system refuses; LastErrorText says why.
+inline constexpr std::intptr_t NoFile = -1;
+
+/// Opens a file with TFileStream's modes.
+std::intptr_t OpenFile(const std::string& name, int mode);
+void CloseFile(std::intptr_t file);
+/// These return -1 when the system refuses.
+std::int64_t ReadFile(std::intptr_t file, void* buffer, std::int64_t count);
+std::int64_t WriteFile(std::intptr_t file, const void* buffer, std::int64_t count);
+/// Moves to an offset from the beginning (0), the position (1) or the end (2).
+std::int64_t SeekFile(std::intptr_t file, std::int64_t offset, int origin);
+std::int64_t SizeOfFile(std::intptr_t file);
+bool SetSizeOfFile(std::intptr_t file, std::int64_t size);
+
+/// The system's words for the calling thread's last failure.
+std::string LastErrorText();
+/// The full name of the running program.
+std::string ExeName();
+
+}  // namespace vcl::os

@@ -1,0 +1,71 @@
+#include "host/rtl/os.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include "host/rtl/streams.h"
+
+namespace vcl::os {
+namespace {
+
+constexpr int NewFileRights = 0666;
+
+int Flags(int mode) {
+  if (mode == fmCreate) return O_RDWR | O_CREAT | O_TRUNC;
+  static constexpr int access[] = {O_RDONLY, O_WRONLY, O_RDWR, O_RDWR};
+  return access[mode & 3];
+}
+
+int Descriptor(std::intptr_t file) { return static_cast<int>(file); }
+
+}  // namespace
+
+std::intptr_t OpenFile(const std::string& name, int mode) {
+  const int file = open(name.c_str(), Flags(mode) | O_CLOEXEC, NewFileRights);
+  if (file < 0) return NoFile;
+  // The system opens folders for reading; nothing can be read from them.
+  struct stat status {};
+  if (fstat(file, &status) == 0 && !S_ISDIR(status.st_mode)) return file;
+  close(file);
+  errno = EISDIR;
+  return NoFile;
+}
+
+void CloseFile(std::intptr_t file) { close(Descriptor(file)); }
+
+std::int64_t ReadFile(std::intptr_t file, void* buffer, std::int64_t count) {
+  return read(Descriptor(file), buffer, static_cast<std::size_t>(count));
+}
+
+std::int64_t WriteFile(std::intptr_t file, const void* buffer, std::int64_t count) {
+  return write(Descriptor(file), buffer, static_cast<std::size_t>(count));
+}
+
+std::int64_t SeekFile(std::intptr_t file, std::int64_t offset, int origin) {
+  static constexpr int whence[] = {SEEK_SET, SEEK_CUR, SEEK_END};
+  return lseek(Descriptor(file), offset, whence[origin]);
+}
+
+std::int64_t SizeOfFile(std::intptr_t file) {
+  struct stat status {};
+  return fstat(Descriptor(file), &status) == 0 ? status.st_size : -1;
+}
+
+bool SetSizeOfFile(std::intptr_t file, std::int64_t size) {
+  return ftruncate(Descriptor(file), size) == 0;
+}
+
+std::string LastErrorText() { return std::generic_category().message(errno); }
+
+std::string ExeName() {
+  std::error_code failed;
+  return std::filesystem::read_symlink("/proc/self/exe", failed).string();
+}
+
+}  // namespace vcl::os
