@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/rtl/customapplication.h"
 #include "host/vcl/controltypes.h"
@@ -35,6 +36,9 @@ inline constexpr const char* EventName<TMessageEvent> = "TMessageEvent";
 ///       Application()->CreateForm<TMainForm>();
 ///       return Application()->Run();
 ///     }
+///
+/// The application has a window of its own, without a size: it carries the taskbar's button, and it
+/// owns the forms' windows, so that minimising it takes them all off the screen.
 class VCL_API TApplication : public TCustomApplication {
  public:
   explicit TApplication(TComponent* owner);
@@ -45,6 +49,8 @@ class VCL_API TApplication : public TCustomApplication {
   /// Prepares the process: common controls, icon, title.
   void Initialize();
   /// Makes a form, owned by the application; the first one is the main form.
+  ///
+  /// The application frees its forms (and fires their OnDestroy) when `Run` ends.
   template <class TheForm>
   TheForm* CreateForm() {
     auto* form = new TheForm(this);
@@ -52,7 +58,8 @@ class VCL_API TApplication : public TCustomApplication {
     return form;
   }
   TCustomForm* MainForm() const { return FMainForm; }
-  /// Shows the main form and handles messages until the program ends. Returns its exit code.
+  /// Shows the main form, handles messages until the program is asked to end, and frees the forms that
+  /// the application owns, the last one first. Returns the exit code. Run again, it begins anew.
   int Run();
   /// Handles one waiting message; false when none waits.
   bool ProcessMessage();
@@ -68,18 +75,23 @@ class VCL_API TApplication : public TCustomApplication {
   void HandleException(TObject* sender, const std::exception& error) override;
   /// Like HandleException, for the exception being handled in a catch block, whatever its type.
   void HandleCurrentException(TObject* sender);
+  /// Shows the error's text in a box. An error that arrives while a box is up waits for its end.
   void ShowException(const std::exception& error);
   /// A box in front of the active window; see the system's MessageBox for the flags and the answer.
   int MessageBox(const std::string& text, const std::string& caption, int flags) override;
 
-  /// The application's own window, hidden, which owns the boxes when no form is there.
+  /// The application's own window, which owns the forms, and the boxes when no form is there.
   HWND Handle();
   void SetTitle(const std::string& title) override;
   TIcon* Icon() const { return FIcon.get(); }
   bool Active() const { return FActive; }
+  /// Minimises the application and takes its forms off the screen; does nothing when it is so.
   void Minimize();
   void Restore();
+  /// Activates the last active form or box.
   void BringToFront();
+  /// No longer refers to the control, which is being freed.
+  void ControlGone(TControl* control);
 
   // Hints.
   /// Raises and lowers hints as the mouse moves; see hints.h.
@@ -89,7 +101,7 @@ class VCL_API TApplication : public TCustomApplication {
   /// The hint of the control under the mouse, as a status bar shows it.
   const std::string& Hint() const { return FHint; }
   void SetHint(const std::string& hint);
-  void CancelHint();
+  void CancelHint() { FHints->Cancel(); }
 
   TExceptionEvent OnException;
   TIdleEvent OnIdle;
@@ -100,12 +112,25 @@ class VCL_API TApplication : public TCustomApplication {
 
  private:
   friend class TCustomForm;
-  friend class TControl;
   static LRESULT CALLBACK StaticWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT WndProc(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT SysCommand(WPARAM wParam, LPARAM lParam);
+  void CreateHandle();
   void SetMainFormIfNone(TCustomForm* form);
-  bool Dispatch(MSG& message);
+  void FreeForms();
+  /// Frees the form when the message in hand is done.
+  void FreeLater(TCustomForm* form);
+  void FreeReleased(TCustomForm* form);
+  /// Shows the taskbar's button while a form is shown.
+  void UpdateTaskbar();
+  void IconChanged(TObject* sender);
+  void SetActive(bool active);
+  void Dispatch(MSG& message);
+  bool PreprocessInput(MSG& message);
   void Idle();
-  void TrackMouse();
+  void TrackMouse(const MSG* message);
+  void SetMouseControl(TControl* control);
+  void TellForms(UINT notice);
   void Notification(TComponent* component, TOperation operation) override;
 
   HWND FHandle = nullptr;
@@ -117,9 +142,14 @@ class VCL_API TApplication : public TCustomApplication {
   int FExitCode = 0;
   bool FShowHint = true;
   bool FActive = false;
+  bool FHasRun = false;
+  bool FShowingError = false;
+  std::vector<std::string> FWaitingErrors;
 };
 
-/// The program's application; made at the first call.
+/// The program's application; made at the first call. It lives as long as the process.
 VCL_API TApplication* Application();
+/// True when the application has been made.
+VCL_API bool HasApplication();
 
 }  // namespace vcl

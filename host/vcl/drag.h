@@ -22,14 +22,19 @@ class VCL_API TDragObject : public TObject {
 };
 
 /// The one drag that can be under way. It captures the mouse with a window of its own, asks the
-/// control under the mouse (OnDragOver) and ends with a drop, a refusal, or Escape.
-class VCL_API TDragSession {
+/// control under the mouse (OnDragOver) and ends with a drop, a refusal, or Escape. The order of
+/// events: OnStartDrag; on each control that the mouse comes to OnDragOver with dsDragEnter, dsDragMove
+/// and dsDragLeave; OnDragDrop on the target that has accepted; OnEndDrag.
+class VCL_API TDragSession : public std::enable_shared_from_this<TDragSession> {
  public:
   /// The drag under way; null when there is none.
   static TDragSession* Current();
   /// Begins to drag; see TControl::BeginDrag.
   static void Begin(TControl* control, bool immediate, int threshold);
+  /// Ends the drag under way, if there is one.
   static void End(bool drop);
+  /// Takes a key message that is for the drag: Escape ends it.
+  static bool HandleKey(const MSG& message);
   /// Ends the drag without a drop when it has to do with the control, which is being freed.
   static void Forget(TControl* control);
 
@@ -39,18 +44,26 @@ class VCL_API TDragSession {
  private:
   explicit TDragSession(TControl* control);
   static LRESULT CALLBACK WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void Capture();
+  void HandleMessage(UINT message);
   void Start();
+  void MouseMoved();
   void MoveTo(TPoint screen);
+  void ChangeTarget(TControl* target);
+  void AskTarget(TDragState state);
   void Finish(bool drop);
+  void Drop();
+  void TellSource(bool dropped);
   TObject* Source() const;
-  bool AskTarget(TDragState state);
 
   HWND FWindow = nullptr;
   TControl* FControl;
   TControl* FTarget = nullptr;
   TDragObject* FObject = nullptr;
-  bool FOwnsObject = false;
+  std::unique_ptr<TDragObject> FOwnObject;
+  bool FObjectIsOwn = false;
   bool FStarted = false;
+  bool FFinished = false;
   bool FAccepted = false;
   TPoint FStart;
   TPoint FPosition;

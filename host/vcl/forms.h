@@ -40,10 +40,14 @@ inline constexpr const char* EventName<TCloseQueryEvent> = "TCloseQueryEvent";
 /// its table and calls `LoadForm` in its constructor:
 ///
 ///     TMainForm::TMainForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+///
+/// OnDestroy reaches a form's own handlers while the form is whole when it ends by `Free`: closed with
+/// caFree, by `Release`, or at the end of `TApplication::Run`. A plain `delete` of a form whose
+/// handlers are methods of its own class fires nothing: the class's part is gone by then.
 class VCL_API TCustomForm : public TWinControl {
  public:
   explicit TCustomForm(TComponent* owner);
-  /// Fires OnDestroy if `Close` or `Release` has not ended the form otherwise; frees its components.
+  /// Frees the form's controls and components.
   ~TCustomForm() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
@@ -53,6 +57,8 @@ class VCL_API TCustomForm : public TWinControl {
   void Close();
   /// True when the form and OnCloseQuery agree to close.
   virtual bool CloseQuery();
+  /// Fires OnDestroy and deletes the form. Not for the form's own handlers: see `Release`.
+  void Free();
   /// Frees the form once the message in hand is done, which is safe in the form's own handlers.
   void Release();
   /// Shows the form and returns when it is closed or gets a ModalResult; the other forms are disabled
@@ -65,10 +71,14 @@ class VCL_API TCustomForm : public TWinControl {
   bool Active() const { return FActive; }
   TWinControl* ActiveControl() const { return FActiveControl; }
   /// The control that has the focus while the form is active. Raises EInvalidOperation for one that is
-  /// not on the form or cannot have it.
+  /// not on the form, or cannot have it while the form is shown.
   void SetActiveControl(TWinControl* control);
+  /// The same, and activates the form.
   void FocusControl(TWinControl* control);
+  /// Gives up an active control that is the given one or inside it.
   void DefocusControl(TWinControl* control);
+  void SetFocus() override;
+  bool CanFocus() const override;
 
   TBorderStyle BorderStyle() const { return FBorderStyle; }
   void SetBorderStyle(TBorderStyle style);
@@ -93,7 +103,8 @@ class VCL_API TCustomForm : public TWinControl {
 
   void SetVisible(bool visible) override;
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
-  TComponent* GetChildOwner() override { return nullptr; }
+  TRect ClientRect() const override;
+  void WndProc(TMessage& message) override;
 
   TNotifyEvent OnCreate, OnDestroy, OnShow, OnHide, OnActivate, OnDeactivate, OnPaint;
   TCloseEvent OnClose;
@@ -106,11 +117,12 @@ class VCL_API TCustomForm : public TWinControl {
 
   void CreateParams(TCreateParams& params) override;
   void CreateWnd() override;
+  void DestroyWnd() override;
   void Dispatch(TMessage& message) override;
+  void WMPaint(TMessage& message) override;
   void PaintWindow(HDC dc) override;
   void Notification(TComponent* component, TOperation operation) override;
   void Loaded() override;
-  void UpdateShowing() override;
   void SetClientSize(int width, int height) override;
   virtual void DoClose(TCloseAction& action);
   virtual void DoShow();
@@ -122,16 +134,41 @@ class VCL_API TCustomForm : public TWinControl {
   friend class TApplication;
   friend class TScreen;
   friend class TWinControl;
+  friend class TMainMenu;
+  // Making and ending.
+  void BeforeDestruction();
+  void Created();
+  // Messages.
+  bool DispatchToMenu(TMessage& message);
+  bool DispatchWindow(TMessage& message);
+  void WMActivate(TMessage& message);
+  void WMSize(TMessage& message);
   void WMSysCommand(TMessage& message);
   bool DialogKey(TMessage& message);
-  bool DialogChar(TMessage& message);
+  bool MoveByTab();
+  bool MoveByArrow(WPARAM key);
   /// The system has given the control the focus: keeps it as the active one and sends CM_EXIT and
   /// CM_ENTER along the way there. Called by TWinControl.
   void SetFocusedControl(TWinControl* control);
+  bool LeaveTo(TWinControl* control);
+  bool EnterTo(TWinControl* control);
   void SetWindowFocus();
   void SetActive(bool active);
+  // Showing.
+  void ShowingChanged();
+  void ShowWindowNow();
+  void HideWindowNow();
   void PlaceOnScreen();
+  void ShowAsAsked();
+  bool StoredVisible() const;
+  // Modal.
+  void CheckCanShowModal() const;
+  void RunModal();
   void CloseModal();
+  // The window's look.
+  void UpdateMenu();
+  void UpdateIcon();
+  RECT BorderWidths() const;
 
   TBorderStyle FBorderStyle = bsSizeable;
   TBorderIcons FBorderIcons{biSystemMenu, biMinimize, biMaximize};
@@ -143,9 +180,13 @@ class VCL_API TCustomForm : public TWinControl {
   bool FActive = false;
   bool FKeyPreview = false;
   bool FCreated = false;
-  int FClientWidth = -1;   // As a form file gives it, until the window exists.
+  bool FDestroyed = false;
+  bool FReleased = false;
+  bool FVisibleAsked = false;  // What a form file or a designer says, until the form may be shown.
+  int FClientWidth = -1;       // As a form file gives it, until the whole file is read.
   int FClientHeight = -1;
   TWinControl* FActiveControl = nullptr;
+  TWinControl* FFocusedControl = nullptr;  // Where CM_ENTER has been sent to last.
   TMainMenu* FMenu = nullptr;
   std::unique_ptr<TIcon> FIcon;
   std::unique_ptr<TControlCanvas> FCanvas;

@@ -83,16 +83,21 @@ class VCL_API THintControl {
 
  private:
   static void CALLBACK TimerProc(HWND window, UINT message, UINT_PTR id, DWORD time);
+  void Enter(TControl* control);
   void StartTimer(int milliseconds);
   void StopTimer();
   void Elapsed();
   void ShowFor(TControl* control);
+  bool Ask(THintInfo& info);
+  void Show(const THintInfo& info);
   void Hide();
 
   std::unique_ptr<THintWindow> FWindow;
   TControl* FControl = nullptr;
   TControl* FShown = nullptr;
   TRect FCursorRect;
+  TPoint FMouse;
+  bool FCancelled = false;
   UINT_PTR FTimer = 0;
 };
 

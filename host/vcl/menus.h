@@ -3,14 +3,15 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "host/rtl/component.h"
-#include "host/vcl/graphics.h"
-#include "host/vcl/win32.h"
+#include "host/vcl/controltypes.h"
+#include "host/vcl/messages.h"
 
 namespace vcl {
 
@@ -21,6 +22,8 @@ class TMenu;
 enum TShortCut : std::uint16_t { scNone = 0, scShift = 0x2000, scCtrl = 0x4000, scAlt = 0x8000 };
 template <>
 inline constexpr TIntegerText IntegerText<TShortCut>{"TShortCut"};
+/// The shortcut of a key (VK_...) with ssShift, ssCtrl and ssAlt.
+VCL_API TShortCut ShortCut(std::uint16_t key, TShiftState shift);
 /// "Ctrl+S" and the like; empty for no shortcut.
 VCL_API std::string ShortCutToText(TShortCut shortCut);
 /// The shortcut that the text says; scNone for one that says none.
@@ -62,8 +65,9 @@ class VCL_API TMenuItem : public TComponent {
   void Add(TMenuItem* item) { Insert(Count(), item); }
   /// Raises EInvalidOperation for an item that is in a menu already, EListError for the index.
   void Insert(int index, TMenuItem* item);
-  /// Takes the item out without freeing it.
+  /// Takes the item out without freeing it. Raises EInvalidOperation for one that is not here.
   void Remove(TMenuItem* item);
+  /// The same for the item at the index. Raises EListError outside.
   void Delete(int index);
   /// Frees the items inside.
   void Clear();
@@ -88,11 +92,17 @@ class VCL_API TMenuItem : public TComponent {
 
  private:
   friend class TMenu;
+  friend class TMainMenu;
+  template <class T>
+  void Change(T& field, const T& value);
   void Changed();
-  void Rebuild();
-  void DestroyHandle();
+  void ItemsChanged();
+  void Fill();
   void AppendTo(HMENU menu);
-  void UncheckGroup();
+  void ClearSiblings(bool TMenuItem::*flag, bool sameGroup);
+  TMenuItem* Find(const std::function<bool(const TMenuItem&)>& wanted);
+  bool EnabledWithParents() const;
+  bool ChosenByKey();
 
   std::string FCaption;
   std::string FHint;
@@ -118,8 +128,8 @@ class VCL_API TMenu : public TComponent {
   const TClass& ClassType() const override { return Class(); }
 
   /// The invisible item that holds the menu's items.
-  TMenuItem* Items() const { return FItems; }
-  virtual HMENU Handle();
+  TMenuItem* Items() const { return FItems.get(); }
+  HMENU Handle() { return FItems->Handle(); }
   /// The item of that command number resp. shortcut; null when there is none.
   TMenuItem* FindItem(std::uint16_t command) const;
   TMenuItem* FindShortCut(TShortCut shortCut) const;
@@ -127,47 +137,56 @@ class VCL_API TMenu : public TComponent {
   bool DispatchCommand(std::uint16_t command);
   /// Clicks the item whose shortcut the key message says; false when there is none.
   bool IsShortCut(const MSG& key);
+  /// Does what a window that shows the menu must do with a message of it: chooses the item of a
+  /// WM_COMMAND, clicks a submenu that opens, gives an item's hint to the application. True when the
+  /// message was of this menu.
+  bool HandleMessage(const TMessage& message);
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
 
  protected:
   friend class TMenuItem;
+  /// Makes the system's empty menu. The inherited method makes one that comes up.
+  virtual HMENU CreateHandle() const;
   /// Called after the items have changed.
   virtual void MenuChanged() {}
 
  private:
-  TMenuItem* FItems;
+  bool ShowHintOf(const TMessage& select);
+
+  std::unique_ptr<TMenuItem> FItems;
 };
 
 /// The menu bar of a form (`TCustomForm::SetMenu`).
 class VCL_API TMainMenu : public TMenu {
  public:
   explicit TMainMenu(TComponent* owner);
+  ~TMainMenu() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
-  HMENU Handle() override;
-  void SetForm(TCustomForm* form) { FForm = form; }
 
  protected:
+  HMENU CreateHandle() const override;
   void MenuChanged() override;
 
  private:
-  TCustomForm* FForm = nullptr;
+  friend class TCustomForm;
+  TCustomForm* FForm = nullptr;  // Which shows the menu.
 };
 
 /// A menu that comes up at the mouse.
 class VCL_API TPopupMenu : public TMenu {
  public:
   explicit TPopupMenu(TComponent* owner);
+  ~TPopupMenu() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
-  HMENU Handle() override;
 
   /// Shows the menu at the position on the screen and clicks what the user chooses; returns when
   /// the menu is gone.
   virtual void Popup(int x, int y);
   /// The control (or other component) that the menu was last brought up for.
   TComponent* PopupComponent() const { return FPopupComponent; }
-  void SetPopupComponent(TComponent* component) { FPopupComponent = component; }
+  void SetPopupComponent(TComponent* component);
   bool AutoPopup() const { return FAutoPopup; }
   /// Comes up by itself when a control with this menu is right-clicked.
   void SetAutoPopup(bool autoPopup) { FAutoPopup = autoPopup; }
@@ -181,5 +200,8 @@ class VCL_API TPopupMenu : public TMenu {
   TComponent* FPopupComponent = nullptr;
   bool FAutoPopup = true;
 };
+
+/// Makes menus and their items known to form files.
+VCL_API void RegisterMenuClasses();
 
 }  // namespace vcl

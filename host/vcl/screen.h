@@ -7,12 +7,13 @@
 
 #include "host/rtl/component.h"
 #include "host/vcl/controltypes.h"
+#include "host/vcl/handles.h"
 #include "host/vcl/types.h"
 
 namespace vcl {
 
+class TControl;
 class TCustomForm;
-class TStrings;
 class TWinControl;
 
 class VCL_API TScreen : public TComponent {
@@ -36,6 +37,9 @@ class VCL_API TScreen : public TComponent {
   TCustomForm* Forms(int index) const;
   TCustomForm* ActiveForm() const { return FActiveForm; }
   TWinControl* ActiveControl() const { return FActiveControl; }
+  /// The topmost visible control of the program at the position on the screen, in a window of its own
+  /// or not; null when there is none. Disabled ones count only when `allowDisabled`.
+  TControl* ControlAt(TPoint position, bool allowDisabled) const;
 
   /// The pointer shown over all of the program's windows; crDefault: each control's own.
   TCursor Cursor() const { return FCursor; }
@@ -43,12 +47,15 @@ class VCL_API TScreen : public TComponent {
   /// The system's handle for a pointer.
   HCURSOR Cursors(TCursor cursor) const;
   /// Makes a pointer known under a number of the application's own (above 0), or replaces one.
+  /// The screen takes the handle over. Raises EArgumentOutOfRangeException for other numbers.
   void SetCursors(TCursor cursor, HCURSOR handle);
 
   TNotifyEvent OnActiveFormChange, OnActiveControlChange;
 
  private:
   friend class TCustomForm;
+  friend class TApplication;
+  bool HasForm(const TCustomForm* form) const;
   void AddForm(TCustomForm* form) { FForms.push_back(form); }
   void RemoveForm(TCustomForm* form);
   void SetActive(TCustomForm* form, TWinControl* control);
@@ -57,10 +64,10 @@ class VCL_API TScreen : public TComponent {
   TCustomForm* FActiveForm = nullptr;
   TWinControl* FActiveControl = nullptr;
   TCursor FCursor = crDefault;
-  std::map<int, HCURSOR> FCursors;
+  mutable std::map<int, TOwned<HCURSOR, &::DestroyCursor>> FCursors;
 };
 
-/// The program's screen; made at the first call.
+/// The program's screen; made at the first call. It lives as long as the process.
 VCL_API TScreen* Screen();
 
 }  // namespace vcl
