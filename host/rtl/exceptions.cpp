@@ -23,6 +23,7 @@ EReadError::~EReadError() = default;
 EWriteError::~EWriteError() = default;
 EClassNotFound::~EClassNotFound() = default;
 EParserError::~EParserError() = default;
+EInvalidGraphic::~EInvalidGraphic() = default;
 EResNotFound::~EResNotFound() = default;
 
 }  // namespace vcl

@@ -61,6 +61,8 @@ VCL_EXCEPTION(EWriteError, EFilerError);
 VCL_EXCEPTION(EClassNotFound, EFilerError);
 /// A text form file that is malformed; names the line.
 VCL_EXCEPTION(EParserError, Exception);
+/// A picture that is damaged, cut off, of an unknown kind or of an impossible size; says which.
+VCL_EXCEPTION(EInvalidGraphic, Exception);
 /// A resource that the module does not hold.
 VCL_EXCEPTION(EResNotFound, Exception);
 
