@@ -1,0 +1,86 @@
+#include "host/designintf/package.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/designintf/palette.h"
+#include "host/rtl/classregistry.h"
+#include "host/rtl/os.h"
+#include "host/rtl/text.h"
+#include "host/vcl/win32.h"
+#include "host/vcl/windowtext.h"
+
+namespace vcl {
+namespace {
+
+template <class Proc>
+Proc EntryPoint(void* module, const char* name) {
+  const FARPROC found = ::GetProcAddress(static_cast<HMODULE>(module), name);
+  return reinterpret_cast<Proc>(reinterpret_cast<void*>(found));
+}
+
+bool LiesIn(const void* module, const TClass* aClass) {
+  HMODULE holder = nullptr;
+  ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                           GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<LPCSTR>(aClass), &holder);
+  return holder == module;
+}
+
+}  // namespace
+
+EPackageError::~EPackageError() = default;
+
+TPackage::TPackage(const std::string& fileName) : FFileName(fileName) {
+  // Its own folder is searched for the DLLs that it needs.
+  FModule = ::LoadLibraryExW(ToUtf16(fileName).c_str(), nullptr,
+                             fileName.find_first_of("/\\") == std::string::npos
+                                 ? 0
+                                 : LOAD_WITH_ALTERED_SEARCH_PATH);
+  if (!FModule) {
+    throw EPackageError(
+        Concat("The package ", fileName, " cannot be loaded: ", os::LastErrorText()));
+  }
+  try {
+    Register();
+  } catch (const std::exception& error) {
+    TakeBack();
+    throw EPackageError(Concat("The package ", fileName, " cannot be registered: ", error.what()));
+  } catch (...) {
+    TakeBack();
+    throw EPackageError(Concat("The package ", fileName, " cannot be registered"));
+  }
+}
+
+TPackage::~TPackage() { TakeBack(); }
+
+void TPackage::Register() {
+  const auto proc = EntryPoint<TRegisterProc>(FModule, "Register");
+  if (!proc) throw EPackageError("it has no entry point named Register");
+  proc();
+}
+
+void TPackage::TakeBack() {
+  const auto ours = [this](const TClass* each) { return LiesIn(FModule, each); };
+  std::erase_if(detail::Palette(), [&](const TPaletteEntry& entry) {
+    return std::ranges::any_of(entry.Classes, ours);
+  });
+  for (const TClass* each : RegisteredClasses()) {
+    if (ours(each)) UnRegisterClass(*each);
+  }
+  ::FreeLibrary(static_cast<HMODULE>(std::exchange(FModule, nullptr)));
+}
+
+std::vector<const TClass*> TPackage::Classes() const {
+  std::vector<const TClass*> classes;
+  const auto list = EntryPoint<TListClassesProc>(FModule, "ListClasses");
+  if (!list) return classes;
+  list(
+      [](const TClass& aClass, void* context) {
+        static_cast<std::vector<const TClass*>*>(context)->push_back(&aClass);
+      },
+      &classes);
+  return classes;
+}
+
+}  // namespace vcl

@@ -1,0 +1,39 @@
+// qelref: loads the package as a form designer does and prints the reference of its classes.
+#include <cstdio>
+#include <exception>
+#include <string>
+
+#include "host/designintf/package.h"
+#include "host/rtl/customapplication.h"
+#include "tools/qelref/reference.h"
+
+namespace {
+
+/// The package lies beside the program, wherever the program is started from.
+std::string PackageFile() {
+  const std::string program = vcl::BaseApplication().ExeName();
+  return program.substr(0, program.find_last_of("/\\") + 1) + "qel.dll";
+}
+
+int Usage() {
+  std::fputs("qelref --json | --markdown [PACKAGE]\n", stderr);
+  return 2;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::string format = argc > 1 ? argv[1] : "";
+  if ((format != "--json" && format != "--markdown") || argc > 3) return Usage();
+  try {
+    const vcl::TPackage package(argc > 2 ? argv[2] : PackageFile());
+    const auto classes = qelref::ReferenceOf(package);
+    const std::string text =
+        format == "--json" ? qelref::ToJson(classes) : qelref::ToMarkdown(classes);
+    if (std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0) return 1;
+    return 0;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "qelref: %s\n", error.what());
+    return 1;
+  }
+}
