@@ -11,6 +11,7 @@
 
 namespace vcl {
 
+class TIcon;
 struct TDib;
 
 /// The depth of a bitmap's pixels. pfDevice is what the screen has; pf15bit keeps 5 bits a channel,
@@ -97,15 +98,18 @@ class VCL_API TBitmap : public TGraphic {
  protected:
   void ReadData(TStream& stream) override;
   void WriteData(TStream& stream) const override;
-  void Changed() override;
 
  private:
   class TBitmapCanvas;
-  /// The pixels as a plain image resp. the image as the new pixels.
   TDib ToDib() const;
-  void FromDib(const TDib& dib, TPixelFormat format);
+  /// Makes the picture the bitmap's own; until the new pixels are there the old ones stay.
   void Adopt(const TDib& dib, TPixelFormat format);
-  void Clear();
+  /// Adopts what was read, at its own depth.
+  void Load(const TDib& dib);
+  void AssignIcon(const TIcon& icon);
+  TOwnedBitmap Resized(int width, int height);
+  void Replace(TOwnedBitmap handle, int width, int height);
+  /// The canvas lets go of the handle, which then can be selected elsewhere.
   void LetGo() const;
 
   TOwnedBitmap FHandle;

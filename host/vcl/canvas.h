@@ -130,9 +130,12 @@ class VCL_API TCanvas : public TPersistent {
     unsigned Version = 0;
     HGDIOBJ Former = nullptr;
   };
-  class TDrawing;
 
+  /// The device context with what a drawing needs selected in it.
   HDC Required(unsigned needs);
+  /// Draws, between the two announcements.
+  template <class F>
+  void Paint(unsigned needs, F draw);
   template <class H, class T>
   bool Select(TUsed<H>& used, const T& object);
   template <class H>
@@ -164,7 +167,7 @@ class VCL_API TOnDemandCanvas : public TCanvas {
   virtual void ReleaseContext(HDC dc) = 0;
 
  private:
-  bool FOwnsHandle = false;
+  HDC FOwned = nullptr;
 };
 
 /// Lets go of every device context that a canvas got on demand, of controls and of bitmaps. Called

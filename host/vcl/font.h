@@ -74,7 +74,7 @@ class VCL_API TFont : public TGraphicsObject {
  private:
   /// The look has changed: the handle is given up.
   void Remake();
-  LOGFONTA Describe() const;
+  LOGFONTA LogFont() const;
 
   std::string FName = "Tahoma";
   int FHeight;

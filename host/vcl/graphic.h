@@ -48,6 +48,8 @@ class VCL_API TGraphic : public TPersistent {
   virtual void ReadData(TStream& stream);
   virtual void WriteData(TStream& stream) const;
   virtual void Changed();
+  /// Sets Transparent as part of a greater change, which is announced by who makes it.
+  void AssignTransparent(bool transparent) { FTransparent = transparent; }
 
  private:
   bool FTransparent = false;

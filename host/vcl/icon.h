@@ -44,6 +44,8 @@ class VCL_API TIcon : public TGraphic {
   void LoadFromResourceName(HINSTANCE instance, const std::string& name);
 
  private:
+  TSize Wanted() const;
+
   std::vector<unsigned char> FFile;  ///< What it was read from; empty when it came as a handle.
   TSize FWanted;
   mutable TOwnedIcon FHandle;

@@ -70,7 +70,7 @@ class VCL_API TImageList : public TComponent {
   void CheckStrip(const TBitmap* image) const;
   int Added(int index);
   void DrawDisabled(TCanvas* canvas, int x, int y, int index);
-  void FreeHandle();
+  void Replace(HIMAGELIST handle, int width, int height);
 
   mutable HIMAGELIST FHandle = nullptr;
   int FWidth = 16;
