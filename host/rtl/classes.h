@@ -9,6 +9,7 @@
 #include "host/rtl/events.h"
 #include "host/rtl/exceptions.h"
 #include "host/rtl/filer.h"
+#include "host/rtl/formfile.h"
 #include "host/rtl/properties.h"
 #include "host/rtl/reader.h"
 #include "host/rtl/streams.h"

@@ -198,21 +198,11 @@ std::string_view TFormInput::ReadBinary() {
 }
 
 void TFormInput::SkipValue() {
-  const TLevel level(*this);
   switch (const TValueType sort = NextValue()) {
     case TValueType::vaList:
-      for (++FPosition; !EndOfList();)
-        SkipValue();
-      return Take(TValueType::vaNull);
+      return SkipList();
     case TValueType::vaCollection:
-      for (++FPosition; !EndOfList(); Take(TValueType::vaNull)) {
-        Take(TValueType::vaList);
-        while (!EndOfList()) {
-          ReadName();
-          SkipValue();
-        }
-      }
-      return Take(TValueType::vaNull);
+      return SkipCollection();
     case TValueType::vaInt8:
     case TValueType::vaInt16:
     case TValueType::vaInt32:
@@ -237,6 +227,27 @@ void TFormInput::SkipValue() {
       FMark = FPosition;
       FailSort("a value", sort);
   }
+}
+
+void TFormInput::SkipList() {
+  const TLevel level(*this);
+  Take(TValueType::vaList);
+  while (!EndOfList()) SkipValue();
+  Take(TValueType::vaNull);
+}
+
+void TFormInput::SkipCollection() {
+  const TLevel level(*this);
+  Take(TValueType::vaCollection);
+  while (!EndOfList()) {
+    Take(TValueType::vaList);
+    while (!EndOfList()) {
+      ReadName();
+      SkipValue();
+    }
+    Take(TValueType::vaNull);
+  }
+  Take(TValueType::vaNull);
 }
 
 TFormInput::TLevel::TLevel(TFormInput& input) : FInput(input) {

@@ -84,6 +84,8 @@ class TFormInput {
   std::string ShortText() { return std::string(Bytes(Byte())); }
   std::string_view LongText() { return Bytes(Number<std::uint32_t>()); }
   TValueType TakeSort();
+  void SkipList();
+  void SkipCollection();
   [[noreturn]] void FailSort(std::string_view wanted, TValueType found) const;
 
   TStream& FStream;

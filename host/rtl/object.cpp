@@ -29,6 +29,17 @@ TPropInfo Redeclared(const TPropInfo& inherited, TClassEntry& entry) {
   return info;
 }
 
+/// A whole number may be declared as a float's default; any other value of a wrong sort is a
+/// mistake.
+void CheckDefault(const std::string& className, TPropInfo& prop) {
+  if (!prop.DefaultValue) return;
+  const auto* whole = std::get_if<std::int64_t>(&*prop.DefaultValue);
+  if (whole && prop.Kind() == TTypeKind::Float) prop.DefaultValue = static_cast<double>(*whole);
+  if (prop.DefaultValue->index() == prop.ValueIndex()) return;
+  throw EPropertyError(Concat("The default of ", className, ".", prop.Name,
+                              " is no value of its type: ", prop.TypeName()));
+}
+
 }  // namespace
 
 const TClass& TObject::Class() {
@@ -66,6 +77,7 @@ void TClass::Add(TClassEntry entry) {
   } else if (entry.FStored) {
     entry.Prop.Stored = *entry.FStored;
   }
+  CheckDefault(FName, entry.Prop);
   (entry.FUnpublished ? FUnpublished : FPublished).push_back(std::move(entry.Prop));
 }
 

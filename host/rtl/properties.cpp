@@ -6,22 +6,6 @@
 namespace vcl {
 namespace {
 
-/// The alternative of TValue that a kind's values are of.
-std::size_t ValueIndex(TTypeKind kind) {
-  switch (kind) {
-    case TTypeKind::Float:
-      return 1;
-    case TTypeKind::String:
-      return 2;
-    case TTypeKind::Class:
-    case TTypeKind::Component:
-    case TTypeKind::Collection:
-      return 3;
-    default:
-      return 0;
-  }
-}
-
 void CheckOrdinal(const TPropInfo& prop, std::int64_t value) {
   if (value >= prop.Type->Min && value <= prop.Type->Max) return;
   throw EPropertyError(
@@ -46,9 +30,24 @@ TClassEntry TClassEntry::Stored(bool stored) && {
   return std::move(*this);
 }
 
+std::size_t TPropInfo::ValueIndex() const {
+  switch (Kind()) {
+    case TTypeKind::Float:
+      return 1;
+    case TTypeKind::String:
+      return 2;
+    case TTypeKind::Class:
+    case TTypeKind::Component:
+    case TTypeKind::Collection:
+      return 3;
+    default:
+      return 0;
+  }
+}
+
 void TPropInfo::Set(TObject& object, const TValue& value) const {
   if (!Setter) throw EPropertyError(Concat("Property ", Name, " is read-only"));
-  if (value.index() != ValueIndex(Kind())) {
+  if (value.index() != ValueIndex()) {
     throw EPropertyError(
         Concat("Property ", Name, " takes no such value: it is a ", KindName(Kind())));
   }

@@ -52,6 +52,8 @@ class VCL_API TPropInfo {
   std::string_view TypeName() const { return Alias.empty() ? Type->Name() : Alias; }
   bool IsEvent() const { return EventOf != nullptr; }
   bool ReadOnly() const { return Setter == nullptr; }
+  /// The alternative of TValue that the property's values are of.
+  std::size_t ValueIndex() const;
   /// The current value. Not for events.
   TValue Get(const TObject& object) const { return Getter(object); }
   /// Sets the value as code would. Raises EPropertyError for a read-only property, an ordinal

@@ -29,7 +29,13 @@ void TReader::SetLineOf(std::function<int(std::int64_t offset)> lineOf) {
 
 TComponent* TReader::ReadRootComponent(TComponent* root) {
   TComponent* read = nullptr;
-  FImpl->AllOrNothing([&] { read = FImpl->ReadRoot(root); });
+  FImpl->AllOrNothing([&] { read = FImpl->ReadRoot(root, false); });
+  return read;
+}
+
+TComponent* TReader::ReadRootFile(TComponent* root) {
+  TComponent* read = nullptr;
+  FImpl->AllOrNothing([&] { read = FImpl->ReadRoot(root, true); });
   return read;
 }
 
@@ -93,7 +99,7 @@ void TReader::TImpl::Forget() {
   Input.Context.clear();
 }
 
-TComponent* TReader::TImpl::ReadRoot(TComponent* root) {
+TComponent* TReader::TImpl::ReadRoot(TComponent* root, bool toTheEnd) {
   Input.ReadSignature();
   const TFormHeading heading = Input.ReadHeading();
   RootClassName = heading.ClassName;
@@ -106,6 +112,7 @@ TComponent* TReader::TImpl::ReadRoot(TComponent* root) {
   Owner = Root;
   Parent = Root;
   ReadBody(Root);
+  if (toTheEnd && !Input.AtEnd()) Input.FailAt(Input.Position(), "more stands behind the root");
   ResolveReferences(true);
   Input.Finish();
   TReaderPart& part = Parts.front();

@@ -35,6 +35,8 @@ class VCL_API TReader : public TFiler {
   /// What a property's setter raises leaves as an EReadError with the place; EClassNotFound and EAbort
   /// leave as they are.
   TComponent* ReadRootComponent(TComponent* root);
+  /// The same for a stream that holds nothing else: anything behind the root is refused.
+  TComponent* ReadRootFile(TComponent* root);
   /// Reads components, each with the signature in front, until the end of the stream or of the list
   /// into the given owner and parent, as a designer's paste does, and hands each that stands at the
   /// outermost level to `made` when all are whole. One whose name is taken gets another; references

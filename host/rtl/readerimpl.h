@@ -45,7 +45,7 @@ struct TReader::TImpl {
   TImpl(TReader& self, TStream& stream) : Self(self), Input(stream) {}
 
   // Whole files (reader.cpp).
-  TComponent* ReadRoot(TComponent* root);
+  TComponent* ReadRoot(TComponent* root, bool toTheEnd);
   void ReadAll(TComponent* owner, TComponent* parent, std::vector<TComponent*>& outermost);
   /// Calls `read`; when it raises, undoes everything that it did.
   template <class Read>

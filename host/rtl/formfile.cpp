@@ -1,0 +1,73 @@
+#include "host/rtl/formfile.h"
+
+#include "host/rtl/exceptions.h"
+#include "host/rtl/formformat.h"
+#include "host/rtl/reader.h"
+#include "host/rtl/streams.h"
+#include "host/rtl/text.h"
+#include "host/rtl/writer.h"
+
+namespace vcl {
+namespace {
+
+/// Hands a reader over the form file that the rest of a stream is, in whichever form, to `read`.
+template <class Read>
+void WithReader(TStream& stream, const Read& read) {
+  TStringStream source(stream.ReadRest());
+  TFormLines lines;
+  TMemoryStream converted;
+  const bool binary = IsBinaryForm(source.DataString());
+  if (!binary) {
+    ObjectTextToBinary(source, converted, &lines);
+    converted.SetPosition(0);
+  }
+  TMemoryStream& form = binary ? source : converted;
+  TReader reader(form);
+  if (!binary) reader.SetLineOf([&](std::int64_t offset) { return lines.LineOf(offset); });
+  read(reader);
+}
+
+}  // namespace
+
+bool IsBinaryForm(std::string_view bytes) { return bytes.starts_with(FormSignature); }
+
+TComponent* ReadComponentFile(TStream& stream, TComponent* root) {
+  TComponent* read = nullptr;
+  WithReader(stream, [&](TReader& reader) { read = reader.ReadRootFile(root); });
+  return read;
+}
+
+TComponent* ReadComponentFile(const std::string& fileName, TComponent* root) {
+  TFileStream file(fileName, fmOpenRead | fmShareDenyWrite);
+  return ReadComponentFile(file, root);
+}
+
+void ReadComponentsInto(TStream& stream, TComponent* owner, TComponent* parent,
+                        const std::function<void(TComponent*)>& made) {
+  WithReader(stream, [&](TReader& reader) { reader.ReadComponents(owner, parent, made); });
+}
+
+void WriteComponentBinary(TStream& stream, TComponent* root, const std::string& className) {
+  TWriter writer(stream);
+  writer.SetRootClassName(className);
+  writer.WriteRootComponent(root);
+}
+
+void WriteComponentText(TStream& stream, TComponent* root, const std::string& className) {
+  TMemoryStream binary;
+  WriteComponentBinary(binary, root, className);
+  binary.SetPosition(0);
+  ObjectBinaryToText(binary, stream);
+}
+
+void WriteComponentsText(TStream& stream, const std::vector<TComponent*>& components,
+                         TComponent* root) {
+  TMemoryStream binary;
+  TWriter writer(binary);
+  for (TComponent* component : components)
+    writer.WriteComponent(component, root);
+  binary.SetPosition(0);
+  if (!components.empty()) ObjectBinaryToText(binary, stream);
+}
+
+}  // namespace vcl
