@@ -232,7 +232,8 @@ void TFormInput::SkipValue() {
 void TFormInput::SkipList() {
   const TLevel level(*this);
   Take(TValueType::vaList);
-  while (!EndOfList()) SkipValue();
+  while (!EndOfList())
+    SkipValue();
   Take(TValueType::vaNull);
 }
 

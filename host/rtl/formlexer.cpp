@@ -194,6 +194,7 @@ std::string TFormLexer::TakeHex() {
     bytes += static_cast<char>(high * 16 + low);
     FPosition += 2;
   }
+  ++FPosition;
   Next();
   return bytes;
 }

@@ -18,6 +18,7 @@ class TFormParser {
   /// All components of the text in the binary form.
   std::string Parse() {
     do {
+      NoteLine();
       FOutput.WriteSignature();
       Deeper(&TFormParser::ParseComponent);
     } while (FLexer.Token() != TFormToken::End);
