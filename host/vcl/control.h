@@ -182,11 +182,12 @@ class VCL_API TControl : public TComponent {
   void Notification(TComponent* component, TOperation operation) override;
   void Loaded() override;
   void ReadState(TReader& reader) override;
-  void AssignTo(TPersistent* dest) const override;
 
   /// Whether the mouse is captured for this control.
   bool MouseCapture() const;
   void SetMouseCapture(bool capture);
+  /// The control that the mouse is captured for; null when it is none of ours.
+  static TControl* CaptureControl();
   void SetControlStyle(TControlStyle style) { FControlStyle = style; }
   void IncludeState(TControlStateValue state) { FControlState.Include(state); }
   void ExcludeState(TControlStateValue state) { FControlState.Exclude(state); }

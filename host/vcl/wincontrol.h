@@ -151,9 +151,10 @@ class VCL_API TWinControl : public TControl {
   void Resize() override;
   /// What the controls inside may take of the client rectangle.
   virtual void AdjustClientRect(TRect& /*rect*/) const {}
+  /// Called before a control inside is shown by `Show`; a container brings it into view.
+  virtual void ShowControl(TControl* control);
   /// Arranges one group of controls after another in the rectangle.
   virtual void AlignControls(TControl* control, TRect& rect);
-  void Notification(TComponent* component, TOperation operation) override;
   void ReadState(TReader& reader) override;
   TComponent* GetChildParent() override { return this; }
 
@@ -161,37 +162,47 @@ class VCL_API TWinControl : public TControl {
   friend class TControl;
   friend class TApplication;
   static LRESULT CALLBACK StaticWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  void MainWndProc(TMessage& message);
   void Insert(TControl* control);
   void Remove(TControl* control);
   void AlignControl(TControl* control);
-  void DoAlign(TControl* control, TAlign align, TRect& rect);
-  bool IsControlMouseMessage(TMessage& message);
-  bool DispatchToChild(TMessage& message);
-  void DispatchKey(TMessage& message);
-  void DispatchWindow(TMessage& message);
-  void DispatchNoticeToChildren(TMessage& message);
-  void Broadcast(UINT notice);
+  void AlignGroup(TControl* control, TAlign align, TRect& rect);
+  void MoveInZOrder(TControl* control, bool topmost);
+  HWND PrecedingWindow(const TWinControl* control) const;
   void UpdateBounds();
+  void HandleNeededForSize();
   void FixupTabList();
-  bool DoKeyDown(TMessage& message);
-  bool DoKeyUp(TMessage& message);
-  bool DoKeyPress(TMessage& message);
-  void PaintDoubleBuffered(HDC dc);
+  int PlaceInTabList() const;
+  void MoveInTabList(int place);
   bool HasGraphicChildren() const;
+  void PaintDoubleBuffered();
+  void Broadcast(UINT notice);
+  void PassToChildren(TMessage& message);
+  void DispatchNotice(TMessage& message);
+  void DispatchWindow(TMessage& message);
+  void DispatchKey(TMessage& message);
+  bool IsControlMouseMessage(TMessage& message);
+  bool HandleKey(TMessage& message);
+  bool HandleChar(TMessage& message);
+  bool OfferSpecialKey(WPARAM key, LPARAM data);
+  bool OfferChar(const MSG& message);
+  void WMWindowPosChanged(TMessage& message);
+  void WMFocus(TMessage& message);
+  void WMSetCursor(TMessage& message);
+  void WMContextMenu(TMessage& message);
+  void CNCtlColor(TMessage& message);
 
   HWND FHandle = nullptr;
   WNDPROC FDefWndProc = nullptr;
   std::unique_ptr<TBrush> FBrush;
   std::vector<TControl*> FControls;     // z-order: graphic controls, then windows; bottom first.
   std::vector<TWinControl*> FTabList;   // windowed controls by tab order.
-  int FTabOrder = -1;
+  int FTabOrder = -1;  // As a form file gives it, while the parent is being read.
   bool FTabStop = false;
   bool FShowing = false;
   bool FDoubleBuffered = false;
   int FAlignLevel = 0;
   bool FAlignNeeded = false;
-  char32_t FHighSurrogate = 0;
+  wchar_t FHighSurrogate = 0;  // The first half of a character that comes in two messages.
 };
 
 /// A windowed control that paints itself.

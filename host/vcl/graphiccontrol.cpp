@@ -1,0 +1,30 @@
+#include "host/rtl/properties.h"
+#include "host/vcl/canvasbinding.h"
+#include "host/vcl/control.h"
+#include "host/vcl/controlcanvas.h"
+
+namespace vcl {
+
+const TClass& TGraphicControl::Class() {
+  static const TClass info = Describe<TGraphicControl, TControl>("TGraphicControl", "controls", {});
+  return info;
+}
+
+TGraphicControl::TGraphicControl(TComponent* owner)
+    : TControl(owner), FCanvas(std::make_unique<TControlCanvas>()) {
+  FCanvas->SetControl(this);
+}
+
+TGraphicControl::~TGraphicControl() { AnnounceEnd(); }
+
+TCanvas* TGraphicControl::Canvas() const { return FCanvas.get(); }
+
+void TGraphicControl::Dispatch(TMessage& message) {
+  if (message.Msg != WM_PAINT) return TControl::Dispatch(message);
+  const HDC dc = reinterpret_cast<HDC>(message.WParam);
+  if (!dc) return;
+  const TCanvasBinding binding(*this, *FCanvas, dc);
+  Paint();
+}
+
+}  // namespace vcl
