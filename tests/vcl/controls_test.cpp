@@ -1,0 +1,328 @@
+// Controls without and with windows: parents, text, alignment, following the parent, the mouse.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "host/rtl/exceptions.h"
+#include "host/rtl/properties.h"
+#include "host/vcl/application.h"
+#include "host/vcl/controlcanvas.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/windowtext.h"
+
+namespace vcl {
+namespace {
+
+/// A control without a window that notes what happens to it and paints one colour.
+class TProbe : public TGraphicControl {
+ public:
+  explicit TProbe(TComponent* owner) : TGraphicControl(owner) {}
+  using TControl::MouseCapture;
+  int Paints = 0;
+  TColor Ink = clRed;
+
+ protected:
+  void Paint() override {
+    ++Paints;
+    Canvas()->Brush()->SetColor(Ink);
+    Canvas()->FillRect(ClientRect());
+  }
+};
+
+class TBox : public TCustomControl {
+ public:
+  explicit TBox(TComponent* owner) : TCustomControl(owner) {
+    SetControlStyle(ControlStyle() + TControlStyle{csAcceptsControls});
+  }
+  using TWinControl::RecreateWnd;
+
+ protected:
+  void Paint() override {
+    Canvas()->Brush()->SetColor(clLime);
+    Canvas()->FillRect(ClientRect());
+  }
+};
+
+class Controls : public ::testing::Test {
+ protected:
+  Controls() : Form(nullptr) {
+    Form.SetBounds(50, 50, 400, 300);
+    Form.SetBorderStyle(bsNone);
+  }
+  template <class T>
+  T* Make(TWinControl* parent, int left, int top, int width, int height) {
+    auto* control = new T(&Form);
+    control->SetParent(parent);
+    control->SetBounds(left, top, width, height);
+    return control;
+  }
+  void Send(TWinControl& control, UINT message, int x, int y, WPARAM keys = 0) {
+    ::SendMessageW(control.Handle(), message, keys, MAKELPARAM(x, y));
+  }
+  TForm Form;
+};
+
+TEST_F(Controls, AControlCannotStandInsideItself) {
+  auto* outer = Make<TBox>(&Form, 0, 0, 100, 100);
+  auto* inner = Make<TBox>(outer, 0, 0, 50, 50);
+  EXPECT_THROW(outer->SetParent(inner), EInvalidOperation);
+  EXPECT_EQ(outer->Parent(), &Form);
+  EXPECT_EQ(inner->ParentForm(), &Form);
+  EXPECT_TRUE(Form.ContainsControl(inner));
+}
+
+TEST_F(Controls, WindowsLieAboveControlsWithoutWindows) {
+  auto* window = Make<TBox>(&Form, 0, 0, 100, 100);
+  auto* first = Make<TProbe>(&Form, 0, 0, 100, 100);
+  auto* second = Make<TProbe>(&Form, 0, 0, 100, 100);
+  EXPECT_EQ(Form.Controls(0), first);
+  EXPECT_EQ(Form.Controls(2), window);
+  EXPECT_EQ(Form.ControlAtPos({10, 10}, false), window);
+  window->SetVisible(false);
+  EXPECT_EQ(Form.ControlAtPos({10, 10}, false), second);
+  first->BringToFront();
+  EXPECT_EQ(Form.ControlAtPos({10, 10}, false), first);
+  first->SetEnabled(false);
+  EXPECT_EQ(Form.ControlAtPos({10, 10}, false), second);
+  EXPECT_EQ(Form.ControlAtPos({10, 10}, true), first);
+  EXPECT_THROW(Form.Controls(3), EListError);
+}
+
+TEST_F(Controls, TextIsTheWindowsAndSurvivesItsEnd) {
+  auto* box = Make<TBox>(&Form, 0, 0, 100, 100);
+  box->SetCaption("Grüße 你好 😀");
+  EXPECT_EQ(box->Caption(), "Grüße 你好 😀");
+  box->HandleNeeded();
+  EXPECT_EQ(box->Caption(), "Grüße 你好 😀");
+  SetWindowTextUtf8(box->Handle(), "from outside");
+  EXPECT_EQ(box->Text(), "from outside");
+  char buffer[5];
+  EXPECT_EQ(box->GetTextBuf(buffer, sizeof buffer), 4);
+  EXPECT_STREQ(buffer, "from");
+  box->RecreateWnd();
+  EXPECT_EQ(box->Text(), "from outside");
+}
+
+TEST_F(Controls, CaptionFollowsTheNameWhileTheyAreEqual) {
+  auto* box = Make<TBox>(&Form, 0, 0, 10, 10);
+  box->SetName("Box1");
+  EXPECT_EQ(box->Caption(), "Box1");
+  box->SetName("Box2");
+  EXPECT_EQ(box->Caption(), "Box2");
+  box->SetCaption("mine");
+  box->SetName("Box3");
+  EXPECT_EQ(box->Caption(), "mine");
+}
+
+TEST_F(Controls, FollowTheParentUntilTheyAreGivenTheirOwn) {
+  auto* outer = Make<TBox>(&Form, 0, 0, 100, 100);
+  auto* inner = Make<TProbe>(outer, 0, 0, 10, 10);
+  Form.Font()->SetName("Courier New");
+  Form.SetColor(clNavy);
+  Form.SetShowHint(true);
+  EXPECT_EQ(inner->Font()->Name(), "Courier New");
+  EXPECT_EQ(inner->Color(), clNavy);
+  EXPECT_TRUE(inner->ShowHint());
+  inner->SetColor(clRed);
+  inner->Font()->SetSize(20);
+  inner->SetShowHint(false);
+  Form.SetColor(clTeal);
+  Form.Font()->SetName("Arial");
+  EXPECT_EQ(inner->Color(), clRed);
+  EXPECT_EQ(inner->Font()->Name(), "Courier New");
+  EXPECT_FALSE(inner->ParentFont() || inner->ParentColor() || inner->ParentShowHint());
+  inner->SetParentColor(true);
+  inner->SetParentFont(true);
+  inner->SetParentShowHint(true);
+  EXPECT_EQ(inner->Color(), clTeal);
+  EXPECT_EQ(inner->Font()->Name(), "Arial");
+  EXPECT_TRUE(inner->ShowHint());
+}
+
+TEST_F(Controls, AlignKeepsControlsAlongTheEdges) {
+  auto* box = Make<TBox>(&Form, 10, 10, 200, 100);
+  auto* top = Make<TProbe>(box, 0, 0, 5, 20);
+  auto* bottom = Make<TProbe>(box, 0, 50, 5, 10);
+  auto* left = Make<TBox>(box, 0, 0, 30, 5);
+  auto* right = Make<TProbe>(box, 100, 0, 40, 5);
+  auto* rest = Make<TBox>(box, 0, 0, 5, 5);
+  const std::vector<std::pair<TControl*, TAlign>> aligns = {
+      {top, alTop}, {bottom, alBottom}, {left, alLeft}, {right, alRight}, {rest, alClient}};
+  for (const auto& [control, align] : aligns) control->SetAlign(align);
+  const auto expectAt = [&](int width, int height) {
+    EXPECT_EQ(top->BoundsRect(), TRect(0, 0, width, 20));
+    EXPECT_EQ(bottom->BoundsRect(), TRect(0, height - 10, width, height));
+    EXPECT_EQ(left->BoundsRect(), TRect(0, 20, 30, height - 10));
+    EXPECT_EQ(right->BoundsRect(), TRect(width - 40, 20, width, height - 10));
+    EXPECT_EQ(rest->BoundsRect(), TRect(30, 20, width - 40, height - 10));
+  };
+  expectAt(200, 100);
+  box->SetBounds(10, 10, 300, 150);
+  expectAt(300, 150);
+  Form.Show();
+  box->SetBounds(10, 10, 250, 120);
+  expectAt(250, 120);
+  left->SetVisible(false);
+  EXPECT_EQ(rest->Left(), 0);
+}
+
+TEST_F(Controls, TabOrderIsThePlaceAmongTheSiblings) {
+  auto* a = Make<TBox>(&Form, 0, 0, 10, 10);
+  auto* b = Make<TBox>(&Form, 0, 0, 10, 10);
+  auto* c = Make<TBox>(&Form, 0, 0, 10, 10);
+  c->SetTabOrder(0);
+  EXPECT_EQ(c->TabOrder(), 0);
+  EXPECT_EQ(a->TabOrder(), 1);
+  EXPECT_EQ(b->TabOrder(), 2);
+  c->SetTabOrder(99);
+  EXPECT_EQ(c->TabOrder(), 2);
+  Form.Show();
+  for (TBox* box : {a, b, c}) box->SetTabStop(true);
+  EXPECT_EQ(Form.FindNextControl(c, true, true, false), a);
+  EXPECT_EQ(Form.FindNextControl(a, false, true, false), c);
+  b->SetEnabled(false);
+  EXPECT_EQ(Form.FindNextControl(a, true, true, false), c);
+  EXPECT_THROW(b->SetFocus(), EInvalidOperation);
+}
+
+TEST_F(Controls, TheMouseReachesControlsWithoutWindows) {
+  auto* probe = Make<TProbe>(&Form, 20, 30, 40, 50);
+  Form.Show();
+  std::string log;
+  probe->OnMouseDown = [&](TObject*, TMouseButton, TShiftState shift, int x, int y) {
+    log += "down " + std::to_string(x) + "," + std::to_string(y) + (shift.Has(ssCtrl) ? "c " : " ");
+  };
+  probe->OnMouseUp = [&](TObject*, TMouseButton, TShiftState, int x, int y) {
+    log += "up " + std::to_string(x) + "," + std::to_string(y) + " ";
+  };
+  probe->OnClick = [&](TObject*) { log += "click "; };
+  Send(Form, WM_LBUTTONDOWN, 25, 35, MK_LBUTTON | MK_CONTROL);
+  EXPECT_TRUE(probe->MouseCapture());
+  Send(Form, WM_LBUTTONUP, 25, 35);
+  EXPECT_FALSE(probe->MouseCapture());
+  EXPECT_EQ(log, "down 5,5c click up 5,5 ");
+  log.clear();
+  // Released outside, where the capture still brings it: no click.
+  Send(Form, WM_LBUTTONDOWN, 25, 35, MK_LBUTTON);
+  Send(Form, WM_LBUTTONUP, 300, 200);
+  EXPECT_EQ(log, "down 5,5 up 280,170 ");
+}
+
+TEST_F(Controls, AHandlerMayFreeItsSender) {
+  Form.Show();
+  for (int i = 0; i < 2; ++i) {
+    TControl* control = i == 0 ? static_cast<TControl*>(Make<TProbe>(&Form, 0, 0, 40, 40))
+                               : Make<TBox>(&Form, 0, 0, 40, 40);
+    TWatch watch(control);
+    control->OnClick = [](TObject* sender) { delete sender; };
+    TWinControl& target = i == 0 ? Form : *static_cast<TWinControl*>(control);
+    const HWND window = target.Handle();
+    ::SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    ::SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    EXPECT_TRUE(watch.Gone());
+  }
+  EXPECT_EQ(Form.ControlCount(), 0);
+}
+
+TEST_F(Controls, AnErrorInAHandlerGoesToTheApplication) {
+  auto* box = Make<TBox>(&Form, 0, 0, 40, 40);
+  Form.Show();
+  std::string shown;
+  TObject* sender = nullptr;
+  Application()->OnException = [&](TObject* from, const std::exception& error) {
+    sender = from;
+    shown = error.what();
+  };
+  box->OnClick = [](TObject*) { throw EConvertError("'x' is no number"); };
+  Send(*box, WM_LBUTTONDOWN, 5, 5, MK_LBUTTON);
+  Send(*box, WM_LBUTTONUP, 5, 5);
+  Application()->OnException = nullptr;
+  EXPECT_EQ(shown, "'x' is no number");
+  EXPECT_EQ(sender, box);
+}
+
+TEST_F(Controls, PaintingIsClippedToTheControl) {
+  auto* box = Make<TBox>(&Form, 0, 0, 100, 100);
+  auto* probe = Make<TProbe>(box, 90, 90, 40, 40);
+  auto* hidden = Make<TProbe>(box, 0, 0, 10, 10);
+  hidden->SetVisible(false);
+  Form.Show();
+  TBitmap picture;
+  picture.SetSize(150, 150);
+  picture.Canvas()->Brush()->SetColor(clWhite);
+  picture.Canvas()->FillRect(TRect(0, 0, 150, 150));
+  box->PaintTo(picture.Canvas()->Handle(), 10, 10);
+  const auto at = [&](int x, int y) { return picture.Canvas()->Pixels(x, y); };
+  EXPECT_EQ(at(9, 9), clWhite);
+  EXPECT_EQ(at(10, 10), clLime);
+  EXPECT_EQ(at(99, 99), clLime);
+  EXPECT_EQ(at(100, 100), clRed);
+  EXPECT_EQ(at(109, 109), clRed);
+  EXPECT_EQ(at(110, 110), clWhite);
+  EXPECT_GE(probe->Paints, 1);
+  EXPECT_EQ(hidden->Paints, 0);
+}
+
+TEST_F(Controls, ADoubleBufferedWindowShowsTheSame) {
+  auto* box = Make<TBox>(&Form, 0, 0, 100, 100);
+  Make<TProbe>(box, 50, 50, 40, 40);
+  Form.Show();
+  box->SetDoubleBuffered(true);
+  box->Repaint();
+  const TWindowDC dc(box->Handle());
+  EXPECT_EQ(::GetPixel(dc.Get(), 10, 10), static_cast<COLORREF>(clLime));
+  EXPECT_EQ(::GetPixel(dc.Get(), 60, 60), static_cast<COLORREF>(clRed));
+}
+
+TEST_F(Controls, KeysGoToTheFormFirstWhenItAsksForThem) {
+  auto* box = Make<TBox>(&Form, 0, 0, 40, 40);
+  Form.Show();
+  std::string log;
+  const auto note = [&](const char* who, char32_t key) {
+    log += who + std::to_string(static_cast<unsigned>(key)) + " ";
+  };
+  Form.OnKeyPress = [&](TObject*, char32_t& key) { note("form", key); };
+  box->OnKeyPress = [&](TObject*, char32_t& key) { note("box", key); };
+  ::SendMessageW(box->Handle(), WM_CHAR, 'a', 0);
+  Form.SetKeyPreview(true);
+  ::SendMessageW(box->Handle(), WM_CHAR, 'b', 0);
+  Form.OnKeyPress = [&](TObject*, char32_t& key) { key = 0; };
+  ::SendMessageW(box->Handle(), WM_CHAR, 'c', 0);
+  EXPECT_EQ(log, "box97 form98 box98 ");
+  // A character beyond 16 bits comes in two messages and is one key.
+  log.clear();
+  Form.SetKeyPreview(false);
+  ::SendMessageW(box->Handle(), WM_CHAR, 0xD83D, 0);
+  ::SendMessageW(box->Handle(), WM_CHAR, 0xDE00, 0);
+  EXPECT_EQ(log, "box128512 ");
+}
+
+TEST_F(Controls, MakingAndFreeingWindowsLeavesNoHandles) {
+  Form.Show();
+  const auto round = [&] {
+    auto* box = Make<TBox>(&Form, 0, 0, 100, 100);
+    Make<TBox>(box, 0, 0, 10, 10)->Font()->SetSize(31);
+    Make<TProbe>(box, 0, 0, 10, 10);
+    box->Repaint();
+    delete box;
+  };
+  round();
+  const HANDLE process = ::GetCurrentProcess();
+  const DWORD gdi = ::GetGuiResources(process, GR_GDIOBJECTS);
+  const DWORD user = ::GetGuiResources(process, GR_USEROBJECTS);
+  for (int i = 0; i < 200; ++i) round();
+  EXPECT_EQ(::GetGuiResources(process, GR_GDIOBJECTS), gdi);
+  EXPECT_EQ(::GetGuiResources(process, GR_USEROBJECTS), user);
+}
+
+TEST_F(Controls, AWindowNeedsAParent) {
+  TBox box(nullptr);
+  box.SetName("Lost");
+  EXPECT_THROW(box.Handle(), EInvalidOperation);
+  TProbe probe(nullptr);
+  EXPECT_THROW(probe.ClientToScreen({0, 0}), EInvalidOperation);
+}
+
+}  // namespace
+}  // namespace vcl
