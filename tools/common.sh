@@ -10,15 +10,19 @@ configure_and_build() {
   cmake --build --preset "$preset" --parallel "$(jobs)" ${1:+--target "$@"}
 }
 
+# The compiler of a Windows build; fails when it is not installed.
+compiler_of() {
+  case $1 in
+    win32) command -v i686-w64-mingw32-g++-posix ;;
+    win64) command -v x86_64-w64-mingw32-g++-posix ;;
+  esac
+}
+
 # windows_preset: which of the Windows builds can be built and run here; fails when none can.
 windows_preset() {
-  local preset compiler
+  local preset
   for preset in win32 win64; do
-    case $preset in
-      win32) compiler=i686-w64-mingw32-g++-posix ;;
-      win64) compiler=x86_64-w64-mingw32-g++-posix ;;
-    esac
-    command -v "$compiler" >/dev/null || continue
+    compiler_of "$preset" >/dev/null || continue
     tools/wine-run "$preset" "build/$preset/wineprefix" --prepare >&2 || continue
     if [ "$preset" = win64 ]; then
       echo "32-bit Windows programs can't be built or run here: using the 64-bit build instead." \
