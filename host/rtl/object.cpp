@@ -119,6 +119,13 @@ const TFieldInfo* TClass::FindField(std::string_view name) const {
   return FParent ? FParent->FindField(name) : nullptr;
 }
 
+const TClass* TClass::FindFieldClass(std::string_view name) const {
+  for (const TFieldInfo& field : FFields) {
+    if (SameText(field.ClassOf().Name(), name)) return &field.ClassOf();
+  }
+  return FParent ? FParent->FindFieldClass(name) : nullptr;
+}
+
 const TMethodInfo* TClass::FindMethod(std::string_view name) const {
   if (const TMethodInfo* own = FindIn(FMethods, name)) return own;
   return FParent ? FParent->FindMethod(name) : nullptr;

@@ -73,6 +73,8 @@ class VCL_API TClass {
   /// The field or handler that a form class lists under that name; null when there is none.
   const TFieldInfo* FindField(std::string_view name) const;
   const TMethodInfo* FindMethod(std::string_view name) const;
+  /// The class of that name that one of the listed fields is of; null when there is none.
+  const TClass* FindFieldClass(std::string_view name) const;
 
  private:
   void Add(TClassEntry entry);

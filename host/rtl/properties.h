@@ -69,6 +69,8 @@ class VCL_API TPropInfo {
 /// A form class's field for one of its components.
 struct TFieldInfo {
   std::string Name;
+  /// The field's class, which form files of this form class may name without it being registered.
+  const TClass& (*ClassOf)();
   /// Stores the component; false when it is of another class than the field.
   bool (*Assign)(TObject& form, TComponent* component);
 };
@@ -282,7 +284,8 @@ template <auto Member>
 TClassEntry Field(std::string name) {
   TClassEntry entry;
   entry.Sort = TClassEntry::TSort::Field;
-  entry.Field = {std::move(name), &detail::AssignField<Member>};
+  using C = std::remove_pointer_t<typename detail::MemberOf<decltype(Member)>::Result>;
+  entry.Field = {std::move(name), &C::Class, &detail::AssignField<Member>};
   return entry;
 }
 

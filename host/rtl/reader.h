@@ -14,7 +14,8 @@ namespace vcl {
 class TCollection;
 class TComponent;
 
-/// Reads a form file. All methods raise EReadError, with the offset (and the line, when the file
+/// Reads a form file. Its components are of classes that the root's class lists a field of, or that
+/// are registered (RegisterClass). All methods raise EReadError, with the offset (and the line, when the file
 /// came from a text) and what was wrong, for what they cannot read.
 class VCL_API TReader : public TFiler {
  public:

@@ -25,7 +25,8 @@ std::string NameStem(const TComponent& component) {
 }  // namespace
 
 TComponent* TReader::TImpl::Make(const TFormHeading& heading, TComponent* owner) {
-  const TClass* found = GetClass(heading.ClassName);
+  const TClass* found = Root ? Root->ClassType().FindFieldClass(heading.ClassName) : nullptr;
+  if (!found) found = GetClass(heading.ClassName);
   if (!found) {
     throw EClassNotFound(
         Concat(Input.Place(Input.Mark()), "Class ", heading.ClassName, " not found"));

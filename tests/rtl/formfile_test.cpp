@@ -123,6 +123,15 @@ TEST_F(FormFile, IsReadAsItSays) {
   EXPECT_FALSE(part2->ComponentState().Has(csReading));
 }
 
+TEST_F(FormFile, KnowsTheClassesOfTheRootsFields) {
+  UnRegisterClass(TOther::Class());
+  TSampleForm form(nullptr);
+  Load("object Form1: TSampleForm object Other1: TOther end end", &form);
+  EXPECT_NE(form.Other1, nullptr);
+  TPart other(nullptr);
+  EXPECT_THROW(Load("object P: TPart object Other1: TOther end end", &other), EClassNotFound);
+}
+
 TEST_F(FormFile, BindsHandlers) {
   const auto form = LoadForm(Complete);
   form->Part1->OnClick(form->Part1);
