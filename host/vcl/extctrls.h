@@ -1,0 +1,6 @@
+// Panels, bevels and timers.
+#pragma once
+
+#include "host/vcl/bevel.h"
+#include "host/vcl/panel.h"
+#include "host/vcl/timer.h"

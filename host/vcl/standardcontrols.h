@@ -1,0 +1,11 @@
+// What makes the standard controls known to form files.
+#pragma once
+
+#include "host/rtl/api.h"
+
+namespace vcl {
+
+/// Registers every control of stdctrls.h, extctrls.h and comctrls.h.
+VCL_API void RegisterStandardControls();
+
+}  // namespace vcl

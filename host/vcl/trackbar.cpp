@@ -1,0 +1,117 @@
+#include "host/vcl/trackbar.h"
+
+#include <algorithm>
+
+#include "host/rtl/exceptions.h"
+#include "host/rtl/properties.h"
+#include "host/rtl/text.h"
+#include "host/vcl/commoncontrols.h"
+#include "host/vcl/windowmessages.h"
+
+namespace vcl {
+
+const TClass& TTrackBar::Class() {
+  using T = TTrackBar;
+  static const TClass info = Describe<T, TWinControl>("TTrackBar", "comctrls", {
+      Inherit("Align"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
+      Property<&T::LineSize, &T::SetLineSize>("LineSize").Default(1),
+      Property<&T::Max, &T::SetMax>("Max").Default(10),
+      Property<&T::Min, &T::SetMin>("Min").Default(0),
+      Property<&T::Orientation, &T::SetOrientation>("Orientation").Default(trHorizontal),
+      Inherit("ParentShowHint"),
+      Property<&T::PageSize, &T::SetPageSize>("PageSize").Default(2),
+      Inherit("PopupMenu"),
+      Property<&T::Frequency, &T::SetFrequency>("Frequency").Default(1),
+      Property<&T::Position, &T::SetPosition>("Position").Default(0),
+      Inherit("ShowHint"), Inherit("TabOrder"), Inherit("TabStop").Default(true),
+      Property<&T::TickStyle, &T::SetTickStyle>("TickStyle").Default(tsAuto),
+      Inherit("Visible"), Event<&T::OnChange>("OnChange"), Inherit("OnDragDrop"),
+      Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"),
+      Inherit("OnKeyDown"), Inherit("OnKeyPress"), Inherit("OnKeyUp"), Inherit("OnStartDrag"),
+  });
+  return info;
+}
+
+TTrackBar::TTrackBar(TComponent* owner) : TWinControl(owner) {
+  SetControlStyle(ControlStyle() - TControlStyle{csCaptureMouse, csClickEvents});
+  SetBounds(0, 0, 150, 45);
+  SetTabStop(true);
+}
+
+void TTrackBar::SetRange(int min, int max) {
+  if (min > max) {
+    throw EArgumentOutOfRangeException(Concat("A track bar cannot go from ", std::to_string(min),
+                                              " to ", std::to_string(max)));
+  }
+  FMin = min;
+  FMax = max;
+  SendIfAllocated(*this, TBM_SETRANGEMIN, FALSE, min);
+  SendIfAllocated(*this, TBM_SETRANGEMAX, TRUE, max);
+  SetPosition(FPosition);
+}
+
+void TTrackBar::SetPosition(int position) {
+  position = std::clamp(position, FMin, FMax);
+  if (position == FPosition) return;
+  FPosition = position;
+  SendIfAllocated(*this, TBM_SETPOS, TRUE, position);
+  if (!Loading()) Change();
+}
+
+void TTrackBar::ChangeNumber(int& field, int value, UINT message) {
+  field = value;
+  // The frequency is the message's first parameter, the two sizes are the second one.
+  const bool frequency = message == TBM_SETTICFREQ;
+  SendIfAllocated(*this, message, frequency ? static_cast<WPARAM>(value) : 0,
+                  frequency ? 0 : value);
+}
+
+void TTrackBar::SetLineSize(int size) { ChangeNumber(FLineSize, size, TBM_SETLINESIZE); }
+void TTrackBar::SetPageSize(int size) { ChangeNumber(FPageSize, size, TBM_SETPAGESIZE); }
+void TTrackBar::SetFrequency(int frequency) { ChangeNumber(FFrequency, frequency, TBM_SETTICFREQ); }
+
+void TTrackBar::SetOrientation(TTrackBarOrientation orientation) {
+  if (orientation == FOrientation) return;
+  FOrientation = orientation;
+  // What lay is now upright; a form file gives the bounds for what it has.
+  if (!Loading()) SetBounds(Left(), Top(), Height(), Width());
+  RecreateWnd();
+}
+
+void TTrackBar::SetTickStyle(TTickStyle style) {
+  if (style == FTickStyle) return;
+  FTickStyle = style;
+  RecreateWnd();
+}
+
+void TTrackBar::Change() { OnChange(this); }
+
+void TTrackBar::CreateParams(TCreateParams& params) {
+  UseCommonControls(ICC_BAR_CLASSES);
+  TWinControl::CreateParams(params);
+  params.SubClassOf = TRACKBAR_CLASSA;
+  params.Style |= FOrientation == trVertical ? TBS_VERT : TBS_HORZ;
+  params.Style |= FTickStyle == tsAuto ? TBS_AUTOTICKS : TBS_NOTICKS;
+}
+
+void TTrackBar::CreateWnd() {
+  TWinControl::CreateWnd();
+  Send(*this, TBM_SETRANGEMIN, FALSE, FMin);
+  Send(*this, TBM_SETRANGEMAX, FALSE, FMax);
+  Send(*this, TBM_SETLINESIZE, 0, FLineSize);
+  Send(*this, TBM_SETPAGESIZE, 0, FPageSize);
+  Send(*this, TBM_SETTICFREQ, static_cast<WPARAM>(FFrequency));
+  Send(*this, TBM_SETPOS, TRUE, FPosition);
+}
+
+void TTrackBar::Dispatch(TMessage& message) {
+  if (message.Msg != CN_HSCROLL && message.Msg != CN_VSCROLL) {
+    return TWinControl::Dispatch(message);
+  }
+  const int position = static_cast<int>(Send(*this, TBM_GETPOS));
+  if (position == FPosition) return;
+  FPosition = position;
+  Change();
+}
+
+}  // namespace vcl
