@@ -18,14 +18,13 @@ class TCustomForm;
 
 /// Sender, error. Assigned, it takes the place of the message box.
 using TExceptionEvent = TEvent<TObject*, const std::exception&>;
-/// Sets `done` to false to be called again at once when no message waits.
+/// Sets `done` to false to be called again at once when no message waits. It is never published, and
+/// a published event of the same shape goes by TCloseQueryEvent's name.
 using TIdleEvent = TEvent<TObject*, bool&>;
 /// A message of the program's queue; `handled` keeps it from its window.
 using TMessageEvent = TEvent<MSG&, bool&>;
 template <>
 inline constexpr const char* EventName<TExceptionEvent> = "TExceptionEvent";
-template <>
-inline constexpr const char* EventName<TIdleEvent> = "TIdleEvent";
 template <>
 inline constexpr const char* EventName<TMessageEvent> = "TMessageEvent";
 
