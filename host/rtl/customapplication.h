@@ -35,6 +35,10 @@ class VCL_API TCustomApplication : public TComponent {
   bool Terminated() const { return FTerminated; }
   virtual void Terminate() { FTerminated = true; }
 
+ protected:
+  /// For a program that runs anew.
+  void SetTerminated(bool terminated) { FTerminated = terminated; }
+
  private:
   std::string FTitle;
   bool FTerminated = false;

@@ -13,11 +13,13 @@ namespace vcl {
 class VCL_API TDragObject : public TObject {
  public:
   explicit TDragObject(TControl* control) : FControl(control) {}
+  /// What is dragged; null once it has been freed.
   TControl* Control() const { return FControl; }
   /// The pointer shown while the object is over a control that takes it, or does not.
   virtual TCursor GetDragCursor(bool accepted, int x, int y);
 
  private:
+  friend class TDragSession;
   TControl* FControl;
 };
 
@@ -53,15 +55,13 @@ class VCL_API TDragSession : public std::enable_shared_from_this<TDragSession> {
   void AskTarget(TDragState state);
   void Finish(bool drop);
   void Drop();
-  void TellSource(bool dropped);
   TObject* Source() const;
 
   HWND FWindow = nullptr;
   TControl* FControl;
   TControl* FTarget = nullptr;
-  TDragObject* FObject = nullptr;
-  std::unique_ptr<TDragObject> FOwnObject;
-  bool FObjectIsOwn = false;
+  std::unique_ptr<TDragObject> FObject;
+  bool FObjectGiven = false;  // By OnStartDrag: handlers get it as their source.
   bool FStarted = false;
   bool FFinished = false;
   bool FAccepted = false;

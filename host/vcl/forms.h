@@ -78,7 +78,6 @@ class VCL_API TCustomForm : public TWinControl {
   /// Gives up an active control that is the given one or inside it.
   void DefocusControl(TWinControl* control);
   void SetFocus() override;
-  bool CanFocus() const override;
 
   TBorderStyle BorderStyle() const { return FBorderStyle; }
   void SetBorderStyle(TBorderStyle style);
@@ -104,7 +103,6 @@ class VCL_API TCustomForm : public TWinControl {
   void SetVisible(bool visible) override;
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
   TRect ClientRect() const override;
-  void WndProc(TMessage& message) override;
 
   TNotifyEvent OnCreate, OnDestroy, OnShow, OnHide, OnActivate, OnDeactivate, OnPaint;
   TCloseEvent OnClose;
@@ -123,52 +121,54 @@ class VCL_API TCustomForm : public TWinControl {
   void PaintWindow(HDC dc) override;
   void Notification(TComponent* component, TOperation operation) override;
   void Loaded() override;
-  void SetClientSize(int width, int height) override;
   virtual void DoClose(TCloseAction& action);
   virtual void DoShow();
   virtual void DoHide();
   virtual void Activate();
   virtual void Deactivate();
+  // What form files hold: sizes wait for the border and the menu, showing for the whole form.
+  void SetFileClientWidth(int width);
+  void SetFileClientHeight(int height);
+  bool FileVisible() const;
 
  private:
   friend class TApplication;
   friend class TScreen;
   friend class TWinControl;
   friend class TMainMenu;
-  // Making and ending.
-  void BeforeDestruction();
+  // Reading and ending.
   void Created();
+  void BeforeDestruction();
+  // The window's look.
+  void AddFrame(TCreateParams& params) const;
+  TSize FrameSize() const;
+  void UpdateMenu();
+  void UpdateIcon();
+  void Remake();
   // Messages.
-  bool DispatchToMenu(TMessage& message);
   bool DispatchWindow(TMessage& message);
-  void WMActivate(TMessage& message);
-  void WMSize(TMessage& message);
+  bool DispatchNotice(TMessage& message);
   void WMSysCommand(TMessage& message);
-  bool DialogKey(TMessage& message);
-  bool MoveByTab();
-  bool MoveByArrow(WPARAM key);
+  void WMSize(TMessage& message);
+  // Focus.
+  void SetActive(bool active);
+  void SetWindowFocus();
   /// The system has given the control the focus: keeps it as the active one and sends CM_EXIT and
   /// CM_ENTER along the way there. Called by TWinControl.
   void SetFocusedControl(TWinControl* control);
-  bool LeaveTo(TWinControl* control);
-  bool EnterTo(TWinControl* control);
-  void SetWindowFocus();
-  void SetActive(bool active);
+  bool StepTo(TWinControl* entered, TWinControl* target, UINT notice);
+  bool IsTarget(const TWinControl* control) const;
+  bool DialogKey(WPARAM key);
+  bool MoveByArrow(bool forward);
   // Showing.
   void ShowingChanged();
   void ShowWindowNow();
   void HideWindowNow();
   void PlaceOnScreen();
-  void ShowAsAsked();
-  bool StoredVisible() const;
   // Modal.
   void CheckCanShowModal() const;
-  void RunModal();
+  TModalResult RunModal();
   void CloseModal();
-  // The window's look.
-  void UpdateMenu();
-  void UpdateIcon();
-  RECT BorderWidths() const;
 
   TBorderStyle FBorderStyle = bsSizeable;
   TBorderIcons FBorderIcons{biSystemMenu, biMinimize, biMaximize};
@@ -179,9 +179,12 @@ class VCL_API TCustomForm : public TWinControl {
   bool FModal = false;
   bool FActive = false;
   bool FKeyPreview = false;
+  bool FReadingForm = false;
   bool FCreated = false;
   bool FDestroyed = false;
   bool FReleased = false;
+  bool FRemaking = false;      // The window is made anew, which is no news to handlers.
+  bool FPlaced = false;        // Position has been acted on.
   bool FVisibleAsked = false;  // What a form file or a designer says, until the form may be shown.
   int FClientWidth = -1;       // As a form file gives it, until the whole file is read.
   int FClientHeight = -1;

@@ -20,6 +20,9 @@ class TMenu;
 
 /// A key with scShift, scCtrl and scAlt.
 enum TShortCut : std::uint16_t { scNone = 0, scShift = 0x2000, scCtrl = 0x4000, scAlt = 0x8000 };
+constexpr TShortCut operator|(TShortCut a, TShortCut b) {
+  return static_cast<TShortCut>(static_cast<unsigned>(a) | static_cast<unsigned>(b));
+}
 template <>
 inline constexpr TIntegerText IntegerText<TShortCut>{"TShortCut"};
 /// The shortcut of a key (VK_...) with ssShift, ssCtrl and ssAlt.

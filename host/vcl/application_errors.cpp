@@ -1,0 +1,80 @@
+// TApplication: errors and message boxes.
+#include <algorithm>
+#include <utility>
+
+#include "host/rtl/exceptions.h"
+#include "host/vcl/application.h"
+#include "host/vcl/taskwindows.h"
+
+namespace vcl {
+
+namespace {
+
+// The error's text as a sentence.
+std::string Sentence(std::string text) {
+  if (text.empty() || std::string_view(".!?").find(text.back()) == std::string_view::npos) {
+    text += '.';
+  }
+  return text;
+}
+
+}  // namespace
+
+void TApplication::HandleException(TObject* sender, const std::exception& error) {
+  try {
+    if (const HWND capture = ::GetCapture()) ::SendMessageW(capture, WM_CANCELMODE, 0, 0);
+    if (dynamic_cast<const EAbort*>(&error)) return;
+    if (!OnException) return ShowException(error);
+    OnException(sender, error);
+  } catch (const std::exception& another) {
+    ShowException(another);
+  } catch (...) {
+    ShowException(Exception("An error of an unknown kind in the handler of errors"));
+  }
+}
+
+void TApplication::HandleCurrentException(TObject* sender) {
+  try {
+    throw;
+  } catch (const std::exception& error) {
+    HandleException(sender, error);
+  } catch (...) {
+    HandleException(sender, Exception("An error of an unknown kind"));
+  }
+}
+
+// A timer may raise the same error again and again while its box is up: each text waits once.
+void TApplication::ShowException(const std::exception& error) {
+  try {
+    const std::string text = Sentence(error.what());
+    if (std::find(FWaitingErrors.begin(), FWaitingErrors.end(), text) == FWaitingErrors.end()) {
+      FWaitingErrors.push_back(text);
+    }
+    if (std::exchange(FShowingError, true)) return;
+    while (!FWaitingErrors.empty()) {
+      MessageBox(FWaitingErrors.front(), Title(), MB_OK | MB_ICONERROR);
+      FWaitingErrors.erase(FWaitingErrors.begin());
+    }
+  } catch (...) {
+    // Without memory for a text there is nothing to show.
+    ::MessageBeep(MB_ICONERROR);
+  }
+  FShowingError = false;
+}
+
+int TApplication::MessageBox(const std::string& text, const std::string& caption, int flags) {
+  CancelHint();
+  const HWND active = ::GetActiveWindow();
+  const HWND focus = ::GetFocus();
+  int answer = 0;
+  {
+    const TDisabledWindows others(nullptr);
+    answer = ::MessageBoxA(active ? active : Handle(), text.c_str(), caption.c_str(),
+                           static_cast<UINT>(flags));
+  }
+  if (active && ::IsWindow(active)) ::SetActiveWindow(active);
+  if (focus && ::IsWindow(focus)) ::SetFocus(focus);
+  return answer;
+}
+
+}  // namespace vcl

@@ -1,0 +1,103 @@
+// The window that shows a hint, and the two halves of a hint's text.
+#include <algorithm>
+
+#include "host/rtl/properties.h"
+#include "host/vcl/application.h"
+#include "host/vcl/hints.h"
+#include "host/vcl/screen.h"
+
+namespace vcl {
+
+namespace {
+
+constexpr int MarginX = 3;  // Between the window's edge and the text, in pixels.
+constexpr int MarginY = 2;
+constexpr UINT TextFlags = DT_LEFT | DT_WORDBREAK | DT_NOPREFIX;
+
+// The rectangle moved onto the work area; its top left when it does not fit.
+TRect KeptOnScreen(TRect rect) {
+  const TRect area = Screen()->WorkAreaRect(rect.TopLeft());
+  const int left = std::max(area.Left, std::min(rect.Left, area.Right - rect.Width()));
+  const int top = std::max(area.Top, std::min(rect.Top, area.Bottom - rect.Height()));
+  rect.Offset(left - rect.Left, top - rect.Top);
+  return rect;
+}
+
+}  // namespace
+
+std::string GetShortHint(const std::string& hint) { return hint.substr(0, hint.find('|')); }
+
+std::string GetLongHint(const std::string& hint) {
+  const std::size_t bar = hint.find('|');
+  return bar == std::string::npos ? hint : hint.substr(bar + 1);
+}
+
+const TClass& THintWindow::Class() {
+  static const TClass info = Describe<THintWindow, TCustomControl>("THintWindow", "hints", {});
+  return info;
+}
+
+THintWindow::THintWindow(TComponent* owner) : TCustomControl(owner) {
+  Canvas()->Brush()->SetStyle(bsClear);
+  Canvas()->Font()->SetColor(clInfoText);
+  TControl::SetColor(clInfoBk);
+}
+
+void THintWindow::CreateParams(TCreateParams& params) {
+  TCustomControl::CreateParams(params);
+  params.Style = WS_POPUP | WS_BORDER;
+  params.ExStyle = WS_EX_TOOLWINDOW | WS_EX_TOPMOST | WS_EX_NOACTIVATE;
+  params.ClassStyle |= CS_SAVEBITS;
+  params.WndParent = Application()->Handle();
+}
+
+void THintWindow::Dispatch(TMessage& message) {
+  switch (message.Msg) {
+    case WM_NCHITTEST:  // The mouse goes through to what lies below.
+      message.Result = HTTRANSPARENT;
+      return;
+    case WM_MOUSEACTIVATE:
+      message.Result = MA_NOACTIVATE;
+      return;
+    default:
+      TCustomControl::Dispatch(message);
+  }
+}
+
+TRect THintWindow::CalcHintRect(int maxWidth, const std::string& text) {
+  const TMemoryDC dc;
+  const TSelection font(dc.Get(), Canvas()->Font()->Handle());
+  RECT rect{0, 0, maxWidth, 0};
+  ::DrawTextExA(dc.Get(), const_cast<char*>(text.data()), static_cast<int>(text.size()), &rect,
+                TextFlags | DT_CALCRECT, nullptr);
+  // The border of one pixel lies inside the rectangle.
+  return {0, 0, static_cast<int>(rect.right) + 2 * MarginX + 2,
+          static_cast<int>(rect.bottom) + 2 * MarginY + 2};
+}
+
+void THintWindow::ActivateHint(TRect rect, const std::string& text) {
+  rect = KeptOnScreen(rect);
+  SetCaption(text);
+  SetBounds(rect.Left, rect.Top, rect.Width(), rect.Height());
+  ::SetWindowPos(Handle(), HWND_TOPMOST, rect.Left, rect.Top, rect.Width(), rect.Height(),
+                 SWP_SHOWWINDOW | SWP_NOACTIVATE);
+  Invalidate();
+  Update();
+}
+
+void THintWindow::ReleaseHandle() { DestroyHandle(); }
+
+void THintWindow::Paint() {
+  TRect rect = ClientRect();
+  TBrush back;
+  back.SetColor(Color());
+  const RECT area = rect;
+  ::FillRect(Canvas()->Handle(), &area, back.Handle());
+  rect.Inflate(-MarginX, -MarginY);
+  RECT place = rect;
+  std::string text = Caption();
+  ::DrawTextExA(Canvas()->Handle(), text.data(), static_cast<int>(text.size()), &place, TextFlags,
+                nullptr);
+}
+
+}  // namespace vcl
