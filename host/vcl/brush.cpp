@@ -40,8 +40,8 @@ void TBrush::Assign(const TPersistent* source) {
   Changed();
 }
 
-bool operator==(const TBrush& a, const TBrush& b) {
-  return a.FColor == b.FColor && a.FStyle == b.FStyle && a.FBitmap == b.FBitmap;
+bool TBrush::operator==(const TBrush& other) const {
+  return FColor == other.FColor && FStyle == other.FStyle && FBitmap == other.FBitmap;
 }
 
 std::shared_ptr<const TOwnedBrush> TBrush::Share() const {

@@ -56,7 +56,7 @@ class VCL_API TBrush : public TGraphicsObject {
   /// drawn all the same, gives it the complement of the brush's colour.
   void ApplyBackground(HDC dc) const;
 
-  friend bool operator==(const TBrush& a, const TBrush& b);
+  bool operator==(const TBrush& other) const;
 
  private:
   void Remake();

@@ -112,10 +112,10 @@ void TFont::Assign(const TPersistent* source) {
   Changed();
 }
 
-bool operator==(const TFont& a, const TFont& b) {
-  return a.FName == b.FName && a.FHeight == b.FHeight && a.FPixelsPerInch == b.FPixelsPerInch &&
-         a.FStyle == b.FStyle && a.FColor == b.FColor && a.FPitch == b.FPitch &&
-         a.FCharset == b.FCharset;
+bool TFont::operator==(const TFont& other) const {
+  return FName == other.FName && FHeight == other.FHeight &&
+         FPixelsPerInch == other.FPixelsPerInch && FStyle == other.FStyle &&
+         FColor == other.FColor && FPitch == other.FPitch && FCharset == other.FCharset;
 }
 
 LOGFONTA TFont::LogFont() const {

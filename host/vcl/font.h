@@ -69,7 +69,7 @@ class VCL_API TFont : public TGraphicsObject {
   /// EArgumentOutOfRangeException for less than 1.
   void SetPixelsPerInch(int pixels);
 
-  friend bool operator==(const TFont& a, const TFont& b);
+  bool operator==(const TFont& other) const;
 
  private:
   /// The look has changed: the handle is given up.

@@ -30,8 +30,9 @@ void TPen::Assign(const TPersistent* source) {
   Changed();
 }
 
-bool operator==(const TPen& a, const TPen& b) {
-  return a.FColor == b.FColor && a.FWidth == b.FWidth && a.FStyle == b.FStyle && a.FMode == b.FMode;
+bool TPen::operator==(const TPen& other) const {
+  return FColor == other.FColor && FWidth == other.FWidth && FStyle == other.FStyle &&
+         FMode == other.FMode;
 }
 
 std::shared_ptr<const TOwnedPen> TPen::Share() const {

@@ -64,7 +64,7 @@ class VCL_API TPen : public TGraphicsObject {
   TPenMode Mode() const { return FMode; }
   void SetMode(TPenMode mode);
 
-  friend bool operator==(const TPen& a, const TPen& b);
+  bool operator==(const TPen& other) const;
 
  private:
   void Remake();

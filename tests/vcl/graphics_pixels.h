@@ -1,0 +1,50 @@
+// What tests of drawing look at: a bitmap's pixels as a drawing of letters, and the process's handles.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/vcl/graphics.h"
+
+namespace vcl::test {
+
+/// One line per row, one letter per pixel; "?" for a colour without a letter.
+inline std::vector<std::string> Letters(TBitmap& bitmap) {
+  static const std::map<TColor, char> letters = {{clWhite, '.'}, {clBlack, 'K'}, {clRed, 'R'},
+                                                 {clLime, 'G'},  {clBlue, 'B'},  {clYellow, 'Y'},
+                                                 {clFuchsia, 'F'}};
+  std::vector<std::string> rows;
+  for (int y = 0; y < bitmap.Height(); ++y) {
+    std::string row;
+    for (int x = 0; x < bitmap.Width(); ++x) {
+      const auto found = letters.find(bitmap.Canvas()->Pixels(x, y));
+      row += found == letters.end() ? '?' : found->second;
+    }
+    rows.push_back(row);
+  }
+  return rows;
+}
+
+/// Paints rows of the same letters on a bitmap.
+inline void Paint(TBitmap& bitmap, const std::vector<std::string>& rows) {
+  static const std::map<char, TColor> colors = {{'.', clWhite}, {'K', clBlack}, {'R', clRed},
+                                                {'G', clLime},  {'B', clBlue},  {'Y', clYellow},
+                                                {'F', clFuchsia}};
+  bitmap.SetSize(static_cast<int>(rows[0].size()), static_cast<int>(rows.size()));
+  for (int y = 0; y < bitmap.Height(); ++y) {
+    for (int x = 0; x < bitmap.Width(); ++x) {
+      const auto row = static_cast<std::size_t>(y);
+      bitmap.Canvas()->SetPixel(x, y, colors.at(rows[row][static_cast<std::size_t>(x)]));
+    }
+  }
+}
+
+using Rows = std::vector<std::string>;
+
+inline DWORD GdiHandles() { return ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS); }
+inline DWORD UserHandles() { return ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS); }
+
+}  // namespace vcl::test
