@@ -1,11 +1,11 @@
 // The drawing methods of TCanvas.
-#include <limits>
+#include <vector>
 
-#include "host/rtl/exceptions.h"
 #include "host/vcl/bitmap.h"
 #include "host/vcl/canvas.h"
 #include "host/vcl/graphic.h"
 #include "host/vcl/keyedcopy.h"
+#include "host/vcl/windowtext.h"
 
 namespace vcl {
 
@@ -15,10 +15,22 @@ std::vector<POINT> SystemPoints(std::span<const TPoint> points) {
   return {points.begin(), points.end()};
 }
 
-int Length(const std::string& text) {
-  constexpr std::size_t most = std::numeric_limits<int>::max();
-  return static_cast<int>(text.size() < most ? text.size() : most);
-}
+/// GDI knows no UTF-8, whatever the process's code page, so texts reach it as UTF-16.
+class TDrawnText {
+ public:
+  explicit TDrawnText(const std::string& text) : FText(ToUtf16(text)) {}
+  void Draw(HDC dc, int x, int y, UINT options, const RECT* clip) const {
+    ::ExtTextOutW(dc, x, y, options, clip, FText.data(), static_cast<UINT>(FText.size()), nullptr);
+  }
+  TSize Extent(HDC dc) const {
+    SIZE size{};
+    ::GetTextExtentPoint32W(dc, FText.data(), static_cast<int>(FText.size()), &size);
+    return {static_cast<int>(size.cx), static_cast<int>(size.cy)};
+  }
+
+ private:
+  std::wstring FText;
+};
 
 }  // namespace
 
@@ -100,9 +112,10 @@ void TCanvas::FloodFill(int x, int y, TColor color, TFillStyle fillStyle) {
 // ---- Text ----
 
 void TCanvas::TextOut(int x, int y, const std::string& text) {
+  const TDrawnText drawn(text);
   Paint(needFont | needBrush, [&](HDC dc) {
-    ::ExtTextOutA(dc, x, y, 0, nullptr, text.data(), static_cast<UINT>(Length(text)), nullptr);
-    ::MoveToEx(dc, x + TextWidth(text), y, nullptr);
+    drawn.Draw(dc, x, y, 0, nullptr);
+    ::MoveToEx(dc, x + drawn.Extent(dc).cx, y, nullptr);
   });
 }
 
@@ -111,14 +124,12 @@ void TCanvas::TextRect(const TRect& rect, int x, int y, const std::string& text)
   const bool fills = FBrush.Style() != bsClear;
   Paint(needFont | needBrush, [&](HDC dc) {
     if (fills) ::FillRect(dc, &r, FBrush.Handle());
-    ::ExtTextOutA(dc, x, y, ETO_CLIPPED, &r, text.data(), static_cast<UINT>(Length(text)), nullptr);
+    TDrawnText(text).Draw(dc, x, y, ETO_CLIPPED, &r);
   });
 }
 
 TSize TCanvas::TextExtent(const std::string& text) {
-  SIZE size{};
-  ::GetTextExtentPoint32A(Required(needFont), text.data(), Length(text), &size);
-  return {static_cast<int>(size.cx), static_cast<int>(size.cy)};
+  return TDrawnText(text).Extent(Required(needFont));
 }
 
 // ---- Pictures ----

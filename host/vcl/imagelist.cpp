@@ -136,9 +136,12 @@ int TImageList::Added(int index) {
 int TImageList::Add(TBitmap* image, TBitmap* mask) {
   CheckStrip(image);
   const TPlainCopy pixels(image);
+  // Given no mask, the common controls keep what an earlier image has left in its place.
   TBitmap holes;
-  holes.Assign(mask);
-  if (!holes.Empty()) holes.SetPixelFormat(pf1bit);
+  holes.Canvas()->Brush()->SetColor(clBlack);
+  if (mask) holes.Assign(mask);
+  if (holes.Empty()) holes.SetSize(image->Width(), image->Height());
+  holes.SetPixelFormat(pf1bit);
   return Added(::ImageList_Add(Handle(), pixels.Handle(), holes.Handle()));
 }
 

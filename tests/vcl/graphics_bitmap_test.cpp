@@ -48,8 +48,7 @@ TEST(Bitmap, TellsWhenItIsDrawnOn) {
 
 TEST(Bitmap, ConvertsBetweenDepthsToTheNearestColors) {
   const Rows picture = {"RGBKYF.", ".FYKBGR"};
-  for (const TPixelFormat format :
-       {pf4bit, pf8bit, pf15bit, pf16bit, pf24bit, pf32bit, pfDevice}) {
+  for (const TPixelFormat format : {pf4bit, pf8bit, pf15bit, pf16bit, pf24bit, pf32bit, pfDevice}) {
     TBitmap bitmap;
     Paint(bitmap, picture);
     bitmap.SetPixelFormat(format);
@@ -61,7 +60,7 @@ TEST(Bitmap, ConvertsBetweenDepthsToTheNearestColors) {
   TBitmap two;
   Paint(two, picture);
   two.SetPixelFormat(pf1bit);
-  EXPECT_EQ(Letters(two), (Rows{"K.KK...", "...KK.K"}));
+  EXPECT_EQ(Letters(two), (Rows{"KKKK...", "...KKKK"}));
   EXPECT_THROW(two.SetPixelFormat(pfCustom), EInvalidGraphic);
 }
 
@@ -112,7 +111,8 @@ TEST(Bitmap, AnEmptyOneMeasuresTexts) {
 
 std::string Number(std::int64_t value, int size) {
   std::string bytes;
-  for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> 8 * i);
+  for (int i = 0; i < size; ++i)
+    bytes += static_cast<char>(value >> 8 * i);
   return bytes;
 }
 
@@ -149,14 +149,16 @@ struct BmpFile {
 
 std::string Bytes(std::initializer_list<int> values) {
   std::string bytes;
-  for (const int value : values) bytes += static_cast<char>(value);
+  for (const int value : values)
+    bytes += static_cast<char>(value);
   return bytes;
 }
 
 /// Black, red, lime and blue, of three or four bytes each, filled up to `count`.
 std::string Palette(int size, int count) {
   std::string bytes;
-  for (const int color : {0x000000, 0xFF0000, 0x00FF00, 0x0000FF}) bytes += Number(color, size);
+  for (const int color : {0x000000, 0xFF0000, 0x00FF00, 0x0000FF})
+    bytes += Number(color, size);
   bytes.resize(static_cast<std::size_t>(size * count));
   return bytes;
 }
@@ -192,56 +194,115 @@ struct GoodFile {
 std::string Zeros(int count) { return std::string(static_cast<std::size_t>(count), '\0'); }
 
 const GoodFile GoodFiles[] = {
-    {"1 bit", {.Width = 9, .Height = 2, .BitCount = 1, .Behind = Palette(4, 2),
-               .Bits = Bytes({0x80, 0, 0, 0, 0x01, 0x80, 0, 0})},
-     pf1bit, {"KKKKKKKRR", "RKKKKKKKK"}},
-    {"4 bits", {.Width = 3, .Height = 2, .BitCount = 4, .Behind = Palette(4, 16),
-                .Bits = Bytes({0x01, 0x20, 0, 0, 0x12, 0x30, 0, 0})}, pf4bit},
-    {"8 bits with few colours", {.Width = 3, .Height = 2, .BitCount = 8, .Used = 4,
-                                 .Behind = Palette(4, 4),
-                                 .Bits = Bytes({0, 1, 2, 0, 1, 2, 3, 0})}, pf8bit},
-    {"the first header, 8 bits", {.HeaderSize = 12, .Width = 3, .Height = 2, .BitCount = 8,
-                                  .Behind = Palette(3, 256),
-                                  .Bits = Bytes({0, 1, 2, 0, 1, 2, 3, 0})}, pf8bit},
-    {"the first header, 24 bits", {.HeaderSize = 12, .Width = 3, .Height = 2, .Bits = Pixels24()},
+    {"1 bit",
+     {.Width = 9,
+      .Height = 2,
+      .BitCount = 1,
+      .Behind = Palette(4, 2),
+      .Bits = Bytes({0x80, 0, 0, 0, 0x01, 0x80, 0, 0})},
+     pf1bit,
+     {"KKKKKKKRR", "RKKKKKKKK"}},
+    {"4 bits",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 4,
+      .Behind = Palette(4, 16),
+      .Bits = Bytes({0x01, 0x20, 0, 0, 0x12, 0x30, 0, 0})},
+     pf4bit},
+    {"8 bits with few colours",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 8,
+      .Used = 4,
+      .Behind = Palette(4, 4),
+      .Bits = Bytes({0, 1, 2, 0, 1, 2, 3, 0})},
+     pf8bit},
+    {"the first header, 8 bits",
+     {.HeaderSize = 12,
+      .Width = 3,
+      .Height = 2,
+      .BitCount = 8,
+      .Behind = Palette(3, 256),
+      .Bits = Bytes({0, 1, 2, 0, 1, 2, 3, 0})},
+     pf8bit},
+    {"the first header, 24 bits",
+     {.HeaderSize = 12, .Width = 3, .Height = 2, .Bits = Pixels24()},
      pf24bit},
-    {"16 bits", {.Width = 3, .Height = 2, .BitCount = 16,
-                 .Bits = Number(0, 2) + Number(0x7C00, 2) + Number(0x03E0, 4) + Number(0x7C00, 2) +
-                         Number(0x03E0, 2) + Number(0x001F, 4)}, pf15bit},
-    {"16 bits, 6 of green", {.Width = 3, .Height = 2, .BitCount = 16, .Compression = 3,
-                             .Behind = Number(0xF800, 4) + Number(0x07E0, 4) + Number(0x1F, 4),
-                             .Bits = Number(0, 2) + Number(0xF800, 2) + Number(0x07E0, 4) +
-                                     Number(0xF800, 2) + Number(0x07E0, 2) + Number(0x001F, 4)},
+    {"16 bits",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 16,
+      .Bits = Number(0, 2) + Number(0x7C00, 2) + Number(0x03E0, 4) + Number(0x7C00, 2) +
+              Number(0x03E0, 2) + Number(0x001F, 4)},
+     pf15bit},
+    {"16 bits, 6 of green",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 16,
+      .Compression = 3,
+      .Behind = Number(0xF800, 4) + Number(0x07E0, 4) + Number(0x1F, 4),
+      .Bits = Number(0, 2) + Number(0xF800, 2) + Number(0x07E0, 4) + Number(0xF800, 2) +
+              Number(0x07E0, 2) + Number(0x001F, 4)},
      pf16bit},
-    {"16 bits, 4 a channel", {.Width = 3, .Height = 2, .BitCount = 16, .Compression = 3,
-                              .Behind = Number(0x0F, 4) + Number(0xF0, 4) + Number(0xF00, 4),
-                              .Bits = Number(0, 2) + Number(0x0F, 2) + Number(0xF0, 4) +
-                                      Number(0x0F, 2) + Number(0xF0, 2) + Number(0xF00, 4)},
+    {"16 bits, 4 a channel",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 16,
+      .Compression = 3,
+      .Behind = Number(0x0F, 4) + Number(0xF0, 4) + Number(0xF00, 4),
+      .Bits = Number(0, 2) + Number(0x0F, 2) + Number(0xF0, 4) + Number(0x0F, 2) + Number(0xF0, 2) +
+              Number(0xF00, 4)},
      pf32bit},
     {"24 bits", {.Width = 3, .Height = 2, .Bits = Pixels24()}, pf24bit},
-    {"24 bits with a table of colours", {.Width = 3, .Height = 2, .Used = 4,
-                                         .Behind = Palette(4, 4), .Bits = Pixels24()}, pf24bit},
+    {"24 bits with a table of colours",
+     {.Width = 3, .Height = 2, .Used = 4, .Behind = Palette(4, 4), .Bits = Pixels24()},
+     pf24bit},
     {"32 bits", {.Width = 3, .Height = 2, .BitCount = 32, .Bits = Pixels32()}, pf32bit},
     {"32 bits, red first, version 4",
-     {.HeaderSize = 108, .Width = 3, .Height = 2, .BitCount = 32, .Compression = 3,
+     {.HeaderSize = 108,
+      .Width = 3,
+      .Height = 2,
+      .BitCount = 32,
+      .Compression = 3,
       .Behind = Number(0xFF, 4) + Number(0xFF00, 4) + Number(0xFF0000, 4) + Zeros(56),
       .Bits = Number(0, 4) + Number(0xFF, 4) + Number(0xFF00, 4) + Number(0xFF, 4) +
-              Number(0xFF00, 4) + Number(0xFF0000, 4)}, pf32bit},
-    {"version 5", {.HeaderSize = 124, .Width = 3, .Height = 2, .Behind = Zeros(84),
-                   .Bits = Pixels24()}, pf24bit},
+              Number(0xFF00, 4) + Number(0xFF0000, 4)},
+     pf32bit},
+    {"version 5",
+     {.HeaderSize = 124, .Width = 3, .Height = 2, .Behind = Zeros(84), .Bits = Pixels24()},
+     pf24bit},
     {"top row first", {.Width = 3, .Height = -2, .Bits = Pixels24()}, pf24bit, {"KRG", "RGB"}},
-    {"a gap before the pixels", {.Width = 3, .Height = 2, .Bits = Zeros(10) + Pixels24(),
-                                 .Offset = 64}, pf24bit},
-    {"runs of 8 bits", {.Width = 3, .Height = 2, .BitCount = 8, .Compression = 1, .Used = 4,
-                        .Behind = Palette(4, 4),
-                        .Bits = Bytes({1, 0, 1, 1, 1, 2, 0, 0, 0, 3, 1, 2, 3, 0, 0, 1})}, pf8bit},
-    {"runs of 4 bits", {.Width = 3, .Height = 2, .BitCount = 4, .Compression = 2,
-                        .Behind = Palette(4, 16),
-                        .Bits = Bytes({0, 3, 0x01, 0x20, 0, 0, 3, 0x12, 0, 1})},
-     pf4bit, {"RGR", "KRG"}},
-    {"runs that skip", {.Width = 3, .Height = 2, .BitCount = 8, .Compression = 1, .Used = 4,
-                        .Behind = Palette(4, 4), .Bits = Bytes({0, 2, 1, 1, 2, 3, 0, 1})},
-     pf8bit, {"KBB", "KKK"}},
+    {"a gap before the pixels",
+     {.Width = 3, .Height = 2, .Bits = Zeros(10) + Pixels24(), .Offset = 64},
+     pf24bit},
+    {"runs of 8 bits",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 8,
+      .Compression = 1,
+      .Used = 4,
+      .Behind = Palette(4, 4),
+      .Bits = Bytes({1, 0, 1, 1, 1, 2, 0, 0, 0, 3, 1, 2, 3, 0, 0, 1})},
+     pf8bit},
+    {"runs of 4 bits",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 4,
+      .Compression = 2,
+      .Behind = Palette(4, 16),
+      .Bits = Bytes({0, 3, 0x01, 0x20, 0, 0, 3, 0x12, 0, 1})},
+     pf4bit,
+     {"RGR", "KRG"}},
+    {"runs that skip",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 8,
+      .Compression = 1,
+      .Used = 4,
+      .Behind = Palette(4, 4),
+      .Bits = Bytes({0, 2, 1, 1, 2, 3, 0, 1})},
+     pf8bit,
+     {"KBB", "KKK"}},
 };
 
 TEST(BitmapFile, ReadsEverySortAndWritesItBackPixelForPixel) {
@@ -281,8 +342,8 @@ TEST(BitmapFile, SystemReadsWhatIsWritten) {
     const std::string name = "graphics_bitmap_test.bmp";
     bitmap.SaveToFile(name);
     TBitmap bySystem;
-    bySystem.SetHandle(static_cast<HBITMAP>(
-        ::LoadImageA(nullptr, name.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
+    bySystem.SetHandle(static_cast<HBITMAP>(::LoadImageA(nullptr, name.c_str(), IMAGE_BITMAP, 0, 0,
+                                                         LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
     EXPECT_EQ(Letters(bySystem), (Rows{"K.K.K", "..KK."})) << format;
     TBitmap again;
     again.LoadFromFile(name);
@@ -311,34 +372,80 @@ const BadFile BadFiles[] = {
     {"2147483648", {.Width = 1, .Height = -2147483648LL, .Bits = Pixels24()}},
     {"1073741825", {.Width = 0x40000001, .Height = 4, .BitCount = 32, .Bits = Pixels32()}},
     {"65536 by 65536", {.Width = 65536, .Height = 65536, .BitCount = 1, .Behind = Palette(4, 2)}},
-    {"pixels takes 24 bytes, of which 23", {.Width = 3, .Height = 2,
-                                            .Bits = Pixels24().substr(0, 23)}},
-    {"257 colours", {.Width = 3, .Height = 2, .BitCount = 8, .Used = 257,
-                     .Behind = Palette(4, 257), .Bits = Zeros(8)}},
-    {"table of colours takes 1024", {.Width = 3, .Height = 2, .BitCount = 8,
-                                     .Behind = Palette(4, 4)}},
+    {"pixels takes 24 bytes, of which 23",
+     {.Width = 3, .Height = 2, .Bits = Pixels24().substr(0, 23)}},
+    {"257 colours",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 8,
+      .Used = 257,
+      .Behind = Palette(4, 257),
+      .Bits = Zeros(8)}},
+    {"table of colours takes 1024",
+     {.Width = 3, .Height = 2, .BitCount = 8, .Behind = Palette(4, 4)}},
     {"at 20, inside", {.Width = 3, .Height = 2, .Bits = Pixels24(), .Offset = 20}},
     {"cut off before its pixels", {.Width = 3, .Height = 2, .Bits = Pixels24(), .Offset = 5000}},
-    {"a mask for a colour that is none", {.Width = 3, .Height = 2, .BitCount = 16, .Compression = 3,
-                                          .Behind = Number(0x7D00, 4) + Number(0x3E0, 4) + Number(0x1F, 4),
-                                          .Bits = Zeros(16)}},
-    {"a mask for a colour that is none", {.Width = 3, .Height = 2, .BitCount = 16, .Compression = 3,
-                                          .Behind = Number(0xFF0000, 4) + Number(0x3E0, 4) + Number(0x1F, 4),
-                                          .Bits = Zeros(16)}},
-    {"top row first", {.Width = 3, .Height = -2, .BitCount = 8, .Compression = 1,
-                       .Behind = Palette(4, 256), .Bits = Bytes({0, 1})}},
-    {"run-length codes end in row 0", {.Width = 3, .Height = 2, .BitCount = 8, .Compression = 1,
-                                       .Used = 4, .Behind = Palette(4, 4), .Bits = Bytes({3, 1})}},
-    {"lead to column 3, row 0", {.Width = 3, .Height = 2, .BitCount = 8, .Compression = 1,
-                                 .Used = 4, .Behind = Palette(4, 4), .Bits = Bytes({255, 1, 0, 1})}},
-    {"lead to column 0, row 2", {.Width = 3, .Height = 2, .BitCount = 4, .Compression = 2,
-                                 .Behind = Palette(4, 16),
-                                 .Bits = Bytes({0, 0, 0, 0, 1, 1, 0, 1})}},
-    {"lead to column 200, row 0", {.Width = 3, .Height = 2, .BitCount = 8, .Compression = 1,
-                                   .Used = 4, .Behind = Palette(4, 4), .Bits = Bytes({0, 2, 200, 0, 0, 1})}},
-    {"pixels takes 4000000000", {.Width = 3, .Height = 2, .BitCount = 8, .Compression = 1,
-                                 .ImageSize = 4000000000LL, .Used = 4, .Behind = Palette(4, 4),
-                                 .Bits = Bytes({0, 1})}},
+    {"a mask for a colour that is none",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 16,
+      .Compression = 3,
+      .Behind = Number(0x7D00, 4) + Number(0x3E0, 4) + Number(0x1F, 4),
+      .Bits = Zeros(16)}},
+    {"a mask for a colour that is none",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 16,
+      .Compression = 3,
+      .Behind = Number(0xFF0000, 4) + Number(0x3E0, 4) + Number(0x1F, 4),
+      .Bits = Zeros(16)}},
+    {"top row first",
+     {.Width = 3,
+      .Height = -2,
+      .BitCount = 8,
+      .Compression = 1,
+      .Behind = Palette(4, 256),
+      .Bits = Bytes({0, 1})}},
+    {"run-length codes end in row 0",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 8,
+      .Compression = 1,
+      .Used = 4,
+      .Behind = Palette(4, 4),
+      .Bits = Bytes({3, 1})}},
+    {"lead to column 3, row 0",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 8,
+      .Compression = 1,
+      .Used = 4,
+      .Behind = Palette(4, 4),
+      .Bits = Bytes({255, 1, 0, 1})}},
+    {"lead to column 0, row 2",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 4,
+      .Compression = 2,
+      .Behind = Palette(4, 16),
+      .Bits = Bytes({0, 0, 0, 0, 1, 1, 0, 1})}},
+    {"lead to column 200, row 0",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 8,
+      .Compression = 1,
+      .Used = 4,
+      .Behind = Palette(4, 4),
+      .Bits = Bytes({0, 2, 200, 0, 0, 1})}},
+    {"pixels takes 4000000000",
+     {.Width = 3,
+      .Height = 2,
+      .BitCount = 8,
+      .Compression = 1,
+      .ImageSize = 4000000000LL,
+      .Used = 4,
+      .Behind = Palette(4, 4),
+      .Bits = Bytes({0, 1})}},
 };
 
 TEST(BitmapFile, RefusesDamagedOnesAndKeepsTheOldPicture) {
@@ -361,7 +468,8 @@ TEST(BitmapFile, RefusesEveryTruncation) {
     const std::string whole = good.File.Bytes();
     TBitmap bitmap;
     for (std::size_t size = 0; size + 2 < whole.size(); ++size) {
-      ASSERT_THROW(Loaded(bitmap, whole.substr(0, size)), EInvalidGraphic) << good.What << ", " << size;
+      ASSERT_THROW(Loaded(bitmap, whole.substr(0, size)), EInvalidGraphic)
+          << good.What << ", " << size;
     }
     EXPECT_TRUE(bitmap.Empty());
   }
@@ -373,10 +481,10 @@ class TPictured : public TComponent {
  public:
   explicit TPictured(TComponent* owner) : TComponent(owner) {}
   static const TClass& Class() {
-    static const TClass info = Describe<TPictured, TComponent>(
-        "TPictured", "test",
-        {Property<&TPictured::Glyph, &TPictured::SetGlyph>("Glyph"),
-         Property<&TPictured::Font, &TPictured::SetFont>("Font")});
+    static const TClass info =
+        Describe<TPictured, TComponent>("TPictured", "test",
+                                        {Property<&TPictured::Glyph, &TPictured::SetGlyph>("Glyph"),
+                                         Property<&TPictured::Font, &TPictured::SetFont>("Font")});
     return info;
   }
   const TClass& ClassType() const override { return Class(); }

@@ -19,7 +19,8 @@ Rows Drawn(TImageList& list, int index) {
 void AddTwo(TImageList& list) {
   TBitmap strip;
   Paint(strip, {"RFFBFB", "FRFFKF", "FFRBFB"});
-  EXPECT_EQ(list.AddMasked(&strip, clFuchsia), list.Count() - 2);
+  const int first = list.Count();
+  EXPECT_EQ(list.AddMasked(&strip, clFuchsia), first);
   EXPECT_EQ(Letters(strip)[0], "RFFBFB") << "the bitmap stays as it was";
 }
 const Rows First = {"RYY", "YRY", "YYR"};
@@ -183,7 +184,8 @@ TEST(Icon, ShowsTheImageNearestTheWantedSize) {
   std::string first = a.DataString();
   std::string second = b.DataString();
   const auto offset = [](std::string& file, std::size_t value) {
-    for (std::size_t i = 0; i < 4; ++i) file[18 + i] = static_cast<char>(value >> 8 * i);
+    for (std::size_t i = 0; i < 4; ++i)
+      file[18 + i] = static_cast<char>(value >> 8 * i);
   };
   offset(first, 38);
   offset(second, 38 + first.size() - 22);
@@ -212,10 +214,16 @@ TEST(Icon, RefusesDamagedFilesAndKeepsTheOldOne) {
     file[at] = value;
     return file;
   };
-  const std::string files[] = {
-      "", std::string(6, '\0'), spoilt(2, 2), spoilt(4, 0), spoilt(4, 9), spoilt(18, 3),
-      spoilt(11 + 6, '\x7F'), spoilt(14, 0) /* smaller */, spoilt(22, 99),
-      good.DataString().substr(0, good.DataString().size() - 1)};
+  const std::string files[] = {"",
+                               std::string(6, '\0'),
+                               spoilt(2, 2),
+                               spoilt(4, 0),
+                               spoilt(4, 9),
+                               spoilt(18, 3),
+                               spoilt(11 + 6, '\x7F'),
+                               spoilt(14, 0) /* smaller */,
+                               spoilt(22, 99),
+                               good.DataString().substr(0, good.DataString().size() - 1)};
   const HICON before = icon.Handle();
   for (const std::string& file : files) {
     if (file == good.DataString()) continue;
@@ -241,11 +249,13 @@ TEST(ImageList, ThousandsOfUsesKeepNoHandle) {
     read.LoadFromStream(stream);
     bitmap.Canvas()->Draw(0, 0, &read);
   };
-  for (int i = 0; i < 5; ++i) use();
+  for (int i = 0; i < 5; ++i)
+    use();
   FreeDeviceContexts();
   const DWORD gdi = GdiHandles();
   const DWORD user = UserHandles();
-  for (int i = 0; i < 1000; ++i) use();
+  for (int i = 0; i < 1000; ++i)
+    use();
   FreeDeviceContexts();
   EXPECT_EQ(GdiHandles(), gdi);
   EXPECT_EQ(UserHandles(), user);

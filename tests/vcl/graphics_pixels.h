@@ -1,4 +1,5 @@
-// What tests of drawing look at: a bitmap's pixels as a drawing of letters, and the process's handles.
+// What tests of drawing look at: a bitmap's pixels as a drawing of letters, and the process's
+// handles.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,8 +14,8 @@ namespace vcl::test {
 
 /// One line per row, one letter per pixel; "?" for a colour without a letter.
 inline std::vector<std::string> Letters(TBitmap& bitmap) {
-  static const std::map<TColor, char> letters = {{clWhite, '.'}, {clBlack, 'K'}, {clRed, 'R'},
-                                                 {clLime, 'G'},  {clBlue, 'B'},  {clYellow, 'Y'},
+  static const std::map<TColor, char> letters = {{clWhite, '.'},  {clBlack, 'K'}, {clRed, 'R'},
+                                                 {clLime, 'G'},   {clBlue, 'B'},  {clYellow, 'Y'},
                                                  {clFuchsia, 'F'}};
   std::vector<std::string> rows;
   for (int y = 0; y < bitmap.Height(); ++y) {
@@ -30,8 +31,8 @@ inline std::vector<std::string> Letters(TBitmap& bitmap) {
 
 /// Paints rows of the same letters on a bitmap.
 inline void Paint(TBitmap& bitmap, const std::vector<std::string>& rows) {
-  static const std::map<char, TColor> colors = {{'.', clWhite}, {'K', clBlack}, {'R', clRed},
-                                                {'G', clLime},  {'B', clBlue},  {'Y', clYellow},
+  static const std::map<char, TColor> colors = {{'.', clWhite},  {'K', clBlack}, {'R', clRed},
+                                                {'G', clLime},   {'B', clBlue},  {'Y', clYellow},
                                                 {'F', clFuchsia}};
   bitmap.SetSize(static_cast<int>(rows[0].size()), static_cast<int>(rows.size()));
   for (int y = 0; y < bitmap.Height(); ++y) {

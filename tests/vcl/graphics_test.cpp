@@ -12,12 +12,16 @@ TEST(Colors, SystemColorsAreThePresentOnesAndOthersTheirLower24Bits) {
     TColor Color;
     COLORREF Rgb;
   } cases[] = {
-      {clRed, 0x0000FF},          {static_cast<TColor>(0x02123456), 0x123456},
-      {clNone, 0xFFFFFF},         {clDefault, 0},
-      {clScrollBar, ::GetSysColor(COLOR_SCROLLBAR)}, {clBtnFace, ::GetSysColor(COLOR_BTNFACE)},
+      {clRed, 0x0000FF},
+      {static_cast<TColor>(0x02123456), 0x123456},
+      {clNone, 0xFFFFFF},
+      {clDefault, 0},
+      {clScrollBar, ::GetSysColor(COLOR_SCROLLBAR)},
+      {clBtnFace, ::GetSysColor(COLOR_BTNFACE)},
       {clInfoBk, ::GetSysColor(COLOR_INFOBK)},
   };
-  for (const auto& c : cases) EXPECT_EQ(ColorToRGB(c.Color), c.Rgb) << std::hex << c.Color;
+  for (const auto& c : cases)
+    EXPECT_EQ(ColorToRGB(c.Color), c.Rgb) << std::hex << c.Color;
 }
 
 // ---- The objects ----
@@ -141,11 +145,14 @@ TEST(Canvas, DrawsShapes) {
     void (*Draw)(TCanvas&);
     Rows Expected;
   } cases[] = {
-      {"a filled rectangle has no outline", [](TCanvas& c) { c.FillRect(Rect(1, 0, 3, 2)); },
+      {"a filled rectangle has no outline",
+       [](TCanvas& c) { c.FillRect(Rect(1, 0, 3, 2)); },
        {".RR..", ".RR..", ".....", "....."}},
-      {"a rectangle has the pen around the brush", [](TCanvas& c) { c.Rectangle(0, 0, 4, 4); },
+      {"a rectangle has the pen around the brush",
+       [](TCanvas& c) { c.Rectangle(0, 0, 4, 4); },
        {"BBBB.", "BRRB.", "BRRB.", "BBBB."}},
-      {"a frame is in the brush", [](TCanvas& c) { c.FrameRect(Rect(0, 1, 5, 4)); },
+      {"a frame is in the brush",
+       [](TCanvas& c) { c.FrameRect(Rect(0, 1, 5, 4)); },
        {".....", "RRRRR", "R...R", "RRRRR"}},
       {"a line leaves its last point out",
        [](TCanvas& c) {
@@ -178,7 +185,10 @@ TEST(Canvas, DrawsShapes) {
          c.Pen()->SetStyle(psClear);
          c.Rectangle(0, 0, 4, 3);
        },
-       {"RRR..", "RR" "R..", ".....", "....."}},
+       {"RRR..",
+        "RR"
+        "R..",
+        ".....", "....."}},
       {"not and xor",
        [](TCanvas& c) {
          c.FillRect(Rect(0, 0, 5, 1));
@@ -292,7 +302,8 @@ TEST(Canvas, TextIsWhatTheSystemDraws) {
     ::GetTextExtentPoint32W(dc.Get(), wide.c_str(), static_cast<int>(wide.size()), &size);
   }
   ASSERT_GT(size.cx, 60);
-  EXPECT_EQ(drawn.Canvas()->TextExtent(text), (TSize{static_cast<int>(size.cx), static_cast<int>(size.cy)}));
+  EXPECT_EQ(drawn.Canvas()->TextExtent(text),
+            (TSize{static_cast<int>(size.cx), static_cast<int>(size.cy)}));
   EXPECT_EQ(drawn.Canvas()->PenPos(), Point(3 + static_cast<int>(size.cx), 4));
   for (int y = 0; y < height; ++y) {
     ASSERT_EQ(std::memcmp(drawn.ScanLine(y), expected.ScanLine(y), width * 4), 0) << "row " << y;
@@ -332,14 +343,22 @@ TEST(Canvas, BrushCopyReplacesAColorByTheBrush) {
     TRect Dest;
     Rows Expected;
   } cases[] = {
-      {"solid", [](TBrush& b, TBitmap&) { b.SetColor(clRed); }, Rect(1, 1, 4, 4),
+      {"solid",
+       [](TBrush& b, TBitmap&) { b.SetColor(clRed); },
+       Rect(1, 1, 4, 4),
        {"YYYYY", "YGRGY", "YRRRY", "YGRGY", "YYYYY"}},
-      {"clear: what was there stays", [](TBrush& b, TBitmap&) { b.SetStyle(bsClear); },
-       Rect(1, 1, 4, 4), {"YYYYY", "YGYGY", "YYYYY", "YGYGY", "YYYYY"}},
-      {"a pattern, lined up with the canvas", [](TBrush& b, TBitmap& p) { b.SetBitmap(&p); },
-       Rect(1, 1, 4, 4), {"YYYYY", "YGBGY", "YBRBY", "YGBGY", "YYYYY"}},
-      {"a part outside is cut off", [](TBrush& b, TBitmap&) { b.SetColor(clRed); },
-       Rect(-1, 3, 2, 6), {"YYYYY", "YYYYY", "YYYYY", "RGYYY", "RRYYY"}},
+      {"clear: what was there stays",
+       [](TBrush& b, TBitmap&) { b.SetStyle(bsClear); },
+       Rect(1, 1, 4, 4),
+       {"YYYYY", "YGYGY", "YYYYY", "YGYGY", "YYYYY"}},
+      {"a pattern, lined up with the canvas",
+       [](TBrush& b, TBitmap& p) { b.SetBitmap(&p); },
+       Rect(1, 1, 4, 4),
+       {"YYYYY", "YGBGY", "YBRBY", "YGBGY", "YYYYY"}},
+      {"a part outside is cut off",
+       [](TBrush& b, TBitmap&) { b.SetColor(clRed); },
+       Rect(-1, 3, 2, 6),
+       {"YYYYY", "YYYYY", "YYYYY", "RGYYY", "RRYYY"}},
   };
   for (const auto& test : cases) {
     TBitmap bitmap;
@@ -421,11 +440,13 @@ TEST(Canvas, TenThousandPaintsKeepNoHandle) {
     temporary.Canvas()->FillRect(Rect(0, 0, 4, 4));
     if (i % 7 == 0) FreeDeviceContexts();
   };
-  for (int i = 0; i < 14; ++i) paint(i);
+  for (int i = 0; i < 14; ++i)
+    paint(i);
   FreeDeviceContexts();
   const DWORD gdi = GdiHandles();
   const DWORD user = UserHandles();
-  for (int i = 0; i < 10000; ++i) paint(i);
+  for (int i = 0; i < 10000; ++i)
+    paint(i);
   FreeDeviceContexts();
   EXPECT_EQ(GdiHandles(), gdi);
   EXPECT_EQ(UserHandles(), user);
