@@ -64,12 +64,13 @@ void CloseFile(std::intptr_t file) { CloseHandle(Handle(file)); }
 
 std::int64_t ReadFile(std::intptr_t file, void* buffer, std::int64_t count) {
   DWORD done = 0;
-  return ::ReadFile(Handle(file), buffer, Portion(count), &done, nullptr) ? done : -1;
+  return ::ReadFile(Handle(file), buffer, Portion(count), &done, nullptr) ? std::int64_t{done} : -1;
 }
 
 std::int64_t WriteFile(std::intptr_t file, const void* buffer, std::int64_t count) {
   DWORD done = 0;
-  return ::WriteFile(Handle(file), buffer, Portion(count), &done, nullptr) ? done : -1;
+  return ::WriteFile(Handle(file), buffer, Portion(count), &done, nullptr) ? std::int64_t{done}
+                                                                           : -1;
 }
 
 std::int64_t SeekFile(std::intptr_t file, std::int64_t offset, int origin) {
@@ -88,7 +89,7 @@ std::int64_t SizeOfFile(std::intptr_t file) {
 bool SetSizeOfFile(std::intptr_t file, std::int64_t size) {
   const std::int64_t position = SeekFile(file, 0, 1);
   const bool done = SeekFile(file, size, 0) >= 0 && SetEndOfFile(Handle(file));
-  SeekFile(file, std::min(position, size), 0);
+  SeekFile(file, position, 0);
   return done;
 }
 

@@ -167,7 +167,10 @@ std::int64_t TFileStream::Size() const {
 }
 
 void TFileStream::SetSize(std::int64_t size) {
-  if (os::SetSizeOfFile(FHandle, size)) return;
+  if (os::SetSizeOfFile(FHandle, size)) {
+    if (Position() > size) SetPosition(size);
+    return;
+  }
   throw EStreamError(Concat("Cannot set the size of \"", FFileName, "\": ", os::LastErrorText()));
 }
 

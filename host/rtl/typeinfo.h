@@ -1,6 +1,7 @@
 // Types of published properties: their kind, name, and how their values are spelled in a form file.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <optional>
@@ -103,11 +104,12 @@ constexpr std::int64_t CountNames(std::string_view values) {
 }
 
 template <class T>
-TTypeInfo NumberInfo() {
-  if constexpr (std::is_floating_point_v<T>) return {TTypeKind::Float, NumberName<T>()};
+TTypeInfo IntegerInfo() {
+  // Values travel as std::int64_t, so the upper half of an unsigned type of its size has no place.
+  constexpr auto max = std::min<std::uint64_t>(std::numeric_limits<T>::max(),
+                                               std::numeric_limits<std::int64_t>::max());
   return {TTypeKind::Integer, NumberName<T>(), {}, {}, nullptr,
-          static_cast<std::int64_t>(std::numeric_limits<T>::min()),
-          static_cast<std::int64_t>(std::numeric_limits<T>::max())};
+          static_cast<std::int64_t>(std::numeric_limits<T>::min()), static_cast<std::int64_t>(max)};
 }
 
 template <class T>
@@ -154,8 +156,10 @@ TTypeInfo MakeTypeInfo() {
     return SetInfo<typename T::Element>();
   } else if constexpr (std::is_enum_v<T>) {
     return NamedInfo<T>();
+  } else if constexpr (std::is_floating_point_v<T>) {
+    return {TTypeKind::Float, NumberName<T>()};
   } else {
-    return NumberInfo<T>();
+    return IntegerInfo<T>();
   }
 }
 

@@ -1,0 +1,116 @@
+// Numbers, booleans and colours as texts.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <set>
+
+#include "host/rtl/classes.h"
+
+using namespace vcl;
+using testing::HasSubstr;
+
+namespace {
+
+TEST(Convert, ReadsIntegers) {
+  const struct {
+    const char* Text;
+    std::optional<int> Value;
+  } cases[] = {
+      {"0", 0},
+      {"-12", -12},
+      {"+12", 12},
+      {"  7", 7},
+      {"2147483647", 2147483647},
+      {"-2147483648", std::numeric_limits<int>::min()},
+      {"$ff", 255},
+      {"0XfF", 255},
+      {"-$10", -16},
+      {"$FFFFFFFF", -1},
+      {"", {}},
+      {" ", {}},
+      {"abc", {}},
+      {"12 ", {}},
+      {"1.0", {}},
+      {"2147483648", {}},
+      {"$100000000", {}},
+      {"$", {}},
+      {"+-1", {}},
+      {"--1", {}},
+      {"$-1", {}},
+      {"- 1", {}},
+  };
+  for (const auto& each : cases) {
+    int value = 99;
+    EXPECT_EQ(TryStrToInt(each.Text, value), each.Value.has_value()) << each.Text;
+    EXPECT_EQ(value, each.Value.value_or(99)) << each.Text;
+    EXPECT_EQ(StrToIntDef(each.Text, -5), each.Value.value_or(-5)) << each.Text;
+  }
+}
+
+template <class Convert>
+std::string ConvertError(const Convert& convert) {
+  try {
+    convert();
+  } catch (const EConvertError& error) {
+    return error.what();
+  }
+  return {};
+}
+
+TEST(Convert, NamesWhatIsNoValue) {
+  EXPECT_EQ(ConvertError([] { StrToInt("abc"); }), "'abc' is not a valid integer value");
+  EXPECT_EQ(ConvertError([] { StrToInt64("9223372036854775808"); }),
+            "'9223372036854775808' is not a valid integer value");
+  EXPECT_EQ(ConvertError([] { StrToFloat("1,5"); }), "'1,5' is not a valid floating point value");
+  EXPECT_EQ(ConvertError([] { StrToBool("maybe"); }), "'maybe' is not a valid boolean value");
+  EXPECT_EQ(ConvertError([] { StringToColor("clPlaid"); }), "'clPlaid' is not a valid colour");
+}
+
+TEST(Convert, GivesFloatsBack) {
+  for (double value :
+       {0.0, 0.1, -1.5, 1e300, 5e-324, 1.0 / 3, 123456789.0, std::numeric_limits<double>::max()}) {
+    EXPECT_EQ(StrToFloat(FloatToStr(value)), value);
+  }
+  EXPECT_EQ(FloatToStr(0.1), "0.1");
+  EXPECT_EQ(StrToFloat(" +2.5e1 "), 25);
+  for (const char* text : {"", "inf", "nan", "1e999", "1.5x", "+-1", "0x10"}) {
+    EXPECT_EQ(StrToFloatDef(text, -7), -7) << text;
+  }
+}
+
+TEST(Convert, WritesAndReadsTheRest) {
+  EXPECT_EQ(IntToStr(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808");
+  EXPECT_EQ(IntToHex(0xBEEF, 8), "0000BEEF");
+  EXPECT_EQ(IntToHex(0xBEEF, 2), "BEEF");
+  EXPECT_EQ(StrToInt64("$7FFFFFFFFFFFFFFF"), std::numeric_limits<std::int64_t>::max());
+  EXPECT_TRUE(StrToBool("tRUE"));
+  EXPECT_TRUE(StrToBool("-1"));
+  EXPECT_FALSE(StrToBool("0"));
+  EXPECT_EQ(StrToBool(BoolToStr(false)), false);
+}
+
+TEST(Colors, HaveNamesOrNumbers) {
+  EXPECT_EQ(ColorToString(clBtnFace), "clBtnFace");
+  EXPECT_EQ(ColorToString(clLtGray), "clSilver");
+  EXPECT_EQ(ColorToString(static_cast<TColor>(0xC0C0C1)), "$00C0C0C1");
+  EXPECT_EQ(StringToColor("CLLTGRAY"), clSilver);
+  EXPECT_EQ(StringToColor("$00C0C0C0"), clSilver);
+  EXPECT_EQ(StringToColor("$FF00000F"), clBtnFace);
+  EXPECT_EQ(StringToColor("255"), clRed);
+  // The system's indexes, from the documentation of GetSysColor.
+  EXPECT_EQ(static_cast<std::uint32_t>(clBtnFace), 0xFF00000Fu);
+  EXPECT_EQ(static_cast<std::uint32_t>(clInfoBk), 0xFF000018u);
+}
+
+TEST(Colors, AreEachNamedOnce) {
+  std::set<TColor> colors;
+  GetColorValues([&](const std::string& name) {
+    EXPECT_TRUE(colors.insert(StringToColor(name)).second) << name;
+    EXPECT_EQ(ColorToString(StringToColor(name)), name);
+  });
+  EXPECT_EQ(colors.size(), 43u);
+}
+
+}  // namespace
