@@ -8,6 +8,7 @@
 #include "host/vcl/application.h"
 #include "host/vcl/controlcanvas.h"
 #include "host/vcl/menus.h"
+#include "host/vcl/registration.h"
 #include "host/vcl/screen.h"
 
 namespace vcl {
@@ -94,6 +95,7 @@ TCustomForm::~TCustomForm() {
 }
 
 void TCustomForm::LoadForm(HINSTANCE module) {
+  RegisterHostClasses();
   TResourceStream stream(module, UpperCase(ClassName()), MAKEINTRESOURCEA(10));  // RT_RCDATA
   FReadingForm = true;
   ReadComponentFile(stream, this);
