@@ -1,7 +1,8 @@
 #include "host/vcl/png.h"
 
+#include <cstddef>
 #include <memory>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 #include "host/rtl/exceptions.h"
