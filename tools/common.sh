@@ -1,13 +1,13 @@
 # What ./run, ./test and .ci/run share. Read by bash, from the top folder.
 
-jobs() { nproc 2>/dev/null || echo 2; }
+job_count() { nproc 2>/dev/null || echo 2; }
 
 # configure_and_build PRESET [TARGETS...]
 configure_and_build() {
   local preset=$1
   shift
   [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" || return
-  cmake --build --preset "$preset" --parallel "$(jobs)" ${1:+--target "$@"}
+  cmake --build --preset "$preset" --parallel "$(job_count)" ${1:+--target "$@"}
 }
 
 # The compiler of a Windows build; fails when it is not installed.
