@@ -140,4 +140,13 @@ void TRadioButton::AccelPressed() {
   if (!watch.Gone() && Focused()) SetChecked(true);
 }
 
+void TRadioButton::Dispatch(TMessage& message) {
+  TWatch watch(this);
+  TButtonControl::Dispatch(message);
+  // The keyboard checks what it goes to. Windows' own radio buttons ask for that, Wine's do not.
+  const bool byKeyboard = message.Msg == WM_SETFOCUS && !watch.Gone() &&
+                          !ControlState().Has(csLButtonDown);
+  if (byKeyboard) SetChecked(true);
+}
+
 }  // namespace vcl

@@ -68,6 +68,7 @@ class VCL_API TRadioButton : public TButtonControl {
   void CreateWnd() override;
   void Pressed() override { SetChecked(true); }
   void AccelPressed() override;
+  void Dispatch(TMessage& message) override;
 
  private:
   void UncheckSiblings();

@@ -65,6 +65,7 @@ void TCustomComboBox::SetDropDownCount(int count) {
         Concat("A list cannot drop down with ", std::to_string(count), " items"));
   }
   FDropDownCount = count;
+  SendIfAllocated(*this, CB_SETMINVISIBLE, static_cast<WPARAM>(count));
 }
 
 void TCustomComboBox::SetMaxLength(int maxLength) {
@@ -168,6 +169,7 @@ void TCustomComboBox::CreateParams(TCreateParams& params) {
 void TCustomComboBox::CreateWnd() {
   const std::string text = Text();
   TCustomListControl::CreateWnd();
+  Send(*this, CB_SETMINVISIBLE, static_cast<WPARAM>(FDropDownCount));
   if (FMaxLength > 0) Send(*this, CB_LIMITTEXT, static_cast<WPARAM>(FMaxLength));
   if (OwnerDraw()) Send(*this, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), ItemHeight());
   if (!HasEdit()) return;
@@ -218,15 +220,6 @@ void TCustomComboBox::Change() { OnChange(this); }
 void TCustomComboBox::DropDown() { OnDropDown(this); }
 void TCustomComboBox::CloseUp() { OnCloseUp(this); }
 
-/// The system takes the height that the window is given for that of the list dropped down.
-void TCustomComboBox::SizeDropDown() {
-  const int rows = std::clamp(Items()->Count(), 1, FDropDownCount);
-  const int rowHeight = static_cast<int>(Send(*this, CB_GETITEMHEIGHT));
-  constexpr int border = 2;
-  ::SetWindowPos(Handle(), nullptr, 0, 0, Width(), Height() + rows * rowHeight + border,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
-}
-
 void TCustomComboBox::ItemChosen() {
   // The edit still shows the former text.
   if (HasEdit()) SetText(ItemText());
@@ -245,12 +238,8 @@ void TCustomComboBox::CommandFromWindow(TMessage& message) {
       return ItemChosen();
     case CBN_CLOSEUP:
       return CloseUp();
-    case CBN_DROPDOWN: {
-      TWatch watch(this);
-      DropDown();
-      if (!watch.Gone()) SizeDropDown();
-      return;
-    }
+    case CBN_DROPDOWN:
+      return DropDown();
     default:
       return;
   }

@@ -70,7 +70,6 @@ class VCL_API TCustomComboBox : public TCustomListControl {
   std::string ItemText() const;
   void CommandFromWindow(TMessage& message);
   void ItemChosen();
-  void SizeDropDown();
   void SubclassEdit();
   static LRESULT CALLBACK EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                    UINT_PTR id, DWORD_PTR self);

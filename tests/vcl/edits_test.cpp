@@ -1,0 +1,188 @@
+// Edits and memos: typing, selection, lines, and what outlives a window.
+#include "tests/vcl/standardform.h"
+
+namespace vcl {
+namespace {
+
+class Edits : public TStandardForm {};
+
+TEST_F(Edits, TypingChangesTheTextAndTellsOfIt) {
+  auto* edit = Make<TEdit>(10, 10);
+  std::string heard;
+  edit->OnChange = [&](TObject*) { heard += edit->Text() + ","; };
+  edit->OnKeyPress = [](TObject*, char32_t& key) {
+    if (key == U'x') key = 0;
+  };
+  ShowForm();
+  edit->SetFocus();
+  Type("axB");
+  EXPECT_EQ(edit->Text(), "aB");
+  EXPECT_EQ(heard, "a,aB,");
+  EXPECT_TRUE(edit->Modified());
+  edit->SetText("by code");
+  EXPECT_EQ(heard, "a,aB,by code,");
+}
+
+TEST_F(Edits, TypingKeepsToTheSettings) {
+  auto* limited = Make<TEdit>(10, 10);
+  limited->SetMaxLength(3);
+  auto* capitals = Make<TEdit>(10, 40);
+  capitals->SetCharCase(ecUpperCase);
+  auto* locked = Make<TEdit>(10, 70);
+  locked->SetReadOnly(true);
+  ShowForm();
+  const struct {
+    TEdit* Edit;
+    const char* Text;
+  } cases[] = {{limited, "abc"}, {capitals, "ABCDE"}, {locked, ""}};
+  for (const auto& each : cases) {
+    each.Edit->SetFocus();
+    Type("abcde");
+    EXPECT_EQ(each.Edit->Text(), each.Text);
+  }
+  limited->SetText("longer by code");
+  EXPECT_EQ(limited->Text(), "longer by code");
+  EXPECT_THROW(limited->SetMaxLength(-1), EArgumentOutOfRangeException);
+}
+
+TEST_F(Edits, SelectionCountsUtf16UnitsAndEndsInsideTheText) {
+  auto* edit = Make<TEdit>(10, 10);
+  edit->SetText("Grüße 😀!");
+  for (int window = 0; window < 2; ++window) {
+    edit->SetSelStart(6);
+    edit->SetSelLength(2);
+    EXPECT_EQ(edit->SelText(), "😀") << "window: " << window;
+    edit->SetSelStart(100);
+    EXPECT_EQ(edit->SelStart(), 9);
+    edit->SetSelStart(-5);
+    edit->SetSelLength(100);
+    EXPECT_EQ(edit->SelLength(), 9);
+    edit->HandleNeeded();
+  }
+  edit->SetSelStart(0);
+  edit->SetSelLength(5);
+  edit->SetSelText("Hallo");
+  EXPECT_EQ(edit->Text(), "Hallo 😀!");
+}
+
+TEST_F(Edits, StateOutlivesTheWindow) {
+  auto* edit = Make<TEdit>(10, 10);
+  ShowForm();
+  edit->SetFocus();
+  Type("hello");
+  edit->SetSelStart(1);
+  edit->SetSelLength(3);
+  edit->RecreateWnd();
+  EXPECT_EQ(edit->Text(), "hello");
+  EXPECT_EQ(edit->SelStart(), 1);
+  EXPECT_EQ(edit->SelText(), "ell");
+  EXPECT_TRUE(edit->Modified());
+  EXPECT_TRUE(edit->Focused());
+}
+
+TEST_F(Edits, TheKeyboardsFocusSelectsAllAndAClickDoesNot) {
+  auto* first = Make<TEdit>(10, 10);
+  auto* second = Make<TEdit>(10, 40);
+  second->SetText("selected");
+  ShowForm();
+  first->SetFocus();
+  Key(VK_TAB);
+  EXPECT_TRUE(second->Focused());
+  EXPECT_EQ(second->SelText(), "selected");
+  first->SetFocus();
+  Click(*second);
+  EXPECT_TRUE(second->Focused());
+  EXPECT_EQ(second->SelText(), "");
+}
+
+TEST_F(Edits, TheHeightFollowsTheFontAndTheBorderIsOneOfTwo) {
+  auto* edit = Make<TEdit>(10, 10);
+  const int height = edit->Height();
+  edit->Font()->SetSize(24);
+  EXPECT_GT(edit->Height(), 2 * height - 8);
+  edit->SetAutoSize(false);
+  edit->SetHeight(7);
+  edit->Font()->SetSize(8);
+  EXPECT_EQ(edit->Height(), 7);
+  EXPECT_THROW(edit->SetBorderStyle(bsSizeable), EArgumentOutOfRangeException);
+  const TPropInfo* border = TEdit::Class().FindPublished("BorderStyle");
+  EXPECT_EQ(border->Type->Max, 1);
+  EXPECT_THROW(border->Set(*edit, std::int64_t{bsSizeable}), EPropertyError);
+}
+
+/// The operations on lines, with the text that they leave in a memo.
+TEST_F(Edits, LinesAreTheTextOfAMemo) {
+  const struct {
+    const char* Before;
+    std::function<void(TStrings&)> Do;
+    const char* After;
+  } cases[] = {
+      {"", [](TStrings& lines) { lines.Add("a"); }, "a\r\n"},
+      {"a", [](TStrings& lines) { lines.Add("b"); }, "a\r\nb\r\n"},
+      {"a\r\n", [](TStrings& lines) { lines.Add("ü"); }, "a\r\nü\r\n"},
+      {"ü\r\nb", [](TStrings& lines) { lines.Insert(1, "x"); }, "ü\r\nx\r\nb"},
+      {"a\r\nb\r\nc", [](TStrings& lines) { lines.Delete(1); }, "a\r\nc"},
+      {"a\r\nb", [](TStrings& lines) { lines.Delete(1); }, "a\r\n"},
+      {"😀a\r\nb", [](TStrings& lines) { lines.SetStrings(1, "lang"); }, "😀a\r\nlang"},
+      {"a\r\nb", [](TStrings& lines) { lines.Exchange(0, 1); }, "b\r\na\r\n"},
+      {"a\r\nb", [](TStrings& lines) { lines.Clear(); }, ""},
+      {"a", [](TStrings& lines) { lines.SetCommaText("x,y"); }, "x\r\ny\r\n"},
+  };
+  for (bool window : {false, true}) {
+    for (const auto& each : cases) {
+      auto* memo = Make<TMemo>(10, 10);
+      if (window) memo->HandleNeeded();
+      memo->SetText(each.Before);
+      each.Do(*memo->Lines());
+      EXPECT_EQ(memo->Text(), each.After) << "from " << each.Before << ", window: " << window;
+      delete memo;
+    }
+  }
+}
+
+TEST_F(Edits, LinesFollowWhatTheUserTypesAndRefuseWhatIsNone) {
+  auto* memo = Make<TMemo>(10, 10);
+  memo->SetMaxLength(5);
+  ShowForm();
+  memo->SetFocus();
+  EXPECT_EQ(memo->Lines()->Count(), 0);
+  Type("ab");
+  Key(VK_RETURN);
+  Type("cd");
+  EXPECT_EQ(memo->Lines()->CommaText(), "ab,c");
+  memo->Lines()->Add("no limit for code");
+  EXPECT_EQ(memo->Lines()->Strings(2), "no limit for code");
+  EXPECT_THROW(memo->Lines()->Strings(3), EStringListError);
+  EXPECT_THROW(memo->Lines()->Delete(-1), EStringListError);
+  EXPECT_THROW(memo->Lines()->Insert(4, ""), EStringListError);
+  EXPECT_THROW(memo->Lines()->SetObjects(0, memo), EInvalidOperation);
+  memo->RecreateWnd();
+  EXPECT_EQ(memo->Lines()->Count(), 3);
+}
+
+TEST_F(Edits, TabAndEnterBelongToAMemoThatWantsThem) {
+  auto* memo = Make<TMemo>(10, 10);
+  auto* next = Make<TEdit>(10, 150);
+  auto* ok = Make<TButton>(10, 200);
+  ok->SetDefault(true);
+  int clicks = 0;
+  ok->OnClick = [&](TObject*) { ++clicks; };
+  ShowForm();
+  memo->SetFocus();
+  memo->SetWantTabs(true);
+  Type("a");
+  Key(VK_TAB);
+  Key(VK_RETURN);
+  EXPECT_EQ(memo->Text(), "a\t\r\n");
+  EXPECT_EQ(clicks, 0);
+  memo->SetWantTabs(false);
+  memo->SetWantReturns(false);
+  Key(VK_RETURN);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(memo->Text(), "a\t\r\n");
+  Key(VK_TAB);
+  EXPECT_TRUE(next->Focused());
+}
+
+}  // namespace
+}  // namespace vcl

@@ -1,0 +1,75 @@
+// A form on the screen for tests of the standard controls.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <type_traits>
+
+#include "host/rtl/exceptions.h"
+#include "host/rtl/properties.h"
+#include "host/vcl/application.h"
+#include "host/vcl/comctrls.h"
+#include "host/vcl/extctrls.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/stdctrls.h"
+#include "tests/vcl/testinput.h"
+
+namespace vcl {
+
+/// A control whose window a test makes anew.
+template <class T>
+class TRecreatable : public T {
+ public:
+  using T::T;
+  using T::RecreateWnd;
+};
+
+class TStandardForm : public ::testing::Test {
+ protected:
+  TStandardForm() : Form(nullptr) {
+    Form.SetBounds(40, 40, 500, 400);
+    Form.SetBorderStyle(bsNone);
+    Application()->OnException = [this](TObject*, const std::exception& error) {
+      Errors += error.what();
+    };
+  }
+  ~TStandardForm() override {
+    Application()->OnException = nullptr;
+    EXPECT_EQ(Errors, "");
+  }
+
+  template <class T>
+  auto* Make(int left, int top, TWinControl* parent = nullptr) {
+    constexpr bool window = std::is_base_of_v<TWinControl, T>;
+    auto* control = new std::conditional_t<window, TRecreatable<T>, T>(&Form);
+    control->SetParent(parent ? parent : &Form);
+    control->SetLeft(left);
+    control->SetTop(top);
+    return control;
+  }
+  void ShowForm() {
+    Form.Show();
+    ::SetForegroundWindow(Form.Handle());
+    testinput::Pump();
+  }
+  void Key(WORD key) { testinput::TypeKey(key); }
+  void KeyWith(WORD modifier, WORD key) { testinput::TypeKey(key, {modifier}); }
+  /// Types letters, digits and blanks.
+  void Type(const std::string& text) {
+    for (char c : text) {
+      const SHORT key = ::VkKeyScanA(c);
+      const auto code = static_cast<WORD>(LOBYTE(key));
+      HIBYTE(key) & 1 ? testinput::TypeKey(code, {VK_SHIFT}) : testinput::TypeKey(code);
+    }
+  }
+  void Click(TControl& control) { testinput::Click(&control); }
+  void Click(TControl& control, int x, int y) {
+    testinput::Click(control.ClientToScreen({x, y}));
+  }
+
+  TForm Form;
+  std::string Errors;
+};
+
+}  // namespace vcl
