@@ -8,10 +8,16 @@
 namespace qelref {
 namespace {
 
+/// The default as a form file would hold it.
+std::string DefaultText(const vcl::TPropInfo& prop) {
+  const std::string text = vcl::ValueToText(*prop.Type, *prop.DefaultValue);
+  return prop.Kind() == vcl::TTypeKind::String ? vcl::FormString(text) : text;
+}
+
 TEntry EntryOf(const vcl::TPropInfo& prop) {
   TEntry entry{prop.Name, std::string(vcl::KindName(prop.Kind())), std::string(prop.TypeName()), {},
                prop.Stored != vcl::TPropInfo::TStored::Never};
-  if (prop.DefaultValue) entry.Default = vcl::ValueToText(*prop.Type, *prop.DefaultValue);
+  if (prop.DefaultValue) entry.Default = DefaultText(prop);
   return entry;
 }
 
