@@ -6,6 +6,7 @@
 #include "host/rtl/properties.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/screen.h"
+#include "host/vcl/taskwindows.h"
 
 namespace vcl {
 
@@ -252,10 +253,14 @@ void TApplication::Restore() {
 }
 
 void TApplication::BringToFront() {
-  const HWND last = ::GetLastActivePopup(Handle());
-  if (last != FHandle && ::IsWindowVisible(last) && ::IsWindowEnabled(last)) {
-    ::SetForegroundWindow(last);
-  }
+  const auto usable = [this](HWND window) {
+    return window && window != FHandle && ::IsWindowVisible(window) && ::IsWindowEnabled(window);
+  };
+  TCustomForm* const form = Screen()->ActiveForm();
+  HWND window = ::GetLastActivePopup(Handle());  // A box, or the application's window itself.
+  if (!usable(window)) window = form && form->HandleAllocated() ? form->Handle() : nullptr;
+  if (!usable(window)) window = NextWindow(nullptr);
+  if (window) ::SetForegroundWindow(window);
 }
 
 }  // namespace vcl

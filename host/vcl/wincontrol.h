@@ -177,6 +177,7 @@ class VCL_API TWinControl : public TControl {
   void PaintDoubleBuffered();
   void Broadcast(UINT notice);
   void PassToChildren(TMessage& message);
+  void GiveUpFocus();
   void DispatchNotice(TMessage& message);
   void DispatchWindow(TMessage& message);
   void DispatchKey(TMessage& message);

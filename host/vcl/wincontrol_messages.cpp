@@ -112,6 +112,7 @@ void TWinControl::DispatchWindow(TMessage& message) {
 void TWinControl::DispatchNotice(TMessage& message) {
   switch (message.Msg) {
     case CM_VISIBLECHANGED:
+      if (!Visible()) GiveUpFocus();
       return UpdateControlState();
     case CM_SHOWINGCHANGED:
       ::SetWindowPos(FHandle, nullptr, 0, 0, 0, 0,
@@ -119,6 +120,7 @@ void TWinControl::DispatchNotice(TMessage& message) {
                          (FShowing ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
       return;
     case CM_ENABLEDCHANGED:
+      if (!FEnabled) GiveUpFocus();
       if (FHandle && !Designing()) ::EnableWindow(FHandle, FEnabled);
       return;
     case CM_FONTCHANGED:
@@ -151,6 +153,11 @@ void TWinControl::DispatchNotice(TMessage& message) {
     default:
       return;
   }
+}
+
+void TWinControl::GiveUpFocus() {
+  TCustomForm* form = ParentForm();
+  if (form && form != this) form->DefocusControl(this);
 }
 
 void TWinControl::PassToChildren(TMessage& message) {

@@ -1,11 +1,13 @@
-// Real input for tests of windows: the mouse and the keyboard of the screen that the test runs on, and
-// waiting for what they do without guessing how long it takes.
+// Real input for tests of windows: the mouse and the keyboard of the screen that the test runs on,
+// and waiting for what they do without guessing how long it takes.
 #pragma once
 
 #include <functional>
 #include <initializer_list>
 #include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
 #include "host/vcl/application.h"
 #include "host/vcl/control.h"
@@ -75,30 +77,36 @@ inline void SendKey(WORD key, bool down) {
 
 /// Presses and releases the key with the others (VK_CONTROL, ...) held down.
 inline void TypeKey(WORD key, std::initializer_list<WORD> held = {}) {
-  for (WORD each : held) SendKey(each, true);
+  for (WORD each : held)
+    SendKey(each, true);
   SendKey(key, true);
   SendKey(key, false);
-  for (WORD each : held) SendKey(each, false);
+  for (WORD each : held)
+    SendKey(each, false);
   Pump();
 }
 
-/// Answers the next system box (#32770) of this process from a thread of its own, by the number of a
-/// button, and keeps what it said.
+/// Answers the next system boxes (#32770) of this process, one after another, from a thread of its
+/// own, by the number of a button, and keeps what they said. `ready` holds the first answer back.
 class TBoxAnswer {
  public:
-  explicit TBoxAnswer(int button, int milliseconds = Patience)
-      : FThread([this, button, milliseconds] { Answer(button, milliseconds); }) {}
+  explicit TBoxAnswer(int button, std::size_t boxes = 1, std::function<bool()> ready = nullptr)
+      : FReady(std::move(ready)), FThread([this, button, boxes] {
+          while (FTexts.size() < boxes && Answer(button)) {
+          }
+        }) {}
   ~TBoxAnswer() { Wait(); }
   TBoxAnswer(const TBoxAnswer&) = delete;
   TBoxAnswer& operator=(const TBoxAnswer&) = delete;
 
-  /// Waits for the answer; true when there was a box.
+  /// Waits for the answers; true when there was a box.
   bool Wait() {
     if (FThread.joinable()) FThread.join();
-    return FFound;
+    return !FTexts.empty();
   }
   const std::string& Caption() const { return FCaption; }
-  const std::string& Text() const { return FText; }
+  std::string Text() const { return FTexts.empty() ? std::string() : FTexts.front(); }
+  const std::vector<std::string>& Texts() const { return FTexts; }
 
  private:
   static std::string TextOf(HWND window) {
@@ -118,24 +126,34 @@ class TBoxAnswer {
     return FALSE;
   }
 
-  void Answer(int button, int milliseconds) {
-    const ULONGLONG end = ::GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
-    HWND box = nullptr;
-    while (!box && ::GetTickCount64() < end) {
-      ::Sleep(10);
-      ::EnumWindows(&TakeOwn, reinterpret_cast<LPARAM>(&box));
+  template <class Condition>
+  static bool Await(Condition condition) {
+    const ULONGLONG end = ::GetTickCount64() + Patience;
+    while (!condition()) {
+      if (::GetTickCount64() >= end) return false;
+      ::Sleep(5);
     }
-    if (!box) return;
-    constexpr int textControl = 0xFFFF;  // The number of a message box's text.
-    FCaption = TextOf(box);
-    FText = TextOf(::GetDlgItem(box, textControl));
-    FFound = true;
-    ::PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
+    return true;
   }
 
-  bool FFound = false;
+  bool Answer(int button) {
+    HWND box = nullptr;
+    const bool up = Await([&] {
+      ::EnumWindows(&TakeOwn, reinterpret_cast<LPARAM>(&box));
+      return box != nullptr;
+    });
+    if (!up) return false;
+    constexpr int textControl = 0xFFFF;  // The number of a message box's text.
+    FCaption = TextOf(box);
+    FTexts.push_back(TextOf(::GetDlgItem(box, textControl)));
+    if (FReady && FTexts.size() == 1) Await(FReady);
+    ::PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
+    return Await([box] { return !::IsWindow(box); });
+  }
+
   std::string FCaption;
-  std::string FText;
+  std::vector<std::string> FTexts;
+  std::function<bool()> FReady;
   std::thread FThread;
 };
 

@@ -1,0 +1,184 @@
+// The application: running and ending, errors, boxes, its window; the screen.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <string>
+#include <vector>
+
+#include "host/rtl/exceptions.h"
+#include "host/vcl/application.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/screen.h"
+#include "tests/vcl/testinput.h"
+
+namespace vcl {
+namespace {
+
+using namespace testinput;
+using TLog = std::vector<std::string>;
+
+TEST(Application, IsTheBaseApplicationToo) {
+  EXPECT_EQ(&BaseApplication(), Application());
+  EXPECT_TRUE(HasApplication());
+  char name[40] = "";
+  ::GetClassNameA(Application()->Handle(), name, sizeof name);
+  EXPECT_STREQ(name, "TApplication");
+  Application()->SetTitle("Täst");
+  char title[40] = "";
+  ::GetWindowTextA(Application()->Handle(), title, sizeof title);
+  EXPECT_STREQ(title, "Täst");
+}
+
+TEST(Application, RunShowsTheMainFormAndFreesTheFormsWhole) {
+  TLog log;
+  for (int code : {3, 4}) {  // Run again, it begins anew.
+    log.clear();
+    auto* main = Application()->CreateForm<TForm>();
+    auto* other = Application()->CreateForm<TForm>();
+    ASSERT_EQ(Application()->MainForm(), main);
+    main->OnDestroy = [&](TObject*) { log.push_back("main"); };
+    other->OnDestroy = [&](TObject*) { log.push_back("other"); };
+    main->OnActivate = [&, code](TObject*) {
+      log.push_back("shown");
+      Application()->SetExitCode(code);
+      ::PostMessageW(main->Handle(), WM_CLOSE, 0, 0);
+    };
+    EXPECT_EQ(Application()->Run(), code);
+    EXPECT_EQ(log, (TLog{"shown", "other", "main"}));
+    EXPECT_EQ(Application()->MainForm(), nullptr);
+    EXPECT_TRUE(Application()->Terminated());
+  }
+}
+
+TEST(Application, AMainFormThatRefusesToCloseKeepsTheProgram) {
+  auto* main = Application()->CreateForm<TForm>();
+  int closes = 0;
+  main->OnClose = [&](TObject*, TCloseAction& action) {
+    if (++closes == 1) action = caNone;
+    ::PostMessageW(main->Handle(), WM_CLOSE, 0, 0);
+  };
+  main->OnActivate = [&](TObject*) { ::PostMessageW(main->Handle(), WM_CLOSE, 0, 0); };
+  Application()->Run();
+  EXPECT_EQ(closes, 2);
+}
+
+TEST(Application, ErrorsGoToTheHandlerAndItsOwnToABox) {
+  std::string error;
+  Application()->OnException = [&](TObject*, const std::exception& e) { error = e.what(); };
+  Application()->HandleException(nullptr, Exception("first"));
+  EXPECT_EQ(error, "first");
+  Application()->HandleException(nullptr, EAbort("silent"));
+  EXPECT_EQ(error, "first");
+  try {
+    throw 5;
+  } catch (...) {
+    Application()->HandleCurrentException(nullptr);
+  }
+  EXPECT_NE(error, "first");
+  Application()->OnException = [](TObject*, const std::exception&) { throw Exception("worse"); };
+  TBoxAnswer box(IDOK);
+  Application()->HandleException(nullptr, Exception("bad"));
+  Application()->OnException = nullptr;
+  EXPECT_TRUE(box.Wait());
+  EXPECT_EQ(box.Text(), "worse.");
+}
+
+TEST(Application, AnErrorIsShownInABoxAndTheProgramGoesOn) {
+  Application()->SetTitle("The title");
+  TForm form(nullptr);
+  form.OnClick = [](TObject*) { throw Exception("Grüße"); };
+  form.SetBounds(200, 200, 200, 200);
+  form.Show();
+  ASSERT_TRUE(PumpUntil([&] { return form.Active(); }));
+  TBoxAnswer box(IDOK);
+  Click(&form);
+  EXPECT_TRUE(box.Wait());
+  EXPECT_EQ(box.Caption(), "The title");
+  EXPECT_EQ(box.Text(), "Grüße.");
+  EXPECT_TRUE(::IsWindowEnabled(form.Handle()));
+  EXPECT_TRUE(PumpUntil([&] { return form.Active(); }));
+}
+
+std::atomic<int> raised = 0;
+void CALLBACK Raise(HWND, UINT, UINT_PTR id, DWORD) {
+  if (++raised == 3) ::KillTimer(nullptr, id);
+  Application()->ShowException(Exception("from the timer"));
+}
+
+TEST(Application, ErrorsWhileABoxIsUpWaitAndAreShownOnce) {
+  raised = 0;
+  ::SetTimer(nullptr, 0, 10, &Raise);
+  TBoxAnswer boxes(IDOK, 2, [] { return raised == 3; });
+  Application()->ShowException(Exception("from here!"));
+  boxes.Wait();
+  EXPECT_EQ(boxes.Texts(), (TLog{"from here!", "from the timer."}));
+}
+
+TEST(Application, MessagesAndIdleTimeReachTheHandlers) {
+  constexpr UINT message = WM_APP + 7;
+  int seen = 0;
+  Application()->OnMessage = [&](MSG& each, bool& handled) {
+    if (each.message == message) ++seen, handled = true;
+  };
+  int idle = 0;
+  Application()->OnIdle = [&](TObject*, bool& done) { done = ++idle == 3; };
+  ::PostMessageW(Application()->Handle(), message, 0, 0);
+  while (seen == 0)
+    Application()->HandleMessage();
+  while (idle < 2)
+    Application()->HandleMessage();
+  Application()->OnIdle = nullptr;
+  Application()->OnMessage = nullptr;
+  EXPECT_EQ(seen, 1);
+}
+
+TEST(Application, MinimisingItTakesItsFormsOffTheScreen) {
+  TForm form(nullptr);
+  form.SetBounds(200, 200, 200, 200);
+  form.Show();
+  ASSERT_TRUE(PumpUntil([&] { return form.Active(); }));
+  EXPECT_TRUE(::IsWindowVisible(Application()->Handle()));
+  TLog log;
+  Application()->OnMinimize = [&](TObject*) { log.push_back("minimize"); };
+  Application()->OnRestore = [&](TObject*) { log.push_back("restore"); };
+  Application()->Minimize();
+  Pump();
+  EXPECT_TRUE(::IsIconic(Application()->Handle()));
+  EXPECT_FALSE(::IsWindowVisible(form.Handle()));
+  Application()->Restore();
+  EXPECT_TRUE(PumpUntil([&] { return ::IsWindowVisible(form.Handle()) && form.Active(); }));
+  Application()->OnMinimize = Application()->OnRestore = nullptr;
+  EXPECT_EQ(log, (TLog{"minimize", "restore"}));
+  form.Hide();
+  EXPECT_FALSE(::IsWindowVisible(Application()->Handle()));
+}
+
+TEST(Screen, KnowsItsSizeAndTheForms) {
+  EXPECT_EQ(Screen()->Width(), ::GetSystemMetrics(SM_CXSCREEN));
+  EXPECT_EQ(Screen()->PixelsPerInch(), 96);
+  const int count = Screen()->FormCount();
+  {
+    TForm form(nullptr);
+    EXPECT_EQ(Screen()->FormCount(), count + 1);
+    EXPECT_EQ(Screen()->Forms(count), &form);
+  }
+  EXPECT_THROW(Screen()->Forms(count), EListError);
+}
+
+TEST(Screen, EveryPointerHasAHandle) {
+  for (int number = crSize; number < crDefault; ++number) {
+    const auto cursor = static_cast<TCursor>(number);
+    if (!CursorToIdent(number) || cursor == crNone) continue;
+    EXPECT_NE(Screen()->Cursors(cursor), nullptr) << number;
+    EXPECT_EQ(IdentToCursor(*CursorToIdent(number)), number);
+  }
+  EXPECT_EQ(Screen()->Cursors(crNone), nullptr);
+  EXPECT_THROW(Screen()->SetCursors(crArrow, nullptr), EArgumentOutOfRangeException);
+  const auto own = static_cast<TCursor>(5);
+  Screen()->SetCursors(own, ::CopyIcon(::LoadCursorA(nullptr, IDC_CROSS)));
+  EXPECT_NE(Screen()->Cursors(own), Screen()->Cursors(crArrow));
+  Screen()->SetCursors(own, nullptr);
+}
+
+}  // namespace
+}  // namespace vcl

@@ -1,0 +1,182 @@
+// Hints: their texts, when they come and go, where they stand.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "host/vcl/controlcanvas.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/hints.h"
+#include "host/vcl/screen.h"
+#include "tests/vcl/testinput.h"
+
+namespace vcl {
+namespace {
+
+using namespace testinput;
+
+TEST(HintText, HasAShortAndALongHalf) {
+  EXPECT_EQ(GetShortHint("Save|Saves the file"), "Save");
+  EXPECT_EQ(GetLongHint("Save|Saves the file"), "Saves the file");
+  EXPECT_EQ(GetShortHint("Save"), "Save");
+  EXPECT_EQ(GetLongHint("Save"), "Save");
+  EXPECT_EQ(GetShortHint("|only long"), "");
+  EXPECT_EQ(GetLongHint("only short|"), "");
+}
+
+class TPlate : public TGraphicControl {
+ public:
+  TPlate(TForm* form, int left, const std::string& hint) : TGraphicControl(form) {
+    SetParent(form);
+    SetBounds(left, 10, 60, 60);
+    SetHint(hint);
+  }
+};
+
+class Hints : public ::testing::Test {
+ protected:
+  Hints()
+      : Form(nullptr),
+        First(new TPlate(&Form, 10, "First|About the first")),
+        Second(new TPlate(&Form, 100, "Second")) {
+    Form.SetBorderStyle(bsNone);
+    Form.SetBounds(300, 300, 200, 100);
+    Form.SetShowHint(true);
+    Control().Pause = 30;
+    Control().HidePause = 60000;
+    MoveMouse({5, 5});
+    Form.Show();
+    EXPECT_TRUE(PumpUntil([&] { return Form.Active() && Application()->Active(); }));
+  }
+  ~Hints() override {
+    Application()->OnShowHint = nullptr;
+    Form.Hide();
+    MoveMouse({5, 5});
+    Control().Pause = 500;
+    Control().HidePause = 2500;
+  }
+  static THintControl& Control() { return Application()->Hints(); }
+  bool Shows(const TControl* control) {
+    return PumpUntil([&] { return Control().Shown() == control; });
+  }
+  /// The window that a hint is in; null when there is none on the screen.
+  static HWND Window() {
+    HWND found = nullptr;
+    for (HWND each = nullptr; (each = ::FindWindowExA(nullptr, each, "THintWindow", nullptr));) {
+      if (::IsWindowVisible(each)) found = each;
+    }
+    return found;
+  }
+  TForm Form;
+  TPlate* First;
+  TPlate* Second;
+};
+
+TEST_F(Hints, ComesWhenTheMouseRestsAndFollowsIt) {
+  MoveMouse(MiddleOf(First));
+  ASSERT_TRUE(Shows(First));
+  ASSERT_NE(Window(), nullptr);
+  char text[40] = "";
+  ::GetWindowTextA(Window(), text, sizeof text);
+  EXPECT_STREQ(text, "First");
+  EXPECT_EQ(Application()->Hint(), "About the first");
+  EXPECT_TRUE(Form.Active());  // The hint takes no focus.
+  MoveMouse(MiddleOf(Second));
+  EXPECT_TRUE(Shows(Second));
+  MoveMouse({5, 5});
+  EXPECT_TRUE(Shows(nullptr));
+  EXPECT_EQ(Window(), nullptr);
+  EXPECT_EQ(Application()->Hint(), "");
+}
+
+TEST_F(Hints, GoesWithAKeyAClickAndTimeAndStaysAway) {
+  MoveMouse(MiddleOf(First));
+  ASSERT_TRUE(Shows(First));
+  TypeKey(VK_F9);
+  EXPECT_TRUE(Shows(nullptr));
+  PumpFor(100);
+  EXPECT_EQ(Control().Shown(), nullptr);
+  MoveMouse(MiddleOf(Second));
+  ASSERT_TRUE(Shows(Second));
+  LeftDown();
+  EXPECT_TRUE(Shows(nullptr));
+  LeftUp();
+  Control().HidePause = 50;
+  MoveMouse(MiddleOf(First));
+  ASSERT_TRUE(Shows(First));
+  EXPECT_TRUE(Shows(nullptr));
+}
+
+TEST_F(Hints, ComesOnlyWhereItIsAskedForAndAllowed) {
+  First->SetShowHint(false);
+  Form.SetShowHint(false);
+  MoveMouse(MiddleOf(First));
+  PumpFor(100);
+  EXPECT_EQ(Control().Shown(), nullptr);
+  Form.SetShowHint(true);
+  int asked = 0;
+  Application()->OnShowHint = [&](std::string& text, bool& show, THintInfo& info) {
+    ++asked;
+    EXPECT_EQ(info.HintControl, Second);
+    show = asked > 1;
+    text = "Another text";
+    info.HintPos = {20000, 20000};  // Off the screen.
+  };
+  MoveMouse(MiddleOf(Second));
+  EXPECT_TRUE(PumpUntil([&] { return asked == 1; }));
+  EXPECT_EQ(Control().Shown(), nullptr);
+  MoveMouse({5, 5});
+  EXPECT_TRUE(PumpUntil([] { return Application()->Hint().empty(); }));
+  MoveMouse(MiddleOf(Second));
+  ASSERT_TRUE(Shows(Second));
+  char text[40] = "";
+  ::GetWindowTextA(Window(), text, sizeof text);
+  EXPECT_STREQ(text, "Another text");
+  RECT rect;
+  ::GetWindowRect(Window(), &rect);
+  const TRect area = Screen()->WorkAreaRect();
+  EXPECT_LE(rect.right, area.Right);
+  EXPECT_LE(rect.bottom, area.Bottom);
+}
+
+TEST_F(Hints, AFreedControlTakesItsHintAlong) {
+  MoveMouse(MiddleOf(First));
+  ASSERT_TRUE(Shows(First));
+  delete First;
+  EXPECT_EQ(Control().Shown(), nullptr);
+  EXPECT_EQ(Window(), nullptr);
+  Application()->OnShowHint = [&](std::string&, bool&, THintInfo&) {
+    delete Second;
+    Second = nullptr;
+  };
+  MoveMouse(MiddleOf(Second));
+  EXPECT_TRUE(PumpUntil([&] { return !Second; }));
+  EXPECT_EQ(Control().Shown(), nullptr);
+}
+
+TEST_F(Hints, EnterAndLeaveReachControlsWithoutWindows) {
+  std::vector<std::string> log;
+  class TNoter : public TPlate {
+   public:
+    TNoter(TForm* form, std::vector<std::string>& log) : TPlate(form, 10, ""), FLog(log) {}
+
+   protected:
+    void Dispatch(TMessage& message) override {
+      if (message.Msg == CM_MOUSEENTER) FLog.push_back("enter");
+      if (message.Msg == CM_MOUSELEAVE) FLog.push_back("leave");
+      TPlate::Dispatch(message);
+    }
+
+   private:
+    std::vector<std::string>& FLog;
+  };
+  auto* noter = new TNoter(&Form, log);
+  noter->BringToFront();
+  MoveMouse(MiddleOf(noter));
+  EXPECT_TRUE(PumpUntil([&] { return log.size() == 1; }));
+  MoveMouse({5, 5});
+  EXPECT_TRUE(PumpUntil([&] { return log.size() == 2; }));
+  EXPECT_EQ(log, (std::vector<std::string>{"enter", "leave"}));
+}
+
+}  // namespace
+}  // namespace vcl

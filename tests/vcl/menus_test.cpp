@@ -1,0 +1,248 @@
+// Menus: items and their handles, shortcuts, choosing by mouse, key and command.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "host/rtl/exceptions.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/menus.h"
+#include "tests/vcl/testinput.h"
+
+namespace vcl {
+namespace {
+
+using namespace testinput;
+
+class Menus : public ::testing::Test {
+ protected:
+  Menus() : Menu(nullptr) {}
+  TMenuItem* Add(TMenuItem* parent, const std::string& caption) {
+    auto* item = new TMenuItem(nullptr);
+    item->SetCaption(caption);
+    item->OnClick = [this](TObject* sender) {
+      Clicked.push_back(static_cast<TMenuItem*>(sender)->Caption());
+    };
+    parent->Add(item);
+    return item;
+  }
+  TMenuItem* Add(const std::string& caption) { return Add(Menu.Items(), caption); }
+  static std::string TextAt(HMENU menu, int index) {
+    char text[80] = "";
+    ::GetMenuStringA(menu, static_cast<UINT>(index), text, sizeof text, MF_BYPOSITION);
+    return text;
+  }
+  static UINT StateAt(HMENU menu, int index) {
+    return ::GetMenuState(menu, static_cast<UINT>(index), MF_BYPOSITION);
+  }
+  std::vector<std::string> Clicked;
+  TPopupMenu Menu;
+};
+
+TEST(ShortCuts, TextsGoBothWays) {
+  struct {
+    std::uint16_t Key;
+    TShiftState Shift;
+    const char* Text;
+  } const cases[] = {
+      {'S', {ssCtrl}, "Ctrl+S"},
+      {'Z', {ssCtrl, ssShift}, "Ctrl+Shift+Z"},
+      {VK_F4, {ssAlt}, "Alt+F4"},
+      {VK_F24, {}, "F24"},
+      {VK_DELETE, {ssShift}, "Shift+Del"},
+      {VK_BACK, {ssAlt}, "Alt+BkSp"},
+      {VK_NUMPAD7, {ssCtrl}, "Ctrl+Num 7"},
+      {VK_ADD, {ssCtrl}, "Ctrl+Num +"},
+      {'0', {ssCtrl, ssShift, ssAlt}, "Ctrl+Shift+Alt+0"},
+      {VK_RETURN, {}, "Enter"},
+  };
+  for (const auto& [key, shift, text] : cases) {
+    EXPECT_EQ(ShortCutToText(ShortCut(key, shift)), text);
+    EXPECT_EQ(TextToShortCut(text), ShortCut(key, shift)) << text;
+  }
+  EXPECT_EQ(TextToShortCut(" shift+ctrl+s "), ShortCut('S', {ssCtrl, ssShift}));
+  for (const char* wrong : {"", "Ctrl+", "Ctrl+Nothing", "Hyper+S"}) {
+    EXPECT_EQ(TextToShortCut(wrong), scNone) << wrong;
+  }
+  EXPECT_EQ(ShortCutToText(scNone), "");
+}
+
+TEST_F(Menus, TheHandleFollowsTheItems) {
+  TMenuItem* first = Add("&First");
+  const HMENU handle = Menu.Handle();
+  first->SetShortCut(ShortCut('F', {ssCtrl}));
+  TMenuItem* line = Add("-");
+  TMenuItem* third = Add("Third");
+  third->SetChecked(true);
+  third->SetEnabled(false);
+  EXPECT_EQ(Menu.Handle(), handle);
+  ASSERT_EQ(::GetMenuItemCount(handle), 3);
+  EXPECT_EQ(TextAt(handle, 0), "&First\tCtrl+F");
+  EXPECT_TRUE(StateAt(handle, 1) & MF_SEPARATOR);
+  EXPECT_TRUE(StateAt(handle, 2) & MF_CHECKED);
+  EXPECT_TRUE(StateAt(handle, 2) & (MF_GRAYED | MF_DISABLED));
+  line->SetVisible(false);
+  EXPECT_EQ(::GetMenuItemCount(handle), 2);
+  Add(first, "Inside");
+  EXPECT_EQ(::GetSubMenu(handle, 0), first->Handle());
+  first->Clear();
+  EXPECT_EQ(::GetSubMenu(handle, 0), nullptr);
+  delete third;
+  EXPECT_EQ(::GetMenuItemCount(handle), 1);
+}
+
+TEST_F(Menus, RadioItemsOfAGroupExcludeEachOther) {
+  std::vector<TMenuItem*> items;
+  for (const char* caption : {"A", "B", "C"}) {
+    items.push_back(Add(caption));
+    items.back()->SetRadioItem(true);
+    items.back()->SetGroupIndex(caption[0] == 'C' ? 2 : 1);
+    items.back()->SetChecked(true);
+  }
+  EXPECT_FALSE(items[0]->Checked());
+  EXPECT_TRUE(items[1]->Checked());
+  EXPECT_TRUE(items[2]->Checked());
+}
+
+TEST_F(Menus, WrongPlacesAreRefused) {
+  TMenuItem* item = Add("Item");
+  TMenuItem* inside = Add(item, "Inside");
+  TMenuItem loose(nullptr);
+  EXPECT_THROW(Menu.Items()->Items(1), EListError);
+  EXPECT_THROW(Menu.Items()->Add(item), EInvalidOperation);
+  EXPECT_THROW(Menu.Items()->Insert(2, &loose), EListError);
+  EXPECT_THROW(Menu.Items()->Remove(inside), EInvalidOperation);
+  Menu.Items()->Remove(item);
+  EXPECT_THROW(inside->Add(item), EInvalidOperation);
+  Menu.Items()->Add(item);
+  EXPECT_EQ(inside->GetParentMenu(), &Menu);
+}
+
+TEST_F(Menus, CommandsReachTheirItemsUnlessDisabled) {
+  TMenuItem* outer = Add("Outer");
+  TMenuItem* inner = Add(outer, "Inner");
+  EXPECT_TRUE(Menu.DispatchCommand(inner->Command()));
+  outer->SetEnabled(false);
+  Menu.DispatchCommand(inner->Command());
+  EXPECT_EQ(Clicked, std::vector<std::string>{"Inner"});
+  EXPECT_FALSE(Menu.DispatchCommand(1));
+}
+
+class OnAForm : public Menus {
+ protected:
+  OnAForm() : Form(nullptr) {
+    Form.SetBounds(200, 200, 200, 150);
+    Form.SetPopupMenu(&Menu);
+    Form.Show();
+    EXPECT_TRUE(PumpUntil([&] { return Form.Active(); }));
+  }
+  ~OnAForm() override { Form.Hide(); }
+  /// Posts keys that choose in the menu once it is up.
+  void Keys(std::initializer_list<WORD> keys) {
+    for (WORD key : keys) {
+      SendKey(key, true);
+      SendKey(key, false);
+    }
+  }
+  TForm Form;
+};
+
+TEST_F(OnAForm, AKeyChoosesFromAPopup) {
+  Add("First");
+  TMenuItem* second = Add("Second");
+  Add(second, "Inside");
+  int popups = 0;
+  Menu.OnPopup = [&](TObject*) { ++popups; };
+  Keys({VK_DOWN, VK_RETURN});
+  Menu.Popup(250, 250);
+  EXPECT_EQ(Clicked, std::vector<std::string>{"First"});
+  Clicked.clear();
+  Keys({VK_DOWN, VK_DOWN, VK_RIGHT, VK_RETURN});
+  Menu.Popup(250, 250);
+  EXPECT_EQ(Clicked,
+            (std::vector<std::string>{"Second", "Inside"}));  // A submenu opens with a click.
+  Clicked.clear();
+  Keys({VK_ESCAPE});
+  Menu.Popup(250, 250);
+  EXPECT_TRUE(Clicked.empty());
+  EXPECT_EQ(popups, 3);
+}
+
+TEST_F(OnAForm, ARightClickBringsThePopupUp) {
+  Add("Only");
+  MoveMouse(MiddleOf(&Form));
+  bool up = false;
+  Menu.OnPopup = [&](TObject*) {
+    up = true;
+    EXPECT_EQ(Menu.PopupComponent(), &Form);
+    Keys({VK_DOWN, VK_RETURN});
+  };
+  RightDown();
+  RightUp();
+  EXPECT_TRUE(PumpUntil([&] { return up && !Clicked.empty(); }));
+}
+
+TEST_F(OnAForm, AMenuMayBeFreedByItsOwnItem) {
+  auto* passing = new TPopupMenu(nullptr);
+  auto* item = new TMenuItem(nullptr);
+  item->SetCaption("End");
+  passing->Items()->Add(item);
+  bool gone = false;
+  item->OnClick = [&](TObject*) {
+    delete passing;
+    gone = true;
+  };
+  Keys({VK_DOWN, VK_RETURN});
+  passing->Popup(250, 250);
+  EXPECT_TRUE(gone);
+}
+
+TEST_F(OnAForm, ShortcutsOfBarAndPopupAreTakenBeforeTheControl) {
+  TMainMenu bar(nullptr);
+  TMenuItem* file = Add(bar.Items(), "&File");
+  TMenuItem* save = Add(file, "Save");
+  save->SetShortCut(ShortCut('S', {ssCtrl}));
+  Add("Popup's")->SetShortCut(ShortCut(VK_F5, {}));
+  Form.SetMenu(&bar);
+  int keys = 0;
+  Form.OnKeyDown = [&](TObject*, std::uint16_t& key, TShiftState) { keys += key != VK_CONTROL; };
+  TypeKey('S', {VK_CONTROL});
+  TypeKey(VK_F5);
+  EXPECT_TRUE(PumpUntil([&] { return Clicked.size() == 3; }));
+  EXPECT_EQ(Clicked, (std::vector<std::string>{"&File", "Save", "Popup's"}));
+  EXPECT_EQ(keys, 0);
+  file->OnClick = [&](TObject*) { save->SetEnabled(false); };
+  TypeKey('S', {VK_CONTROL});
+  EXPECT_TRUE(PumpUntil([&] { return keys == 1; }));
+  EXPECT_EQ(Clicked.size(), 3U);
+}
+
+TEST_F(OnAForm, TheBarStandsOnTheFormAndGoesWithItsMenu) {
+  const int height = Form.ClientHeight();
+  auto* bar = new TMainMenu(nullptr);
+  Add(bar->Items(), "File");
+  Form.SetMenu(bar);
+  EXPECT_EQ(::GetMenu(Form.Handle()), bar->Handle());
+  EXPECT_LT(Form.ClientHeight(), height);
+  TMenuItem* file = bar->Items()->Items(0);
+  ::SendMessageW(Form.Handle(), WM_COMMAND, file->Command(), 0);
+  EXPECT_EQ(Clicked, std::vector<std::string>{"File"});
+  delete bar;
+  EXPECT_EQ(Form.Menu(), nullptr);
+  EXPECT_EQ(::GetMenu(Form.Handle()), nullptr);
+}
+
+TEST_F(OnAForm, AnItemsHintIsTheApplications) {
+  TMainMenu bar(nullptr);
+  TMenuItem* file = Add(bar.Items(), "File");
+  file->SetHint("short|About files");
+  Form.SetMenu(&bar);
+  const auto menu = reinterpret_cast<LPARAM>(bar.Handle());
+  ::SendMessageW(Form.Handle(), WM_MENUSELECT, MAKEWPARAM(file->Command(), MF_HILITE), menu);
+  EXPECT_EQ(Application()->Hint(), "About files");
+  ::SendMessageW(Form.Handle(), WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
+  EXPECT_EQ(Application()->Hint(), "");
+}
+
+}  // namespace
+}  // namespace vcl
