@@ -6,6 +6,7 @@
 #include "host/rtl/forminput.h"
 #include "host/rtl/streams.h"
 #include "host/rtl/text.h"
+#include "host/rtl/valuetext.h"
 
 namespace vcl {
 namespace {
@@ -34,7 +35,6 @@ class TFormPrinter {
   void PrintValue();
   void PrintFloat();
   void PrintString();
-  void PrintPiece(std::string_view piece);
   void PrintSet();
   void PrintList();
   void PrintCollection();
@@ -138,33 +138,13 @@ void TFormPrinter::PrintString() {
     // A character of several bytes stays whole.
     while (size > 1 && (static_cast<unsigned char>(rest[size]) & 0xC0) == 0x80)
       --size;
-    PrintPiece(rest.substr(0, size));
+    FText += FormString(rest.substr(0, size));
     rest.remove_prefix(size);
     FText += " +";
     NewLine();
   }
-  PrintPiece(rest);
+  FText += FormString(rest);
   FIndent -= 2;
-}
-
-void TFormPrinter::PrintPiece(std::string_view piece) {
-  if (piece.empty()) FText += "''";
-  bool quoted = false;
-  const auto quote = [&](bool wanted) {
-    if (quoted != wanted) FText += '\'';
-    quoted = wanted;
-  };
-  for (char c : piece) {
-    const auto code = static_cast<unsigned char>(c);
-    const bool control = code < ' ' || code == 0x7F;
-    quote(!control);
-    if (control) {
-      FText += "#" + IntToStr(code);
-    } else {
-      FText.append(c == '\'' ? 2 : 1, c);
-    }
-  }
-  quote(false);
 }
 
 void TFormPrinter::PrintSet() {

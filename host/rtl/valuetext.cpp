@@ -122,4 +122,26 @@ TValue TextToValue(const TTypeInfo& type, std::string_view text) {
   }
 }
 
+std::string FormString(std::string_view text) {
+  std::string printed;
+  if (text.empty()) printed = "''";
+  bool quoted = false;
+  const auto quote = [&](bool wanted) {
+    if (quoted != wanted) printed += '\'';
+    quoted = wanted;
+  };
+  for (char c : text) {
+    const auto code = static_cast<unsigned char>(c);
+    const bool control = code < ' ' || code == 0x7F;
+    quote(!control);
+    if (control) {
+      printed += Concat("#", IntToStr(code));
+    } else {
+      printed.append(c == '\'' ? 2 : 1, c);
+    }
+  }
+  quote(false);
+  return printed;
+}
+
 }  // namespace vcl

@@ -16,5 +16,8 @@ VCL_API std::string ValueToText(const TTypeInfo& type, const TValue& value);
 /// regard to case; numbers as StrToInt64 takes them. Raises EConvertError, with the text and the
 /// type, for anything else.
 VCL_API TValue TextToValue(const TTypeInfo& type, std::string_view text);
+/// The text as a string of a text form file: in quotes, those in it doubled, control characters as
+/// "#" and their number; all on one line.
+VCL_API std::string FormString(std::string_view text);
 
 }  // namespace vcl

@@ -223,5 +223,28 @@ TEST_F(Lists, TheTextOfAComboOutlivesTheWindow) {
   }
 }
 
+TEST_F(Lists, HandlersMayFreeTheirSender) {
+  auto* box = Make<TListBox>(10, 10);
+  box->Items()->SetCommaText("a,b");
+  box->OnClick = [&](TObject*) { delete box; };
+  auto* typed = Make<TComboBox>(200, 10);
+  typed->OnChange = [&](TObject*) { delete typed; };
+  auto* pressed = Make<TComboBox>(200, 40);
+  pressed->OnKeyDown = [&](TObject*, std::uint16_t&, TShiftState) { delete pressed; };
+  auto* chosen = Make<TComboBox>(200, 70);
+  chosen->SetStyle(csDropDownList);
+  chosen->Items()->SetCommaText("a,b");
+  chosen->OnClick = [&](TObject*) { delete chosen; };
+  ShowForm();
+  Click(*box, 5, 3);
+  for (TComboBox* combo : {static_cast<TComboBox*>(typed), static_cast<TComboBox*>(pressed),
+                           static_cast<TComboBox*>(chosen)}) {
+    combo->SetFocus();
+    Key(VK_DOWN);
+    Type("x");
+  }
+  EXPECT_EQ(Form.ControlCount(), 0);
+}
+
 }  // namespace
 }  // namespace vcl

@@ -106,6 +106,24 @@ TEST_F(Pages, TheUserChangesPagesWhenTheProgramLetsThem) {
   EXPECT_EQ(heard, "");
 }
 
+TEST_F(Pages, HandlersMayFreeThePagesOrTheWhole) {
+  auto* pages = Make<TPageControl>(10, 10);
+  AddPage(pages, "&One");
+  TTabSheet* second = AddPage(pages, "&Two");
+  auto* edit = Make<TEdit>(10, 10, pages->Pages(0));
+  second->OnShow = [&](TObject*) { delete second; };
+  ShowForm();
+  edit->SetFocus();
+  KeyWith(VK_MENU, 'T');
+  EXPECT_EQ(pages->PageCount(), 1);
+  EXPECT_EQ(pages->ActivePage(), pages->Pages(0));
+  EXPECT_TRUE(::IsWindowVisible(edit->Handle()));
+  AddPage(pages, "T&hree");
+  pages->OnChange = [&](TObject*) { delete pages; };
+  KeyWith(VK_MENU, 'H');
+  EXPECT_EQ(Form.ControlCount(), 0);
+}
+
 TEST_F(Pages, APageFillsWhatTheTabsLeave) {
   auto* pages = Make<TPageControl>(10, 10);
   TTabSheet* page = AddPage(pages, "one");
