@@ -21,12 +21,12 @@ bool Before(const std::string& a, const std::string& b) {
 
 }  // namespace
 
-const TListMessages ListBoxMessages{LB_INSERTSTRING, LB_DELETESTRING,  LB_RESETCONTENT,
-                                    LB_GETCURSEL,    LB_SETCURSEL,     LB_GETITEMHEIGHT,
-                                    LB_SETITEMHEIGHT};
-const TListMessages ComboBoxMessages{CB_INSERTSTRING, CB_DELETESTRING,  CB_RESETCONTENT,
-                                     CB_GETCURSEL,    CB_SETCURSEL,     CB_GETITEMHEIGHT,
-                                     CB_SETITEMHEIGHT};
+const TListMessages ListBoxMessages{LB_INSERTSTRING, LB_DELETESTRING, LB_RESETCONTENT,
+                                    LB_GETCURSEL,    LB_SETCURSEL,    LB_GETSEL,
+                                    LB_SETSEL,       LB_SETITEMHEIGHT};
+const TListMessages ComboBoxMessages{CB_INSERTSTRING, CB_DELETESTRING, CB_RESETCONTENT,
+                                     CB_GETCURSEL,    CB_SETCURSEL,    0,
+                                     0,               CB_SETITEMHEIGHT};
 
 TListItems::TLine& TListItems::Line(int index) {
   CheckItem(index);
@@ -55,10 +55,22 @@ void TListItems::SetStrings(int index, const std::string& text) {
   }
   // A window cannot change an item's text, only put another item in its place.
   TObject* object = line.Object;
-  const bool selected = Send(FControl, FMessages.GetSelected) == index;
+  const bool selected = SelectedInWindow(index);
   Delete(index);
   InsertLine(index, text, object);
-  if (selected) Send(FControl, FMessages.SetSelected, static_cast<WPARAM>(index));
+  if (selected) SelectInWindow(index);
+}
+
+bool TListItems::SelectedInWindow(int index) const {
+  if (FMessages.GetItemSelected == 0) return Send(FControl, FMessages.GetSelected) == index;
+  return Send(FControl, FMessages.GetItemSelected, static_cast<WPARAM>(index)) > 0;
+}
+
+void TListItems::SelectInWindow(int index) {
+  // A list box with one selected item refuses the message that is for many.
+  const bool done = FMessages.SetItemSelected != 0 &&
+                    Send(FControl, FMessages.SetItemSelected, TRUE, index) >= 0;
+  if (!done) Send(FControl, FMessages.SetSelected, static_cast<WPARAM>(index));
 }
 
 int TListItems::SortedPlace(const std::string& text) const {

@@ -19,7 +19,8 @@ struct TListMessages {
   UINT Reset;
   UINT GetSelected;
   UINT SetSelected;
-  UINT GetItemHeight;
+  UINT GetItemSelected;  ///< 0 where at most one item is selected.
+  UINT SetItemSelected;
   UINT SetItemHeight;
 };
 extern const TListMessages ListBoxMessages;
@@ -74,6 +75,8 @@ class TListItems : public TStrings {
   void RefuseWhenSorted() const;
   void InsertLine(int index, const std::string& text, TObject* object);
   void TellInserted(int index, const std::string& text);
+  bool SelectedInWindow(int index) const;
+  void SelectInWindow(int index);
 
   TWinControl& FControl;
   const TListMessages& FMessages;

@@ -72,6 +72,12 @@ TEST_F(Lists, SelectionAndObjectsOutliveTheWindow) {
     multi->SetExtendedSelect(false);
   }
   EXPECT_THROW(multi->Selected(12), EStringListError);
+  for (TRecreatable<TListBox>* list : {single, multi}) {
+    list->SetSelected(3, true);
+    list->Items()->SetStrings(3, "another text");
+    EXPECT_TRUE(list->Selected(3));
+    EXPECT_EQ(list->Selected(1), list == multi);
+  }
 }
 
 TEST_F(Lists, ASortedListKeepsItsOrderAndTheSelectionOnItsItem) {
@@ -237,8 +243,7 @@ TEST_F(Lists, HandlersMayFreeTheirSender) {
   chosen->OnClick = [&](TObject*) { delete chosen; };
   ShowForm();
   Click(*box, 5, 3);
-  for (TComboBox* combo : {static_cast<TComboBox*>(typed), static_cast<TComboBox*>(pressed),
-                           static_cast<TComboBox*>(chosen)}) {
+  for (TRecreatable<TComboBox>* combo : {typed, pressed, chosen}) {
     combo->SetFocus();
     Key(VK_DOWN);
     Type("x");
