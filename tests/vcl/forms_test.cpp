@@ -444,5 +444,59 @@ TEST_F(Forms, AFormWrittenAndReadBackIsTheSame) {
   EXPECT_EQ(written.DataString().find("  Width = "), std::string::npos);
 }
 
+// Forms from the program's resources.
+
+TLog resourceLog;
+
+class TResourceForm : public TForm {
+ public:
+  explicit TResourceForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+  static const TClass& Class() {
+    static const TClass info =
+        Describe<TResourceForm, TForm>("TResourceForm", "forms_test",
+                                       {
+                                           Field<&TResourceForm::Item1>("Item1"),
+                                           Method<&TResourceForm::FormCreate>("FormCreate"),
+                                           Method<&TResourceForm::FormDestroy>("FormDestroy"),
+                                           Method<&TResourceForm::FormShow>("FormShow"),
+                                       });
+    return info;
+  }
+  const TClass& ClassType() const override { return Class(); }
+  void FormCreate(TObject*) { resourceLog.push_back("create " + Item1->Caption()); }
+  void FormShow(TObject*) { resourceLog.push_back("show"); }
+  void FormDestroy(TObject*) { resourceLog.push_back("destroy " + Item1->Caption()); }
+  TMenuItem* Item1 = nullptr;
+};
+
+TEST(ResourceForms, AreMadeCreatedShownAndDestroyedWhole) {
+  RegisterMenuClasses();
+  resourceLog.clear();
+  auto* form = new TResourceForm(nullptr);
+  EXPECT_EQ(form->Caption(), "Straight from the program");
+  EXPECT_TRUE(form->Visible());
+  EXPECT_EQ(form->ClientRect(), Rect(0, 0, 210, 90));
+  form->Free();
+  EXPECT_EQ(resourceLog, (TLog{"create Item", "show", "destroy Item"}));
+}
+
+class TLostForm : public TForm {
+ public:
+  explicit TLostForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+  static const TClass& Class() {
+    static const TClass info = Describe<TLostForm, TForm>("TLostForm", "forms_test", {});
+    return info;
+  }
+  const TClass& ClassType() const override { return Class(); }
+};
+
+TEST(ResourceForms, WithoutAResourceThereIsNoForm) {
+  const int count = Screen()->FormCount();
+  TComponent owner(nullptr);
+  EXPECT_THROW(new TLostForm(&owner), EResNotFound);
+  EXPECT_EQ(Screen()->FormCount(), count);
+  EXPECT_EQ(owner.ComponentCount(), 0);
+}
+
 }  // namespace
 }  // namespace vcl
