@@ -1,0 +1,203 @@
+#include "core/Qelfont3d.h"
+
+#include "core/Qelownedsettings.h"
+#include "host/rtl/properties.h"
+
+namespace qel {
+
+namespace {
+
+/// Draws copies of one text, each at the place that the rectangle has been moved to.
+class TTextLayers {
+ public:
+  TTextLayers(const vcl::TFont* font, HDC dc, const vcl::TRect& rect, const std::string& text,
+              unsigned flags)
+      : FDC(dc), FRect(rect), FText(text), FFlags(flags) {
+    // With DT_MODIFYSTRING the system may write an ellipsis, and a zero, behind the text.
+    FText.append(4, '\0');
+    FBrush.SetStyle(vcl::bsClear);
+    FFont.Assign(font);
+    FSavedLevel = ::SaveDC(dc);
+  }
+  /// Gives the context back as it was, before the font and the brush go.
+  ~TTextLayers() { ::RestoreDC(FDC, FSavedLevel); }
+  TTextLayers(const TTextLayers&) = delete;
+  TTextLayers& operator=(const TTextLayers&) = delete;
+
+  void Move(int dx, int dy) { ::OffsetRect(&FRect, dx, dy); }
+  void Shrink(int by) { ::InflateRect(&FRect, -by, -by); }
+  void SetColor(vcl::TColor color) { FFont.SetColor(color); }
+
+  void Draw() {
+    ::UnrealizeObject(FBrush.Handle());
+    ::SelectObject(FDC, FBrush.Handle());
+    ::SetBkColor(FDC, ~vcl::ColorToRGB(FBrush.Color()));
+    ::SetBkMode(FDC, TRANSPARENT);
+    ::SelectObject(FDC, FFont.Handle());
+    ::SetTextColor(FDC, vcl::ColorToRGB(FFont.Color()));
+    // The flag is added, not or-ed: flags that have it already become others by it.
+    ::DrawTextExA(FDC, FText.data(), -1, &FRect, FFlags + DT_NOCLIP, nullptr);
+  }
+  void DrawAt(int dx, int dy) {
+    Move(dx, dy);
+    Draw();
+  }
+
+ private:
+  HDC FDC;
+  RECT FRect;
+  std::string FText;
+  unsigned FFlags;
+  vcl::TBrush FBrush;
+  vcl::TFont FFont;
+  int FSavedLevel = 0;
+};
+
+void DrawDisabled(TTextLayers& layers) {
+  layers.SetColor(vcl::clBtnHighlight);
+  layers.Draw();
+  layers.SetColor(vcl::clGrayText);
+  layers.DrawAt(-1, -1);
+}
+
+/// The copies that trail from the text. They end as far from it as there are copies.
+void DrawRepetition(TTextLayers& layers, const TQELFont3D& font) {
+  if (font.Repetition() == repeatNone) return;
+  layers.Shrink(font.Repetitionwidth());
+  layers.SetColor(font.RepetitionColor());
+  const int towards = font.Repetition() == repeatOnShadow ? 1 : -1;
+  layers.Move(towards * font.Offset(), towards * font.Offset());
+  for (int i = 0; i < font.Repetitionwidth(); ++i) {
+    layers.Draw();
+    layers.Move(-towards, -towards);
+  }
+}
+
+void DrawOutline(TTextLayers& layers, const TQELFont3D& font) {
+  layers.SetColor(font.Shadow());
+  layers.DrawAt(-1, -1);
+  layers.DrawAt(2, 0);
+  layers.DrawAt(0, 2);
+  layers.DrawAt(-2, 0);
+  layers.Move(1, -1);
+}
+
+void DrawLight(TTextLayers& layers, const TQELFont3D& font) {
+  const TQELStyle3D style = font.Style3D();
+  const int offset = font.Offset();
+  const bool lightFirst = style == fontRaised || style == fontOnlyHighlight;
+  const bool shadowSecond = style == fontRaised || style == fontOnlyShadow;
+  layers.Move(-offset, -offset);
+  layers.SetColor(lightFirst ? font.Highlight() : font.Shadow());
+  if (style != fontOnlyShadow) layers.Draw();
+  layers.Move(2 * offset, 2 * offset);
+  layers.SetColor(shadowSecond ? font.Shadow() : font.Highlight());
+  if (style != fontOnlyHighlight) layers.Draw();
+  layers.Move(-offset, -offset);
+}
+
+}  // namespace
+
+TQELFont3D::TQELFont3D(vcl::TObject* owner) : FOwner(owner) {
+  OnChange = vcl::TNotifyEvent(this, &TQELFont3D::Invalidate);
+}
+
+void TQELFont3D::Invalidate(vcl::TObject* /*sender*/) { InvalidateOwner(FOwner); }
+
+void TQELFont3D::Assign(const vcl::TPersistent* source) {
+  const auto* other = dynamic_cast<const TQELFont3D*>(source);
+  if (!other) return TGraphicsObject::Assign(source);
+  FThreeDimensional = other->FThreeDimensional;
+  FStyle3D = other->FStyle3D;
+  FOffset = other->FOffset;
+  FRepetition = other->FRepetition;
+  FRepetitionColor = other->FRepetitionColor;
+  FRepetitionwidth = other->FRepetitionwidth;
+  FMaskFont = other->FMaskFont;
+  FShadow = other->FShadow;
+  FHighlight = other->FHighlight;
+  Changed();
+}
+
+void TQELFont3D::Write(const vcl::TFont* font, HDC dc, const vcl::TRect& rect,
+                       const std::string& text, unsigned flags, bool enabled) const {
+  TTextLayers layers(font, dc, rect, text, flags);
+  if (!enabled) return DrawDisabled(layers);
+  if (FThreeDimensional) {
+    DrawRepetition(layers, *this);
+    FStyle3D == fontOutLineShadow ? DrawOutline(layers, *this) : DrawLight(layers, *this);
+  }
+  layers.SetColor(font->Color());
+  layers.Draw();
+}
+
+void QELDrawDisabledText(const vcl::TFont* font, vcl::TCanvas* canvas, const vcl::TRect& rect,
+                         unsigned flags, const std::string& text) {
+  TTextLayers layers(font, canvas->Handle(), rect, text, flags);
+  DrawDisabled(layers);
+}
+
+void TQELFont3D::SetThreeDimensional(bool threeDimensional) {
+  FThreeDimensional = threeDimensional;
+  Changed();
+}
+
+void TQELFont3D::SetStyle3D(TQELStyle3D style) {
+  FStyle3D = style;
+  Changed();
+}
+
+void TQELFont3D::SetOffset(int offset) {
+  if (offset > 0) FOffset = offset;
+  Changed();
+}
+
+void TQELFont3D::SetRepetition(TQELRepeat repetition) {
+  FRepetition = repetition;
+  Changed();
+}
+
+void TQELFont3D::SetRepetitionColor(vcl::TColor color) {
+  FRepetitionColor = color;
+  Changed();
+}
+
+void TQELFont3D::SetRepetitionwidth(int width) {
+  if (width >= 0) FRepetitionwidth = width;
+  Changed();
+}
+
+void TQELFont3D::SetMaskFont(bool maskFont) {
+  FMaskFont = maskFont;
+  Changed();
+}
+
+void TQELFont3D::SetShadow(vcl::TColor color) {
+  FShadow = color;
+  Changed();
+}
+
+void TQELFont3D::SetHighlight(vcl::TColor color) {
+  FHighlight = color;
+  Changed();
+}
+
+const vcl::TClass& TQELFont3D::Class() {
+  using T = TQELFont3D;
+  using namespace vcl;
+  static const TClass info = Describe<T, TGraphicsObject>("TQELFont3D", "Qelclasses", {
+      Property<&T::ThreeDimensional, &T::SetThreeDimensional>("ThreeDimensional").Default(true),
+      Property<&T::Style3D, &T::SetStyle3D>("Style3D").Default(fontOnlyHighlight),
+      Property<&T::Offset, &T::SetOffset>("Offset").Default(1),
+      Property<&T::Repetition, &T::SetRepetition>("Repetition").Default(repeatNone),
+      Property<&T::RepetitionColor, &T::SetRepetitionColor>("RepetitionColor").Default(clBlack),
+      Property<&T::Repetitionwidth, &T::SetRepetitionwidth>("Repetitionwidth").Default(0),
+      Property<&T::MaskFont, &T::SetMaskFont>("MaskFont").Default(true),
+      Property<&T::Shadow, &T::SetShadow>("Shadow").Default(clBtnShadow),
+      Property<&T::Highlight, &T::SetHighlight>("Highlight").Default(clBtnHighlight),
+      ReadOnly<&T::GetDrawingwidth>("DrawingWidth"),
+  });
+  return info;
+}
+
+}  // namespace qel

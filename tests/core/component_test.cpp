@@ -1,0 +1,134 @@
+// The base classes without a window: about box, actions, sounds; and the shared enumerations.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/Qelclasses.h"
+#include "host/rtl/exceptions.h"
+#include "host/rtl/properties.h"
+#include "host/vcl/application.h"
+#include "tests/support/importpatch.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+struct TAction : qel::TQELExecComponent {
+  using TQELExecComponent::TQELExecComponent;
+  bool Execute() override {
+    ++Runs;
+    if (Fails) throw vcl::EInvalidOperation("refused");
+    return true;
+  }
+  int Runs = 0;
+  bool Fails = false;
+};
+
+const vcl::TPropInfo& PropertyOf(const vcl::TObject& object, const char* name) {
+  return *object.ClassType().FindPublished(name);
+}
+
+TEST(ExecComponent, RunsWhenToldThatItIsBusy) {
+  TAction action(nullptr);
+  const vcl::TPropInfo& execute = PropertyOf(action, "DesignExecute");
+  for (const char* text : {"", "(Execute)", "(busy...)", "(Busy...) ", "anything"}) {
+    execute.Set(action, std::string(text));
+    EXPECT_EQ(action.Runs, 0) << text;
+    EXPECT_EQ(action.DesignExecute(), "(Execute)");
+  }
+  execute.Set(action, std::string("(Busy...)"));
+  EXPECT_EQ(action.Runs, 1);
+  EXPECT_EQ(action.DesignExecute(), "(Execute)");
+  EXPECT_FALSE(execute.NeedsWriting(action));
+}
+
+TEST(ExecComponent, KeepsItsTextWhenTheActionFails) {
+  TAction action(nullptr);
+  action.Fails = true;
+  EXPECT_THROW(action.DoExec("(Busy...)"), vcl::EInvalidOperation);
+  EXPECT_EQ(action.DesignExecute(), "(Execute)");
+}
+
+TEST(ExecComponent, DoesNothingByItself) {
+  qel::TQELExecComponent component(nullptr);
+  EXPECT_FALSE(component.Execute());
+}
+
+std::vector<UINT> Beeps;
+
+TEST(CustomDialog, PlaysItsSoundFirst) {
+  const TImportPatch patch("qel.dll", "MessageBeep", +[](UINT type) WINAPI -> BOOL {
+    Beeps.push_back(type);
+    return TRUE;
+  });
+  qel::TQELCustomDialog dialog(nullptr);
+  for (int sound = qel::bNone; sound <= qel::bCriticalStop; ++sound) {
+    dialog.SetSound(qel::TQELBeeptype(sound));
+    EXPECT_FALSE(dialog.Execute());
+  }
+  EXPECT_THAT(Beeps, ElementsAre(0u, 0x40u, 0x30u, 0x20u, 0x10u));
+}
+
+std::string BoxText, BoxCaption;
+UINT BoxFlags = 99;
+
+std::vector<std::string> LinesOf(const std::string& text) {
+  std::vector<std::string> lines(1);
+  for (char c : text) {
+    if (c == '\r') {
+      lines.emplace_back();
+    } else {
+      lines.back() += c;
+    }
+  }
+  return lines;
+}
+
+TEST(About, NamesItsComponent) {
+  const TImportPatch patch(
+      "qelhost.dll", "MessageBoxA",
+      +[](HWND, const char* text, const char* caption, UINT flags) WINAPI -> int {
+        BoxText = text;
+        BoxCaption = caption;
+        BoxFlags = flags;
+        return IDOK;
+      });
+  vcl::Application();
+  qel::TQELCustomDialog dialog(nullptr);
+  dialog.SetName("Dialog1");
+  dialog.About()->Showabout();
+  EXPECT_EQ(BoxCaption.find("(Dialog1) - TQELCustomDialog"), 0u) << BoxCaption;
+  const std::vector<std::string> lines = LinesOf(BoxText);
+  ASSERT_EQ(lines.size(), 11u) << BoxText;
+  for (std::size_t i = 0; i < lines.size(); ++i) EXPECT_EQ(lines[i].empty(), i == 4 || i == 8) << i;
+  EXPECT_EQ(BoxFlags & ~(MB_TASKMODAL | MB_TOPMOST | MB_SETFOREGROUND), 0u);
+}
+
+template <class E>
+void ExpectValues(E last, const char* lastName) {
+  const vcl::TTypeInfo& info = vcl::TypeInfoOf<E>();
+  EXPECT_EQ(info.Max, last);
+  EXPECT_EQ(info.EnumName(last).value_or("none"), lastName);
+}
+
+TEST(Enumerations, EveryValueHasItsName) {
+  ExpectValues(qel::onHide, "onHide");
+  ExpectValues(qel::wsCustompoint, "wsCustompoint");
+  ExpectValues(qel::FadeOut, "FadeOut");
+  ExpectValues(qel::dDownLeft, "dDownLeft");
+  ExpectValues(qel::runEVENT, "runEVENT");
+  ExpectValues(qel::btInset, "btInset");
+  ExpectValues(qel::bsDisabled, "bsDisabled");
+  ExpectValues(qel::kHorizontal, "kHorizontal");
+  ExpectValues(qel::bCriticalStop, "bCriticalStop");
+  ExpectValues(qel::appNone, "appNone");
+  ExpectValues(qel::ccFax, "ccFax");
+  ExpectValues(qel::pBottom, "pBottom");
+  ExpectValues(qel::fontOutLineShadow, "fontOutLineShadow");
+  ExpectValues(qel::repeatNone, "repeatNone");
+  ExpectValues(qel::frameLightBordered, "frameLightBordered");
+}
+
+}  // namespace

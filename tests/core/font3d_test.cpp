@@ -1,0 +1,212 @@
+// Three-dimensional text, against the layers that it is made of, drawn one by one.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/Qelclasses.h"
+#include "host/rtl/exceptions.h"
+#include "host/rtl/properties.h"
+#include "tests/support/importpatch.h"
+#include "tests/support/plainfill.h"
+
+namespace {
+
+using qel::TQELFont3D;
+using vcl::TColor;
+
+constexpr TColor Face = TColor(0x0000FF), Light = TColor(0x00FF00), Dark = TColor(0xFF0000),
+                 Trail = TColor(0x00FFFF);
+constexpr int Width = 120, Height = 60;
+constexpr vcl::TRect Area(20, 15, 110, 50);
+
+/// A layer: how far from the rectangle's place, in which colour.
+struct TLayer {
+  int Dx;
+  int Dy;
+  TColor Color;
+};
+
+struct TCase {
+  const char* Name;
+  void (*Prepare)(TQELFont3D&);
+  bool Enabled;
+  std::vector<TLayer> Layers;
+};
+
+void DrawLayers(HDC dc, const vcl::TFont& font, const std::vector<TLayer>& layers) {
+  const int saved = ::SaveDC(dc);
+  ::SelectObject(dc, font.Handle());
+  ::SetBkMode(dc, TRANSPARENT);
+  for (const TLayer& layer : layers) {
+    RECT rect = Area;
+    ::OffsetRect(&rect, layer.Dx, layer.Dy);
+    ::SetTextColor(dc, vcl::ColorToRGB(layer.Color));
+    char text[] = "Layers";
+    ::DrawTextExA(dc, text, -1, &rect, DT_LEFT | DT_NOCLIP, nullptr);
+  }
+  ::RestoreDC(dc, saved);
+}
+
+class Font3D : public testing::TestWithParam<TCase> {};
+
+TEST_P(Font3D, DrawsItsLayersInOrder) {
+  vcl::TFont font;
+  font.SetSize(20);
+  font.SetColor(Face);
+  TQELFont3D font3D;
+  font3D.SetHighlight(Light);
+  font3D.SetShadow(Dark);
+  font3D.SetRepetitionColor(Trail);
+  GetParam().Prepare(font3D);
+  const plain::TDib painted(Width, Height), expected(Width, Height), empty(Width, Height);
+  for (const plain::TDib* dib : {&painted, &expected, &empty}) dib->Fill(RGB(9, 9, 9));
+  font3D.Write(&font, painted.DC(), Area, "Layers", DT_LEFT, GetParam().Enabled);
+  DrawLayers(expected.DC(), font, GetParam().Layers);
+  EXPECT_EQ("", painted.Difference(expected));
+  EXPECT_NE("", painted.Difference(empty));
+}
+
+const TCase Cases[] = {
+    {"defaults", [](TQELFont3D&) {}, true, {{-1, -1, Light}, {0, 0, Face}}},
+    {"flat", [](TQELFont3D& f) { f.SetThreeDimensional(false); }, true, {{0, 0, Face}}},
+    {"raised",
+     [](TQELFont3D& f) {
+       f.SetStyle3D(qel::fontRaised);
+       f.SetOffset(3);
+     },
+     true,
+     {{-3, -3, Light}, {3, 3, Dark}, {0, 0, Face}}},
+    {"inset",
+     [](TQELFont3D& f) {
+       f.SetStyle3D(qel::fontInset);
+       f.SetOffset(2);
+     },
+     true,
+     {{-2, -2, Dark}, {2, 2, Light}, {0, 0, Face}}},
+    {"only_shadow", [](TQELFont3D& f) { f.SetStyle3D(qel::fontOnlyShadow); }, true,
+     {{1, 1, Dark}, {0, 0, Face}}},
+    {"outline_ignores_the_offset",
+     [](TQELFont3D& f) {
+       f.SetStyle3D(qel::fontOutLineShadow);
+       f.SetOffset(7);
+     },
+     true,
+     {{-1, -1, Dark}, {1, -1, Dark}, {1, 1, Dark}, {-1, 1, Dark}, {0, 0, Face}}},
+    {"disabled_ignores_the_style",
+     [](TQELFont3D& f) {
+       f.SetStyle3D(qel::fontRaised);
+       f.SetThreeDimensional(false);
+       f.SetRepetition(qel::repeatOnShadow);
+       f.SetRepetitionwidth(4);
+     },
+     false,
+     {{0, 0, vcl::clBtnHighlight}, {-1, -1, vcl::clGrayText}}},
+    {"trail_to_the_shadow",
+     [](TQELFont3D& f) {
+       f.SetStyle3D(qel::fontOnlyShadow);
+       f.SetOffset(2);
+       f.SetRepetition(qel::repeatOnShadow);
+       f.SetRepetitionwidth(3);
+     },
+     true,
+     // The rectangle shrinks by 3, so a text at its upper left begins 3 pixels further in.
+     {{5, 5, Trail}, {4, 4, Trail}, {3, 3, Trail}, {4, 4, Dark}, {2, 2, Face}}},
+    {"trail_to_the_highlight",
+     [](TQELFont3D& f) {
+       f.SetRepetition(qel::repeatOnHighLight);
+       f.SetRepetitionwidth(2);
+     },
+     true,
+     {{1, 1, Trail}, {2, 2, Trail}, {2, 2, Light}, {3, 3, Face}}},
+    {"no_repetition_does_not_shrink", [](TQELFont3D& f) { f.SetRepetitionwidth(5); }, true,
+     {{-1, -1, Light}, {0, 0, Face}}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Cases, Font3D, testing::ValuesIn(Cases),
+                         [](const auto& info) { return info.param.Name; });
+
+TEST(Font3DWrite, LeavesTheContextAsItWas) {
+  const plain::TDib dib(Width, Height);
+  vcl::TFont font;
+  ::SetTextColor(dib.DC(), 0x123456);
+  ::SetBkColor(dib.DC(), 0x654321);
+  ::SetBkMode(dib.DC(), OPAQUE);
+  const HGDIOBJ former = ::GetCurrentObject(dib.DC(), OBJ_FONT);
+  TQELFont3D().Write(&font, dib.DC(), Area, "text", 0, true);
+  EXPECT_EQ(::GetTextColor(dib.DC()), 0x123456u);
+  EXPECT_EQ(::GetBkColor(dib.DC()), 0x654321u);
+  EXPECT_EQ(::GetBkMode(dib.DC()), OPAQUE);
+  EXPECT_EQ(::GetCurrentObject(dib.DC(), OBJ_FONT), former);
+}
+
+std::vector<UINT> Flags;
+
+TEST(Font3DWrite, AddsItsFlagToTheOthers) {
+  const TImportPatch patch(
+      "qel.dll", "DrawTextExA",
+      +[](HDC, char*, int length, RECT*, UINT flags, DRAWTEXTPARAMS* parameters) WINAPI -> int {
+        EXPECT_EQ(length, -1);
+        EXPECT_EQ(parameters, nullptr);
+        Flags.push_back(flags);
+        return 1;
+      });
+  const plain::TDib dib(Width, Height);
+  vcl::TFont font;
+  TQELFont3D font3D;
+  font3D.SetThreeDimensional(false);
+  for (unsigned flags : {0x0u, 0x8025u, 0x100u, 0x15u}) {
+    font3D.Write(&font, dib.DC(), Area, "x", flags, true);
+  }
+  EXPECT_THAT(Flags, testing::ElementsAre(0x100u, 0x8125u, 0x200u, 0x115u));
+}
+
+TEST(Font3DWrite, TakesAnyText) {
+  const plain::TDib dib(Width, Height);
+  vcl::TFont font;
+  const std::string texts[] = {"", std::string(100000, 'x'), "\xFF\xFE", "&", "a\tb\nc"};
+  for (const std::string& text : texts) {
+    TQELFont3D().Write(&font, dib.DC(), Area, text, DT_MODIFYSTRING | DT_END_ELLIPSIS, true);
+    TQELFont3D().Write(&font, dib.DC(), {5, 5, -5, -5}, text, DT_WORDBREAK, false);
+  }
+}
+
+TEST(Font3DSettings, RefusedValuesAreToldAllTheSame) {
+  TQELFont3D font3D;
+  int changes = 0;
+  font3D.OnChange = [&](vcl::TObject*) { ++changes; };
+  font3D.SetOffset(4);
+  font3D.SetOffset(0);
+  font3D.SetOffset(-2);
+  EXPECT_EQ(font3D.Offset(), 4);
+  font3D.SetRepetitionwidth(6);
+  font3D.SetRepetitionwidth(-1);
+  EXPECT_EQ(font3D.Repetitionwidth(), 6);
+  font3D.SetMaskFont(font3D.MaskFont());
+  EXPECT_EQ(changes, 6);
+  EXPECT_EQ(font3D.GetDrawingwidth(), 14);
+}
+
+TEST(Font3DSettings, AreCopiedWithOneNotice) {
+  TQELFont3D from, to;
+  from.SetThreeDimensional(false);
+  from.SetStyle3D(qel::fontInset);
+  from.SetOffset(9);
+  from.SetRepetition(qel::repeatOnShadow);
+  from.SetRepetitionColor(vcl::clRed);
+  from.SetRepetitionwidth(8);
+  from.SetMaskFont(false);
+  from.SetShadow(vcl::clLime);
+  from.SetHighlight(vcl::clBlue);
+  int changes = 0;
+  to.OnChange = [&](vcl::TObject*) { ++changes; };
+  to.Assign(&from);
+  EXPECT_EQ(changes, 1);
+  for (const vcl::TPropInfo& property : TQELFont3D::Class().Own()) {
+    EXPECT_EQ(property.Get(to), property.Get(from)) << property.Name;
+  }
+  EXPECT_THROW(to.Assign(nullptr), vcl::EConvertError);
+}
+
+}  // namespace

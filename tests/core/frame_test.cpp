@@ -1,0 +1,161 @@
+// Frames, pixel by pixel.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "core/Qelclasses.h"
+#include "tests/support/plainfill.h"
+
+namespace {
+
+using qel::TQELFrame;
+using vcl::TColor;
+using vcl::TRect;
+
+constexpr TColor H = TColor(0x00FF00), S = TColor(0xFF0000), Solid = TColor(0x0000FF),
+                 None = vcl::clNone, Black = vcl::clBlack;
+constexpr int Width = 40, Height = 30;
+constexpr TRect Around(3, 4, 33, 27);
+constexpr std::uint32_t Ground = 0x777777;
+
+/// A border, `Depth` rings inside the rectangle.
+struct TBorder {
+  int Depth;
+  TColor TopLeft;
+  TColor BottomRight;
+};
+
+std::uint32_t Pixel(TColor color) {
+  return std::uint32_t{GetRValue(color)} << 16 | GetGValue(color) << 8 | GetBValue(color);
+}
+
+/// What the frame's pixel is to be, from its distance to the four sides.
+std::uint32_t Expected(int x, int y, int rings, const std::vector<TBorder>& borders) {
+  const int left = x - Around.Left, top = y - Around.Top;
+  const int right = Around.Right - 1 - x, bottom = Around.Bottom - 1 - y;
+  const int depth = std::min({left, top, right, bottom});
+  for (const TBorder& border : borders) {
+    if (depth < border.Depth || depth >= border.Depth + rings) continue;
+    // The lower right half has the right column, upper corner included, and the bottom row; the lower
+    // left corner is drawn by both, last by this one.
+    const bool lower = right == depth || bottom == depth;
+    const bool upper = (left == depth || top == depth) && right != depth;
+    if (lower && border.BottomRight != None) return Pixel(border.BottomRight);
+    if (upper && (left == depth || bottom != depth) && border.TopLeft != None) {
+      return Pixel(border.TopLeft);
+    }
+  }
+  return Ground;
+}
+
+struct TCase {
+  qel::TQELFrameStyle Style;
+  int Rings;
+  int Offset;
+  int Shrinks;      // Pixels that the rectangle loses on each side.
+  int BorderWidth;
+  std::vector<TBorder> Borders;
+};
+
+const TCase Cases[] = {
+    {qel::frameSolid, 1, 5, 1, 1, {{0, Solid, Solid}}},
+    {qel::frameRaised, 3, 5, 3, 3, {{0, H, S}}},
+    {qel::frameLowered, 2, 0, 2, 2, {{0, S, H}}},
+    {qel::frameNone, 4, 3, 0, 2, {}},
+    {qel::frameFramedUp, 2, 3, 7, 7, {{0, H, S}, {5, S, H}}},
+    {qel::frameFramedDown, 1, 0, 2, 2, {{0, S, H}, {1, H, S}}},
+    {qel::framePanelUp, 1, 4, 2, 2, {{0, H, Black}, {1, None, S}}},
+    {qel::framePanelDown, 2, 0, 4, 4, {{0, S, None}, {2, Black, H}}},
+    {qel::frameLightBordered, 1, 0, 2, 2, {{0, None, S}, {1, H, H}}},
+};
+
+TEST(Frame, DrawsItsBordersJustInside) {
+  for (const TCase& each : Cases) {
+    TQELFrame frame;
+    frame.SetHighlight(H);
+    frame.SetShadow(S);
+    frame.SetSolid(Solid);
+    frame.SetFrameStyle(each.Style);
+    frame.SetFrameWidth(each.Rings);
+    frame.SetOffset(each.Offset);
+    const plain::TDib dib(Width, Height);
+    dib.Fill(Ground);
+    TRect rect = Around;
+    frame.Draw(dib.DC(), rect);
+    int wrong = 0;
+    for (int y = 0; y < Height; ++y) {
+      for (int x = 0; x < Width; ++x) {
+        if (dib.Pixel(x, y) != Expected(x, y, each.Rings, each.Borders) && wrong++ == 0) {
+          ADD_FAILURE() << "style " << each.Style << " at " << x << ", " << y << ": " << std::hex
+                        << dib.Pixel(x, y) << ", not "
+                        << Expected(x, y, each.Rings, each.Borders);
+        }
+      }
+    }
+    TRect inner = Around;
+    inner.Inflate(-each.Shrinks, -each.Shrinks);
+    EXPECT_EQ(rect, inner) << each.Style;
+    EXPECT_EQ(frame.BorderWidth(), each.BorderWidth) << each.Style;
+  }
+}
+
+TEST(Frame, RefusesSizesSilently) {
+  TQELFrame frame;
+  int changes = 0;
+  frame.OnChange = [&](vcl::TObject*) { ++changes; };
+  frame.SetFrameWidth(0);
+  frame.SetFrameWidth(-3);
+  frame.SetOffset(-1);
+  EXPECT_EQ(changes, 0);
+  EXPECT_EQ(frame.FrameWidth(), 1);
+  EXPECT_EQ(frame.Offset(), 0);
+  frame.SetFrameWidth(1);
+  frame.SetOffset(0);
+  frame.SetFrameStyle(qel::frameRaised);
+  frame.SetSolid(frame.Solid());
+  EXPECT_EQ(changes, 4);
+}
+
+TEST(Frame, CopiesWithOneNotice) {
+  TQELFrame from, to;
+  from.SetFrameStyle(qel::frameFramedUp);
+  from.SetFrameWidth(2);
+  from.SetOffset(3);
+  from.SetSolid(Solid);
+  int changes = 0;
+  to.OnChange = [&](vcl::TObject*) { ++changes; };
+  to.Assign(&from);
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(to.BorderWidth(), 7);
+  EXPECT_EQ(to.Solid(), Solid);
+}
+
+TEST(Frame, TwoRingsMakeAButton) {
+  TQELFrame frame;
+  frame.SetHighlight(H);
+  frame.SetShadow(S);
+  struct TExpected {
+    bool Down;
+    TColor OuterTopLeft, OuterBottomRight, InnerTopLeft, InnerBottomRight;
+  };
+  const TExpected cases[] = {{false, vcl::clWhite, Black, H, S}, {true, S, H, Black, vcl::clWhite}};
+  for (const TExpected& each : cases) {
+    vcl::TBitmap bitmap(20, 20);
+    bitmap.Canvas()->Pen()->SetWidth(5);
+    TRect rect(2, 2, 18, 18);
+    frame.Drawbutton(bitmap.Canvas(), rect, each.Down);
+    EXPECT_EQ(rect, TRect(4, 4, 16, 16));
+    const auto at = [&](int x, int y) { return bitmap.Canvas()->Pixels(x, y); };
+    EXPECT_EQ(at(2, 2), each.OuterTopLeft);
+    EXPECT_EQ(at(16, 2), each.OuterTopLeft);
+    EXPECT_EQ(at(17, 2), each.OuterBottomRight);
+    EXPECT_EQ(at(2, 17), each.OuterBottomRight);
+    EXPECT_EQ(at(3, 3), each.InnerTopLeft);
+    EXPECT_EQ(at(16, 16), each.InnerBottomRight);
+    EXPECT_EQ(at(3, 16), each.InnerBottomRight);
+    EXPECT_EQ(at(4, 4), vcl::clWhite);
+    EXPECT_EQ(at(1, 1), vcl::clWhite);
+  }
+}
+
+}  // namespace

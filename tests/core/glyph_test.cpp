@@ -1,0 +1,184 @@
+// Glyph strips: which image is drawn, greyed or see-through.
+#include <gtest/gtest.h>
+
+#include "core/Qelclasses.h"
+#include "host/rtl/exceptions.h"
+
+namespace {
+
+using qel::TQELGlyph;
+using qel::TQELNumGlyphs;
+using vcl::TColor;
+
+constexpr int Side = 8;
+constexpr TColor Images[] = {vcl::clRed, vcl::clLime, vcl::clBlue, vcl::clYellow};
+constexpr TColor Key = vcl::clFuchsia, Ground = TColor(0x123456);
+
+/// A strip of images in one colour each; the left half of each is of the key's colour.
+void MakeStrip(TQELGlyph& glyph, int count) {
+  vcl::TBitmap strip(count * Side, Side);
+  for (int i = 0; i < count; ++i) {
+    strip.Canvas()->Brush()->SetColor(Images[i]);
+    strip.Canvas()->FillRect(vcl::Bounds(i * Side, 0, Side, Side));
+    strip.Canvas()->Brush()->SetColor(Key);
+    strip.Canvas()->FillRect(vcl::Bounds(i * Side, 0, Side / 2, Side));
+  }
+  glyph.SetBitmap(&strip);
+  glyph.SetNumGlyphs(TQELNumGlyphs(count));
+  glyph.SetTransparentColor(Key);
+}
+
+struct TDrawn {
+  TColor Left;
+  TColor Right;
+};
+
+TDrawn Draw(const TQELGlyph& glyph, bool enabled, bool down, bool grayed) {
+  vcl::TBitmap screen(30, 20);
+  screen.Canvas()->Brush()->SetColor(Ground);
+  screen.Canvas()->FillRect({0, 0, 30, 20});
+  glyph.Draw(screen.Canvas(), 5, 6, enabled, down, grayed);
+  EXPECT_EQ(screen.Canvas()->Pixels(4, 6), Ground);
+  EXPECT_EQ(screen.Canvas()->Pixels(5 + Side, 6), Ground);
+  return {screen.Canvas()->Pixels(6, 7), screen.Canvas()->Pixels(5 + Side - 1, 6 + Side - 1)};
+}
+
+TColor Resolved(TColor color) { return TColor(vcl::ColorToRGB(color)); }
+
+TEST(Glyph, DrawsTheImageForTheState) {
+  struct TCase {
+    int Count;
+    bool Down;
+    TColor Image;
+  };
+  const TCase cases[] = {{1, false, vcl::clRed}, {1, true, vcl::clRed},  {2, true, vcl::clRed},
+                         {3, false, vcl::clRed}, {3, true, vcl::clLime}, {4, true, vcl::clLime}};
+  for (const TCase& each : cases) {
+    TQELGlyph glyph;
+    MakeStrip(glyph, each.Count);
+    EXPECT_EQ(glyph.GetWidth(), Side);
+    EXPECT_EQ(glyph.GetHeight(), Side);
+    const TDrawn seeThrough = Draw(glyph, true, each.Down, false);
+    EXPECT_EQ(seeThrough.Left, Ground);
+    EXPECT_EQ(seeThrough.Right, each.Image) << each.Count << each.Down;
+    glyph.SetTransparent(false);
+    const TDrawn whole = Draw(glyph, true, each.Down, false);
+    EXPECT_EQ(whole.Left, Key);
+    EXPECT_EQ(whole.Right, each.Image) << each.Count << each.Down;
+  }
+}
+
+TEST(Glyph, ADisabledOneIsTheLastImageInGreys) {
+  // The sums of the channels: 255 for the pure colours, 510 for yellow; twice 55 and 274 divide them.
+  const TColor expected[] = {vcl::clBtnShadow, vcl::clBtnShadow, vcl::clBtnShadow,
+                             vcl::clBtnShadow};
+  for (int count = 1; count <= 4; ++count) {
+    TQELGlyph glyph;
+    MakeStrip(glyph, count);
+    EXPECT_EQ(Draw(glyph, false, true, false).Right, Resolved(expected[count - 1]));
+    EXPECT_EQ(Draw(glyph, false, true, false).Left, Ground);
+  }
+}
+
+TEST(Glyph, AGreyedOneIsTheFirstImage) {
+  TQELGlyph glyph;
+  MakeStrip(glyph, 3);
+  EXPECT_EQ(Draw(glyph, true, true, true).Right, Resolved(vcl::clBtnShadow));
+  EXPECT_EQ(Draw(glyph, true, true, true).Left, Ground);
+}
+
+TEST(Glyph, GreysByTheSumOfTheChannels) {
+  struct TCase {
+    TColor Color;
+    int Level;
+    TColor Gray;
+  };
+  const TCase cases[] = {
+      {vcl::clWhite, 1, vcl::clBtnFace},           {TColor(0x16FFFF), 1, vcl::clBtnHighlight},
+      {TColor(0x1AFFFF), 1, vcl::clBtnFace},       {TColor(0x13FF00), 1, vcl::clBtnShadow},
+      {TColor(0x14FF00), 1, vcl::clBtnHighlight},  {TColor(0x370000), 1, vcl::clBlack},
+      {TColor(0x380000), 1, vcl::clBtnShadow},     {vcl::clWhite, 2, vcl::clBtnHighlight},
+      {TColor(0x26FFFF), 2, vcl::clBtnShadow},     {TColor(0x27FFFF), 2, vcl::clBtnHighlight},
+      {TColor(0x6E0000), 2, vcl::clBlack},         {TColor(0x6F0000), 2, vcl::clBtnShadow},
+  };
+  TQELGlyph glyph;
+  glyph.SetTransparentColor(Key);
+  for (const TCase& each : cases) {
+    vcl::TBitmap bitmap(3, 2);
+    bitmap.Canvas()->Brush()->SetColor(each.Color);
+    bitmap.Canvas()->FillRect({0, 0, 3, 2});
+    bitmap.Canvas()->SetPixel(1, 1, Key);
+    glyph.DrawGrayed(bitmap, vcl::clNone, each.Level);
+    EXPECT_EQ(bitmap.Canvas()->Pixels(2, 1), Resolved(each.Gray)) << std::hex << each.Color;
+    EXPECT_EQ(bitmap.Canvas()->Pixels(1, 1), Key);
+  }
+}
+
+TEST(Glyph, DrawsNothingWithoutImages) {
+  TQELGlyph glyph;
+  EXPECT_EQ(Draw(glyph, true, false, false).Right, Ground);
+  MakeStrip(glyph, 2);
+  glyph.SetNumGlyphs(TQELNumGlyphs(0));
+  EXPECT_EQ(glyph.GetWidth(), 0);
+  EXPECT_EQ(Draw(glyph, false, true, true).Right, Ground);
+  glyph.SetNumGlyphs(TQELNumGlyphs(2));
+  glyph.SetVisible(false);
+  EXPECT_EQ(Draw(glyph, true, false, false).Right, Ground);
+  EXPECT_THROW(glyph.SetNumGlyphs(TQELNumGlyphs(5)), vcl::EArgumentOutOfRangeException);
+  EXPECT_EQ(glyph.NumGlyphs(), 2);
+}
+
+TEST(Glyph, InTheDesignerTheStripSaysHowManyThereAre) {
+  struct TCase {
+    int Width;
+    int Height;
+    int Count;
+  };
+  const TCase cases[] = {{64, 16, 4}, {80, 16, 1}, {40, 16, 3}, {16, 16, 1}, {8, 16, 3}};
+  for (const bool designing : {true, false}) {
+    for (const TCase& each : cases) {
+      vcl::TComponent owner(nullptr);
+      owner.SetDesigning(designing);
+      TQELGlyph glyph(&owner);
+      glyph.SetNumGlyphs(TQELNumGlyphs(3));
+      glyph.SetTransparentColor(vcl::clOlive);
+      vcl::TBitmap bitmap(each.Width, each.Height);
+      bitmap.Canvas()->SetPixel(0, each.Height - 1, Key);
+      int changes = 0;
+      glyph.OnChange = [&](vcl::TObject*) { ++changes; };
+      glyph.SetBitmap(&bitmap);
+      EXPECT_EQ(glyph.NumGlyphs(), designing ? each.Count : 3) << each.Width;
+      EXPECT_EQ(glyph.TransparentColor(), designing ? Key : vcl::clOlive);
+      EXPECT_EQ(changes, 1);
+      glyph.SetBitmap(glyph.Bitmap());
+      EXPECT_EQ(changes, 1);
+    }
+  }
+}
+
+TEST(Glyph, TellsOnlyOfChanges) {
+  TQELGlyph glyph;
+  int changes = 0;
+  glyph.OnChange = [&](vcl::TObject*) { ++changes; };
+  glyph.SetVisible(true);
+  glyph.SetTransparent(true);
+  glyph.SetNumGlyphs(TQELNumGlyphs(0));
+  glyph.SetTransparentColor(glyph.TransparentColor());
+  EXPECT_EQ(changes, 0);
+  glyph.SetVisible(false);
+  glyph.SetTransparent(false);
+  glyph.SetNumGlyphs(TQELNumGlyphs(1));
+  glyph.SetTransparentColor(Key);
+  EXPECT_EQ(changes, 4);
+  MakeStrip(glyph, 2);
+  changes = 0;
+  TQELGlyph copy;
+  copy.OnChange = [&](vcl::TObject*) { ++changes; };
+  copy.Assign(&glyph);
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(copy.GetWidth(), Side);
+  EXPECT_NE(copy.Bitmap(), glyph.Bitmap());
+  EXPECT_FALSE(copy.Visible());
+}
+
+}  // namespace

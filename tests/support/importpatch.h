@@ -1,0 +1,58 @@
+// Takes the place of a system call that a module makes, by way of the module's import table, so that a
+// test sees which calls are made without the product knowing.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+#include <stdexcept>
+#include <string>
+
+#include "host/vcl/win32.h"
+
+/// While it lives, `module` ("qel.dll") calls `replacement` instead of the imported `function`. The
+/// replacement is a captureless lambda or a function of the same type.
+class TImportPatch {
+ public:
+  template <class R, class... A>
+  TImportPatch(const char* module, const char* function, R(WINAPI* replacement)(A...))
+      : FSlot(FindSlot(::GetModuleHandleA(module), function)) {
+    if (!FSlot) throw std::runtime_error(std::string(module) + " does not import " + function);
+    FFormer = *FSlot;
+    Write(reinterpret_cast<std::uintptr_t>(replacement));
+  }
+  ~TImportPatch() { Write(FFormer); }
+  TImportPatch(const TImportPatch&) = delete;
+  TImportPatch& operator=(const TImportPatch&) = delete;
+
+ private:
+  static std::uintptr_t* FindSlot(HMODULE module, const char* function) {
+    auto* base = reinterpret_cast<char*>(module);
+    if (!base) return nullptr;
+    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+    const auto* nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+    const IMAGE_DATA_DIRECTORY& imports =
+        nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
+    const auto* each = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + imports.VirtualAddress);
+    for (; each->Name; ++each) {
+      const auto* names = reinterpret_cast<const IMAGE_THUNK_DATA*>(base + each->OriginalFirstThunk);
+      auto* slots = reinterpret_cast<std::uintptr_t*>(base + each->FirstThunk);
+      for (int i = 0; names[i].u1.AddressOfData; ++i) {
+        if (IMAGE_SNAP_BY_ORDINAL(names[i].u1.Ordinal)) continue;
+        const auto* name =
+            reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + names[i].u1.AddressOfData);
+        if (std::strcmp(reinterpret_cast<const char*>(name->Name), function) == 0) return slots + i;
+      }
+    }
+    return nullptr;
+  }
+
+  void Write(std::uintptr_t target) {
+    DWORD former = 0;
+    ::VirtualProtect(FSlot, sizeof *FSlot, PAGE_READWRITE, &former);
+    *FSlot = target;
+    ::VirtualProtect(FSlot, sizeof *FSlot, former, &former);
+  }
+
+  std::uintptr_t* FSlot;
+  std::uintptr_t FFormer = 0;
+};
