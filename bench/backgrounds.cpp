@@ -1,0 +1,214 @@
+#include "bench/backgrounds.h"
+
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "bench/timing.h"
+#include "controls/Qeltbackground.h"
+#include "tests/support/handles.h"
+#include "tests/support/plainfill.h"
+
+namespace bench {
+
+namespace {
+
+using qel::TQELGradient;
+using qel::TQELTexture;
+using vcl::TColor;
+
+struct TSize {
+  int Width;
+  int Height;
+};
+constexpr TSize Sizes[] = {{320, 240}, {1920, 1080}, {3840, 2160}};
+constexpr int Steps = 32;
+constexpr COLORREF First = RGB(192, 192, 192), Last = RGB(128, 128, 128);
+
+std::vector<std::string> SizeNames() {
+  std::vector<std::string> names;
+  for (const TSize& size : Sizes) {
+    names.push_back(std::to_string(size.Width) + "×" + std::to_string(size.Height));
+  }
+  return names;
+}
+
+template <class Measure>
+std::vector<TPair> EachSize(Measure measure) {
+  std::vector<TPair> cells;
+  for (const TSize& size : Sizes) cells.push_back(measure(size.Width, size.Height));
+  return cells;
+}
+
+/// A context that shows one pixel only: what is painted on it has to be computed, but copying it
+/// takes no time.
+class TPeephole {
+ public:
+  TPeephole() : FDib(1, 1) {}
+  HDC DC() const { return FDib.DC(); }
+
+ private:
+  plain::TDib FDib;
+};
+
+/// Has the gradient forget what it has painted.
+void Touch(TQELGradient& gradient) {
+  gradient.SetEndColor(TColor(gradient.EndColor() == TColor(Last) ? Last + 1 : Last));
+}
+
+void Render(TQELGradient& gradient, HDC dc, int width, int height) {
+  gradient.MultiDraw(dc, width, height, nullptr, vcl::clBtnFace, true);
+}
+
+void SystemGradient(HDC dc, int width, int height, ULONG mode) {
+  const auto vertex = [](int x, int y, COLORREF color) {
+    return TRIVERTEX{x, y, static_cast<COLOR16>(GetRValue(color) << 8),
+                     static_cast<COLOR16>(GetGValue(color) << 8),
+                     static_cast<COLOR16>(GetBValue(color) << 8), 0};
+  };
+  TRIVERTEX vertices[] = {vertex(0, 0, First), vertex(width, height, Last)};
+  GRADIENT_RECT rect{0, 1};
+  ::GradientFill(dc, vertices, 2, &rect, 1, mode);
+}
+
+void MeasureAgainstGradientFill() {
+  TTable table("Horizontal and Vertical, two colours, against GradientFill",
+               "Rendering into the background's own bitmap. Aim: at most 1.5.", SizeNames());
+  const auto row = [&](const char* name, qel::TQELFillStyle style, ULONG mode) {
+    table.Add(name, EachSize([&](int width, int height) {
+                const TPeephole peephole;
+                const plain::TDib dib(width, height);
+                TQELGradient gradient;
+                gradient.SetFillStyle(style);
+                return Compare(
+                    [&] {
+                      Touch(gradient);
+                      Render(gradient, peephole.DC(), width, height);
+                    },
+                    [&] { SystemGradient(dib.DC(), width, height, mode); });
+              }));
+  };
+  row("Horizontal", qel::Horizontal, GRADIENT_FILL_RECT_V);
+  row("Vertical", qel::Vertical, GRADIENT_FILL_RECT_H);
+}
+
+void MeasureAgainstPlainCalls() {
+  TTable table("Each fill style against the plain sequence of GDI calls",
+               "Rendering into the background's own bitmap, 32 colours; the pixels are the same. "
+               "Aim: at most 1.00, where rows can be written 0.25.",
+               SizeNames());
+  for (int style = 0; style <= qel::HorizontalDoppelBar; ++style) {
+    table.Add(std::string(*vcl::TypeInfoOf<qel::TQELFillStyle>().EnumName(style)),
+              EachSize([&](int width, int height) {
+                const TPeephole peephole;
+                const plain::TDib dib(width, height);
+                TQELGradient gradient;
+                gradient.SetFillStyle(qel::TQELFillStyle(style));
+                return Compare(
+                    [&] {
+                      Touch(gradient);
+                      Render(gradient, peephole.DC(), width, height);
+                    },
+                    [&] {
+                      plain::Gradient(dib.DC(), width, height, style, Steps, {First, Last});
+                    });
+              }));
+  }
+}
+
+std::unique_ptr<vcl::TBitmap> Tile() {
+  auto tile = std::make_unique<vcl::TBitmap>(64, 64);
+  for (int i = 0; i < 64; ++i) {
+    tile->Canvas()->Pen()->SetColor(TColor(i * 0x040201));
+    tile->Canvas()->MoveTo(0, i);
+    tile->Canvas()->LineTo(64, 63 - i);
+  }
+  return tile;
+}
+
+void MeasureRepaint() {
+  TTable table("Painting an unchanged background again, against BitBlt",
+               "Both into a bitmap of that size. Aim: at most 1.2.", SizeNames());
+  const auto row = [&](const char* name, auto& settings, auto paint) {
+    table.Add(name, EachSize([&](int width, int height) {
+                const plain::TDib dest(width, height);
+                const plain::TDib source(width, height);
+                return Compare([&] { paint(settings, dest.DC(), width, height); },
+                               [&] {
+                                 ::BitBlt(dest.DC(), 0, 0, width, height, source.DC(), 0, 0,
+                                          SRCCOPY);
+                               });
+              }));
+  };
+  TQELGradient gradient;
+  gradient.SetFillStyle(qel::Spectral);
+  row("Gradient", gradient, Render);
+  TQELTexture texture;
+  texture.SetImage(Tile().get());
+  const auto draw = [](TQELTexture& t, HDC dc, int width, int height) {
+    t.Draw(dc, width, height, vcl::clBtnFace);
+  };
+  row("Texture, tiled", texture, draw);
+  texture.SetImageStyle(qel::isStretched);
+  row("Texture, stretched", texture, draw);
+}
+
+void MeasureTiling() {
+  TTable table("Tiling a 64×64 texture, against memcpy of the area",
+               "Rendering into the background's own bitmap. Aim: at most 1.5.", SizeNames());
+  TQELTexture texture;
+  texture.SetImage(Tile().get());
+  table.Add("Tiled", EachSize([&](int width, int height) {
+              const TPeephole peephole;
+              const plain::TDib dest(width, height);
+              const plain::TDib source(width, height);
+              return Compare(
+                  [&] {
+                    texture.SetImageStyle(qel::isTile);
+                    texture.Draw(peephole.DC(), width, height, vcl::clBtnFace);
+                  },
+                  [&] { std::memcpy(dest.Bits(), source.Bits(), dest.Bytes()); });
+            }));
+}
+
+struct THandles {
+  int Gdi = handles::GdiObjects();
+  int User = handles::UserObjects();
+};
+
+void MeasureHandles() {
+  constexpr int Repaints = 10000;
+  TQELGradient gradient;
+  TQELTexture texture;
+  texture.SetImage(Tile().get());
+  const plain::TDib dest(100, 100);
+  const auto repaint = [&](int i) {
+    Touch(gradient);
+    gradient.SetFillStyle(qel::TQELFillStyle(i % 13));
+    texture.SetImageStyle(qel::TQELImageStyle(i % 3));
+    texture.SetTransparentColor(i % 2 ? vcl::clNone : vcl::clBlack);
+    Render(gradient, dest.DC(), 90 + i % 3, 100);
+    texture.Draw(dest.DC(), 90 + i % 3, 100, vcl::clBtnFace);
+  };
+  for (int i = 0; i < 100; ++i) repaint(i);
+  const THandles before;
+  for (int i = 0; i < Repaints; ++i) repaint(i);
+  const THandles after;
+  std::printf("\n## Handles\n\n%d repaints, each with other settings. Aim: equal.\n\n"
+              "| | before | after |\n|---|---|---|\n| GDI | %d | %d |\n| user | %d | %d |\n",
+              Repaints, before.Gdi, after.Gdi, before.User, after.User);
+}
+
+}  // namespace
+
+void Backgrounds() {
+  MeasureAgainstGradientFill();
+  MeasureAgainstPlainCalls();
+  MeasureRepaint();
+  MeasureTiling();
+  MeasureHandles();
+}
+
+}  // namespace bench

@@ -1,0 +1,44 @@
+// Every class that can be made by name begins with the defaults that it declares.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <set>
+#include <string>
+
+#include "core/Qelclasses.h"
+#include "host/rtl/classregistry.h"
+#include "host/rtl/properties.h"
+#include "tests/support/registered.h"
+
+namespace {
+
+/// Where the constructor differs from the declared default on purpose.
+const std::set<std::string> Exceptions = {
+    "TQELButton.TabStop",   // A button stops the tab key; the value is always written.
+    "TQELLabel.Color",      // Follows the parent's, which is not the declared window colour.
+};
+
+TEST(DeclaredDefaults, AreWhatTheConstructorsSet) {
+  RegisterAll();
+  int checked = 0;
+  for (const vcl::TClass* each : vcl::RegisteredClasses()) {
+    const vcl::TMaker& make = each->Maker();
+    std::unique_ptr<vcl::TObject> object(make.Component ? make.Component(nullptr)
+                                         : make.Plain   ? make.Plain()
+                                                        : nullptr);
+    if (!object) continue;
+    for (const vcl::TPropInfo* property : each->Published()) {
+      const std::string name = each->Name() + "." + property->Name;
+      if (!property->DefaultValue) continue;
+      ++checked;
+      if (Exceptions.count(name)) {
+        EXPECT_NE(property->Get(*object), *property->DefaultValue) << name << " is no exception";
+      } else {
+        EXPECT_EQ(property->Get(*object), *property->DefaultValue) << name;
+      }
+    }
+  }
+  EXPECT_GT(checked, 20);
+}
+
+}  // namespace

@@ -1,0 +1,13 @@
+// The package's classes, registered as its registration entry does.
+#pragma once
+
+#include "controls/Qeltbackground.h"
+#include "core/Qelclasses.h"
+#include "host/rtl/classregistry.h"
+
+inline void RegisterAll() {
+  vcl::RegisterClasses({&qel::TQELFont3D::Class(), &qel::TQELGradient::Class(),
+                        &qel::TQELTexture::Class(), &qel::TQELFrame::Class(),
+                        &qel::TQELAbout::Class(), &qel::TQELGlyph::Class(),
+                        &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class()});
+}
