@@ -17,7 +17,8 @@ template <>
 inline constexpr TEnumText EnumText<TComboBoxStyle>{
     "TComboBoxStyle", "csDropDown csSimple csDropDownList csOwnerDrawFixed"};
 
-/// A combo box. OnClick tells that the user has selected an item, OnChange that the text is another.
+/// A combo box. OnClick tells that the user has selected an item, OnChange that the text has
+/// changed.
 class VCL_API TCustomComboBox : public TCustomListControl {
  public:
   explicit TCustomComboBox(TComponent* owner);
@@ -32,8 +33,8 @@ class VCL_API TCustomComboBox : public TCustomListControl {
   /// less than 1.
   void SetDropDownCount(int count);
   int MaxLength() const { return FMaxLength; }
-  /// The most UTF-16 units that can be typed; 0 for no limit. Raises EArgumentOutOfRangeException for
-  /// a negative length.
+  /// The most UTF-16 units that can be typed; 0 for no limit. Raises EArgumentOutOfRangeException
+  /// for a negative length.
   void SetMaxLength(int maxLength);
   bool DroppedDown() const;
   void SetDroppedDown(bool down);

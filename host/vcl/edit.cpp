@@ -156,8 +156,8 @@ void TCustomEdit::SetSelLength(int length) {
 std::string TCustomEdit::SelText() const {
   const std::wstring text = ToUtf16(Text());
   const TRange range = Selection();
-  return ToUtf8(std::wstring_view(text).substr(static_cast<std::size_t>(range.Start),
-                                                 static_cast<std::size_t>(range.End - range.Start)));
+  return ToUtf8(text.substr(static_cast<std::size_t>(range.Start),
+                            static_cast<std::size_t>(range.End - range.Start)));
 }
 
 void TCustomEdit::SetSelText(const std::string& text) {

@@ -5,8 +5,8 @@
 
 namespace vcl {
 
-/// A group box. The accelerator in its caption focuses the first control inside; radio buttons inside
-/// are a group of their own.
+/// A group box. The accelerator in its caption focuses the first control inside; radio buttons
+/// inside are a group of their own.
 class VCL_API TCustomGroupBox : public TCustomControl {
  public:
   explicit TCustomGroupBox(TComponent* owner);

@@ -74,10 +74,9 @@ void TListItems::SelectInWindow(int index) {
 }
 
 int TListItems::SortedPlace(const std::string& text) const {
-  const auto place =
-      std::upper_bound(FLines.begin(), FLines.end(), text, [](const std::string& a, const TLine& b) {
-        return Before(a, b.Text);
-      });
+  const auto place = std::upper_bound(
+      FLines.begin(), FLines.end(), text,
+      [](const std::string& a, const TLine& b) { return Before(a, b.Text); });
   return static_cast<int>(place - FLines.begin());
 }
 

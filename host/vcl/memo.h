@@ -24,8 +24,8 @@ class VCL_API TCustomMemo : public TCustomEdit {
 
   TAlignment Alignment() const { return FAlignment; }
   void SetAlignment(TAlignment alignment);
-  /// The lines of the text as its ends of line divide it; where WordWrap breaks a line for show does
-  /// not count. Lines carry no objects: setting one raises EInvalidOperation.
+  /// The lines of the text as its ends of line divide it; where WordWrap breaks a line for show
+  /// does not count. Lines carry no objects: setting one raises EInvalidOperation.
   TStrings* Lines() const;
   void SetLines(const TStrings* lines);
   TScrollStyle ScrollBars() const { return FScrollBars; }

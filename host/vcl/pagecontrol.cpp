@@ -154,8 +154,8 @@ void TPageControl::RemovePage(TTabSheet* page) {
   UpdateTabs();
 }
 
-/// Has another page stand in for the active one, which was at the index: the next one, at the end the
-/// one before.
+/// Has another page stand in for the active one, which was at the index: the next one, at the end
+/// the one before.
 void TPageControl::PageGone(int formerIndex) {
   const auto hasTab = [](const TTabSheet* page) { return page->TabVisible(); };
   const auto middle = FPages.begin() + std::min(formerIndex, PageCount());

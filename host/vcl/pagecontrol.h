@@ -13,8 +13,8 @@ class TTabSheet;
 /// Sender, whether the user may leave the page.
 using TTabChangingEvent = TEvent<TObject*, bool&>;
 
-/// Pages behind each other, each with a tab. What the user changes fires OnChanging and OnChange; what
-/// code changes does not.
+/// Pages behind each other, each with a tab. What the user changes fires OnChanging and OnChange;
+/// what code changes does not.
 class VCL_API TPageControl : public TWinControl {
  public:
   explicit TPageControl(TComponent* owner);

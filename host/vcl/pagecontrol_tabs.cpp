@@ -56,8 +56,8 @@ void TPageControl::ShowActiveTab() {
 }
 
 TTabSheet* TPageControl::PageOfTab(int tab) const {
-  const auto found = std::ranges::find_if(
-      FPages, [tab](const TTabSheet* page) { return page->TabVisible() && page->TabIndex() == tab; });
+  if (tab < 0) return nullptr;  // Pages without a tab have the index -1, as has no tab at all.
+  const auto found = std::ranges::find(FPages, tab, &TTabSheet::TabIndex);
   return found == FPages.end() ? nullptr : *found;
 }
 

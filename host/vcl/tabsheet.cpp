@@ -67,8 +67,8 @@ int TTabSheet::TabIndex() const {
   const int index = FTabVisible ? PageIndex() : -1;
   if (index < 0) return -1;
   const auto first = PageControl()->FPages.begin();
-  return static_cast<int>(
-      std::count_if(first, first + index, [](const TTabSheet* page) { return page->TabVisible(); }));
+  const auto hasTab = [](const TTabSheet* page) { return page->TabVisible(); };
+  return static_cast<int>(std::count_if(first, first + index, hasTab));
 }
 
 void TTabSheet::SetTabVisible(bool visible) {

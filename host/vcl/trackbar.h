@@ -23,8 +23,8 @@ class VCL_API TTrackBar : public TWinControl {
   int Min() const { return FMin; }
   int Max() const { return FMax; }
   int Position() const { return FPosition; }
-  /// The bounds move the position inside. Raise EArgumentOutOfRangeException when the least would be
-  /// more than the greatest.
+  /// The bounds move the position inside. Raise EArgumentOutOfRangeException when the least would
+  /// be more than the greatest.
   void SetMin(int min) { SetRange(min, FMax); }
   void SetMax(int max) { SetRange(FMin, max); }
   void SetRange(int min, int max);

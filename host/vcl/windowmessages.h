@@ -5,9 +5,10 @@
 
 namespace vcl {
 
-/// Sends the control's window a message; makes the window when there is none. Asking a window changes
-/// nothing of its control, so a const one may do it.
-inline LRESULT Send(const TWinControl& control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+/// Sends the control's window a message; makes the window when there is none. Asking a window
+/// changes nothing of its control, so a const one may do it.
+inline LRESULT Send(const TWinControl& control, UINT message, WPARAM wParam = 0,
+                    LPARAM lParam = 0) {
   return ::SendMessageW(const_cast<TWinControl&>(control).Handle(), message, wParam, lParam);
 }
 
