@@ -69,8 +69,8 @@ class VCL_API TControl : public TComponent {
   void SetAlign(TAlign align);
 
   // State.
-  virtual bool Enabled() const { return FEnabled; }
-  virtual void SetEnabled(bool enabled);
+  bool Enabled() const { return FEnabled; }
+  void SetEnabled(bool enabled);
   bool Visible() const { return FVisible; }
   virtual void SetVisible(bool visible);
   void Show();

@@ -42,7 +42,26 @@ LRESULT TControl::Perform(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void TControl::Notify(UINT notice) { Perform(notice); }
 
+namespace {
+
+/// A control that wants no double clicks gets another press instead.
+UINT PlainPress(UINT message) {
+  switch (message) {
+    case WM_LBUTTONDBLCLK:
+      return WM_LBUTTONDOWN;
+    case WM_RBUTTONDBLCLK:
+      return WM_RBUTTONDOWN;
+    case WM_MBUTTONDBLCLK:
+      return WM_MBUTTONDOWN;
+    default:
+      return message;
+  }
+}
+
+}  // namespace
+
 void TControl::WndProc(TMessage& message) {
+  if (!FControlStyle.Has(csDoubleClicks)) message.Msg = PlainPress(message.Msg);
   const bool pressed = message.Msg == WM_LBUTTONDOWN || message.Msg == WM_LBUTTONDBLCLK;
   if (pressed && FDragMode == dmAutomatic && !Designing()) return BeginDrag(false);
   if (pressed) IncludeState(csLButtonDown);

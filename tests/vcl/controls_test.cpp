@@ -19,6 +19,7 @@ class TProbe : public TGraphicControl {
  public:
   explicit TProbe(TComponent* owner) : TGraphicControl(owner) {}
   using TControl::MouseCapture;
+  void WantNoDoubleClicks() { SetControlStyle(ControlStyle() - TControlStyle{csDoubleClicks}); }
   int Paints = 0;
   TColor Ink = clRed;
 
@@ -207,6 +208,22 @@ TEST_F(Controls, TheMouseReachesControlsWithoutWindows) {
   Send(Form, WM_LBUTTONDOWN, 25, 35, MK_LBUTTON);
   Send(Form, WM_LBUTTONUP, 300, 200);
   EXPECT_EQ(log, "down 5,5 up 280,170 ");
+}
+
+TEST_F(Controls, ADoubleClickIsAnotherPressForThoseThatWantNone) {
+  auto* probe = Make<TProbe>(&Form, 0, 0, 40, 40);
+  Form.Show();
+  std::string log;
+  probe->OnMouseDown = [&](TObject*, TMouseButton, TShiftState shift, int, int) {
+    log += shift.Has(ssDouble) ? "double " : "down ";
+  };
+  probe->OnDblClick = [&](TObject*) { log += "dblclick "; };
+  Send(Form, WM_LBUTTONDBLCLK, 5, 5, MK_LBUTTON);
+  EXPECT_EQ(log, "dblclick double ");
+  log.clear();
+  probe->WantNoDoubleClicks();
+  Send(Form, WM_LBUTTONDBLCLK, 5, 5, MK_LBUTTON);
+  EXPECT_EQ(log, "down ");
 }
 
 TEST_F(Controls, AHandlerMayFreeItsSender) {
