@@ -2,6 +2,7 @@
 
 #include "core/Qelownedsettings.h"
 #include "host/rtl/properties.h"
+#include "host/vcl/windowtext.h"
 
 namespace qel {
 
@@ -12,9 +13,9 @@ class TTextLayers {
  public:
   TTextLayers(const vcl::TFont* font, HDC dc, const vcl::TRect& rect, const std::string& text,
               unsigned flags)
-      : FDC(dc), FRect(rect), FText(text), FFlags(flags) {
+      : FDC(dc), FRect(rect), FText(vcl::ToUtf16(text)), FFlags(flags) {
     // With DT_MODIFYSTRING the system may write an ellipsis, and a zero, behind the text.
-    FText.append(4, '\0');
+    FText.append(4, L'\0');
     FBrush.SetStyle(vcl::bsClear);
     FFont.Assign(font);
     FSavedLevel = ::SaveDC(dc);
@@ -35,8 +36,9 @@ class TTextLayers {
     ::SetBkMode(FDC, TRANSPARENT);
     ::SelectObject(FDC, FFont.Handle());
     ::SetTextColor(FDC, vcl::ColorToRGB(FFont.Color()));
-    // The flag is added, not or-ed: flags that have it already become others by it.
-    ::DrawTextExA(FDC, FText.data(), -1, &FRect, FFlags + DT_NOCLIP, nullptr);
+    // In UTF-16, as GDI's narrow functions know no UTF-8. The flag is added, not or-ed: flags that
+    // have it already become others by it.
+    ::DrawTextExW(FDC, FText.data(), -1, &FRect, FFlags + DT_NOCLIP, nullptr);
   }
   void DrawAt(int dx, int dy) {
     Move(dx, dy);
@@ -46,7 +48,7 @@ class TTextLayers {
  private:
   HDC FDC;
   RECT FRect;
-  std::string FText;
+  std::wstring FText;
   unsigned FFlags;
   vcl::TBrush FBrush;
   vcl::TFont FFont;

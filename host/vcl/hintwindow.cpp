@@ -5,6 +5,7 @@
 #include "host/vcl/application.h"
 #include "host/vcl/hints.h"
 #include "host/vcl/screen.h"
+#include "host/vcl/windowtext.h"
 
 namespace vcl {
 
@@ -68,7 +69,8 @@ TRect THintWindow::CalcHintRect(int maxWidth, const std::string& text) {
   const TMemoryDC dc;
   const TSelection font(dc.Get(), Canvas()->Font()->Handle());
   RECT rect{0, 0, maxWidth, 0};
-  ::DrawTextExA(dc.Get(), const_cast<char*>(text.data()), static_cast<int>(text.size()), &rect,
+  std::wstring wide = ToUtf16(text);
+  ::DrawTextExW(dc.Get(), wide.data(), static_cast<int>(wide.size()), &rect,
                 TextFlags | DT_CALCRECT, nullptr);
   // The border of one pixel lies inside the rectangle.
   return {0, 0, static_cast<int>(rect.right) + 2 * MarginX + 2,
@@ -95,8 +97,8 @@ void THintWindow::Paint() {
   ::FillRect(Canvas()->Handle(), &area, back.Handle());
   rect.Inflate(-MarginX, -MarginY);
   RECT place = rect;
-  std::string text = Caption();
-  ::DrawTextExA(Canvas()->Handle(), text.data(), static_cast<int>(text.size()), &place, TextFlags,
+  std::wstring text = ToUtf16(Caption());
+  ::DrawTextExW(Canvas()->Handle(), text.data(), static_cast<int>(text.size()), &place, TextFlags,
                 nullptr);
 }
 

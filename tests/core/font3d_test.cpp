@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include <string>
 #include <vector>
 
@@ -43,8 +45,8 @@ void DrawLayers(HDC dc, const vcl::TFont& font, const std::vector<TLayer>& layer
     RECT rect = Area;
     ::OffsetRect(&rect, layer.Dx, layer.Dy);
     ::SetTextColor(dc, vcl::ColorToRGB(layer.Color));
-    char text[] = "Layers";
-    ::DrawTextExA(dc, text, -1, &rect, DT_LEFT | DT_NOCLIP, nullptr);
+    wchar_t text[] = L"Layers";
+    ::DrawTextExW(dc, text, -1, &rect, DT_LEFT | DT_NOCLIP, nullptr);
   }
   ::RestoreDC(dc, saved);
 }
@@ -145,8 +147,8 @@ std::vector<UINT> Flags;
 
 TEST(Font3DWrite, AddsItsFlagToTheOthers) {
   const TImportPatch patch(
-      "qel.dll", "DrawTextExA",
-      +[](HDC, char*, int length, RECT*, UINT flags, DRAWTEXTPARAMS* parameters) WINAPI -> int {
+      "qel.dll", "DrawTextExW",
+      +[](HDC, wchar_t*, int length, RECT*, UINT flags, DRAWTEXTPARAMS* parameters) WINAPI -> int {
         EXPECT_EQ(length, -1);
         EXPECT_EQ(parameters, nullptr);
         Flags.push_back(flags);
@@ -160,6 +162,24 @@ TEST(Font3DWrite, AddsItsFlagToTheOthers) {
     font3D.Write(&font, dib.DC(), Area, "x", flags, true);
   }
   EXPECT_THAT(Flags, testing::ElementsAre(0x100u, 0x8125u, 0x200u, 0x115u));
+}
+
+TEST(Font3DWrite, DrawsUtf8) {
+  const plain::TDib written(Width, Height);
+  const plain::TDib expected(Width, Height);
+  vcl::TFont font;
+  TQELFont3D font3D;
+  font3D.SetThreeDimensional(false);
+  font3D.Write(&font, written.DC(), Area, "Gr\xC3\xB6\xC3\x9F" "e", DT_LEFT, true);
+  ::SelectObject(expected.DC(), font.Handle());
+  ::SetBkMode(expected.DC(), TRANSPARENT);
+  ::SetTextColor(expected.DC(), vcl::ColorToRGB(font.Color()));
+  RECT rect = Area;
+  ::DrawTextExW(expected.DC(), const_cast<wchar_t*>(L"Gr\u00F6\u00DFe"), -1, &rect,
+                DT_LEFT | DT_NOCLIP, nullptr);
+  ::SelectObject(expected.DC(), ::GetStockObject(SYSTEM_FONT));
+  ::GdiFlush();
+  EXPECT_EQ(std::memcmp(written.Bits(), expected.Bits(), written.Bytes()), 0);
 }
 
 TEST(Font3DWrite, TakesAnyText) {

@@ -10,6 +10,7 @@
 #include "host/vcl/controlcanvas.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/windowtext.h"
+#include "tests/support/handles.h"
 
 namespace vcl {
 namespace {
@@ -325,12 +326,11 @@ TEST_F(Controls, MakingAndFreeingWindowsLeavesNoHandles) {
     delete box;
   };
   round();
-  const HANDLE process = ::GetCurrentProcess();
-  const DWORD gdi = ::GetGuiResources(process, GR_GDIOBJECTS);
-  const DWORD user = ::GetGuiResources(process, GR_USEROBJECTS);
+  const int gdi = handles::GdiObjects();
+  const int user = handles::UserObjects();
   for (int i = 0; i < 200; ++i) round();
-  EXPECT_EQ(::GetGuiResources(process, GR_GDIOBJECTS), gdi);
-  EXPECT_EQ(::GetGuiResources(process, GR_USEROBJECTS), user);
+  EXPECT_EQ(handles::GdiObjects(), gdi);
+  EXPECT_EQ(handles::UserObjects(), user);
 }
 
 TEST_F(Controls, AWindowNeedsAParent) {

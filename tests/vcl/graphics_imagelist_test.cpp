@@ -4,6 +4,7 @@
 #include "host/rtl/streams.h"
 #include "host/rtl/writer.h"
 #include "host/vcl/imagelist.h"
+#include "tests/support/handles.h"
 #include "tests/vcl/graphics_pixels.h"
 
 namespace vcl::test {
@@ -252,13 +253,13 @@ TEST(ImageList, ThousandsOfUsesKeepNoHandle) {
   for (int i = 0; i < 5; ++i)
     use();
   FreeDeviceContexts();
-  const DWORD gdi = GdiHandles();
-  const DWORD user = UserHandles();
+  const int gdi = handles::GdiObjects();
+  const int user = handles::UserObjects();
   for (int i = 0; i < 1000; ++i)
     use();
   FreeDeviceContexts();
-  EXPECT_EQ(GdiHandles(), gdi);
-  EXPECT_EQ(UserHandles(), user);
+  EXPECT_EQ(handles::GdiObjects(), gdi);
+  EXPECT_EQ(handles::UserObjects(), user);
 }
 
 }  // namespace

@@ -45,7 +45,4 @@ inline void Paint(TBitmap& bitmap, const std::vector<std::string>& rows) {
 
 using Rows = std::vector<std::string>;
 
-inline DWORD GdiHandles() { return ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS); }
-inline DWORD UserHandles() { return ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS); }
-
 }  // namespace vcl::test

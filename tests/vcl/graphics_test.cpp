@@ -2,6 +2,7 @@
 #include <cstring>
 
 #include "host/rtl/exceptions.h"
+#include "tests/support/handles.h"
 #include "tests/vcl/graphics_pixels.h"
 
 namespace vcl::test {
@@ -443,13 +444,13 @@ TEST(Canvas, TenThousandPaintsKeepNoHandle) {
   for (int i = 0; i < 14; ++i)
     paint(i);
   FreeDeviceContexts();
-  const DWORD gdi = GdiHandles();
-  const DWORD user = UserHandles();
+  const int gdi = handles::GdiObjects();
+  const int user = handles::UserObjects();
   for (int i = 0; i < 10000; ++i)
     paint(i);
   FreeDeviceContexts();
-  EXPECT_EQ(GdiHandles(), gdi);
-  EXPECT_EQ(UserHandles(), user);
+  EXPECT_EQ(handles::GdiObjects(), gdi);
+  EXPECT_EQ(handles::UserObjects(), user);
 }
 
 }  // namespace
