@@ -1,0 +1,17 @@
+// The package's entry points for a form designer.
+#pragma once
+
+#include "host/rtl/object.h"
+
+#if defined(_WIN32) && defined(QEL_BUILD)
+#define QEL_ENTRY extern "C" __declspec(dllexport)
+#else
+#define QEL_ENTRY extern "C"
+#endif
+
+/// Registers the persistent classes and puts the components on their palette pages. Called once
+/// when the package is loaded.
+QEL_ENTRY void Register();
+
+/// Calls `each` for every class that the package declares, ancestors before descendants.
+QEL_ENTRY void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* context);

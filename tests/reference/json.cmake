@@ -1,0 +1,85 @@
+execute_process(COMMAND ${QELREF} --json OUTPUT_VARIABLE json RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "qelref --json ended with ${result}")
+endif()
+
+# json_expect(VALUE path...): the JSON's value at the path, as text, is VALUE.
+function(json_expect expected)
+  string(JSON value GET "${json}" ${ARGN})
+  if(NOT value STREQUAL expected)
+    message(SEND_ERROR "${ARGN}: \"${value}\" instead of \"${expected}\"")
+  endif()
+endfunction()
+
+# Sets `result` to the index of the element with that name in the array at the path.
+function(json_find result name)
+  string(JSON count LENGTH "${json}" ${ARGN})
+  math(EXPR last "${count} - 1")
+  foreach(i RANGE ${last})
+    string(JSON value GET "${json}" ${ARGN} ${i} name)
+    if(value STREQUAL name)
+      set(${result} ${i} PARENT_SCOPE)
+      return()
+    endif()
+  endforeach()
+  message(FATAL_ERROR "There is no ${name} in ${ARGN}")
+endfunction()
+
+# expect_class(NAME ancestor page unit published...): the class and its properties, in this order.
+function(expect_class name ancestor page unit)
+  json_find(at ${name} classes)
+  json_expect(${ancestor} classes ${at} ancestor)
+  json_expect("${page}" classes ${at} page)
+  json_expect(${unit} classes ${at} unit)
+  set(names)
+  string(JSON count LENGTH "${json}" classes ${at} published)
+  if(count GREATER 0)
+    math(EXPR last "${count} - 1")
+    foreach(i RANGE ${last})
+      string(JSON value GET "${json}" classes ${at} published ${i} name)
+      list(APPEND names ${value})
+    endforeach()
+  endif()
+  if(NOT names STREQUAL "${ARGN}")
+    message(SEND_ERROR "${name} publishes ${names} instead of ${ARGN}")
+  endif()
+endfunction()
+
+# expect_property(CLASS NAME kind type default stored)
+function(expect_property class name kind type default stored)
+  json_find(at ${class} classes)
+  json_find(entry ${name} classes ${at} published)
+  json_expect(${kind} classes ${at} published ${entry} kind)
+  json_expect(${type} classes ${at} published ${entry} type)
+  json_expect("${default}" classes ${at} published ${entry} default)
+  json_expect(${stored} classes ${at} published ${entry} stored)
+endfunction()
+
+expect_class(TQELComponent TComponent "" Qelclasses About)
+expect_class(TQELExecComponent TQELComponent "" Qelclasses DesignExecute)
+expect_class(TQELCustomDialog TQELExecComponent "" Qelclasses Sound)
+expect_class(TQELFrame TGraphicsObject "" Qelclasses
+  FrameStyle Highlight Shadow Solid Offset FrameWidth)
+expect_class(TQELButton TQELCustomControl "QEL Controls/1" Qeltbutton
+  About Font3D Glyph Enabled ParentShowHint ShowHint Font Visible Caption WordWrap ButtonSunk
+  Background OnClick DragCursor DragMode ParentFont PopupMenu TabOrder TabStop OnDragDrop OnDragOver
+  OnEndDrag OnKeyDown OnKeyPress OnKeyUp OnMouseDown OnMouseMove OnMouseUp OnEnter OnExit
+  OnStartDrag)
+expect_class(TQELLabel TCustomLabel "QEL Controls/1" Qeltlabel
+  About Align Alignment Caption Color Enabled FocusControl FontBackground Font Font3D Frame
+  Background Transparent ShowHint Visible WordWrap OnClick OnDblClick OnMouseDown OnMouseMove
+  OnMouseUp OnDragDrop OnEndDrag OnStartDrag OnDragOver DragCursor DragMode ParentColor ParentFont
+  ShowAccelChar)
+
+expect_property(TQELExecComponent DesignExecute string string "" OFF)
+expect_property(TQELCustomDialog Sound enumeration TQELBeeptype bNone ON)
+expect_property(TQELFrame Highlight color TColor clBtnHighlight ON)
+expect_property(TQELGlyph NumGlyphs integer TQELNumGlyphs 0 ON)
+expect_property(TQELGlyph TransparentColor color TColor "" ON)
+expect_property(TQELButton TabStop boolean Boolean False ON)
+expect_property(TQELButton DragCursor integer TCursor crDrag ON)
+expect_property(TQELButton Background component TQELBackground "" ON)
+expect_property(TQELButton OnClick event TNotifyEvent "" ON)
+expect_property(TQELButton Caption string TCaption "" ON)
+expect_property(TQELLabel Frame class TQELFrame "" ON)
+expect_property(TQELTexture TransparentColor color TColor clNone ON)

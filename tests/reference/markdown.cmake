@@ -1,0 +1,10 @@
+execute_process(COMMAND ${QELREF} --markdown OUTPUT_VARIABLE printed RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "qelref --markdown ended with ${result}")
+endif()
+string(REPLACE "\r\n" "\n" printed "${printed}")
+file(READ ${REFERENCE} kept)
+if(NOT printed STREQUAL kept)
+  message(FATAL_ERROR "docs/reference.md is not what qelref prints. Renew it:\n"
+                      "  ./run qelref --markdown > docs/reference.md")
+endif()
