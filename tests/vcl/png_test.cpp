@@ -6,7 +6,7 @@
 #include "host/rtl/exceptions.h"
 #include "host/rtl/streams.h"
 #include "host/vcl/png.h"
-#include "tests/pngpicture.h"
+#include "tests/support/pngpicture.h"
 
 namespace vcl {
 namespace {
