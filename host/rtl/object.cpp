@@ -21,6 +21,7 @@ TPropInfo Redeclared(const TPropInfo& inherited, TClassEntry& entry) {
   TPropInfo info = inherited;
   if (entry.FNoDefault) info.DefaultValue.reset();
   if (entry.Prop.DefaultValue) info.DefaultValue = entry.Prop.DefaultValue;
+  if (entry.Prop.AskDefault) info.AskDefault = entry.Prop.AskDefault;
   if (!entry.Prop.Alias.empty()) info.Alias = entry.Prop.Alias;
   if (entry.FStored) {
     info.Stored = *entry.FStored;

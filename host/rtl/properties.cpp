@@ -64,7 +64,8 @@ bool TPropInfo::NeedsWriting(const TObject& object) const {
   if (IsEvent() || ReadOnly() || !IsStored(object)) return false;
   const TValue value = Get(object);
   if (const auto* reference = std::get_if<TObject*>(&value)) return *reference != nullptr;
-  return !DefaultValue || *DefaultValue != value;
+  const bool hasDefault = DefaultValue && (!AskDefault || AskDefault(object));
+  return !hasDefault || *DefaultValue != value;
 }
 
 }  // namespace vcl

@@ -45,6 +45,8 @@ class VCL_API TPropInfo {
   TEventBase& (*EventOf)(TObject&) = nullptr;
   const std::type_info* Signature = nullptr;
   std::optional<TValue> DefaultValue;
+  /// When set, the declared default holds only for objects of which it is true.
+  bool (*AskDefault)(const TObject&) = nullptr;
   TStored Stored = TStored::Always;
   bool (*AskStored)(const TObject&) = nullptr;
 
@@ -90,6 +92,10 @@ class VCL_API TClassEntry {
   /// The declared default; a value equal to it is not written to form files.
   template <class T>
   TClassEntry Default(T value) &&;
+  /// The declared default holds only for objects that say so, as an owner may make them with another
+  /// value; of the others the value is always written.
+  template <auto Ask>
+  TClassEntry DefaultIf() &&;
   /// Takes back a default that the ancestor declares: the value is always written.
   TClassEntry NoDefault() && { return FNoDefault = true, std::move(*this); }
   /// False: never written to form files.
@@ -310,6 +316,12 @@ TClass Describe(std::string name, std::string unit, std::vector<TClassEntry> ent
 template <class T>
 TClassEntry TClassEntry::Default(T value) && {
   Prop.DefaultValue = detail::ToValue(value);
+  return std::move(*this);
+}
+
+template <auto Ask>
+TClassEntry TClassEntry::DefaultIf() && {
+  Prop.AskDefault = &detail::AskThunk<Ask>;
   return std::move(*this);
 }
 

@@ -49,6 +49,18 @@ const TClass& TDerived::Class() {
   return info;
 }
 
+/// Its default holds only for those whose width matters.
+class TPicky : public TBase {
+ public:
+  using TBase::TBase;
+  static const TClass& Class() {
+    static const TClass info = Describe<TPicky, TBase>(
+        "TPicky", "test", {Inherit("Width").DefaultIf<&TBase::WidthMatters>()});
+    return info;
+  }
+  const TClass& ClassType() const override { return Class(); }
+};
+
 std::vector<std::string> PublishedNames(const TClass& info) {
   std::vector<std::string> names;
   for (const TPropInfo* prop : info.Published())
@@ -75,6 +87,17 @@ TEST(PropertyTables, TakeTheNarrowestDeclaration) {
   EXPECT_TRUE(inDerived.NeedsWriting(derived));
   derived.SetWidth(20);
   EXPECT_FALSE(inDerived.NeedsWriting(derived));
+}
+
+TEST(PropertyTables, WriteTheDefaultOfObjectsThatBeginWithAnotherValue) {
+  TPicky picky(nullptr);
+  const TPropInfo& width = *TPicky::Class().FindPublished("Width");
+  EXPECT_EQ(width.DefaultValue, TValue(std::int64_t{10}));
+  EXPECT_TRUE(width.NeedsWriting(picky));
+  picky.SetHidden(1);
+  EXPECT_FALSE(width.NeedsWriting(picky));
+  picky.SetWidth(11);
+  EXPECT_TRUE(width.NeedsWriting(picky));
 }
 
 TEST(PropertyTables, RefuseMistakes) {
