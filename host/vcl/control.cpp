@@ -89,7 +89,8 @@ void TControl::SetParent(TWinControl* parent) {
   }
   if (FParent) FParent->Remove(this);
   if (parent) parent->Insert(this);
-  FollowParent();
+  // What is being read has its parent before its properties, which may say that it does not follow.
+  if (!ComponentState().Has(csReading)) FollowParent();
 }
 
 void TControl::FollowParent() {

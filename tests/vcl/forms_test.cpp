@@ -13,6 +13,8 @@
 #include "host/vcl/forms.h"
 #include "host/vcl/menus.h"
 #include "host/vcl/screen.h"
+#include "host/vcl/standardcontrols.h"
+#include "host/vcl/stdctrls.h"
 #include "tests/vcl/testinput.h"
 
 namespace vcl {
@@ -442,6 +444,22 @@ TEST_F(Forms, AFormWrittenAndReadBackIsTheSame) {
   EXPECT_NE(written.DataString().find("    object File1: TMenuItem\n"), std::string::npos);
   EXPECT_NE(written.DataString().find("  ClientWidth = 280\n"), std::string::npos);
   EXPECT_EQ(written.DataString().find("  Width = "), std::string::npos);
+}
+
+TEST_F(Forms, WhatDoesNotFollowItsParentHasItsOwnDefaultsWhenItIsRead) {
+  TFileForm form(nullptr);
+  TStringStream text(
+      "object FileForm: TFileForm\n  Color = clRed\n  Font.Height = -30\n"
+      "  object Own: TLabel\n    ParentColor = False\n    ParentFont = False\n  end\n"
+      "  object Follower: TLabel\n  end\nend\n");
+  RegisterStandardControls();
+  ReadComponentFile(text, &form);
+  const auto* own = dynamic_cast<TLabel*>(form.FindComponent("Own"));
+  const auto* follower = dynamic_cast<TLabel*>(form.FindComponent("Follower"));
+  EXPECT_EQ(own->Color(), clWindow);
+  EXPECT_EQ(own->Font()->Height(), TFont().Height());
+  EXPECT_EQ(follower->Color(), clRed);
+  EXPECT_EQ(follower->Font()->Height(), -30);
 }
 
 // Forms from the program's resources.
