@@ -56,6 +56,7 @@ TQELLabel::TQELLabel(vcl::TComponent* owner)
   Font()->SetStyle({vcl::fsBold});
   Font()->SetSize(12);
   FFrame->SetFrameStyle(frameNone);
+  FFrame->SetInitialStyle(frameNone);
 }
 
 TQELLabel::~TQELLabel() {
@@ -79,7 +80,10 @@ void TakeOver(std::unique_ptr<Settings>& field, Settings* settings, TQELLabel* l
 }  // namespace
 
 void TQELLabel::Set3D(TQELFont3D* font3D) { TakeOver(FFont3D, font3D, this); }
-void TQELLabel::SetFrm(TQELFrame* frame) { TakeOver(FFrame, frame, this); }
+void TQELLabel::SetFrm(TQELFrame* frame) {
+  TakeOver(FFrame, frame, this);
+  FFrame->SetInitialStyle(frameNone);
+}
 
 void TQELLabel::ReplaceClient(TQELBackground*& field, TQELBackground* background) {
   QELMoveClient(this, field, background);

@@ -163,7 +163,9 @@ const vcl::TClass& TQELFrame::Class() {
   using T = TQELFrame;
   using namespace vcl;
   static const TClass info = Describe<T, TGraphicsObject>("TQELFrame", "Qelclasses", {
-      Property<&T::FrameStyle, &T::SetFrameStyle>("FrameStyle").Default(frameRaised),
+      Property<&T::FrameStyle, &T::SetFrameStyle>("FrameStyle")
+          .Default(frameRaised)
+          .DefaultIf<&T::StyleHasDefault>(),
       Property<&T::Highlight, &T::SetHighlight>("Highlight").Default(clBtnHighlight),
       Property<&T::Shadow, &T::SetShadow>("Shadow").Default(clBtnShadow),
       Property<&T::Solid, &T::SetSolid>("Solid").Default(clBlack),

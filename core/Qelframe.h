@@ -23,6 +23,10 @@ class QEL_API TQELFrame : public vcl::TGraphicsObject {
 
   TQELFrameStyle FrameStyle() const { return FFrameStyle; }
   void SetFrameStyle(TQELFrameStyle style);
+  /// Notes the style that the owner gives to its frames when it makes them. Where that is not
+  /// frameRaised, form files always hold the style.
+  void SetInitialStyle(TQELFrameStyle style) { FInitialStyle = style; }
+  bool StyleHasDefault() const { return FInitialStyle == frameRaised; }
   vcl::TColor Highlight() const { return FHighlight; }
   void SetHighlight(vcl::TColor color);
   vcl::TColor Shadow() const { return FShadow; }
@@ -58,6 +62,7 @@ class QEL_API TQELFrame : public vcl::TGraphicsObject {
 
   vcl::TObject* FOwner;
   TQELFrameStyle FFrameStyle = frameRaised;
+  TQELFrameStyle FInitialStyle = frameRaised;
   vcl::TColor FHighlight = vcl::clBtnHighlight;
   vcl::TColor FShadow = vcl::clBtnShadow;
   vcl::TColor FSolid = vcl::clBlack;
