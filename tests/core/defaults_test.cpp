@@ -14,8 +14,8 @@ namespace {
 
 /// Where the constructor differs from the declared default on purpose.
 const std::set<std::string> Exceptions = {
-    "TQELButton.TabStop",   // A button stops the tab key; the value is always written.
-    "TQELLabel.Color",      // Follows the parent's, which is not the declared window colour.
+    "TQELButton.TabStop",    // A button stops the tab key, and its form file always says so.
+    "TQELLabel.ParentFont",  // A label begins with a font of its own.
 };
 
 TEST(DeclaredDefaults, AreWhatTheConstructorsSet) {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "controls/Qeltbackground.h"
+#include "controls/Qeltbutton.h"
+#include "controls/Qeltlabel.h"
 #include "core/Qelclasses.h"
 #include "host/rtl/classregistry.h"
 
@@ -9,5 +11,6 @@ inline void RegisterAll() {
   vcl::RegisterClasses({&qel::TQELFont3D::Class(), &qel::TQELGradient::Class(),
                         &qel::TQELTexture::Class(), &qel::TQELFrame::Class(),
                         &qel::TQELAbout::Class(), &qel::TQELGlyph::Class(),
-                        &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class()});
+                        &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class(),
+                        &qel::TQELButton::Class(), &qel::TQELLabel::Class()});
 }

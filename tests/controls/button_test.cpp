@@ -1,0 +1,291 @@
+// The button: painting, and real mouse and keyboard input.
+#include "controls/Qeltbutton.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "controls/Qeltbackground.h"
+#include "host/rtl/properties.h"
+#include "host/vcl/forms.h"
+#include "tests/support/importpatch.h"
+#include "tests/support/plainfill.h"
+#include "tests/vcl/testinput.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct TButton : qel::TQELButton {
+  using TQELButton::TQELButton;
+  void PaintOn(HDC dc) { PaintWindow(dc); }
+};
+
+class Button : public testing::Test {
+ protected:
+  Button() : Form(nullptr) {
+    Form.SetBorderStyle(vcl::bsNone);
+    Form.SetBounds(40, 40, 300, 200);
+    It = Make(20);
+    Other = Make(100);
+    Form.Show();
+    Form.SetFocus();
+    testinput::Pump();
+  }
+  ~Button() override { testinput::MoveMouse({0, 0}); }
+  TButton* Make(int top) {
+    auto* button = new TButton(&Form);
+    button->SetParent(&Form);
+    button->SetBounds(20, top, 100, 30);
+    button->OnClick = [this](vcl::TObject*) { ++Clicks; };
+    return button;
+  }
+  void Press() {
+    testinput::MoveMouse(testinput::MiddleOf(It));
+    testinput::LeftDown();
+  }
+  bool Clicked(int times) {
+    return testinput::PumpUntil([&] { return Clicks == times; }) && (testinput::Pump(), Clicks == times);
+  }
+
+  vcl::TForm Form;
+  TButton* It;
+  TButton* Other;
+  int Clicks = 0;
+};
+
+TEST_F(Button, IsClickedByTheLeftButton) {
+  Press();
+  EXPECT_TRUE(testinput::PumpUntil([&] { return It->Down(); }));
+  EXPECT_EQ(Clicks, 0);
+  testinput::LeftUp();
+  EXPECT_TRUE(Clicked(1));
+  EXPECT_FALSE(It->Down());
+}
+
+TEST_F(Button, IsClickedWhereverTheButtonIsReleased) {
+  Press();
+  testinput::MoveMouse(Form.ClientToScreen({250, 180}));
+  EXPECT_TRUE(It->Down());
+  testinput::LeftUp();
+  EXPECT_TRUE(Clicked(1));
+  EXPECT_FALSE(It->Down());
+}
+
+TEST_F(Button, TheRightButtonOnlyReleasesIt) {
+  testinput::MoveMouse(testinput::MiddleOf(It));
+  testinput::RightDown();
+  EXPECT_FALSE(It->Down());
+  testinput::RightUp();
+  EXPECT_EQ(Clicks, 0);
+  testinput::LeftDown();
+  EXPECT_TRUE(testinput::PumpUntil([&] { return It->Down(); }));
+  testinput::RightDown();
+  testinput::RightUp();
+  EXPECT_TRUE(Clicked(1));
+  testinput::LeftUp();
+  EXPECT_FALSE(It->Down());
+}
+
+TEST_F(Button, ADisabledOneIgnoresTheMouseButNotTheSpaceBar) {
+  It->SetEnabled(false);
+  EXPECT_TRUE(::IsWindowEnabled(It->Handle()));
+  Press();
+  EXPECT_FALSE(It->Down());
+  testinput::LeftUp();
+  testinput::PumpFor(50);
+  EXPECT_EQ(Clicks, 0);
+  It->SetFocus();
+  testinput::SendKey(VK_SPACE, true);
+  EXPECT_TRUE(testinput::PumpUntil([&] { return It->Down(); }));
+  testinput::SendKey(VK_SPACE, false);
+  EXPECT_TRUE(Clicked(1));
+}
+
+TEST_F(Button, TheSpaceBarClicksOnRelease) {
+  std::vector<std::string> log;
+  It->OnKeyDown = [&](vcl::TObject*, std::uint16_t&, vcl::TShiftState) { log.push_back("down"); };
+  It->OnClick = [&](vcl::TObject*) { log.push_back("click"); };
+  It->OnKeyUp = [&](vcl::TObject*, std::uint16_t&, vcl::TShiftState) { log.push_back("up"); };
+  It->SetFocus();
+  testinput::SendKey(VK_SPACE, true);
+  EXPECT_TRUE(testinput::PumpUntil([&] { return It->Down(); }));
+  testinput::SendKey(VK_SPACE, false);
+  EXPECT_TRUE(testinput::PumpUntil([&] { return log.size() == 3; }));
+  EXPECT_THAT(log, ElementsAre("down", "click", "up"));
+  It->OnKeyDown = [&](vcl::TObject*, std::uint16_t& key, vcl::TShiftState) { key = 0; };
+  testinput::SendKey(VK_SPACE, true);
+  testinput::PumpFor(50);
+  EXPECT_FALSE(It->Down());
+  testinput::SendKey(VK_SPACE, false);
+  testinput::Pump();
+}
+
+TEST_F(Button, AHandlerMayFreeIt) {
+  It->OnClick = [&](vcl::TObject*) {
+    delete It;
+    It = nullptr;
+  };
+  Press();
+  testinput::LeftUp();
+  EXPECT_TRUE(testinput::PumpUntil([&] { return It == nullptr; }));
+  It = Other;
+  It->OnMouseDown = [&](vcl::TObject*, vcl::TMouseButton, vcl::TShiftState, int, int) {
+    delete It;
+    It = nullptr;
+  };
+  Press();
+  EXPECT_TRUE(testinput::PumpUntil([&] { return It == nullptr; }));
+  testinput::LeftUp();
+}
+
+TEST_F(Button, ASunkOneHasAClientEdge) {
+  const HWND before = It->Handle();
+  const auto edge = [&] { return ::GetWindowLongA(It->Handle(), GWL_EXSTYLE) & WS_EX_CLIENTEDGE; };
+  EXPECT_EQ(edge(), 0);
+  It->SetButtonSunk(true);
+  EXPECT_NE(edge(), 0);
+  EXPECT_NE(It->Handle(), before);
+  EXPECT_EQ(It->ClientWidth(), 96);
+  const HWND sunk = It->Handle();
+  It->SetButtonSunk(true);
+  EXPECT_EQ(It->Handle(), sunk);
+}
+
+std::vector<UINT> Edges, Sides, Formats;
+std::vector<RECT> TextRects;
+
+class PaintedButton : public Button {
+ protected:
+  PaintedButton() {
+    Edges.clear();
+    Sides.clear();
+    Formats.clear();
+    TextRects.clear();
+  }
+  void Paint() {
+    Dib.Fill(0);
+    It->PaintOn(Dib.DC());
+  }
+  plain::TDib Dib{110, 40};
+  TImportPatch EdgePatch{"qel.dll", "DrawEdge",
+                         +[](HDC, RECT*, UINT edge, UINT sides) WINAPI -> BOOL {
+                           Edges.push_back(edge);
+                           Sides.push_back(sides);
+                           return TRUE;
+                         }};
+  TImportPatch TextPatch{
+      "qel.dll", "DrawTextExW",
+      +[](HDC, wchar_t*, int, RECT* rect, UINT format, DRAWTEXTPARAMS*) WINAPI -> int {
+        Formats.push_back(format);
+        TextRects.push_back(*rect);
+        return 1;
+      }};
+};
+
+TEST_F(PaintedButton, DrawsASoftEdgeUpAndDown) {
+  Paint();
+  EXPECT_THAT(Edges, ElementsAre(5u, 5u));
+  EXPECT_THAT(Sides, ElementsAre(0x1003u, 0x100Cu));
+  It->SetFocus();
+  testinput::SendKey(VK_SPACE, true);
+  ASSERT_TRUE(testinput::PumpUntil([&] { return It->Down(); }));
+  Edges.clear();
+  Paint();
+  EXPECT_THAT(Edges, ElementsAre(10u, 10u));
+  testinput::SendKey(VK_SPACE, false);
+  testinput::Pump();
+}
+
+TEST_F(PaintedButton, WritesItsCaptionAsItsFormatSays) {
+  Paint();
+  EXPECT_THAT(Formats, IsEmpty());
+  It->Setcaption("Caption");
+  It->Font3D()->SetThreeDimensional(false);
+  Paint();
+  It->Setword(true);
+  Paint();
+  EXPECT_THAT(Formats, ElementsAre(0x8125u, 0x115u));
+  EXPECT_EQ(TextRects[0].left, 5);
+  EXPECT_EQ(TextRects[0].top, 3);
+  EXPECT_EQ(TextRects[0].right, 97);
+  EXPECT_EQ(TextRects[0].bottom, 27);
+  Formats.clear();
+  It->SetEnabled(false);
+  Paint();
+  EXPECT_THAT(Formats, ElementsAre(0x115u, 0x115u));
+}
+
+/// The first and last column, and the first row, of pure red.
+struct TFound {
+  int Left = -1;
+  int Right = -1;
+  int Top = -1;
+};
+TFound FindRed(const plain::TDib& dib) {
+  TFound found;
+  for (int y = 0; y < dib.Height(); ++y) {
+    for (int x = 0; x < dib.Width(); ++x) {
+      if (dib.Pixel(x, y) != 0xFF0000) continue;
+      if (found.Top < 0) found.Top = y;
+      if (found.Left < 0) found.Left = x;
+      found.Right = std::max(found.Right, x);
+    }
+  }
+  return found;
+}
+
+TEST_F(PaintedButton, PutsTheGlyphInTheMiddleOrToTheLeft) {
+  vcl::TBitmap red(10, 8);
+  red.Canvas()->Brush()->SetColor(vcl::clRed);
+  red.Canvas()->FillRect({0, 0, 10, 8});
+  It->Glyph()->SetBitmap(&red);
+  It->Glyph()->SetNumGlyphs(qel::TQELNumGlyphs(1));
+  Paint();
+  TFound found = FindRed(Dib);
+  EXPECT_EQ(found.Left, 48);  // (100 - 10) / 2 and 3 more.
+  EXPECT_EQ(found.Right, 57);
+  EXPECT_EQ(found.Top, 11);
+  It->Setcaption("x");
+  Paint();
+  found = FindRed(Dib);
+  EXPECT_EQ(found.Left, 6);
+  EXPECT_EQ(found.Top, 11);
+  EXPECT_EQ(TextRects.back().left, 15);  // Behind glyph and gap.
+  EXPECT_EQ(TextRects.back().right, 97);
+  It->SetEnabled(false);
+  Paint();
+  EXPECT_EQ(FindRed(Dib).Left, -1);  // Greyed.
+}
+
+TEST_F(PaintedButton, CopiesTheSettingsItIsGiven) {
+  qel::TQELFont3D font3D;
+  font3D.SetOffset(4);
+  It->Set3D(&font3D);
+  EXPECT_NE(It->Font3D(), &font3D);
+  EXPECT_EQ(It->Font3D()->Offset(), 4);
+  qel::TQELBackground background(nullptr);
+  background.SetBackgroundStyle(qel::bSolidcolor);
+  background.SetSolidColor(vcl::clLime);
+  It->SetBack(&background);
+  Paint();
+  EXPECT_EQ(Dib.Pixel(50, 15), 0x00FF00u);
+  EXPECT_EQ(Dib.Pixel(100, 15), 0u);
+}
+
+TEST_F(Button, PublishesItsPropertiesInOrder) {
+  std::vector<std::string> names;
+  for (const vcl::TPropInfo& each : qel::TQELButton::Class().Own()) names.push_back(each.Name);
+  EXPECT_THAT(names,
+              ElementsAre("About", "Font3D", "Glyph", "Enabled", "ParentShowHint", "ShowHint",
+                          "Font", "Visible", "Caption", "WordWrap", "ButtonSunk", "Background",
+                          "OnClick", "DragCursor", "DragMode", "ParentFont", "PopupMenu",
+                          "TabOrder", "TabStop", "OnDragDrop", "OnDragOver", "OnEndDrag",
+                          "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove",
+                          "OnMouseUp", "OnEnter", "OnExit", "OnStartDrag"));
+}
+
+}  // namespace
