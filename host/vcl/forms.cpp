@@ -89,7 +89,9 @@ TCustomForm::TCustomForm(TComponent* owner)
 TCustomForm::~TCustomForm() {
   AnnounceEnd();
   SetMenu(nullptr);
-  // While the form is whole, its window and those inside go in an orderly way.
+  // While the form is whole, its window and those inside go in an orderly way; unseen, which is
+  // much quicker where there are many.
+  if (HandleAllocated()) ::ShowWindow(Handle(), SW_HIDE);
   DestroyHandle();
   Screen()->RemoveForm(this);
 }

@@ -139,7 +139,7 @@ void TWinControl::CreateWnd() {
   creating = nullptr;
   if (!window) RaiseOutOfResources("window");
   UpdateBounds();
-  ::SendMessageW(FHandle, WM_SETFONT, reinterpret_cast<WPARAM>(Font()->Handle()), TRUE);
+  ::SendMessageW(FHandle, WM_SETFONT, reinterpret_cast<WPARAM>(Font()->Handle()), FALSE);
   Realign();
 }
 

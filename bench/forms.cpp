@@ -1,0 +1,90 @@
+#include "bench/forms.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "bench/timing.h"
+#include "controls/Qeltbutton.h"
+#include "controls/Qeltlabel.h"
+#include "host/rtl/classregistry.h"
+#include "host/rtl/formfile.h"
+#include "host/rtl/streams.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/registration.h"
+
+namespace bench {
+
+namespace {
+
+constexpr int Controls = 1000;
+constexpr int Columns = 25;
+constexpr int Width = 40;
+constexpr int Height = 18;
+
+/// The kinds of controls that the form has in turn, and the system's window class that the plain
+/// windows of the comparison have in the same place; a control without a window has none.
+struct TKind {
+  const char* Class;
+  const char* Window;
+};
+constexpr TKind Kinds[] = {
+    {"TQELButton", "BUTTON"}, {"TQELLabel", nullptr}, {"TEdit", "EDIT"}, {"TCheckBox", "BUTTON"}};
+
+const TKind& KindOf(int control) { return Kinds[control % std::size(Kinds)]; }
+int LeftOf(int control) { return control % Columns * Width; }
+int TopOf(int control) { return control / Columns * Height; }
+
+std::string Line(const char* property, int value) {
+  return std::string("    ") + property + " = " + std::to_string(value) + "\n";
+}
+
+/// The form file in its binary form, as a program would embed it.
+std::string FormFile() {
+  std::string text = "object Form: TForm\n  ClientWidth = 1000\n  ClientHeight = 720\n";
+  for (int i = 0; i < Controls; ++i) {
+    text += "  object Control" + std::to_string(i) + ": " + KindOf(i).Class + "\n";
+    text += Line("Left", LeftOf(i)) + Line("Top", TopOf(i)) + Line("Width", Width) +
+            Line("Height", Height) + "  end\n";
+  }
+  vcl::TStringStream source(text + "end\n");
+  vcl::TStringStream binary;
+  vcl::ObjectTextToBinary(source, binary);
+  return binary.DataString();
+}
+
+void MakeForm(const std::string& file) {
+  vcl::TForm form(nullptr);
+  vcl::TStringStream stream(file);
+  vcl::ReadComponentFile(stream, &form);
+  form.Show();
+  form.Update();
+}
+
+void MakeWindows() {
+  const HWND window = ::CreateWindowExA(0, "STATIC", "", WS_OVERLAPPEDWINDOW, 0, 0, 1000, 720,
+                                        nullptr, nullptr, nullptr, nullptr);
+  for (int i = 0; i < Controls; ++i) {
+    if (!KindOf(i).Window) continue;
+    ::CreateWindowExA(0, KindOf(i).Window, "", WS_CHILD | WS_VISIBLE, LeftOf(i), TopOf(i), Width,
+                      Height, window, nullptr, nullptr, nullptr);
+  }
+  ::ShowWindow(window, SW_SHOW);
+  ::UpdateWindow(window);
+  ::DestroyWindow(window);
+}
+
+}  // namespace
+
+void Forms() {
+  vcl::RegisterHostClasses();
+  vcl::RegisterClasses({&qel::TQELButton::Class(), &qel::TQELLabel::Class()});
+  const std::string file = FormFile();
+  TTable table("A form file of 1,000 controls, against 750 plain windows",
+               "250 each of button, label (which has no window), edit and check box: made, shown and "
+               "freed; the plain windows are made and shown by the system's calls alone.",
+               {"made, shown, freed"});
+  table.Add("TForm", {Compare([&] { MakeForm(file); }, MakeWindows)});
+}
+
+}  // namespace bench
