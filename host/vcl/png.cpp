@@ -61,8 +61,8 @@ using TSystemStream = std::unique_ptr<IStream, TReleaseStream>;
 TImage ViewOf(TBitmap& bitmap) {
   auto* top = static_cast<BYTE*>(bitmap.ScanLine(0));
   // Rows may lie from the bottom to the top.
-  const auto stride =
-      bitmap.Height() > 1 ? static_cast<BYTE*>(bitmap.ScanLine(1)) - top : (bitmap.Width() * 3 + 3) & ~3;
+  const auto stride = bitmap.Height() > 1 ? static_cast<BYTE*>(bitmap.ScanLine(1)) - top
+                                          : (bitmap.Width() * 3 + 3) & ~3;
   Gdiplus::GpBitmap* image = nullptr;
   Check(gdip::GdipCreateBitmapFromScan0(bitmap.Width(), bitmap.Height(), static_cast<INT>(stride),
                                         PixelFormat24bppRGB, top, &image),

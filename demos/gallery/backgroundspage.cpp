@@ -1,0 +1,70 @@
+// The page of backgrounds: the settings of the one that several controls share.
+#include "demos/gallery/galleryform.h"
+#include "demos/gallery/propertytext.h"
+#include "host/rtl/colors.h"
+#include "host/rtl/convert.h"
+#include "host/rtl/text.h"
+
+namespace gallery {
+
+using namespace qel;
+using namespace vcl;
+
+namespace {
+
+void CheckColors(const std::string& lines) {
+  TStringList colors;
+  colors.SetText(lines);
+  for (int i = 0; i < colors.Count(); ++i)
+    StringToColor(colors.Strings(i));
+}
+
+const std::vector<TSetting> BackgroundSettings = {
+    {"BackStyleBox", "BackgroundStyle"},
+    {"BackSolidColorBox", "SolidColor"},
+    {"BackFillStyleBox", "Gradient.FillStyle"},
+    {"BackBeginColorBox", "Gradient.BeginColor"},
+    {"BackEndColorBox", "Gradient.EndColor"},
+    {"BackColorCountEdit", "Gradient.ColorCount"},
+    {"BackBetweenMemo", "Gradient.ColorsInBetween", &CheckColors},
+    {"BackImageStyleBox", "Texture.ImageStyle"},
+    {"BackTexTransparentBox", "Texture.TransparentColor"},
+    {"BackTexGroundBox", "Texture.TransparentBackground"},
+    {"BackBrushStyleBox", "BrushFill.BrushStyle"},
+    {"BackBrushColorBox", "BrushFill.BrushColor"},
+};
+
+/// The pictures to choose from, and the background on the form that has each.
+struct TPicture {
+  const char* Title;
+  const char* Background;
+};
+constexpr TPicture Pictures[] = {{"Bricks", "StretchedBackground"},
+                                 {"Leaf", "SeeThroughBackground"},
+                                 {"Weave", "TiledBackground"}};
+
+}  // namespace
+
+void TGalleryForm::SetUpBackgrounds() {
+  Bind(BackgroundSettings).SetTargets({SharedBackground});
+  for (const TPicture& picture : Pictures)
+    BackImageBox->Items()->AddObject(picture.Title, FindComponent(picture.Background));
+  BackImageBox->Items()->Add(std::string(NoComponent));
+  BackImageBox->SetItemIndex(0);
+}
+
+void TGalleryForm::PictureChange(TObject*) {
+  const int index = BackImageBox->ItemIndex();
+  if (index < 0) return;
+  const auto* source = dynamic_cast<TQELBackground*>(BackImageBox->Items()->Objects(index));
+  SharedBackground->Texture()->SetImage(source ? source->Texture()->Image() : nullptr);
+}
+
+void TGalleryForm::SharedChanged(TObject*) {
+  if (Loading()) return;  // The label may not be there yet.
+  ++FChanges;
+  ChangesLabel->SetCaption(
+      Concat("Fired ", IntToStr(FChanges), FChanges == 1 ? " time" : " times"));
+}
+
+}  // namespace gallery

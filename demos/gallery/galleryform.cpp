@@ -1,0 +1,75 @@
+#include "demos/gallery/galleryform.h"
+
+#include "host/rtl/properties.h"
+#include "host/vcl/application.h"
+
+namespace gallery {
+
+using namespace vcl;
+
+const TClass& TGalleryForm::Class() {
+  using T = TGalleryForm;
+  static const TClass info =
+      Describe<T, TForm>("TGalleryForm", "galleryform",
+                         {
+                             Field<&T::Pages>("Pages"),
+                             Field<&T::StatusPanel>("StatusPanel"),
+                             Field<&T::ButtonsPage>("ButtonsPage"),
+                             Field<&T::ButtonSubjectBox>("ButtonSubjectBox"),
+                             Field<&T::DropList>("DropList"),
+                             Field<&T::EventList>("EventList"),
+                             Field<&T::ButtonMenu>("ButtonMenu"),
+                             Field<&T::StyleItem>("StyleItem"),
+                             Field<&T::EventsButton>("EventsButton"),
+                             Field<&T::DropLabel>("DropLabel"),
+                             Field<&T::SampleLabel>("SampleLabel"),
+                             Field<&T::SharedBackground>("SharedBackground"),
+                             Field<&T::BackImageBox>("BackImageBox"),
+                             Field<&T::ChangesLabel>("ChangesLabel"),
+                             Method<&T::ButtonClick>("ButtonClick"),
+                             Method<&T::SubjectChange>("SubjectChange"),
+                             Method<&T::ButtonMenuPopup>("ButtonMenuPopup"),
+                             Method<&T::ButtonMenuToggle>("ButtonMenuToggle"),
+                             Method<&T::ButtonMenuStyle>("ButtonMenuStyle"),
+                             Method<&T::StoneDragOver>("StoneDragOver"),
+                             Method<&T::DropLabelDragDrop>("DropLabelDragDrop"),
+                             Method<&T::DropListDragDrop>("DropListDragDrop"),
+                             Method<&T::TrashClick>("TrashClick"),
+                             Method<&T::TrashDragDrop>("TrashDragDrop"),
+                             Method<&T::LogMouseDown>("LogMouseDown"),
+                             Method<&T::LogMouseUp>("LogMouseUp"),
+                             Method<&T::LogKeyDown>("LogKeyDown"),
+                             Method<&T::LogKeyPress>("LogKeyPress"),
+                             Method<&T::LogKeyUp>("LogKeyUp"),
+                             Method<&T::LogEnter>("LogEnter"),
+                             Method<&T::LogExit>("LogExit"),
+                             Method<&T::LogStartDrag>("LogStartDrag"),
+                             Method<&T::LogEndDrag>("LogEndDrag"),
+                             Method<&T::PictureChange>("PictureChange"),
+                             Method<&T::SharedChanged>("SharedChanged"),
+                         });
+  return info;
+}
+
+TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
+  LoadForm();
+  SetUpButtons();
+  SetUpLabels();
+  SetUpBackgrounds();
+  Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
+}
+
+TGalleryForm::~TGalleryForm() { Application()->OnHint.Clear(); }
+
+TSettingBinder& TGalleryForm::Bind(std::vector<TSetting> settings) {
+  const auto tell = [this](const std::string& message) { ShowStatus(message); };
+  FBinders.push_back(std::make_unique<TSettingBinder>(*this, std::move(settings), tell));
+  return *FBinders.back();
+}
+
+void TGalleryForm::ShowStatus(const std::string& text) {
+  // The panel's text begins at its very edge.
+  StatusPanel->SetCaption(text.empty() ? text : " " + text);
+}
+
+}  // namespace gallery

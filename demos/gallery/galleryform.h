@@ -1,0 +1,95 @@
+// TGalleryForm: the gallery's window, with a page for buttons, one for labels and one for
+// backgrounds.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/Qeltbackground.h"
+#include "controls/Qeltbutton.h"
+#include "controls/Qeltlabel.h"
+#include "demos/gallery/settingbinder.h"
+#include "host/vcl/comctrls.h"
+#include "host/vcl/extctrls.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/menus.h"
+#include "host/vcl/stdctrls.h"
+
+namespace gallery {
+
+/// The form of gallery.dfm. The sources beside galleryform.cpp hold a page each.
+class TGalleryForm : public vcl::TForm {
+ public:
+  explicit TGalleryForm(vcl::TComponent* owner);
+  ~TGalleryForm() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  vcl::TPageControl* Pages = nullptr;
+
+ private:
+  // What the form file fills.
+  vcl::TPanel* StatusPanel = nullptr;
+  vcl::TTabSheet* ButtonsPage = nullptr;
+  vcl::TComboBox* ButtonSubjectBox = nullptr;
+  vcl::TListBox* DropList = nullptr;
+  vcl::TListBox* EventList = nullptr;
+  vcl::TPopupMenu* ButtonMenu = nullptr;
+  vcl::TMenuItem* StyleItem = nullptr;
+  qel::TQELButton* EventsButton = nullptr;
+  qel::TQELLabel* DropLabel = nullptr;
+  qel::TQELLabel* SampleLabel = nullptr;
+  qel::TQELBackground* SharedBackground = nullptr;
+  vcl::TComboBox* BackImageBox = nullptr;
+  vcl::TLabel* ChangesLabel = nullptr;
+
+  // The page of buttons.
+  void SetUpButtons();
+  void ButtonClick(vcl::TObject* sender);
+  void SubjectChange(vcl::TObject* sender);
+  void ChooseSubject(qel::TQELButton* button);
+  void ButtonMenuPopup(vcl::TObject* sender);
+  void ButtonMenuToggle(vcl::TObject* sender);
+  void ButtonMenuStyle(vcl::TObject* sender);
+  void SetFromMenu(std::string_view path, const std::string& text);
+  void StoneDragOver(vcl::TObject* sender, vcl::TObject* source, int x, int y,
+                     vcl::TDragState state, bool& accept);
+  void DropLabelDragDrop(vcl::TObject* sender, vcl::TObject* source, int x, int y);
+  void DropListDragDrop(vcl::TObject* sender, vcl::TObject* source, int x, int y);
+  void TrashClick(vcl::TObject* sender);
+  void TrashDragDrop(vcl::TObject* sender, vcl::TObject* source, int x, int y);
+
+  // The log of events.
+  void Log(vcl::TObject* sender, std::string_view event, const std::string& details = {});
+  void LogMouseDown(vcl::TObject* sender, vcl::TMouseButton button, vcl::TShiftState shift, int x,
+                    int y);
+  void LogMouseUp(vcl::TObject* sender, vcl::TMouseButton button, vcl::TShiftState shift, int x,
+                  int y);
+  void LogKeyDown(vcl::TObject* sender, std::uint16_t& key, vcl::TShiftState shift);
+  void LogKeyPress(vcl::TObject* sender, char32_t& key);
+  void LogKeyUp(vcl::TObject* sender, std::uint16_t& key, vcl::TShiftState shift);
+  void LogEnter(vcl::TObject* sender);
+  void LogExit(vcl::TObject* sender);
+  void LogStartDrag(vcl::TObject* sender, vcl::TDragObject*& object);
+  void LogEndDrag(vcl::TObject* sender, vcl::TObject* target, int x, int y);
+
+  // The page of labels.
+  void SetUpLabels();
+
+  // The page of backgrounds.
+  void SetUpBackgrounds();
+  void PictureChange(vcl::TObject* sender);
+  void SharedChanged(vcl::TObject* sender);
+
+  // What the pages share.
+  TSettingBinder& Bind(std::vector<TSetting> settings);
+  void ShowStatus(const std::string& text);
+
+  std::vector<std::unique_ptr<TSettingBinder>> FBinders;
+  TSettingBinder* FButtonSettings = nullptr;
+  int FChanges = 0;
+};
+
+}  // namespace gallery

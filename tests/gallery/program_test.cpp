@@ -1,0 +1,166 @@
+// The gallery as a program: its pictures, its answers to bad arguments, and its end.
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "demos/gallery/galleryform.h"
+#include "tests/gallery/program.h"
+#include "tests/support/pngpicture.h"
+
+namespace gallery_test {
+namespace {
+
+using testing_support::FileBytes;
+using testing_support::PngChunks;
+using testing_support::TPicture;
+
+struct TResult {
+  DWORD Code;
+  std::string Output;
+  std::string Errors;
+};
+
+std::string TextOf(const std::filesystem::path& file) {
+  const auto bytes = FileBytes(file.string());
+  return {bytes.begin(), bytes.end()};
+}
+
+TResult RunGallery(const TFolder& folder, const std::wstring& arguments) {
+  const auto output = folder.Path / "output", errors = folder.Path / "errors";
+  DWORD code;
+  {
+    const TOutputFile outputFile(output), errorFile(errors);
+    code = TProgram(arguments, outputFile.Handle(), errorFile.Handle()).ExitCode();
+  }
+  return {code, TextOf(output), TextOf(errors)};
+}
+
+class Screenshots : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    Folder = std::make_unique<TFolder>();
+    const auto pictures = Folder->Path / "made for it" / "pictures";
+    Result = RunGallery(*Folder, L"--screenshot \"" + pictures.wstring() + L"\"");
+    std::istringstream lines(Result.Output);
+    for (std::string line; std::getline(lines, line);) {
+      if (!line.empty() && line.back() == '\r') line.pop_back();
+      Files.push_back(line);
+    }
+  }
+  static void TearDownTestSuite() { Folder.reset(); }
+
+  /// Where a control of the form stands on its pictures.
+  static vcl::TRect Place(gallery::TGalleryForm& form, int page, const char* name) {
+    form.Pages->SetActivePageIndex(page);
+    const auto* control = dynamic_cast<vcl::TControl*>(form.FindComponent(name));
+    const vcl::TPoint corner = control->ClientToScreen({0, 0}) - form.ClientToScreen({0, 0});
+    return vcl::Bounds(corner.X, corner.Y, control->Width(), control->Height());
+  }
+
+  static inline std::unique_ptr<TFolder> Folder;
+  static inline TResult Result;
+  static inline std::vector<std::string> Files;
+};
+
+TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
+  ASSERT_EQ(Result.Code, 0u) << Result.Errors;
+  ASSERT_EQ(Files.size(), 3u);
+  const char* names[] = {"buttons.png", "labels.png", "backgrounds.png"};
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(std::filesystem::path(Files[i]).filename().string(), names[i]);
+    EXPECT_EQ(PngChunks(FileBytes(Files[i])).substr(0, 4), "IHDR");
+    const TPicture picture(Files[i]);
+    EXPECT_EQ(picture.Width, 960);
+    EXPECT_EQ(picture.Height, 640);
+    EXPECT_GT(picture.ColorCount(), 30u);
+  }
+}
+
+TEST_F(Screenshots, ShowEachPage) {
+  ASSERT_EQ(Files.size(), 3u);
+  gallery::TGalleryForm form(nullptr);
+  form.Show();
+  const TPicture buttons(Files[0]), labels(Files[1]), backgrounds(Files[2]);
+  EXPECT_FALSE(buttons == labels);
+  EXPECT_FALSE(labels == backgrounds);
+
+  // White goes over to navy from top to bottom, inside a frame of one pixel.
+  const vcl::TRect fall = Place(form, 2, "HorizontalTile");
+  const int middle = (fall.Left + fall.Right) / 2;
+  EXPECT_EQ(backgrounds.At(middle, fall.Top + 1), vcl::clWhite);
+  EXPECT_EQ(backgrounds.At(fall.Left + 2, fall.Top + 20), backgrounds.At(middle, fall.Top + 20));
+  const auto last = static_cast<unsigned>(backgrounds.At(middle, fall.Bottom - 2));
+  EXPECT_GT(last >> 16 & 0xFF, 0x78u);
+  EXPECT_LT(last & 0xFF, 0x18u);
+
+  // The frame: shadow at the top left, light at the bottom right.
+  EXPECT_EQ(backgrounds.At(fall.Left, fall.Top + 20),
+            static_cast<vcl::TColor>(::GetSysColor(COLOR_BTNSHADOW)));
+  EXPECT_EQ(backgrounds.At(fall.Right - 1, fall.Top + 20),
+            static_cast<vcl::TColor>(::GetSysColor(COLOR_BTNHIGHLIGHT)));
+
+  // The ruby's red is on the buttons' page only.
+  const vcl::TRect ruby = Place(form, 0, "RubyButton");
+  const auto red = vcl::TColor(0x4048E0);
+  const auto shows = [&](const TPicture& picture) {
+    for (int y = ruby.Top; y < ruby.Bottom; ++y)
+      for (int x = ruby.Left; x < ruby.Left + 30; ++x)
+        if (picture.At(x, y) == red) return true;
+    return false;
+  };
+  EXPECT_TRUE(shows(buttons));
+  EXPECT_FALSE(shows(labels));
+}
+
+TEST(Program, SaysWhatIsWrongWithItsArguments) {
+  const TFolder folder;
+  const struct {
+    const wchar_t* Arguments;
+    DWORD Code;
+    const char* Message;
+  } cases[] = {{L"--screenshot", 2, "Usage"}, {L"--picture x", 2, "Usage"}, {L"a b c", 2, "Usage"}};
+  for (const auto& each : cases) {
+    const TResult result = RunGallery(folder, each.Arguments);
+    EXPECT_EQ(result.Code, each.Code) << each.Arguments;
+    EXPECT_NE(result.Errors.find(each.Message), std::string::npos) << result.Errors;
+    EXPECT_EQ(result.Output, "");
+  }
+}
+
+TEST(Program, FailsWhereItCannotSaveItsPictures) {
+  const TFolder folder;
+  const auto file =
+      folder.Path / "output";  // A file where a folder should be: RunGallery makes it.
+  const TResult result = RunGallery(folder, L"--screenshot \"" + file.wstring() + L"\"");
+  EXPECT_EQ(result.Code, 1u);
+  EXPECT_NE(result.Errors.find("output"), std::string::npos) << result.Errors;
+}
+
+/// The program's window with that title; null while there is none.
+HWND WindowOf(DWORD process, const wchar_t* title) {
+  for (HWND window = nullptr;
+       (window = ::FindWindowExW(nullptr, window, nullptr, title)) != nullptr;) {
+    DWORD owner = 0;
+    ::GetWindowThreadProcessId(window, &owner);
+    if (owner == process && ::IsWindowVisible(window)) return window;
+  }
+  return nullptr;
+}
+
+TEST(Program, EndsWhenItsWindowIsClosed) {
+  const TFolder folder;
+  const TOutputFile output(folder.Path / "output");
+  const TProgram program(L"", output.Handle(), output.Handle());
+  HWND window = nullptr;
+  const ULONGLONG end = ::GetTickCount64() + Patience;
+  while (!window && ::GetTickCount64() < end) {
+    window = WindowOf(program.ProcessId(), L"Gallery of painted components");
+    if (!window) ::Sleep(20);
+  }
+  ASSERT_NE(window, nullptr);
+  ::PostMessageW(window, WM_CLOSE, 0, 0);
+  EXPECT_EQ(program.ExitCode(), 0u);
+}
+
+}  // namespace
+}  // namespace gallery_test

@@ -1,0 +1,317 @@
+// The gallery's window under real mouse and keyboard: pages, events, settings, drag and drop, the
+// menu.
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "demos/gallery/galleryform.h"
+#include "host/rtl/exceptions.h"
+#include "host/rtl/text.h"
+#include "host/vcl/handles.h"
+#include "tests/vcl/testinput.h"
+
+namespace gallery_test {
+namespace {
+
+using namespace qel;
+using namespace testinput;
+using namespace vcl;
+
+class Gallery : public ::testing::Test {
+ protected:
+  Gallery() : Form(nullptr) {
+    Form.Show();
+    ::SetForegroundWindow(Form.Handle());
+    PumpUntil([&] { return Form.Active(); });
+  }
+  template <class T = TControl>
+  T* Find(const char* name) {
+    T* found = dynamic_cast<T*>(Form.FindComponent(name));
+    if (!found) throw EComponentError(std::string("The form has no ") + name);
+    return found;
+  }
+  /// Clicks the page's tab.
+  void GoTo(int index) {
+    RECT tab{};
+    ::SendMessageW(Form.Pages->Handle(), TCM_GETITEMRECT, static_cast<WPARAM>(index),
+                   reinterpret_cast<LPARAM>(&tab));
+    POINT middle{(tab.left + tab.right) / 2, (tab.top + tab.bottom) / 2};
+    ::ClientToScreen(Form.Pages->Handle(), &middle);
+    Click(TPoint(middle));
+    ASSERT_TRUE(PumpUntil([&] { return Form.Pages->ActivePageIndex() == index; }));
+  }
+  bool Logged(const std::string& text) {
+    const TStrings* lines = Find<TListBox>("EventList")->Items();
+    for (int i = 0; i < lines->Count(); ++i)
+      if (lines->Strings(i).rfind(text, 0) == 0) return true;
+    return false;
+  }
+  /// Replaces the text of an edit by typing.
+  void Type(const char* name, const std::string& keys) {
+    Click(Find(name));
+    TypeKey('A', {VK_CONTROL});
+    for (const char key : keys)
+      TypeKey(static_cast<WORD>(key));
+  }
+  std::string Status() { return Find<TPanel>("StatusPanel")->Caption(); }
+
+  gallery::TGalleryForm Form;
+};
+
+/// The pixels of a control as they are on the screen.
+std::vector<COLORREF> ScreenPixels(const TControl* control) {
+  const TPoint corner = control->ClientToScreen({0, 0});
+  TBitmap copy(control->Width(), control->Height());
+  const TWindowDC screen(nullptr);
+  ::BitBlt(copy.Canvas()->Handle(), 0, 0, copy.Width(), copy.Height(), screen.Get(), corner.X,
+           corner.Y, SRCCOPY);
+  copy.SetPixelFormat(pf32bit);
+  std::vector<COLORREF> pixels;
+  for (int y = 0; y < copy.Height(); ++y) {
+    const auto* row = static_cast<const COLORREF*>(copy.ScanLine(y));
+    pixels.insert(pixels.end(), row, row + copy.Width());
+  }
+  return pixels;
+}
+
+TEST_F(Gallery, ItsTabsShowItsPages) {
+  EXPECT_EQ(Form.Pages->ActivePageIndex(), 0);
+  GoTo(2);
+  EXPECT_TRUE(Find<TTabSheet>("BackgroundsPage")->Visible());
+  GoTo(1);
+  EXPECT_TRUE(::IsWindowVisible(Find<TWinControl>("LabelSettings")->Handle()));
+  EXPECT_FALSE(::IsWindowVisible(Find<TWinControl>("BackSettings")->Handle()));
+}
+
+TEST_F(Gallery, AButtonLogsItsEventsAndShowsItsSettings) {
+  const char* expected[] = {"EventsButton.OnMouseDown  mbLeft", "EventsButton.OnMouseUp  mbLeft",
+                            "EventsButton.OnClick"};
+  Click(Find("RaisedButton"));
+  EXPECT_TRUE(PumpUntil([&] { return Logged("RaisedButton.OnClick"); }));
+  EXPECT_EQ(Find<TComboBox>("ButtonStyle3DBox")->Text(), "fontRaised");
+  Click(Find("EventsButton"));
+  for (const char* each : expected)
+    EXPECT_TRUE(PumpUntil([&] { return Logged(each); })) << each;
+  EXPECT_EQ(Find<TComboBox>("ButtonSubjectBox")->Text(), "EventsButton");
+}
+
+TEST_F(Gallery, TheKeyboardReachesAButton) {
+  const char* expected[] = {"EventsButton.OnEnter",         "EventsButton.OnKeyDown  32",
+                            "EventsButton.OnKeyPress  ' '", "EventsButton.OnKeyUp  32",
+                            "EventsButton.OnClick",         "EventsButton.OnExit"};
+  Click(Find("DropList"));
+  TypeKey(VK_TAB);
+  TypeKey(VK_SPACE);
+  TypeKey(VK_TAB);
+  for (const char* each : expected)
+    EXPECT_TRUE(PumpUntil([&] { return Logged(each); })) << each;
+}
+
+TEST_F(Gallery, ADisabledButtonLogsNothing) {
+  Click(Find("OneImageDisabledButton"));
+  Click(Find("OneImageButton"));
+  EXPECT_TRUE(PumpUntil([&] { return Logged("OneImageButton.OnClick"); }));
+  EXPECT_FALSE(Logged("OneImageDisabledButton"));
+}
+
+TEST_F(Gallery, SettingsChangeTheButtonAtOnce) {
+  auto* button = Find<TQELButton>("FourImageButton");
+  Click(button);
+  ASSERT_TRUE(PumpUntil([&] { return Logged("FourImageButton.OnClick"); }));
+  Type("ButtonCaptionEdit", "NEW");
+  EXPECT_TRUE(PumpUntil([&] { return SameText(button->Caption(), "new"); })) << button->Caption();
+  Click(Find("ButtonEnabledCheck"));
+  EXPECT_TRUE(PumpUntil([&] { return !button->Enabled(); }));
+  Type("ButtonNumGlyphsEdit", "2");
+  EXPECT_TRUE(PumpUntil([&] { return button->Glyph()->NumGlyphs() == 2; }));
+  Click(Find("ButtonRepetitionBox"));
+  TypeKey(VK_UP);
+  EXPECT_TRUE(PumpUntil([&] { return button->Font3D()->Repetition() == repeatOnHighLight; }));
+}
+
+TEST_F(Gallery, AWrongTextKeepsTheValueAndIsMarked) {
+  auto* button = Find<TQELButton>("RaisedButton");
+  auto* edit = Find<TEdit>("ButtonOffsetEdit");
+  Click(button);
+  ASSERT_TRUE(PumpUntil([&] { return Logged("RaisedButton.OnClick"); }));
+  const TColor unmarked = edit->Color();
+  for (const char* wrong : {"X", "0"}) {
+    Type("ButtonOffsetEdit", wrong);
+    EXPECT_TRUE(PumpUntil([&] { return edit->Color() != unmarked; })) << wrong;
+    EXPECT_NE(Status(), "") << wrong;
+    EXPECT_EQ(button->Font3D()->Offset(), 1) << wrong;
+    Click(Find("ButtonCaptionEdit"));
+    EXPECT_TRUE(PumpUntil([&] { return edit->Text() == "1"; })) << "the value comes back";
+    EXPECT_EQ(edit->Color(), unmarked);
+  }
+  Type("ButtonOffsetEdit", "2");
+  EXPECT_TRUE(PumpUntil([&] { return button->Font3D()->Offset() == 2; }));
+  EXPECT_EQ(edit->Color(), unmarked);
+}
+
+TEST_F(Gallery, ABackgroundsSettingsChangeAllItsClients) {
+  GoTo(2);
+  const char* clients[] = {"SharedLabel",        "SharedButton", "SharedGlyphButton",
+                           "SharedLettersLabel", "SharedTile",   "SharedSunkButton"};
+  const auto look = [&] {
+    std::vector<std::vector<COLORREF>> pixels;
+    for (const char* name : clients)
+      pixels.push_back(ScreenPixels(Find(name)));
+    return pixels;
+  };
+  auto* shared = Find<TQELBackground>("SharedBackground");
+  const auto change = [&](const char* what, const std::function<void()>& act) {
+    const auto before = look();
+    const std::string fired = Find<TLabel>("ChangesLabel")->Caption();
+    act();
+    EXPECT_TRUE(PumpUntil([&] {
+      const auto now = look();
+      for (std::size_t i = 0; i < before.size(); ++i)
+        if (now[i] == before[i]) return false;
+      return true;
+    })) << what;
+    EXPECT_NE(Find<TLabel>("ChangesLabel")->Caption(), fired) << what;
+  };
+  const TQELFillStyle former = shared->Gradient()->FillStyle();
+  change("FillStyle", [&] {
+    Click(Find("BackFillStyleBox"));
+    TypeKey(VK_DOWN);
+    TypeKey(VK_RETURN);
+  });
+  EXPECT_EQ(shared->Gradient()->FillStyle(), former + 1);
+  change("BackgroundStyle", [&] {
+    Click(Find("BackStyleBox"));
+    TypeKey(VK_DOWN);
+    TypeKey(VK_RETURN);
+  });
+  EXPECT_EQ(shared->BackgroundStyle(), bTexture);
+  change("Image", [&] {
+    Click(Find("BackImageBox"));
+    TypeKey(VK_END);
+    TypeKey(VK_UP);
+    TypeKey(VK_RETURN);
+  });
+}
+
+TEST_F(Gallery, ColoursInBetweenAreCheckedLineByLine) {
+  GoTo(2);
+  auto* shared = Find<TQELBackground>("SharedBackground");
+  auto* memo = Find<TMemo>("BackBetweenMemo");
+  const std::string before = shared->Gradient()->ColorsInBetween()->Text();
+  memo->SetText("clYellow\r\nno colour");
+  EXPECT_EQ(shared->Gradient()->ColorsInBetween()->Text(), before);
+  EXPECT_NE(Status().find("no colour"), std::string::npos) << Status();
+  memo->SetText("clYellow\r\n$0000FF");
+  EXPECT_EQ(shared->Gradient()->ColorsInBetween()->Text(), "clYellow\r\n$0000FF\r\n");
+  EXPECT_EQ(Status(), "");
+}
+
+TEST_F(Gallery, LabelSettingsChangeAllOfTheirLabels) {
+  GoTo(1);
+  Type("LabelOffsetEdit", "5");
+  Type("LabelFrameWidthEdit", "3");
+  const auto all = [&] {
+    for (const char* name :
+         {"RaisedNoneLabel", "OutLineShadowOnHighLightLabel", "InsetOnShadowLabel"})
+      if (Find<TQELLabel>(name)->Font3D()->Offset() != 5) return false;
+    for (const char* name : {"FrameSolidLabel", "FrameLightBorderedLabel"})
+      if (Find<TQELLabel>(name)->Frame()->FrameWidth() != 3) return false;
+    return true;
+  };
+  EXPECT_TRUE(PumpUntil(all));
+  auto* sample = Find<TQELLabel>("SampleLabel");
+  Click(Find("LabelSampleFontBackgroundBox"));
+  TypeKey(VK_HOME);
+  TypeKey(VK_RETURN);
+  EXPECT_TRUE(PumpUntil([&] { return sample->FontBackground() == nullptr; }));
+}
+
+/// Drags from one control to another with the left button.
+void Drag(const TControl* from, const TControl* to) {
+  const TPoint start = MiddleOf(from), end = MiddleOf(to);
+  MoveMouse(start);
+  LeftDown();
+  for (int step = 1; step <= 4; ++step)
+    MoveMouse({start.X + (end.X - start.X) * step / 4, start.Y + (end.Y - start.Y) * step / 4});
+  LeftUp();
+}
+
+TEST_F(Gallery, StonesAreDroppedOnTheLabelTheListAndTheBin) {
+  auto* label = Find<TQELLabel>("DropLabel");
+  auto* list = Find<TListBox>("DropList");
+  Drag(Find("RubyButton"), label);
+  EXPECT_TRUE(PumpUntil([&] { return label->Caption() == "Ruby"; })) << label->Caption();
+  EXPECT_EQ(label->Font()->Color(), clMaroon);
+  for (const char* each : {"RubyButton.OnStartDrag", "DropLabel.OnDragOver  enters Ruby",
+                           "DropLabel.OnDragDrop  Ruby", "RubyButton.OnEndDrag  on DropLabel"})
+    EXPECT_TRUE(Logged(each)) << each;
+  Drag(Find("EmeraldButton"), list);
+  Drag(Find("SapphireButton"), list);
+  EXPECT_TRUE(PumpUntil([&] { return list->Items()->CommaText() == "Emerald,Sapphire"; }))
+      << list->Items()->CommaText();
+  Drag(Find("EmeraldButton"), Find("TrashButton"));
+  EXPECT_TRUE(PumpUntil([&] { return list->Items()->CommaText() == "Sapphire"; }));
+  Drag(Find("EmeraldButton"), Find("EventList"));
+  EXPECT_TRUE(PumpUntil([&] { return Logged("EmeraldButton.OnEndDrag  on nothing"); }));
+  Click(Find("TrashButton"));
+  EXPECT_TRUE(PumpUntil([&] { return list->Items()->Count() == 0; }));
+}
+
+/// Presses a key as soon as a menu is up, which holds up this thread.
+class TMenuKey {
+ public:
+  explicit TMenuKey(WORD key)
+      : FThread([key] {
+          const ULONGLONG end = ::GetTickCount64() + Patience;
+          while (!MenuIsUp() && ::GetTickCount64() < end)
+            ::Sleep(10);
+          SendKey(MenuIsUp() ? key : static_cast<WORD>(VK_ESCAPE), true);
+          SendKey(MenuIsUp() ? key : static_cast<WORD>(VK_ESCAPE), false);
+        }) {}
+  ~TMenuKey() { FThread.join(); }
+  TMenuKey(const TMenuKey&) = delete;
+  TMenuKey& operator=(const TMenuKey&) = delete;
+
+ private:
+  static bool MenuIsUp() {
+    const HWND menu = ::FindWindowW(L"#32768", nullptr);
+    return menu && ::IsWindowVisible(menu);
+  }
+  std::thread FThread;
+};
+
+TEST_F(Gallery, ThePopupMenuChangesItsButton) {
+  auto* button = Find<TQELButton>("FlatButton");
+  EXPECT_FALSE(button->Enabled() && button->WordWrap());
+  {
+    const TMenuKey key('W');
+    MoveMouse(MiddleOf(button));
+    RightDown();
+    RightUp();
+    EXPECT_TRUE(PumpUntil([&] { return button->WordWrap(); }));
+  }
+  EXPECT_TRUE(Find<TCheckBox>("ButtonWordWrapCheck")->Checked()) << "the settings show it";
+  EXPECT_EQ(Find<TComboBox>("ButtonSubjectBox")->Text(), "FlatButton");
+}
+
+TEST(GalleryForm, GivesBackWhatItTakes) {
+  const HANDLE process = ::GetCurrentProcess();
+  const auto once = [] {
+    gallery::TGalleryForm form(nullptr);
+    form.Show();
+    for (int i = 0; i < form.Pages->PageCount(); ++i) {
+      form.Pages->SetActivePageIndex(i);
+      Pump();
+    }
+  };
+  once();
+  const DWORD gdi = ::GetGuiResources(process, GR_GDIOBJECTS);
+  const DWORD user = ::GetGuiResources(process, GR_USEROBJECTS);
+  for (int i = 0; i < 3; ++i)
+    once();
+  EXPECT_EQ(::GetGuiResources(process, GR_GDIOBJECTS), gdi);
+  EXPECT_EQ(::GetGuiResources(process, GR_USEROBJECTS), user);
+}
+
+}  // namespace
+}  // namespace gallery_test
