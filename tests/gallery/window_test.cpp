@@ -8,6 +8,7 @@
 #include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
 #include "host/vcl/handles.h"
+#include "tests/support/handles.h"
 #include "tests/vcl/testinput.h"
 
 namespace gallery_test {
@@ -127,6 +128,13 @@ TEST_F(Gallery, SettingsChangeTheButtonAtOnce) {
   Click(Find("ButtonRepetitionBox"));
   TypeKey(VK_UP);
   EXPECT_TRUE(PumpUntil([&] { return button->Font3D()->Repetition() == repeatOnHighLight; }));
+}
+
+TEST_F(Gallery, TheHintOfASettingStandsBelow) {
+  MoveMouse(MiddleOf(Find("ButtonNumGlyphsEdit")));
+  const std::string hint = Find("ButtonNumGlyphsEdit")->Hint();
+  ASSERT_NE(hint, "");
+  EXPECT_TRUE(PumpUntil([&] { return Status() == " " + hint; })) << Status();
 }
 
 TEST_F(Gallery, AWrongTextKeepsTheValueAndIsMarked) {
@@ -282,7 +290,7 @@ class TMenuKey {
 
 TEST_F(Gallery, ThePopupMenuChangesItsButton) {
   auto* button = Find<TQELButton>("FlatButton");
-  EXPECT_FALSE(button->Enabled() && button->WordWrap());
+  ASSERT_FALSE(button->WordWrap());
   {
     const TMenuKey key('W');
     MoveMouse(MiddleOf(button));
@@ -295,7 +303,6 @@ TEST_F(Gallery, ThePopupMenuChangesItsButton) {
 }
 
 TEST(GalleryForm, GivesBackWhatItTakes) {
-  const HANDLE process = ::GetCurrentProcess();
   const auto once = [] {
     gallery::TGalleryForm form(nullptr);
     form.Show();
@@ -305,12 +312,12 @@ TEST(GalleryForm, GivesBackWhatItTakes) {
     }
   };
   once();
-  const DWORD gdi = ::GetGuiResources(process, GR_GDIOBJECTS);
-  const DWORD user = ::GetGuiResources(process, GR_USEROBJECTS);
+  const int gdi = handles::GdiObjects();
+  const int user = handles::UserObjects();
   for (int i = 0; i < 3; ++i)
     once();
-  EXPECT_EQ(::GetGuiResources(process, GR_GDIOBJECTS), gdi);
-  EXPECT_EQ(::GetGuiResources(process, GR_USEROBJECTS), user);
+  EXPECT_EQ(handles::GdiObjects(), gdi);
+  EXPECT_EQ(handles::UserObjects(), user);
 }
 
 }  // namespace
