@@ -322,6 +322,7 @@ void TControl::DragOver(TObject* source, int x, int y, TDragState state, bool& a
 }
 
 void TControl::DragDrop(TObject* source, int x, int y) { OnDragDrop(this, source, x, y); }
+void TControl::BeginAutoDrag(TMessage&) { BeginDrag(false); }
 void TControl::DoStartDrag(TDragObject*& object) { OnStartDrag(this, object); }
 void TControl::DoEndDrag(TObject* target, int x, int y) { OnEndDrag(this, target, x, y); }
 

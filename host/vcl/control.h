@@ -166,6 +166,9 @@ class VCL_API TControl : public TComponent {
   virtual void MouseDown(TMouseButton button, TShiftState shift, int x, int y);
   virtual void MouseMove(TShiftState shift, int x, int y);
   virtual void MouseUp(TMouseButton button, TShiftState shift, int x, int y);
+  /// A press of the left button on a control with dmAutomatic. The inherited method begins the drag
+  /// and leaves nothing of the press to the control.
+  virtual void BeginAutoDrag(TMessage& press);
   virtual void DoStartDrag(TDragObject*& object);
   virtual void DoEndDrag(TObject* target, int x, int y);
 

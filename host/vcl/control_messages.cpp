@@ -63,7 +63,7 @@ UINT PlainPress(UINT message) {
 void TControl::WndProc(TMessage& message) {
   if (!FControlStyle.Has(csDoubleClicks)) message.Msg = PlainPress(message.Msg);
   const bool pressed = message.Msg == WM_LBUTTONDOWN || message.Msg == WM_LBUTTONDBLCLK;
-  if (pressed && FDragMode == dmAutomatic && !Designing()) return BeginDrag(false);
+  if (pressed && FDragMode == dmAutomatic && !Designing()) return BeginAutoDrag(message);
   if (pressed) IncludeState(csLButtonDown);
   if (message.Msg == WM_LBUTTONUP) ExcludeState(csLButtonDown);
   Dispatch(message);

@@ -203,7 +203,10 @@ void TCustomForm::WMSize(TMessage& message) {
   static constexpr TWindowState states[] = {wsNormal, wsMinimized, wsMaximized};
   const WPARAM kind = message.WParam;
   if (Showing() && !Designing() && kind <= SIZE_MAXIMIZED) FWindowState = states[kind];
+  TWatch watch(this);
   TWinControl::Dispatch(message);
+  // A menu that comes or goes changes the client rectangle in a window of the same size.
+  if (!watch.Gone() && kind != SIZE_MINIMIZED) Realign();
 }
 
 void TCustomForm::WMSysCommand(TMessage& message) {

@@ -163,4 +163,24 @@ void TCustomListBox::Dispatch(TMessage& message) {
   if (HIWORD(message.WParam) == LBN_DBLCLK) return DblClick();
 }
 
+bool TCustomListBox::DragsSelection(const TMessage& press) const {
+  const int item = ItemAtPos({press.XPos(), press.YPos()}, true);
+  return FMultiSelect && item >= 0 && Selected(item);
+}
+
+void TCustomListBox::BeginAutoDrag(TMessage& press) {
+  const bool selectsMore = FMultiSelect && (press.WParam & (MK_SHIFT | MK_CONTROL)) != 0;
+  if (selectsMore || press.Msg == WM_LBUTTONDBLCLK) return Dispatch(press);
+  if (!DragsSelection(press)) {
+    TWatch watch(this);
+    Dispatch(press);
+    // The drag takes the mouse away, so the window learns of the release now and ends selecting.
+    if (!watch.Gone()) Perform(WM_LBUTTONUP, 0, press.LParam);
+    if (watch.Gone()) return;
+    // A handler of the click may have shown a dialog, in which the button has come up.
+    if (DragMode() != dmAutomatic || ::GetKeyState(VK_LBUTTON) >= 0) return;
+  }
+  TCustomListControl::BeginAutoDrag(press);
+}
+
 }  // namespace vcl

@@ -52,8 +52,12 @@ class VCL_API TCustomListBox : public TCustomListControl {
   void RestoreSelection() override;
   void CreateParams(TCreateParams& params) override;
   void Dispatch(TMessage& message) override;
+  /// The press selects before it drags. In a list with several selected items, one on a selected item
+  /// drags them all, and one with Shift or Ctrl only selects.
+  void BeginAutoDrag(TMessage& press) override;
 
  private:
+  bool DragsSelection(const TMessage& press) const;
   template <class T>
   void ChangeStyle(T& field, T value);
 

@@ -8,6 +8,7 @@
 #include "host/vcl/controlcanvas.h"
 #include "host/vcl/drag.h"
 #include "host/vcl/forms.h"
+#include "host/vcl/listbox.h"
 #include "tests/vcl/testinput.h"
 
 namespace vcl {
@@ -182,6 +183,82 @@ TEST_F(Drag, AnErrorAtTheDropDoesNotKeepTheSourceFromItsEnd) {
   Application()->OnException = nullptr;
   EXPECT_EQ(error, "no room");
   EXPECT_EQ(Log.back(), "end");
+}
+
+// A form with a list whose lines are dragged, some of them selected before.
+class DragFromList : public ::testing::Test {
+ protected:
+  DragFromList() : Form(nullptr), List(new TListBox(&Form)) {
+    Form.SetBorderStyle(bsNone);
+    Form.SetBounds(300, 300, 240, 120);
+    List->SetParent(&Form);
+    List->SetBounds(10, 10, 100, 100);
+    List->SetDragMode(dmAutomatic);
+    List->Items()->SetCommaText("a,b,c");
+    List->OnStartDrag = [this](TObject*, TDragObject*&) { Log += "start" + Selected() + " "; };
+    List->OnEndDrag = [this](TObject*, TObject*, int, int) { Log += "end"; };
+    Form.Show();
+    EXPECT_TRUE(PumpUntil([&] { return Form.Active(); }));
+  }
+  ~DragFromList() override {
+    LeftUp();
+    Form.Hide();
+  }
+  std::string Selected() const {
+    std::string selected;
+    for (int i = 0; i < 3; ++i) {
+      if (List->MultiSelect() ? List->Selected(i) : List->ItemIndex() == i)
+        selected += List->Items()->Strings(i);
+    }
+    return selected;
+  }
+  void Press(int item) {
+    const TRect line = List->ItemRect(item);
+    MoveMouse(List->ClientToScreen({line.Left + 5, line.Top + 4}));
+    LeftDown();
+  }
+  void DragAside() {
+    MoveMouse(List->ClientToScreen({160, 50}));
+    LeftUp();
+    EXPECT_TRUE(PumpUntil([] { return TDragSession::Current() == nullptr; }));
+  }
+  TForm Form;
+  TListBox* List;
+  std::string Log;
+};
+
+TEST_F(DragFromList, ThePressSelectsTheLineThatIsDragged) {
+  std::string heard;
+  List->OnClick = [&](TObject*) { heard += Selected(); };
+  Press(1);
+  EXPECT_EQ(heard, "b");
+  DragAside();
+  EXPECT_EQ(Log, "startb end");
+  ::Sleep(600);  // Not the second half of a double click.
+  Press(2);
+  LeftUp();
+  EXPECT_TRUE(PumpUntil([] { return TDragSession::Current() == nullptr; }));
+  EXPECT_EQ(heard, "bc");
+  EXPECT_EQ(Log, "startb end");
+}
+
+TEST_F(DragFromList, APressOnOneOfSeveralSelectedLinesDragsThemAll) {
+  List->SetMultiSelect(true);
+  List->SetSelected(0, true);
+  List->SetSelected(2, true);
+  Press(2);
+  DragAside();
+  Press(1);
+  DragAside();
+  EXPECT_EQ(Log, "startac endstartb end");
+}
+
+TEST_F(DragFromList, ADialogOfTheClickKeepsTheDragFromBeginning) {
+  List->OnClick = [&](TObject*) { LeftUp(); };
+  Press(1);
+  MoveMouse(List->ClientToScreen({160, 50}));
+  EXPECT_EQ(TDragSession::Current(), nullptr);
+  EXPECT_EQ(Log, "");
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "host/vcl/controlcanvas.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/menus.h"
+#include "host/vcl/panel.h"
 #include "host/vcl/screen.h"
 #include "host/vcl/standardcontrols.h"
 #include "host/vcl/stdctrls.h"
@@ -426,6 +427,25 @@ TEST_F(Forms, AFormFileMakesTheFormAndShowsItWhole) {
   EXPECT_FALSE(PumpUntil([&] { return form.Exits > 0; }, 50));
   TypeKey('X', {VK_MENU});
   EXPECT_TRUE(PumpUntil([&] { return form.Exits == 1; }));
+}
+
+TEST_F(Forms, WhatIsAlignedFitsAFormWithAMenu) {
+  RegisterMenuClasses();
+  TFileForm form(nullptr);
+  TStringStream text(FormText);
+  ReadComponentFile(text, &form);
+  TPanel* const bar = new TPanel(&form);
+  bar->SetParent(&form);
+  bar->SetAlign(alBottom);
+  const auto bottom = [&] { return bar->Top() + bar->Height(); };
+  EXPECT_EQ(bottom(), 150);
+  form.SetMenu(nullptr);
+  RECT client;
+  ::GetClientRect(form.Handle(), &client);
+  EXPECT_GT(client.bottom, 150);
+  EXPECT_EQ(bottom(), client.bottom);
+  form.SetMenu(form.MainMenu1);
+  EXPECT_EQ(bottom(), 150);
 }
 
 TEST_F(Forms, AFormWrittenAndReadBackIsTheSame) {
