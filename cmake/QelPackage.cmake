@@ -19,6 +19,7 @@ if(applications)
 endif()
 install(FILES ${QEL_RUNTIME_DLLS} DESTINATION bin)
 install(FILES README.md DESTINATION .)
+install(DIRECTORY docs DESTINATION .)
 
 install(EXPORT QELTargets NAMESPACE QEL:: DESTINATION ${package_dir})
 configure_package_config_file(cmake/QELConfig.cmake.in ${PROJECT_BINARY_DIR}/QELConfig.cmake
@@ -27,6 +28,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/QELConfigVersion.cmake
                                  COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/QELConfig.cmake ${PROJECT_BINARY_DIR}/QELConfigVersion.cmake
               cmake/QelApplication.cmake cmake/application.manifest
+              cmake/toolchain-i686.cmake cmake/toolchain-x86_64.cmake
         DESTINATION ${package_dir})
 
 set(CPACK_GENERATOR ZIP)

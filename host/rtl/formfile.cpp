@@ -27,19 +27,40 @@ void WithReader(TStream& stream, const Read& read) {
   read(reader);
 }
 
+template <class Error>
+[[noreturn]] void RaiseNamed(const std::string& name, const Error& error) {
+  throw Error(name.empty() ? error.Message() : Concat(name, ": ", error.Message()));
+}
+
+/// Runs `read`, and has what it raises begin with the name.
+template <class Read>
+void Naming(const std::string& name, const Read& read) {
+  try {
+    read();
+  } catch (const EParserError& error) {
+    RaiseNamed(name, error);
+  } catch (const EClassNotFound& error) {
+    RaiseNamed(name, error);
+  } catch (const EReadError& error) {
+    RaiseNamed(name, error);
+  }
+}
+
 }  // namespace
 
 bool IsBinaryForm(std::string_view bytes) { return bytes.starts_with(FormSignature); }
 
-TComponent* ReadComponentFile(TStream& stream, TComponent* root) {
+TComponent* ReadComponentFile(TStream& stream, TComponent* root, const std::string& name) {
   TComponent* read = nullptr;
-  WithReader(stream, [&](TReader& reader) { read = reader.ReadRootFile(root); });
+  Naming(name, [&] {
+    WithReader(stream, [&](TReader& reader) { read = reader.ReadRootFile(root); });
+  });
   return read;
 }
 
 TComponent* ReadComponentFile(const std::string& fileName, TComponent* root) {
   TFileStream file(fileName, fmOpenRead | fmShareDenyWrite);
-  return ReadComponentFile(file, root);
+  return ReadComponentFile(file, root, fileName);
 }
 
 void ReadComponentsInto(TStream& stream, TComponent* owner, TComponent* parent,

@@ -52,7 +52,10 @@ VCL_API void ObjectBinaryToText(TStream& binary, TStream& text);
 
 /// Reads the form file that the rest of the stream is, in either form, into `root`, or makes a
 /// root; see TReader::ReadRootComponent. Messages name the line of a text.
-VCL_API TComponent* ReadComponentFile(TStream& stream, TComponent* root);
+/// They begin with `name`, when there is one, which says what is read.
+VCL_API TComponent* ReadComponentFile(TStream& stream, TComponent* root,
+                                      const std::string& name = {});
+/// Reads a file; messages name it. Raises EFOpenError too.
 VCL_API TComponent* ReadComponentFile(const std::string& fileName, TComponent* root);
 /// Reads the components in the rest of the stream, in either form, into an owner and a parent; see
 /// TReader::ReadComponents.

@@ -28,8 +28,9 @@ TComponent* TReader::TImpl::Make(const TFormHeading& heading, TComponent* owner)
   const TClass* found = Root ? Root->ClassType().FindFieldClass(heading.ClassName) : nullptr;
   if (!found) found = GetClass(heading.ClassName);
   if (!found) {
-    throw EClassNotFound(
-        Concat(Input.Place(Input.Mark()), "Class ", heading.ClassName, " not found"));
+    throw EClassNotFound(Concat(Input.Place(Input.Mark()), "Class ", heading.ClassName,
+                                " not found: no field of the form is of this class, and it is not "
+                                "registered (RegisterClass)"));
   }
   if (!found->Maker().Component) {
     Input.Fail(Concat("no component of the class ", heading.ClassName, " can be made"));

@@ -1,6 +1,7 @@
 #include "host/vcl/application.h"
 
 #include <algorithm>
+#include <exception>
 
 #include "host/rtl/exceptions.h"
 #include "host/rtl/properties.h"
@@ -61,6 +62,7 @@ void TApplication::Initialize() {
                                 ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_DATE_CLASSES};
   ::InitCommonControlsEx(&controls);
   Handle();
+  std::set_terminate(&EndByError);
 }
 
 void TApplication::Notification(TComponent* component, TOperation operation) {

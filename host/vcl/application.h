@@ -30,7 +30,7 @@ inline constexpr const char* EventName<TMessageEvent> = "TMessageEvent";
 
 /// The application. A program has one, `Application()`:
 ///
-///     int WINAPI WinMain(...) {
+///     int main() {
 ///       Application()->Initialize();
 ///       Application()->CreateForm<TMainForm>();
 ///       return Application()->Run();
@@ -45,7 +45,8 @@ class VCL_API TApplication : public TCustomApplication {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
-  /// Prepares the process: common controls, icon, title.
+  /// Prepares the process: common controls, icon, title. From now on an exception that leaves `main`
+  /// (a form that can't be read, say) goes to HandleException and ends the process with exit code 1.
   void Initialize();
   /// Makes a form, owned by the application; the first one is the main form.
   ///
@@ -76,7 +77,8 @@ class VCL_API TApplication : public TCustomApplication {
   void HandleCurrentException(TObject* sender);
   /// Shows the error's text in a box. An error that arrives while a box is up waits for its end.
   void ShowException(const std::exception& error);
-  /// A box in front of the active window; see the system's MessageBox for the flags and the answer.
+  /// A box in front of the active window, whose buttons and picture are MB_... flags; IDOK, IDYES and
+  /// so on are its answers. See the system's MessageBox for the flags and the answer.
   int MessageBox(const std::string& text, const std::string& caption, int flags) override;
 
   /// The application's own window, which owns the forms, and the boxes when no form is there.
@@ -114,6 +116,7 @@ class VCL_API TApplication : public TCustomApplication {
   static LRESULT CALLBACK StaticWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT WndProc(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT SysCommand(WPARAM wParam, LPARAM lParam);
+  [[noreturn]] static void EndByError();
   void CreateHandle();
   void SetMainFormIfNone(TCustomForm* form);
   void FreeForms();

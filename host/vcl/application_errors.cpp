@@ -1,5 +1,8 @@
 // TApplication: errors and message boxes.
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <utility>
 
 #include "host/rtl/exceptions.h"
@@ -75,6 +78,21 @@ int TApplication::MessageBox(const std::string& text, const std::string& caption
   if (active && ::IsWindow(active)) ::SetActiveWindow(active);
   if (focus && ::IsWindow(focus)) ::SetFocus(focus);
   return answer;
+}
+
+// What has left `main` would end a program that has no console without a word.
+void TApplication::EndByError() {
+  const std::exception_ptr error = std::current_exception();
+  if (!error) std::abort();
+  try {
+    std::rethrow_exception(error);
+  } catch (const std::exception& known) {
+    std::fprintf(stderr, "%s\n", known.what());
+    Application()->HandleException(nullptr, known);
+  } catch (...) {
+    Application()->HandleCurrentException(nullptr);
+  }
+  ::ExitProcess(1);
 }
 
 }  // namespace vcl

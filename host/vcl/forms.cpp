@@ -100,7 +100,7 @@ void TCustomForm::LoadForm(HINSTANCE module) {
   RegisterHostClasses();
   TResourceStream stream(module, UpperCase(ClassName()), MAKEINTRESOURCEA(10));  // RT_RCDATA
   FReadingForm = true;
-  ReadComponentFile(stream, this);
+  ReadComponentFile(stream, this, ClassName());
   FReadingForm = false;
   Created();
 }

@@ -36,10 +36,30 @@ inline constexpr const char* EventName<TCloseEvent> = "TCloseEvent";
 template <>
 inline constexpr const char* EventName<TCloseQueryEvent> = "TCloseQueryEvent";
 
-/// A window of the application. A form class made with a designer lists its fields and handlers in
-/// its table and calls `LoadForm` in its constructor:
+/// A window of the application. A form class with a form file lists its fields and handlers in its
+/// table (host/rtl/properties.h) and calls `LoadForm` in its own constructor, where its fields and
+/// handlers exist:
 ///
-///     TMainForm::TMainForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+///     class TMainForm : public TForm {
+///      public:
+///       explicit TMainForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+///       static const TClass& Class();
+///       const TClass& ClassType() const override { return Class(); }
+///
+///      private:
+///       void OkClick(TObject* sender);
+///       TEdit* Name = nullptr;
+///     };
+///
+///     const TClass& TMainForm::Class() {
+///       static const TClass info = Describe<TMainForm, TForm>("TMainForm", "mainform", {
+///           Field<&TMainForm::Name>("Name"),
+///           Method<&TMainForm::OkClick>("OkClick"),
+///       });
+///       return info;
+///     }
+///
+/// A field makes its component's class known to the form file, beside the classes of this library.
 ///
 /// OnDestroy reaches a form's own handlers while the form is whole when it ends by `Free`: closed with
 /// caFree, by `Release`, or at the end of `TApplication::Run`. A plain `delete` of a form whose
@@ -109,8 +129,9 @@ class VCL_API TCustomForm : public TWinControl {
   TCloseQueryEvent OnCloseQuery;
 
  protected:
-  /// Reads the form from the resource that is named after its class, in the given module or the
-  /// executable, and fires OnCreate. Raises EResNotFound, and what reading a form file raises.
+  /// Reads the form from the RCDATA resource that is named after its class, in the given module or the
+  /// executable, and fires OnCreate. Raises EResNotFound, and what reading a form file raises, with the
+  /// class's name and the line. Fields are null until then.
   void LoadForm(HINSTANCE module = nullptr);
 
   void CreateParams(TCreateParams& params) override;

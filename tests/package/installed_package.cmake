@@ -1,5 +1,6 @@
 # Installs the build in BUILD_DIR below WORK_DIR, builds APPLICATION_DIR against what was installed
-# and runs it. The ZIP must hold the same files.
+# with the installed toolchain file of the name TOOLCHAIN, and runs it. The ZIP must hold the same
+# files.
 set(installed ${WORK_DIR}/installed)
 set(built ${WORK_DIR}/application)
 file(REMOVE_RECURSE ${WORK_DIR})
@@ -33,13 +34,17 @@ if(NOT packed STREQUAL expected)
   message(FATAL_ERROR "${zip} holds\n${packed}\nand the installation\n${expected}")
 endif()
 
+if(TOOLCHAIN)
+  set(TOOLCHAIN ${installed}/lib/cmake/QEL/${TOOLCHAIN})
+endif()
 run(${CMAKE_COMMAND} -S ${APPLICATION_DIR} -B ${built} -G Ninja
     -D CMAKE_TOOLCHAIN_FILE=${TOOLCHAIN} -D CMAKE_PREFIX_PATH=${installed}
     -D CMAKE_BUILD_TYPE=Release)
 run(${CMAKE_COMMAND} --build ${built})
 run(${EMULATOR} ${built}/application.exe)
-set(said "MainForm shows \"Made from a form file: Grüße\"")
-string(FIND "${output}" "${said}" at)
-if(at LESS 0)
-  message(FATAL_ERROR "The application was to write\n${said}\nand wrote\n${output}")
-endif()
+foreach(said "MainForm shows \"Made from a form file: Grüße\"" "The button says \"&Hello\"")
+  string(FIND "${output}" "${said}" at)
+  if(at LESS 0)
+    message(FATAL_ERROR "The application was to write\n${said}\nand wrote\n${output}")
+  endif()
+endforeach()

@@ -278,4 +278,21 @@ TEST_F(FormErrors, DoNotComeFromCollectionsThatStandTwice) {
   EXPECT_EQ(static_cast<TPartItem*>(form->Items()->Items(0))->Link(), nullptr);
 }
 
+TEST_F(FormErrors, BeginWithTheNameOfWhatIsRead) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"object", "main.dfm: Line 1: "},
+      {"object F: TSampleForm Colour = 1 end", "main.dfm: Line 1: F.Colour: property does not exist"},
+      {"object F: TSampleForm object A: TNothing end end", "main.dfm: Line 1: A: Class TNothing not"},
+  };
+  for (const auto& [form, message] : cases) {
+    TStringStream stream(form);
+    try {
+      ReadComponentFile(stream, nullptr, "main.dfm");
+      ADD_FAILURE() << form;
+    } catch (const Exception& error) {
+      EXPECT_THAT(error.what(), HasSubstr(message));
+    }
+  }
+}
+
 }  // namespace

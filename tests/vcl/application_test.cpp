@@ -2,9 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cstdio>
 #include <string>
 #include <vector>
 
+#include "host/rtl/classregistry.h"
 #include "host/rtl/exceptions.h"
 #include "host/vcl/application.h"
 #include "host/vcl/forms.h"
@@ -178,6 +180,17 @@ TEST(Screen, EveryPointerHasAHandle) {
   Screen()->SetCursors(own, ::CopyIcon(::LoadCursorA(nullptr, IDC_CROSS)));
   EXPECT_NE(Screen()->Cursors(own), Screen()->Cursors(crArrow));
   Screen()->SetCursors(own, nullptr);
+}
+
+TEST(ApplicationDeathTest, AnErrorThatNobodyCatchesIsToldAndEndsTheProgram) {
+  const auto fail = []() noexcept {
+    Application()->Initialize();
+    Application()->OnException = [](TObject*, const std::exception& told) {
+      std::fprintf(stderr, "told: %s", told.what());
+    };
+    FindClass("TNoClass");
+  };
+  EXPECT_EXIT(fail(), ::testing::ExitedWithCode(1), "told: Class TNoClass not found");
 }
 
 }  // namespace

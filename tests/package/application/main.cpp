@@ -1,8 +1,7 @@
 #include <iostream>
 
-#include "host/rtl/properties.h"
-#include "host/vcl/application.h"
-#include "host/vcl/forms.h"
+#include "controls/qel.h"
+#include "host/vcl/vcl.h"
 
 class TMainForm : public vcl::TForm {
  public:
@@ -10,19 +9,33 @@ class TMainForm : public vcl::TForm {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
-  void FormShow(vcl::TObject*) {
+ private:
+  void FormShow(vcl::TObject* /*sender*/) {
     std::cout << Name() << " shows \"" << Caption() << "\"\n";
+    Hello->Perform(WM_LBUTTONDOWN);
+    Hello->Perform(WM_LBUTTONUP);
+  }
+  void HelloClick(vcl::TObject* /*sender*/) {
+    std::cout << "The button says \"" << Hello->getcaption() << "\"\n";
     Close();
   }
+
+  qel::TQELButton* Hello = nullptr;
 };
 
 const vcl::TClass& TMainForm::Class() {
-  static const vcl::TClass info = vcl::Describe<TMainForm, vcl::TForm>(
-      "TMainForm", "main", {vcl::Method<&TMainForm::FormShow>("FormShow")});
+  static const vcl::TClass info =
+      vcl::Describe<TMainForm, vcl::TForm>("TMainForm", "main",
+                                           {
+                                               vcl::Field<&TMainForm::Hello>("Hello"),
+                                               vcl::Method<&TMainForm::FormShow>("FormShow"),
+                                               vcl::Method<&TMainForm::HelloClick>("HelloClick"),
+                                           });
   return info;
 }
 
 int main() {
+  vcl::RegisterClass(qel::TQELBackground::Class());  // No field of the form is of this class.
   vcl::Application()->Initialize();
   vcl::Application()->CreateForm<TMainForm>();
   return vcl::Application()->Run();

@@ -1,0 +1,6 @@
+// Every component of the package in one include.
+#pragma once
+
+#include "controls/Qeltbackground.h"
+#include "controls/Qeltbutton.h"
+#include "controls/Qeltlabel.h"
