@@ -151,6 +151,8 @@ class VCL_API TApplication : public TCustomApplication {
 
 /// The program's application; made at the first call. It lives as long as the process.
 VCL_API TApplication* Application();
+/// Shows a text in a box with an OK button, under the application's title.
+VCL_API void ShowMessage(const std::string& text);
 /// True when the application has been made.
 VCL_API bool HasApplication();
 

@@ -80,6 +80,10 @@ int TApplication::MessageBox(const std::string& text, const std::string& caption
   return answer;
 }
 
+void ShowMessage(const std::string& text) {
+  Application()->MessageBox(text, Application()->Title(), MB_OK);
+}
+
 // What has left `main` would end a program that has no console without a word.
 void TApplication::EndByError() {
   const std::exception_ptr error = std::current_exception();

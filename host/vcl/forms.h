@@ -48,12 +48,12 @@ inline constexpr const char* EventName<TCloseQueryEvent> = "TCloseQueryEvent";
 ///
 ///      private:
 ///       void OkClick(TObject* sender);
-///       TEdit* Name = nullptr;
+///       TEdit* Person = nullptr;
 ///     };
 ///
 ///     const TClass& TMainForm::Class() {
 ///       static const TClass info = Describe<TMainForm, TForm>("TMainForm", "mainform", {
-///           Field<&TMainForm::Name>("Name"),
+///           Field<&TMainForm::Person>("Person"),
 ///           Method<&TMainForm::OkClick>("OkClick"),
 ///       });
 ///       return info;

@@ -107,6 +107,15 @@ void CALLBACK Raise(HWND, UINT, UINT_PTR id, DWORD) {
   Application()->ShowException(Exception("from the timer"));
 }
 
+TEST(Application, AMessageIsShownUnderTheTitle) {
+  Application()->SetTitle("The title");
+  TBoxAnswer box(IDOK);
+  ShowMessage("Grüße");
+  EXPECT_TRUE(box.Wait());
+  EXPECT_EQ(box.Caption(), "The title");
+  EXPECT_EQ(box.Text(), "Grüße");
+}
+
 TEST(Application, ErrorsWhileABoxIsUpWaitAndAreShownOnce) {
   raised = 0;
   ::SetTimer(nullptr, 0, 10, &Raise);
