@@ -1,5 +1,6 @@
 #include "controls/Qeltlabel.h"
 
+#include "core/Qelownedsettings.h"
 #include "host/rtl/properties.h"
 #include "host/vcl/wincontrol.h"
 
@@ -64,20 +65,6 @@ TQELLabel::~TQELLabel() {
   QELMoveClient(this, FFontBackground, nullptr);
   QELMoveClient(this, FBackground, nullptr);
 }
-
-namespace {
-
-/// Puts the new settings in the place of the old ones, which are freed.
-template <class Settings>
-void TakeOver(std::unique_ptr<Settings>& field, Settings* settings, TQELLabel* label) {
-  if (!settings || settings == field.get()) return;
-  if (settings->Owner() && settings->Owner() != label) return field->Assign(settings);
-  settings->SetOwner(label);
-  field.reset(settings);
-  label->Invalidate();
-}
-
-}  // namespace
 
 void TQELLabel::Set3D(TQELFont3D* font3D) { TakeOver(FFont3D, font3D, this); }
 void TQELLabel::SetFrm(TQELFrame* frame) {
