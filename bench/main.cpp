@@ -3,6 +3,7 @@
 
 #include "bench/backgrounds.h"
 #include "bench/forms.h"
+#include "bench/gauge.h"
 #include "host/vcl/win32.h"
 
 int main() {
@@ -10,4 +11,5 @@ int main() {
   std::printf("# Performance\n\nRatios of medians; in brackets the two times.\n");
   bench::Backgrounds();
   bench::Forms();
+  bench::Gauge();
 }

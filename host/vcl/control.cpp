@@ -74,7 +74,7 @@ TControl::~TControl() {
   TDragSession::Forget(this);
   if (HasApplication()) Application()->ControlGone(this);
   FFont->OnChange.Clear();
-  ForgetCapture();
+  if (MouseCapture()) SetMouseCapture(false);
   if (FParent) FParent->Remove(this);
 }
 
@@ -125,7 +125,6 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   width = std::max(width, 0);
   height = std::max(height, 0);
   if (left == FLeft && top == FTop && width == FWidth && height == FHeight) return;
-  const TWatch watch(this);
   const bool resized = width != FWidth || height != FHeight;
   InvalidateArea(FVisible, false);
   FLeft = left;
@@ -134,7 +133,7 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   FHeight = height;
   Invalidate();
   RequestAlign();
-  if (!watch.Gone() && resized && !Loading()) Resize();
+  if (resized && !Loading()) Resize();
 }
 
 void TControl::SetClientSize(int width, int height) {
@@ -179,9 +178,8 @@ void TControl::SetEnabled(bool enabled) {
 void TControl::SetVisible(bool visible) {
   if (visible == FVisible) return;
   FVisible = visible;
-  const TWatch watch(this);
   Notify(CM_VISIBLECHANGED);
-  if (!watch.Gone()) RequestAlign();
+  RequestAlign();
 }
 
 void TControl::Show() {
@@ -337,12 +335,7 @@ void TControl::Notification(TComponent* component, TOperation operation) {
 
 void TControl::ReadState(TReader& reader) {
   IncludeState(csReadingState);
-  try {
-    TComponent::ReadState(reader);
-  } catch (...) {
-    ExcludeState(csReadingState);
-    throw;
-  }
+  TComponent::ReadState(reader);
   ExcludeState(csReadingState);
   FollowParent();
 }

@@ -141,12 +141,10 @@ void TWinControl::ShowControl(TControl* control) {
 }
 
 void TWinControl::ReadState(TReader& reader) {
-  {
-    const TAlignHold hold(*this);
-    TControl::ReadState(reader);
-    FixupTabList();
-  }
-  Realign();
+  DisableAlign();
+  TControl::ReadState(reader);
+  FixupTabList();
+  EnableAlign();
   UpdateControlState();
 }
 
@@ -166,10 +164,9 @@ void TWinControl::SetBounds(int left, int top, int width, int height) {
   FTop = top;
   FWidth = width;
   FHeight = height;
-  const TWatch watch(this);
   if (resized) Realign();
-  if (!watch.Gone()) RequestAlign();
-  if (!watch.Gone() && resized && !Loading()) Resize();
+  RequestAlign();
+  if (resized && !Loading()) Resize();
 }
 
 void TWinControl::UpdateBounds() {

@@ -3,6 +3,7 @@
 
 #include "controls/Qeltbackground.h"
 #include "controls/Qeltbutton.h"
+#include "controls/Qeltgauge.h"
 #include "controls/Qeltlabel.h"
 #include "core/Qelclasses.h"
 #include "host/rtl/classregistry.h"
@@ -12,5 +13,6 @@ inline void RegisterAll() {
                         &qel::TQELTexture::Class(), &qel::TQELFrame::Class(),
                         &qel::TQELAbout::Class(), &qel::TQELGlyph::Class(),
                         &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class(),
-                        &qel::TQELButton::Class(), &qel::TQELLabel::Class()});
+                        &qel::TQELButton::Class(), &qel::TQELLabel::Class(),
+                        &qel::TQELGauge::Class()});
 }
