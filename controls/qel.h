@@ -3,4 +3,5 @@
 
 #include "controls/Qeltbackground.h"
 #include "controls/Qeltbutton.h"
+#include "controls/Qeltgauge.h"
 #include "controls/Qeltlabel.h"

@@ -2,6 +2,7 @@
 
 #include "controls/Qeltbackground.h"
 #include "controls/Qeltbutton.h"
+#include "controls/Qeltgauge.h"
 #include "controls/Qeltlabel.h"
 #include "core/Qelclasses.h"
 #include "core/Qelcontrols.h"
@@ -14,7 +15,7 @@ void Register() {
   vcl::RegisterClasses({&TQELFont3D::Class(), &TQELGradient::Class(), &TQELTexture::Class(),
                         &TQELFrame::Class(), &TQELAbout::Class()});
   vcl::RegisterComponents("QEL Controls/1", {&TQELBackground::Class(), &TQELLabel::Class(),
-                                             &TQELButton::Class()});
+                                             &TQELButton::Class(), &TQELGauge::Class()});
 }
 
 void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* context) {
@@ -35,6 +36,7 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELBackground::Class(),
       &TQELLabel::Class(),
       &TQELButton::Class(),
+      &TQELGauge::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }

@@ -30,7 +30,7 @@ TEST(Package, PutsItsComponentsOnTheirPages) {
   ASSERT_EQ(RegisteredComponents().size(), 1u);
   const TPaletteEntry& page = RegisteredComponents().front();
   EXPECT_EQ(page.Page, "QEL Controls/1");
-  EXPECT_THAT(Names(page.Classes), ElementsAre("TQELBackground", "TQELLabel", "TQELButton"));
+  EXPECT_THAT(Names(page.Classes), ElementsAre("TQELBackground", "TQELLabel", "TQELButton", "TQELGauge"));
   EXPECT_EQ(PalettePageOf(*page.Classes[0]), "QEL Controls/1");
   EXPECT_EQ(PalettePageOf(TComponent::Class()), "");
 }
@@ -49,7 +49,7 @@ TEST(Package, RegistersItsPersistentClassesByName) {
 TEST(Package, MakesItsComponentsByName) {
   const TPackage package("qel.dll");
   TComponent owner(nullptr);
-  for (const char* name : {"TQELBackground", "TQELLabel", "TQELButton"}) {
+  for (const char* name : {"TQELBackground", "TQELLabel", "TQELButton", "TQELGauge"}) {
     TComponent* made = FindClass(name).Maker().Component(&owner);
     EXPECT_EQ(made->ClassName(), name);
     EXPECT_EQ(made->Owner(), &owner);

@@ -71,6 +71,11 @@ expect_class(TQELLabel TCustomLabel "QEL Controls/1" Qeltlabel
   OnMouseUp OnDragDrop OnEndDrag OnStartDrag OnDragOver DragCursor DragMode ParentColor ParentFont
   ShowAccelChar)
 
+expect_class(TQELGauge TQELGraphicControl "QEL Controls/1" Qeltgauge
+  Align Cursor Glyph OnClick OnDblClick OnMouseDown OnMouseMove OnMouseUp Font Font3D Background
+  BevelInner BevelOuter PicturePosition Borderwidth Kind SegmentGap SegmentWidth SegmentColor
+  InsideBackColor Percentage Width Height)
+
 expect_property(TQELExecComponent DesignExecute string string "" OFF)
 expect_property(TQELCustomDialog Sound enumeration TQELBeeptype bNone ON)
 expect_property(TQELFrame Highlight color TColor clBtnHighlight ON)
@@ -83,3 +88,5 @@ expect_property(TQELButton OnClick event TNotifyEvent "" ON)
 expect_property(TQELButton Caption string TCaption "" ON)
 expect_property(TQELLabel Frame class TQELFrame "" ON)
 expect_property(TQELTexture TransparentColor color TColor clNone ON)
+expect_property(TQELGauge Width integer Integer 100 ON)
+expect_property(TQELGauge SegmentColor color TColor clNavy ON)
