@@ -194,7 +194,8 @@ bool TWinControl::OfferSpecialKey(WPARAM key, LPARAM data) {
       return false;
   }
   if (Perform(CM_WANTSPECIALKEY, key)) return false;
-  if (Perform(WM_GETDLGCODE) & (wanted | DLGC_WANTALLKEYS)) return false;
+  // Each key by its own flag: a memo takes Enter (DLGC_WANTALLKEYS) and still leaves Tab to the form.
+  if (Perform(WM_GETDLGCODE) & wanted) return false;
   TCustomForm* form = ParentForm();
   return form && form->Perform(CM_DIALOGKEY, key, data) != 0;
 }

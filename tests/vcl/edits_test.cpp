@@ -182,6 +182,11 @@ TEST_F(Edits, TabAndEnterBelongToAMemoThatWantsThem) {
   EXPECT_EQ(memo->Text(), "a\t\r\n");
   Key(VK_TAB);
   EXPECT_TRUE(next->Focused());
+  memo->SetWantReturns(true);
+  memo->SetFocus();
+  Key(VK_TAB);
+  EXPECT_TRUE(next->Focused());
+  EXPECT_EQ(memo->Text(), "a\t\r\n");
 }
 
 }  // namespace
