@@ -28,9 +28,9 @@ const TClass& TCustomComboBox::Class() {
 
 const TClass& TComboBox::Class() {
   static const TClass info = Describe<TComboBox, TCustomComboBox>("TComboBox", "stdctrls", {
-      Inherit("Style"), Inherit("Color"), Inherit("DragCursor"), Inherit("DragMode"),
+      Inherit("Style"), Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"),
       Inherit("DropDownCount"), Inherit("Enabled"), Inherit("Font"), Inherit("ItemHeight"),
-      Inherit("MaxLength"), Inherit("ParentColor"), Inherit("ParentFont"),
+      Inherit("MaxLength"), Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"),
       Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("Sorted"),
       Inherit("TabOrder"), Inherit("TabStop"), Inherit("Text"), Inherit("Visible"),
       Inherit("OnChange"), Inherit("OnClick"), Inherit("OnCloseUp"), Inherit("OnDblClick"),

@@ -98,6 +98,7 @@ void TControl::FollowParent() {
   Notify(CM_PARENTSHOWHINTCHANGED);
   Notify(CM_PARENTCOLORCHANGED);
   Notify(CM_PARENTFONTCHANGED);
+  Notify(CM_PARENTCTL3DCHANGED);
 }
 
 TCustomForm* TControl::ParentForm() const {

@@ -41,9 +41,9 @@ const TClass& TCustomEdit::Class() {
 const TClass& TEdit::Class() {
   static const TClass info = Describe<TEdit, TCustomEdit>("TEdit", "stdctrls", {
       Inherit("AutoSelect"), Inherit("AutoSize"), Inherit("BorderStyle"), Inherit("CharCase"),
-      Inherit("Color"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
+      Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
       Inherit("Font"), Inherit("HideSelection"), Inherit("MaxLength"), Inherit("ParentColor"),
-      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PasswordChar"),
+      Inherit("ParentCtl3D"), Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PasswordChar"),
       Inherit("PopupMenu"), Inherit("ReadOnly"), Inherit("ShowHint"), Inherit("TabOrder"),
       Inherit("TabStop"), Inherit("Text"), Inherit("Visible"), Inherit("OnChange"),
       Inherit("OnClick"), Inherit("OnDblClick"), Inherit("OnDragDrop"), Inherit("OnDragOver"),
@@ -193,7 +193,7 @@ void TCustomEdit::CreateParams(TCreateParams& params) {
   if (FReadOnly) params.Style |= ES_READONLY;
   if (!FHideSelection) params.Style |= ES_NOHIDESEL;
   if (FPasswordChar) params.Style |= ES_PASSWORD;
-  if (FBorderStyle == bsSingle) params.ExStyle |= WS_EX_CLIENTEDGE;
+  if (FBorderStyle == bsSingle) AddSingleBorder(params);
 }
 
 void TCustomEdit::CreateWnd() {
@@ -213,8 +213,8 @@ void TCustomEdit::DestroyWnd() {
 }
 
 void TCustomEdit::AdjustHeight() {
-  // Edge and inner margin take four pixels at each side.
-  constexpr int frame = 8;
+  // Edge and inner margin take four pixels at each side, a plain line one less.
+  const int frame = Ctl3D() ? 8 : 6;
   const bool fits = FAutoSize && FBorderStyle == bsSingle;
   const TControlStyle fixed{csFixedHeight};
   SetControlStyle(fits ? ControlStyle() + fixed : ControlStyle() - fixed);
@@ -236,7 +236,7 @@ void TCustomEdit::Dispatch(TMessage& message) {
   TWinControl::Dispatch(message);
   if (watch.Gone()) return;
   if (message.Msg == CM_ENTER) Entered();
-  if (message.Msg == CM_FONTCHANGED) AdjustHeight();
+  if (message.Msg == CM_FONTCHANGED || message.Msg == CM_CTL3DCHANGED) AdjustHeight();
   // The window itself tells of a new text only when it has but one line.
   if (message.Msg == CM_TEXTCHANGED && (!HandleAllocated() || MultiLine())) Change();
 }

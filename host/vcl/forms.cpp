@@ -33,6 +33,7 @@ const TClass& TForm::Class() {
           Property<&TForm::ClientHeight, &TForm::SetFileClientHeight>("ClientHeight"),
           Property<&TForm::ClientWidth, &TForm::SetFileClientWidth>("ClientWidth"),
           Inherit("Color").Default(clBtnFace),
+          Inherit("Ctl3D"),
           Inherit("DoubleBuffered"),
           Inherit("Enabled"),
           Inherit("Font"),

@@ -25,10 +25,10 @@ const TClass& TCustomListBox::Class() {
 
 const TClass& TListBox::Class() {
   static const TClass info = Describe<TListBox, TCustomListBox>("TListBox", "stdctrls", {
-      Inherit("Align"), Inherit("BorderStyle"), Inherit("Color"), Inherit("DragCursor"),
+      Inherit("Align"), Inherit("BorderStyle"), Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"),
       Inherit("DragMode"), Inherit("Enabled"), Inherit("ExtendedSelect"), Inherit("Font"),
       Inherit("IntegralHeight"), Inherit("ItemHeight"), Inherit("Sorted"), Inherit("Items"),
-      Inherit("MultiSelect"), Inherit("ParentColor"), Inherit("ParentFont"),
+      Inherit("MultiSelect"), Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"),
       Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("Style"),
       Inherit("TabOrder"), Inherit("TabStop"), Inherit("Visible"), Inherit("OnClick"),
       Inherit("OnDblClick"), Inherit("OnDragDrop"), Inherit("OnDragOver"), Inherit("OnDrawItem"),
@@ -151,7 +151,7 @@ void TCustomListBox::CreateParams(TCreateParams& params) {
   TCustomListControl::CreateParams(params);
   params.SubClassOf = "LISTBOX";
   params.Style |= WS_VSCROLL | LBS_HASSTRINGS | LBS_NOTIFY;
-  if (FBorderStyle == bsSingle) params.ExStyle |= WS_EX_CLIENTEDGE;
+  if (FBorderStyle == bsSingle) AddSingleBorder(params);
   if (FStyle == lbOwnerDrawFixed) params.Style |= LBS_OWNERDRAWFIXED;
   if (!FIntegralHeight) params.Style |= LBS_NOINTEGRALHEIGHT;
   if (FMultiSelect) params.Style |= FExtendedSelect ? LBS_EXTENDEDSEL : LBS_MULTIPLESEL;

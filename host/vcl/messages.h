@@ -45,6 +45,8 @@ inline constexpr UINT CM_ACTIVATE = CM_BASE + 24;
 inline constexpr UINT CM_DEACTIVATE = CM_BASE + 25;
 inline constexpr UINT CM_SYSCOLORCHANGE = CM_BASE + 26;
 inline constexpr UINT CM_DESIGNHITTEST = CM_BASE + 27;        ///< Result 1: the control wants the mouse in the designer.
+inline constexpr UINT CM_CTL3DCHANGED = CM_BASE + 28;
+inline constexpr UINT CM_PARENTCTL3DCHANGED = CM_BASE + 29;
 
 // Notifications that a window sends to its parent, sent back to the control it came from.
 inline constexpr UINT CN_BASE = 0xBC00;

@@ -53,8 +53,8 @@ const TClass& TPanel::Class() {
   static const TClass info = Describe<TPanel, TCustomPanel>("TPanel", "extctrls", {
       Inherit("Align"), Inherit("Alignment"), Inherit("BevelInner"), Inherit("BevelOuter"),
       Inherit("BevelWidth"), Inherit("BorderWidth"), Inherit("BorderStyle"), Inherit("Caption"),
-      Inherit("Color"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
-      Inherit("Font"), Inherit("ParentColor"), Inherit("ParentFont"), Inherit("ParentShowHint"),
+      Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
+      Inherit("Font"), Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"), Inherit("ParentShowHint"),
       Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("TabOrder"), Inherit("TabStop"),
       Inherit("Visible"), Inherit("OnClick"), Inherit("OnDblClick"), Inherit("OnDragDrop"),
       Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"),
@@ -108,7 +108,7 @@ void TCustomPanel::SetBorderStyle(TBorderStyle style) {
 
 void TCustomPanel::CreateParams(TCreateParams& params) {
   TCustomControl::CreateParams(params);
-  if (FBorderStyle == bsSingle) params.ExStyle |= WS_EX_CLIENTEDGE;
+  if (FBorderStyle == bsSingle) AddSingleBorder(params);
 }
 
 void TCustomPanel::AdjustClientRect(TRect& rect) const {

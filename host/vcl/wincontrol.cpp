@@ -22,6 +22,12 @@ const TClass& TWinControl::Class() {
           Property<&TWinControl::TabStop, &TWinControl::SetTabStop>("TabStop")
               .Default(false)
               .Unpublished(),
+          Property<&TWinControl::Ctl3D, &TWinControl::SetCtl3D>("Ctl3D")
+              .StoredIf<&TWinControl::IsCtl3DStored>()
+              .Unpublished(),
+          Property<&TWinControl::ParentCtl3D, &TWinControl::SetParentCtl3D>("ParentCtl3D")
+              .Default(true)
+              .Unpublished(),
           Property<&TWinControl::DoubleBuffered, &TWinControl::SetDoubleBuffered>("DoubleBuffered")
               .Default(false)
               .Unpublished(),

@@ -87,6 +87,12 @@ class VCL_API TWinControl : public TControl {
 
   // Painting.
   TBrush* Brush() const { return FBrush.get(); }
+  bool Ctl3D() const { return FCtl3D; }
+  /// True gives the control's border depth, false makes it a plain line; it no longer follows its
+  /// parent's.
+  void SetCtl3D(bool ctl3D);
+  bool ParentCtl3D() const { return FParentCtl3D; }
+  void SetParentCtl3D(bool parentCtl3D);
   bool DoubleBuffered() const { return FDoubleBuffered; }
   /// Paints by way of a bitmap, so that nothing half-painted is seen.
   void SetDoubleBuffered(bool doubleBuffered);
@@ -127,6 +133,12 @@ class VCL_API TWinControl : public TControl {
   /// Makes the windows of the controls inside and shows the window or hides it, as Visible says.
   void UpdateControlState();
   virtual void UpdateShowing();
+
+  /// Gives the window the single border that Ctl3D asks for, and makes it anew when Ctl3D changes.
+  /// For CreateParams.
+  void AddSingleBorder(TCreateParams& params);
+  /// Stored condition of the published table.
+  bool IsCtl3DStored() const { return !FParentCtl3D; }
 
   // Painting.
   /// Paints the window: the control itself by PaintWindow, then the controls without windows.
@@ -199,6 +211,9 @@ class VCL_API TWinControl : public TControl {
   std::vector<TWinControl*> FTabList;   // windowed controls by tab order.
   int FTabOrder = -1;  // As a form file gives it, while the parent is being read.
   bool FTabStop = false;
+  bool FCtl3D = true;
+  bool FParentCtl3D = true;
+  bool FSingleBorder = false;  // The window's border is the one that Ctl3D decides.
   bool FShowing = false;
   bool FDoubleBuffered = false;
   int FAlignLevel = 0;

@@ -133,6 +133,14 @@ void TWinControl::DispatchNotice(TMessage& message) {
       return Broadcast(CM_PARENTCOLORCHANGED);
     case CM_SHOWHINTCHANGED:
       return Broadcast(CM_PARENTSHOWHINTCHANGED);
+    case CM_PARENTCTL3DCHANGED:
+      if (!FParentCtl3D || !Parent()) return;
+      SetCtl3D(Parent()->FCtl3D);
+      FParentCtl3D = true;
+      return;
+    case CM_CTL3DCHANGED:
+      if (FSingleBorder) RecreateWnd();
+      return Broadcast(CM_PARENTCTL3DCHANGED);
     case CM_CURSORCHANGED: {
       POINT at;
       ::GetCursorPos(&at);

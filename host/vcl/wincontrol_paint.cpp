@@ -63,6 +63,28 @@ bool TWinControl::HasGraphicChildren() const {
   return !FControls.empty() && !dynamic_cast<const TWinControl*>(FControls.front());
 }
 
+void TWinControl::SetCtl3D(bool ctl3D) {
+  if (ctl3D == FCtl3D && !FParentCtl3D) return;
+  FCtl3D = ctl3D;
+  FParentCtl3D = false;
+  Perform(CM_CTL3DCHANGED);
+}
+
+void TWinControl::SetParentCtl3D(bool parentCtl3D) {
+  if (parentCtl3D == FParentCtl3D) return;
+  FParentCtl3D = parentCtl3D;
+  if (Parent() && !ControlState().Has(csReadingState)) Perform(CM_PARENTCTL3DCHANGED);
+}
+
+void TWinControl::AddSingleBorder(TCreateParams& params) {
+  FSingleBorder = true;
+  if (FCtl3D) {
+    params.ExStyle |= WS_EX_CLIENTEDGE;
+  } else {
+    params.Style |= WS_BORDER;
+  }
+}
+
 void TWinControl::SetDoubleBuffered(bool doubleBuffered) {
   if (doubleBuffered == FDoubleBuffered) return;
   FDoubleBuffered = doubleBuffered;

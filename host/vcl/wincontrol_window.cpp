@@ -125,6 +125,7 @@ HWND TWinControl::PrecedingWindow(const TWinControl* control) const {
 
 void TWinControl::CreateWnd() {
   TCreateParams params;
+  FSingleBorder = false;
   CreateParams(params);
   if ((params.Style & WS_CHILD) && !params.WndParent) {
     throw EInvalidOperation(Concat("Control '", Name(), "' has no parent window"));

@@ -110,6 +110,37 @@ TEST_F(Edits, TheHeightFollowsTheFontAndTheBorderIsOneOfTwo) {
   EXPECT_THROW(border->Set(*edit, std::int64_t{bsSizeable}), EPropertyError);
 }
 
+TEST_F(Edits, TheBorderHasDepthAsTheParentHas) {
+  auto* panel = Make<TPanel>(10, 10);
+  auto* edit = Make<TEdit>(2, 2, panel);
+  auto* own = Make<TListBox>(2, 24, panel);
+  own->SetCtl3D(true);
+  const auto deep = [](TWinControl* control) {
+    return (::GetWindowLongW(control->Handle(), GWL_EXSTYLE) & WS_EX_CLIENTEDGE) != 0;
+  };
+  ShowForm();
+  edit->SetText("kept");
+  EXPECT_TRUE(deep(edit));
+  edit->Font()->SetSize(20);
+  const int height = edit->Height();
+  Form.SetCtl3D(false);
+  EXPECT_FALSE(deep(edit));
+  EXPECT_EQ(edit->Height(), height - 2);
+  EXPECT_EQ(edit->Text(), "kept");
+  EXPECT_TRUE(edit->ParentCtl3D());
+  EXPECT_TRUE(deep(own));
+  own->SetParentCtl3D(true);
+  EXPECT_FALSE(deep(own));
+  EXPECT_TRUE(::GetWindowLongW(own->Handle(), GWL_STYLE) & WS_BORDER);
+  edit->SetCtl3D(true);
+  EXPECT_TRUE(deep(edit));
+  edit->SetParent(&Form);
+  EXPECT_TRUE(edit->Ctl3D());
+  const TPropInfo* published = TEdit::Class().FindPublished("Ctl3D");
+  EXPECT_TRUE(published->NeedsWriting(*edit));
+  EXPECT_FALSE(published->NeedsWriting(*own));
+}
+
 /// The operations on lines, with the text that they leave in a memo.
 TEST_F(Edits, LinesAreTheTextOfAMemo) {
   const struct {
