@@ -202,6 +202,7 @@ class VCL_API TWinControl : public TControl {
   void WMFocus(TMessage& message);
   void WMSetCursor(TMessage& message);
   void WMContextMenu(TMessage& message);
+  void WMCancelMode(TMessage& message);
   void CNCtlColor(TMessage& message);
 
   HWND FHandle = nullptr;

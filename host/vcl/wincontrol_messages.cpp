@@ -102,6 +102,8 @@ void TWinControl::DispatchWindow(TMessage& message) {
       return WMSetCursor(message);
     case WM_CONTEXTMENU:
       return WMContextMenu(message);
+    case WM_CANCELMODE:
+      return WMCancelMode(message);
     case CN_CTLCOLOR:
       return CNCtlColor(message);
     default:
@@ -252,6 +254,14 @@ void TWinControl::WMContextMenu(TMessage& message) {
     }
   }
   TControl::Dispatch(message);
+}
+
+void TWinControl::WMCancelMode(TMessage& message) {
+  // The capture may be for a control without a window, which has to end what it does with it.
+  TControl* captured = ::GetCapture() == FHandle ? CaptureControl() : nullptr;
+  TWatch watch(this);
+  if (captured && captured != this) captured->Perform(WM_CANCELMODE);
+  if (!watch.Gone()) TControl::Dispatch(message);
 }
 
 void TWinControl::CNCtlColor(TMessage& message) {

@@ -209,6 +209,13 @@ TEST_F(Controls, TheMouseReachesControlsWithoutWindows) {
   Send(Form, WM_LBUTTONDOWN, 25, 35, MK_LBUTTON);
   Send(Form, WM_LBUTTONUP, 300, 200);
   EXPECT_EQ(log, "down 5,5 up 280,170 ");
+  // The system ends it, as a box comes up.
+  log.clear();
+  Send(Form, WM_LBUTTONDOWN, 25, 35, MK_LBUTTON);
+  ::SendMessageW(Form.Handle(), WM_CANCELMODE, 0, 0);
+  EXPECT_FALSE(probe->MouseCapture());
+  Send(Form, WM_LBUTTONUP, 25, 35);
+  EXPECT_EQ(log, "down 5,5 up 5,5 ");
 }
 
 TEST_F(Controls, ADoubleClickIsAnotherPressForThoseThatWantNone) {
