@@ -28,9 +28,10 @@ const TClass& TCustomComboBox::Class() {
 
 const TClass& TComboBox::Class() {
   static const TClass info = Describe<TComboBox, TCustomComboBox>("TComboBox", "stdctrls", {
-      Inherit("Style"), Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"),
-      Inherit("DropDownCount"), Inherit("Enabled"), Inherit("Font"), Inherit("ItemHeight"),
-      Inherit("MaxLength"), Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"),
+      Inherit("Style"), Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"),
+      Inherit("DragMode"), Inherit("DropDownCount"), Inherit("Enabled"), Inherit("Font"),
+      Inherit("ImeMode"), Inherit("ImeName"), Inherit("ItemHeight"), Inherit("MaxLength"),
+      Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"),
       Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("Sorted"),
       Inherit("TabOrder"), Inherit("TabStop"), Inherit("Text"), Inherit("Visible"),
       Inherit("OnChange"), Inherit("OnClick"), Inherit("OnCloseUp"), Inherit("OnDblClick"),

@@ -78,6 +78,29 @@ template <>
 inline constexpr TIntegerText IntegerText<TModalResult>{"TModalResult", &ModalResultToIdent,
                                                         &IdentToModalResult};
 
+/// The state of a Far Eastern input method while a control has the focus: without one, closed, open,
+/// as it is, or open and converting to Latin letters, Hiragana, Katakana (half-width with an S),
+/// Chinese or Hangul.
+enum TImeMode {
+  imDisable,
+  imClose,
+  imOpen,
+  imDontCare,
+  imSAlpha,
+  imAlpha,
+  imHira,
+  imSKata,
+  imKata,
+  imChinese,
+  imSHanguel,
+  imHanguel
+};
+template <>
+inline constexpr TEnumText EnumText<TImeMode>{
+    "TImeMode",
+    "imDisable imClose imOpen imDontCare imSAlpha imAlpha imHira imSKata imKata imChinese "
+    "imSHanguel imHanguel"};
+
 enum TDragMode { dmManual, dmAutomatic };
 template <>
 inline constexpr TEnumText EnumText<TDragMode>{"TDragMode", "dmManual dmAutomatic"};

@@ -41,9 +41,10 @@ const TClass& TCustomEdit::Class() {
 const TClass& TEdit::Class() {
   static const TClass info = Describe<TEdit, TCustomEdit>("TEdit", "stdctrls", {
       Inherit("AutoSelect"), Inherit("AutoSize"), Inherit("BorderStyle"), Inherit("CharCase"),
-      Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
-      Inherit("Font"), Inherit("HideSelection"), Inherit("MaxLength"), Inherit("ParentColor"),
-      Inherit("ParentCtl3D"), Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PasswordChar"),
+      Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"),
+      Inherit("Enabled"), Inherit("Font"), Inherit("HideSelection"), Inherit("ImeMode"),
+      Inherit("ImeName"), Inherit("MaxLength"), Inherit("ParentColor"), Inherit("ParentCtl3D"),
+      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PasswordChar"),
       Inherit("PopupMenu"), Inherit("ReadOnly"), Inherit("ShowHint"), Inherit("TabOrder"),
       Inherit("TabStop"), Inherit("Text"), Inherit("Visible"), Inherit("OnChange"),
       Inherit("OnClick"), Inherit("OnDblClick"), Inherit("OnDragDrop"), Inherit("OnDragOver"),

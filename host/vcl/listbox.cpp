@@ -25,10 +25,11 @@ const TClass& TCustomListBox::Class() {
 
 const TClass& TListBox::Class() {
   static const TClass info = Describe<TListBox, TCustomListBox>("TListBox", "stdctrls", {
-      Inherit("Align"), Inherit("BorderStyle"), Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"),
-      Inherit("DragMode"), Inherit("Enabled"), Inherit("ExtendedSelect"), Inherit("Font"),
-      Inherit("IntegralHeight"), Inherit("ItemHeight"), Inherit("Sorted"), Inherit("Items"),
-      Inherit("MultiSelect"), Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"),
+      Inherit("Align"), Inherit("BorderStyle"), Inherit("Color"), Inherit("Ctl3D"),
+      Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"), Inherit("ExtendedSelect"),
+      Inherit("Font"), Inherit("ImeMode"), Inherit("ImeName"), Inherit("IntegralHeight"),
+      Inherit("ItemHeight"), Inherit("Sorted"), Inherit("Items"), Inherit("MultiSelect"),
+      Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"),
       Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("Style"),
       Inherit("TabOrder"), Inherit("TabStop"), Inherit("Visible"), Inherit("OnClick"),
       Inherit("OnDblClick"), Inherit("OnDragDrop"), Inherit("OnDragOver"), Inherit("OnDrawItem"),

@@ -21,9 +21,10 @@ const TClass& TCustomMemo::Class() {
 const TClass& TMemo::Class() {
   static const TClass info = Describe<TMemo, TCustomMemo>("TMemo", "stdctrls", {
       Inherit("Align"), Inherit("Alignment"), Inherit("BorderStyle"), Inherit("Color"),
-      Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"), Inherit("Font"),
-      Inherit("HideSelection"), Inherit("Lines"), Inherit("MaxLength"), Inherit("ParentColor"),
-      Inherit("ParentCtl3D"), Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ReadOnly"),
+      Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
+      Inherit("Font"), Inherit("HideSelection"), Inherit("ImeMode"), Inherit("ImeName"),
+      Inherit("Lines"), Inherit("MaxLength"), Inherit("ParentColor"), Inherit("ParentCtl3D"),
+      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ReadOnly"),
       Inherit("ScrollBars"), Inherit("ShowHint"), Inherit("TabOrder"), Inherit("TabStop"),
       Inherit("Visible"), Inherit("WantReturns"), Inherit("WantTabs"), Inherit("WordWrap"),
       Inherit("OnChange"), Inherit("OnClick"), Inherit("OnDblClick"), Inherit("OnDragDrop"),

@@ -53,13 +53,13 @@ const TClass& TPanel::Class() {
   static const TClass info = Describe<TPanel, TCustomPanel>("TPanel", "extctrls", {
       Inherit("Align"), Inherit("Alignment"), Inherit("BevelInner"), Inherit("BevelOuter"),
       Inherit("BevelWidth"), Inherit("BorderWidth"), Inherit("BorderStyle"), Inherit("Caption"),
-      Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
-      Inherit("Font"), Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"), Inherit("ParentShowHint"),
-      Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("TabOrder"), Inherit("TabStop"),
-      Inherit("Visible"), Inherit("OnClick"), Inherit("OnDblClick"), Inherit("OnDragDrop"),
-      Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"),
-      Inherit("OnMouseDown"), Inherit("OnMouseMove"), Inherit("OnMouseUp"), Inherit("OnResize"),
-      Inherit("OnStartDrag"),
+      Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"),
+      Inherit("Enabled"), Inherit("Font"), Inherit("ParentColor"), Inherit("ParentCtl3D"),
+      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"),
+      Inherit("TabOrder"), Inherit("TabStop"), Inherit("Visible"), Inherit("OnClick"),
+      Inherit("OnDblClick"), Inherit("OnDragDrop"), Inherit("OnDragOver"), Inherit("OnEndDrag"),
+      Inherit("OnEnter"), Inherit("OnExit"), Inherit("OnMouseDown"), Inherit("OnMouseMove"),
+      Inherit("OnMouseUp"), Inherit("OnResize"), Inherit("OnStartDrag"),
   });
   return info;
 }

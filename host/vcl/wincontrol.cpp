@@ -28,6 +28,12 @@ const TClass& TWinControl::Class() {
           Property<&TWinControl::ParentCtl3D, &TWinControl::SetParentCtl3D>("ParentCtl3D")
               .Default(true)
               .Unpublished(),
+          Property<&TWinControl::ImeMode, &TWinControl::SetImeMode>("ImeMode")
+              .Default(imDontCare)
+              .Unpublished(),
+          Property<&TWinControl::ImeName, &TWinControl::SetImeName>("ImeName")
+              .Default(std::string())
+              .Unpublished(),
           Property<&TWinControl::DoubleBuffered, &TWinControl::SetDoubleBuffered>("DoubleBuffered")
               .Default(false)
               .Unpublished(),

@@ -85,6 +85,15 @@ class VCL_API TWinControl : public TControl {
   /// Focuses the control that follows `current`.
   void SelectNext(TWinControl* current, bool goForward, bool checkTabStop);
 
+  // Input methods of Far Eastern keyboards.
+  TImeMode ImeMode() const { return FImeMode; }
+  /// The state of the input method while the control has the focus.
+  void SetImeMode(TImeMode mode);
+  const std::string& ImeName() const { return FImeName; }
+  /// The input method to use while the control has the focus, as the system describes it; one that
+  /// is not installed is as good as none (empty).
+  void SetImeName(const std::string& name);
+
   // Painting.
   TBrush* Brush() const { return FBrush.get(); }
   bool Ctl3D() const { return FCtl3D; }
@@ -217,6 +226,8 @@ class VCL_API TWinControl : public TControl {
   bool FSingleBorder = false;  // The window's border is the one that Ctl3D decides.
   bool FShowing = false;
   bool FDoubleBuffered = false;
+  TImeMode FImeMode = imDontCare;
+  std::string FImeName;
   int FAlignLevel = 0;
   bool FAlignNeeded = false;
   wchar_t FHighSurrogate = 0;  // The first half of a character that comes in two messages.

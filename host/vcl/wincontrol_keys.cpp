@@ -4,6 +4,7 @@
 #include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
 #include "host/vcl/forms.h"
+#include "host/vcl/ime.h"
 #include "host/vcl/menus.h"
 #include "host/vcl/wincontrol.h"
 
@@ -103,6 +104,37 @@ TWinControl* TWinControl::FindNextControl(TWinControl* current, bool goForward, 
 void TWinControl::SelectNext(TWinControl* current, bool goForward, bool checkTabStop) {
   TWinControl* next = FindNextControl(current, goForward, checkTabStop, !checkTabStop);
   if (next) next->SetFocus();
+}
+
+// Input methods.
+
+void TWinControl::SetImeMode(TImeMode mode) {
+  if (mode == FImeMode) return;
+  if (FImeMode == imDisable && FHandle) EnableIme(FHandle);
+  FImeMode = mode;
+  if (Focused()) ApplyImeMode(FHandle, mode);
+}
+
+void TWinControl::SetImeName(const std::string& name) {
+  if (name == FImeName) return;
+  FImeName = name;
+  if (!Focused()) return;
+  LeaveIme();
+  EnterIme(name);
+}
+
+void TWinControl::WMFocus(TMessage& message) {
+  TCustomForm* form = ParentForm();
+  TWatch watch(this);
+  if (message.Msg == WM_SETFOCUS && form) form->SetFocusedControl(this);
+  if (watch.Gone()) return;
+  DefaultHandler(message);
+  if (watch.Gone()) return;
+  if (message.Msg == WM_KILLFOCUS) return LeaveIme();
+  // A handler may have moved the focus on.
+  if (!Focused()) return;
+  EnterIme(FImeName);
+  ApplyImeMode(FHandle, FImeMode);
 }
 
 // Keys.

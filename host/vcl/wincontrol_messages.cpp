@@ -220,13 +220,6 @@ void TWinControl::WMWindowPosChanged(TMessage& message) {
   if (resized && !Loading()) Resize();
 }
 
-void TWinControl::WMFocus(TMessage& message) {
-  TCustomForm* form = ParentForm();
-  TWatch watch(this);
-  if (message.Msg == WM_SETFOCUS && form) form->SetFocusedControl(this);
-  if (!watch.Gone()) DefaultHandler(message);
-}
-
 void TWinControl::WMSetCursor(TMessage& message) {
   if (reinterpret_cast<HWND>(message.WParam) != FHandle || LOWORD(message.LParam) != HTCLIENT) {
     return DefaultHandler(message);
