@@ -279,6 +279,7 @@ TEST_F(Texture, ACentredPictureLeavesTheRest) {
   Back.SetSolidColor(vcl::clLime);
   for (const TCase& each : cases) {
     const TArea area(30, 20);
+    ::SetBkMode(area.DC(), TRANSPARENT);
     Back.Draw(area.DC(), each.Width, each.Height, true);
     EXPECT_EQ(area.Pixel(each.X, each.Y), PicturePixel(0, 0)) << each.Width;
     EXPECT_EQ(area.Pixel(each.X + 6, each.Y + 4), PicturePixel(6, 4)) << each.Width;

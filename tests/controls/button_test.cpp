@@ -249,7 +249,18 @@ TEST_F(PaintedButton, PutsTheGlyphInTheMiddleOrToTheLeft) {
   EXPECT_EQ(found.Left, 48);  // (100 - 10) / 2 and 3 more.
   EXPECT_EQ(found.Right, 57);
   EXPECT_EQ(found.Top, 11);
+  It->Perform(WM_KEYDOWN, VK_SPACE);
+  Paint();
+  found = FindRed(Dib);
+  EXPECT_EQ(found.Left, 48);  // Without a caption, pressed only moves it down.
+  EXPECT_EQ(found.Top, 12);
   It->Setcaption("x");
+  Paint();
+  found = FindRed(Dib);
+  EXPECT_EQ(found.Left, 7);
+  EXPECT_EQ(found.Top, 12);
+  EXPECT_EQ(TextRects.back().left, 16);
+  It->Perform(WM_KEYUP, VK_SPACE);
   Paint();
   found = FindRed(Dib);
   EXPECT_EQ(found.Left, 6);
@@ -262,6 +273,8 @@ TEST_F(PaintedButton, PutsTheGlyphInTheMiddleOrToTheLeft) {
 }
 
 TEST_F(PaintedButton, CopiesTheSettingsItIsGiven) {
+  const TButton fresh(nullptr);
+  EXPECT_EQ(fresh.BoundsRect(), vcl::TRect(0, 0, 100, 30));
   qel::TQELFont3D font3D;
   font3D.SetOffset(4);
   It->Set3D(&font3D);

@@ -100,6 +100,16 @@ TEST_F(QelControl, IsAClientOfOneBackgroundAtATime) {
   EXPECT_THAT(second.Clients, testing::IsEmpty());
 }
 
+TEST_F(QelControl, IsPaintedAgainForEveryBackground) {
+  Form.Show();
+  TBackground background(nullptr);
+  for (TBackground* each : {&background, &background, static_cast<TBackground*>(nullptr)}) {
+    ::ValidateRect(Control->Handle(), nullptr);
+    Control->SetBack(each);
+    EXPECT_TRUE(::GetUpdateRect(Control->Handle(), nullptr, FALSE));
+  }
+}
+
 TEST_F(QelControl, HearsOfTheEndOfABackgroundOfAnotherForm) {
   {
     vcl::TForm other(nullptr);
