@@ -6,6 +6,7 @@
 #include "host/rtl/colors.h"
 #include "host/rtl/component.h"
 #include "host/rtl/convert.h"
+#include "host/rtl/datetime.h"
 #include "host/rtl/events.h"
 #include "host/rtl/exceptions.h"
 #include "host/rtl/filer.h"

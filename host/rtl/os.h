@@ -25,4 +25,10 @@ std::string LastErrorText();
 /// The full name of the running program.
 std::string ExeName();
 
+/// The date and the time of day where the user is.
+struct TWallClock {
+  int Year, Month, Day, Hour, Minute, Second, Millisecond;
+};
+TWallClock WallClock();
+
 }  // namespace vcl::os

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 #include <filesystem>
 #include <system_error>
 
@@ -66,6 +67,16 @@ std::string LastErrorText() { return std::generic_category().message(errno); }
 std::string ExeName() {
   std::error_code failed;
   return std::filesystem::read_symlink("/proc/self/exe", failed).string();
+}
+
+TWallClock WallClock() {
+  timespec now{};
+  clock_gettime(CLOCK_REALTIME, &now);
+  std::tm local{};
+  localtime_r(&now.tv_sec, &local);
+  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
+          local.tm_hour,        local.tm_min,     std::min(local.tm_sec, 59),  // No leap seconds.
+          static_cast<int>(now.tv_nsec / 1'000'000)};
 }
 
 }  // namespace vcl::os

@@ -10,26 +10,10 @@
 #include "host/rtl/os.h"
 #include "host/rtl/streams.h"
 #include "host/rtl/text.h"
+#include "host/rtl/utf16_win32.h"
 
 namespace vcl::os {
 namespace {
-
-std::wstring Wide(const std::string& text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(static_cast<std::size_t>(size), L'\0');
-  wide.resize(static_cast<std::size_t>(
-      MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), size)));
-  return wide;
-}
-
-std::string Narrow(const std::wstring& wide) {
-  const int size = static_cast<int>(wide.size());
-  std::string text(wide.size() * 3, '\0');
-  text.resize(static_cast<std::size_t>(
-      WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, text.data(), static_cast<int>(text.size()),
-                          nullptr, nullptr)));
-  return text;
-}
 
 HANDLE Handle(std::intptr_t file) { return reinterpret_cast<HANDLE>(file); }
 
@@ -109,6 +93,13 @@ std::string ExeName() {
     if (size < name.size()) return Narrow(name.substr(0, size));
     name.resize(name.size() * 2);
   }
+}
+
+TWallClock WallClock() {
+  SYSTEMTIME time;
+  GetLocalTime(&time);
+  return {time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond,
+          time.wMilliseconds};
 }
 
 }  // namespace vcl::os
