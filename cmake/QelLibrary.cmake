@@ -1,8 +1,13 @@
-# The sources of a folder that belong to the platform that is built for.
+# The sources of folders that belong to the platform that is built for. What names files is taken as
+# it is.
 function(qel_folder_sources result)
   set(sources)
   foreach(folder IN LISTS ARGN)
-    file(GLOB found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
+    if(folder MATCHES "\\.cpp$")
+      set(found ${PROJECT_SOURCE_DIR}/${folder})
+    else()
+      file(GLOB found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
+    endif()
     list(APPEND sources ${found})
   endforeach()
   if(WIN32)
@@ -14,17 +19,19 @@ function(qel_folder_sources result)
 endfunction()
 
 # qel_add_library(NAME BUILD_DEFINITION macro PORTABLE folders... WINDOWED folders...
-#                 LIBRARIES targets... SYSTEM_LIBRARIES names...)
+#                 WINDOW_FREE files... LIBRARIES targets... SYSTEM_LIBRARIES names...)
 #
-# Adds the shared library NAME with all sources of its folders; of the WINDOWED ones only on
-# Windows. Where there are no sources there is no target. BUILD_DEFINITION is what the library's
-# api.h asks for to know whether it exports or imports.
+# Adds the shared library NAME with all sources of its folders; elsewhere than on Windows only the
+# WINDOW_FREE files of the WINDOWED ones. Where there are no sources there is no target.
+# BUILD_DEFINITION is what the library's api.h asks for to know whether it exports or imports.
 function(qel_add_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "BUILD_DEFINITION"
-                        "PORTABLE;WINDOWED;LIBRARIES;SYSTEM_LIBRARIES")
+                        "PORTABLE;WINDOWED;WINDOW_FREE;LIBRARIES;SYSTEM_LIBRARIES")
   set(folders ${arg_PORTABLE})
   if(WIN32)
     list(APPEND folders ${arg_WINDOWED})
+  else()
+    list(APPEND folders ${arg_WINDOW_FREE})
   endif()
   qel_folder_sources(sources ${folders})
   if(NOT sources)
