@@ -1,7 +1,9 @@
-// Prints how long painting takes, as ratios to what the system itself needs, measured in one run.
+// Prints how long painting, forms and dates take, as ratios to what the system itself or the standard
+// library needs, measured in one run.
 #include <cstdio>
 
 #include "bench/backgrounds.h"
+#include "bench/dates.h"
 #include "bench/forms.h"
 #include "bench/gauge.h"
 #include "host/vcl/win32.h"
@@ -10,6 +12,7 @@ int main() {
   ::SetConsoleOutputCP(CP_UTF8);
   std::printf("# Performance\n\nRatios of medians; in brackets the two times.\n");
   bench::Backgrounds();
-  bench::Forms();
   bench::Gauge();
+  bench::Forms();
+  bench::Dates();
 }
