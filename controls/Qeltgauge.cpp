@@ -282,12 +282,16 @@ void TQELGauge::DrawLines(const TRect& bar, int first, int last) {
 void TQELGauge::DrawRuns(const TRect& bar, TRange lines, TRange part, vcl::TColor color) {
   if (part.First > part.Last) return;
   Canvas()->Brush()->SetColor(color);
+  // PatBlt takes the brush that is selected once; FillRect would select it for each run.
+  const HDC dc = Canvas()->Handle();
   const std::int64_t period = std::int64_t{FSegmentWidth} + FSegmentGap;
   for (std::int64_t start = lines.First - lines.First % period; start <= lines.Last;
        start += period) {
     const TRange run{std::max(lines.First, start + part.First),
                      std::min(lines.Last, start + part.Last)};
-    if (run.First <= run.Last) Canvas()->FillRect(Run(bar, run));
+    if (run.First > run.Last) continue;
+    const TRect r = Run(bar, run);
+    ::PatBlt(dc, r.Left, r.Top, r.Width(), r.Height(), PATCOPY);
   }
 }
 
