@@ -1,5 +1,6 @@
 #include "host/vcl/cursors.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -23,30 +24,42 @@ const struct {
 // Drawings: '#' is black, '.' white, a blank shows what is behind. All pointers are 32 by 32.
 constexpr int Side = 32;
 
+using TRows = std::array<std::string_view, 22>;
+
 struct TDrawing {
   TCursor Cursor;
   int HotX;
   int HotY;
-  std::array<std::string_view, 22> Rows;
+  TRows Rows;
 };
 
 // clang-format off
+constexpr std::array<std::string_view, 13> Arrow = {
+    "#           ",
+    "##          ",
+    "#.#         ",
+    "#..#        ",
+    "#...#       ",
+    "#....#      ",
+    "#.....#     ",
+    "#......#    ",
+    "#.......#   ",
+    "#.....####  ",
+    "#..#..#     ",
+    "#.# #..#    ",
+    "##  #..#    ",
+};
+
+/// The arrow, and what is dragged below it.
+constexpr TRows WithArrow(const std::array<std::string_view, 9>& below) {
+  TRows rows;
+  std::copy(below.begin(), below.end(), std::copy(Arrow.begin(), Arrow.end(), rows.begin()));
+  return rows;
+}
+
 constexpr TDrawing Drawings[] = {
     {crDrag, 0, 0,
-     {
-         "#           ",
-         "##          ",
-         "#.#         ",
-         "#..#        ",
-         "#...#       ",
-         "#....#      ",
-         "#.....#     ",
-         "#......#    ",
-         "#.......#   ",
-         "#.....####  ",
-         "#..#..#     ",
-         "#.# #..#    ",
-         "##  #..#    ",
+     WithArrow({
          "#    #..#   ",
          "     #..#######",
          "      ##.......#",
@@ -56,22 +69,9 @@ constexpr TDrawing Drawings[] = {
          "       #.......#",
          "       #.......#",
          "       #########",
-     }},
+     })},
     {crMultiDrag, 0, 0,
-     {
-         "#           ",
-         "##          ",
-         "#.#         ",
-         "#..#        ",
-         "#...#       ",
-         "#....#      ",
-         "#.....#     ",
-         "#......#    ",
-         "#.......#   ",
-         "#.....####  ",
-         "#..#..#     ",
-         "#.# #..#    ",
-         "##  #..#    ",
+     WithArrow({
          "#    #..####### ",
          "     #..#.....# ",
          "      ##......# ",
@@ -81,7 +81,7 @@ constexpr TDrawing Drawings[] = {
          "       ########.#",
          "         #......#",
          "         ########",
-     }},
+     })},
     {crHSplit, 8, 6,
      {
          "      # #      ",

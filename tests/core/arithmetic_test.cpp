@@ -10,14 +10,14 @@
 namespace {
 
 TEST(Arithmetic, RoundsHalvesToTheEvenNumber) {
-  const std::pair<double, int> cases[] = {{0.5, 0},  {1.5, 2},   {2.5, 2},  {-0.5, 0},
+  const std::pair<double, int> cases[] = {{0.5, 0},   {1.5, 2},   {2.5, 2},  {-0.5, 0},
                                           {-1.5, -2}, {-2.5, -2}, {2.49, 2}, {2.51, 3}};
   for (const auto& [value, expected] : cases) EXPECT_EQ(qel::Round(value), expected) << value;
 }
 
 TEST(Arithmetic, MultipliesAndDividesAsTheSystemDoes) {
-  const int values[] = {0,  1,   2,    3,     7,           -1,      -2,      -3,         -7, 10,
-                        31, 255, -255, 46341, -1000000007, INT_MAX, INT_MIN, INT_MIN + 1};
+  const int values[] = {0,  1,  2,   3,    7,     -1,          -2,      -3,      -7,
+                        10, 31, 255, -255, 46341, -1000000007, INT_MAX, INT_MIN, INT_MIN + 1};
   for (int a : values) {
     for (int b : values) {
       for (int c : values) {

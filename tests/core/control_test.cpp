@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <vector>
 
-#include "core/Qelcontrols.h"
 #include "core/Qelclasses.h"
+#include "core/Qelcontrols.h"
 #include "host/rtl/exceptions.h"
 #include "host/rtl/properties.h"
 #include "host/vcl/forms.h"

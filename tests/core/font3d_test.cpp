@@ -30,11 +30,16 @@ struct TLayer {
   TColor Color;
 };
 
+/// Settings that are none of a case's stay as the constructor sets them.
 struct TCase {
   const char* Name;
-  void (*Prepare)(TQELFont3D&);
-  bool Enabled;
   std::vector<TLayer> Layers;
+  qel::TQELStyle3D Style = TQELFont3D().Style3D();
+  int Offset = TQELFont3D().Offset();
+  qel::TQELRepeat Repetition = TQELFont3D().Repetition();
+  int RepetitionWidth = TQELFont3D().Repetitionwidth();
+  bool ThreeDimensional = true;
+  bool Enabled = true;
 };
 
 void DrawLayers(HDC dc, const vcl::TFont& font, const std::vector<TLayer>& layers) {
@@ -61,7 +66,11 @@ TEST_P(Font3D, DrawsItsLayersInOrder) {
   font3D.SetHighlight(Light);
   font3D.SetShadow(Dark);
   font3D.SetRepetitionColor(Trail);
-  GetParam().Prepare(font3D);
+  font3D.SetStyle3D(GetParam().Style);
+  font3D.SetOffset(GetParam().Offset);
+  font3D.SetRepetition(GetParam().Repetition);
+  font3D.SetRepetitionwidth(GetParam().RepetitionWidth);
+  font3D.SetThreeDimensional(GetParam().ThreeDimensional);
   const plain::TDib painted(Width, Height), expected(Width, Height), empty(Width, Height);
   for (const plain::TDib* dib : {&painted, &expected, &empty}) dib->Fill(RGB(9, 9, 9));
   font3D.Write(&font, painted.DC(), Area, "Layers", DT_LEFT, GetParam().Enabled);
@@ -70,61 +79,27 @@ TEST_P(Font3D, DrawsItsLayersInOrder) {
   EXPECT_NE("", painted.Difference(empty));
 }
 
+// clang-format off
 const TCase Cases[] = {
-    {"defaults", [](TQELFont3D&) {}, true, {{-1, -1, Light}, {0, 0, Face}}},
-    {"flat", [](TQELFont3D& f) { f.SetThreeDimensional(false); }, true, {{0, 0, Face}}},
-    {"raised",
-     [](TQELFont3D& f) {
-       f.SetStyle3D(qel::fontRaised);
-       f.SetOffset(3);
-     },
-     true,
-     {{-3, -3, Light}, {3, 3, Dark}, {0, 0, Face}}},
-    {"inset",
-     [](TQELFont3D& f) {
-       f.SetStyle3D(qel::fontInset);
-       f.SetOffset(2);
-     },
-     true,
-     {{-2, -2, Dark}, {2, 2, Light}, {0, 0, Face}}},
-    {"only_shadow", [](TQELFont3D& f) { f.SetStyle3D(qel::fontOnlyShadow); }, true,
-     {{1, 1, Dark}, {0, 0, Face}}},
+    {"defaults", {{-1, -1, Light}, {0, 0, Face}}},
+    {.Name = "flat", .Layers = {{0, 0, Face}}, .ThreeDimensional = false},
+    {"raised", {{-3, -3, Light}, {3, 3, Dark}, {0, 0, Face}}, qel::fontRaised, 3},
+    {"inset", {{-2, -2, Dark}, {2, 2, Light}, {0, 0, Face}}, qel::fontInset, 2},
+    {"only_shadow", {{1, 1, Dark}, {0, 0, Face}}, qel::fontOnlyShadow},
     {"outline_ignores_the_offset",
-     [](TQELFont3D& f) {
-       f.SetStyle3D(qel::fontOutLineShadow);
-       f.SetOffset(7);
-     },
-     true,
-     {{-1, -1, Dark}, {1, -1, Dark}, {1, 1, Dark}, {-1, 1, Dark}, {0, 0, Face}}},
-    {"disabled_ignores_the_style",
-     [](TQELFont3D& f) {
-       f.SetStyle3D(qel::fontRaised);
-       f.SetThreeDimensional(false);
-       f.SetRepetition(qel::repeatOnShadow);
-       f.SetRepetitionwidth(4);
-     },
-     false,
-     {{0, 0, vcl::clBtnHighlight}, {-1, -1, vcl::clGrayText}}},
+     {{-1, -1, Dark}, {1, -1, Dark}, {1, 1, Dark}, {-1, 1, Dark}, {0, 0, Face}}, qel::fontOutLineShadow, 7},
+    {"disabled_ignores_the_style", {{0, 0, vcl::clBtnHighlight}, {-1, -1, vcl::clGrayText}},
+     qel::fontRaised, 1, qel::repeatOnShadow, 4, false, false},
+    // The rectangle shrinks by 3, so a text at its upper left begins 3 pixels further in.
     {"trail_to_the_shadow",
-     [](TQELFont3D& f) {
-       f.SetStyle3D(qel::fontOnlyShadow);
-       f.SetOffset(2);
-       f.SetRepetition(qel::repeatOnShadow);
-       f.SetRepetitionwidth(3);
-     },
-     true,
-     // The rectangle shrinks by 3, so a text at its upper left begins 3 pixels further in.
-     {{5, 5, Trail}, {4, 4, Trail}, {3, 3, Trail}, {4, 4, Dark}, {2, 2, Face}}},
-    {"trail_to_the_highlight",
-     [](TQELFont3D& f) {
-       f.SetRepetition(qel::repeatOnHighLight);
-       f.SetRepetitionwidth(2);
-     },
-     true,
-     {{1, 1, Trail}, {2, 2, Trail}, {2, 2, Light}, {3, 3, Face}}},
-    {"no_repetition_does_not_shrink", [](TQELFont3D& f) { f.SetRepetitionwidth(5); }, true,
-     {{-1, -1, Light}, {0, 0, Face}}},
+     {{5, 5, Trail}, {4, 4, Trail}, {3, 3, Trail}, {4, 4, Dark}, {2, 2, Face}},
+     qel::fontOnlyShadow, 2, qel::repeatOnShadow, 3},
+    {"trail_to_the_highlight", {{1, 1, Trail}, {2, 2, Trail}, {2, 2, Light}, {3, 3, Face}},
+     qel::fontOnlyHighlight, 1, qel::repeatOnHighLight, 2},
+    {"no_repetition_does_not_shrink", {{-1, -1, Light}, {0, 0, Face}},
+     qel::fontOnlyHighlight, 1, qel::repeatNone, 5},
 };
+// clang-format on
 
 INSTANTIATE_TEST_SUITE_P(Cases, Font3D, testing::ValuesIn(Cases),
                          [](const auto& info) { return info.param.Name; });
@@ -170,7 +145,10 @@ TEST(Font3DWrite, DrawsUtf8) {
   vcl::TFont font;
   TQELFont3D font3D;
   font3D.SetThreeDimensional(false);
-  font3D.Write(&font, written.DC(), Area, "Gr\xC3\xB6\xC3\x9F" "e", DT_LEFT, true);
+  font3D.Write(&font, written.DC(), Area,
+               "Gr\xC3\xB6\xC3\x9F"
+               "e",
+               DT_LEFT, true);
   ::SelectObject(expected.DC(), font.Handle());
   ::SetBkMode(expected.DC(), TRANSPARENT);
   ::SetTextColor(expected.DC(), vcl::ColorToRGB(font.Color()));

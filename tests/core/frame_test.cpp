@@ -36,8 +36,8 @@ std::uint32_t Expected(int x, int y, int rings, const std::vector<TBorder>& bord
   const int depth = std::min({left, top, right, bottom});
   for (const TBorder& border : borders) {
     if (depth < border.Depth || depth >= border.Depth + rings) continue;
-    // The lower right half has the right column, upper corner included, and the bottom row; the lower
-    // left corner is drawn by both, last by this one.
+    // The lower right half has the right column, upper corner included, and the bottom row; the
+    // lower left corner is drawn by both, last by this one.
     const bool lower = right == depth || bottom == depth;
     const bool upper = (left == depth || top == depth) && right != depth;
     if (lower && border.BottomRight != None) return Pixel(border.BottomRight);
@@ -52,7 +52,7 @@ struct TCase {
   qel::TQELFrameStyle Style;
   int Rings;
   int Offset;
-  int Shrinks;      // Pixels that the rectangle loses on each side.
+  int Shrinks;  // Pixels that the rectangle loses on each side.
   int BorderWidth;
   std::vector<TBorder> Borders;
 };
@@ -87,8 +87,7 @@ TEST(Frame, DrawsItsBordersJustInside) {
       for (int x = 0; x < Width; ++x) {
         if (dib.Pixel(x, y) != Expected(x, y, each.Rings, each.Borders) && wrong++ == 0) {
           ADD_FAILURE() << "style " << each.Style << " at " << x << ", " << y << ": " << std::hex
-                        << dib.Pixel(x, y) << ", not "
-                        << Expected(x, y, each.Rings, each.Borders);
+                        << dib.Pixel(x, y) << ", not " << Expected(x, y, each.Rings, each.Borders);
         }
       }
     }
@@ -134,27 +133,27 @@ TEST(Frame, TwoRingsMakeAButton) {
   TQELFrame frame;
   frame.SetHighlight(H);
   frame.SetShadow(S);
-  struct TExpected {
-    bool Down;
-    TColor OuterTopLeft, OuterBottomRight, InnerTopLeft, InnerBottomRight;
-  };
-  const TExpected cases[] = {{false, vcl::clWhite, Black, H, S}, {true, S, H, Black, vcl::clWhite}};
-  for (const TExpected& each : cases) {
+  for (const bool down : {false, true}) {
     vcl::TBitmap bitmap(20, 20);
     bitmap.Canvas()->Pen()->SetWidth(5);
     TRect rect(2, 2, 18, 18);
-    frame.Drawbutton(bitmap.Canvas(), rect, each.Down);
+    frame.Drawbutton(bitmap.Canvas(), rect, down);
     EXPECT_EQ(rect, TRect(4, 4, 16, 16));
-    const auto at = [&](int x, int y) { return bitmap.Canvas()->Pixels(x, y); };
-    EXPECT_EQ(at(2, 2), each.OuterTopLeft);
-    EXPECT_EQ(at(16, 2), each.OuterTopLeft);
-    EXPECT_EQ(at(17, 2), each.OuterBottomRight);
-    EXPECT_EQ(at(2, 17), each.OuterBottomRight);
-    EXPECT_EQ(at(3, 3), each.InnerTopLeft);
-    EXPECT_EQ(at(16, 16), each.InnerBottomRight);
-    EXPECT_EQ(at(3, 16), each.InnerBottomRight);
-    EXPECT_EQ(at(4, 4), vcl::clWhite);
-    EXPECT_EQ(at(1, 1), vcl::clWhite);
+    const struct {
+      int X, Y;
+      TColor Up, Down;
+    } pixels[] = {{2, 2, vcl::clWhite, S},
+                  {16, 2, vcl::clWhite, S},
+                  {17, 2, Black, H},
+                  {2, 17, Black, H},
+                  {3, 3, H, Black},
+                  {16, 16, S, vcl::clWhite},
+                  {3, 16, S, vcl::clWhite},
+                  {4, 4, vcl::clWhite, vcl::clWhite},
+                  {1, 1, vcl::clWhite, vcl::clWhite}};
+    for (const auto& [x, y, whenUp, whenDown] : pixels) {
+      EXPECT_EQ(bitmap.Canvas()->Pixels(x, y), down ? whenDown : whenUp) << x << ", " << y;
+    }
   }
 }
 

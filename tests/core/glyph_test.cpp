@@ -68,42 +68,35 @@ TEST(Glyph, DrawsTheImageForTheState) {
   }
 }
 
-TEST(Glyph, ADisabledOneIsTheLastImageInGreys) {
-  // The sums of the channels: 255 for the pure colours, 510 for yellow; twice 55 and 274 divide them.
-  const TColor expected[] = {vcl::clBtnShadow, vcl::clBtnShadow, vcl::clBtnShadow,
-                             vcl::clBtnShadow};
+TEST(Glyph, ADisabledOneIsTheLastImageInGreysAndAGreyedOneTheFirst) {
   for (int count = 1; count <= 4; ++count) {
     TQELGlyph glyph;
     MakeStrip(glyph, count);
-    EXPECT_EQ(Draw(glyph, false, true, false).Right, Resolved(expected[count - 1]));
-    EXPECT_EQ(Draw(glyph, false, true, false).Left, Ground);
+    for (const bool enabled : {false, true}) {
+      // All four images' colours have the sum of their channels between the two limits.
+      const TDrawn drawn = Draw(glyph, enabled, true, enabled);
+      EXPECT_EQ(drawn.Right, Resolved(vcl::clBtnShadow)) << count << enabled;
+      EXPECT_EQ(drawn.Left, Ground) << count << enabled;
+    }
   }
 }
 
-TEST(Glyph, AGreyedOneIsTheFirstImage) {
-  TQELGlyph glyph;
-  MakeStrip(glyph, 3);
-  EXPECT_EQ(Draw(glyph, true, true, true).Right, Resolved(vcl::clBtnShadow));
-  EXPECT_EQ(Draw(glyph, true, true, true).Left, Ground);
-}
-
 TEST(Glyph, GreysByTheSumOfTheChannels) {
-  struct TCase {
+  struct {
     TColor Color;
     int Level;
     TColor Gray;
-  };
-  const TCase cases[] = {
-      {vcl::clWhite, 1, vcl::clBtnFace},           {TColor(0x16FFFF), 1, vcl::clBtnHighlight},
-      {TColor(0x1AFFFF), 1, vcl::clBtnFace},       {TColor(0x13FF00), 1, vcl::clBtnShadow},
-      {TColor(0x14FF00), 1, vcl::clBtnHighlight},  {TColor(0x370000), 1, vcl::clBlack},
-      {TColor(0x380000), 1, vcl::clBtnShadow},     {vcl::clWhite, 2, vcl::clBtnHighlight},
-      {TColor(0x26FFFF), 2, vcl::clBtnShadow},     {TColor(0x27FFFF), 2, vcl::clBtnHighlight},
-      {TColor(0x6E0000), 2, vcl::clBlack},         {TColor(0x6F0000), 2, vcl::clBtnShadow},
+  } const cases[] = {
+      {vcl::clWhite, 1, vcl::clBtnFace},          {TColor(0x16FFFF), 1, vcl::clBtnHighlight},
+      {TColor(0x1AFFFF), 1, vcl::clBtnFace},      {TColor(0x13FF00), 1, vcl::clBtnShadow},
+      {TColor(0x14FF00), 1, vcl::clBtnHighlight}, {TColor(0x370000), 1, vcl::clBlack},
+      {TColor(0x380000), 1, vcl::clBtnShadow},    {vcl::clWhite, 2, vcl::clBtnHighlight},
+      {TColor(0x26FFFF), 2, vcl::clBtnShadow},    {TColor(0x27FFFF), 2, vcl::clBtnHighlight},
+      {TColor(0x6E0000), 2, vcl::clBlack},        {TColor(0x6F0000), 2, vcl::clBtnShadow},
   };
   TQELGlyph glyph;
   glyph.SetTransparentColor(Key);
-  for (const TCase& each : cases) {
+  for (const auto& each : cases) {
     vcl::TBitmap bitmap(3, 2);
     bitmap.Canvas()->Brush()->SetColor(each.Color);
     bitmap.Canvas()->FillRect({0, 0, 3, 2});
@@ -129,25 +122,20 @@ TEST(Glyph, DrawsNothingWithoutImages) {
 }
 
 TEST(Glyph, InTheDesignerTheStripSaysHowManyThereAre) {
-  struct TCase {
-    int Width;
-    int Height;
-    int Count;
-  };
-  const TCase cases[] = {{64, 16, 4}, {80, 16, 1}, {40, 16, 3}, {16, 16, 1}, {8, 16, 3}};
+  const std::pair<int, int> cases[] = {{64, 4}, {80, 1}, {40, 3}, {16, 1}, {8, 3}};
   for (const bool designing : {true, false}) {
-    for (const TCase& each : cases) {
+    for (const auto& [width, count] : cases) {
       vcl::TComponent owner(nullptr);
       owner.SetDesigning(designing);
       TQELGlyph glyph(&owner);
       glyph.SetNumGlyphs(TQELNumGlyphs(3));
       glyph.SetTransparentColor(vcl::clOlive);
-      vcl::TBitmap bitmap(each.Width, each.Height);
-      bitmap.Canvas()->SetPixel(0, each.Height - 1, Key);
+      vcl::TBitmap bitmap(width, 16);
+      bitmap.Canvas()->SetPixel(0, 15, Key);
       int changes = 0;
       glyph.OnChange = [&](vcl::TObject*) { ++changes; };
       glyph.SetBitmap(&bitmap);
-      EXPECT_EQ(glyph.NumGlyphs(), designing ? each.Count : 3) << each.Width;
+      EXPECT_EQ(glyph.NumGlyphs(), designing ? count : 3) << width;
       EXPECT_EQ(glyph.TransparentColor(), designing ? Key : vcl::clOlive);
       EXPECT_EQ(changes, 1);
       glyph.SetBitmap(glyph.Bitmap());

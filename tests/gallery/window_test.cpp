@@ -8,7 +8,7 @@
 #include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
 #include "host/vcl/handles.h"
-#include "tests/support/handles.h"
+#include "tests/support/kepthandles.h"
 #include "tests/vcl/testinput.h"
 
 namespace gallery_test {
@@ -51,8 +51,7 @@ class Gallery : public ::testing::Test {
   void Type(const char* name, const std::string& keys) {
     Click(Find(name));
     TypeKey('A', {VK_CONTROL});
-    for (const char key : keys)
-      TypeKey(static_cast<WORD>(key));
+    for (const char key : keys) TypeKey(static_cast<WORD>(key));
   }
   std::string Status() { return Find<TPanel>("StatusPanel")->Caption(); }
 
@@ -91,8 +90,7 @@ TEST_F(Gallery, AButtonLogsItsEventsAndShowsItsSettings) {
   EXPECT_TRUE(PumpUntil([&] { return Logged("RaisedButton.OnClick"); }));
   EXPECT_EQ(Find<TComboBox>("ButtonStyle3DBox")->Text(), "fontRaised");
   Click(Find("EventsButton"));
-  for (const char* each : expected)
-    EXPECT_TRUE(PumpUntil([&] { return Logged(each); })) << each;
+  for (const char* each : expected) EXPECT_TRUE(PumpUntil([&] { return Logged(each); })) << each;
   EXPECT_EQ(Find<TComboBox>("ButtonSubjectBox")->Text(), "EventsButton");
 }
 
@@ -104,8 +102,7 @@ TEST_F(Gallery, TheKeyboardReachesAButton) {
   TypeKey(VK_TAB);
   TypeKey(VK_SPACE);
   TypeKey(VK_TAB);
-  for (const char* each : expected)
-    EXPECT_TRUE(PumpUntil([&] { return Logged(each); })) << each;
+  for (const char* each : expected) EXPECT_TRUE(PumpUntil([&] { return Logged(each); })) << each;
 }
 
 TEST_F(Gallery, ADisabledButtonLogsNothing) {
@@ -163,8 +160,7 @@ TEST_F(Gallery, ABackgroundsSettingsChangeAllItsClients) {
                            "SharedLettersLabel", "SharedTile",   "SharedSunkButton"};
   const auto look = [&] {
     std::vector<std::vector<COLORREF>> pixels;
-    for (const char* name : clients)
-      pixels.push_back(ScreenPixels(Find(name)));
+    for (const char* name : clients) pixels.push_back(ScreenPixels(Find(name)));
     return pixels;
   };
   auto* shared = Find<TQELBackground>("SharedBackground");
@@ -271,8 +267,7 @@ class TMenuKey {
   explicit TMenuKey(WORD key)
       : FThread([key] {
           const ULONGLONG end = ::GetTickCount64() + Patience;
-          while (!MenuIsUp() && ::GetTickCount64() < end)
-            ::Sleep(10);
+          while (!MenuIsUp() && ::GetTickCount64() < end) ::Sleep(10);
           SendKey(MenuIsUp() ? key : static_cast<WORD>(VK_ESCAPE), true);
           SendKey(MenuIsUp() ? key : static_cast<WORD>(VK_ESCAPE), false);
         }) {}
@@ -303,21 +298,14 @@ TEST_F(Gallery, ThePopupMenuChangesItsButton) {
 }
 
 TEST(GalleryForm, GivesBackWhatItTakes) {
-  const auto once = [] {
+  handles::ExpectNoneKept(3, 1, [](int) {
     gallery::TGalleryForm form(nullptr);
     form.Show();
     for (int i = 0; i < form.Pages->PageCount(); ++i) {
       form.Pages->SetActivePageIndex(i);
       Pump();
     }
-  };
-  once();
-  const int gdi = handles::GdiObjects();
-  const int user = handles::UserObjects();
-  for (int i = 0; i < 3; ++i)
-    once();
-  EXPECT_EQ(handles::GdiObjects(), gdi);
-  EXPECT_EQ(handles::UserObjects(), user);
+  });
 }
 
 }  // namespace

@@ -63,8 +63,7 @@ class TPicky : public TBase {
 
 std::vector<std::string> PublishedNames(const TClass& info) {
   std::vector<std::string> names;
-  for (const TPropInfo* prop : info.Published())
-    names.push_back(prop->Name);
+  for (const TPropInfo* prop : info.Published()) names.push_back(prop->Name);
   return names;
 }
 
@@ -76,37 +75,32 @@ TEST(PropertyTables, ListAncestorsFirstAndEachNameOnce) {
   EXPECT_NE(TDerived::Class().FindPublished("hidden"), nullptr);
 }
 
-TEST(PropertyTables, TakeTheNarrowestDeclaration) {
+TEST(PropertyTables, TakeTheNarrowestDeclarationAndWriteWhatIsNotTheDefault) {
   TBase base(nullptr);
   TDerived derived(nullptr);
-  const TPropInfo& inBase = *TBase::Class().FindPublished("Width");
-  const TPropInfo& inDerived = *TDerived::Class().FindPublished("Width");
-  EXPECT_FALSE(inBase.NeedsWriting(base));
-  EXPECT_FALSE(inDerived.NeedsWriting(derived));
+  TPicky picky(nullptr);  // Begins with another value than it declares as the default.
+  const auto written = [](const TBase& object) {
+    return object.ClassType().FindPublished("Width")->NeedsWriting(object);
+  };
+  EXPECT_FALSE(written(base));
+  EXPECT_FALSE(written(derived));
+  EXPECT_TRUE(written(picky));
   derived.SetHidden(1);
-  EXPECT_TRUE(inDerived.NeedsWriting(derived));
-  derived.SetWidth(20);
-  EXPECT_FALSE(inDerived.NeedsWriting(derived));
-}
-
-TEST(PropertyTables, WriteTheDefaultOfObjectsThatBeginWithAnotherValue) {
-  TPicky picky(nullptr);
-  const TPropInfo& width = *TPicky::Class().FindPublished("Width");
-  EXPECT_EQ(width.DefaultValue, TValue(std::int64_t{10}));
-  EXPECT_TRUE(width.NeedsWriting(picky));
   picky.SetHidden(1);
-  EXPECT_FALSE(width.NeedsWriting(picky));
+  EXPECT_TRUE(written(derived));
+  EXPECT_FALSE(written(picky));
+  derived.SetWidth(20);
   picky.SetWidth(11);
-  EXPECT_TRUE(width.NeedsWriting(picky));
+  EXPECT_FALSE(written(derived));
+  EXPECT_TRUE(written(picky));
 }
 
 TEST(PropertyTables, RefuseMistakes) {
-  EXPECT_THROW((Describe<TBase, TComponent>("TBase", "test", {Inherit("Nothing")})),
-               EPropertyError);
-  EXPECT_THROW((Describe<TBase, TComponent>(
-                   "TBase", "test",
-                   {Property<&TBase::Width, &TBase::SetWidth>("Width").Default(std::string())})),
-               EPropertyError);
+  for (const auto& mistake :
+       {Inherit("Nothing"),
+        Property<&TBase::Width, &TBase::SetWidth>("Width").Default(std::string())}) {
+    EXPECT_THROW((Describe<TBase, TComponent>("TBase", "test", {mistake})), EPropertyError);
+  }
 }
 
 TEST(PropertyTables, RefuseValuesOfOtherSorts) {
@@ -115,42 +109,35 @@ TEST(PropertyTables, RefuseValuesOfOtherSorts) {
   const auto set = [&](const char* name, const TValue& value) {
     TPart::Class().FindPublished(name)->Set(part, value);
   };
-  EXPECT_THROW(set("Count", 1.0), EPropertyError);
-  EXPECT_THROW(set("Count", std::int64_t{1} << 31), EPropertyError);
-  EXPECT_THROW(set("Shape", std::int64_t{3}), EPropertyError);
-  EXPECT_THROW(set("Shapes", std::int64_t{8}), EPropertyError);
-  EXPECT_THROW(set("Link", static_cast<TObject*>(&other)), EPropertyError);
-  EXPECT_THROW(set("Style", static_cast<TObject*>(nullptr)), EPropertyError);
+  const std::pair<const char*, TValue> wrong[] = {{"Count", 1.0},
+                                                  {"Count", std::int64_t{1} << 31},
+                                                  {"Shape", std::int64_t{3}},
+                                                  {"Shapes", std::int64_t{8}},
+                                                  {"Link", static_cast<TObject*>(&other)},
+                                                  {"Style", static_cast<TObject*>(nullptr)}};
+  for (const auto& [name, value] : wrong) EXPECT_THROW(set(name, value), EPropertyError) << name;
   set("Shapes", std::int64_t{6});
   EXPECT_EQ(part.Shapes(), (TSet{shSquare, shStar}));
 }
 
+// clang-format off
 TEST(PropertyTables, NameKindsAndTypes) {
-  const struct {
-    const char* Name;
-    const char* Kind;
-    const char* Type;
-  } cases[] = {{"Count", "integer", "Integer"},
-               {"Active", "boolean", "Boolean"},
-               {"Ratio", "float", "Double"},
-               {"Caption", "string", "TCaption"},
-               {"Mask", "char", "Char"},
-               {"Shape", "enumeration", "TShape"},
-               {"Shapes", "set", "TShapes"},
-               {"Code", "integer", "TCode"},
-               {"Color", "color", "TColor"},
-               {"Big", "integer", "Int64"},
-               {"Link", "component", "TPart"},
-               {"Style", "class", "TStyle"},
-               {"Items", "collection", "TCollection"},
-               {"OnClick", "event", "TNotifyEvent"}};
-  for (const auto& each : cases) {
-    const TPropInfo* prop = TPart::Class().FindPublished(each.Name);
-    ASSERT_NE(prop, nullptr) << each.Name;
-    EXPECT_EQ(KindName(prop->Kind()), each.Kind) << each.Name;
-    EXPECT_EQ(prop->TypeName(), each.Type) << each.Name;
+  const char* const cases[][3] = {
+      {"Count", "integer", "Integer"}, {"Active", "boolean", "Boolean"},
+      {"Ratio", "float", "Double"},    {"Caption", "string", "TCaption"},
+      {"Mask", "char", "Char"},        {"Shape", "enumeration", "TShape"},
+      {"Shapes", "set", "TShapes"},    {"Code", "integer", "TCode"},
+      {"Color", "color", "TColor"},    {"Big", "integer", "Int64"},
+      {"Link", "component", "TPart"},  {"Style", "class", "TStyle"},
+      {"OnClick", "event", "TNotifyEvent"}, {"Items", "collection", "TCollection"}};
+  for (const auto& [name, kind, type] : cases) {
+    const TPropInfo* prop = TPart::Class().FindPublished(name);
+    ASSERT_NE(prop, nullptr) << name;
+    EXPECT_EQ(KindName(prop->Kind()), kind) << name;
+    EXPECT_EQ(prop->TypeName(), type) << name;
   }
 }
+// clang-format on
 
 TEST(ClassRegistry, FindsByNameAndRefusesSecondOnes) {
   RegisterClass(TBase::Class());
@@ -168,8 +155,7 @@ TEST(ClassRegistry, FindsByNameAndRefusesSecondOnes) {
 TEST(Component, FreesWhatItOwns) {
   {
     TPart owner(nullptr);
-    auto* inner = new TPart(&owner);
-    new TPart(inner);
+    new TPart(new TPart(&owner));
     delete new TPart(&owner);
     EXPECT_EQ(TPart::Alive, 3);
     EXPECT_EQ(owner.ComponentCount(), 1);
@@ -206,27 +192,18 @@ TEST(Component, KeepsItsPlace) {
 }
 
 TEST(Component, ForgetsLinksThatAreFreed) {
-  TPart holder(nullptr);
-  auto linked = std::make_unique<TPart>(nullptr);
-  holder.SetLink(linked.get());
-  holder.SetLink(linked.get());
-  linked.reset();
-  EXPECT_EQ(holder.Link(), nullptr);
-
-  TPart survivor(nullptr);
-  {
-    TPart shortLived(nullptr);
-    shortLived.SetLink(&survivor);
-  }
-}
-
-TEST(Component, HearsOfItsOwnersOthers) {
   TPart owner(nullptr);
   auto* one = new TPart(&owner);
   auto* two = new TPart(&owner);
+  auto stranger = std::make_unique<TPart>(nullptr);
   one->SetAnyLink(two);
+  one->SetLink(stranger.get());
+  one->SetLink(stranger.get());
+  stranger->SetLink(&owner);  // The one that is linked outlives the other.
   delete two;
-  EXPECT_EQ(one->AnyLink(), nullptr);
+  stranger.reset();
+  EXPECT_EQ(one->AnyLink(), nullptr) << "an owner tells its other components";
+  EXPECT_EQ(one->Link(), nullptr) << "asked for";
 }
 
 TEST(Component, PassesTheDesigningStateOn) {
@@ -244,10 +221,7 @@ TEST(Watch, SeesTheEnd) {
   TPart* raw = part.get();
   raw->OnClick = [&](TObject*) { part.reset(); };
   TWatch outer(raw);
-  {
-    TWatch inner(raw);
-    EXPECT_FALSE(inner.Gone());
-  }
+  EXPECT_FALSE(TWatch(raw).Gone());
   raw->OnClick(raw);
   EXPECT_TRUE(outer.Gone());
 }

@@ -13,41 +13,23 @@ using testing::HasSubstr;
 
 namespace {
 
+// clang-format off
 TEST(Convert, ReadsIntegers) {
-  const struct {
-    const char* Text;
-    std::optional<int> Value;
-  } cases[] = {
-      {"0", 0},
-      {"-12", -12},
-      {"+12", 12},
-      {"  7", 7},
-      {"2147483647", 2147483647},
+  const std::pair<const char*, std::optional<int>> cases[] = {
+      {"0", 0}, {"-12", -12}, {"+12", 12}, {"  7", 7}, {"2147483647", 2147483647},
       {"-2147483648", std::numeric_limits<int>::min()},
-      {"$ff", 255},
-      {"0XfF", 255},
-      {"-$10", -16},
-      {"$FFFFFFFF", -1},
-      {"", {}},
-      {" ", {}},
-      {"abc", {}},
-      {"12 ", {}},
-      {"1.0", {}},
-      {"2147483648", {}},
-      {"$100000000", {}},
-      {"$", {}},
-      {"+-1", {}},
-      {"--1", {}},
-      {"$-1", {}},
-      {"- 1", {}},
+      {"$ff", 255}, {"0XfF", 255}, {"-$10", -16}, {"$FFFFFFFF", -1},
+      {"", {}}, {" ", {}}, {"abc", {}}, {"12 ", {}}, {"1.0", {}}, {"2147483648", {}},
+      {"$100000000", {}}, {"$", {}}, {"+-1", {}}, {"--1", {}}, {"$-1", {}}, {"- 1", {}},
   };
-  for (const auto& each : cases) {
+  for (const auto& [text, expected] : cases) {
     int value = 99;
-    EXPECT_EQ(TryStrToInt(each.Text, value), each.Value.has_value()) << each.Text;
-    EXPECT_EQ(value, each.Value.value_or(99)) << each.Text;
-    EXPECT_EQ(StrToIntDef(each.Text, -5), each.Value.value_or(-5)) << each.Text;
+    EXPECT_EQ(TryStrToInt(text, value), expected.has_value()) << text;
+    EXPECT_EQ(value, expected.value_or(99)) << text;
+    EXPECT_EQ(StrToIntDef(text, -5), expected.value_or(-5)) << text;
   }
 }
+// clang-format on
 
 template <class Convert>
 std::string ConvertError(const Convert& convert) {

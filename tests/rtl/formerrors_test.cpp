@@ -176,8 +176,7 @@ TEST_F(FormErrors, KeepTheClassOfAnUnknownRoot) {
 
 std::string Repeat(std::string_view text, int count) {
   std::string repeated;
-  for (int i = 0; i < count; ++i)
-    repeated += text;
+  for (int i = 0; i < count; ++i) repeated += text;
   return repeated;
 }
 
@@ -229,8 +228,7 @@ TEST_F(FormErrors, ComeFromEveryTruncation) {
 TEST_F(FormErrors, ComeFromNoise) {
   std::mt19937 random(2024);
   std::string noise(1 << 20, '\0');
-  for (char& byte : noise)
-    byte = static_cast<char>(random());
+  for (char& byte : noise) byte = static_cast<char>(random());
   LoadError<EParserError>(noise);
   LoadError<Exception>("TPF0" + noise);
   LoadError<Exception>(std::string("TPF0\5TPart\0", 11) + noise);
@@ -281,8 +279,10 @@ TEST_F(FormErrors, DoNotComeFromCollectionsThatStandTwice) {
 TEST_F(FormErrors, BeginWithTheNameOfWhatIsRead) {
   const std::pair<const char*, const char*> cases[] = {
       {"object", "main.dfm: Line 1: "},
-      {"object F: TSampleForm Colour = 1 end", "main.dfm: Line 1: F.Colour: property does not exist"},
-      {"object F: TSampleForm object A: TNothing end end", "main.dfm: Line 1: A: Class TNothing not"},
+      {"object F: TSampleForm Colour = 1 end",
+       "main.dfm: Line 1: F.Colour: property does not exist"},
+      {"object F: TSampleForm object A: TNothing end end",
+       "main.dfm: Line 1: A: Class TNothing not"},
   };
   for (const auto& [form, message] : cases) {
     TStringStream stream(form);

@@ -89,8 +89,7 @@ TPart::~TPart() {
   AnnounceEnd();
   --Alive;
   SetParentComponent(nullptr);
-  for (TPart* part : FInside)
-    part->FParent = nullptr;
+  for (TPart* part : FInside) part->FParent = nullptr;
 }
 
 void TPart::SetCount(int count) {
@@ -116,8 +115,7 @@ void TPart::SetParentComponent(TComponent* parent) {
 }
 
 void TPart::GetChildren(const std::function<void(TComponent*)>& each, TComponent*) {
-  for (TPart* part : FInside)
-    each(part);
+  for (TPart* part : FInside) each(part);
 }
 
 void TPart::SetChildOrder(TComponent* child, int order) {

@@ -10,14 +10,8 @@ using namespace samples;
 
 namespace {
 
-struct TCase {
-  const TTypeInfo& Type;
-  TValue Value;
-  const char* Text;
-};
-
-std::vector<TCase> Cases() {
-  return {
+TEST(ValueText, GoesBothWays) {
+  const std::tuple<const TTypeInfo&, TValue, const char*> cases[] = {
       {TypeInfoOf<int>(), std::int64_t{-7}, "-7"},
       {TypeInfoOf<bool>(), std::int64_t{1}, "True"},
       {TypeInfoOf<TShape>(), std::int64_t{shStar}, "shStar"},
@@ -32,12 +26,9 @@ std::vector<TCase> Cases() {
       {TypeInfoOf<std::string>(), std::string("it's"), "it's"},
       {TypeInfoOf<double>(), 0.1, "0.1"},
   };
-}
-
-TEST(ValueText, GoesBothWays) {
-  for (const TCase& each : Cases()) {
-    EXPECT_EQ(ValueToText(each.Type, each.Value), each.Text);
-    EXPECT_EQ(TextToValue(each.Type, each.Text), each.Value) << each.Text;
+  for (const auto& [type, value, text] : cases) {
+    EXPECT_EQ(ValueToText(type, value), text);
+    EXPECT_EQ(TextToValue(type, text), value) << text;
   }
 }
 
@@ -49,14 +40,20 @@ TEST(ValueText, NamesAreTakenWithoutCaseAndBlanks) {
 
 TEST(ValueText, RefusesWhatIsNoValue) {
   const std::pair<const TTypeInfo*, const char*> wrong[] = {
-      {&TypeInfoOf<std::uint8_t>(), "256"},       {&TypeInfoOf<int>(), ""},
-      {&TypeInfoOf<int>(), "7x"},                 {&TypeInfoOf<TShape>(), "shNone"},
-      {&TypeInfoOf<TSet<TShape>>(), "shStar"},    {&TypeInfoOf<TSet<TShape>>(), "[shStar,, x]"},
-      {&TypeInfoOf<TColor>(), "clNowhere"},       {&TypeInfoOf<char32_t>(), "ab"},
-      {&TypeInfoOf<char32_t>(), "#99999999"},     {&TypeInfoOf<double>(), "one"},
+      {&TypeInfoOf<std::uint8_t>(), "256"},
+      {&TypeInfoOf<int>(), ""},
+      {&TypeInfoOf<int>(), "7x"},
+      {&TypeInfoOf<TShape>(), "shNone"},
+      {&TypeInfoOf<TSet<TShape>>(), "shStar"},
+      {&TypeInfoOf<TSet<TShape>>(), "[shStar,, x]"},
+      {&TypeInfoOf<TColor>(), "clNowhere"},
+      {&TypeInfoOf<char32_t>(), "ab"},
+      {&TypeInfoOf<char32_t>(), "#99999999"},
+      {&TypeInfoOf<double>(), "one"},
       {&TypeInfoOf<TPart*>(), "Part1"},
   };
-  for (const auto& [type, text] : wrong) EXPECT_THROW(TextToValue(*type, text), EConvertError) << text;
+  for (const auto& [type, text] : wrong)
+    EXPECT_THROW(TextToValue(*type, text), EConvertError) << text;
 }
 
 TEST(ValueText, AStringOfAFormFileIsQuoted) {

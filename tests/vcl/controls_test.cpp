@@ -1,6 +1,7 @@
 // Controls without and with windows: parents, text, alignment, following the parent, the mouse.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -10,7 +11,7 @@
 #include "host/vcl/controlcanvas.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/windowtext.h"
-#include "tests/support/handles.h"
+#include "tests/support/kepthandles.h"
 
 namespace vcl {
 namespace {
@@ -22,12 +23,11 @@ class TProbe : public TGraphicControl {
   using TControl::MouseCapture;
   void WantNoDoubleClicks() { SetControlStyle(ControlStyle() - TControlStyle{csDoubleClicks}); }
   int Paints = 0;
-  TColor Ink = clRed;
 
  protected:
   void Paint() override {
     ++Paints;
-    Canvas()->Brush()->SetColor(Ink);
+    Canvas()->Brush()->SetColor(clRed);
     Canvas()->FillRect(ClientRect());
   }
 };
@@ -108,10 +108,10 @@ TEST_F(Controls, TextIsTheWindowsAndSurvivesItsEnd) {
 
 TEST_F(Controls, CaptionFollowsTheNameWhileTheyAreEqual) {
   auto* box = Make<TBox>(&Form, 0, 0, 10, 10);
-  box->SetName("Box1");
-  EXPECT_EQ(box->Caption(), "Box1");
-  box->SetName("Box2");
-  EXPECT_EQ(box->Caption(), "Box2");
+  for (const char* name : {"Box1", "Box2"}) {
+    box->SetName(name);
+    EXPECT_EQ(box->Caption(), name);
+  }
   box->SetCaption("mine");
   box->SetName("Box3");
   EXPECT_EQ(box->Caption(), "mine");
@@ -173,12 +173,11 @@ TEST_F(Controls, TabOrderIsThePlaceAmongTheSiblings) {
   auto* a = Make<TBox>(&Form, 0, 0, 10, 10);
   auto* b = Make<TBox>(&Form, 0, 0, 10, 10);
   auto* c = Make<TBox>(&Form, 0, 0, 10, 10);
+  const auto orders = [&] { return std::array{a->TabOrder(), b->TabOrder(), c->TabOrder()}; };
   c->SetTabOrder(0);
-  EXPECT_EQ(c->TabOrder(), 0);
-  EXPECT_EQ(a->TabOrder(), 1);
-  EXPECT_EQ(b->TabOrder(), 2);
+  EXPECT_EQ(orders(), (std::array{1, 2, 0}));
   c->SetTabOrder(99);
-  EXPECT_EQ(c->TabOrder(), 2);
+  EXPECT_EQ(orders(), (std::array{0, 1, 2}));
   Form.Show();
   for (TBox* box : {a, b, c}) box->SetTabStop(true);
   EXPECT_EQ(Form.FindNextControl(c, true, true, false), a);
@@ -192,13 +191,16 @@ TEST_F(Controls, TheMouseReachesControlsWithoutWindows) {
   auto* probe = Make<TProbe>(&Form, 20, 30, 40, 50);
   Form.Show();
   std::string log;
-  probe->OnMouseDown = [&](TObject*, TMouseButton, TShiftState shift, int x, int y) {
-    log += "down " + std::to_string(x) + "," + std::to_string(y) + (shift.Has(ssCtrl) ? "c " : " ");
+  const auto notes = [&](const char* what) {
+    return [&log, what](TObject*, TMouseButton, TShiftState shift, int x, int y) {
+      log += what + std::to_string(x) + "," + std::to_string(y) + (shift.Has(ssCtrl) ? "c " : " ") +
+             (shift.Has(ssDouble) ? "double " : "");
+    };
   };
-  probe->OnMouseUp = [&](TObject*, TMouseButton, TShiftState, int x, int y) {
-    log += "up " + std::to_string(x) + "," + std::to_string(y) + " ";
-  };
+  probe->OnMouseDown = notes("down ");
+  probe->OnMouseUp = notes("up ");
   probe->OnClick = [&](TObject*) { log += "click "; };
+  probe->OnDblClick = [&](TObject*) { log += "dblclick "; };
   Send(Form, WM_LBUTTONDOWN, 25, 35, MK_LBUTTON | MK_CONTROL);
   EXPECT_TRUE(probe->MouseCapture());
   Send(Form, WM_LBUTTONUP, 25, 35);
@@ -216,37 +218,28 @@ TEST_F(Controls, TheMouseReachesControlsWithoutWindows) {
   EXPECT_FALSE(probe->MouseCapture());
   Send(Form, WM_LBUTTONUP, 25, 35);
   EXPECT_EQ(log, "down 5,5 up 5,5 ");
-}
-
-TEST_F(Controls, ADoubleClickIsAnotherPressForThoseThatWantNone) {
-  auto* probe = Make<TProbe>(&Form, 0, 0, 40, 40);
-  Form.Show();
-  std::string log;
-  probe->OnMouseDown = [&](TObject*, TMouseButton, TShiftState shift, int, int) {
-    log += shift.Has(ssDouble) ? "double " : "down ";
-  };
-  probe->OnDblClick = [&](TObject*) { log += "dblclick "; };
-  Send(Form, WM_LBUTTONDBLCLK, 5, 5, MK_LBUTTON);
-  EXPECT_EQ(log, "dblclick double ");
   log.clear();
+  Send(Form, WM_LBUTTONDBLCLK, 25, 35, MK_LBUTTON);
+  EXPECT_EQ(log, "dblclick down 5,5 double ");
+  log.clear();
+  // For those that want no double clicks it is another press.
   probe->WantNoDoubleClicks();
-  Send(Form, WM_LBUTTONDBLCLK, 5, 5, MK_LBUTTON);
-  EXPECT_EQ(log, "down ");
+  Send(Form, WM_LBUTTONDBLCLK, 25, 35, MK_LBUTTON);
+  EXPECT_EQ(log, "down 5,5 ");
 }
 
 TEST_F(Controls, AHandlerMayFreeItsSender) {
   Form.Show();
-  for (int i = 0; i < 2; ++i) {
-    TControl* control = i == 0 ? static_cast<TControl*>(Make<TProbe>(&Form, 0, 0, 40, 40))
-                               : Make<TBox>(&Form, 0, 0, 40, 40);
+  const auto clickFrees = [&](TControl* control, HWND window) {
     TWatch watch(control);
     control->OnClick = [](TObject* sender) { delete sender; };
-    TWinControl& target = i == 0 ? Form : *static_cast<TWinControl*>(control);
-    const HWND window = target.Handle();
     ::SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
     ::SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
     EXPECT_TRUE(watch.Gone());
-  }
+  };
+  clickFrees(Make<TProbe>(&Form, 0, 0, 40, 40), Form.Handle());
+  auto* box = Make<TBox>(&Form, 0, 0, 40, 40);
+  clickFrees(box, box->Handle());
   EXPECT_EQ(Form.ControlCount(), 0);
 }
 
@@ -269,35 +262,22 @@ TEST_F(Controls, AnErrorInAHandlerGoesToTheApplication) {
 
 TEST_F(Controls, PaintingIsClippedToTheControl) {
   auto* box = Make<TBox>(&Form, 0, 0, 100, 100);
-  auto* probe = Make<TProbe>(box, 90, 90, 40, 40);
+  Make<TProbe>(box, 90, 90, 40, 40);
   auto* hidden = Make<TProbe>(box, 0, 0, 10, 10);
   hidden->SetVisible(false);
   Form.Show();
-  TBitmap picture;
-  picture.SetSize(150, 150);
-  picture.Canvas()->Brush()->SetColor(clWhite);
-  picture.Canvas()->FillRect(TRect(0, 0, 150, 150));
+  TBitmap picture(150, 150);
   box->PaintTo(picture.Canvas()->Handle(), 10, 10);
-  const auto at = [&](int x, int y) { return picture.Canvas()->Pixels(x, y); };
-  EXPECT_EQ(at(9, 9), clWhite);
-  EXPECT_EQ(at(10, 10), clLime);
-  EXPECT_EQ(at(99, 99), clLime);
-  EXPECT_EQ(at(100, 100), clRed);
-  EXPECT_EQ(at(109, 109), clRed);
-  EXPECT_EQ(at(110, 110), clWhite);
-  EXPECT_GE(probe->Paints, 1);
+  const std::pair<int, TColor> colors[] = {{9, clWhite}, {10, clLime}, {99, clLime},
+                                           {100, clRed}, {109, clRed}, {110, clWhite}};
+  for (const auto& [at, color] : colors) EXPECT_EQ(picture.Canvas()->Pixels(at, at), color) << at;
   EXPECT_EQ(hidden->Paints, 0);
-}
 
-TEST_F(Controls, ADoubleBufferedWindowShowsTheSame) {
-  auto* box = Make<TBox>(&Form, 0, 0, 100, 100);
-  Make<TProbe>(box, 50, 50, 40, 40);
-  Form.Show();
   box->SetDoubleBuffered(true);
   box->Repaint();
   const TWindowDC dc(box->Handle());
   EXPECT_EQ(::GetPixel(dc.Get(), 10, 10), static_cast<COLORREF>(clLime));
-  EXPECT_EQ(::GetPixel(dc.Get(), 60, 60), static_cast<COLORREF>(clRed));
+  EXPECT_EQ(::GetPixel(dc.Get(), 95, 95), static_cast<COLORREF>(clRed));
 }
 
 TEST_F(Controls, KeysGoToTheFormFirstWhenItAsksForThem) {
@@ -325,19 +305,13 @@ TEST_F(Controls, KeysGoToTheFormFirstWhenItAsksForThem) {
 
 TEST_F(Controls, MakingAndFreeingWindowsLeavesNoHandles) {
   Form.Show();
-  const auto round = [&] {
+  handles::ExpectNoneKept(200, 1, [&](int) {
     auto* box = Make<TBox>(&Form, 0, 0, 100, 100);
     Make<TBox>(box, 0, 0, 10, 10)->Font()->SetSize(31);
     Make<TProbe>(box, 0, 0, 10, 10);
     box->Repaint();
     delete box;
-  };
-  round();
-  const int gdi = handles::GdiObjects();
-  const int user = handles::UserObjects();
-  for (int i = 0; i < 200; ++i) round();
-  EXPECT_EQ(handles::GdiObjects(), gdi);
-  EXPECT_EQ(handles::UserObjects(), user);
+  });
 }
 
 TEST_F(Controls, AWindowNeedsAParent) {

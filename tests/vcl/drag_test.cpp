@@ -68,6 +68,12 @@ class Drag : public ::testing::Test {
   bool Ends() {
     return PumpUntil([] { return TDragSession::Current() == nullptr; });
   }
+  /// Drags from the source to the target and lets go.
+  void DropOnTarget() {
+    DragToTarget();
+    LeftUp();
+    EXPECT_TRUE(Ends());
+  }
   TLog Log;
   TForm Form;
   TPlate* Source;
@@ -89,21 +95,17 @@ TEST_F(Drag, TellsSourceAndTargetInOrder) {
   EXPECT_EQ(EndPlace, DropPlace);
 }
 
-TEST_F(Drag, ARefusedDropEndsWithoutATarget) {
-  Accepts = false;
-  DragToTarget();
-  LeftUp();
-  EXPECT_TRUE(Ends());
-  EXPECT_EQ(Log, (TLog{"start", "enter", "move", "leave", "end"}));
-  EXPECT_EQ(EndTarget, nullptr);
-}
-
-TEST_F(Drag, EscapeCancels) {
-  DragToTarget();
-  TypeKey(VK_ESCAPE);
-  EXPECT_TRUE(Ends());
-  EXPECT_EQ(Log, (TLog{"start", "enter", "move", "leave", "end"}));
-  EXPECT_EQ(EndTarget, nullptr);
+TEST_F(Drag, ARefusedDropAndEscapeEndItWithoutATarget) {
+  for (const bool escape : {false, true}) {
+    Log.clear();
+    Accepts = escape;
+    DragToTarget();
+    escape ? TypeKey(VK_ESCAPE) : LeftUp();
+    EXPECT_TRUE(Ends());
+    EXPECT_EQ(Log, (TLog{"start", "enter", "move", "leave", "end"})) << "escape: " << escape;
+    EXPECT_EQ(EndTarget, nullptr);
+    LeftUp();
+  }
   EXPECT_TRUE(Form.Visible());
 }
 
@@ -147,9 +149,7 @@ TEST_F(Drag, AnObjectOfTheHandlersGoesInsteadAndIsFreedAtTheEnd) {
     ExpectedSource = object;
   };
   Source->OnEndDrag = [&](TObject*, TObject*, int, int) { EXPECT_EQ(freed, 0); };
-  DragToTarget();
-  LeftUp();
-  EXPECT_TRUE(Ends());
+  DropOnTarget();
   EXPECT_EQ(Log.back(), "drop");
   EXPECT_EQ(freed, 1);
 }
@@ -159,9 +159,7 @@ TEST_F(Drag, SourceOrTargetMayBeFreedByAnyHandler) {
     Log.push_back("drop");
     delete Target;
   };
-  DragToTarget();
-  LeftUp();
-  EXPECT_TRUE(Ends());
+  DropOnTarget();
   EXPECT_EQ(Log.back(), "end");
   EXPECT_EQ(EndTarget, nullptr);
 
@@ -177,9 +175,7 @@ TEST_F(Drag, AnErrorAtTheDropDoesNotKeepTheSourceFromItsEnd) {
   std::string error;
   Application()->OnException = [&](TObject*, const std::exception& e) { error = e.what(); };
   Target->OnDragDrop = [](TObject*, TObject*, int, int) { throw Exception("no room"); };
-  DragToTarget();
-  LeftUp();
-  EXPECT_TRUE(Ends());
+  DropOnTarget();
   Application()->OnException = nullptr;
   EXPECT_EQ(error, "no room");
   EXPECT_EQ(Log.back(), "end");

@@ -31,14 +31,12 @@ TEST_F(Edits, TypingKeepsToTheSettings) {
   auto* locked = Make<TEdit>(10, 70);
   locked->SetReadOnly(true);
   ShowForm();
-  const struct {
-    TEdit* Edit;
-    const char* Text;
-  } cases[] = {{limited, "abc"}, {capitals, "ABCDE"}, {locked, ""}};
-  for (const auto& each : cases) {
-    each.Edit->SetFocus();
+  const std::pair<TEdit*, const char*> cases[] = {
+      {limited, "abc"}, {capitals, "ABCDE"}, {locked, ""}};
+  for (const auto& [edit, text] : cases) {
+    edit->SetFocus();
     Type("abcde");
-    EXPECT_EQ(each.Edit->Text(), each.Text);
+    EXPECT_EQ(edit->Text(), text);
   }
   limited->SetText("longer by code");
   EXPECT_EQ(limited->Text(), "longer by code");

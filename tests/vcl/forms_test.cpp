@@ -13,8 +13,8 @@
 #include "host/vcl/forms.h"
 #include "host/vcl/menus.h"
 #include "host/vcl/panel.h"
+#include "host/vcl/registration.h"
 #include "host/vcl/screen.h"
-#include "host/vcl/standardcontrols.h"
 #include "host/vcl/stdctrls.h"
 #include "tests/vcl/testinput.h"
 
@@ -66,19 +66,13 @@ TEST_F(Forms, ANewFormIsHiddenAndTellsOfItsComingAndGoing) {
   ShowIt();
   EXPECT_TRUE(::IsWindowVisible(Form.Handle()));
   EXPECT_EQ(Screen()->ActiveForm(), &Form);
+  Form.SetBorderStyle(bsDialog);  // Another window, which is no news for handlers.
+  EXPECT_TRUE(::IsWindowVisible(Form.Handle()));
+  EXPECT_TRUE(::GetWindowLongW(Form.Handle(), GWL_EXSTYLE) & WS_EX_DLGMODALFRAME);
+  EXPECT_EQ(Log, (TLog{"show", "activate"}));
   Form.Hide();
   EXPECT_FALSE(::IsWindowVisible(Form.Handle()));
   EXPECT_EQ(Log, (TLog{"show", "activate", "hide"}));
-}
-
-TEST_F(Forms, AnotherBorderKeepsTheFormShownWithoutNewsForHandlers) {
-  ShowIt();
-  Form.OnShow = Logs("show");
-  Form.OnHide = Logs("hide");
-  Form.SetBorderStyle(bsDialog);
-  EXPECT_TRUE(::IsWindowVisible(Form.Handle()));
-  EXPECT_TRUE(::GetWindowLongW(Form.Handle(), GWL_EXSTYLE) & WS_EX_DLGMODALFRAME);
-  EXPECT_TRUE(Log.empty());
 }
 
 TEST_F(Forms, StylesOfTheWindowFollowBorderAndIcons) {
@@ -87,7 +81,7 @@ TEST_F(Forms, StylesOfTheWindowFollowBorderAndIcons) {
     LONG Has;
     LONG HasNot;
   } const cases[] = {
-      {bsNone, static_cast<LONG>(WS_POPUP), WS_CAPTION},
+      {bsNone, static_cast<LONG>(WS_POPUP), WS_DLGFRAME | WS_BORDER},
       {bsSingle, WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX, WS_THICKFRAME},
       {bsSizeable, WS_CAPTION | WS_THICKFRAME | WS_MAXIMIZEBOX, 0},
       {bsDialog, WS_CAPTION | WS_SYSMENU, WS_THICKFRAME | WS_MINIMIZEBOX},
@@ -96,18 +90,7 @@ TEST_F(Forms, StylesOfTheWindowFollowBorderAndIcons) {
   };
   for (const auto& [style, has, hasNot] : cases) {
     Form.SetBorderStyle(style);
-    const LONG bits = ::GetWindowLongW(Form.Handle(), GWL_STYLE);
-    EXPECT_EQ(bits & has, has) << style;
-    if (style == bsNone) {
-      EXPECT_NE(bits & WS_CAPTION, WS_CAPTION);
-    } else {
-      EXPECT_EQ(bits & hasNot, 0) << style;
-    }
-  }
-}
-
-TEST_F(Forms, TheClientSizeIsTheSameBeforeAndAfterTheWindow) {
-  for (TBorderStyle style : {bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow}) {
+    EXPECT_EQ(::GetWindowLongW(Form.Handle(), GWL_STYLE) & (has | hasNot), has) << style;
     TForm form(nullptr);
     form.SetBorderStyle(style);
     form.SetClientWidth(250);
@@ -175,12 +158,10 @@ TEST_F(Focus, EntersAndLeavesAlongTheWay) {
 TEST_F(Focus, TabGoesRoundInTabOrder) {
   ShowIt();
   ExpectFocus(Inner);  // The first in tab order, inside the panel.
-  TypeKey(VK_TAB);
-  ExpectFocus(First);
-  TypeKey(VK_TAB);
-  ExpectFocus(Last);
-  TypeKey(VK_TAB);
-  ExpectFocus(Inner);
+  for (const TField* next : {&First, &Last, &Inner}) {
+    TypeKey(VK_TAB);
+    ExpectFocus(*next);
+  }
   TypeKey(VK_TAB, {VK_SHIFT});
   ExpectFocus(Last);
   TypeKey(VK_LEFT);
@@ -197,8 +178,7 @@ TEST_F(Focus, AHandlerThatMovesTheFocusHasTheLastWord) {
   Log.clear();
   Last.SetFocus();
   ExpectFocus(First);
-  for (const std::string& line : Log)
-    EXPECT_EQ(line.find("Last"), std::string::npos) << line;
+  for (const std::string& line : Log) EXPECT_EQ(line.find("Last"), std::string::npos) << line;
 }
 
 TEST_F(Focus, WhatCannotHaveItIsRefused) {
@@ -367,7 +347,17 @@ TEST_F(Forms, WhatCannotBeModalIsRefused) {
 
 class TFileForm : public TForm {
  public:
-  explicit TFileForm(TComponent* owner) : TForm(owner) {}
+  /// Reads the form from the text.
+  explicit TFileForm(const std::string& text) : TForm(nullptr) {
+    RegisterHostClasses();
+    TStringStream stream(text);
+    ReadComponentFile(stream, this);
+  }
+  std::string Written() {
+    TStringStream text;
+    WriteComponentText(text, this);
+    return text.DataString();
+  }
   static const TClass& Class() {
     static const TClass info =
         Describe<TFileForm, TForm>("TFileForm", "forms_test",
@@ -389,33 +379,18 @@ class TFileForm : public TForm {
 };
 
 constexpr const char* FormText = R"(object FileForm: TFileForm
-  Left = 40
-  Top = 60
-  BorderStyle = bsSingle
-  Caption = 'From a file'
-  ClientHeight = 150
-  ClientWidth = 280
-  Menu = MainMenu1
-  Visible = True
-  OnShow = FormShow
+  Left = 40 Top = 60 BorderStyle = bsSingle Caption = 'From a file' Menu = MainMenu1
+  ClientHeight = 150 ClientWidth = 280 Visible = True OnShow = FormShow
   object MainMenu1: TMainMenu
-    object File1: TMenuItem
-      Caption = '&File'
-      object Exit1: TMenuItem
-        Caption = 'E&xit'
-        ShortCut = 32856
-        OnClick = Exit1Click
-      end
+    object File1: TMenuItem Caption = '&File'
+      object Exit1: TMenuItem Caption = 'E&xit' ShortCut = 32856 OnClick = Exit1Click end
     end
   end
 end
 )";
 
 TEST_F(Forms, AFormFileMakesTheFormAndShowsItWhole) {
-  RegisterMenuClasses();
-  TFileForm form(nullptr);
-  TStringStream text(FormText);
-  ReadComponentFile(text, &form);
+  TFileForm form(FormText);
   EXPECT_EQ(form.Caption(), "From a file");
   EXPECT_EQ(form.Shown, 1);
   EXPECT_EQ(form.ClientRect(), Rect(0, 0, 280, 150));
@@ -430,10 +405,7 @@ TEST_F(Forms, AFormFileMakesTheFormAndShowsItWhole) {
 }
 
 TEST_F(Forms, WhatIsAlignedFitsAFormWithAMenu) {
-  RegisterMenuClasses();
-  TFileForm form(nullptr);
-  TStringStream text(FormText);
-  ReadComponentFile(text, &form);
+  TFileForm form(FormText);
   TPanel* const bar = new TPanel(&form);
   bar->SetParent(&form);
   bar->SetAlign(alBottom);
@@ -449,31 +421,18 @@ TEST_F(Forms, WhatIsAlignedFitsAFormWithAMenu) {
 }
 
 TEST_F(Forms, AFormWrittenAndReadBackIsTheSame) {
-  RegisterMenuClasses();
-  TFileForm form(nullptr);
-  TStringStream text(FormText);
-  ReadComponentFile(text, &form);
-  TStringStream written;
-  WriteComponentText(written, &form);
-  TFileForm again(nullptr);
-  TStringStream source(written.DataString());
-  ReadComponentFile(source, &again);
-  TStringStream rewritten;
-  WriteComponentText(rewritten, &again);
-  EXPECT_EQ(written.DataString(), rewritten.DataString());
-  EXPECT_NE(written.DataString().find("    object File1: TMenuItem\n"), std::string::npos);
-  EXPECT_NE(written.DataString().find("  ClientWidth = 280\n"), std::string::npos);
-  EXPECT_EQ(written.DataString().find("  Width = "), std::string::npos);
+  const std::string written = TFileForm(FormText).Written();
+  EXPECT_EQ(TFileForm(written).Written(), written);
+  EXPECT_NE(written.find("    object File1: TMenuItem\n"), std::string::npos);
+  EXPECT_NE(written.find("  ClientWidth = 280\n"), std::string::npos);
+  EXPECT_EQ(written.find("  Width = "), std::string::npos);
 }
 
 TEST_F(Forms, WhatDoesNotFollowItsParentHasItsOwnDefaultsWhenItIsRead) {
-  TFileForm form(nullptr);
-  TStringStream text(
-      "object FileForm: TFileForm\n  Color = clRed\n  Font.Height = -30\n"
-      "  object Own: TLabel\n    ParentColor = False\n    ParentFont = False\n  end\n"
-      "  object Follower: TLabel\n  end\nend\n");
-  RegisterStandardControls();
-  ReadComponentFile(text, &form);
+  TFileForm form(
+      "object FileForm: TFileForm Color = clRed Font.Height = -30"
+      " object Own: TLabel ParentColor = False ParentFont = False end"
+      " object Follower: TLabel end end");
   const auto* own = dynamic_cast<TLabel*>(form.FindComponent("Own"));
   const auto* follower = dynamic_cast<TLabel*>(form.FindComponent("Follower"));
   EXPECT_EQ(own->Color(), clWindow);

@@ -4,7 +4,7 @@
 #include "host/rtl/streams.h"
 #include "host/rtl/writer.h"
 #include "host/vcl/imagelist.h"
-#include "tests/support/handles.h"
+#include "tests/support/kepthandles.h"
 #include "tests/vcl/graphics_pixels.h"
 
 namespace vcl::test {
@@ -27,9 +27,19 @@ void AddTwo(TImageList& list) {
 const Rows First = {"RYY", "YRY", "YYR"};
 const Rows Second = {"BYB", "YKY", "BYB"};
 
+/// A list of the two pictures.
+struct TTwo : TImageList {
+  TTwo() : TImageList(nullptr, 3, 3) { AddTwo(*this); }
+};
+
+std::string FileOf(TIcon& icon) {
+  TStringStream stream;
+  icon.SaveToStream(stream);
+  return stream.DataString();
+}
+
 TEST(ImageList, MaskedPicturesLeaveTheirColorOut) {
-  TImageList list(nullptr, 3, 3);
-  AddTwo(list);
+  TTwo list;
   ASSERT_EQ(list.Count(), 2);
   EXPECT_EQ(Drawn(list, 0), First);
   EXPECT_EQ(Drawn(list, 1), Second);
@@ -40,6 +50,9 @@ TEST(ImageList, MaskedPicturesLeaveTheirColorOut) {
   list.Draw(bitmap.Canvas(), 0, 0, 2);
   list.Draw(bitmap.Canvas(), 0, 0, -1);
   EXPECT_EQ(Letters(bitmap), (Rows{"GGGGG", "GRGGG", "GGRGG", "GGGRG"}));
+  list.SetBkColor(clLime);
+  list.Draw(bitmap.Canvas(), 2, 0, 0);
+  EXPECT_EQ(Letters(bitmap), (Rows{"GGRGG", "GRGRG", "GGGGR", "GGGRG"})) << "fills the holes";
 }
 
 TEST(ImageList, AddsByMaskAndWithoutOne) {
@@ -67,18 +80,16 @@ TEST(ImageList, RefusesWhatHoldsNoPicture) {
 }
 
 TEST(ImageList, DeletesCopiesAndClears) {
-  TImageList list(nullptr, 3, 3);
+  TImageList list(nullptr, 3, 3), copy(nullptr);
   int changes = 0;
   list.OnChange = [&](TObject*) { ++changes; };
   AddTwo(list);
-  TImageList copy(nullptr);
   copy.Assign(&list);
   list.Delete(0);
   EXPECT_EQ(changes, 2);
   EXPECT_EQ(list.Count(), 1);
   EXPECT_EQ(Drawn(list, 0), Second);
   EXPECT_EQ(copy.Count(), 2);
-  EXPECT_EQ(copy.Width(), 3);
   EXPECT_EQ(Drawn(copy, 0), First);
   list.Clear();
   EXPECT_EQ(list.Count(), 0);
@@ -86,37 +97,23 @@ TEST(ImageList, DeletesCopiesAndClears) {
   EXPECT_EQ(copy.Count(), 0) << "pictures of another size are none of the list's";
 }
 
-TEST(ImageList, BackgroundFillsTheHoles) {
-  TImageList list(nullptr, 3, 3);
-  AddTwo(list);
-  list.SetBkColor(clLime);
-  TBitmap bitmap(3, 3);
-  list.Draw(bitmap.Canvas(), 0, 0, 0);
-  EXPECT_EQ(Letters(bitmap), (Rows{"RGG", "GRG", "GGR"}));
-}
-
 TEST(ImageList, DisabledPicturesAreEmbossed) {
   TImageList list(nullptr, 4, 4);
-  TBitmap image;
+  TBitmap image, bitmap;
   Paint(image, {"KFFF", "FFFF", "FF.F", "FFFF"});
   list.AddMasked(&image, clFuchsia);
-  TBitmap bitmap;
-  Paint(bitmap, {"GGGG", "GGGG", "GGGG", "GGGG"});
+  const Rows ground = {"GGGG", "GGGG", "GGGG", "GGGG"};
+  Paint(bitmap, ground);
   list.Draw(bitmap.Canvas(), 1, 1, 0, false);
-  TBitmap expected;
-  Paint(expected, {"GGGG", "GGGG", "GGGG", "GGGG"});
-  expected.Canvas()->SetPixel(1, 1, clBtnShadow);
-  expected.Canvas()->SetPixel(2, 2, clBtnHighlight);
-  for (int y = 0; y < 4; ++y) {
-    for (int x = 0; x < 4; ++x) {
-      EXPECT_EQ(bitmap.Canvas()->Pixels(x, y), expected.Canvas()->Pixels(x, y)) << x << ", " << y;
-    }
-  }
+  const auto pixel = [&](int at) { return static_cast<COLORREF>(bitmap.Canvas()->Pixels(at, at)); };
+  EXPECT_EQ(pixel(1), ::GetSysColor(COLOR_BTNSHADOW));
+  EXPECT_EQ(pixel(2), ::GetSysColor(COLOR_BTNHIGHLIGHT));
+  for (int at : {1, 2}) bitmap.Canvas()->SetPixel(at, at, clLime);
+  EXPECT_EQ(Letters(bitmap), ground) << "no other pixel is drawn";
 }
 
 TEST(ImageList, FormFileKeepsThePictures) {
-  TImageList list(nullptr, 3, 3);
-  AddTwo(list);
+  TTwo list;
   TStringStream stream;
   TWriter(stream).WriteRootComponent(&list);
   stream.SetPosition(0);
@@ -138,62 +135,44 @@ TEST(ImageList, FormFileKeepsThePictures) {
 // ---- Icons ----
 
 TEST(Icon, IsTheSameAfterAFile) {
-  TImageList list(nullptr, 3, 3);
-  AddTwo(list);
-  TIcon icon;
+  TTwo list;
+  TIcon icon, read, copy;
   list.GetIcon(1, &icon);
   EXPECT_EQ(icon.Size(), (TSize{3, 3}));
-  TStringStream stream("..");
+  TStringStream stream(".." + FileOf(icon) + "behind");
   stream.SetPosition(2);
-  icon.SaveToStream(stream);
-  stream.WriteText("behind");
-  stream.SetPosition(2);
-  TIcon read;
   read.LoadFromStream(stream);
   EXPECT_EQ(stream.ReadRest(), "behind");
   EXPECT_EQ(read.Size(), (TSize{3, 3}));
-  TBitmap bitmap;
+  TBitmap bitmap, assigned;
   Paint(bitmap, {"YYY", "YYY", "YYY"});
   bitmap.Canvas()->Draw(0, 0, &read);
   EXPECT_EQ(Letters(bitmap), Second);
-  TBitmap assigned;
   assigned.Assign(&read);
   EXPECT_EQ(Letters(assigned), (Rows{"B.B", ".K.", "B.B"}));
-  TIcon copy;
   copy.Assign(&read);
   EXPECT_EQ(copy.Width(), 3);
   EXPECT_TRUE(copy.Handle());
 }
 
-TEST(Icon, ShowsTheImageNearestTheWantedSize) {
-  TBitmap picture(48, 48);
-  TImageList list(nullptr, 48, 48);
+/// The file of an icon of one image, which says that the image stands at `offset`.
+std::string IconFile(int side, std::size_t offset) {
+  TBitmap picture(side, side);
+  TImageList list(nullptr, side, side);
   list.AddMasked(&picture, clFuchsia);
-  TIcon large;
-  list.GetIcon(0, &large);
-  TBitmap smallPicture(16, 16);
-  TImageList smallList(nullptr, 16, 16);
-  smallList.AddMasked(&smallPicture, clFuchsia);
-  TIcon little;
-  smallList.GetIcon(0, &little);
-  TStringStream a;
-  TStringStream b;
-  large.SaveToStream(a);
-  little.SaveToStream(b);
-
-  // One file of the two images.
-  std::string first = a.DataString();
-  std::string second = b.DataString();
-  const auto offset = [](std::string& file, std::size_t value) {
-    for (std::size_t i = 0; i < 4; ++i)
-      file[18 + i] = static_cast<char>(value >> 8 * i);
-  };
-  offset(first, 38);
-  offset(second, 38 + first.size() - 22);
-  const std::string file = std::string("\0\0\1\0\2\0", 6) + first.substr(6, 16) +
-                           second.substr(6, 16) + first.substr(22) + second.substr(22);
   TIcon icon;
-  TStringStream stream(file);
+  list.GetIcon(0, &icon);
+  std::string file = FileOf(icon);
+  for (std::size_t i = 0; i < 4; ++i) file[18 + i] = static_cast<char>(offset >> 8 * i);
+  return file;
+}
+
+TEST(Icon, ShowsTheImageNearestTheWantedSize) {
+  // One file of the two images, which stand behind a heading of 6 bytes and 16 for each.
+  const std::string first = IconFile(48, 38), second = IconFile(16, 38 + first.size() - 22);
+  TStringStream stream(std::string("\0\0\1\0\2\0", 6) + first.substr(6, 16) + second.substr(6, 16) +
+                       first.substr(22) + second.substr(22));
+  TIcon icon;
   icon.LoadFromStream(stream);
   for (const auto& [wanted, shown] : {std::pair(16, 16), {20, 16}, {40, 48}, {64, 48}}) {
     icon.SetSize(wanted, wanted);
@@ -204,62 +183,39 @@ TEST(Icon, ShowsTheImageNearestTheWantedSize) {
 }
 
 TEST(Icon, RefusesDamagedFilesAndKeepsTheOldOne) {
-  TImageList list(nullptr, 3, 3);
-  AddTwo(list);
+  TTwo list;
   TIcon icon;
   list.GetIcon(0, &icon);
-  TStringStream good;
-  icon.SaveToStream(good);
-  const auto spoilt = [&](std::size_t at, char value) {
-    std::string file = good.DataString();
-    file[at] = value;
-    return file;
-  };
-  const std::string files[] = {"",
-                               std::string(6, '\0'),
-                               spoilt(2, 2),
-                               spoilt(4, 0),
-                               spoilt(4, 9),
-                               spoilt(18, 3),
-                               spoilt(11 + 6, '\x7F'),
-                               spoilt(14, 0) /* smaller */,
-                               spoilt(22, 99),
-                               good.DataString().substr(0, good.DataString().size() - 1)};
+  const std::string good = FileOf(icon);
+  std::vector<std::string> files = {"", std::string(6, '\0'), good.substr(0, good.size() - 1)};
+  const std::pair<std::size_t, char> spoilt[] = {{2, 2},    {4, 0},  {4, 9},  {18, 3},
+                                                 {17, 127}, {14, 0}, {22, 99}};
+  for (const auto& [at, value] : spoilt) {
+    files.push_back(good);
+    files.back()[at] = value;
+  }
   const HICON before = icon.Handle();
   for (const std::string& file : files) {
-    if (file == good.DataString()) continue;
+    ASSERT_NE(file, good);
     TStringStream stream(file);
-    EXPECT_THROW(icon.LoadFromStream(stream), EInvalidGraphic) << &file - files;
+    EXPECT_THROW(icon.LoadFromStream(stream), EInvalidGraphic) << &file - files.data();
     EXPECT_EQ(icon.Handle(), before);
   }
 }
 
 TEST(ImageList, ThousandsOfUsesKeepNoHandle) {
   TBitmap bitmap(8, 8);
-  const auto use = [&] {
-    TImageList list(nullptr, 3, 3);
-    AddTwo(list);
+  handles::ExpectNoneKept(1000, 5, [&](int) {
+    TTwo list;
     list.Draw(bitmap.Canvas(), 0, 0, 0);
     list.Draw(bitmap.Canvas(), 0, 0, 1, false);
     TIcon icon;
     list.GetIcon(0, &icon);
-    TStringStream stream;
-    icon.SaveToStream(stream);
-    stream.SetPosition(0);
+    TStringStream stream(FileOf(icon));
     TIcon read;
     read.LoadFromStream(stream);
     bitmap.Canvas()->Draw(0, 0, &read);
-  };
-  for (int i = 0; i < 5; ++i)
-    use();
-  FreeDeviceContexts();
-  const int gdi = handles::GdiObjects();
-  const int user = handles::UserObjects();
-  for (int i = 0; i < 1000; ++i)
-    use();
-  FreeDeviceContexts();
-  EXPECT_EQ(handles::GdiObjects(), gdi);
-  EXPECT_EQ(handles::UserObjects(), user);
+  });
 }
 
 }  // namespace

@@ -1,35 +1,33 @@
 // Fonts, pens, brushes and canvases.
+#include <array>
 #include <cstring>
 
 #include "host/rtl/exceptions.h"
-#include "tests/support/handles.h"
+#include "tests/support/kepthandles.h"
 #include "tests/vcl/graphics_pixels.h"
 
 namespace vcl::test {
 namespace {
 
 TEST(Colors, SystemColorsAreThePresentOnesAndOthersTheirLower24Bits) {
-  const struct {
-    TColor Color;
-    COLORREF Rgb;
-  } cases[] = {
+  const std::pair<TColor, COLORREF> cases[] = {
       {clRed, 0x0000FF},
       {static_cast<TColor>(0x02123456), 0x123456},
       {clNone, 0xFFFFFF},
       {clDefault, 0},
       {clScrollBar, ::GetSysColor(COLOR_SCROLLBAR)},
-      {clBtnFace, ::GetSysColor(COLOR_BTNFACE)},
       {clInfoBk, ::GetSysColor(COLOR_INFOBK)},
   };
-  for (const auto& c : cases)
-    EXPECT_EQ(ColorToRGB(c.Color), c.Rgb) << std::hex << c.Color;
+  for (const auto& [color, rgb] : cases) EXPECT_EQ(ColorToRGB(color), rgb) << std::hex << color;
 }
 
 // ---- The objects ----
 
-LOGFONTA Described(const TFont& font) {
-  LOGFONTA result{};
-  ::GetObjectA(font.Handle(), sizeof result, &result);
+/// What the system says of a font, a brush or a pen.
+template <class T>
+T Described(HGDIOBJ handle) {
+  T result{};
+  ::GetObjectA(handle, sizeof result, &result);
   return result;
 }
 
@@ -37,14 +35,14 @@ TEST(Font, HandleHasWhatTheFontSays) {
   TFont font;
   EXPECT_EQ(font.Height(), -11);
   EXPECT_EQ(font.Size(), 8);
-  EXPECT_STREQ(Described(font).lfFaceName, "Tahoma");
+  EXPECT_STREQ(Described<LOGFONTA>(font.Handle()).lfFaceName, "Tahoma");
 
   font.SetName("Arial");
   font.SetSize(18);
   font.SetStyle({fsBold, fsStrikeOut});
   font.SetPitch(fpFixed);
   font.SetCharset(TFontCharset(SYMBOL_CHARSET));
-  const LOGFONTA described = Described(font);
+  const auto described = Described<LOGFONTA>(font.Handle());
   EXPECT_STREQ(described.lfFaceName, "Arial");
   EXPECT_EQ(described.lfHeight, -24);
   EXPECT_EQ(described.lfWeight, FW_BOLD);
@@ -118,8 +116,7 @@ TEST(Brush, StylesAreTheSystemsHatchesInTheirOrder) {
   brush.SetColor(clRed);
   for (int hatch = HS_HORIZONTAL; hatch <= HS_DIAGCROSS; ++hatch) {
     brush.SetStyle(static_cast<TBrushStyle>(bsHorizontal + hatch));
-    LOGBRUSH described{};
-    ::GetObjectA(brush.Handle(), sizeof described, &described);
+    const auto described = Described<LOGBRUSH>(brush.Handle());
     EXPECT_EQ(described.lbStyle, static_cast<UINT>(BS_HATCHED));
     EXPECT_EQ(described.lbHatch, static_cast<ULONG_PTR>(hatch));
     EXPECT_EQ(described.lbColor, 0xFFU);
@@ -131,8 +128,7 @@ TEST(Pen, HandleHasWhatThePenSays) {
   pen.SetStyle(psDashDot);
   pen.SetColor(clBlue);
   pen.SetWidth(-3);
-  LOGPEN described{};
-  ::GetObjectA(pen.Handle(), sizeof described, &described);
+  const auto described = Described<LOGPEN>(pen.Handle());
   EXPECT_EQ(described.lopnStyle, static_cast<UINT>(PS_DASHDOT));
   EXPECT_EQ(described.lopnColor, 0xFF0000U);
   EXPECT_EQ(described.lopnWidth.x, 1) << "a negative width is not taken";
@@ -186,10 +182,7 @@ TEST(Canvas, DrawsShapes) {
          c.Pen()->SetStyle(psClear);
          c.Rectangle(0, 0, 4, 3);
        },
-       {"RRR..",
-        "RR"
-        "R..",
-        ".....", "....."}},
+       {"RRR..", "RRR..", ".....", "....."}},
       {"not and xor",
        [](TCanvas& c) {
          c.FillRect(Rect(0, 0, 5, 1));
@@ -244,23 +237,23 @@ TEST(Canvas, WithoutAContextRefusesToDraw) {
 
 TEST(Canvas, GivesTheContextBackAsItWas) {
   const TMemoryDC dc;
-  const HGDIOBJ font = ::GetCurrentObject(dc.Get(), OBJ_FONT);
-  const HGDIOBJ pen = ::GetCurrentObject(dc.Get(), OBJ_PEN);
-  const HGDIOBJ brush = ::GetCurrentObject(dc.Get(), OBJ_BRUSH);
+  const auto selected = [&] {
+    return std::array{::GetCurrentObject(dc.Get(), OBJ_FONT), ::GetCurrentObject(dc.Get(), OBJ_PEN),
+                      ::GetCurrentObject(dc.Get(), OBJ_BRUSH)};
+  };
+  const auto before = selected();
   TCanvas canvas;
   canvas.SetHandle(dc.Get());
   canvas.Font()->SetSize(30);
   canvas.Pen()->SetColor(clRed);
   canvas.Brush()->SetColor(clRed);
   ASSERT_EQ(canvas.Handle(), dc.Get());
-  EXPECT_EQ(::GetCurrentObject(dc.Get(), OBJ_FONT), canvas.Font()->Handle());
+  EXPECT_EQ(selected()[0], canvas.Font()->Handle());
   canvas.Pen()->SetColor(clLime);
   canvas.LineTo(3, 3);
-  EXPECT_EQ(::GetCurrentObject(dc.Get(), OBJ_PEN), canvas.Pen()->Handle());
+  EXPECT_EQ(selected()[1], canvas.Pen()->Handle());
   canvas.SetHandle(nullptr);
-  EXPECT_EQ(::GetCurrentObject(dc.Get(), OBJ_FONT), font);
-  EXPECT_EQ(::GetCurrentObject(dc.Get(), OBJ_PEN), pen);
-  EXPECT_EQ(::GetCurrentObject(dc.Get(), OBJ_BRUSH), brush);
+  EXPECT_EQ(selected(), before);
 }
 
 TEST(Canvas, WhatIsSetThroughTheHandleStaysUntilTheBrushChanges) {
@@ -423,10 +416,9 @@ TEST(Canvas, TransparentBitmapLeavesItsColorOut) {
 // ---- Handles ----
 
 TEST(Canvas, TenThousandPaintsKeepNoHandle) {
-  TBitmap bitmap(16, 16);
-  TBitmap picture(8, 8);
+  TBitmap bitmap(16, 16), picture(8, 8);
   picture.SetTransparent(true);
-  const auto paint = [&](int i) {
+  handles::ExpectNoneKept(10000, 14, [&](int i) {
     const auto color = static_cast<TColor>(i);
     TCanvas& canvas = *bitmap.Canvas();
     canvas.Brush()->SetColor(color);
@@ -440,17 +432,7 @@ TEST(Canvas, TenThousandPaintsKeepNoHandle) {
     TBitmap temporary(4, 4);
     temporary.Canvas()->FillRect(Rect(0, 0, 4, 4));
     if (i % 7 == 0) FreeDeviceContexts();
-  };
-  for (int i = 0; i < 14; ++i)
-    paint(i);
-  FreeDeviceContexts();
-  const int gdi = handles::GdiObjects();
-  const int user = handles::UserObjects();
-  for (int i = 0; i < 10000; ++i)
-    paint(i);
-  FreeDeviceContexts();
-  EXPECT_EQ(handles::GdiObjects(), gdi);
-  EXPECT_EQ(handles::UserObjects(), user);
+  });
 }
 
 }  // namespace

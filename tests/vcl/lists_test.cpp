@@ -25,28 +25,25 @@ class Lists : public TStandardForm {
 TEST_F(Lists, ItemsAreTheSameWithAndWithoutAWindow) {
   auto* box = Make<TListBox>(10, 10);
   auto* combo = Make<TComboBox>(200, 10);
-  const struct {
-    TCustomListControl* List;
-    bool Combo;
-  } cases[] = {{box, false}, {combo, true}};
-  for (const auto& each : cases) {
-    TStrings& items = *each.List->Items();
+  for (TCustomListControl* list : std::initializer_list<TCustomListControl*>{box, combo}) {
+    const auto shown = [&] { return WindowItems(*list, list == combo); };
+    TStrings& items = *list->Items();
     items.AddObject("b", box);
     items.Insert(0, "ü");
-    EXPECT_EQ(WindowItems(*each.List, each.Combo), "ü,b,");
+    EXPECT_EQ(shown(), "ü,b,");
     items.Add("c");
     items.Delete(0);
     items.SetStrings(1, "C");
-    EXPECT_EQ(WindowItems(*each.List, each.Combo), "b,C,");
+    EXPECT_EQ(shown(), "b,C,");
     EXPECT_EQ(items.CommaText(), "b,C");
     EXPECT_EQ(items.Objects(0), box);
     EXPECT_THROW(items.Strings(2), EStringListError);
     EXPECT_THROW(items.Delete(-1), EStringListError);
     EXPECT_THROW(items.Insert(3, ""), EStringListError);
-    EXPECT_THROW(each.List->SetItemIndex(2), EListError);
-    EXPECT_THROW(each.List->SetItemIndex(-2), EListError);
-    each.List->Clear();
-    EXPECT_EQ(WindowItems(*each.List, each.Combo), "");
+    EXPECT_THROW(list->SetItemIndex(2), EListError);
+    EXPECT_THROW(list->SetItemIndex(-2), EListError);
+    list->Clear();
+    EXPECT_EQ(shown(), "");
   }
 }
 
@@ -185,8 +182,7 @@ TEST_F(Lists, ChoosingAnItemIsAClickAndAChange) {
 
 TEST_F(Lists, AComboBoxShowsAsManyItemsAsItMay) {
   auto* combo = Make<TComboBox>(10, 10);
-  for (int i = 0; i < 20; ++i)
-    combo->Items()->Add(std::to_string(i));
+  for (int i = 0; i < 20; ++i) combo->Items()->Add(std::to_string(i));
   combo->SetDropDownCount(5);
   ShowForm();
   const int height = combo->Height();

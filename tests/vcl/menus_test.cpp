@@ -13,6 +13,7 @@ namespace vcl {
 namespace {
 
 using namespace testinput;
+using TLog = std::vector<std::string>;
 
 class Menus : public ::testing::Test {
  protected:
@@ -35,7 +36,7 @@ class Menus : public ::testing::Test {
   static UINT StateAt(HMENU menu, int index) {
     return ::GetMenuState(menu, static_cast<UINT>(index), MF_BYPOSITION);
   }
-  std::vector<std::string> Clicked;
+  TLog Clicked;
   TPopupMenu Menu;
 };
 
@@ -92,16 +93,13 @@ TEST_F(Menus, TheHandleFollowsTheItems) {
 }
 
 TEST_F(Menus, RadioItemsOfAGroupExcludeEachOther) {
-  std::vector<TMenuItem*> items;
   for (const char* caption : {"A", "B", "C"}) {
-    items.push_back(Add(caption));
-    items.back()->SetRadioItem(true);
-    items.back()->SetGroupIndex(caption[0] == 'C' ? 2 : 1);
-    items.back()->SetChecked(true);
+    TMenuItem* item = Add(caption);
+    item->SetRadioItem(true);
+    item->SetGroupIndex(caption[0] == 'C' ? 2 : 1);
+    item->SetChecked(true);
   }
-  EXPECT_FALSE(items[0]->Checked());
-  EXPECT_TRUE(items[1]->Checked());
-  EXPECT_TRUE(items[2]->Checked());
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(Menu.Items()->Items(i)->Checked(), i > 0) << i;
 }
 
 TEST_F(Menus, WrongPlacesAreRefused) {
@@ -124,7 +122,7 @@ TEST_F(Menus, CommandsReachTheirItemsUnlessDisabled) {
   EXPECT_TRUE(Menu.DispatchCommand(inner->Command()));
   outer->SetEnabled(false);
   Menu.DispatchCommand(inner->Command());
-  EXPECT_EQ(Clicked, std::vector<std::string>{"Inner"});
+  EXPECT_EQ(Clicked, TLog{"Inner"});
   EXPECT_FALSE(Menu.DispatchCommand(1));
 }
 
@@ -149,22 +147,19 @@ class OnAForm : public Menus {
 
 TEST_F(OnAForm, AKeyChoosesFromAPopup) {
   Add("First");
-  TMenuItem* second = Add("Second");
-  Add(second, "Inside");
+  Add(Add("Second"), "Inside");
   int popups = 0;
   Menu.OnPopup = [&](TObject*) { ++popups; };
-  Keys({VK_DOWN, VK_RETURN});
-  Menu.Popup(250, 250);
-  EXPECT_EQ(Clicked, std::vector<std::string>{"First"});
-  Clicked.clear();
-  Keys({VK_DOWN, VK_DOWN, VK_RIGHT, VK_RETURN});
-  Menu.Popup(250, 250);
-  EXPECT_EQ(Clicked,
-            (std::vector<std::string>{"Second", "Inside"}));  // A submenu opens with a click.
-  Clicked.clear();
-  Keys({VK_ESCAPE});
-  Menu.Popup(250, 250);
-  EXPECT_TRUE(Clicked.empty());
+  const auto chosen = [&](std::initializer_list<WORD> keys) {
+    Clicked.clear();
+    Keys(keys);
+    Menu.Popup(250, 250);
+    return Clicked;
+  };
+  EXPECT_EQ(chosen({VK_DOWN, VK_RETURN}), TLog{"First"});
+  EXPECT_EQ(chosen({VK_DOWN, VK_DOWN, VK_RIGHT, VK_RETURN}), (TLog{"Second", "Inside"}))
+      << "a submenu opens with a click";
+  EXPECT_EQ(chosen({VK_ESCAPE}), TLog{});
   EXPECT_EQ(popups, 3);
 }
 
@@ -184,17 +179,11 @@ TEST_F(OnAForm, ARightClickBringsThePopupUp) {
 
 TEST_F(OnAForm, AMenuMayBeFreedByItsOwnItem) {
   auto* passing = new TPopupMenu(nullptr);
-  auto* item = new TMenuItem(nullptr);
-  item->SetCaption("End");
-  passing->Items()->Add(item);
-  bool gone = false;
-  item->OnClick = [&](TObject*) {
-    delete passing;
-    gone = true;
-  };
+  TWatch watch(passing);
+  Add(passing->Items(), "End")->OnClick = [&](TObject*) { delete passing; };
   Keys({VK_DOWN, VK_RETURN});
   passing->Popup(250, 250);
-  EXPECT_TRUE(gone);
+  EXPECT_TRUE(watch.Gone());
 }
 
 TEST_F(OnAForm, ShortcutsOfBarAndPopupAreTakenBeforeTheControl) {
@@ -209,7 +198,7 @@ TEST_F(OnAForm, ShortcutsOfBarAndPopupAreTakenBeforeTheControl) {
   TypeKey('S', {VK_CONTROL});
   TypeKey(VK_F5);
   EXPECT_TRUE(PumpUntil([&] { return Clicked.size() == 3; }));
-  EXPECT_EQ(Clicked, (std::vector<std::string>{"&File", "Save", "Popup's"}));
+  EXPECT_EQ(Clicked, (TLog{"&File", "Save", "Popup's"}));
   EXPECT_EQ(keys, 0);
   file->OnClick = [&](TObject*) { save->SetEnabled(false); };
   TypeKey('S', {VK_CONTROL});
@@ -226,7 +215,7 @@ TEST_F(OnAForm, TheBarStandsOnTheFormAndGoesWithItsMenu) {
   EXPECT_LT(Form.ClientHeight(), height);
   TMenuItem* file = bar->Items()->Items(0);
   ::SendMessageW(Form.Handle(), WM_COMMAND, file->Command(), 0);
-  EXPECT_EQ(Clicked, std::vector<std::string>{"File"});
+  EXPECT_EQ(Clicked, TLog{"File"});
   delete bar;
   EXPECT_EQ(Form.Menu(), nullptr);
   EXPECT_EQ(::GetMenu(Form.Handle()), nullptr);

@@ -1,12 +1,8 @@
 // Page controls, panels, track bars, timers, and all standard controls in a form file.
 #include "tests/vcl/standardform.h"
 
-#include <map>
-
-#include "host/rtl/classregistry.h"
 #include "host/rtl/formfile.h"
 #include "host/rtl/streams.h"
-#include "host/rtl/writer.h"
 #include "host/vcl/bitmap.h"
 #include "host/vcl/standardcontrols.h"
 #include "host/vcl/windowtext.h"
@@ -163,12 +159,11 @@ TEST_F(Pages, PanelsDrawTheirBevelsAroundTheControls) {
   const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
   const COLORREF dark = ::GetSysColor(COLOR_BTNSHADOW);
   // From the left edge to the middle, and on to the right edge.
-  const std::pair<int, COLORREF> cases[] = {{0, light}, {1, light}, {2, RGB(0, 255, 0)},
-                                            {4, RGB(0, 255, 0)}, {5, dark}, {6, dark},
+  const std::pair<int, COLORREF> cases[] = {{0, light},           {1, light},  {2, RGB(0, 255, 0)},
+                                            {4, RGB(0, 255, 0)},  {5, dark},   {6, dark},
                                             {30, RGB(255, 0, 0)}, {53, light}, {54, light},
-                                            {55, RGB(0, 255, 0)}, {58, dark}, {59, dark}};
-  for (const auto& [x, color] : cases)
-    EXPECT_EQ(pixel(x, 20), color) << x;
+                                            {55, RGB(0, 255, 0)}, {58, dark},  {59, dark}};
+  for (const auto& [x, color] : cases) EXPECT_EQ(pixel(x, 20), color) << x;
   EXPECT_THROW(panel->SetBevelWidth(0), EArgumentOutOfRangeException);
   EXPECT_THROW(panel->SetBorderWidth(-1), EArgumentOutOfRangeException);
 }
@@ -213,148 +208,49 @@ TEST_F(Pages, ATimerTicksUntilItIsStoppedOrFreed) {
   EXPECT_EQ(others, 1);
 }
 
-/// No standard control's constructor gives another value than the table declares.
-TEST_F(Pages, NewControlsHaveTheirDeclaredDefaults) {
-  RegisterStandardControls();
-  int properties = 0;
-  for (const TClass* each : RegisteredClasses()) {
-    if (!each->Maker().Component || each->InheritsFrom(TCustomForm::Class())) continue;
-    const std::unique_ptr<TComponent> component(each->Maker().Component(nullptr));
-    for (const TPropInfo* property : each->Published()) {
-      if (property->IsEvent() || !property->DefaultValue) continue;
-      ++properties;
-      EXPECT_EQ(property->Get(*component), *property->DefaultValue)
-          << each->Name() << "." << property->Name;
-    }
-  }
-  EXPECT_GT(properties, 150);
-}
-
-constexpr const char* FormText = R"(object Form1: TForm
-  Left = 0
-  Top = 0
-  Width = 400
-  Height = 300
-  Caption = 'All'
+constexpr const char* FormText = R"(object Form1: TForm Width = 400 Height = 300
   object PageControl1: TPageControl
-    Left = 8
-    Top = 8
-    Width = 380
-    Height = 200
-    ActivePage = TabSheet2
-    TabOrder = 0
-    object TabSheet1: TTabSheet
-      Caption = 'First'
-      object ListBox1: TListBox
-        Left = 8
-        Top = 8
-        Width = 121
-        Height = 97
-        Sorted = True
-        Items.Strings = (
-          'pear'
-          'apple')
-        TabOrder = 0
-      end
+    Left = 8 Top = 8 Width = 380 Height = 200 ActivePage = TabSheet2
+    object TabSheet1: TTabSheet Caption = 'First'
+      object ListBox1: TListBox Sorted = True Items.Strings = ('pear' 'apple') end
     end
-    object TabSheet2: TTabSheet
-      Caption = 'Second'
+    object TabSheet2: TTabSheet Caption = 'Second'
       object ComboBox1: TComboBox
-        Left = 8
-        Top = 8
-        Width = 145
-        Height = 21
-        Style = csDropDownList
-        TabOrder = 0
-        ItemIndex = 1
-        Items.Strings = (
-          'a'
-          'b')
+        Style = csDropDownList ItemIndex = 1 Items.Strings = ('a' 'b')
       end
       object ComboBox2: TComboBox
-        Left = 8
-        Top = 40
-        Width = 145
-        Height = 21
-        Style = csDropDownList
-        TabOrder = 1
-        Text = 'b'
-        Items.Strings = (
-          'a'
-          'b')
+        Style = csDropDownList Text = 'b' Items.Strings = ('a' 'b')
       end
-      object RadioButton1: TRadioButton
-        Left = 8
-        Top = 70
-        Width = 113
-        Height = 17
-        Checked = True
-        TabOrder = 2
-        TabStop = True
-      end
-      object RadioButton2: TRadioButton
-        Left = 8
-        Top = 90
-        Width = 113
-        Height = 17
-        TabOrder = 3
-      end
-      object Memo1: TMemo
-        Left = 200
-        Top = 8
-        Width = 100
-        Height = 50
-        Lines.Strings = (
-          'one'
-          'two')
-        ScrollBars = ssVertical
-        TabOrder = 4
-      end
-      object Edit1: TEdit
-        Left = 200
-        Top = 70
-        Width = 121
-        Height = 21
-        PasswordChar = '*'
-        TabOrder = 5
-        Text = 'secret'
-      end
+      object RadioButton1: TRadioButton Checked = True TabStop = True end
+      object RadioButton2: TRadioButton end
+      object Memo1: TMemo Lines.Strings = ('one' 'two') ScrollBars = ssVertical end
+      object Edit1: TEdit PasswordChar = '*' Text = 'secret' end
     end
   end
-  object Label1: TLabel
-    Left = 8
-    Top = 220
-    Width = 24
-    Height = 13
-    Caption = '&Edit'
-    FocusControl = Edit1
-  end
+  object Label1: TLabel Caption = '&Edit' FocusControl = Edit1 end
 end
 )";
 
 class TReadForm : public TForm {
  public:
-  using TForm::TForm;
+  explicit TReadForm(const std::string& text) : TForm(nullptr) {
+    TStringStream stream(text);
+    ReadComponentFile(stream, this);
+  }
   template <class T>
   T* Get(const char* name) {
     return dynamic_cast<T*>(FindComponent(name));
   }
+  std::string Written() {
+    TStringStream text;
+    WriteComponentText(text, this);
+    return text.DataString();
+  }
 };
-
-std::string Written(TComponent& root) {
-  TMemoryStream binary;
-  TWriter(binary).WriteRootComponent(&root);
-  binary.SetPosition(0);
-  TStringStream text("");
-  ObjectBinaryToText(binary, text);
-  return text.DataString();
-}
 
 TEST_F(Pages, AFormFileHoldsTheStandardControls) {
   RegisterStandardControls();
-  TReadForm form(nullptr);
-  TStringStream text(FormText);
-  ReadComponentFile(text, &form);
+  TReadForm form(FormText);
   auto* pages = form.Get<TPageControl>("PageControl1");
   ASSERT_NE(pages, nullptr);
   EXPECT_EQ(pages->PageCount(), 2);
@@ -368,11 +264,7 @@ TEST_F(Pages, AFormFileHoldsTheStandardControls) {
   EXPECT_EQ(form.Get<TEdit>("Edit1")->Text(), "secret");
   EXPECT_EQ(form.Get<TLabel>("Label1")->FocusControl(), form.Get<TEdit>("Edit1"));
 
-  const std::string written = Written(form);
-  TReadForm again(nullptr);
-  TStringStream second(written);
-  ReadComponentFile(second, &again);
-  EXPECT_EQ(Written(again), written);
+  EXPECT_EQ(TReadForm(form.Written()).Written(), form.Written());
   form.Show();
   testinput::Pump();
   EXPECT_TRUE(::IsWindowVisible(form.Get<TMemo>("Memo1")->Handle()));
