@@ -4110,6 +4110,1275 @@ object GalleryForm: TGalleryForm
         end
       end
     end
+    object GaugesPage: TTabSheet
+      Caption = 'Gauges'
+      object GlyphSidesHeading: TLabel
+        Left = 16
+        Top = 8
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'The glyph on each side of the bar'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object GlyphSidesLine: TBevel
+        Left = 16
+        Top = 24
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object GlyphLeftGauge: TQELGauge
+        Left = 16
+        Top = 46
+        Width = 148
+        Height = 40
+        Glyph.TransparentColor = clFuchsia
+        Glyph.Bitmap.Data = {
+          F6000000424DF600000000000000760000002800000010000000100000000100
+          0400000000008000000000000000000000001000000000000000FF00FF000000
+          000030384000FFFFFF00E0E0E000A0A0A0006868680060E0FF0030A8E0002058
+          880058B84800387018004048E00028209000E8905800A0482000000000000000
+          00000000000000000000000000B00000000000000BAB000000000000BAAAB000
+          0000000BAAAAAB00000000BAAAAAAAB000000BAAAABAAAB000000BAAAB0BAAAB
+          000000BAB000BAAAB000000B00000BAAAB000000000000BAAAB00000000000BA
+          AB0000000000000BB00000000000000000000000000000000000}
+        Glyph.NumGlyphs = 1
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 6
+        Kind = kHorizontal
+        SegmentColor = 15773792
+        Percentage = 25
+      end
+      object GlyphLeftCaption: TLabel
+        Left = 16
+        Top = 103
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'pLeft'
+      end
+      object GlyphRightGauge: TQELGauge
+        Left = 172
+        Top = 46
+        Width = 148
+        Height = 40
+        Glyph.TransparentColor = clFuchsia
+        Glyph.Bitmap.Data = {
+          F6000000424DF600000000000000760000002800000010000000100000000100
+          0400000000008000000000000000000000001000000000000000FF00FF000000
+          000030384000FFFFFF00E0E0E000A0A0A0006868680060E0FF0030A8E0002058
+          880058B84800387018004048E00028209000E8905800A0482000000000000000
+          00000000000000000000000000B00000000000000BAB000000000000BAAAB000
+          0000000BAAAAAB00000000BAAAAAAAB000000BAAAABAAAB000000BAAAB0BAAAB
+          000000BAB000BAAAB000000B00000BAAAB000000000000BAAAB00000000000BA
+          AB0000000000000BB00000000000000000000000000000000000}
+        Glyph.NumGlyphs = 1
+        BevelInner.FrameStyle = frameLowered
+        PicturePosition = pRight
+        Borderwidth = 6
+        Kind = kHorizontal
+        SegmentColor = 15773792
+        Percentage = 50
+      end
+      object GlyphRightCaption: TLabel
+        Left = 172
+        Top = 103
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'pRight'
+      end
+      object GlyphTopGauge: TQELGauge
+        Left = 328
+        Top = 32
+        Width = 148
+        Height = 68
+        Glyph.TransparentColor = clFuchsia
+        Glyph.Bitmap.Data = {
+          F6000000424DF600000000000000760000002800000010000000100000000100
+          0400000000008000000000000000000000001000000000000000FF00FF000000
+          000030384000FFFFFF00E0E0E000A0A0A0006868680060E0FF0030A8E0002058
+          880058B84800387018004048E00028209000E8905800A0482000000000000000
+          00000000000000000000000000B00000000000000BAB000000000000BAAAB000
+          0000000BAAAAAB00000000BAAAAAAAB000000BAAAABAAAB000000BAAAB0BAAAB
+          000000BAB000BAAAB000000B00000BAAAB000000000000BAAAB00000000000BA
+          AB0000000000000BB00000000000000000000000000000000000}
+        Glyph.NumGlyphs = 1
+        BevelInner.FrameStyle = frameLowered
+        PicturePosition = pTop
+        Borderwidth = 6
+        Kind = kHorizontal
+        SegmentColor = 15773792
+        Percentage = 75
+      end
+      object GlyphTopCaption: TLabel
+        Left = 328
+        Top = 103
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'pTop'
+      end
+      object GlyphBottomGauge: TQELGauge
+        Left = 484
+        Top = 32
+        Width = 148
+        Height = 68
+        Glyph.TransparentColor = clFuchsia
+        Glyph.Bitmap.Data = {
+          F6000000424DF600000000000000760000002800000010000000100000000100
+          0400000000008000000000000000000000001000000000000000FF00FF000000
+          000030384000FFFFFF00E0E0E000A0A0A0006868680060E0FF0030A8E0002058
+          880058B84800387018004048E00028209000E8905800A0482000000000000000
+          00000000000000000000000000B00000000000000BAB000000000000BAAAB000
+          0000000BAAAAAB00000000BAAAAAAAB000000BAAAABAAAB000000BAAAB0BAAAB
+          000000BAB000BAAAB000000B00000BAAAB000000000000BAAAB00000000000BA
+          AB0000000000000BB00000000000000000000000000000000000}
+        Glyph.NumGlyphs = 1
+        BevelInner.FrameStyle = frameLowered
+        PicturePosition = pBottom
+        Borderwidth = 6
+        Kind = kHorizontal
+        SegmentColor = 15773792
+        Percentage = 100
+      end
+      object GlyphBottomCaption: TLabel
+        Left = 484
+        Top = 103
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'pBottom'
+      end
+      object UprightHeading: TLabel
+        Left = 16
+        Top = 124
+        Width = 300
+        Height = 13
+        AutoSize = False
+        Caption = 'Upright: widths and gaps of the segments'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object UprightLine: TBevel
+        Left = 16
+        Top = 140
+        Width = 300
+        Height = 2
+        Shape = bsTopLine
+      end
+      object Upright0Gauge: TQELGauge
+        Left = 16
+        Top = 150
+        Width = 52
+        Height = 120
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 6
+        Kind = kVertical
+      end
+      object Upright0Caption: TLabel
+        Left = 11
+        Top = 271
+        Width = 62
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = '8 and 2'
+      end
+      object Upright30Gauge: TQELGauge
+        Left = 78
+        Top = 150
+        Width = 52
+        Height = 120
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 6
+        Kind = kVertical
+        SegmentWidth = 3
+        SegmentColor = 6336608
+        Percentage = 30
+      end
+      object Upright30Caption: TLabel
+        Left = 73
+        Top = 271
+        Width = 62
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = '3 and 2'
+      end
+      object Upright50Gauge: TQELGauge
+        Left = 140
+        Top = 150
+        Width = 52
+        Height = 120
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 6
+        Kind = kVertical
+        SegmentGap = 1
+        SegmentWidth = 1
+        SegmentColor = 12632064
+        Percentage = 50
+      end
+      object Upright50Caption: TLabel
+        Left = 135
+        Top = 271
+        Width = 62
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = '1 and 1'
+      end
+      object Upright75Gauge: TQELGauge
+        Left = 202
+        Top = 150
+        Width = 52
+        Height = 120
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 6
+        Kind = kVertical
+        SegmentGap = 6
+        SegmentWidth = 16
+        SegmentColor = 15773792
+        Percentage = 75
+      end
+      object Upright75Caption: TLabel
+        Left = 197
+        Top = 271
+        Width = 62
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = '16 and 6'
+      end
+      object Upright100Gauge: TQELGauge
+        Left = 264
+        Top = 150
+        Width = 52
+        Height = 120
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 6
+        Kind = kVertical
+        SegmentGap = 0
+        SegmentColor = 8437984
+        Percentage = 100
+      end
+      object Upright100Caption: TLabel
+        Left = 259
+        Top = 271
+        Width = 62
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = '8 and 0'
+      end
+      object BevelPairsHeading: TLabel
+        Left = 332
+        Top = 124
+        Width = 300
+        Height = 13
+        AutoSize = False
+        Caption = 'Bevels, outer and inner'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object BevelPairsLine: TBevel
+        Left = 332
+        Top = 140
+        Width = 300
+        Height = 2
+        Shape = bsTopLine
+      end
+      object BevelRaisedGauge: TQELGauge
+        Left = 332
+        Top = 150
+        Width = 146
+        Height = 28
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentColor = 10541216
+        Percentage = 15
+      end
+      object BevelRaisedCaption: TLabel
+        Left = 332
+        Top = 179
+        Width = 146
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'Raised, Lowered'
+      end
+      object BevelLoweredGauge: TQELGauge
+        Left = 486
+        Top = 150
+        Width = 146
+        Height = 28
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameRaised
+        BevelOuter.FrameStyle = frameLowered
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentColor = 10541216
+        Percentage = 30
+      end
+      object BevelLoweredCaption: TLabel
+        Left = 486
+        Top = 179
+        Width = 146
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'Lowered, Raised'
+      end
+      object BevelFramedUpGauge: TQELGauge
+        Left = 332
+        Top = 196
+        Width = 146
+        Height = 28
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameFramedDown
+        BevelOuter.FrameStyle = frameFramedUp
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentColor = 10541216
+        Percentage = 45
+      end
+      object BevelFramedUpCaption: TLabel
+        Left = 332
+        Top = 225
+        Width = 146
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'FramedUp, FramedDown'
+      end
+      object BevelPanelUpGauge: TQELGauge
+        Left = 486
+        Top = 196
+        Width = 146
+        Height = 28
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = framePanelDown
+        BevelOuter.FrameStyle = framePanelUp
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentColor = 10541216
+        Percentage = 60
+      end
+      object BevelPanelUpCaption: TLabel
+        Left = 486
+        Top = 225
+        Width = 146
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'PanelUp, PanelDown'
+      end
+      object BevelSolidGauge: TQELGauge
+        Left = 332
+        Top = 242
+        Width = 146
+        Height = 28
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameLightBordered
+        BevelOuter.FrameStyle = frameSolid
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentColor = 10541216
+        Percentage = 75
+      end
+      object BevelSolidCaption: TLabel
+        Left = 332
+        Top = 271
+        Width = 146
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'Solid, LightBordered'
+      end
+      object BevelNoneGauge: TQELGauge
+        Left = 486
+        Top = 242
+        Width = 146
+        Height = 28
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameNone
+        BevelOuter.FrameStyle = frameNone
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentColor = 10541216
+        Percentage = 90
+      end
+      object BevelNoneCaption: TLabel
+        Left = 486
+        Top = 271
+        Width = 146
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'None, None'
+      end
+      object GaugeFontsHeading: TLabel
+        Left = 16
+        Top = 294
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'Fonts and three-dimensional text'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object GaugeFontsLine: TBevel
+        Left = 16
+        Top = 310
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object RaisedGauge: TQELGauge
+        Left = 16
+        Top = 320
+        Width = 148
+        Height = 40
+        Glyph.TransparentColor = clBlack
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clRed
+        Font.Height = -18
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        Font3D.Style3D = fontRaised
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentGap = 1
+        SegmentWidth = 20
+        SegmentColor = clSilver
+        Percentage = 30
+      end
+      object RaisedGaugeCaption: TLabel
+        Left = 16
+        Top = 361
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'fontRaised'
+      end
+      object InsetGauge: TQELGauge
+        Left = 172
+        Top = 320
+        Width = 148
+        Height = 40
+        Glyph.TransparentColor = clBlack
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -20
+        Font.Name = 'Times New Roman'
+        Font.Style = [fsBold, fsItalic]
+        Font3D.Style3D = fontInset
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentGap = 1
+        SegmentWidth = 20
+        SegmentColor = clAqua
+        Percentage = 45
+      end
+      object InsetGaugeCaption: TLabel
+        Left = 172
+        Top = 361
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'fontInset'
+      end
+      object OutlineGauge: TQELGauge
+        Left = 328
+        Top = 320
+        Width = 148
+        Height = 40
+        Glyph.TransparentColor = clBlack
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clYellow
+        Font.Height = -20
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        Font3D.Style3D = fontOutLineShadow
+        Font3D.Shadow = clBlack
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentGap = 1
+        SegmentWidth = 20
+        SegmentColor = clGreen
+        Percentage = 60
+      end
+      object OutlineGaugeCaption: TLabel
+        Left = 328
+        Top = 361
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'fontOutLineShadow'
+      end
+      object TrailGauge: TQELGauge
+        Left = 484
+        Top = 320
+        Width = 148
+        Height = 40
+        Glyph.TransparentColor = clBlack
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clMaroon
+        Font.Height = -18
+        Font.Name = 'Courier New'
+        Font.Style = [fsBold]
+        Font3D.Style3D = fontOnlyShadow
+        Font3D.Repetition = repeatOnShadow
+        Font3D.RepetitionColor = 12632319
+        Font3D.Repetitionwidth = 5
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentGap = 1
+        SegmentWidth = 20
+        SegmentColor = clYellow
+        Percentage = 90
+      end
+      object TrailGaugeCaption: TLabel
+        Left = 484
+        Top = 361
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'repeatOnShadow'
+      end
+      object GaugeBackgroundsHeading: TLabel
+        Left = 16
+        Top = 382
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'On a background'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object GaugeBackgroundsLine: TBevel
+        Left = 16
+        Top = 398
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object GaugeGradient: TQELGauge
+        Left = 16
+        Top = 408
+        Width = 148
+        Height = 44
+        Glyph.TransparentColor = clBlack
+        Background = FourColoursBackground
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 9
+        Kind = kHorizontal
+        SegmentColor = 15773792
+        Percentage = 35
+      end
+      object GaugeGradientCaption: TLabel
+        Left = 16
+        Top = 453
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'Gradient'
+      end
+      object GaugeTexture: TQELGauge
+        Left = 172
+        Top = 408
+        Width = 148
+        Height = 44
+        Glyph.TransparentColor = clBlack
+        Background = TiledBackground
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 9
+        Kind = kHorizontal
+        SegmentColor = 8437984
+        Percentage = 55
+      end
+      object GaugeTextureCaption: TLabel
+        Left = 172
+        Top = 453
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'Texture'
+      end
+      object GaugePattern: TQELGauge
+        Left = 328
+        Top = 408
+        Width = 148
+        Height = 44
+        Glyph.TransparentColor = clBlack
+        Background = SolidDiagCrossBackground
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 9
+        Kind = kHorizontal
+        SegmentColor = 10541216
+        Percentage = 70
+      end
+      object GaugePatternCaption: TLabel
+        Left = 328
+        Top = 453
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'Pattern'
+      end
+      object GaugeFrameless: TQELGauge
+        Left = 484
+        Top = 408
+        Width = 148
+        Height = 44
+        Glyph.TransparentColor = clBlack
+        Background = RoundMiddleBackground
+        BevelInner.FrameStyle = frameSolid
+        BevelOuter.FrameStyle = frameNone
+        Borderwidth = 9
+        Kind = kHorizontal
+        SegmentColor = 15773792
+        Percentage = 85
+      end
+      object GaugeFramelessCaption: TLabel
+        Left = 484
+        Top = 453
+        Width = 148
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'Frameless'
+      end
+      object GaugeSampleAreaHeading: TLabel
+        Left = 16
+        Top = 474
+        Width = 300
+        Height = 13
+        AutoSize = False
+        Caption = 'A sample, set on the right'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object GaugeSampleAreaLine: TBevel
+        Left = 16
+        Top = 490
+        Width = 300
+        Height = 2
+        Shape = bsTopLine
+      end
+      object SampleGauge: TQELGauge
+        Left = 16
+        Top = 500
+        Width = 300
+        Height = 80
+        Glyph.TransparentColor = clFuchsia
+        Glyph.Bitmap.Data = {
+          F6000000424DF600000000000000760000002800000010000000100000000100
+          0400000000008000000000000000000000001000000000000000FF00FF000000
+          000030384000FFFFFF00E0E0E000A0A0A0006868680060E0FF0030A8E0002058
+          880058B84800387018004048E00028209000E8905800A0482000000000000000
+          00000000000000000000000000B00000000000000BAB000000000000BAAAB000
+          0000000BAAAAAB00000000BAAAAAAAB000000BAAAABAAAB000000BAAAB0BAAAB
+          000000BAB000BAAAB000000B00000BAAAB000000000000BAAAB00000000000BA
+          AB0000000000000BB00000000000000000000000000000000000}
+        Glyph.NumGlyphs = 1
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clWhite
+        Font.Height = -19
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        Font3D.Style3D = fontOutLineShadow
+        Background = StageBackground
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 10
+        Kind = kHorizontal
+        SegmentGap = 3
+        SegmentWidth = 12
+        SegmentColor = clTeal
+        Percentage = 65
+      end
+      object GaugeLiveAreaHeading: TLabel
+        Left = 332
+        Top = 474
+        Width = 300
+        Height = 13
+        AutoSize = False
+        Caption = 'Live'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object GaugeLiveAreaLine: TBevel
+        Left = 332
+        Top = 490
+        Width = 300
+        Height = 2
+        Shape = bsTopLine
+      end
+      object LiveGauge: TQELGauge
+        Left = 332
+        Top = 500
+        Width = 300
+        Height = 40
+        Glyph.TransparentColor = clBlack
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clBlack
+        Font.Height = -13
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 6
+        Kind = kHorizontal
+        SegmentWidth = 4
+        SegmentColor = clGreen
+        Percentage = 42
+      end
+      object LiveStartButton: TQELButton
+        Left = 332
+        Top = 550
+        Width = 146
+        Height = 30
+        Hint = 'The gauge goes on, from 0 again after 100'
+        Glyph.TransparentColor = clBlack
+        Caption = '&Start'
+        Background = FaceBackground
+        OnClick = LiveStartClick
+        TabOrder = 0
+        TabStop = True
+      end
+      object LiveStopButton: TQELButton
+        Left = 486
+        Top = 550
+        Width = 146
+        Height = 30
+        Hint = 'The gauge stays as it is'
+        Glyph.TransparentColor = clBlack
+        Caption = '&Stop'
+        Background = FaceBackground
+        OnClick = LiveStopClick
+        TabOrder = 1
+        TabStop = True
+      end
+      object GaugeSettings: TPanel
+        Left = 656
+        Top = 0
+        Width = 296
+        Height = 591
+        Align = alRight
+        BevelOuter = bvNone
+        Caption = ''
+        TabOrder = 2
+        object GaugeSettingsEdge: TBevel
+          Left = 0
+          Top = 0
+          Width = 2
+          Height = 591
+          Align = alLeft
+          Shape = bsLeftLine
+        end
+        object GaugeSampleHeading: TLabel
+          Left = 14
+          Top = 13
+          Width = 272
+          Height = 13
+          AutoSize = False
+          Caption = 'The sample gauge'
+          Font.Charset = DEFAULT_CHARSET
+          Font.Color = clNavy
+          Font.Height = -11
+          Font.Name = 'Tahoma'
+          Font.Style = [fsBold]
+          ParentFont = False
+        end
+        object GaugeSampleLine: TBevel
+          Left = 14
+          Top = 29
+          Width = 272
+          Height = 2
+          Shape = bsTopLine
+        end
+        object GaugePercentageLabel: TLabel
+          Left = 14
+          Top = 38
+          Width = 56
+          Height = 12
+          Caption = 'Percentage'
+          FocusControl = GaugePercentageEdit
+        end
+        object GaugeKindLabel: TLabel
+          Left = 14
+          Top = 60
+          Width = 21
+          Height = 12
+          Caption = 'Kind'
+          FocusControl = GaugeKindBox
+        end
+        object GaugeSegmentWidthLabel: TLabel
+          Left = 14
+          Top = 82
+          Width = 70
+          Height = 12
+          Caption = 'SegmentWidth'
+          FocusControl = GaugeSegmentWidthEdit
+        end
+        object GaugeSegmentGapLabel: TLabel
+          Left = 14
+          Top = 104
+          Width = 64
+          Height = 12
+          Caption = 'SegmentGap'
+          FocusControl = GaugeSegmentGapEdit
+        end
+        object GaugeSegmentColorLabel: TLabel
+          Left = 14
+          Top = 126
+          Width = 69
+          Height = 12
+          Caption = 'SegmentColor'
+          FocusControl = GaugeSegmentColorBox
+        end
+        object GaugeInsideBackColorLabel: TLabel
+          Left = 14
+          Top = 148
+          Width = 80
+          Height = 12
+          Caption = 'InsideBackColor'
+          FocusControl = GaugeInsideBackColorBox
+        end
+        object GaugeBorderwidthLabel: TLabel
+          Left = 14
+          Top = 170
+          Width = 58
+          Height = 12
+          Caption = 'Borderwidth'
+          FocusControl = GaugeBorderwidthEdit
+        end
+        object GaugePicturePositionLabel: TLabel
+          Left = 14
+          Top = 192
+          Width = 72
+          Height = 12
+          Caption = 'PicturePosition'
+          FocusControl = GaugePicturePositionBox
+        end
+        object GaugeBackgroundLabel: TLabel
+          Left = 14
+          Top = 214
+          Width = 59
+          Height = 12
+          Caption = 'Background'
+          FocusControl = GaugeBackgroundBox
+        end
+        object GaugeBevelsHeading: TLabel
+          Left = 14
+          Top = 259
+          Width = 272
+          Height = 13
+          AutoSize = False
+          Caption = 'Its bevels'
+          Font.Charset = DEFAULT_CHARSET
+          Font.Color = clNavy
+          Font.Height = -11
+          Font.Name = 'Tahoma'
+          Font.Style = [fsBold]
+          ParentFont = False
+        end
+        object GaugeBevelsLine: TBevel
+          Left = 14
+          Top = 275
+          Width = 272
+          Height = 2
+          Shape = bsTopLine
+        end
+        object GaugeInnerStyleLabel: TLabel
+          Left = 14
+          Top = 284
+          Width = 84
+          Height = 12
+          Caption = 'Inner FrameStyle'
+          FocusControl = GaugeInnerStyleBox
+        end
+        object GaugeInnerWidthLabel: TLabel
+          Left = 14
+          Top = 306
+          Width = 87
+          Height = 12
+          Caption = 'Inner FrameWidth'
+          FocusControl = GaugeInnerWidthEdit
+        end
+        object GaugeOuterStyleLabel: TLabel
+          Left = 14
+          Top = 328
+          Width = 87
+          Height = 12
+          Caption = 'Outer FrameStyle'
+          FocusControl = GaugeOuterStyleBox
+        end
+        object GaugeOuterWidthLabel: TLabel
+          Left = 14
+          Top = 350
+          Width = 90
+          Height = 12
+          Caption = 'Outer FrameWidth'
+          FocusControl = GaugeOuterWidthEdit
+        end
+        object GaugeTextHeading: TLabel
+          Left = 14
+          Top = 373
+          Width = 272
+          Height = 13
+          AutoSize = False
+          Caption = 'Its text'
+          Font.Charset = DEFAULT_CHARSET
+          Font.Color = clNavy
+          Font.Height = -11
+          Font.Name = 'Tahoma'
+          Font.Style = [fsBold]
+          ParentFont = False
+        end
+        object GaugeTextLine: TBevel
+          Left = 14
+          Top = 389
+          Width = 272
+          Height = 2
+          Shape = bsTopLine
+        end
+        object GaugeStyle3DLabel: TLabel
+          Left = 14
+          Top = 398
+          Width = 38
+          Height = 12
+          Caption = 'Style3D'
+          FocusControl = GaugeStyle3DBox
+        end
+        object GaugeOffsetLabel: TLabel
+          Left = 14
+          Top = 420
+          Width = 30
+          Height = 12
+          Caption = 'Offset'
+          FocusControl = GaugeOffsetEdit
+        end
+        object GaugeRepetitionLabel: TLabel
+          Left = 14
+          Top = 442
+          Width = 48
+          Height = 12
+          Caption = 'Repetition'
+          FocusControl = GaugeRepetitionBox
+        end
+        object GaugeRepetitionwidthLabel: TLabel
+          Left = 14
+          Top = 464
+          Width = 73
+          Height = 12
+          Caption = 'Repetitionwidth'
+          FocusControl = GaugeRepetitionwidthEdit
+        end
+        object GaugeFontSizeLabel: TLabel
+          Left = 14
+          Top = 486
+          Width = 45
+          Height = 12
+          Caption = 'Font size'
+          FocusControl = GaugeFontSizeEdit
+        end
+        object GaugeFontColorLabel: TLabel
+          Left = 14
+          Top = 508
+          Width = 55
+          Height = 12
+          Caption = 'Font colour'
+          FocusControl = GaugeFontColorBox
+        end
+        object GaugeLiveHeading: TLabel
+          Left = 14
+          Top = 531
+          Width = 272
+          Height = 13
+          AutoSize = False
+          Caption = 'The live gauge'
+          Font.Charset = DEFAULT_CHARSET
+          Font.Color = clNavy
+          Font.Height = -11
+          Font.Name = 'Tahoma'
+          Font.Style = [fsBold]
+          ParentFont = False
+        end
+        object GaugeLiveLine: TBevel
+          Left = 14
+          Top = 547
+          Width = 272
+          Height = 2
+          Shape = bsTopLine
+        end
+        object GaugeIntervalLabel: TLabel
+          Left = 14
+          Top = 556
+          Width = 36
+          Height = 12
+          Caption = 'Interval'
+          FocusControl = GaugeIntervalEdit
+        end
+        object GaugePercentageEdit: TEdit
+          Left = 136
+          Top = 34
+          Width = 150
+          Height = 20
+          Hint = 'From 0 to 100'
+          TabOrder = 0
+          Text = ''
+        end
+        object GaugeKindBox: TComboBox
+          Left = 136
+          Top = 56
+          Width = 150
+          Height = 21
+          Hint = 'The bar grows to the right, or upwards'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 1
+          Text = ''
+        end
+        object GaugeSegmentWidthEdit: TEdit
+          Left = 136
+          Top = 78
+          Width = 150
+          Height = 20
+          Hint = 'In pixels, from 1; a segment is one pixel wider'
+          TabOrder = 2
+          Text = ''
+        end
+        object GaugeSegmentGapEdit: TEdit
+          Left = 136
+          Top = 100
+          Width = 150
+          Height = 20
+          Hint = 'In pixels, from 0; a gap is one pixel narrower'
+          TabOrder = 3
+          Text = ''
+        end
+        object GaugeSegmentColorBox: TComboBox
+          Left = 136
+          Top = 122
+          Width = 150
+          Height = 21
+          Hint = 'The colour of the bar. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 4
+          Text = ''
+        end
+        object GaugeInsideBackColorBox: TComboBox
+          Left = 136
+          Top = 144
+          Width = 150
+          Height = 21
+          Hint = 'The colour behind the bar. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 5
+          Text = ''
+        end
+        object GaugeBorderwidthEdit: TEdit
+          Left = 136
+          Top = 166
+          Width = 150
+          Height = 20
+          Hint = 'Between the two bevels, in pixels, from 1'
+          TabOrder = 6
+          Text = ''
+        end
+        object GaugePicturePositionBox: TComboBox
+          Left = 136
+          Top = 188
+          Width = 150
+          Height = 21
+          Hint = 'The side of the bar on which the glyph stands'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 7
+          Text = ''
+        end
+        object GaugeBackgroundBox: TComboBox
+          Left = 136
+          Top = 210
+          Width = 150
+          Height = 21
+          Hint = 'What fills the gauge behind it all'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 8
+          Text = ''
+        end
+        object GaugeGlyphVisibleCheck: TCheckBox
+          Left = 14
+          Top = 233
+          Width = 132
+          Height = 17
+          Hint = 'Off: no glyph, whose place stays free'
+          Caption = 'Glyph.Visible'
+          TabOrder = 9
+        end
+        object GaugeInnerStyleBox: TComboBox
+          Left = 136
+          Top = 280
+          Width = 150
+          Height = 21
+          Hint = 'The frame around the bar'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 10
+          Text = ''
+        end
+        object GaugeInnerWidthEdit: TEdit
+          Left = 136
+          Top = 302
+          Width = 150
+          Height = 20
+          Hint = 'The width of each border, in pixels, from 1'
+          TabOrder = 11
+          Text = ''
+        end
+        object GaugeOuterStyleBox: TComboBox
+          Left = 136
+          Top = 324
+          Width = 150
+          Height = 21
+          Hint = 'The frame along the gauge''s edge'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 12
+          Text = ''
+        end
+        object GaugeOuterWidthEdit: TEdit
+          Left = 136
+          Top = 346
+          Width = 150
+          Height = 20
+          Hint = 'The width of each border, in pixels, from 1'
+          TabOrder = 13
+          Text = ''
+        end
+        object GaugeStyle3DBox: TComboBox
+          Left = 136
+          Top = 394
+          Width = 150
+          Height = 21
+          Hint = 'Where the light and the shadow are'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 14
+          Text = ''
+        end
+        object GaugeOffsetEdit: TEdit
+          Left = 136
+          Top = 416
+          Width = 150
+          Height = 20
+          Hint = 'The distance of light and shadow, in pixels, from 1'
+          TabOrder = 15
+          Text = ''
+        end
+        object GaugeRepetitionBox: TComboBox
+          Left = 136
+          Top = 438
+          Width = 150
+          Height = 21
+          Hint = 'The side to which copies of the text trail'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 16
+          Text = ''
+        end
+        object GaugeRepetitionwidthEdit: TEdit
+          Left = 136
+          Top = 460
+          Width = 150
+          Height = 20
+          Hint = 'The number of copies, from 0'
+          TabOrder = 17
+          Text = ''
+        end
+        object GaugeFontSizeEdit: TEdit
+          Left = 136
+          Top = 482
+          Width = 150
+          Height = 20
+          Hint = 'The height of the text, in points'
+          TabOrder = 18
+          Text = ''
+        end
+        object GaugeFontColorBox: TComboBox
+          Left = 136
+          Top = 504
+          Width = 150
+          Height = 21
+          Hint = 'The colour of the text. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 19
+          Text = ''
+        end
+        object GaugeIntervalEdit: TEdit
+          Left = 136
+          Top = 552
+          Width = 150
+          Height = 20
+          Hint = 'Between two steps, in milliseconds; 0 stops it'
+          TabOrder = 20
+          Text = ''
+        end
+      end
+    end
   end
   object StatusPanel: TPanel
     Left = 0
@@ -4520,6 +5789,13 @@ object GalleryForm: TGalleryForm
     OnChanged = SharedChanged
     SolidColor = clTeal
     Left = 456
+    Top = 80
+  end
+  object LiveTimer: TTimer
+    Enabled = False
+    Interval = 40
+    OnTimer = LiveTimerTick
+    Left = 488
     Top = 80
   end
   object ButtonMenu: TPopupMenu

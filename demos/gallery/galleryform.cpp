@@ -26,6 +26,9 @@ const TClass& TGalleryForm::Class() {
                              Field<&T::SharedBackground>("SharedBackground"),
                              Field<&T::BackImageBox>("BackImageBox"),
                              Field<&T::ChangesLabel>("ChangesLabel"),
+                             Field<&T::SampleGauge>("SampleGauge"),
+                             Field<&T::LiveGauge>("LiveGauge"),
+                             Field<&T::LiveTimer>("LiveTimer"),
                              Method<&T::ButtonClick>("ButtonClick"),
                              Method<&T::SubjectChange>("SubjectChange"),
                              Method<&T::ButtonMenuPopup>("ButtonMenuPopup"),
@@ -47,6 +50,9 @@ const TClass& TGalleryForm::Class() {
                              Method<&T::LogEndDrag>("LogEndDrag"),
                              Method<&T::PictureChange>("PictureChange"),
                              Method<&T::SharedChanged>("SharedChanged"),
+                             Method<&T::LiveTimerTick>("LiveTimerTick"),
+                             Method<&T::LiveStartClick>("LiveStartClick"),
+                             Method<&T::LiveStopClick>("LiveStopClick"),
                          });
   return info;
 }
@@ -56,6 +62,7 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   SetUpButtons();
   SetUpLabels();
   SetUpBackgrounds();
+  SetUpGauges();
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
 }
 

@@ -1,5 +1,4 @@
-// TGalleryForm: the gallery's window, with a page for buttons, one for labels and one for
-// backgrounds.
+// TGalleryForm: the gallery's window, with a page for each of the painted components.
 #pragma once
 
 #include <memory>
@@ -9,6 +8,7 @@
 
 #include "controls/Qeltbackground.h"
 #include "controls/Qeltbutton.h"
+#include "controls/Qeltgauge.h"
 #include "controls/Qeltlabel.h"
 #include "demos/gallery/settingbinder.h"
 #include "host/vcl/comctrls.h"
@@ -16,6 +16,7 @@
 #include "host/vcl/forms.h"
 #include "host/vcl/menus.h"
 #include "host/vcl/stdctrls.h"
+#include "host/vcl/timer.h"
 
 namespace gallery {
 
@@ -44,6 +45,9 @@ class TGalleryForm : public vcl::TForm {
   qel::TQELBackground* SharedBackground = nullptr;
   vcl::TComboBox* BackImageBox = nullptr;
   vcl::TLabel* ChangesLabel = nullptr;
+  qel::TQELGauge* SampleGauge = nullptr;
+  qel::TQELGauge* LiveGauge = nullptr;
+  vcl::TTimer* LiveTimer = nullptr;
 
   // The page of buttons.
   void SetUpButtons();
@@ -82,6 +86,12 @@ class TGalleryForm : public vcl::TForm {
   void SetUpBackgrounds();
   void PictureChange(vcl::TObject* sender);
   void SharedChanged(vcl::TObject* sender);
+
+  // The page of gauges.
+  void SetUpGauges();
+  void LiveTimerTick(vcl::TObject* sender);
+  void LiveStartClick(vcl::TObject* sender);
+  void LiveStopClick(vcl::TObject* sender);
 
   // What the pages share.
   TSettingBinder& Bind(std::vector<TSetting> settings);

@@ -64,9 +64,9 @@ class Screenshots : public ::testing::Test {
 
 TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
   ASSERT_EQ(Result.Code, 0u) << Result.Errors;
-  ASSERT_EQ(Files.size(), 3u);
-  const char* names[] = {"buttons.png", "labels.png", "backgrounds.png"};
-  for (int i = 0; i < 3; ++i) {
+  const char* names[] = {"buttons.png", "labels.png", "backgrounds.png", "gauges.png"};
+  ASSERT_EQ(Files.size(), std::size(names));
+  for (std::size_t i = 0; i < std::size(names); ++i) {
     EXPECT_EQ(std::filesystem::path(Files[i]).filename().string(), names[i]);
     EXPECT_EQ(PngChunks(FileBytes(Files[i])).substr(0, 4), "IHDR");
     const TPicture picture(Files[i]);
@@ -77,7 +77,7 @@ TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
 }
 
 TEST_F(Screenshots, ShowEachPage) {
-  ASSERT_EQ(Files.size(), 3u);
+  ASSERT_EQ(Files.size(), 4u);
   gallery::TGalleryForm form(nullptr);
   form.Show();
   const TPicture buttons(Files[0]), labels(Files[1]), backgrounds(Files[2]);

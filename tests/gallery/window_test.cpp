@@ -230,6 +230,21 @@ TEST_F(Gallery, LabelSettingsChangeAllOfTheirLabels) {
   EXPECT_TRUE(PumpUntil([&] { return sample->FontBackground() == nullptr; }));
 }
 
+TEST_F(Gallery, TheLiveGaugeRunsBetweenStartAndStop) {
+  GoTo(3);
+  auto* live = Find<TQELGauge>("LiveGauge");
+  const int start = live->Percentage();
+  const auto before = ScreenPixels(live);
+  Click(Find("LiveStartButton"));
+  EXPECT_TRUE(PumpUntil([&] { return live->Percentage() > start + 3; }));
+  EXPECT_NE(ScreenPixels(live), before);
+  Click(Find("LiveStopButton"));
+  PumpFor(200);
+  const int stopped = live->Percentage();
+  PumpFor(200);
+  EXPECT_EQ(live->Percentage(), stopped);
+}
+
 /// Drags from one control to another with the left button.
 void Drag(const TControl* from, const TControl* to) {
   const TPoint start = MiddleOf(from), end = MiddleOf(to);
