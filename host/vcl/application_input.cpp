@@ -85,7 +85,10 @@ void TApplication::Idle() {
   } catch (...) {
     HandleCurrentException(this);
   }
-  if (done && !Terminated()) ::WaitMessage();
+  if (!done || Terminated()) return;
+  // Nobody draws now: contexts that canvases took outside painting go back to the system.
+  FreeDeviceContexts();
+  ::WaitMessage();
 }
 
 // The control under the mouse.

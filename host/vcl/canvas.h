@@ -170,8 +170,8 @@ class VCL_API TOnDemandCanvas : public TCanvas {
   HDC FOwned = nullptr;
 };
 
-/// Lets go of every device context that a canvas got on demand, of controls and of bitmaps. Called
-/// between messages, while nobody is drawing.
+/// Lets go of every device context that a canvas got on demand, of controls and of bitmaps. The
+/// application does so when no message waits; nobody may be drawing.
 VCL_API void FreeDeviceContexts();
 
 }  // namespace vcl
