@@ -47,6 +47,14 @@ class Gallery : public ::testing::Test {
       if (lines->Strings(i).rfind(text, 0) == 0) return true;
     return false;
   }
+  void ExpectLogged(std::initializer_list<const char*> texts) {
+    for (const char* each : texts) EXPECT_TRUE(PumpUntil([&] { return Logged(each); })) << each;
+  }
+  /// Clicks and then types what chooses in the box that drops down.
+  void Choose(const char* name, std::initializer_list<WORD> keys) {
+    Click(Find(name));
+    for (const WORD key : keys) TypeKey(key);
+  }
   /// Replaces the text of an edit by typing.
   void Type(const char* name, const std::string& keys) {
     Click(Find(name));
@@ -84,46 +92,43 @@ TEST_F(Gallery, ItsTabsShowItsPages) {
 }
 
 TEST_F(Gallery, AButtonLogsItsEventsAndShowsItsSettings) {
-  const char* expected[] = {"EventsButton.OnMouseDown  mbLeft", "EventsButton.OnMouseUp  mbLeft",
-                            "EventsButton.OnClick"};
   Click(Find("RaisedButton"));
-  EXPECT_TRUE(PumpUntil([&] { return Logged("RaisedButton.OnClick"); }));
+  ExpectLogged({"RaisedButton.OnClick"});
   EXPECT_EQ(Find<TComboBox>("ButtonStyle3DBox")->Text(), "fontRaised");
   Click(Find("EventsButton"));
-  for (const char* each : expected) EXPECT_TRUE(PumpUntil([&] { return Logged(each); })) << each;
+  ExpectLogged({"EventsButton.OnMouseDown  mbLeft", "EventsButton.OnMouseUp  mbLeft",
+                "EventsButton.OnClick"});
   EXPECT_EQ(Find<TComboBox>("ButtonSubjectBox")->Text(), "EventsButton");
 }
 
 TEST_F(Gallery, TheKeyboardReachesAButton) {
-  const char* expected[] = {"EventsButton.OnEnter",         "EventsButton.OnKeyDown  32",
-                            "EventsButton.OnKeyPress  ' '", "EventsButton.OnKeyUp  32",
-                            "EventsButton.OnClick",         "EventsButton.OnExit"};
   Click(Find("DropList"));
   TypeKey(VK_TAB);
   TypeKey(VK_SPACE);
   TypeKey(VK_TAB);
-  for (const char* each : expected) EXPECT_TRUE(PumpUntil([&] { return Logged(each); })) << each;
+  ExpectLogged({"EventsButton.OnEnter", "EventsButton.OnKeyDown  32",
+                "EventsButton.OnKeyPress  ' '", "EventsButton.OnKeyUp  32", "EventsButton.OnClick",
+                "EventsButton.OnExit"});
 }
 
 TEST_F(Gallery, ADisabledButtonLogsNothing) {
   Click(Find("OneImageDisabledButton"));
   Click(Find("OneImageButton"));
-  EXPECT_TRUE(PumpUntil([&] { return Logged("OneImageButton.OnClick"); }));
+  ExpectLogged({"OneImageButton.OnClick"});
   EXPECT_FALSE(Logged("OneImageDisabledButton"));
 }
 
 TEST_F(Gallery, SettingsChangeTheButtonAtOnce) {
   auto* button = Find<TQELButton>("FourImageButton");
   Click(button);
-  ASSERT_TRUE(PumpUntil([&] { return Logged("FourImageButton.OnClick"); }));
+  ExpectLogged({"FourImageButton.OnClick"});
   Type("ButtonCaptionEdit", "NEW");
   EXPECT_TRUE(PumpUntil([&] { return SameText(button->Caption(), "new"); })) << button->Caption();
   Click(Find("ButtonEnabledCheck"));
   EXPECT_TRUE(PumpUntil([&] { return !button->Enabled(); }));
   Type("ButtonNumGlyphsEdit", "2");
   EXPECT_TRUE(PumpUntil([&] { return button->Glyph()->NumGlyphs() == 2; }));
-  Click(Find("ButtonRepetitionBox"));
-  TypeKey(VK_UP);
+  Choose("ButtonRepetitionBox", {VK_UP});
   EXPECT_TRUE(PumpUntil([&] { return button->Font3D()->Repetition() == repeatOnHighLight; }));
 }
 
@@ -138,7 +143,7 @@ TEST_F(Gallery, AWrongTextKeepsTheValueAndIsMarked) {
   auto* button = Find<TQELButton>("RaisedButton");
   auto* edit = Find<TEdit>("ButtonOffsetEdit");
   Click(button);
-  ASSERT_TRUE(PumpUntil([&] { return Logged("RaisedButton.OnClick"); }));
+  ExpectLogged({"RaisedButton.OnClick"});
   const TColor unmarked = edit->Color();
   for (const char* wrong : {"X", "0"}) {
     Type("ButtonOffsetEdit", wrong);
@@ -177,24 +182,11 @@ TEST_F(Gallery, ABackgroundsSettingsChangeAllItsClients) {
     EXPECT_NE(Find<TLabel>("ChangesLabel")->Caption(), fired) << what;
   };
   const TQELFillStyle former = shared->Gradient()->FillStyle();
-  change("FillStyle", [&] {
-    Click(Find("BackFillStyleBox"));
-    TypeKey(VK_DOWN);
-    TypeKey(VK_RETURN);
-  });
+  change("FillStyle", [&] { Choose("BackFillStyleBox", {VK_DOWN, VK_RETURN}); });
   EXPECT_EQ(shared->Gradient()->FillStyle(), former + 1);
-  change("BackgroundStyle", [&] {
-    Click(Find("BackStyleBox"));
-    TypeKey(VK_DOWN);
-    TypeKey(VK_RETURN);
-  });
+  change("BackgroundStyle", [&] { Choose("BackStyleBox", {VK_DOWN, VK_RETURN}); });
   EXPECT_EQ(shared->BackgroundStyle(), bTexture);
-  change("Image", [&] {
-    Click(Find("BackImageBox"));
-    TypeKey(VK_END);
-    TypeKey(VK_UP);
-    TypeKey(VK_RETURN);
-  });
+  change("Image", [&] { Choose("BackImageBox", {VK_END, VK_UP, VK_RETURN}); });
 }
 
 TEST_F(Gallery, ColoursInBetweenAreCheckedLineByLine) {
@@ -224,9 +216,7 @@ TEST_F(Gallery, LabelSettingsChangeAllOfTheirLabels) {
   };
   EXPECT_TRUE(PumpUntil(all));
   auto* sample = Find<TQELLabel>("SampleLabel");
-  Click(Find("LabelSampleFontBackgroundBox"));
-  TypeKey(VK_HOME);
-  TypeKey(VK_RETURN);
+  Choose("LabelSampleFontBackgroundBox", {VK_HOME, VK_RETURN});
   EXPECT_TRUE(PumpUntil([&] { return sample->FontBackground() == nullptr; }));
 }
 
@@ -271,7 +261,7 @@ TEST_F(Gallery, StonesAreDroppedOnTheLabelTheListAndTheBin) {
   Drag(Find("EmeraldButton"), Find("TrashButton"));
   EXPECT_TRUE(PumpUntil([&] { return list->Items()->CommaText() == "Sapphire"; }));
   Drag(Find("EmeraldButton"), Find("EventList"));
-  EXPECT_TRUE(PumpUntil([&] { return Logged("EmeraldButton.OnEndDrag  on nothing"); }));
+  ExpectLogged({"EmeraldButton.OnEndDrag  on nothing"});
   Click(Find("TrashButton"));
   EXPECT_TRUE(PumpUntil([&] { return list->Items()->Count() == 0; }));
 }

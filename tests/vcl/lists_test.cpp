@@ -199,25 +199,21 @@ TEST_F(Lists, AComboBoxShowsAsManyItemsAsItMay) {
 }
 
 TEST_F(Lists, TheTextOfAComboOutlivesTheWindow) {
-  const struct {
-    TComboBoxStyle Style;
-    const char* Text;
-    const char* Kept;
-    int Index;
-  } cases[] = {{csDropDown, "own", "own", -1},
-               {csDropDown, "b", "b", 1},
-               {csSimple, "own", "own", -1},
-               {csDropDownList, "B", "b", 1},
-               {csDropDownList, "own", "", -1}};
-  for (const auto& each : cases) {
+  const std::tuple<TComboBoxStyle, const char*, const char*, int> cases[] = {
+      {csDropDown, "own", "own", -1},
+      {csDropDown, "b", "b", 1},
+      {csSimple, "own", "own", -1},
+      {csDropDownList, "B", "b", 1},
+      {csDropDownList, "own", "", -1}};
+  for (const auto& [style, text, kept, index] : cases) {
     auto* combo = Make<TComboBox>(10, 10);
     combo->Items()->SetCommaText("a,b");
-    combo->SetStyle(each.Style);
-    combo->SetItemIndex(each.Index);
-    combo->SetText(each.Text);
+    combo->SetStyle(style);
+    combo->SetItemIndex(index);
+    combo->SetText(text);
     for (int i = 0; i < 3; ++i) {
-      EXPECT_EQ(combo->Text(), each.Kept) << each.Text << " in style " << each.Style;
-      EXPECT_EQ(combo->ItemIndex(), each.Index) << each.Text << " in style " << each.Style;
+      EXPECT_EQ(combo->Text(), kept) << text << " in style " << style;
+      EXPECT_EQ(combo->ItemIndex(), index) << text << " in style " << style;
       combo->HandleNeeded();
       if (i == 1) combo->RecreateWnd();
     }
