@@ -7,6 +7,7 @@
 #include "host/rtl/classregistry.h"
 #include "host/rtl/os.h"
 #include "host/rtl/text.h"
+#include "host/vcl/application.h"
 #include "host/vcl/win32.h"
 #include "host/vcl/windowtext.h"
 
@@ -25,6 +26,14 @@ bool LiesIn(const void* module, const TClass* aClass) {
                            GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                        reinterpret_cast<LPCSTR>(aClass), &holder);
   return holder == module;
+}
+
+/// Hints are shown in a window of the library's own class from now on.
+void UsePlainHints() {
+  SetHintWindowClass(THintWindow::Class());
+  if (!HasApplication()) return;
+  Application()->SetShowHint(!Application()->ShowHint());
+  Application()->SetShowHint(!Application()->ShowHint());
 }
 
 }  // namespace
@@ -68,6 +77,7 @@ void TPackage::TakeBack() {
   for (const TClass* each : RegisteredClasses()) {
     if (ours(each)) UnRegisterClass(*each);
   }
+  if (ours(&HintWindowClass())) UsePlainHints();
   ::FreeLibrary(static_cast<HMODULE>(std::exchange(FModule, nullptr)));
 }
 

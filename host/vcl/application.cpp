@@ -37,7 +37,7 @@ const TClass& TApplication::Class() {
 TApplication::TApplication(TComponent* owner)
     : TCustomApplication(owner),
       FIcon(std::make_unique<TIcon>()),
-      FHints(std::make_unique<THintControl>()) {
+      FHints(std::make_unique<THintControl>(this)) {
   TheApplication = this;
   constexpr const char* mainIcon = "MAINICON";
   if (::FindResourceA(nullptr, mainIcon, MAKEINTRESOURCEA(14))) {  // RT_GROUP_ICON
@@ -46,6 +46,7 @@ TApplication::TApplication(TComponent* owner)
     FIcon->SetHandle(::CopyIcon(::LoadIconA(nullptr, IDI_APPLICATION)));
   }
   FIcon->OnChange = {this, &TApplication::IconChanged};
+  FHints->SetEnabled(FShowHint);
 }
 
 TApplication::~TApplication() {
@@ -67,7 +68,9 @@ void TApplication::Initialize() {
 
 void TApplication::Notification(TComponent* component, TOperation operation) {
   TCustomApplication::Notification(component, operation);
-  if (operation == opRemove && component == FMainForm) FMainForm = nullptr;
+  if (operation != opRemove) return;
+  if (component == FMainForm) FMainForm = nullptr;
+  if (FHints && component == FHints->FWindow) FHints->FWindow = nullptr;
 }
 
 // Forms.

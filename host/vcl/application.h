@@ -98,11 +98,26 @@ class VCL_API TApplication : public TCustomApplication {
   /// Raises and lowers hints as the mouse moves; see hints.h.
   THintControl& Hints() { return *FHints; }
   bool ShowHint() const { return FShowHint; }
+  /// True makes the window that hints are shown in, a component of the application's, of the class
+  /// HintWindowClass(); false frees it.
   void SetShowHint(bool showHint);
+  /// How long the mouse rests on a control before its hint appears, in milliseconds.
+  int HintPause() const { return FHints->FPause; }
+  void SetHintPause(int milliseconds) { FHints->FPause = milliseconds; }
+  /// The same while another control's hint is shown.
+  int HintShortPause() const { return FHints->FShortPause; }
+  void SetHintShortPause(int milliseconds) { FHints->FShortPause = milliseconds; }
+  /// How long a hint stays, in milliseconds.
+  int HintHidePause() const { return FHints->FHidePause; }
+  void SetHintHidePause(int milliseconds) { FHints->FHidePause = milliseconds; }
+  TColor HintColor() const { return FHints->FColor; }
+  void SetHintColor(TColor color) { FHints->SetColor(color); }
   /// The hint of the control under the mouse, as a status bar shows it.
   const std::string& Hint() const { return FHint; }
   void SetHint(const std::string& hint);
   void CancelHint() { FHints->Cancel(); }
+  /// Shows the hint of the control under that position of the screen now.
+  void ActivateHint(TPoint screen) { FHints->ActivateHint(screen); }
 
   TExceptionEvent OnException;
   TIdleEvent OnIdle;

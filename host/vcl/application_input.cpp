@@ -128,8 +128,9 @@ void TApplication::ControlGone(TControl* control) {
 // Hints.
 
 void TApplication::SetShowHint(bool showHint) {
+  if (showHint == FShowHint) return;
   FShowHint = showHint;
-  if (!showHint) FHints->MouseOver(nullptr);
+  FHints->SetEnabled(showHint);
 }
 
 void TApplication::SetHint(const std::string& hint) {

@@ -1,8 +1,11 @@
 #include "host/vcl/hints.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "host/rtl/exceptions.h"
 #include "host/rtl/properties.h"
+#include "host/rtl/text.h"
 #include "host/vcl/application.h"
 #include "host/vcl/screen.h"
 
@@ -35,10 +38,21 @@ std::string HintOf(const TControl* control) {
   return control ? control->Hint() : std::string();
 }
 
+const TClass*& WindowClass() {
+  static const TClass* windowClass = &THintWindow::Class();
+  return windowClass;
+}
+
 }  // namespace
 
-THintControl::THintControl()
-    : MakeWindow([] { return std::make_unique<THintWindow>(Application()); }) {}
+const TClass& HintWindowClass() { return *WindowClass(); }
+
+void SetHintWindowClass(const TClass& windowClass) {
+  if (!windowClass.InheritsFrom(THintWindow::Class()) || !windowClass.Maker().Component) {
+    throw EInvalidOperation(Concat(windowClass.Name(), " is no class of windows for hints"));
+  }
+  WindowClass() = &windowClass;
+}
 
 THintControl::~THintControl() { StopTimer(); }
 
@@ -49,10 +63,10 @@ void THintControl::MouseOver(TControl* control) {
   FMouse = mouse;
   if (hinted != FControl) return Enter(hinted);
   if (!hinted || !moved || FCancelled) return;
-  if (!FShown) return StartTimer(Pause);  // It rests from here on.
+  if (!FShown) return StartTimer(FPause);  // It rests from here on.
   if (FCursorRect.Contains(hinted->ScreenToClient(mouse))) return;
   Hide();
-  StartTimer(ShortPause);
+  StartTimer(FShortPause);
 }
 
 void THintControl::Enter(TControl* control) {
@@ -60,7 +74,7 @@ void THintControl::Enter(TControl* control) {
   Hide();
   FControl = control;
   FCancelled = false;
-  if (control) StartTimer(another ? ShortPause : Pause);
+  if (control) StartTimer(another ? FShortPause : FPause);
 }
 
 void THintControl::Cancel() {
@@ -75,9 +89,19 @@ void THintControl::ActivateHint(TPoint screen) {
   if (control) ShowFor(control);
 }
 
-void THintControl::Reset() {
-  Hide();
-  FWindow.reset();
+void THintControl::SetEnabled(bool enabled) {
+  MouseOver(nullptr);
+  if (!enabled) {
+    delete std::exchange(FWindow, nullptr);
+  } else if (!FWindow) {
+    FWindow = static_cast<THintWindow*>(HintWindowClass().Maker().Component(FOwner));
+    FWindow->SetColor(FColor);
+  }
+}
+
+void THintControl::SetColor(TColor color) {
+  FColor = color;
+  if (FWindow) FWindow->SetColor(color);
 }
 
 void THintControl::Forget(TControl* control) {
@@ -125,14 +149,15 @@ void THintControl::Elapsed() {
 
 void THintControl::ShowFor(TControl* control) {
   StopTimer();
+  if (!FWindow) return;
   THintInfo info;
   info.HintControl = control;
   info.HintPos = BelowPointer(FMouse);
   info.HintMaxWidth = Screen()->Width();
-  info.HintColor = Color;
+  info.HintColor = FColor;
   info.CursorRect = control->ClientRect();
   info.CursorPos = control->ScreenToClient(FMouse);
-  info.HideTimeout = HidePause;
+  info.HideTimeout = FHidePause;
   info.HintStr = GetShortHint(HintOf(control));
   if (Ask(info)) Show(info);
 }
@@ -143,18 +168,20 @@ bool THintControl::Ask(THintInfo& info) {
   bool show = info.HintControl->Perform(CM_HINTSHOW, 0, reinterpret_cast<LPARAM>(&info)) == 0;
   if (watch.Gone()) return false;
   Application()->OnShowHint(info.HintStr, show, info);
-  return show && !watch.Gone() && info.HintControl == FControl && !FCancelled &&
+  return show && !watch.Gone() && info.HintControl == FControl && !FCancelled && FWindow &&
          !info.HintStr.empty();
 }
 
 void THintControl::Show(const THintInfo& info) {
-  if (!FWindow) FWindow = MakeWindow();
   FWindow->SetColor(info.HintColor);
   TRect rect = FWindow->CalcHintRect(info.HintMaxWidth, info.HintStr);
   rect.Offset(info.HintPos.X, info.HintPos.Y);
   FShown = info.HintControl;
   FCursorRect = info.CursorRect;
   FWindow->ActivateHint(rect, info.HintStr);
+  // A handler that the window calls may have ended the hint, which the window has shown all the same,
+  // or have had another window made.
+  if (!FShown) return Hide();
   StartTimer(info.HideTimeout);
 }
 

@@ -1,8 +1,6 @@
 // Hints: the window that shows one, what is asked before it appears, and when it comes and goes.
 #pragma once
 
-#include <functional>
-#include <memory>
 #include <string>
 
 #include "host/vcl/graphics.h"
@@ -40,9 +38,11 @@ class VCL_API THintWindow : public TCustomControl {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
-  /// The size that the text needs, with its top left at (0, 0).
+  /// The rectangle to activate the text in, with its top left at (0, 0): 6 pixels wider than the text
+  /// and 2 higher.
   virtual TRect CalcHintRect(int maxWidth, const std::string& text);
-  /// Shows the text in the rectangle of the screen, moved so that all of it is seen.
+  /// Shows the text in the rectangle of the screen, which grows by 4 pixels at its bottom, moved so
+  /// that all of it is seen.
   virtual void ActivateHint(TRect rect, const std::string& text);
   /// Takes the window off the screen.
   virtual void ReleaseHandle();
@@ -53,20 +53,19 @@ class VCL_API THintWindow : public TCustomControl {
   void Dispatch(TMessage& message) override;
 };
 
-/// Decides when hints appear: after the mouse has rested on a control for `Pause` milliseconds, for
-/// `HidePause` milliseconds; the next control's follows after `ShortPause`.
+/// The class of the window that the application makes when its ShowHint becomes true.
+VCL_API const TClass& HintWindowClass();
+/// Another class, of the descendants of THintWindow that can be made by name. To have the window made
+/// anew, switch the application's ShowHint to and fro. Raises EInvalidOperation for other classes.
+VCL_API void SetHintWindowClass(const TClass& windowClass);
+
+/// Decides when the application's hints appear: after the mouse has rested on a control for a pause,
+/// for a time; the next control's follows after a short pause.
 class VCL_API THintControl {
  public:
-  THintControl();
+  /// `owner` is going to own the window that hints are shown in.
+  explicit THintControl(TComponent* owner) : FOwner(owner) {}
   ~THintControl();
-
-  int Pause = 500;
-  int ShortPause = 50;
-  int HidePause = 2500;
-  TColor Color = clInfoBk;
-  /// Makes the window that hints are shown in; a component that replaces the window changes it and
-  /// calls `Reset`.
-  std::function<std::unique_ptr<THintWindow>()> MakeWindow;
 
   /// The mouse is over the control (null: over none).
   void MouseOver(TControl* control);
@@ -74,16 +73,18 @@ class VCL_API THintControl {
   void Cancel();
   /// Shows the hint of the control under that position of the screen now.
   void ActivateHint(TPoint screen);
-  /// Hides the hint and forgets the window, so that the next is made anew.
-  void Reset();
+  /// Makes the window that hints are shown in, or frees it. Without it there are none.
+  void SetEnabled(bool enabled);
   /// The control whose hint is on the screen; null when there is none.
   TControl* Shown() const { return FShown; }
   /// No longer refers to the control, which is being freed.
   void Forget(TControl* control);
 
  private:
+  friend class TApplication;
   static void CALLBACK TimerProc(HWND window, UINT message, UINT_PTR id, DWORD time);
   void Enter(TControl* control);
+  void SetColor(TColor color);
   void StartTimer(int milliseconds);
   void StopTimer();
   void Elapsed();
@@ -92,7 +93,12 @@ class VCL_API THintControl {
   void Show(const THintInfo& info);
   void Hide();
 
-  std::unique_ptr<THintWindow> FWindow;
+  TComponent* FOwner;
+  int FPause = 500;  // Milliseconds.
+  int FShortPause = 50;
+  int FHidePause = 2500;
+  TColor FColor = clInfoBk;
+  THintWindow* FWindow = nullptr;  // Owned by FOwner.
   TControl* FControl = nullptr;
   TControl* FShown = nullptr;
   TRect FCursorRect;

@@ -11,8 +11,10 @@ namespace vcl {
 
 namespace {
 
-constexpr int MarginX = 3;  // Between the window's edge and the text, in pixels.
-constexpr int MarginY = 2;
+constexpr int Border = 1;  // Pixels.
+constexpr int Margin = 2;  // Between the border and the text.
+constexpr int Edges = 2 * (Border + Margin);
+constexpr int ActivatedEdges = 4;  // What ActivateHint adds of them to the height.
 constexpr UINT TextFlags = DT_LEFT | DT_WORDBREAK | DT_NOPREFIX;
 
 // The rectangle moved onto the work area; its top left when it does not fit.
@@ -72,12 +74,12 @@ TRect THintWindow::CalcHintRect(int maxWidth, const std::string& text) {
   std::wstring wide = ToUtf16(text);
   ::DrawTextExW(dc.Get(), wide.data(), static_cast<int>(wide.size()), &rect,
                 TextFlags | DT_CALCRECT, nullptr);
-  // The border of one pixel lies inside the rectangle.
-  return {0, 0, static_cast<int>(rect.right) + 2 * MarginX + 2,
-          static_cast<int>(rect.bottom) + 2 * MarginY + 2};
+  return {0, 0, static_cast<int>(rect.right) + Edges,
+          static_cast<int>(rect.bottom) + Edges - ActivatedEdges};
 }
 
 void THintWindow::ActivateHint(TRect rect, const std::string& text) {
+  rect.Bottom += ActivatedEdges;
   rect = KeptOnScreen(rect);
   SetCaption(text);
   SetBounds(rect.Left, rect.Top, rect.Width(), rect.Height());
@@ -95,7 +97,7 @@ void THintWindow::Paint() {
   back.SetColor(Color());
   const RECT area = rect;
   ::FillRect(Canvas()->Handle(), &area, back.Handle());
-  rect.Inflate(-MarginX, -MarginY);
+  rect.Inflate(-Margin, -Margin);
   RECT place = rect;
   std::wstring text = ToUtf16(Caption());
   ::DrawTextExW(Canvas()->Handle(), text.data(), static_cast<int>(text.size()), &place, TextFlags,

@@ -1,8 +1,11 @@
 // Hints: their texts, when they come and go, where they stand.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
+#include "host/rtl/exceptions.h"
+#include "host/rtl/properties.h"
 #include "host/vcl/controlcanvas.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/hints.h"
@@ -41,8 +44,8 @@ class Hints : public ::testing::Test {
     Form.SetBorderStyle(bsNone);
     Form.SetBounds(300, 300, 200, 100);
     Form.SetShowHint(true);
-    Control().Pause = 30;
-    Control().HidePause = 60000;
+    Application()->SetHintPause(30);
+    Application()->SetHintHidePause(60000);
     MoveMouse({5, 5});
     Form.Show();
     EXPECT_TRUE(PumpUntil([&] { return Form.Active() && Application()->Active(); }));
@@ -51,8 +54,8 @@ class Hints : public ::testing::Test {
     Application()->OnShowHint = nullptr;
     Form.Hide();
     MoveMouse({5, 5});
-    Control().Pause = 500;
-    Control().HidePause = 2500;
+    Application()->SetHintPause(500);
+    Application()->SetHintHidePause(2500);
   }
   static THintControl& Control() { return Application()->Hints(); }
   bool Shows(const TControl* control) {
@@ -100,7 +103,7 @@ TEST_F(Hints, GoesWithAKeyAClickAndTimeAndStaysAway) {
   LeftDown();
   EXPECT_TRUE(Shows(nullptr));
   LeftUp();
-  Control().HidePause = 50;
+  Application()->SetHintHidePause(50);
   MoveMouse(MiddleOf(First));
   ASSERT_TRUE(Shows(First));
   EXPECT_TRUE(Shows(nullptr));
@@ -151,6 +154,88 @@ TEST_F(Hints, AFreedControlTakesItsHintAlong) {
   MoveMouse(MiddleOf(Second));
   EXPECT_TRUE(PumpUntil([&] { return !Second; }));
   EXPECT_EQ(Control().Shown(), nullptr);
+}
+
+/// A window of another class, whose showing a test interferes with.
+class TOtherHintWindow : public THintWindow {
+ public:
+  using THintWindow::THintWindow;
+  static const TClass& Class() {
+    static const TClass info =
+        Describe<TOtherHintWindow, THintWindow>("TOtherHintWindow", "hints", {});
+    return info;
+  }
+  const TClass& ClassType() const override { return Class(); }
+  void ActivateHint(TRect rect, const std::string& text) override {
+    const TWatch watch(this);
+    if (OnActivate) OnActivate();
+    if (!watch.Gone()) THintWindow::ActivateHint(rect, text);
+  }
+  static inline std::function<void()> OnActivate;
+};
+
+class OtherHints : public Hints {
+ protected:
+  OtherHints() {
+    SetHintWindowClass(TOtherHintWindow::Class());
+    Renew();
+  }
+  ~OtherHints() override {
+    TOtherHintWindow::OnActivate = nullptr;
+    SetHintWindowClass(THintWindow::Class());
+    Renew();
+  }
+  static void Renew() {
+    Application()->SetShowHint(false);
+    Application()->SetShowHint(true);
+  }
+  static THintWindow* Component() {
+    THintWindow* found = nullptr;
+    int count = 0;
+    for (int i = 0; i < Application()->ComponentCount(); ++i) {
+      auto* window = dynamic_cast<THintWindow*>(Application()->Components(i));
+      if (window) found = window, ++count;
+    }
+    EXPECT_LE(count, 1);
+    return found;
+  }
+};
+
+TEST_F(OtherHints, TheApplicationOwnsAWindowOfTheClassWhileItShowsHints) {
+  ASSERT_TRUE(dynamic_cast<TOtherHintWindow*>(Component()));
+  Application()->SetHintColor(clLime);
+  EXPECT_EQ(Component()->Color(), clLime);
+  Renew();
+  EXPECT_EQ(Component()->Color(), clLime);
+  Application()->SetHintColor(clInfoBk);
+  int shown = 0;
+  TOtherHintWindow::OnActivate = [&] { ++shown; };
+  Application()->ActivateHint(MiddleOf(First));
+  EXPECT_EQ(Control().Shown(), First);
+  EXPECT_EQ(shown, 1);
+  Application()->SetShowHint(false);
+  EXPECT_EQ(Component(), nullptr);
+  EXPECT_EQ(Control().Shown(), nullptr);
+  Application()->ActivateHint(MiddleOf(First));
+  EXPECT_EQ(Control().Shown(), nullptr);
+  EXPECT_THROW(SetHintWindowClass(TForm::Class()), EInvalidOperation);
+  EXPECT_EQ(&HintWindowClass(), &TOtherHintWindow::Class());
+}
+
+TEST_F(OtherHints, AHintEndedWhileItsWindowShowsItIsNotSeen) {
+  TOtherHintWindow::OnActivate = [] { Application()->CancelHint(); };
+  Application()->ActivateHint(MiddleOf(First));
+  EXPECT_EQ(Control().Shown(), nullptr);
+  EXPECT_FALSE(Component()->HandleAllocated());
+  TOtherHintWindow::OnActivate = [] { Renew(); };
+  Application()->ActivateHint(MiddleOf(First));
+  EXPECT_EQ(Control().Shown(), nullptr);
+  EXPECT_FALSE(Component()->HandleAllocated());
+  TOtherHintWindow::OnActivate = [] { delete Component(); };
+  Application()->ActivateHint(MiddleOf(First));
+  EXPECT_EQ(Component(), nullptr);
+  Renew();
+  EXPECT_TRUE(Component());
 }
 
 TEST_F(Hints, EnterAndLeaveReachControlsWithoutWindows) {
