@@ -44,6 +44,7 @@ void TQELBackground::Draw(HDC dc, int width, int height, bool forward) {
 }
 
 void TQELBackground::AddItem(TControl* client) {
+  if (!client) throw vcl::EInvalidOperation("A client of a background cannot be nil");
   FClients.push_back(client);
   // Either side hears of the other's end, wherever the two belong.
   FreeNotification(client);

@@ -194,7 +194,7 @@ class QEL_API TQELBackground : public TQELCustomBackground {
   void SetBackgroundStyle(TQELBackStyle style);
 
   /// Appends a control to the clients. It is told when the background is freed, and leaves the list
-  /// when it is freed itself.
+  /// when it is freed itself. Raises EInvalidOperation for null.
   void AddItem(vcl::TControl* client) override;
   /// Takes a control out of the clients, once if it is there several times.
   void RemoveItem(vcl::TControl* client) override;

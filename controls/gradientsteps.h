@@ -49,14 +49,15 @@ int LastStepAt(const TGradientPlan& plan, int pair, std::int64_t step, Place pla
 }
 
 /// Visits the steps of all pairs in the order of painting: `paint(pair, step)`. Where there are many,
-/// those that are hidden at once are left out, so that the number of visits is bounded by the area's
-/// size, however many colours are asked for.
+/// those that are hidden at once are left out, so that the number of visits of a pair is bounded by
+/// its share of the area, however many colours are asked for.
 template <class Place, class Paint>
 void ForEachStep(const TGradientPlan& plan, Place place, Paint paint) {
   constexpr int Many = 256;
+  const bool many = std::int64_t{plan.ColorCount} * plan.Pairs() > Many;
   for (int pair = 0; pair < plan.Pairs(); ++pair) {
     for (std::int64_t step = 0; step < plan.ColorCount; ++step) {
-      if (plan.ColorCount > Many) step = LastStepAt(plan, pair, step, place);
+      if (many) step = LastStepAt(plan, pair, step, place);
       paint(pair, static_cast<int>(step));
     }
   }

@@ -2,6 +2,10 @@
 
 #include <intrin.h>
 
+#include <string>
+
+#include "host/rtl/text.h"
+
 namespace qel {
 
 void FillPixels(TPixel* first, std::size_t count, TPixel value) {
@@ -19,8 +23,11 @@ TSurface::TSurface(int width, int height) : FWidth(width), FHeight(height) {
   info.bmiHeader.biBitCount = 32;
   info.bmiHeader.biCompression = BI_RGB;
   void* pixels = nullptr;
-  FBitmap.Reset(vcl::CheckHandle(
-      ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0), "a bitmap"));
+  FBitmap.Reset(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
+  if (!FBitmap) {
+    vcl::RaiseOutOfResources(vcl::Concat("a bitmap of ", std::to_string(width), " by ",
+                                         std::to_string(height), " pixels"));
+  }
   FPixels = static_cast<TPixel*>(pixels);
   FFormer = ::SelectObject(DC(), FBitmap.Get());
 }

@@ -1,5 +1,8 @@
 #include "core/Qelfont3d.h"
 
+#include <algorithm>
+#include <cstdint>
+
 #include "core/Qelownedsettings.h"
 #include "host/rtl/properties.h"
 #include "host/vcl/windowtext.h"
@@ -47,8 +50,61 @@ class TTextLayers {
     Move(dx, dy);
     Draw();
   }
+  /// Draws copies, each one pixel further in the direction (1 or -1, the same for x and y).
+  void DrawTrail(int copies, int direction) {
+    const TSteps seen = copies > ManyCopies ? SeenSteps(copies, direction) : TSteps{0, copies};
+    Move(direction * seen.First, direction * seen.First);
+    for (int i = seen.First; i < seen.End; ++i) {
+      Draw();
+      Move(direction, direction);
+    }
+    Move(direction * (copies - seen.End), direction * (copies - seen.End));
+  }
 
  private:
+  /// More copies than this are not all drawn without asking which ones can be seen.
+  static constexpr int ManyCopies = 1000;
+
+  /// Steps of a trail: from the first to before the end.
+  struct TSteps {
+    int First;
+    int End;
+  };
+
+  /// The steps at which the text can touch what is seen of the context.
+  TSteps SeenSteps(int copies, int direction) {
+    RECT box;
+    if (!::GetClipBox(FDC, &box)) return {0, copies};
+    RECT size = FRect;
+    ::DrawTextExW(FDC, FText.data(), -1, &size, FFlags | DT_CALCRECT, nullptr);
+    const std::int64_t width = std::int64_t{size.right} - size.left;
+    const std::int64_t height = std::int64_t{size.bottom} - size.top;
+    const bool line = FFlags & DT_SINGLELINE;
+    const std::int64_t left = Start(FRect.left, FRect.right, width, FFlags & DT_CENTER,
+                                    FFlags & DT_RIGHT);
+    const std::int64_t top = Start(FRect.top, FRect.bottom, height, line && (FFlags & DT_VCENTER),
+                                   line && (FFlags & DT_BOTTOM));
+    // Slanted letters reach out of their own box.
+    const std::int64_t margin = std::abs(width) + std::abs(height);
+    std::int64_t first = 0;
+    std::int64_t end = copies;
+    const auto bound = [&](std::int64_t from, std::int64_t to, std::int64_t low, std::int64_t high) {
+      first = std::max(first, direction > 0 ? low - margin - to : from - high - margin);
+      end = std::min(end, (direction > 0 ? high + margin - from : to - low + margin) + 1);
+    };
+    bound(left, left + width, box.left, box.right);
+    bound(top, top + height, box.top, box.bottom);
+    if (first >= end) return {copies, copies};
+    return {static_cast<int>(first), static_cast<int>(end)};
+  }
+
+  /// Where something of the size begins between two ends.
+  static std::int64_t Start(std::int64_t low, std::int64_t high, std::int64_t size, bool centered,
+                            bool atEnd) {
+    if (centered) return (low + high - size) / 2;
+    return atEnd ? high - size : low;
+  }
+
   HDC FDC;
   RECT FRect;
   std::wstring FText;
@@ -72,10 +128,7 @@ void DrawRepetition(TTextLayers& layers, const TQELFont3D& font) {
   layers.SetColor(font.RepetitionColor());
   const int towards = font.Repetition() == repeatOnShadow ? 1 : -1;
   layers.Move(towards * font.Offset(), towards * font.Offset());
-  for (int i = 0; i < font.Repetitionwidth(); ++i) {
-    layers.Draw();
-    layers.Move(-towards, -towards);
-  }
+  layers.DrawTrail(font.Repetitionwidth(), -towards);
 }
 
 void DrawOutline(TTextLayers& layers, const TQELFont3D& font) {

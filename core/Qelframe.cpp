@@ -1,6 +1,8 @@
 #include "core/Qelframe.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "core/Qelownedsettings.h"
 #include "host/rtl/properties.h"
@@ -23,17 +25,31 @@ class TQELFrame::TPainter {
   void Border(TRect& rect, TColor topLeft, TColor bottomRight) {
     --rect.Right;
     --rect.Bottom;
-    for (int ring = 0; ring < FRings; ++ring) {
+    const int seen = SeenRings(rect);
+    for (int ring = 0; ring < seen; ++ring) {
       Half({rect.Left, rect.Bottom}, {rect.Left, rect.Top}, {rect.Right, rect.Top}, topLeft);
       Half({rect.Right, rect.Top}, {rect.Right, rect.Bottom}, {rect.Left - 1, rect.Bottom},
            bottomRight);
       rect.Inflate(-1, -1);
     }
+    rect.Inflate(seen - FRings, seen - FRings);
     ++rect.Right;
     ++rect.Bottom;
   }
 
  private:
+  /// How many of the rings can touch what is seen of the context. The others would only take time, as
+  /// any width may be asked for.
+  int SeenRings(const TRect& rect) const {
+    RECT box;
+    if (!::GetClipBox(FDC, &box)) return FRings;
+    const std::int64_t reach = std::max({std::int64_t{box.right} - rect.Left,
+                                         std::int64_t{box.bottom} - rect.Top,
+                                         std::int64_t{rect.Right} - box.left,
+                                         std::int64_t{rect.Bottom} - box.top});
+    return static_cast<int>(std::clamp<std::int64_t>(reach + 2, 0, FRings));
+  }
+
   void Half(TPoint from, TPoint corner, TPoint to, TColor color) {
     if (color == vcl::clNone) return;
     ::SetDCPenColor(FDC, vcl::ColorToRGB(color));

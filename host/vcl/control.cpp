@@ -74,7 +74,7 @@ TControl::~TControl() {
   TDragSession::Forget(this);
   if (HasApplication()) Application()->ControlGone(this);
   FFont->OnChange.Clear();
-  if (MouseCapture()) SetMouseCapture(false);
+  ForgetCapture();
   if (FParent) FParent->Remove(this);
 }
 
@@ -126,6 +126,7 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   width = std::max(width, 0);
   height = std::max(height, 0);
   if (left == FLeft && top == FTop && width == FWidth && height == FHeight) return;
+  const TWatch watch(this);
   const bool resized = width != FWidth || height != FHeight;
   InvalidateArea(FVisible, false);
   FLeft = left;
@@ -134,7 +135,7 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   FHeight = height;
   Invalidate();
   RequestAlign();
-  if (resized && !Loading()) Resize();
+  if (!watch.Gone() && resized && !Loading()) Resize();
 }
 
 void TControl::SetClientSize(int width, int height) {
@@ -179,8 +180,9 @@ void TControl::SetEnabled(bool enabled) {
 void TControl::SetVisible(bool visible) {
   if (visible == FVisible) return;
   FVisible = visible;
+  const TWatch watch(this);
   Notify(CM_VISIBLECHANGED);
-  RequestAlign();
+  if (!watch.Gone()) RequestAlign();
 }
 
 void TControl::Show() {
@@ -336,7 +338,12 @@ void TControl::Notification(TComponent* component, TOperation operation) {
 
 void TControl::ReadState(TReader& reader) {
   IncludeState(csReadingState);
-  TComponent::ReadState(reader);
+  try {
+    TComponent::ReadState(reader);
+  } catch (...) {
+    ExcludeState(csReadingState);
+    throw;
+  }
   ExcludeState(csReadingState);
   FollowParent();
 }

@@ -204,6 +204,7 @@ class VCL_API TControl : public TComponent {
   friend class TControlCanvas;
   friend class TDragSession;
   void FontChanged(TObject* sender);
+  void ForgetCapture();
   void Notify(UINT notice);
   void MouseButtonDown(TMessage& message, TMouseButton button, TShiftState extra);
   void MouseButtonUp(TMessage& message, TMouseButton button);

@@ -34,6 +34,12 @@ void TControl::SetMouseCapture(bool capture) {
   }
 }
 
+/// For a control that ends: its parent's window may have lost the capture without its knowing.
+void TControl::ForgetCapture() {
+  if (MouseCapture()) SetMouseCapture(false);
+  if (capturedControl == this) capturedControl = nullptr;
+}
+
 LRESULT TControl::Perform(UINT message, WPARAM wParam, LPARAM lParam) {
   TMessage record{message, wParam, lParam, 0};
   WndProc(record);

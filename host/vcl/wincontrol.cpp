@@ -153,10 +153,12 @@ void TWinControl::ShowControl(TControl* control) {
 }
 
 void TWinControl::ReadState(TReader& reader) {
-  DisableAlign();
-  TControl::ReadState(reader);
-  FixupTabList();
-  EnableAlign();
+  {
+    const TAlignHold hold(*this);
+    TControl::ReadState(reader);
+    FixupTabList();
+  }
+  Realign();
   UpdateControlState();
 }
 
@@ -176,9 +178,10 @@ void TWinControl::SetBounds(int left, int top, int width, int height) {
   FTop = top;
   FWidth = width;
   FHeight = height;
+  const TWatch watch(this);
   if (resized) Realign();
-  RequestAlign();
-  if (resized && !Loading()) Resize();
+  if (!watch.Gone()) RequestAlign();
+  if (!watch.Gone() && resized && !Loading()) Resize();
 }
 
 void TWinControl::UpdateBounds() {

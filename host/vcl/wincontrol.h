@@ -182,6 +182,19 @@ class VCL_API TWinControl : public TControl {
  private:
   friend class TControl;
   friend class TApplication;
+  /// Holds the arranging of the controls inside back, also when it ends by an exception; the control
+  /// may be freed meanwhile.
+  class TAlignHold {
+   public:
+    explicit TAlignHold(TWinControl& control);
+    ~TAlignHold();
+    TAlignHold(const TAlignHold&) = delete;
+    TAlignHold& operator=(const TAlignHold&) = delete;
+
+   private:
+    TWatch FWatch;
+    TWinControl& FControl;
+  };
   static LRESULT CALLBACK StaticWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void Insert(TControl* control);
   void Remove(TControl* control);

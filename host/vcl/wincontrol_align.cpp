@@ -22,21 +22,23 @@ bool ComesBefore(const TControl* a, const TControl* b, TAlign align) {
   }
 }
 
-/// Puts the control along its edge of the rectangle, which becomes what is left of it.
+/// Puts the control along its edge of the rectangle, which becomes what is left of it. A control that
+/// ends as it hears of its new size takes nothing.
 void Place(TControl* control, TRect& rect) {
+  const TWatch watch(control);
   const int width = std::max(rect.Width(), 0);
   const int height = std::max(rect.Height(), 0);
   switch (control->Align()) {
     case alTop:
       control->SetBounds(rect.Left, rect.Top, width, control->Height());
-      rect.Top += control->Height();
+      if (!watch.Gone()) rect.Top += control->Height();
       return;
     case alBottom:
       rect.Bottom -= control->Height();
       return control->SetBounds(rect.Left, rect.Bottom, width, control->Height());
     case alLeft:
       control->SetBounds(rect.Left, rect.Top, control->Width(), height);
-      rect.Left += control->Width();
+      if (!watch.Gone()) rect.Left += control->Width();
       return;
     case alRight:
       rect.Right -= control->Width();
@@ -50,6 +52,16 @@ void Place(TControl* control, TRect& rect) {
 
 }  // namespace
 
+TWinControl::TAlignHold::TAlignHold(TWinControl& control) : FWatch(&control), FControl(control) {
+  FControl.DisableAlign();
+}
+
+TWinControl::TAlignHold::~TAlignHold() {
+  if (FWatch.Gone()) return;
+  FControl.FAlignNeeded = false;
+  --FControl.FAlignLevel;
+}
+
 void TWinControl::AlignControl(TControl* control) {
   if (Destroying()) return;
   if (FAlignLevel > 0) {
@@ -57,12 +69,10 @@ void TWinControl::AlignControl(TControl* control) {
     return;
   }
   // Controls that are moved ask for the same again, which this call does already.
-  DisableAlign();
+  const TAlignHold hold(*this);
   TRect rect = ClientRect();
   AdjustClientRect(rect);
   AlignControls(control, rect);
-  FAlignNeeded = false;
-  --FAlignLevel;
 }
 
 void TWinControl::Realign() { AlignControl(nullptr); }
@@ -72,8 +82,9 @@ void TWinControl::EnableAlign() {
 }
 
 void TWinControl::AlignControls(TControl* control, TRect& rect) {
+  const TWatch watch(this);
   for (const TAlign align : {alTop, alBottom, alLeft, alRight, alClient}) {
-    AlignGroup(control, align, rect);
+    if (!watch.Gone()) AlignGroup(control, align, rect);
   }
 }
 
@@ -86,7 +97,12 @@ void TWinControl::AlignGroup(TControl* control, TAlign align, TRect& rect) {
   std::ranges::stable_partition(group, [&](TControl* each) { return each == control; });
   std::ranges::stable_sort(
       group, [&](TControl* a, TControl* b) { return ComesBefore(a, b, align); });
-  for (TControl* each : group) Place(each, rect);
+  // What hears of its new size may free any of them, and this control too.
+  const TWatch watch(this);
+  for (TControl* each : group) {
+    if (std::ranges::count(FControls, each) > 0) Place(each, rect);
+    if (watch.Gone()) return;
+  }
 }
 
 }  // namespace vcl

@@ -214,8 +214,9 @@ void TWinControl::WMWindowPosChanged(TMessage& message) {
   if (watch.Gone() || ControlState().Has(csDestroyingHandle)) return;
   const auto* place = reinterpret_cast<const WINDOWPOS*>(message.LParam);
   if (!(place->flags & SWP_NOMOVE) || !(place->flags & SWP_NOSIZE)) RequestAlign();
-  if (place->flags & SWP_NOSIZE) return;
+  if (watch.Gone() || (place->flags & SWP_NOSIZE)) return;
   Realign();
+  if (watch.Gone()) return;
   const bool resized = width != Width() || height != Height();
   if (resized && !Loading()) Resize();
 }

@@ -120,6 +120,11 @@ TEST_F(Background, AClientMayEndWhileTheyAreTold) {
   EXPECT_THAT(Log, ElementsAre("a", "c", "changed"));
 }
 
+TEST_F(Background, HasNoClientThatIsNone) {
+  EXPECT_THROW(Back.AddItem(nullptr), vcl::EInvalidOperation);
+  EXPECT_EQ(Back.ClientCount(), 0);
+}
+
 TEST(BackgroundEvents, AHandlerMayFreeTheBackground) {
   auto* background = new TQELBackground(nullptr);
   background->OnChanged = [&](vcl::TObject*) { delete background; };
@@ -154,7 +159,12 @@ TEST_F(Background, PaintsNothingOutsideItsSize) {
 TEST_F(Background, ASizeThatNobodyHasIsAnError) {
   Back.Gradient()->SetColorCount(1);
   const TArea area(4, 4);
-  EXPECT_THROW(Back.Draw(area.DC(), 200000, 200000, true), vcl::EOutOfResources);
+  try {
+    Back.Draw(area.DC(), 200000, 200001, true);
+    ADD_FAILURE();
+  } catch (const vcl::EOutOfResources& error) {
+    EXPECT_THAT(error.what(), testing::HasSubstr("a bitmap of 200000 by 200001 pixels"));
+  }
   Back.Draw(area.DC(), 4, 4, true);
   EXPECT_EQ(area.Pixel(0, 0), 0xC0C0C0u);
 }

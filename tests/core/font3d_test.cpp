@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <memory>
 
 #include <string>
 #include <vector>
@@ -167,6 +168,35 @@ TEST(Font3DWrite, TakesAnyText) {
   for (const std::string& text : texts) {
     TQELFont3D().Write(&font, dib.DC(), Area, text, DT_MODIFYSTRING | DT_END_ELLIPSIS, true);
     TQELFont3D().Write(&font, dib.DC(), {5, 5, -5, -5}, text, DT_WORDBREAK, false);
+  }
+}
+
+/// Few copies are all drawn, of many only those that can be seen: a trail that begins beyond the area
+/// shows the same from there on, whichever it is.
+TEST(Font3DWrite, TrailsOfAnyLengthTakeNoTime) {
+  vcl::TFont font;
+  for (const qel::TQELRepeat repeat : {qel::repeatOnShadow, qel::repeatOnHighLight}) {
+    for (const unsigned flags : {DT_LEFT, DT_CENTER | DT_VCENTER | DT_SINGLELINE,
+                                 DT_RIGHT | DT_BOTTOM | DT_SINGLELINE, DT_CENTER | DT_WORDBREAK}) {
+      TQELFont3D font3D;
+      font3D.SetRepetition(repeat);
+      font3D.SetRepetitionColor(vcl::clRed);
+      const auto write = [&](int copies) {
+        auto dib = std::make_unique<plain::TDib>(Width, Height);
+        dib->Fill(0xFFFFFF);
+        font3D.SetRepetitionwidth(copies);
+        // The rectangle is larger by what the copies take from it.
+        font3D.Write(&font, dib->DC(),
+                     {Area.Left - copies, Area.Top - copies, Area.Right + copies,
+                      Area.Bottom + copies},
+                     "Ab cd", flags, true);
+        ::GdiFlush();
+        return dib;
+      };
+      const auto few = write(1000);
+      EXPECT_EQ(std::memcmp(few->Bits(), write(1001)->Bits(), few->Bytes()), 0) << flags;
+      EXPECT_EQ(std::memcmp(few->Bits(), write(50'000'000)->Bits(), few->Bytes()), 0) << flags;
+    }
   }
 }
 

@@ -115,6 +115,23 @@ TEST(Frame, RefusesSizesSilently) {
   EXPECT_EQ(changes, 4);
 }
 
+TEST(Frame, WidthsBeyondTheAreaCostNothing) {
+  TQELFrame frame;
+  frame.SetSolid(Solid);
+  frame.SetFrameStyle(qel::frameSolid);
+  frame.SetFrameWidth(1'000'000'000);
+  const plain::TDib dib(Width, Height);
+  dib.Fill(Ground);
+  TRect rect = Around;
+  frame.Draw(dib.DC(), rect);
+  EXPECT_EQ(rect, TRect(Around.Left + 1'000'000'000, Around.Top + 1'000'000'000,
+                        Around.Right - 1'000'000'000, Around.Bottom - 1'000'000'000));
+  // Past their middle the rings grow again, until they leave what can be seen.
+  for (int x : {0, Around.Left, Width / 2, Width - 1}) {
+    EXPECT_EQ(dib.Pixel(x, Height / 2), Pixel(Solid)) << x;
+  }
+}
+
 TEST(Frame, CopiesWithOneNotice) {
   TQELFrame from, to;
   from.SetFrameStyle(qel::frameFramedUp);

@@ -169,6 +169,29 @@ TEST_F(Controls, AlignKeepsControlsAlongTheEdges) {
   EXPECT_EQ(rest->Left(), 0);
 }
 
+TEST_F(Controls, HandlersOfNewSizesMayRaiseOrFree) {
+  auto* outer = Make<TBox>(&Form, 0, 0, 50, 50);
+  auto* inner = Make<TBox>(outer, 0, 0, 10, 10);
+  auto* second = Make<TBox>(outer, 0, 20, 10, 10);
+  inner->OnResize = [](TObject*) { throw EInvalidOperation("no size"); };
+  EXPECT_THROW(inner->SetAlign(alTop), EInvalidOperation);
+  inner->OnResize = nullptr;
+  outer->SetWidth(60);
+  EXPECT_EQ(inner->Width(), 60);
+  second->SetAlign(alBottom);
+  inner->OnResize = [&](TObject*) {
+    delete inner;
+    delete second;
+  };
+  outer->SetWidth(70);
+  EXPECT_EQ(outer->ControlCount(), 0);
+  inner = Make<TBox>(outer, 0, 0, 10, 10);
+  inner->SetAlign(alTop);
+  inner->OnResize = [&](TObject*) { delete outer; };
+  outer->SetWidth(80);
+  EXPECT_EQ(Form.ControlCount(), 0);
+}
+
 TEST_F(Controls, TabOrderIsThePlaceAmongTheSiblings) {
   auto* a = Make<TBox>(&Form, 0, 0, 10, 10);
   auto* b = Make<TBox>(&Form, 0, 0, 10, 10);
@@ -226,6 +249,42 @@ TEST_F(Controls, TheMouseReachesControlsWithoutWindows) {
   probe->WantNoDoubleClicks();
   Send(Form, WM_LBUTTONDBLCLK, 25, 35, MK_LBUTTON);
   EXPECT_EQ(log, "down 5,5 ");
+}
+
+/// In memory of its own, so that nobody touches it unseen when it has gone.
+template <class T>
+struct TLonely : T {
+  using T::T;
+  static void* operator new(std::size_t size) {
+    return ::VirtualAlloc(nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+  }
+  static void operator delete(void* memory) { ::VirtualFree(memory, 0, MEM_RELEASE); }
+};
+
+TEST_F(Controls, AControlThatLostTheMouseIsForgottenAtItsEnd) {
+  auto* box = Make<TBox>(&Form, 0, 0, 100, 100);
+  auto* probe = Make<TLonely<TProbe>>(box, 0, 0, 50, 50);
+  Form.Show();
+  probe->Perform(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  EXPECT_TRUE(probe->MouseCapture());
+  box->RecreateWnd();
+  EXPECT_FALSE(probe->MouseCapture());
+  delete probe;
+  auto* next = Make<TProbe>(box, 0, 0, 50, 50);
+  ::SetCapture(box->Handle());
+  EXPECT_FALSE(next->MouseCapture());
+  ::ReleaseCapture();
+}
+
+TEST_F(Controls, AHandlerOfShowingMayFreeTheForm) {
+  auto* form = new TLonely<TForm>(nullptr);
+  bool gone = false;
+  form->OnShow = [&](TObject*) {
+    gone = true;
+    delete form;
+  };
+  form->SetVisible(true);
+  EXPECT_TRUE(gone);
 }
 
 TEST_F(Controls, AHandlerMayFreeItsSender) {

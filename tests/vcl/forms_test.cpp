@@ -420,6 +420,20 @@ TEST_F(Forms, WhatIsAlignedFitsAFormWithAMenu) {
   EXPECT_EQ(bottom(), 150);
 }
 
+TEST_F(Forms, AFormThatCouldNotBeReadWorksOn) {
+  TForm form(nullptr);
+  auto* field = new TField(&form, &form, "Field", nullptr);
+  const std::string text = "object Form1: TForm object Menu1: TMainMenu Nothing = 5 end end";
+  TStringStream file(text);
+  RegisterMenuClasses();
+  EXPECT_THROW(ReadComponentFile(file, &form), EReadError);
+  EXPECT_EQ(form.ControlCount(), 1);
+  field->SetAlign(alClient);
+  EXPECT_EQ(field->Width(), form.ClientWidth());
+  form.Show();
+  EXPECT_TRUE(::IsWindowVisible(form.Handle()));
+}
+
 TEST_F(Forms, AFormWrittenAndReadBackIsTheSame) {
   const std::string written = TFileForm(FormText).Written();
   EXPECT_EQ(TFileForm(written).Written(), written);
