@@ -5,3 +5,4 @@
 #include "controls/Qeltbutton.h"
 #include "controls/Qeltgauge.h"
 #include "controls/Qeltlabel.h"
+#include "controls/Qeltspinedit.h"

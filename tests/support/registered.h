@@ -5,6 +5,7 @@
 #include "controls/Qeltbutton.h"
 #include "controls/Qeltgauge.h"
 #include "controls/Qeltlabel.h"
+#include "controls/Qeltspinedit.h"
 #include "core/Qelclasses.h"
 #include "host/rtl/classregistry.h"
 
@@ -14,5 +15,6 @@ inline void RegisterAll() {
                         &qel::TQELAbout::Class(), &qel::TQELGlyph::Class(),
                         &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class(),
                         &qel::TQELButton::Class(), &qel::TQELLabel::Class(),
-                        &qel::TQELGauge::Class()});
+                        &qel::TQELGauge::Class(), &qel::TQELSpinButton::Class(),
+                        &qel::TQELSpinEdit::Class()});
 }

@@ -1,0 +1,245 @@
+// The spin edit under real keys, clipboard, focus and mouse.
+#include <limits>
+
+#include "tests/controls/spinedit_form.h"
+
+namespace qel {
+namespace {
+
+constexpr int Least = std::numeric_limits<int>::min();
+constexpr int Most = std::numeric_limits<int>::max();
+
+class SpinEdit : public TSpinForm {
+ protected:
+  /// Sets bounds in the order in which neither is refused.
+  void SetBounds(int minValue, int maxValue) {
+    Spin->SetMaxValue(std::max(maxValue, Spin->MaxValue()));
+    Spin->SetMinValue(minValue);
+    Spin->SetMaxValue(maxValue);
+  }
+  /// Presses and releases on the upper or the lower half of the button.
+  void ClickHalf(bool upper) {
+    const int at = upper ? 5 : Spin->Button()->Width() - 5;
+    testinput::Click(Spin->Button()->ClientToScreen({at, at}));
+  }
+  void CopyToClipboard(const std::string& text) {
+    Other->SetText(text);
+    Other->SelectAll();
+    Other->CopyToClipboard();
+  }
+};
+
+TEST_F(SpinEdit, TakesDigitsAndSignsAndBeepsAtTheRest) {
+  Type("a-4 2x+.");
+  EXPECT_EQ(Spin->Text(), "-42+");
+  EXPECT_EQ(beeps, 4);
+  EXPECT_EQ(otherSounds, 0);
+  Key(VK_BACK);
+  EXPECT_EQ(Spin->Text(), "-42");
+  EXPECT_EQ(beeps, 4);
+}
+
+TEST_F(SpinEdit, WithoutCutandPasteNothingIsTyped) {
+  Spin->SetCutandPaste(false);
+  Type("7a");
+  Key(VK_BACK);
+  EXPECT_EQ(Spin->Text(), "0");
+  EXPECT_EQ(beeps, 3);
+  for (const auto& [key, valid] :
+       {std::pair{U'\x03', true}, {U'\b', false}, {U'.', false}, {U'5', false}}) {
+    EXPECT_EQ(Spin->IsValidChar(key), valid) << static_cast<int>(key);
+  }
+  Key(VK_UP);
+  EXPECT_EQ(Spin->GetValue(), 1);
+}
+
+TEST_F(SpinEdit, KeysStep) {
+  const struct {
+    WORD Key;
+    int From;
+    int Value;
+  } cases[] = {
+      {VK_UP, 5, 8},      {VK_DOWN, 5, 2},   {VK_PRIOR, 5, 25}, {VK_NEXT, 45, 25},
+      {VK_UP, 99, 100},   {VK_DOWN, 1, 0},   {VK_PRIOR, 90, 100}, {VK_NEXT, 10, 0},
+  };
+  Spin->SetLineSize(3);
+  Spin->SetMultipleLineSize(20);
+  for (const auto& each : cases) {
+    Spin->SetValue(each.From);
+    Key(each.Key);
+    EXPECT_EQ(Spin->Text(), std::to_string(each.Value)) << each.Key << " from " << each.From;
+  }
+  Spin->SetLineSize(-7);
+  Spin->SetValue(50);
+  Key(VK_UP);
+  EXPECT_EQ(Spin->GetValue(), 43);
+  EXPECT_EQ(beeps, 0);
+}
+
+TEST_F(SpinEdit, StepsEndAtTheIntegersLimits) {
+  const struct {
+    int From;
+    int LineSize;
+    WORD Key;
+    int Value;
+  } cases[] = {
+      {Most, 1, VK_UP, Most},         {Most - 2, 10, VK_UP, Most}, {Least, 1, VK_DOWN, Least},
+      {0, Least, VK_DOWN, Most},      {-1, Least, VK_UP, Least},   {Least, Most, VK_DOWN, Least},
+  };
+  SetBounds(Least, Most);
+  for (const auto& each : cases) {
+    Spin->SetLineSize(each.LineSize);
+    Spin->SetValue(each.From);
+    Key(each.Key);
+    EXPECT_EQ(Spin->GetValue(), each.Value) << each.From << " by " << each.LineSize;
+  }
+}
+
+TEST_F(SpinEdit, AReadOnlyOneBeepsAtArrowsAndButtonAndIgnoresPageKeys) {
+  Spin->SetValue(50);
+  Spin->SetReadonly(true);
+  Key(VK_PRIOR);
+  Key(VK_NEXT);
+  EXPECT_EQ(beeps, 0);
+  Key(VK_UP);
+  Key(VK_DOWN);
+  ClickHalf(true);
+  ClickHalf(false);
+  EXPECT_EQ(beeps, 4);
+  Type("7");
+  EXPECT_EQ(Spin->Text(), "50");
+}
+
+TEST_F(SpinEdit, WhatIsTypedIsKeptWithinTheBoundsWhenTheFocusLeaves) {
+  const struct {
+    const char* Text;
+    const char* Left;
+    int Value;
+  } cases[] = {
+      {"500", "100", 100}, {"-5", "0", 0},     {"42", "42", 42},
+      {"", "0", 0},        {"+7", "+7", 7},    {"+-", "+-", 0},
+      {"12a", "12a", 0},   {"$1F", "$1F", 0},  {"99999999999", "99999999999", 0},
+  };
+  for (const auto& each : cases) {
+    Spin->SetFocus();
+    Spin->SetText(each.Text);
+    int atExit = -1;
+    Spin->OnExit = [&](vcl::TObject*) { atExit = Spin->GetValue(); };
+    Key(VK_TAB);
+    EXPECT_TRUE(Other->Focused());
+    EXPECT_EQ(Spin->Text(), each.Left);
+    EXPECT_EQ(Spin->GetValue(), each.Value) << each.Text;
+    EXPECT_EQ(atExit, each.Value) << each.Text;
+  }
+}
+
+TEST_F(SpinEdit, EnteringSelectsAllUnlessByClick) {
+  Spin->SetValue(77);
+  for (const bool select : {true, false}) {
+    Spin->SetAutoSelect(select);
+    Other->SetFocus();
+    Spin->SetSelLength(0);
+    Key(VK_TAB);
+    EXPECT_TRUE(Spin->Focused());
+    EXPECT_EQ(Spin->SelText(), select ? "77" : "");
+  }
+  Spin->SetAutoSelect(true);
+  Other->SetFocus();
+  Spin->SetSelLength(0);
+  Click(*Spin, 60, 8);
+  EXPECT_TRUE(Spin->Focused());
+  EXPECT_EQ(Spin->SelText(), "");
+}
+
+TEST_F(SpinEdit, CutsAndPastesWhileItMay) {
+  const struct {
+    bool CutandPaste;
+    bool Readonly;
+    const char* Pasted;
+    const char* Cut;
+  } cases[] = {{true, false, "55x", ""}, {false, false, "12", "12"}, {true, true, "12", "12"}};
+  for (const auto& each : cases) {
+    CopyToClipboard("55x");
+    Spin->SetReadonly(each.Readonly);
+    Spin->SetCutandPaste(each.CutandPaste);
+    Spin->SetText("12");
+    Spin->SetFocus();
+    Spin->SelectAll();
+    KeyWith(VK_CONTROL, 'V');
+    EXPECT_EQ(Spin->Text(), each.Pasted);
+    Spin->SelectAll();
+    KeyWith(VK_CONTROL, 'X');
+    EXPECT_EQ(Spin->Text(), each.Cut);
+    Spin->SetText("12");
+    Spin->SelectAll();
+    Spin->PasteFromClipboard();
+    EXPECT_EQ(Spin->Text(), each.Pasted);
+  }
+  EXPECT_EQ(beeps, 0);
+}
+
+TEST_F(SpinEdit, EnterAndEscapeReachTheFormsButtons) {
+  std::string pressed;
+  auto* ok = Make<vcl::TButton>(10, 140);
+  auto* cancel = Make<vcl::TButton>(100, 140);
+  ok->SetDefault(true);
+  cancel->SetCancel(true);
+  ok->OnClick = [&](vcl::TObject*) { pressed += "ok "; };
+  cancel->OnClick = [&](vcl::TObject*) { pressed += "cancel "; };
+  Key(VK_RETURN);
+  Key(VK_ESCAPE);
+  EXPECT_EQ(pressed, "ok cancel ");
+  EXPECT_EQ(Spin->Text(), "0");
+  EXPECT_EQ(beeps, 0);
+}
+
+TEST_F(SpinEdit, TheButtonStepsOnReleaseAndLeavesTheFocusAlone) {
+  Other->SetFocus();
+  Spin->SetValue(10);
+  ClickHalf(true);
+  EXPECT_EQ(Spin->GetValue(), 11);
+  ClickHalf(false);
+  ClickHalf(false);
+  EXPECT_EQ(Spin->GetValue(), 9);
+  EXPECT_TRUE(Other->Focused());
+  testinput::MoveMouse(testinput::MiddleOf(Spin->Button()));
+  testinput::LeftDown();
+  testinput::PumpFor(700);
+  EXPECT_EQ(Spin->GetValue(), 9);
+  testinput::LeftUp();
+  EXPECT_NE(Spin->GetValue(), 9);
+}
+
+TEST_F(SpinEdit, IsDisabledWithItsButton) {
+  Spin->SetEnabled(false);
+  EXPECT_EQ(Spin->Button()->Down(), bsDisabled);
+  ClickHalf(true);
+  EXPECT_EQ(Spin->GetValue(), 0);
+  Spin->SetEnabled(true);
+  EXPECT_EQ(Spin->Button()->Down(), bsUp);
+  ClickHalf(true);
+  EXPECT_EQ(Spin->GetValue(), 1);
+}
+
+TEST_F(SpinEdit, AHandlerMayFreeIt) {
+  for (const auto& act : {std::function<void()>([&] { Key(VK_UP); }), {[&] { Key(VK_NEXT); }},
+                          {[&] { Type("5"); }}, {[&] { ClickHalf(true); }},
+                          {[&] { Spin->SetText("500"); Key(VK_TAB); }}}) {
+    Spin->SetValue(50);
+    Spin->SetFocus();
+    bool freed = false;
+    Spin->OnChange = [&](vcl::TObject*) {
+      if (Spin->Text() == "500") return;
+      freed = true;
+      delete Spin;
+    };
+    act();
+    EXPECT_TRUE(freed);
+    Spin = new TOpenSpinEdit(&Form);
+    Spin->SetParent(&Form);
+    Spin->SetBounds(10, 10, 120, 24);
+  }
+}
+
+}  // namespace
+}  // namespace qel

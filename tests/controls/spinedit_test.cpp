@@ -1,0 +1,231 @@
+// The spin edit: its value and bounds, its size and window, its properties and form files.
+#include <gtest/gtest.h>
+
+#include "host/rtl/classregistry.h"
+#include "host/rtl/formfile.h"
+#include "host/rtl/streams.h"
+#include "tests/controls/spinedit_form.h"
+
+namespace qel {
+namespace {
+
+using testing::ElementsAre;
+using vcl::TRect;
+
+class SpinEditValue : public TSpinForm {};
+
+TEST_F(SpinEditValue, ReadsWhatTheTextSays) {
+  Spin->SetMinValue(-3);
+  const struct {
+    const char* Text;
+    int Value;
+  } cases[] = {{"7", 7},   {"-2", -2}, {"+9", 9},  {"4000", 4000}, {"1x", -3},
+               {"1-", -3}, {"e", -3},  {"0x5", -3}, {"1\r\n2", -3}, {"2147483648", -3}};
+  for (const auto& each : cases) {
+    Spin->SetText(each.Text);
+    EXPECT_EQ(Spin->GetValue(), each.Value) << each.Text;
+    EXPECT_EQ(Spin->Text(), each.Text);
+  }
+}
+
+TEST_F(SpinEditValue, AnEmptyTextBecomesTheLeastValueWhenItIsRead) {
+  Spin->SetMinValue(5);
+  Spin->SetText("");
+  int changes = 0;
+  Spin->OnChange = [&](vcl::TObject*) { ++changes; };
+  EXPECT_EQ(Spin->GetValue(), 5);
+  EXPECT_EQ(Spin->Text(), "5");
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(SpinEditValue, BoundsRefuseEachOtherAndTakeTheValueAlong) {
+  Spin->SetValue(60);
+  Spin->SetMaxValue(0);
+  Spin->SetMaxValue(-5);
+  EXPECT_EQ(Spin->MaxValue(), 100);
+  Spin->SetMinValue(100);
+  Spin->SetMinValue(200);
+  EXPECT_EQ(Spin->MinValue(), 0);
+  EXPECT_EQ(Spin->GetValue(), 60);
+  Spin->SetMaxValue(50);
+  EXPECT_EQ(Spin->Text(), "50");
+  Spin->SetMaxValue(90);
+  Spin->SetMinValue(70);
+  EXPECT_EQ(Spin->Text(), "70");
+  Spin->SetValue(500);
+  EXPECT_EQ(Spin->GetValue(), 90);
+  Spin->SetValue(-500);
+  EXPECT_EQ(Spin->GetValue(), 70);
+}
+
+/// A spin edit that is read from a form file with these lines.
+std::unique_ptr<vcl::TForm> Read(const std::string& lines) {
+  vcl::RegisterClasses({&TQELSpinEdit::Class(), &TQELSpinButton::Class()});
+  vcl::TStringStream file("object Form1: TForm\n  object Spin: TQELSpinEdit\n" + lines +
+                          "  end\nend\n");
+  auto form = std::make_unique<vcl::TForm>(nullptr);
+  vcl::ReadComponentFile(file, form.get());
+  return form;
+}
+TQELSpinEdit* SpinOn(vcl::TForm& form) {
+  return dynamic_cast<TQELSpinEdit*>(form.FindComponent("Spin"));
+}
+
+TEST(SpinEditFormFile, TakesBothBoundsTogether) {
+  const struct {
+    const char* Lines;
+    int MinValue;
+    int MaxValue;
+    int Value;
+  } cases[] = {
+      {"", 0, 100, 0},
+      {"MaxValue = -5\nMinValue = -10\nValue = -7\n", -10, -5, -7},
+      {"MaxValue = -5\nMinValue = -10\n", -10, -5, -5},
+      {"Value = 700\nMinValue = 500\nMaxValue = 900\n", 500, 900, 700},
+      {"MaxValue = 900\nMinValue = 500\n", 500, 900, 500},
+      {"Value = 700\n", 0, 100, 100},
+      // No bounds.
+      {"MaxValue = 7\nMinValue = 7\nValue = 5000\n", 7, 7, 5000},
+      // What can't stand together is taken or refused one by one.
+      {"MaxValue = -5\nMinValue = 10\n", 10, 100, 10},
+      {"MaxValue = 50\nMinValue = 80\n", 0, 50, 0},
+  };
+  for (const auto& each : cases) {
+    const auto form = Read(each.Lines);
+    const TQELSpinEdit* spin = SpinOn(*form);
+    EXPECT_EQ(spin->MinValue(), each.MinValue) << each.Lines;
+    EXPECT_EQ(spin->MaxValue(), each.MaxValue) << each.Lines;
+    EXPECT_EQ(spin->GetValue(), each.Value) << each.Lines;
+  }
+}
+
+TEST(SpinEditFormFile, HoldsWhatDiffersAndNothingOfTheButton) {
+  const auto form = Read("Left = 4\nWidth = 90\nHeight = 30\nAutoSize = False\nArrowColor = clRed\n"
+                         "MaxValue = -5\nMinValue = -10\nReadonly = True\nValue = -7\n");
+  EXPECT_EQ(SpinOn(*form)->Height(), 30);
+  vcl::TStringStream file;
+  vcl::WriteComponentText(file, form.get());
+  const std::string text = file.DataString();
+  const std::string spin = text.substr(text.find("object Spin"));
+  const char* const order[] = {"AutoSize = False", "ArrowColor = clRed", "MaxValue = -5",
+                               "MinValue = -10", "Readonly = True", "Value = -7", "end"};
+  std::size_t at = 0;
+  for (const char* line : order) {
+    const std::size_t found = spin.find(line, at);
+    ASSERT_NE(found, std::string::npos) << line << " in " << text;
+    at = found;
+  }
+  for (const char* unwanted : {"ButtonColor", "LineSize", "Ctl3D", "ImeName", "object TWin"}) {
+    EXPECT_EQ(spin.find(unwanted), std::string::npos) << unwanted;
+  }
+}
+
+class SpinEditWindow : public TSpinForm {
+ protected:
+  TRect Holder() const { return Spin->Holder()->BoundsRect(); }
+  TRect TextBesideButton() const {
+    return {0, 0, Spin->ClientWidth() - Spin->Button()->Width() - 2, Spin->ClientHeight() + 1};
+  }
+};
+
+TEST_F(SpinEditWindow, PutsTheButtonAtItsRightEdge) {
+  Spin->SetAutoSize(false);
+  for (const int height : {24, 40}) {
+    Spin->SetHeight(height);
+    Spin->SetWidth(140);
+    for (const bool deep : {true, false}) {
+      Spin->SetCtl3D(deep);
+      const int side = deep ? height - 4 : height;
+      EXPECT_EQ(Holder(), (TRect{140 - height, 0, 140 - height + side, side}));
+      EXPECT_EQ(Spin->Button()->BoundsRect(), (TRect{0, 0, side, side}));
+      EXPECT_EQ(Spin->TextRect, TextBesideButton());
+      EXPECT_GT(Spin->TextRectsRead, 0);
+    }
+  }
+  EXPECT_EQ(::GetWindowLongW(Spin->Handle(), GWL_STYLE) & (ES_MULTILINE | WS_CLIPCHILDREN),
+            ES_MULTILINE | WS_CLIPCHILDREN);
+}
+
+TEST_F(SpinEditWindow, TheTextStaysOffTheButtonWithEveryFont) {
+  Spin->SetAutoSize(false);
+  Spin->SetHeight(60);
+  Spin->Font()->SetSize(12);
+  RECT rect{};
+  ::SendMessageW(Spin->Handle(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&rect));
+  EXPECT_EQ(Holder().Width(), 56);
+  EXPECT_LE(rect.right, Holder().Left - 2);
+  EXPECT_GT(rect.right, Holder().Left - 12);
+}
+
+TEST_F(SpinEditWindow, IsNeverLowerThanItsFontNeeds) {
+  const auto heights = [](HFONT font) {
+    TEXTMETRICW metrics{};
+    const HDC dc = ::GetDC(nullptr);
+    const HGDIOBJ former = font ? ::SelectObject(dc, font) : nullptr;
+    ::GetTextMetricsW(dc, &metrics);
+    if (font) ::SelectObject(dc, former);
+    ::ReleaseDC(nullptr, dc);
+    return static_cast<int>(metrics.tmHeight);
+  };
+  Spin->SetAutoSize(false);
+  for (const int size : {8, 30}) {
+    Spin->Font()->SetSize(size);
+    const int own = heights(Spin->Font()->Handle());
+    const int border = ::GetSystemMetrics(SM_CYBORDER);
+    const int least = own + std::min(own, heights(nullptr)) / 4 + 4 * border;
+    EXPECT_EQ(Spin->GetMinHeight(), least);
+    Spin->SetHeight(least - 5);
+    EXPECT_EQ(Spin->Height(), least);
+    Spin->SetHeight(least + 5);
+    EXPECT_EQ(Spin->Height(), least + 5);
+  }
+}
+
+TEST_F(SpinEditWindow, ANewWindowShowsTheSame) {
+  Spin->SetValue(42);
+  Spin->SetReadonly(true);
+  Spin->RecreateWnd();
+  EXPECT_EQ(Spin->Text(), "42");
+  EXPECT_TRUE(Spin->Focused());
+  EXPECT_TRUE(::IsWindowVisible(Spin->Holder()->Handle()));
+  EXPECT_EQ(Spin->TextRect, TextBesideButton());
+  Type("7");
+  EXPECT_EQ(Spin->Text(), "42");
+}
+
+TEST_F(SpinEditWindow, ColoursGoToTheButton) {
+  Spin->SetButtonColor(vcl::clAqua);
+  Spin->SetArrowColor(vcl::clRed);
+  EXPECT_EQ(Spin->Button()->Color(), vcl::clAqua);
+  EXPECT_EQ(Spin->Button()->ArrowColor(), vcl::clRed);
+  EXPECT_EQ(Spin->Color(), vcl::clWindow);
+}
+
+TEST(SpinEditTable, IsInDeclaredOrder) {
+  std::vector<std::string> names;
+  for (const vcl::TPropInfo& each : TQELCustomSpinEdit::Class().Own()) names.push_back(each.Name);
+  EXPECT_THAT(
+      names,
+      ElementsAre("AutoSelect", "AutoSize", "Color", "Ctl3D", "ButtonColor", "ArrowColor",
+                  "DragCursor", "DragMode", "Enabled", "Font", "ImeMode", "ImeName", "MaxLength",
+                  "ParentColor", "ParentCtl3D", "ParentFont", "ParentShowHint", "PopupMenu",
+                  "ShowHint", "TabOrder", "TabStop", "Visible", "CutandPaste", "LineSize",
+                  "MaxValue", "MinValue", "MultipleLineSize", "Readonly", "Value", "OnChange",
+                  "OnClick", "OnDblClick", "OnDragDrop", "OnDragOver", "OnEndDrag", "OnEnter",
+                  "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove",
+                  "OnMouseUp"));
+  ASSERT_EQ(TQELSpinEdit::Class().Own().size(), 1u);
+  EXPECT_EQ(TQELSpinEdit::Class().Own()[0].Name, "About");
+  const auto text = [](const char* name) {
+    return *TQELSpinEdit::Class().FindPublished(name)->DefaultValue;
+  };
+  EXPECT_EQ(text("Color"), vcl::TValue(std::int64_t{vcl::clWindow}));
+  EXPECT_EQ(text("ButtonColor"), vcl::TValue(std::int64_t{vcl::clBtnFace}));
+  EXPECT_EQ(text("MaxValue"), vcl::TValue(std::int64_t{100}));
+  EXPECT_EQ(text("MultipleLineSize"), vcl::TValue(std::int64_t{10}));
+  EXPECT_EQ(text("CutandPaste"), vcl::TValue(std::int64_t{1}));
+  EXPECT_FALSE(TQELSpinEdit::Class().FindPublished("Ctl3D")->DefaultValue);
+}
+
+}  // namespace
+}  // namespace qel
