@@ -5379,6 +5379,633 @@ object GalleryForm: TGalleryForm
         end
       end
     end
+    object HintsPage: TTabSheet
+      Caption = 'Hints'
+      object HintSidesHeading: TLabel
+        Left = 16
+        Top = 8
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'Rest the mouse here: a hint for each side'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object HintSidesLine: TBevel
+        Left = 16
+        Top = 24
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object HintEdgeCaption: TLabel
+        Left = 16
+        Top = 158
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 
+          'Near an edge of the screen, where there is no room, a hint takes' +
+          ' another side.'
+      end
+      object HintTextsHeading: TLabel
+        Left = 16
+        Top = 184
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'Short and long'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object HintTextsLine: TBevel
+        Left = 16
+        Top = 200
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object HintControlsHeading: TLabel
+        Left = 16
+        Top = 268
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'On other controls'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object HintControlsLine: TBevel
+        Left = 16
+        Top = 284
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object HintStageHeading: TLabel
+        Left = 16
+        Top = 340
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'A stage'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object HintStageLine: TBevel
+        Left = 16
+        Top = 356
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object HintStageField: TQELLabel
+        Left = 16
+        Top = 366
+        Width = 616
+        Height = 210
+        Hint = 
+          'A speech bubble,'#13#10'with a shadow'#13#10'and on a background|What stands' +
+          ' behind a line in the text of a hint is for the status bar'
+        Alignment = taCenter
+        Caption = 'Rest the mouse here'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -24
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        Font3D.Style3D = fontRaised
+        Frame.FrameStyle = frameNone
+        Background = StageBackground
+        ParentFont = False
+      end
+      object HintUpLeftField: TPanel
+        Left = 16
+        Top = 34
+        Width = 300
+        Height = 54
+        Hint = 'To be shown on the side dUpLeft of the mouse'
+        BevelOuter = bvLowered
+        Caption = 'dUpLeft'
+        TabOrder = 4
+      end
+      object HintUpRightField: TPanel
+        Left = 332
+        Top = 34
+        Width = 300
+        Height = 54
+        Hint = 'To be shown on the side dUpRight of the mouse'
+        BevelOuter = bvLowered
+        Caption = 'dUpRight'
+        TabOrder = 5
+      end
+      object HintDownLeftField: TPanel
+        Left = 16
+        Top = 96
+        Width = 300
+        Height = 54
+        Hint = 'To be shown on the side dDownLeft of the mouse'
+        BevelOuter = bvLowered
+        Caption = 'dDownLeft'
+        TabOrder = 6
+      end
+      object HintDownRightField: TPanel
+        Left = 332
+        Top = 96
+        Width = 300
+        Height = 54
+        Hint = 'To be shown on the side dDownRight of the mouse'
+        BevelOuter = bvLowered
+        Caption = 'dDownRight'
+        TabOrder = 7
+      end
+      object HintShortField: TPanel
+        Left = 16
+        Top = 210
+        Width = 200
+        Height = 40
+        Hint = 'Hint'
+        BevelOuter = bvLowered
+        Caption = 'A word'
+        TabOrder = 8
+      end
+      object HintLongField: TPanel
+        Left = 224
+        Top = 210
+        Width = 200
+        Height = 40
+        Hint = 
+          'A hint tells in a few words what the thing under the mouse is go' +
+          'od for'
+        BevelOuter = bvLowered
+        Caption = 'A sentence'
+        TabOrder = 9
+      end
+      object HintLinesField: TPanel
+        Left = 432
+        Top = 210
+        Width = 200
+        Height = 40
+        Hint = 
+          'The first line'#13#10'the second, which is longer'#13#10'the third|A hint of' +
+          ' three lines'
+        BevelOuter = bvLowered
+        Caption = 'Three lines'
+        TabOrder = 10
+      end
+      object HintEdit: TEdit
+        Left = 16
+        Top = 297
+        Width = 148
+        Height = 20
+        Hint = 'The hint of an edit'
+        TabOrder = 0
+        Text = 'An edit'
+      end
+      object HintButton: TQELButton
+        Left = 172
+        Top = 292
+        Width = 148
+        Height = 30
+        Hint = 'The hint of a button|The longer hint, for the status bar'
+        Glyph.TransparentColor = clBlack
+        Caption = 'A button'
+        Background = FaceBackground
+        TabOrder = 1
+        TabStop = True
+      end
+      object HintCheck: TCheckBox
+        Left = 336
+        Top = 299
+        Width = 140
+        Height = 17
+        Hint = 'The hint of a check box'
+        Caption = 'A check box'
+        TabOrder = 2
+      end
+      object HintBox: TComboBox
+        Left = 484
+        Top = 297
+        Width = 148
+        Height = 21
+        Hint = 'The hint of a list'
+        TabOrder = 3
+        Text = 'A list'
+        Items.Strings = (
+          'One'
+          'Two')
+      end
+      object HintSettings: TPanel
+        Left = 656
+        Top = 0
+        Width = 296
+        Height = 591
+        Align = alRight
+        BevelOuter = bvNone
+        Caption = ''
+        TabOrder = 11
+        object HintSettingsEdge: TBevel
+          Left = 0
+          Top = 0
+          Width = 2
+          Height = 591
+          Align = alLeft
+          Shape = bsLeftLine
+        end
+        object HintLooksHeading: TLabel
+          Left = 14
+          Top = 13
+          Width = 272
+          Height = 13
+          AutoSize = False
+          Caption = 'All hints of the window'
+          Font.Charset = DEFAULT_CHARSET
+          Font.Color = clNavy
+          Font.Height = -11
+          Font.Name = 'Tahoma'
+          Font.Style = [fsBold]
+          ParentFont = False
+        end
+        object HintLooksLine: TBevel
+          Left = 14
+          Top = 29
+          Width = 272
+          Height = 2
+          Shape = bsTopLine
+        end
+        object HintDirectionLabel: TLabel
+          Left = 14
+          Top = 60
+          Width = 62
+          Height = 12
+          Caption = 'HintDirection'
+          FocusControl = HintDirectionBox
+        end
+        object HintShadowColorLabel: TLabel
+          Left = 14
+          Top = 82
+          Width = 84
+          Height = 12
+          Caption = 'HintShadowColor'
+          FocusControl = HintShadowColorBox
+        end
+        object HintUnUsedColorLabel: TLabel
+          Left = 14
+          Top = 104
+          Width = 85
+          Height = 12
+          Caption = 'UnUsedHintColor'
+          FocusControl = HintUnUsedColorBox
+        end
+        object HintBackgroundLabel: TLabel
+          Left = 14
+          Top = 126
+          Width = 59
+          Height = 12
+          Caption = 'Background'
+          FocusControl = HintBackgroundBox
+        end
+        object HintPauseTimeLabel: TLabel
+          Left = 14
+          Top = 148
+          Width = 74
+          Height = 12
+          Caption = 'HintPauseTime'
+          FocusControl = HintPauseTimeEdit
+        end
+        object HintFontHeading: TLabel
+          Left = 14
+          Top = 171
+          Width = 272
+          Height = 13
+          AutoSize = False
+          Caption = 'Their font'
+          Font.Charset = DEFAULT_CHARSET
+          Font.Color = clNavy
+          Font.Height = -11
+          Font.Name = 'Tahoma'
+          Font.Style = [fsBold]
+          ParentFont = False
+        end
+        object HintFontLine: TBevel
+          Left = 14
+          Top = 187
+          Width = 272
+          Height = 2
+          Shape = bsTopLine
+        end
+        object HintFontNameLabel: TLabel
+          Left = 14
+          Top = 196
+          Width = 29
+          Height = 12
+          Caption = 'Name'
+          FocusControl = HintFontNameEdit
+        end
+        object HintFontSizeLabel: TLabel
+          Left = 14
+          Top = 218
+          Width = 21
+          Height = 12
+          Caption = 'Size'
+          FocusControl = HintFontSizeEdit
+        end
+        object HintFontColorLabel: TLabel
+          Left = 14
+          Top = 240
+          Width = 32
+          Height = 12
+          Caption = 'Colour'
+          FocusControl = HintFontColorBox
+        end
+        object HintFontStyleLabel: TLabel
+          Left = 14
+          Top = 262
+          Width = 24
+          Height = 12
+          Caption = 'Style'
+          FocusControl = HintFontStyleEdit
+        end
+        object HintText3DHeading: TLabel
+          Left = 14
+          Top = 285
+          Width = 272
+          Height = 13
+          AutoSize = False
+          Caption = 'Three-dimensional text'
+          Font.Charset = DEFAULT_CHARSET
+          Font.Color = clNavy
+          Font.Height = -11
+          Font.Name = 'Tahoma'
+          Font.Style = [fsBold]
+          ParentFont = False
+        end
+        object HintText3DLine: TBevel
+          Left = 14
+          Top = 301
+          Width = 272
+          Height = 2
+          Shape = bsTopLine
+        end
+        object HintStyle3DLabel: TLabel
+          Left = 14
+          Top = 332
+          Width = 38
+          Height = 12
+          Caption = 'Style3D'
+          FocusControl = HintStyle3DBox
+        end
+        object HintOffsetLabel: TLabel
+          Left = 14
+          Top = 354
+          Width = 30
+          Height = 12
+          Caption = 'Offset'
+          FocusControl = HintOffsetEdit
+        end
+        object HintRepetitionLabel: TLabel
+          Left = 14
+          Top = 376
+          Width = 48
+          Height = 12
+          Caption = 'Repetition'
+          FocusControl = HintRepetitionBox
+        end
+        object HintRepetitionwidthLabel: TLabel
+          Left = 14
+          Top = 398
+          Width = 73
+          Height = 12
+          Caption = 'Repetitionwidth'
+          FocusControl = HintRepetitionwidthEdit
+        end
+        object HintRepetitionColorLabel: TLabel
+          Left = 14
+          Top = 420
+          Width = 74
+          Height = 12
+          Caption = 'RepetitionColor'
+          FocusControl = HintRepetitionColorBox
+        end
+        object HintTextShadowLabel: TLabel
+          Left = 14
+          Top = 442
+          Width = 39
+          Height = 12
+          Caption = 'Shadow'
+          FocusControl = HintTextShadowBox
+        end
+        object HintHighlightLabel: TLabel
+          Left = 14
+          Top = 464
+          Width = 41
+          Height = 12
+          Caption = 'Highlight'
+          FocusControl = HintHighlightBox
+        end
+        object HintSpeechbubbleCheck: TCheckBox
+          Left = 14
+          Top = 35
+          Width = 132
+          Height = 17
+          Hint = 'Off: a box'
+          Caption = 'Speechbubble'
+          TabOrder = 0
+        end
+        object HintShadowCheck: TCheckBox
+          Left = 150
+          Top = 35
+          Width = 132
+          Height = 17
+          Hint = 'Off: no shadow'
+          Caption = 'Shadow'
+          TabOrder = 1
+        end
+        object HintDirectionBox: TComboBox
+          Left = 136
+          Top = 56
+          Width = 150
+          Height = 21
+          Hint = 'The side of the mouse on which hints stand, where there is room'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 2
+          Text = ''
+        end
+        object HintShadowColorBox: TComboBox
+          Left = 136
+          Top = 78
+          Width = 150
+          Height = 21
+          Hint = 'The colour of the shadow. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 3
+          Text = ''
+        end
+        object HintUnUsedColorBox: TComboBox
+          Left = 136
+          Top = 100
+          Width = 150
+          Height = 21
+          Hint = 'A colour that no hint shows. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 4
+          Text = ''
+        end
+        object HintBackgroundBox: TComboBox
+          Left = 136
+          Top = 122
+          Width = 150
+          Height = 21
+          Hint = 'What fills the hint'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 5
+          Text = ''
+        end
+        object HintPauseTimeEdit: TEdit
+          Left = 136
+          Top = 144
+          Width = 150
+          Height = 20
+          Hint = 'How long the mouse rests before a hint, in milliseconds'
+          TabOrder = 6
+          Text = ''
+        end
+        object HintFontNameEdit: TEdit
+          Left = 136
+          Top = 192
+          Width = 150
+          Height = 20
+          Hint = 'What the font is called'
+          TabOrder = 7
+          Text = ''
+        end
+        object HintFontSizeEdit: TEdit
+          Left = 136
+          Top = 214
+          Width = 150
+          Height = 20
+          Hint = 'The height of the text, in points'
+          TabOrder = 8
+          Text = ''
+        end
+        object HintFontColorBox: TComboBox
+          Left = 136
+          Top = 236
+          Width = 150
+          Height = 21
+          Hint = 'The colour of the text. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 9
+          Text = ''
+        end
+        object HintFontStyleEdit: TEdit
+          Left = 136
+          Top = 258
+          Width = 150
+          Height = 20
+          Hint = 'A set, as [fsBold, fsItalic]'
+          TabOrder = 10
+          Text = ''
+        end
+        object HintThreeDimensionalCheck: TCheckBox
+          Left = 14
+          Top = 307
+          Width = 132
+          Height = 17
+          Hint = 'Off: flat text'
+          Caption = 'ThreeDimensional'
+          TabOrder = 11
+        end
+        object HintStyle3DBox: TComboBox
+          Left = 136
+          Top = 328
+          Width = 150
+          Height = 21
+          Hint = 'Where the light and the shadow are'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 12
+          Text = ''
+        end
+        object HintOffsetEdit: TEdit
+          Left = 136
+          Top = 350
+          Width = 150
+          Height = 20
+          Hint = 'The distance of light and shadow, in pixels, from 1'
+          TabOrder = 13
+          Text = ''
+        end
+        object HintRepetitionBox: TComboBox
+          Left = 136
+          Top = 372
+          Width = 150
+          Height = 21
+          Hint = 'The side to which copies of the text trail'
+          Style = csDropDownList
+          DropDownCount = 14
+          TabOrder = 14
+          Text = ''
+        end
+        object HintRepetitionwidthEdit: TEdit
+          Left = 136
+          Top = 394
+          Width = 150
+          Height = 20
+          Hint = 'The number of copies, from 0'
+          TabOrder = 15
+          Text = ''
+        end
+        object HintRepetitionColorBox: TComboBox
+          Left = 136
+          Top = 416
+          Width = 150
+          Height = 21
+          Hint = 'The colour of the copies. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 16
+          Text = ''
+        end
+        object HintTextShadowBox: TComboBox
+          Left = 136
+          Top = 438
+          Width = 150
+          Height = 21
+          Hint = 'The colour of the shadow. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 17
+          Text = ''
+        end
+        object HintHighlightBox: TComboBox
+          Left = 136
+          Top = 460
+          Width = 150
+          Height = 21
+          Hint = 'The colour of the light. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 18
+          Text = ''
+        end
+      end
+    end
   end
   object StatusPanel: TPanel
     Left = 0
@@ -5796,6 +6423,27 @@ object GalleryForm: TGalleryForm
     Interval = 40
     OnTimer = LiveTimerTick
     Left = 488
+    Top = 80
+  end
+  object BubbleHint: TQELHint
+    Speechbubble = True
+    Shadow = True
+    UnUsedHintColor = clLime
+    HintShadowColor = clGray
+    HintFont.Charset = DEFAULT_CHARSET
+    HintFont.Color = clNavy
+    HintFont.Height = -13
+    HintFont.Name = 'Tahoma'
+    HintFont.Style = []
+    OnSelectHintDirection = SelectHintDirection
+    Background = BubbleBackground
+    Left = 520
+    Top = 80
+  end
+  object BubbleBackground: TQELBackground
+    Gradient.BeginColor = clWhite
+    Gradient.EndColor = 9433343
+    Left = 552
     Top = 80
   end
   object ButtonMenu: TPopupMenu

@@ -29,6 +29,9 @@ const TClass& TGalleryForm::Class() {
                              Field<&T::SampleGauge>("SampleGauge"),
                              Field<&T::LiveGauge>("LiveGauge"),
                              Field<&T::LiveTimer>("LiveTimer"),
+                             Field<&T::HintsPage>("HintsPage"),
+                             Field<&T::BubbleHint>("BubbleHint"),
+                             Field<&T::HintStageField>("HintStageField"),
                              Method<&T::ButtonClick>("ButtonClick"),
                              Method<&T::SubjectChange>("SubjectChange"),
                              Method<&T::ButtonMenuPopup>("ButtonMenuPopup"),
@@ -53,6 +56,7 @@ const TClass& TGalleryForm::Class() {
                              Method<&T::LiveTimerTick>("LiveTimerTick"),
                              Method<&T::LiveStartClick>("LiveStartClick"),
                              Method<&T::LiveStopClick>("LiveStopClick"),
+                             Method<&T::SelectHintDirection>("SelectHintDirection"),
                          });
   return info;
 }
@@ -63,6 +67,7 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   SetUpLabels();
   SetUpBackgrounds();
   SetUpGauges();
+  SetUpHints();
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
 }
 

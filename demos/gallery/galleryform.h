@@ -9,6 +9,7 @@
 #include "controls/Qeltbackground.h"
 #include "controls/Qeltbutton.h"
 #include "controls/Qeltgauge.h"
+#include "controls/Qelthint.h"
 #include "controls/Qeltlabel.h"
 #include "demos/gallery/settingbinder.h"
 #include "host/vcl/comctrls.h"
@@ -28,7 +29,11 @@ class TGalleryForm : public vcl::TForm {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// Shows a hint on the page of hints, as if the mouse had rested there; the mouse goes there.
+  void ShowSampleHint();
+
   vcl::TPageControl* Pages = nullptr;
+  vcl::TTabSheet* HintsPage = nullptr;
 
  private:
   // What the form file fills.
@@ -48,6 +53,8 @@ class TGalleryForm : public vcl::TForm {
   qel::TQELGauge* SampleGauge = nullptr;
   qel::TQELGauge* LiveGauge = nullptr;
   vcl::TTimer* LiveTimer = nullptr;
+  qel::TQELHint* BubbleHint = nullptr;
+  qel::TQELLabel* HintStageField = nullptr;
 
   // The page of buttons.
   void SetUpButtons();
@@ -93,12 +100,17 @@ class TGalleryForm : public vcl::TForm {
   void LiveStartClick(vcl::TObject* sender);
   void LiveStopClick(vcl::TObject* sender);
 
+  // The page of hints.
+  void SetUpHints();
+  void SelectHintDirection(vcl::TControl* control, qel::TQELDirectionB& direction);
+
   // What the pages share.
   TSettingBinder& Bind(std::vector<TSetting> settings);
   void ShowStatus(const std::string& text);
 
   std::vector<std::unique_ptr<TSettingBinder>> FBinders;
   TSettingBinder* FButtonSettings = nullptr;
+  TSettingBinder* FDirectionSetting = nullptr;
   int FChanges = 0;
 };
 

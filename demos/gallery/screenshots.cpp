@@ -75,6 +75,10 @@ std::vector<std::string> SaveScreenshots(TGalleryForm& form, const std::string& 
     form.Pages->SetActivePage(page);
     TBitmap picture;
     TakePicture(form, picture);
+    if (page == form.HintsPage) {  // At rest, as a hint copies the screen under it.
+      form.ShowSampleHint();
+      TakePicture(form, picture);
+    }
     names.push_back(FileName(folder, page->Caption()));
     SavePng(picture, names.back());
   }

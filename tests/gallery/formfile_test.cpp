@@ -4,6 +4,7 @@
 #include "controls/Qeltbackground.h"
 #include "controls/Qeltbutton.h"
 #include "controls/Qeltgauge.h"
+#include "controls/Qelthint.h"
 #include "controls/Qeltlabel.h"
 #include "host/rtl/classregistry.h"
 #include "host/rtl/formfile.h"
@@ -39,7 +40,8 @@ std::string ReadAndWrite(const std::string& text) {
 TEST(GalleryFormFile, IsTheSameWhenItIsWrittenBack) {
   RegisterHostClasses();
   RegisterClasses({&qel::TQELBackground::Class(), &qel::TQELButton::Class(),
-                   &qel::TQELLabel::Class(), &qel::TQELGauge::Class()});
+                   &qel::TQELLabel::Class(), &qel::TQELGauge::Class(),
+                   &qel::TQELHint::Class()});
   TResourceStream file(nullptr, "TGALLERYFORM", MAKEINTRESOURCEA(10));
   std::string text = TextOf(file);
   std::erase(text, '\r');

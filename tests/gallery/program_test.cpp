@@ -64,7 +64,8 @@ class Screenshots : public ::testing::Test {
 
 TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
   ASSERT_EQ(Result.Code, 0u) << Result.Errors;
-  const char* names[] = {"buttons.png", "labels.png", "backgrounds.png", "gauges.png"};
+  const char* names[] = {"buttons.png", "labels.png", "backgrounds.png", "gauges.png",
+                         "hints.png"};
   ASSERT_EQ(Files.size(), std::size(names));
   for (std::size_t i = 0; i < std::size(names); ++i) {
     EXPECT_EQ(std::filesystem::path(Files[i]).filename().string(), names[i]);
@@ -77,7 +78,7 @@ TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
 }
 
 TEST_F(Screenshots, ShowEachPage) {
-  ASSERT_EQ(Files.size(), 4u);
+  ASSERT_EQ(Files.size(), 5u);
   gallery::TGalleryForm form(nullptr);
   form.Show();
   const TPicture buttons(Files[0]), labels(Files[1]), backgrounds(Files[2]);
@@ -110,6 +111,25 @@ TEST_F(Screenshots, ShowEachPage) {
   };
   EXPECT_TRUE(shows(buttons));
   EXPECT_FALSE(shows(labels));
+}
+
+TEST_F(Screenshots, ShowAHintOnItsBackgroundAboveTheMouse) {
+  ASSERT_EQ(Files.size(), 5u);
+  gallery::TGalleryForm form(nullptr);
+  form.Show();
+  const vcl::TRect stage = Place(form, 4, "HintStageField");
+  const vcl::TPoint mouse{(stage.Left + stage.Right) / 2, stage.Bottom - 30};
+  const TPicture hints(Files[4]);
+  const auto blueAt = [&](int x, int y) { return unsigned(hints.At(x, y)) >> 16 & 0xFF; };
+  const auto redAt = [&](int x, int y) { return unsigned(hints.At(x, y)) & 0xFF; };
+  // The bubble's lower left corner is yellow, the stage beside it white to blue.
+  EXPECT_GT(redAt(mouse.X + 5, mouse.Y - 25), blueAt(mouse.X + 5, mouse.Y - 25) + 50);
+  EXPECT_LT(redAt(mouse.X - 5, mouse.Y - 25), blueAt(mouse.X - 5, mouse.Y - 25) + 1);
+  // Only every other pixel of the shadow is drawn.
+  int shaded = 0;
+  for (int x = mouse.X + 40; x < mouse.X + 60; ++x)
+    shaded += hints.At(x, mouse.Y - 17) == vcl::clGray;
+  EXPECT_EQ(shaded, 10);
 }
 
 TEST(Program, SaysWhatIsWrongWithItsArguments) {
