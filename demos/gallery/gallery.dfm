@@ -5379,6 +5379,701 @@ object GalleryForm: TGalleryForm
         end
       end
     end
+    object SpinEditsPage: TTabSheet
+      Caption = 'Spin edits'
+      object SpinRangesHeading: TLabel
+        Left = 16
+        Top = 8
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'Ranges and steps'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object SpinRangesLine: TBevel
+        Left = 16
+        Top = 24
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object UnboundedCaption: TLabel
+        Left = 16
+        Top = 34
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = '0 to 0: no bounds'
+      end
+      object PercentCaption: TLabel
+        Left = 172
+        Top = 34
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = '0 to 100, step 5'
+      end
+      object DegreesCaption: TLabel
+        Left = 328
+        Top = 34
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = '-40 to 60'
+      end
+      object TurnedCaption: TLabel
+        Left = 484
+        Top = 34
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = 'LineSize = -1: turned round'
+      end
+      object SpinKeysCaption: TLabel
+        Left = 16
+        Top = 84
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 
+          'The button and the arrow keys step by LineSize, the page keys by' +
+          ' MultipleLineSize.'
+      end
+      object SpinColorsHeading: TLabel
+        Left = 16
+        Top = 118
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'Colours of the button, the arrows and the edit'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object SpinColorsLine: TBevel
+        Left = 16
+        Top = 134
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object SkyCaption: TLabel
+        Left = 16
+        Top = 144
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = 'clAqua, clNavy'
+      end
+      object LeafCaption: TLabel
+        Left = 172
+        Top = 144
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = 'clGreen, clYellow'
+      end
+      object NightCaption: TLabel
+        Left = 328
+        Top = 144
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = 'clNavy, clWhite'
+      end
+      object RoseCaption: TLabel
+        Left = 484
+        Top = 144
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = 'clMaroon, clSilver'
+      end
+      object SpinModesHeading: TLabel
+        Left = 16
+        Top = 208
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'What may be done'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object SpinModesLine: TBevel
+        Left = 16
+        Top = 224
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object FreeCaption: TLabel
+        Left = 16
+        Top = 234
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = 'Everything'
+      end
+      object NoPasteCaption: TLabel
+        Left = 172
+        Top = 234
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = 'CutandPaste off: only steps'
+      end
+      object ReadOnlyCaption: TLabel
+        Left = 328
+        Top = 234
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = 'Readonly: not even steps'
+      end
+      object DisabledCaption: TLabel
+        Left = 484
+        Top = 234
+        Width = 148
+        Height = 13
+        AutoSize = False
+        Caption = 'Disabled'
+      end
+      object SpinFontsHeading: TLabel
+        Left = 16
+        Top = 298
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'Fonts, which make the edit and its button higher'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object SpinFontsLine: TBevel
+        Left = 16
+        Top = 314
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object SpinSampleAreaHeading: TLabel
+        Left = 16
+        Top = 398
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'A sample, set on the right'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object SpinSampleAreaLine: TBevel
+        Left = 16
+        Top = 414
+        Width = 616
+        Height = 2
+        Shape = bsTopLine
+      end
+      object SpinGauge: TQELGauge
+        Left = 332
+        Top = 424
+        Width = 300
+        Height = 34
+        Glyph.TransparentColor = clBlack
+        BevelInner.FrameStyle = frameLowered
+        Borderwidth = 3
+        Kind = kHorizontal
+        SegmentColor = 10541216
+        Percentage = 63
+      end
+      object SpinGaugeCaption: TLabel
+        Left = 332
+        Top = 462
+        Width = 300
+        Height = 13
+        Alignment = taCenter
+        AutoSize = False
+        Caption = 'Where the value stands between its bounds'
+      end
+      object UnboundedSpin: TQELSpinEdit
+        Left = 16
+        Top = 50
+        Width = 148
+        Height = 20
+        TabOrder = 0
+        MaxValue = 0
+        Value = 123456789
+      end
+      object PercentSpin: TQELSpinEdit
+        Left = 172
+        Top = 50
+        Width = 148
+        Height = 20
+        TabOrder = 1
+        LineSize = 5
+        MultipleLineSize = 25
+        Value = 50
+      end
+      object DegreesSpin: TQELSpinEdit
+        Left = 328
+        Top = 50
+        Width = 148
+        Height = 20
+        TabOrder = 2
+        MaxValue = 60
+        MinValue = -40
+        Value = -7
+      end
+      object TurnedSpin: TQELSpinEdit
+        Left = 484
+        Top = 50
+        Width = 148
+        Height = 20
+        TabOrder = 3
+        LineSize = -1
+        MaxValue = 20
+        MultipleLineSize = -5
+        Value = 10
+      end
+      object SkySpin: TQELSpinEdit
+        Left = 16
+        Top = 160
+        Width = 148
+        Height = 20
+        ButtonColor = clAqua
+        ArrowColor = clNavy
+        TabOrder = 4
+        Value = 1
+      end
+      object LeafSpin: TQELSpinEdit
+        Left = 172
+        Top = 160
+        Width = 148
+        Height = 20
+        ButtonColor = clGreen
+        ArrowColor = clYellow
+        TabOrder = 5
+        Value = 2
+      end
+      object NightSpin: TQELSpinEdit
+        Left = 328
+        Top = 160
+        Width = 148
+        Height = 20
+        Color = 13434879
+        ButtonColor = clNavy
+        ArrowColor = clWhite
+        TabOrder = 6
+        Value = 3
+      end
+      object RoseSpin: TQELSpinEdit
+        Left = 484
+        Top = 160
+        Width = 148
+        Height = 20
+        Color = 16113331
+        ButtonColor = clMaroon
+        ArrowColor = clSilver
+        TabOrder = 7
+        Value = 4
+      end
+      object FreeSpin: TQELSpinEdit
+        Left = 16
+        Top = 250
+        Width = 148
+        Height = 20
+        TabOrder = 8
+        Value = 10
+      end
+      object NoPasteSpin: TQELSpinEdit
+        Left = 172
+        Top = 250
+        Width = 148
+        Height = 20
+        TabOrder = 9
+        CutandPaste = False
+        Value = 20
+      end
+      object ReadOnlySpin: TQELSpinEdit
+        Left = 328
+        Top = 250
+        Width = 148
+        Height = 20
+        TabOrder = 10
+        Readonly = True
+        Value = 30
+      end
+      object DisabledSpin: TQELSpinEdit
+        Left = 484
+        Top = 250
+        Width = 148
+        Height = 20
+        Enabled = False
+        TabOrder = 11
+        Value = 40
+      end
+      object SmallSpin: TQELSpinEdit
+        Left = 16
+        Top = 324
+        Width = 148
+        Height = 18
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clBlack
+        Font.Height = -9
+        Font.Name = 'Tahoma'
+        Font.Style = []
+        ParentFont = False
+        TabOrder = 12
+        Value = 64
+      end
+      object BoldSpin: TQELSpinEdit
+        Left = 172
+        Top = 324
+        Width = 148
+        Height = 25
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -16
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+        TabOrder = 13
+        Value = 64
+      end
+      object SerifSpin: TQELSpinEdit
+        Left = 328
+        Top = 324
+        Width = 148
+        Height = 35
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clGreen
+        Font.Height = -24
+        Font.Name = 'Times New Roman'
+        Font.Style = [fsItalic]
+        ParentFont = False
+        TabOrder = 14
+        Value = 64
+      end
+      object LargeSpin: TQELSpinEdit
+        Left = 484
+        Top = 324
+        Width = 148
+        Height = 49
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clMaroon
+        Font.Height = -37
+        Font.Name = 'Tahoma'
+        Font.Style = []
+        ParentFont = False
+        TabOrder = 15
+        Value = 64
+      end
+      object SampleSpin: TQELSpinEdit
+        Left = 16
+        Top = 424
+        Width = 300
+        Height = 31
+        ButtonColor = clTeal
+        ArrowColor = clWhite
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -21
+        Font.Name = 'Tahoma'
+        Font.Style = []
+        ParentFont = False
+        TabOrder = 16
+        LineSize = 10
+        MaxValue = 1000
+        MinValue = -1000
+        MultipleLineSize = 100
+        Value = 250
+        OnChange = SampleSpinChange
+      end
+      object SpinSettings: TPanel
+        Left = 656
+        Top = 0
+        Width = 296
+        Height = 591
+        Align = alRight
+        BevelOuter = bvNone
+        Caption = ''
+        TabOrder = 17
+        object SpinSettingsEdge: TBevel
+          Left = 0
+          Top = 0
+          Width = 2
+          Height = 591
+          Align = alLeft
+          Shape = bsLeftLine
+        end
+        object SpinSampleHeading: TLabel
+          Left = 14
+          Top = 13
+          Width = 272
+          Height = 13
+          AutoSize = False
+          Caption = 'The sample'
+          Font.Charset = DEFAULT_CHARSET
+          Font.Color = clNavy
+          Font.Height = -11
+          Font.Name = 'Tahoma'
+          Font.Style = [fsBold]
+          ParentFont = False
+        end
+        object SpinSampleLine: TBevel
+          Left = 14
+          Top = 29
+          Width = 272
+          Height = 2
+          Shape = bsTopLine
+        end
+        object SpinValueLabel: TLabel
+          Left = 14
+          Top = 38
+          Width = 27
+          Height = 12
+          Caption = 'Value'
+          FocusControl = SpinValueEdit
+        end
+        object SpinMinValueLabel: TLabel
+          Left = 14
+          Top = 60
+          Width = 44
+          Height = 12
+          Caption = 'MinValue'
+          FocusControl = SpinMinValueEdit
+        end
+        object SpinMaxValueLabel: TLabel
+          Left = 14
+          Top = 82
+          Width = 48
+          Height = 12
+          Caption = 'MaxValue'
+          FocusControl = SpinMaxValueEdit
+        end
+        object SpinLineSizeLabel: TLabel
+          Left = 14
+          Top = 104
+          Width = 41
+          Height = 12
+          Caption = 'LineSize'
+          FocusControl = SpinLineSizeEdit
+        end
+        object SpinMultipleLineSizeLabel: TLabel
+          Left = 14
+          Top = 126
+          Width = 77
+          Height = 12
+          Caption = 'MultipleLineSize'
+          FocusControl = SpinMultipleLineSizeEdit
+        end
+        object SpinButtonColorLabel: TLabel
+          Left = 14
+          Top = 148
+          Width = 57
+          Height = 12
+          Caption = 'ButtonColor'
+          FocusControl = SpinButtonColorBox
+        end
+        object SpinArrowColorLabel: TLabel
+          Left = 14
+          Top = 170
+          Width = 55
+          Height = 12
+          Caption = 'ArrowColor'
+          FocusControl = SpinArrowColorBox
+        end
+        object SpinColorLabel: TLabel
+          Left = 14
+          Top = 192
+          Width = 26
+          Height = 12
+          Caption = 'Color'
+          FocusControl = SpinColorBox
+        end
+        object SpinMaxLengthLabel: TLabel
+          Left = 14
+          Top = 214
+          Width = 54
+          Height = 12
+          Caption = 'MaxLength'
+          FocusControl = SpinMaxLengthEdit
+        end
+        object SpinFontSizeLabel: TLabel
+          Left = 14
+          Top = 236
+          Width = 45
+          Height = 12
+          Caption = 'Font size'
+          FocusControl = SpinFontSizeEdit
+        end
+        object SpinFontColorLabel: TLabel
+          Left = 14
+          Top = 258
+          Width = 55
+          Height = 12
+          Caption = 'Font colour'
+          FocusControl = SpinFontColorBox
+        end
+        object SpinValueEdit: TEdit
+          Left = 136
+          Top = 34
+          Width = 150
+          Height = 20
+          Hint = 'Outside of the bounds: the nearer one'
+          TabOrder = 0
+          Text = ''
+        end
+        object SpinMinValueEdit: TEdit
+          Left = 136
+          Top = 56
+          Width = 150
+          Height = 20
+          Hint = 'Less than MaxValue'
+          TabOrder = 1
+          Text = ''
+        end
+        object SpinMaxValueEdit: TEdit
+          Left = 136
+          Top = 78
+          Width = 150
+          Height = 20
+          Hint = 'Greater than MinValue'
+          TabOrder = 2
+          Text = ''
+        end
+        object SpinLineSizeEdit: TEdit
+          Left = 136
+          Top = 100
+          Width = 150
+          Height = 20
+          Hint = 'What the button and the arrow keys add or take'
+          TabOrder = 3
+          Text = ''
+        end
+        object SpinMultipleLineSizeEdit: TEdit
+          Left = 136
+          Top = 122
+          Width = 150
+          Height = 20
+          Hint = 'What the page keys add or take'
+          TabOrder = 4
+          Text = ''
+        end
+        object SpinButtonColorBox: TComboBox
+          Left = 136
+          Top = 144
+          Width = 150
+          Height = 21
+          Hint = 'The colour of the button. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 5
+          Text = ''
+        end
+        object SpinArrowColorBox: TComboBox
+          Left = 136
+          Top = 166
+          Width = 150
+          Height = 21
+          Hint = 'The colour of its arrows. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 6
+          Text = ''
+        end
+        object SpinColorBox: TComboBox
+          Left = 136
+          Top = 188
+          Width = 150
+          Height = 21
+          Hint = 'The colour behind the number. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 7
+          Text = ''
+        end
+        object SpinMaxLengthEdit: TEdit
+          Left = 136
+          Top = 210
+          Width = 150
+          Height = 20
+          Hint = 'The number of characters that can be typed; 0 for any'
+          TabOrder = 8
+          Text = ''
+        end
+        object SpinFontSizeEdit: TEdit
+          Left = 136
+          Top = 232
+          Width = 150
+          Height = 20
+          Hint = 'The height of the text, in points'
+          TabOrder = 9
+          Text = ''
+        end
+        object SpinFontColorBox: TComboBox
+          Left = 136
+          Top = 254
+          Width = 150
+          Height = 21
+          Hint = 'The colour of the text. A name or a number.'
+          DropDownCount = 14
+          TabOrder = 10
+          Text = ''
+        end
+        object SpinReadonlyCheck: TCheckBox
+          Left = 14
+          Top = 277
+          Width = 132
+          Height = 17
+          Hint = 'On: a step only beeps'
+          Caption = 'Readonly'
+          TabOrder = 11
+        end
+        object SpinCutandPasteCheck: TCheckBox
+          Left = 150
+          Top = 277
+          Width = 132
+          Height = 17
+          Hint = 'Off: it can only be stepped'
+          Caption = 'CutandPaste'
+          TabOrder = 12
+        end
+        object SpinEnabledCheck: TCheckBox
+          Left = 14
+          Top = 299
+          Width = 132
+          Height = 17
+          Hint = 'Off: grey, and deaf'
+          Caption = 'Enabled'
+          TabOrder = 13
+        end
+        object SpinAutoSelectCheck: TCheckBox
+          Left = 150
+          Top = 299
+          Width = 132
+          Height = 17
+          Hint = 'On: all is selected when the focus comes'
+          Caption = 'AutoSelect'
+          TabOrder = 14
+        end
+      end
+    end
     object HintsPage: TTabSheet
       Caption = 'Hints'
       object HintSidesHeading: TLabel

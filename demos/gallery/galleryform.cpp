@@ -29,6 +29,8 @@ const TClass& TGalleryForm::Class() {
                              Field<&T::SampleGauge>("SampleGauge"),
                              Field<&T::LiveGauge>("LiveGauge"),
                              Field<&T::LiveTimer>("LiveTimer"),
+                             Field<&T::SampleSpin>("SampleSpin"),
+                             Field<&T::SpinGauge>("SpinGauge"),
                              Field<&T::HintsPage>("HintsPage"),
                              Field<&T::BubbleHint>("BubbleHint"),
                              Field<&T::HintStageField>("HintStageField"),
@@ -56,6 +58,7 @@ const TClass& TGalleryForm::Class() {
                              Method<&T::LiveTimerTick>("LiveTimerTick"),
                              Method<&T::LiveStartClick>("LiveStartClick"),
                              Method<&T::LiveStopClick>("LiveStopClick"),
+                             Method<&T::SampleSpinChange>("SampleSpinChange"),
                              Method<&T::SelectHintDirection>("SelectHintDirection"),
                          });
   return info;
@@ -67,6 +70,7 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   SetUpLabels();
   SetUpBackgrounds();
   SetUpGauges();
+  SetUpSpinEdits();
   SetUpHints();
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
 }

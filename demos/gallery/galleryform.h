@@ -11,6 +11,7 @@
 #include "controls/Qeltgauge.h"
 #include "controls/Qelthint.h"
 #include "controls/Qeltlabel.h"
+#include "controls/Qeltspinedit.h"
 #include "demos/gallery/settingbinder.h"
 #include "host/vcl/comctrls.h"
 #include "host/vcl/extctrls.h"
@@ -53,6 +54,8 @@ class TGalleryForm : public vcl::TForm {
   qel::TQELGauge* SampleGauge = nullptr;
   qel::TQELGauge* LiveGauge = nullptr;
   vcl::TTimer* LiveTimer = nullptr;
+  qel::TQELSpinEdit* SampleSpin = nullptr;
+  qel::TQELGauge* SpinGauge = nullptr;
   qel::TQELHint* BubbleHint = nullptr;
   qel::TQELLabel* HintStageField = nullptr;
 
@@ -100,6 +103,10 @@ class TGalleryForm : public vcl::TForm {
   void LiveStartClick(vcl::TObject* sender);
   void LiveStopClick(vcl::TObject* sender);
 
+  // The page of spin edits.
+  void SetUpSpinEdits();
+  void SampleSpinChange(vcl::TObject* sender);
+
   // The page of hints.
   void SetUpHints();
   void SelectHintDirection(vcl::TControl* control, qel::TQELDirectionB& direction);
@@ -110,6 +117,7 @@ class TGalleryForm : public vcl::TForm {
 
   std::vector<std::unique_ptr<TSettingBinder>> FBinders;
   TSettingBinder* FButtonSettings = nullptr;
+  TSettingBinder* FSpinSettings = nullptr;
   TSettingBinder* FDirectionSetting = nullptr;
   int FChanges = 0;
 };

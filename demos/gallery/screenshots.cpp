@@ -25,8 +25,10 @@ void MakeFolder(const std::string& folder) {
 
 std::string FileName(const std::string& folder, const std::string& caption) {
   std::string name = caption;
-  for (char& c : name)
+  for (char& c : name) {
     if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    if (c == ' ') c = '-';
+  }
   return Concat(folder, "/", name, ".png");
 }
 

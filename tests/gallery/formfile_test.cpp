@@ -6,6 +6,7 @@
 #include "controls/Qeltgauge.h"
 #include "controls/Qelthint.h"
 #include "controls/Qeltlabel.h"
+#include "controls/Qeltspinedit.h"
 #include "host/rtl/classregistry.h"
 #include "host/rtl/formfile.h"
 #include "host/rtl/resources.h"
@@ -41,7 +42,7 @@ TEST(GalleryFormFile, IsTheSameWhenItIsWrittenBack) {
   RegisterHostClasses();
   RegisterClasses({&qel::TQELBackground::Class(), &qel::TQELButton::Class(),
                    &qel::TQELLabel::Class(), &qel::TQELGauge::Class(),
-                   &qel::TQELHint::Class()});
+                   &qel::TQELHint::Class(), &qel::TQELSpinEdit::Class()});
   TResourceStream file(nullptr, "TGALLERYFORM", MAKEINTRESOURCEA(10));
   std::string text = TextOf(file);
   std::erase(text, '\r');

@@ -235,6 +235,16 @@ TEST_F(Gallery, TheLiveGaugeRunsBetweenStartAndStop) {
   EXPECT_EQ(live->Percentage(), stopped);
 }
 
+TEST_F(Gallery, SteppingASpinEditMovesItsGaugeAndItsSettings) {
+  GoTo(4);
+  auto* spin = Find<TQELSpinEdit>("SampleSpin");
+  Click(spin);
+  TypeKey(VK_PRIOR);
+  TypeKey(VK_UP);
+  EXPECT_TRUE(PumpUntil([&] { return Find<TEdit>("SpinValueEdit")->Text() == "360"; }));
+  EXPECT_EQ(Find<TQELGauge>("SpinGauge")->Percentage(), 68);
+}
+
 /// Drags from one control to another with the left button.
 void Drag(const TControl* from, const TControl* to) {
   const TPoint start = MiddleOf(from), end = MiddleOf(to);
