@@ -16,4 +16,5 @@
 #include "host/rtl/streams.h"
 #include "host/rtl/strings.h"
 #include "host/rtl/text.h"
+#include "host/rtl/thread.h"
 #include "host/rtl/writer.h"

@@ -49,6 +49,16 @@ void TCustomApplication::HandleException(TObject*, const std::exception& error) 
   std::fprintf(stderr, "%s\n", error.what());
 }
 
+void TCustomApplication::HandleCurrentException(TObject* sender) {
+  try {
+    throw;
+  } catch (const std::exception& error) {
+    HandleException(sender, error);
+  } catch (...) {
+    HandleException(sender, Exception("An error of an unknown kind"));
+  }
+}
+
 int TCustomApplication::MessageBox(const std::string& text, const std::string& caption, int) {
   constexpr int okButton = 1;
   std::fprintf(stderr, "%s: %s\n", caption.c_str(), text.c_str());

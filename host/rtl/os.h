@@ -20,6 +20,15 @@ std::int64_t SeekFile(std::intptr_t file, std::int64_t offset, int origin);
 std::int64_t SizeOfFile(std::intptr_t file);
 bool SetSizeOfFile(std::intptr_t file, std::int64_t size);
 
+/// The system's number of the calling thread; 0 is none.
+std::uintptr_t CurrentThreadId();
+/// Gives a running thread a priority, the ordinal of a TThreadPriority. The system may refuse it.
+void SetThreadPriority(std::uintptr_t thread, int priority);
+/// The running thread's priority: the greatest that is not above what the system has for it.
+int ThreadPriority(std::uintptr_t thread);
+/// Answers the messages that other threads send to windows of the calling one and wait for.
+void AnswerSentMessages();
+
 /// The system's words for the calling thread's last failure.
 std::string LastErrorText();
 /// The full name of the running program.

@@ -1,13 +1,16 @@
 #include "host/rtl/os.h"
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
 #include <filesystem>
+#include <iterator>
 #include <system_error>
 
 #include "host/rtl/streams.h"
@@ -22,6 +25,9 @@ int Flags(int mode) {
   static constexpr int access[] = {O_RDONLY, O_WRONLY, O_RDWR, O_RDWR};
   return access[mode & 3];
 }
+
+/// How nice a thread of each priority is to the others.
+constexpr int Niceness[] = {19, 10, 5, 0, -5, -10, -20};
 
 int Descriptor(std::intptr_t file) { return static_cast<int>(file); }
 
@@ -61,6 +67,21 @@ std::int64_t SizeOfFile(std::intptr_t file) {
 bool SetSizeOfFile(std::intptr_t file, std::int64_t size) {
   return ftruncate(Descriptor(file), size) == 0;
 }
+
+std::uintptr_t CurrentThreadId() { return static_cast<std::uintptr_t>(syscall(SYS_gettid)); }
+
+// Contrary to POSIX, Linux keeps the niceness per thread.
+void SetThreadPriority(std::uintptr_t thread, int priority) {
+  setpriority(PRIO_PROCESS, static_cast<id_t>(thread), Niceness[priority]);
+}
+
+int ThreadPriority(std::uintptr_t thread) {
+  const int niceness = getpriority(PRIO_PROCESS, static_cast<id_t>(thread));
+  const auto below = std::ranges::find_if(Niceness, [&](int each) { return each < niceness; });
+  return std::max(0, static_cast<int>(below - std::begin(Niceness)) - 1);
+}
+
+void AnswerSentMessages() {}
 
 std::string LastErrorText() { return std::generic_category().message(errno); }
 

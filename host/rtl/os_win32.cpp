@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 #include "host/rtl/os.h"
@@ -28,6 +29,21 @@ DWORD Sharing(int mode) {
   static constexpr DWORD sharing[] = {
       0, 0, FILE_SHARE_READ, FILE_SHARE_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, 0, 0, 0};
   return mode == fmCreate ? 0 : sharing[(mode >> 4) & 7];
+}
+
+/// The system's priorities in the order of TThreadPriority.
+constexpr int Priorities[] = {THREAD_PRIORITY_IDLE,         THREAD_PRIORITY_LOWEST,
+                              THREAD_PRIORITY_BELOW_NORMAL, THREAD_PRIORITY_NORMAL,
+                              THREAD_PRIORITY_ABOVE_NORMAL, THREAD_PRIORITY_HIGHEST,
+                              THREAD_PRIORITY_TIME_CRITICAL};
+
+/// Opens the thread for a moment.
+template <class Use>
+void WithThread(std::uintptr_t thread, DWORD rights, Use use) {
+  const HANDLE handle = OpenThread(rights, FALSE, static_cast<DWORD>(thread));
+  if (!handle) return;
+  use(handle);
+  CloseHandle(handle);
 }
 
 /// One call reads or writes at most what fits its counter.
@@ -75,6 +91,30 @@ bool SetSizeOfFile(std::intptr_t file, std::int64_t size) {
   const bool done = SeekFile(file, size, 0) >= 0 && SetEndOfFile(Handle(file));
   SeekFile(file, position, 0);
   return done;
+}
+
+std::uintptr_t CurrentThreadId() { return GetCurrentThreadId(); }
+
+void SetThreadPriority(std::uintptr_t thread, int priority) {
+  WithThread(thread, THREAD_SET_INFORMATION, [&](HANDLE handle) {
+    ::SetThreadPriority(handle, Priorities[priority]);
+  });
+}
+
+int ThreadPriority(std::uintptr_t thread) {
+  int priority = THREAD_PRIORITY_NORMAL;
+  WithThread(thread, THREAD_QUERY_INFORMATION, [&](HANDLE handle) {
+    const int found = GetThreadPriority(handle);
+    if (found != THREAD_PRIORITY_ERROR_RETURN) priority = found;
+  });
+  const auto above = std::ranges::find_if(Priorities, [&](int each) { return each > priority; });
+  return std::max(0, static_cast<int>(above - std::begin(Priorities)) - 1);
+}
+
+void AnswerSentMessages() {
+  // Looking for a message answers what is sent; the queue stays as it is.
+  MSG message;
+  PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
 }
 
 std::string LastErrorText() {

@@ -1,10 +1,12 @@
 #include "host/vcl/application.h"
 
 #include <algorithm>
+#include <atomic>
 #include <exception>
 
 #include "host/rtl/exceptions.h"
 #include "host/rtl/properties.h"
+#include "host/rtl/thread.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/screen.h"
 #include "host/vcl/taskwindows.h"
@@ -16,7 +18,15 @@ namespace {
 constexpr const wchar_t* WindowClassName = L"TApplication";
 constexpr UINT WM_FREEFORM = WM_USER + 0x100;  // LParam: the form.
 
+constexpr UINT WM_THREADSCALL = WM_USER + 0x101;
+constexpr UINT_PTR ThreadsCallTimer = 1;
+
 TApplication* TheApplication = nullptr;
+
+/// The window that threads post to when they call the main thread.
+std::atomic<HWND> CalledWindow = nullptr;
+
+void PostThreadsCall() { ::PostMessageW(CalledWindow, WM_THREADSCALL, 0, 0); }
 
 }  // namespace
 
@@ -54,6 +64,7 @@ TApplication::~TApplication() {
   FreeForms();
   FHints.reset();
   DestroyComponents();
+  SetWakeMainThread(nullptr);
   if (FHandle) ::DestroyWindow(FHandle);
   TheApplication = nullptr;
 }
@@ -152,6 +163,8 @@ void TApplication::CreateHandle() {
       "The application's window");
   ::SetWindowTextA(FHandle, Title().c_str());
   IconChanged(nullptr);
+  CalledWindow = FHandle;
+  SetWakeMainThread(&PostThreadsCall);
 }
 
 void TApplication::SetTitle(const std::string& title) {
@@ -194,6 +207,13 @@ LRESULT TApplication::WndProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_FREEFORM:
       FreeReleased(reinterpret_cast<TCustomForm*>(lParam));
       return 0;
+    case WM_THREADSCALL:
+      RunThreadsCalls();
+      return 0;
+    case WM_TIMER:
+      ::KillTimer(FHandle, ThreadsCallTimer);
+      CheckSynchronize();
+      return 0;
     case WM_SYSCOMMAND:
       return SysCommand(wParam, lParam);
     case WM_CLOSE:
@@ -218,6 +238,23 @@ LRESULT TApplication::WndProc(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
   }
   return ::DefWindowProcW(FHandle, message, wParam, lParam);
+}
+
+// The system hands out posted messages before input and painting, and timers after them. Threads that
+// call without end must not lock the user out: when he waits too long, they wait for the timer.
+void TApplication::RunThreadsCalls() {
+  ++FThreadsRounds;
+  constexpr ULONGLONG patience = 50;
+  const ULONGLONG now = ::GetTickCount64();
+  const bool waits = HIWORD(::GetQueueStatus(QS_INPUT | QS_PAINT)) != 0;
+  if (!waits) FInputWaitsSince = 0;
+  if (waits && FInputWaitsSince == 0) FInputWaitsSince = now;
+  if (!waits || now - FInputWaitsSince < patience) {
+    CheckSynchronize();
+    return;
+  }
+  FInputWaitsSince = 0;
+  if (!::SetTimer(FHandle, ThreadsCallTimer, USER_TIMER_MINIMUM, nullptr)) CheckSynchronize();
 }
 
 LRESULT TApplication::SysCommand(WPARAM wParam, LPARAM lParam) {

@@ -37,7 +37,9 @@ inline constexpr const char* EventName<TMessageEvent> = "TMessageEvent";
 ///     }
 ///
 /// The application has a window of its own, without a size: it carries the taskbar's button, and it
-/// owns the forms' windows, so that minimising it takes them all off the screen.
+/// owns the forms' windows, so that minimising it takes them all off the screen. Threads call the main
+/// thread by way of it (TThread::Synchronize), so that they reach it in every message loop, those of
+/// modal forms and boxes, menus and the moving of windows too.
 class VCL_API TApplication : public TCustomApplication {
  public:
   explicit TApplication(TComponent* owner);
@@ -73,8 +75,6 @@ class VCL_API TApplication : public TCustomApplication {
 
   /// Hands the error to OnException, else shows it in a box; EAbort is silent. Never raises.
   void HandleException(TObject* sender, const std::exception& error) override;
-  /// Like HandleException, for the exception being handled in a catch block, whatever its type.
-  void HandleCurrentException(TObject* sender);
   /// Shows the error's text in a box. An error that arrives while a box is up waits for its end.
   void ShowException(const std::exception& error);
   /// A box in front of the active window, whose buttons and picture are MB_... flags; IDOK, IDYES and
@@ -141,6 +141,7 @@ class VCL_API TApplication : public TCustomApplication {
   /// Shows the taskbar's button while a form is shown.
   void UpdateTaskbar();
   void IconChanged(TObject* sender);
+  void RunThreadsCalls();
   void SetActive(bool active);
   void Dispatch(MSG& message);
   bool PreprocessInput(MSG& message);
@@ -161,6 +162,8 @@ class VCL_API TApplication : public TCustomApplication {
   bool FActive = false;
   bool FHasRun = false;
   bool FShowingError = false;
+  unsigned FThreadsRounds = 0;
+  ULONGLONG FInputWaitsSince = 0;  // 0: none was seen to wait.
   std::vector<std::string> FWaitingErrors;
 };
 

@@ -36,16 +36,6 @@ void TApplication::HandleException(TObject* sender, const std::exception& error)
   }
 }
 
-void TApplication::HandleCurrentException(TObject* sender) {
-  try {
-    throw;
-  } catch (const std::exception& error) {
-    HandleException(sender, error);
-  } catch (...) {
-    HandleException(sender, Exception("An error of an unknown kind"));
-  }
-}
-
 // A timer may raise the same error again and again while its box is up: each text waits once.
 void TApplication::ShowException(const std::exception& error) {
   try {

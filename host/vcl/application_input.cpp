@@ -1,4 +1,5 @@
 // TApplication: the message loop, what it does to input on its way, and the mouse over controls.
+#include "host/rtl/thread.h"
 #include "host/vcl/application.h"
 #include "host/vcl/drag.h"
 #include "host/vcl/forms.h"
@@ -35,6 +36,7 @@ TWinControl* ControlOf(HWND window) {
 }  // namespace
 
 bool TApplication::ProcessMessage() {
+  Handle();  // Where threads post their calls.
   MSG message;
   if (!::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) return false;
   if (message.message == WM_QUIT) {
@@ -52,7 +54,10 @@ bool TApplication::ProcessMessage() {
 }
 
 void TApplication::ProcessMessages() {
-  while (ProcessMessage()) {
+  // Each round of threads' calls may bring the next one: they don't keep the caller here for ever.
+  constexpr unsigned enough = 10;
+  const unsigned begin = FThreadsRounds;
+  while (ProcessMessage() && FThreadsRounds - begin < enough) {
   }
 }
 
@@ -80,6 +85,7 @@ bool TApplication::PreprocessInput(MSG& message) {
 void TApplication::Idle() {
   bool done = true;
   try {
+    CheckSynchronize();
     TrackMouse(nullptr);
     OnIdle(this, done);
   } catch (...) {
