@@ -82,6 +82,10 @@ void TButton::CreateWnd() {
 void TButton::SetActive(bool active) {
   if (active == FActive) return;
   FActive = active;
+  SetButtonStyle(active);
+}
+
+void TButton::SetButtonStyle(bool active) {
   SendIfAllocated(*this, BM_SETSTYLE, active ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON, TRUE);
 }
 

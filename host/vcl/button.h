@@ -44,6 +44,8 @@ class VCL_API TButton : public TButtonControl {
   void CreateParams(TCreateParams& params) override;
   void CreateWnd() override;
   void Dispatch(TMessage& message) override;
+  /// Shows whether Enter is for this button now.
+  virtual void SetButtonStyle(bool active);
   void Pressed() override { Click(); }
   void AccelPressed() override { Click(); }
 

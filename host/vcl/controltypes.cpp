@@ -26,6 +26,7 @@ constexpr TIdent Cursors[] = {
 constexpr TIdent ModalResults[] = {
     {mrNone, "mrNone"},   {mrOk, "mrOk"},         {mrCancel, "mrCancel"}, {mrAbort, "mrAbort"},
     {mrRetry, "mrRetry"}, {mrIgnore, "mrIgnore"}, {mrYes, "mrYes"},       {mrNo, "mrNo"},
+    {mrAll, "mrAll"},
 };
 
 std::optional<std::string> NameOf(std::span<const TIdent> idents, std::int64_t value) {

@@ -71,6 +71,7 @@ enum TModalResult : std::int32_t {
   mrIgnore = 5,
   mrYes = 6,
   mrNo = 7,
+  mrAll = 8,
 };
 VCL_API std::optional<std::string> ModalResultToIdent(std::int64_t result);
 VCL_API std::optional<std::int64_t> IdentToModalResult(std::string_view ident);

@@ -5,7 +5,7 @@
 
 namespace vcl {
 
-/// Registers every control of stdctrls.h, extctrls.h and comctrls.h.
+/// Registers every control of stdctrls.h, extctrls.h, comctrls.h and buttons.h.
 VCL_API void RegisterStandardControls();
 
 }  // namespace vcl

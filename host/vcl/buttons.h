@@ -1,0 +1,5 @@
+// The buttons with a glyph.
+#pragma once
+
+#include "host/vcl/bitbtn.h"
+#include "host/vcl/speedbutton.h"
