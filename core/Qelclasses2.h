@@ -1,10 +1,13 @@
-// Drawing helpers that several controls share, and what goes with them.
+// The timer on a thread, the settings of a dialog's button, and drawing helpers that several controls
+// share, with what goes with them.
 #pragma once
 
 #include <string>
 #include <string_view>
 
+#include "core/Qelbuttondetails.h"
 #include "core/Qelfont3d.h"
+#include "core/Qeltimer32.h"
 #include "core/api.h"
 #include "host/rtl/strings.h"
 #include "host/vcl/graphics.h"

@@ -7,6 +7,7 @@
 #include "controls/Qeltlabel.h"
 #include "controls/Qeltspinedit.h"
 #include "core/Qelclasses.h"
+#include "core/Qelclasses2.h"
 #include "host/rtl/classregistry.h"
 
 inline void RegisterAll() {
@@ -16,5 +17,6 @@ inline void RegisterAll() {
                         &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class(),
                         &qel::TQELButton::Class(), &qel::TQELLabel::Class(),
                         &qel::TQELGauge::Class(), &qel::TQELSpinButton::Class(),
-                        &qel::TQELSpinEdit::Class()});
+                        &qel::TQELSpinEdit::Class(), &qel::TQELTimer32::Class(),
+                        &qel::TQELButtonDetails::Class()});
 }

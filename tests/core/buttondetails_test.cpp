@@ -1,0 +1,80 @@
+// The settings of a dialog's button, and the button that follows them.
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "core/Qelclasses2.h"
+#include "host/rtl/classes.h"
+#include "host/vcl/buttons.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/stdctrls.h"
+
+namespace {
+
+template <class T>
+class ButtonDetails : public ::testing::Test {};
+using TFollowers = ::testing::Types<vcl::TBitBtn, vcl::TSpeedButton>;
+TYPED_TEST_SUITE(ButtonDetails, TFollowers);
+
+vcl::TForm& Form() {
+  static vcl::TForm form(nullptr);
+  return form;
+}
+
+TYPED_TEST(ButtonDetails, AreFollowedByTheirButton) {
+  auto button = std::make_unique<TypeParam>(nullptr);
+  button->SetParent(&Form());
+  button->SetShowHint(true);
+  qel::TQELButtonDetails details(button.get());
+  EXPECT_TRUE(button->ShowHint());  // The beginning changes nothing.
+  details.SetSHint(false);
+  EXPECT_FALSE(button->ShowHint());
+  details.SetSHint(true);
+  EXPECT_TRUE(button->ShowHint());
+  details.SetCaption("Grüße");
+  EXPECT_EQ(button->Caption(), "Grüße");
+  details.SetHint("why");
+  EXPECT_EQ(button->Hint(), "why");
+  details.SetEnabled(false);
+  EXPECT_FALSE(button->Enabled());
+  details.SetVisible(false);
+  EXPECT_FALSE(button->Visible());
+  const vcl::TBitmap glyph(24, 12);
+  details.Setglyph(&glyph);
+  EXPECT_EQ(button->Glyph()->Width(), 24);
+  EXPECT_EQ(button->NumGlyphs(), 2);
+  details.Glyph()->SetSize(5, 7);
+  EXPECT_EQ(button->Glyph()->Height(), 7);
+  details.Setglyph(nullptr);
+  EXPECT_TRUE(button->Glyph()->Empty());
+
+  button.reset();
+  details.SetCaption("kept");
+  details.Setglyph(&glyph);
+  EXPECT_EQ(details.Caption(), "kept");
+  EXPECT_EQ(details.Glyph()->Width(), 24);
+}
+
+TEST(ButtonDetailsAlone, AnotherControlStaysAsItIs) {
+  vcl::TButton button(nullptr);
+  button.SetParent(&Form());
+  qel::TQELButtonDetails details(&button);
+  details.SetCaption("x");
+  details.SetEnabled(false);
+  EXPECT_EQ(button.Caption(), "");
+  EXPECT_TRUE(button.Enabled());
+  EXPECT_EQ(details.Caption(), "x");
+}
+
+TEST(ButtonDetailsAlone, SayInFormFilesThatTheyShowNoHints) {
+  const qel::TQELButtonDetails details;
+  const auto written = [&](const char* name) {
+    return details.ClassType().FindPublished(name)->NeedsWriting(details);
+  };
+  EXPECT_TRUE(written("ShowHint"));
+  EXPECT_FALSE(written("Visible"));
+  EXPECT_FALSE(written("Enabled"));
+  EXPECT_FALSE(written("ConfirmOnPress"));
+}
+
+}  // namespace
