@@ -4,5 +4,8 @@
 #include "controls/Qeltbackground.h"
 #include "controls/Qeltbutton.h"
 #include "controls/Qeltgauge.h"
+#include "controls/Qelthint.h"
 #include "controls/Qeltlabel.h"
 #include "controls/Qeltspinedit.h"
+#include "core/Qelclasses2.h"
+#include "core/Qelfunctions.h"

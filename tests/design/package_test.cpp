@@ -27,17 +27,24 @@ std::vector<std::string> Names(const std::vector<const TClass*>& classes) {
 
 TEST(Package, PutsItsComponentsOnTheirPages) {
   const TPackage package("qel.dll");
-  ASSERT_EQ(RegisteredComponents().size(), 1u);
-  const TPaletteEntry& page = RegisteredComponents().front();
+  const auto& pages = RegisteredComponents();
+  ASSERT_EQ(pages.size(), 3u);
+  const TPaletteEntry& page = pages[0];
   EXPECT_EQ(page.Page, "QEL Controls/1");
-  EXPECT_THAT(Names(page.Classes), ElementsAre("TQELBackground", "TQELLabel", "TQELButton", "TQELGauge"));
+  EXPECT_THAT(Names(page.Classes), ElementsAre("TQELBackground", "TQELLabel", "TQELButton",
+                                               "TQELGauge", "TQELHint"));
+  EXPECT_EQ(pages[1].Page, "QEL Controls/2");
+  EXPECT_THAT(Names(pages[1].Classes), ElementsAre("TQELSpinEdit"));
+  EXPECT_EQ(pages[2].Page, "QEL System/2");
+  EXPECT_THAT(Names(pages[2].Classes), ElementsAre("TQELTimer32"));
   EXPECT_EQ(PalettePageOf(*page.Classes[0]), "QEL Controls/1");
   EXPECT_EQ(PalettePageOf(TComponent::Class()), "");
 }
 
 TEST(Package, RegistersItsPersistentClassesByName) {
   const TPackage package("qel.dll");
-  for (const char* name : {"TQELFont3D", "TQELGradient", "TQELTexture", "TQELFrame", "TQELAbout"}) {
+  for (const char* name : {"TQELFont3D", "TQELGradient", "TQELTexture", "TQELFrame",
+                           "TQELButtonDetails", "TQELAbout"}) {
     const TClass* found = GetClass(name);
     ASSERT_NE(found, nullptr) << name;
     ASSERT_NE(found->Maker().Plain, nullptr) << name;
@@ -49,7 +56,8 @@ TEST(Package, RegistersItsPersistentClassesByName) {
 TEST(Package, MakesItsComponentsByName) {
   const TPackage package("qel.dll");
   TComponent owner(nullptr);
-  for (const char* name : {"TQELBackground", "TQELLabel", "TQELButton", "TQELGauge"}) {
+  for (const char* name : {"TQELBackground", "TQELLabel", "TQELButton", "TQELGauge", "TQELHint",
+                           "TQELSpinEdit", "TQELTimer32"}) {
     TComponent* made = FindClass(name).Maker().Component(&owner);
     EXPECT_EQ(made->ClassName(), name);
     EXPECT_EQ(made->Owner(), &owner);

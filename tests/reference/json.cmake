@@ -75,6 +75,19 @@ expect_class(TQELGauge TQELGraphicControl "QEL Controls/1" Qeltgauge
   Align Cursor Glyph OnClick OnDblClick OnMouseDown OnMouseMove OnMouseUp Font Font3D Background
   BevelInner BevelOuter PicturePosition Borderwidth Kind SegmentGap SegmentWidth SegmentColor
   InsideBackColor Percentage Width Height)
+expect_class(TQELHint TQELComponent "QEL Controls/1" Qelthint
+  Font3D Speechbubble Shadow HintDirection UnUsedHintColor HintShadowColor HintFont HintPauseTime
+  OnSelectHintDirection Background)
+expect_class(TQELTimer32 TQELComponent "QEL System/2" Qelclasses2 Enabled Interval OnTimer Priority)
+expect_class(TQELButtonDetails TPersistent "" Qelclasses2
+  Glyph Visible Enabled ConfirmOnPress ConfirmMessage Caption Hint ShowHint)
+expect_class(TQELSpinEdit TQELCustomSpinEdit "QEL Controls/2" Qeltspinedit About)
+expect_class(TQELCustomSpinEdit TCustomEdit "" Qeltspinedit
+  AutoSelect AutoSize Color Ctl3D ButtonColor ArrowColor DragCursor DragMode Enabled Font
+  ImeMode ImeName MaxLength ParentColor ParentCtl3D ParentFont ParentShowHint PopupMenu ShowHint
+  TabOrder TabStop Visible CutandPaste LineSize MaxValue MinValue MultipleLineSize Readonly Value
+  OnChange OnClick OnDblClick OnDragDrop OnDragOver OnEndDrag OnEnter OnExit OnKeyDown OnKeyPress
+  OnKeyUp OnMouseDown OnMouseMove OnMouseUp)
 
 expect_property(TQELExecComponent DesignExecute string string "" OFF)
 expect_property(TQELCustomDialog Sound enumeration TQELBeeptype bNone ON)
@@ -90,3 +103,7 @@ expect_property(TQELLabel Frame class TQELFrame "" ON)
 expect_property(TQELTexture TransparentColor color TColor clNone ON)
 expect_property(TQELGauge Width integer Integer 100 ON)
 expect_property(TQELGauge SegmentColor color TColor clNavy ON)
+expect_property(TQELHint HintPauseTime integer Integer 600 ON)
+expect_property(TQELHint UnUsedHintColor color TColor clYellow ON)
+expect_property(TQELTimer32 Priority enumeration TThreadPriority tpNormal ON)
+expect_property(TQELTimer32 Interval integer Word 1000 ON)
