@@ -7113,10 +7113,11 @@ object GalleryForm: TGalleryForm
     Left = 456
     Top = 80
   end
-  object LiveTimer: TTimer
+  object LiveTimer: TQELTimer32
     Enabled = False
     Interval = 40
     OnTimer = LiveTimerTick
+    Priority = tpTimeCritical
     Left = 488
     Top = 80
   end

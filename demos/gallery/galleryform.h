@@ -12,13 +12,13 @@
 #include "controls/Qelthint.h"
 #include "controls/Qeltlabel.h"
 #include "controls/Qeltspinedit.h"
+#include "core/Qeltimer32.h"
 #include "demos/gallery/settingbinder.h"
 #include "host/vcl/comctrls.h"
 #include "host/vcl/extctrls.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/menus.h"
 #include "host/vcl/stdctrls.h"
-#include "host/vcl/timer.h"
 
 namespace gallery {
 
@@ -53,7 +53,7 @@ class TGalleryForm : public vcl::TForm {
   vcl::TLabel* ChangesLabel = nullptr;
   qel::TQELGauge* SampleGauge = nullptr;
   qel::TQELGauge* LiveGauge = nullptr;
-  vcl::TTimer* LiveTimer = nullptr;
+  qel::TQELTimer32* LiveTimer = nullptr;
   qel::TQELSpinEdit* SampleSpin = nullptr;
   qel::TQELGauge* SpinGauge = nullptr;
   qel::TQELHint* BubbleHint = nullptr;

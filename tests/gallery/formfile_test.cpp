@@ -7,6 +7,7 @@
 #include "controls/Qelthint.h"
 #include "controls/Qeltlabel.h"
 #include "controls/Qeltspinedit.h"
+#include "core/Qeltimer32.h"
 #include "host/rtl/classregistry.h"
 #include "host/rtl/formfile.h"
 #include "host/rtl/resources.h"
@@ -42,7 +43,8 @@ TEST(GalleryFormFile, IsTheSameWhenItIsWrittenBack) {
   RegisterHostClasses();
   RegisterClasses({&qel::TQELBackground::Class(), &qel::TQELButton::Class(),
                    &qel::TQELLabel::Class(), &qel::TQELGauge::Class(),
-                   &qel::TQELHint::Class(), &qel::TQELSpinEdit::Class()});
+                   &qel::TQELHint::Class(), &qel::TQELSpinEdit::Class(),
+                   &qel::TQELTimer32::Class()});
   TResourceStream file(nullptr, "TGALLERYFORM", MAKEINTRESOURCEA(10));
   std::string text = TextOf(file);
   std::erase(text, '\r');
