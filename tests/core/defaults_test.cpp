@@ -21,6 +21,8 @@ const std::set<std::string> Exceptions = {
     "TQELLabel.ParentFont",  // A label begins with a font of its own.
     "TQELGauge.Width",       // A gauge of the declared size comes back from a form file with that
     "TQELGauge.Height",      // of the constructor.
+    "TQELHint.UnUsedHintColor",  // The declared colours differ from the constructor's on purpose.
+    "TQELHint.HintShadowColor",
     "TQELTimer32.Priority",  // Urgent; that its form file says so starts it.
 };
 

@@ -4,6 +4,7 @@
 #include "controls/Qeltbackground.h"
 #include "controls/Qeltbutton.h"
 #include "controls/Qeltgauge.h"
+#include "controls/Qelthint.h"
 #include "controls/Qeltlabel.h"
 #include "controls/Qeltspinedit.h"
 #include "core/Qelclasses.h"
@@ -16,7 +17,7 @@ inline void RegisterAll() {
                         &qel::TQELAbout::Class(), &qel::TQELGlyph::Class(),
                         &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class(),
                         &qel::TQELButton::Class(), &qel::TQELLabel::Class(),
-                        &qel::TQELGauge::Class(), &qel::TQELSpinButton::Class(),
-                        &qel::TQELSpinEdit::Class(), &qel::TQELTimer32::Class(),
-                        &qel::TQELButtonDetails::Class()});
+                        &qel::TQELGauge::Class(), &qel::TQELHint::Class(),
+                        &qel::TQELSpinButton::Class(), &qel::TQELSpinEdit::Class(),
+                        &qel::TQELTimer32::Class(), &qel::TQELButtonDetails::Class()});
 }
