@@ -64,9 +64,12 @@ void Render(TQELGradient& gradient, HDC dc, int width, int height) {
 
 void SystemGradient(HDC dc, int width, int height, ULONG mode) {
   const auto vertex = [](int x, int y, COLORREF color) {
-    return TRIVERTEX{x, y, static_cast<COLOR16>(GetRValue(color) << 8),
+    return TRIVERTEX{x,
+                     y,
+                     static_cast<COLOR16>(GetRValue(color) << 8),
                      static_cast<COLOR16>(GetGValue(color) << 8),
-                     static_cast<COLOR16>(GetBValue(color) << 8), 0};
+                     static_cast<COLOR16>(GetBValue(color) << 8),
+                     0};
   };
   TRIVERTEX vertices[] = {vertex(0, 0, First), vertex(width, height, Last)};
   GRADIENT_RECT rect{0, 1};
@@ -135,11 +138,9 @@ void MeasureRepaint() {
     table.Add(name, EachSize([&](int width, int height) {
                 const plain::TDib dest(width, height);
                 const plain::TDib source(width, height);
-                return Compare([&] { paint(settings, dest.DC(), width, height); },
-                               [&] {
-                                 ::BitBlt(dest.DC(), 0, 0, width, height, source.DC(), 0, 0,
-                                          SRCCOPY);
-                               });
+                return Compare(
+                    [&] { paint(settings, dest.DC(), width, height); },
+                    [&] { ::BitBlt(dest.DC(), 0, 0, width, height, source.DC(), 0, 0, SRCCOPY); });
               }));
   };
   TQELGradient gradient;
@@ -196,9 +197,10 @@ void MeasureHandles() {
   const THandles before;
   for (int i = 0; i < Repaints; ++i) repaint(i);
   const THandles after;
-  std::printf("\n## Handles\n\n%d repaints, each with other settings. Aim: equal.\n\n"
-              "| | before | after |\n|---|---|---|\n| GDI | %d | %d |\n| user | %d | %d |\n",
-              Repaints, before.Gdi, after.Gdi, before.User, after.User);
+  std::printf(
+      "\n## Handles\n\n%d repaints, each with other settings. Aim: equal.\n\n"
+      "| | before | after |\n|---|---|---|\n| GDI | %d | %d |\n| user | %d | %d |\n",
+      Repaints, before.Gdi, after.Gdi, before.User, after.User);
 }
 
 }  // namespace

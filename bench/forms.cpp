@@ -80,10 +80,11 @@ void Forms() {
   vcl::RegisterHostClasses();
   vcl::RegisterClasses({&qel::TQELButton::Class(), &qel::TQELLabel::Class()});
   const std::string file = FormFile();
-  TTable table("A form file of 1,000 controls, against 750 plain windows",
-               "250 each of button, label (which has no window), edit and check box: made, shown and "
-               "freed; the plain windows are made and shown by the system's calls alone.",
-               {"made, shown, freed"});
+  TTable table(
+      "A form file of 1,000 controls, against 750 plain windows",
+      "250 each of button, label (which has no window), edit and check box: made, shown and "
+      "freed; the plain windows are made and shown by the system's calls alone.",
+      {"made, shown, freed"});
   table.Add("TForm", {Compare([&] { MakeForm(file); }, MakeWindows)});
 }
 

@@ -1,5 +1,5 @@
-// Prints how long painting, forms and dates take, as ratios to what the system itself or the standard
-// library needs, measured in one run.
+// Prints how long painting, forms and dates take, as ratios to what the system itself or the
+// standard library needs, measured in one run.
 #include <cstdio>
 
 #include "bench/backgrounds.h"

@@ -98,14 +98,17 @@ void TQELBackground::SetBackgroundStyle(TQELBackStyle style) {
 const vcl::TClass& TQELBackground::Class() {
   using T = TQELBackground;
   using namespace vcl;
-  static const TClass info = Describe<T, TQELCustomBackground>("TQELBackground", "Qeltbackground", {
-      Property<&T::Texture, &T::SetTexture>("Texture"),
-      Property<&T::Gradient, &T::SetGradient>("Gradient"),
-      Property<&T::BrushFill, &T::SetBrushFill>("BrushFill"),
-      Event<&T::OnChanged>("OnChanged"),
-      Property<&T::SolidColor, &T::SetSolidColor>("SolidColor").Default(clBtnFace),
-      Property<&T::BackgroundStyle, &T::SetBackgroundStyle>("BackgroundStyle").Default(bGradient),
-  });
+  static const TClass info = Describe<T, TQELCustomBackground>(
+      "TQELBackground", "Qeltbackground",
+      {
+          Property<&T::Texture, &T::SetTexture>("Texture"),
+          Property<&T::Gradient, &T::SetGradient>("Gradient"),
+          Property<&T::BrushFill, &T::SetBrushFill>("BrushFill"),
+          Event<&T::OnChanged>("OnChanged"),
+          Property<&T::SolidColor, &T::SetSolidColor>("SolidColor").Default(clBtnFace),
+          Property<&T::BackgroundStyle, &T::SetBackgroundStyle>("BackgroundStyle")
+              .Default(bGradient),
+      });
   return info;
 }
 

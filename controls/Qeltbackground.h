@@ -53,7 +53,8 @@ inline constexpr vcl::TEnumText vcl::EnumText<qel::TQELBackStyle>{
 template <>
 inline constexpr vcl::TEnumText vcl::EnumText<qel::TQELFillStyle>{
     "TQELFillStyle",
-    "Circle Horizontal Vertical LeftBottom RoundMiddle SquareMiddle Spectral DoppelFlash Singleflash "
+    "Circle Horizontal Vertical LeftBottom RoundMiddle SquareMiddle Spectral DoppelFlash "
+    "Singleflash "
     "MiddleHBar MiddleVBar VerticalDoppelBar HorizontalDoppelBar"};
 template <>
 inline constexpr vcl::TEnumText vcl::EnumText<qel::TQELImageStyle>{"TQELImageStyle",
@@ -86,11 +87,11 @@ class QEL_API TQELGradient : public vcl::TGraphicsObject {
   vcl::TStrings* ColorsInBetween() const { return FColorsInBetween.get(); }
   void SetColorsInBetween(const vcl::TStrings* colors);
 
-  /// Paints the rectangle (0, 0, width, height) with the first colour, `colors` and the last one; the
-  /// first and the last change places unless `forward`. A line that says no colour counts as `color`,
-  /// as an error raised while painting would come again with every repaint. Sizes of 0 or less paint
-  /// nothing. What was painted is kept and copied when it is asked for again. Raises EOutOfResources
-  /// for a size that the system refuses.
+  /// Paints the rectangle (0, 0, width, height) with the first colour, `colors` and the last one;
+  /// the first and the last change places unless `forward`. A line that says no colour counts as
+  /// `color`, as an error raised while painting would come again with every repaint. Sizes of 0 or
+  /// less paint nothing. What was painted is kept and copied when it is asked for again. Raises
+  /// EOutOfResources for a size that the system refuses.
   void MultiDraw(HDC dc, int width, int height, const vcl::TStrings* colors, vcl::TColor color,
                  bool forward);
 
@@ -128,8 +129,8 @@ class QEL_API TQELTexture : public vcl::TGraphicsObject {
   vcl::TColor TransparentBackground() const { return FTransparentBackground; }
   void SetTransparentBackground(vcl::TColor color);
 
-  /// Paints the area from (0, 0) with the picture; nothing when there is none. Tiles at the right and
-  /// bottom edges are painted whole, beyond the area too where the context shows it; around a
+  /// Paints the area from (0, 0) with the picture; nothing when there is none. Tiles at the right
+  /// and bottom edges are painted whole, beyond the area too where the context shows it; around a
   /// centred picture nothing is painted. `color` becomes the context's background colour where the
   /// picture is centred.
   void Draw(HDC dc, int width, int height, vcl::TColor color);
@@ -206,8 +207,8 @@ class QEL_API TQELBackground : public TQELCustomBackground {
   /// lets a gradient's first and last colour change places. Raises EOutOfResources for a size that
   /// the system refuses.
   void Draw(HDC dc, int width, int height, bool forward) override;
-  /// Puts the background behind what the canvas shows from (0, 0): it appears wherever the canvas has
-  /// the colour.
+  /// Puts the background behind what the canvas shows from (0, 0): it appears wherever the canvas
+  /// has the colour.
   void DrawTrans(vcl::TCanvas* canvas, int width, int height, bool forward, vcl::TColor color);
   /// Draws a text in the rectangle, its letters filled with the background as it is painted for the
   /// rectangle; their shadow, highlight and repetitions are drawn as `font3D` says. The flags are

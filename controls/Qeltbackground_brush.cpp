@@ -76,10 +76,12 @@ void TQELBrushFill::SetBrushColor(TColor color) {
 const vcl::TClass& TQELBrushFill::Class() {
   using T = TQELBrushFill;
   using namespace vcl;
-  static const TClass info = Describe<T, TGraphicsObject>("TQELBrushFill", "Qeltbackground", {
-      Property<&T::BrushStyle, &T::SetBrushStyle>("BrushStyle").Default(bsSolid),
-      Property<&T::BrushColor, &T::SetBrushColor>("BrushColor").Default(clBtnFace),
-  });
+  static const TClass info = Describe<T, TGraphicsObject>(
+      "TQELBrushFill", "Qeltbackground",
+      {
+          Property<&T::BrushStyle, &T::SetBrushStyle>("BrushStyle").Default(bsSolid),
+          Property<&T::BrushColor, &T::SetBrushColor>("BrushColor").Default(clBtnFace),
+      });
   return info;
 }
 

@@ -59,8 +59,8 @@ void TQELGradient::Assign(const vcl::TPersistent* source) {
 void TQELGradient::MultiDraw(HDC dc, int width, int height, const vcl::TStrings* colors,
                              TColor color, bool forward) {
   if (width <= 0 || height <= 0) return;
-  const auto [first, last] = forward ? std::pair(FBeginColor, FEndColor)
-                                     : std::pair(FEndColor, FBeginColor);
+  const auto [first, last] =
+      forward ? std::pair(FBeginColor, FEndColor) : std::pair(FEndColor, FBeginColor);
   TGradientPlan plan{width, height, FFillStyle, FColorCount, {vcl::ColorToRGB(first)}};
   for (int i = 0; colors && i < colors->Count(); ++i) {
     plan.Colors.push_back(LineColor(colors->Strings(i), color));
@@ -102,14 +102,17 @@ void TQELGradient::SetColorsInBetween(const vcl::TStrings* colors) {
 const vcl::TClass& TQELGradient::Class() {
   using T = TQELGradient;
   using namespace vcl;
-  static const TClass info = Describe<T, TGraphicsObject>("TQELGradient", "Qeltbackground", {
-      // The two colours are set by the constructor and have no declared default: always written.
-      Property<&T::BeginColor, &T::SetBeginColor>("BeginColor"),
-      Property<&T::EndColor, &T::SetEndColor>("EndColor"),
-      Property<&T::FillStyle, &T::SetFillStyle>("FillStyle").Default(Horizontal),
-      Property<&T::ColorCount, &T::SetColorCount>("ColorCount").Default(32),
-      Property<&T::ColorsInBetween, &T::SetColorsInBetween>("ColorsInBetween"),
-  });
+  static const TClass info = Describe<T, TGraphicsObject>(
+      "TQELGradient", "Qeltbackground",
+      {
+          // The two colours are set by the constructor and have no declared default: always
+          // written.
+          Property<&T::BeginColor, &T::SetBeginColor>("BeginColor"),
+          Property<&T::EndColor, &T::SetEndColor>("EndColor"),
+          Property<&T::FillStyle, &T::SetFillStyle>("FillStyle").Default(Horizontal),
+          Property<&T::ColorCount, &T::SetColorCount>("ColorCount").Default(32),
+          Property<&T::ColorsInBetween, &T::SetColorsInBetween>("ColorsInBetween"),
+      });
   return info;
 }
 

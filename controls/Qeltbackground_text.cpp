@@ -35,9 +35,9 @@ std::unique_ptr<TSurface> Written(HDC dc, const TRect& visible, const TQELFont3D
   return copy;
 }
 
-/// Lets the pattern shine through: of each channel as much as lies between the text in black and the
-/// text in white, which is 0 beside the letters, 255 inside them, and between the two at edges that
-/// are smoothed.
+/// Lets the pattern shine through: of each channel as much as lies between the text in black and
+/// the text in white, which is 0 beside the letters, 255 inside them, and between the two at edges
+/// that are smoothed.
 TPixel Through(TPixel black, TPixel white, TPixel pattern) {
   TPixel result = 0;
   for (int shift : {0, 8, 16}) {
@@ -85,16 +85,13 @@ void TQELBackground::Write(TQELFont3D* font3D, const vcl::TFont* font, vcl::TCan
   FillPixels(pattern.Row(0), std::size_t(rect.Width()) * rect.Height(),
              PixelOf(vcl::ColorToRGB(FSolidColor)));
   Draw(pattern.DC(), rect.Width(), rect.Height(), true);
-  const auto black =
-      Written(dc, visible, *font3D, *font, vcl::clBlack, rect, text, flags);
-  const auto white =
-      Written(dc, visible, *font3D, *font, vcl::clWhite, rect, text, flags);
+  const auto black = Written(dc, visible, *font3D, *font, vcl::clBlack, rect, text, flags);
+  const auto white = Written(dc, visible, *font3D, *font, vcl::clWhite, rect, text, flags);
   for (int y = 0; y < visible.Height(); ++y) {
     TPixel* row = black->Row(y);
     const TPixel* light = white->Row(y);
     // Letters that reach out of the rectangle go on in the colours of its edge.
-    const TPixel* fill =
-        pattern.Row(std::clamp(y + visible.Top - rect.Top, 0, rect.Height() - 1));
+    const TPixel* fill = pattern.Row(std::clamp(y + visible.Top - rect.Top, 0, rect.Height() - 1));
     for (int x = 0; x < visible.Width(); ++x) {
       if (((row[x] ^ light[x]) & ColorMask) == 0) continue;
       row[x] = Through(row[x], light[x],

@@ -118,7 +118,11 @@ const TSurface& TQELTexture::Source() {
 
 /// What the pictures that are kept depend on, besides the settings whose changes outdate them.
 std::vector<int> TQELTexture::Key(int width, int height, int mode) const {
-  return {width, height, FImageStyle, mode, static_cast<int>(Version()),
+  return {width,
+          height,
+          FImageStyle,
+          mode,
+          static_cast<int>(Version()),
           static_cast<int>(vcl::ColorToRGB(FTransparentBackground))};
 }
 
@@ -151,8 +155,8 @@ void TQELTexture::DrawStretched(HDC dc, int width, int height) {
       ->Get(Key(width, height, mode), width, height,
             [&](TSurface& surface) {
               ::SetStretchBltMode(surface.DC(), mode);
-              ::StretchBlt(surface.DC(), 0, 0, width, height, Source().DC(), 0, 0,
-                           FImage->Width(), FImage->Height(), SRCCOPY);
+              ::StretchBlt(surface.DC(), 0, 0, width, height, Source().DC(), 0, 0, FImage->Width(),
+                           FImage->Height(), SRCCOPY);
             })
       .CopyTo(dc, 0, 0);
 }
@@ -160,13 +164,16 @@ void TQELTexture::DrawStretched(HDC dc, int width, int height) {
 const vcl::TClass& TQELTexture::Class() {
   using T = TQELTexture;
   using namespace vcl;
-  static const TClass info = Describe<T, TGraphicsObject>("TQELTexture", "Qeltbackground", {
-      Property<&T::Image, &T::SetImage>("Image"),
-      Property<&T::ImageStyle, &T::SetImageStyle>("ImageStyle").Default(isTile),
-      Property<&T::TransparentColor, &T::SetTransparentColor>("TransparentColor").Default(clNone),
-      Property<&T::TransparentBackground, &T::SetTransparentBackground>("TransparentBackground")
-          .Default(clBtnFace),
-  });
+  static const TClass info = Describe<T, TGraphicsObject>(
+      "TQELTexture", "Qeltbackground",
+      {
+          Property<&T::Image, &T::SetImage>("Image"),
+          Property<&T::ImageStyle, &T::SetImageStyle>("ImageStyle").Default(isTile),
+          Property<&T::TransparentColor, &T::SetTransparentColor>("TransparentColor")
+              .Default(clNone),
+          Property<&T::TransparentBackground, &T::SetTransparentBackground>("TransparentBackground")
+              .Default(clBtnFace),
+      });
   return info;
 }
 

@@ -25,40 +25,42 @@ constexpr int GlyphMargin = 2;
 const vcl::TClass& TQELButton::Class() {
   using T = TQELButton;
   using namespace vcl;
-  static const TClass info = Describe<T, TQELCustomControl>("TQELButton", "Qeltbutton", {
-      Inherit("About"),
-      Property<&T::Font3D, &T::Set3D>("Font3D"),
-      Property<&T::Glyph, &T::SetQELGlyph>("Glyph"),
-      Property<&T::Enabled, &T::SetEnabled>("Enabled").Default(true),
-      Inherit("ParentShowHint"),
-      Inherit("ShowHint"),
-      Inherit("Font"),
-      Inherit("Visible"),
-      Property<&T::getcaption, &T::Setcaption>("Caption").Type("TCaption"),
-      Property<&T::WordWrap, &T::Setword>("WordWrap").Default(false),
-      Property<&T::ButtonSunk, &T::SetButtonSunk>("ButtonSunk").Default(false),
-      Inherit("Background"),
-      Inherit("OnClick"),
-      Inherit("DragCursor"),
-      Inherit("DragMode"),
-      Inherit("ParentFont"),
-      Inherit("PopupMenu"),
-      Inherit("TabOrder"),
-      // The constructor sets it: a button in a form file always says that it is a tab stop.
-      Inherit("TabStop"),
-      Inherit("OnDragDrop"),
-      Inherit("OnDragOver"),
-      Inherit("OnEndDrag"),
-      Inherit("OnKeyDown"),
-      Inherit("OnKeyPress"),
-      Inherit("OnKeyUp"),
-      Inherit("OnMouseDown"),
-      Inherit("OnMouseMove"),
-      Inherit("OnMouseUp"),
-      Inherit("OnEnter"),
-      Inherit("OnExit"),
-      Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<T, TQELCustomControl>(
+      "TQELButton", "Qeltbutton",
+      {
+          Inherit("About"),
+          Property<&T::Font3D, &T::Set3D>("Font3D"),
+          Property<&T::Glyph, &T::SetQELGlyph>("Glyph"),
+          Property<&T::Enabled, &T::SetEnabled>("Enabled").Default(true),
+          Inherit("ParentShowHint"),
+          Inherit("ShowHint"),
+          Inherit("Font"),
+          Inherit("Visible"),
+          Property<&T::getcaption, &T::Setcaption>("Caption").Type("TCaption"),
+          Property<&T::WordWrap, &T::Setword>("WordWrap").Default(false),
+          Property<&T::ButtonSunk, &T::SetButtonSunk>("ButtonSunk").Default(false),
+          Inherit("Background"),
+          Inherit("OnClick"),
+          Inherit("DragCursor"),
+          Inherit("DragMode"),
+          Inherit("ParentFont"),
+          Inherit("PopupMenu"),
+          Inherit("TabOrder"),
+          // The constructor sets it: a button in a form file always says that it is a tab stop.
+          Inherit("TabStop"),
+          Inherit("OnDragDrop"),
+          Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),
+          Inherit("OnKeyDown"),
+          Inherit("OnKeyPress"),
+          Inherit("OnKeyUp"),
+          Inherit("OnMouseDown"),
+          Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),
+          Inherit("OnEnter"),
+          Inherit("OnExit"),
+          Inherit("OnStartDrag"),
+      });
   return info;
 }
 
@@ -172,7 +174,8 @@ void TQELButton::Click() {
 
 void TQELButton::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
   SetMouseCapture(true);
-  // The window is enabled when the button is not: what it took for the beginning of a click is none.
+  // The window is enabled when the button is not: what it took for the beginning of a click is
+  // none.
   if (!FEnabled) ExcludeState(vcl::csClicked);
   TWatch watch(this);
   TQELCustomControl::MouseDown(button, shift, x, y);

@@ -9,8 +9,8 @@
 
 namespace qel {
 
-/// A push button with a glyph, a three-dimensional caption and a soft edge, on a background. The left
-/// mouse button and the space bar press it.
+/// A push button with a glyph, a three-dimensional caption and a soft edge, on a background. The
+/// left mouse button and the space bar press it.
 class QEL_API TQELButton : public TQELCustomControl {
  public:
   explicit TQELButton(vcl::TComponent* owner);
@@ -24,14 +24,15 @@ class QEL_API TQELButton : public TQELCustomControl {
   TQELGlyph* Glyph() const { return FGlyph.get(); }
   /// Copies the settings and the images.
   void SetQELGlyph(const TQELGlyph* glyph);
-  /// The button's own state, which stands in for that of its window: false greys it and has it ignore
-  /// the mouse, but the window stays enabled, and the space bar works.
+  /// The button's own state, which stands in for that of its window: false greys it and has it
+  /// ignore the mouse, but the window stays enabled, and the space bar works.
   bool Enabled() const { return FEnabled; }
   void SetEnabled(bool enabled);
   std::string getcaption() const;
   void Setcaption(const std::string& caption);
   bool WordWrap() const { return FWordWrap; }
-  /// True wraps the caption; false draws it on one line that ends in an ellipsis when it is too long.
+  /// True wraps the caption; false draws it on one line that ends in an ellipsis when it is too
+  /// long.
   void Setword(bool wordWrap);
   bool ButtonSunk() const { return FButtonSunk; }
   /// Sinks the button into its parent. Makes the window anew.

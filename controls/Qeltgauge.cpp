@@ -38,33 +38,35 @@ class TContextEnd {
 const vcl::TClass& TQELGauge::Class() {
   using T = TQELGauge;
   using namespace vcl;
-  static const TClass info = Describe<T, TQELGraphicControl>("TQELGauge", "Qeltgauge", {
-      Inherit("Align"),
-      Inherit("Cursor"),
-      Property<&T::Glyph, &T::SetGlyph>("Glyph"),
-      Inherit("OnClick"),
-      Inherit("OnDblClick"),
-      Inherit("OnMouseDown"),
-      Inherit("OnMouseMove"),
-      Inherit("OnMouseUp"),
-      Inherit("Font"),
-      Property<&T::Font3D, &T::SetFont3D>("Font3D"),
-      Property<&T::Background, &T::SetBackground>("Background"),
-      Property<&T::BevelInner, &T::SetBevelInner>("BevelInner"),
-      Property<&T::BevelOuter, &T::SetBevelOuter>("BevelOuter"),
-      Property<&T::PicturePosition, &T::SetPicturePosition>("PicturePosition").Default(pLeft),
-      Property<&T::Borderwidth, &T::SetBorderwidth>("Borderwidth"),
-      Property<&T::Kind, &T::SetKind>("Kind"),
-      Property<&T::SegmentGap, &T::SetSegmentGap>("SegmentGap").Default(2),
-      Property<&T::SegmentWidth, &T::SetSegmentWidth>("SegmentWidth").Default(8),
-      Property<&T::SegmentColor, &T::SetSegmentColor>("SegmentColor").Default(clNavy),
-      Property<&T::InsideBackColor, &T::SetInsideBackColor>("InsideBackColor").Default(clWhite),
-      Property<&T::Percentage, &T::SetPercentage>("Percentage").Default(0),
-      // Another size than the constructor's, on purpose: a gauge of exactly 100 by 18 is left out of
-      // form files and comes back with 140 by 36.
-      Inherit("Width").Default(100),
-      Inherit("Height").Default(18),
-  });
+  static const TClass info = Describe<T, TQELGraphicControl>(
+      "TQELGauge", "Qeltgauge",
+      {
+          Inherit("Align"),
+          Inherit("Cursor"),
+          Property<&T::Glyph, &T::SetGlyph>("Glyph"),
+          Inherit("OnClick"),
+          Inherit("OnDblClick"),
+          Inherit("OnMouseDown"),
+          Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),
+          Inherit("Font"),
+          Property<&T::Font3D, &T::SetFont3D>("Font3D"),
+          Property<&T::Background, &T::SetBackground>("Background"),
+          Property<&T::BevelInner, &T::SetBevelInner>("BevelInner"),
+          Property<&T::BevelOuter, &T::SetBevelOuter>("BevelOuter"),
+          Property<&T::PicturePosition, &T::SetPicturePosition>("PicturePosition").Default(pLeft),
+          Property<&T::Borderwidth, &T::SetBorderwidth>("Borderwidth"),
+          Property<&T::Kind, &T::SetKind>("Kind"),
+          Property<&T::SegmentGap, &T::SetSegmentGap>("SegmentGap").Default(2),
+          Property<&T::SegmentWidth, &T::SetSegmentWidth>("SegmentWidth").Default(8),
+          Property<&T::SegmentColor, &T::SetSegmentColor>("SegmentColor").Default(clNavy),
+          Property<&T::InsideBackColor, &T::SetInsideBackColor>("InsideBackColor").Default(clWhite),
+          Property<&T::Percentage, &T::SetPercentage>("Percentage").Default(0),
+          // Another size than the constructor's, on purpose: a gauge of exactly 100 by 18 is left
+          // out of form files and comes back with 140 by 36.
+          Inherit("Width").Default(100),
+          Inherit("Height").Default(18),
+      });
   return info;
 }
 
@@ -173,7 +175,7 @@ void TQELGauge::SetPercentage(int percentage) {
 
 /// What lies between the gauge's outer bevel and its inner one, on each side.
 TRect TQELGauge::Margins() const {
-  static constexpr int TRect::* sides[] = {&TRect::Left, &TRect::Right, &TRect::Top, &TRect::Bottom};
+  static constexpr int TRect::*sides[] = {&TRect::Left, &TRect::Right, &TRect::Top, &TRect::Bottom};
   const int border = std::min(FBorderwidth, MaxMargin);
   TRect margins(border, border, border, border);
   // By its width above and below the bar, too, and also while it is hidden.
@@ -265,9 +267,9 @@ void TQELGauge::DrawRows(TRect bar) {
   Canvas()->FillRect(bar);
 }
 
-/// Draws the columns, or the rows, from `first` to `last`. A line belongs to a segment when its place
-/// modulo SegmentWidth + SegmentGap is not above SegmentWidth: places count from the gauge's corner
-/// and not from the bar's, and a segment is one pixel wider than SegmentWidth says.
+/// Draws the columns, or the rows, from `first` to `last`. A line belongs to a segment when its
+/// place modulo SegmentWidth + SegmentGap is not above SegmentWidth: places count from the gauge's
+/// corner and not from the bar's, and a segment is one pixel wider than SegmentWidth says.
 void TQELGauge::DrawLines(const TRect& bar, int first, int last) {
   const TRect clip = Canvas()->ClipRect();
   const bool columns = FKind == kHorizontal;

@@ -10,8 +10,8 @@
 
 namespace qel {
 
-/// Shows a percentage as a bar of segments inside two bevels, with the number written over it, beside
-/// a glyph and on a background where there are any.
+/// Shows a percentage as a bar of segments inside two bevels, with the number written over it,
+/// beside a glyph and on a background where there are any.
 class QEL_API TQELGauge : public TQELGraphicControl {
  public:
   explicit TQELGauge(vcl::TComponent* owner);
@@ -24,8 +24,8 @@ class QEL_API TQELGauge : public TQELGraphicControl {
   void SetGlyph(const TQELGlyph* glyph);
   /// How the number is written.
   TQELFont3D* Font3D() const { return FFont3D.get(); }
-  /// Uses that very object from now on, which the gauge then owns; the one that it had is freed. Null
-  /// is ignored. Settings that another control owns are copied instead, as they end with it.
+  /// Uses that very object from now on, which the gauge then owns; the one that it had is freed.
+  /// Null is ignored. Settings that another control owns are copied instead, as they end with it.
   void SetFont3D(TQELFont3D* font3D);
   TQELBackground* Background() const { return FBackground; }
   /// The background behind it all, which is not owned; null for none.
@@ -60,12 +60,12 @@ class QEL_API TQELGauge : public TQELGraphicControl {
   /// The colour of the gaps, and of what the bar has not reached.
   void SetInsideBackColor(vcl::TColor color);
   int Percentage() const { return FPercentage; }
-  /// From 0 to 100; what lies outside becomes the nearer end. Shown at once, without the rest of the
-  /// gauge being painted.
+  /// From 0 to 100; what lies outside becomes the nearer end. Shown at once, without the rest of
+  /// the gauge being painted.
   void SetPercentage(int percentage);
 
-  /// Draws the bar and the number now. Does nothing while the gauge is not to be seen: invisible, or
-  /// without a parent that has a window.
+  /// Draws the bar and the number now. Does nothing while the gauge is not to be seen: invisible,
+  /// or without a parent that has a window.
   void UpdateProgress();
 
  protected:

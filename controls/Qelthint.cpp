@@ -99,21 +99,25 @@ void TQELHint::Notification(vcl::TComponent* component, vcl::TOperation operatio
 const vcl::TClass& TQELHint::Class() {
   using T = TQELHint;
   using namespace vcl;
-  static const TClass info = Describe<T, TQELComponent>("TQELHint", "Qelthint", {
-      Property<&T::Font3D, &T::SetFont3D>("Font3D"),
-      Property<&T::Speechbubble, &T::SetSpeechbubble>("Speechbubble"),
-      Property<&T::Shadow, &T::SetShadow>("Shadow"),
-      Property<&T::HintDirection, &T::SetHintDirection>("HintDirection").Default(dUpRight),
-      // The two colours' declared defaults are not the constructor's, and stay as they are: form
-      // files rely on them. Set to its declared default, a colour is not written, and comes back as
-      // the constructor's.
-      Property<&T::UnUsedHintColor, &T::SetUnUsedHintColor>("UnUsedHintColor").Default(clYellow),
-      Property<&T::HintShadowColor, &T::SetHintShadowColor>("HintShadowColor").Default(clPurple),
-      Property<&T::HintFont, &T::SetHintFont>("HintFont"),
-      Property<&T::HintPauseTime, &T::SetHintPauseTime>("HintPauseTime").Default(600),
-      Event<&T::OnSelectHintDirection>("OnSelectHintDirection"),
-      Property<&T::Background, &T::SetBackground>("Background"),
-  });
+  static const TClass info = Describe<T, TQELComponent>(
+      "TQELHint", "Qelthint",
+      {
+          Property<&T::Font3D, &T::SetFont3D>("Font3D"),
+          Property<&T::Speechbubble, &T::SetSpeechbubble>("Speechbubble"),
+          Property<&T::Shadow, &T::SetShadow>("Shadow"),
+          Property<&T::HintDirection, &T::SetHintDirection>("HintDirection").Default(dUpRight),
+          // The two colours' declared defaults are not the constructor's, and stay as they are:
+          // form files rely on them. Set to its declared default, a colour is not written, and
+          // comes back as the constructor's.
+          Property<&T::UnUsedHintColor, &T::SetUnUsedHintColor>("UnUsedHintColor")
+              .Default(clYellow),
+          Property<&T::HintShadowColor, &T::SetHintShadowColor>("HintShadowColor")
+              .Default(clPurple),
+          Property<&T::HintFont, &T::SetHintFont>("HintFont"),
+          Property<&T::HintPauseTime, &T::SetHintPauseTime>("HintPauseTime").Default(600),
+          Event<&T::OnSelectHintDirection>("OnSelectHintDirection"),
+          Property<&T::Background, &T::SetBackground>("Background"),
+      });
   return info;
 }
 

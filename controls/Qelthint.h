@@ -61,8 +61,8 @@ class QEL_API TQELHint : public TQELComponent {
   TQELDirectionB HintDirection() const { return FHintDirection; }
   void SetHintDirection(TQELDirectionB direction) { FHintDirection = direction; }
   vcl::TColor UnUsedHintColor() const { return FUnUsedHintColor; }
-  /// A colour that is never seen: it marks the bubble while it is drawn, and whatever has it becomes
-  /// background, on the screen around the bubble too.
+  /// A colour that is never seen: it marks the bubble while it is drawn, and whatever has it
+  /// becomes background, on the screen around the bubble too.
   void SetUnUsedHintColor(vcl::TColor color) { FUnUsedHintColor = color; }
   vcl::TColor HintShadowColor() const { return FHintShadowColor; }
   void SetHintShadowColor(vcl::TColor color) { FHintShadowColor = color; }

@@ -76,9 +76,9 @@ void TQELNewHint::TakeSnapshot() {
   const vcl::TPoint origin = ClientOrigin();
   // A hint to the left of a mouse at the right edge leaves the screen by some pixels, and not every
   // system copies the rest of a rectangle that does.
-  const vcl::TRect all = vcl::Bounds(
-      ::GetSystemMetrics(SM_XVIRTUALSCREEN), ::GetSystemMetrics(SM_YVIRTUALSCREEN),
-      ::GetSystemMetrics(SM_CXVIRTUALSCREEN), ::GetSystemMetrics(SM_CYVIRTUALSCREEN));
+  const vcl::TRect all =
+      vcl::Bounds(::GetSystemMetrics(SM_XVIRTUALSCREEN), ::GetSystemMetrics(SM_YVIRTUALSCREEN),
+                  ::GetSystemMetrics(SM_CXVIRTUALSCREEN), ::GetSystemMetrics(SM_CYVIRTUALSCREEN));
   const vcl::TRect seen =
       vcl::Intersection(vcl::Bounds(origin.X, origin.Y, Width(), Height()), all);
   ::BitBlt(FSnapshot->Canvas()->Handle(), seen.Left - origin.X, seen.Top - origin.Y, seen.Width(),

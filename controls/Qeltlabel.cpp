@@ -11,39 +11,41 @@ using vcl::TRect;
 const vcl::TClass& TQELLabel::Class() {
   using T = TQELLabel;
   using namespace vcl;
-  static const TClass info = Describe<T, TCustomLabel>("TQELLabel", "Qeltlabel", {
-      ReadOnly<&T::About>("About"),
-      Inherit("Align"),
-      Inherit("Alignment"),
-      Inherit("Caption"),
-      Inherit("Color"),
-      Inherit("Enabled"),
-      Inherit("FocusControl"),
-      Property<&T::FontBackground, &T::SetBack>("FontBackground"),
-      Inherit("Font"),
-      Property<&T::Font3D, &T::Set3D>("Font3D"),
-      Property<&T::Frame, &T::SetFrm>("Frame"),
-      Property<&T::Background, &T::SetBack2>("Background"),
-      Inherit("Transparent"),
-      Inherit("ShowHint"),
-      Inherit("Visible"),
-      Inherit("WordWrap"),
-      Inherit("OnClick"),
-      Inherit("OnDblClick"),
-      Inherit("OnMouseDown"),
-      Inherit("OnMouseMove"),
-      Inherit("OnMouseUp"),
-      Inherit("OnDragDrop"),
-      Inherit("OnEndDrag"),
-      Inherit("OnStartDrag"),
-      Inherit("OnDragOver"),
-      Inherit("DragCursor"),
-      Inherit("DragMode"),
-      Inherit("ParentColor"),
-      // The constructor gives the label a font of its own, so a form file always says false.
-      Inherit("ParentFont"),
-      Inherit("ShowAccelChar"),
-  });
+  static const TClass info = Describe<T, TCustomLabel>(
+      "TQELLabel", "Qeltlabel",
+      {
+          ReadOnly<&T::About>("About"),
+          Inherit("Align"),
+          Inherit("Alignment"),
+          Inherit("Caption"),
+          Inherit("Color"),
+          Inherit("Enabled"),
+          Inherit("FocusControl"),
+          Property<&T::FontBackground, &T::SetBack>("FontBackground"),
+          Inherit("Font"),
+          Property<&T::Font3D, &T::Set3D>("Font3D"),
+          Property<&T::Frame, &T::SetFrm>("Frame"),
+          Property<&T::Background, &T::SetBack2>("Background"),
+          Inherit("Transparent"),
+          Inherit("ShowHint"),
+          Inherit("Visible"),
+          Inherit("WordWrap"),
+          Inherit("OnClick"),
+          Inherit("OnDblClick"),
+          Inherit("OnMouseDown"),
+          Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),
+          Inherit("OnDragDrop"),
+          Inherit("OnEndDrag"),
+          Inherit("OnStartDrag"),
+          Inherit("OnDragOver"),
+          Inherit("DragCursor"),
+          Inherit("DragMode"),
+          Inherit("ParentColor"),
+          // The constructor gives the label a font of its own, so a form file always says false.
+          Inherit("ParentFont"),
+          Inherit("ShowAccelChar"),
+      });
   return info;
 }
 
@@ -107,8 +109,7 @@ void TQELLabel::PaintGround() {
 void TQELLabel::PaintText() {
   static constexpr unsigned alignments[] = {DT_LEFT, DT_RIGHT, DT_CENTER};
   // "&" marks an accelerator here whatever ShowAccelChar says: DT_NOPREFIX is never added.
-  const unsigned flags =
-      DT_EXPANDTABS | (WordWrap() ? DT_WORDBREAK : 0u) | alignments[Alignment()];
+  const unsigned flags = DT_EXPANDTABS | (WordWrap() ? DT_WORDBREAK : 0u) | alignments[Alignment()];
   // The frame takes from the text at the top, the right and the bottom; at the left the text stays
   // where it is without a frame.
   TRect area = ClientRect();

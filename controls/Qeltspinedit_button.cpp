@@ -27,14 +27,15 @@ const vcl::TClass& TQELCustomSpinButton::Class() {
   using T = TQELCustomSpinButton;
   using namespace vcl;
   static const TClass info = Describe<T, TQELGraphicControl>(
-      "TQELCustomSpinButton", "Qeltspinedit", {
-      Inherit("Enabled"),
-      Inherit("ShowHint"),
-      Event<&T::OnBottomClick>("OnBottomClick"),
-      Event<&T::OnTopClick>("OnTopClick"),
-      Inherit("Color").Default(clBtnFace),
-      Property<&T::ArrowColor, &T::SetArrowColor>("ArrowColor").Default(clBlack),
-  });
+      "TQELCustomSpinButton", "Qeltspinedit",
+      {
+          Inherit("Enabled"),
+          Inherit("ShowHint"),
+          Event<&T::OnBottomClick>("OnBottomClick"),
+          Event<&T::OnTopClick>("OnTopClick"),
+          Inherit("Color").Default(clBtnFace),
+          Property<&T::ArrowColor, &T::SetArrowColor>("ArrowColor").Default(clBlack),
+      });
   return info;
 }
 
@@ -127,8 +128,9 @@ void TQELCustomSpinButton::DrawFace(vcl::TCanvas* canvas) const {
   DrawLines(canvas, vcl::clWindowFrame, {{0, bottom}, {right, bottom}, {right, 0}, {0, bottom}});
 }
 
-// The light comes from the top left. It falls on two edges of the upper half and not on its diagonal;
-// of the lower half it falls on the diagonal only. A pressed half has it the other way round.
+// The light comes from the top left. It falls on two edges of the upper half and not on its
+// diagonal; of the lower half it falls on the diagonal only. A pressed half has it the other way
+// round.
 void TQELCustomSpinButton::DrawBevels(vcl::TCanvas* canvas, TQELButtonState state) const {
   const auto lit = [](bool raised) { return raised ? vcl::clBtnHighlight : vcl::clBtnShadow; };
   const int right = Width() - 2;

@@ -27,51 +27,53 @@ void Beep() { ::MessageBeep(0); }
 const vcl::TClass& TQELCustomSpinEdit::Class() {
   using T = TQELCustomSpinEdit;
   using namespace vcl;
-  static const TClass info = Describe<T, TCustomEdit>("TQELCustomSpinEdit", "Qeltspinedit", {
-      Inherit("AutoSelect"),
-      Inherit("AutoSize"),
-      Inherit("Color"),
-      Inherit("Ctl3D"),
-      Property<&T::ButtonColor, &T::SetButtonColor>("ButtonColor").Default(clBtnFace),
-      Property<&T::ArrowColor, &T::SetArrowColor>("ArrowColor").Default(clBlack),
-      Inherit("DragCursor"),
-      Inherit("DragMode"),
-      Inherit("Enabled"),
-      Inherit("Font"),
-      Inherit("ImeMode"),
-      Inherit("ImeName"),
-      Inherit("MaxLength"),
-      Inherit("ParentColor"),
-      Inherit("ParentCtl3D"),
-      Inherit("ParentFont"),
-      Inherit("ParentShowHint"),
-      Inherit("PopupMenu"),
-      Inherit("ShowHint"),
-      Inherit("TabOrder"),
-      Inherit("TabStop"),
-      Inherit("Visible"),
-      Property<&T::CutandPaste, &T::SetCutandPaste>("CutandPaste").Default(true),
-      Property<&T::LineSize, &T::SetLineSize>("LineSize").Default(1),
-      Property<&T::MaxValue, &T::SetMaxValue>("MaxValue").Default(DefaultMaxValue),
-      Property<&T::MinValue, &T::SetMinValue>("MinValue").Default(DefaultMinValue),
-      Property<&T::MultipleLineSize, &T::SetMultipleLineSize>("MultipleLineSize").Default(10),
-      Property<&T::Readonly, &T::SetReadonly>("Readonly").Default(false),
-      Property<&T::GetValue, &T::SetValue>("Value").Default(0),
-      Inherit("OnChange"),
-      Inherit("OnClick"),
-      Inherit("OnDblClick"),
-      Inherit("OnDragDrop"),
-      Inherit("OnDragOver"),
-      Inherit("OnEndDrag"),
-      Inherit("OnEnter"),
-      Inherit("OnExit"),
-      Inherit("OnKeyDown"),
-      Inherit("OnKeyPress"),
-      Inherit("OnKeyUp"),
-      Inherit("OnMouseDown"),
-      Inherit("OnMouseMove"),
-      Inherit("OnMouseUp"),
-  });
+  static const TClass info = Describe<T, TCustomEdit>(
+      "TQELCustomSpinEdit", "Qeltspinedit",
+      {
+          Inherit("AutoSelect"),
+          Inherit("AutoSize"),
+          Inherit("Color"),
+          Inherit("Ctl3D"),
+          Property<&T::ButtonColor, &T::SetButtonColor>("ButtonColor").Default(clBtnFace),
+          Property<&T::ArrowColor, &T::SetArrowColor>("ArrowColor").Default(clBlack),
+          Inherit("DragCursor"),
+          Inherit("DragMode"),
+          Inherit("Enabled"),
+          Inherit("Font"),
+          Inherit("ImeMode"),
+          Inherit("ImeName"),
+          Inherit("MaxLength"),
+          Inherit("ParentColor"),
+          Inherit("ParentCtl3D"),
+          Inherit("ParentFont"),
+          Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),
+          Inherit("ShowHint"),
+          Inherit("TabOrder"),
+          Inherit("TabStop"),
+          Inherit("Visible"),
+          Property<&T::CutandPaste, &T::SetCutandPaste>("CutandPaste").Default(true),
+          Property<&T::LineSize, &T::SetLineSize>("LineSize").Default(1),
+          Property<&T::MaxValue, &T::SetMaxValue>("MaxValue").Default(DefaultMaxValue),
+          Property<&T::MinValue, &T::SetMinValue>("MinValue").Default(DefaultMinValue),
+          Property<&T::MultipleLineSize, &T::SetMultipleLineSize>("MultipleLineSize").Default(10),
+          Property<&T::Readonly, &T::SetReadonly>("Readonly").Default(false),
+          Property<&T::GetValue, &T::SetValue>("Value").Default(0),
+          Inherit("OnChange"),
+          Inherit("OnClick"),
+          Inherit("OnDblClick"),
+          Inherit("OnDragDrop"),
+          Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),
+          Inherit("OnEnter"),
+          Inherit("OnExit"),
+          Inherit("OnKeyDown"),
+          Inherit("OnKeyPress"),
+          Inherit("OnKeyUp"),
+          Inherit("OnMouseDown"),
+          Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),
+      });
   return info;
 }
 
@@ -178,9 +180,7 @@ void TQELCustomSpinEdit::ClampText() {
 
 void TQELCustomSpinEdit::UpClick(vcl::TObject* /*sender*/) { StepLine(FLineSize); }
 
-void TQELCustomSpinEdit::DownClick(vcl::TObject* /*sender*/) {
-  StepLine(-std::int64_t{FLineSize});
-}
+void TQELCustomSpinEdit::DownClick(vcl::TObject* /*sender*/) { StepLine(-std::int64_t{FLineSize}); }
 
 void TQELCustomSpinEdit::StepLine(std::int64_t difference) {
   ReadOnly() ? Beep() : StepBy(difference);
@@ -206,20 +206,11 @@ void TQELCustomSpinEdit::StepBy(std::int64_t difference) {
 void TQELCustomSpinEdit::KeyDown(std::uint16_t& key, TShiftState shift) {
   TWatch watch(this);
   switch (key) {
-    case VK_PRIOR:
-      StepPage(FMultipleLineSize);
-      break;
-    case VK_NEXT:
-      StepPage(-std::int64_t{FMultipleLineSize});
-      break;
-    case VK_UP:
-      UpClick(this);
-      break;
-    case VK_DOWN:
-      DownClick(this);
-      break;
-    default:
-      break;
+    case VK_PRIOR: StepPage(FMultipleLineSize); break;
+    case VK_NEXT: StepPage(-std::int64_t{FMultipleLineSize}); break;
+    case VK_UP: UpClick(this); break;
+    case VK_DOWN: DownClick(this); break;
+    default: break;
   }
   if (!watch.Gone()) TCustomEdit::KeyDown(key, shift);
 }

@@ -1,6 +1,6 @@
-// The gradients that are the same in every column or in every row: Horizontal, Vertical, MiddleHBar,
-// MiddleVBar, HorizontalDoppelBar and VerticalDoppelBar. One line of colours is computed, and the
-// rows are made from it.
+// The gradients that are the same in every column or in every row: Horizontal, Vertical,
+// MiddleHBar, MiddleVBar, HorizontalDoppelBar and VerticalDoppelBar. One line of colours is
+// computed, and the rows are made from it.
 #include <algorithm>
 #include <cstring>
 #include <vector>
@@ -23,8 +23,8 @@ struct TLineSteps {
   int Band() const { return Round(double(Length) / Pairs) + 1; }
 };
 
-/// From one end to the other. The strips that were asked for reach on, by the pair's own offset, but
-/// what is further than the second next step is always painted over.
+/// From one end to the other. The strips that were asked for reach on, by the pair's own offset,
+/// but what is further than the second next step is always painted over.
 TStrips SweepStrips(const TLineSteps& line, int pair, int step) {
   const int band = line.Band();
   const int from = MulDiv(step, band, line.Colors);
@@ -62,8 +62,8 @@ struct TBars {
   TStrips (*Strips)(const TLineSteps& line, int pair, int step);
 };
 constexpr TBars BarStyles[] = {
-    {Horizontal, true, SweepStrips},         {Vertical, false, SweepStrips},
-    {MiddleHBar, true, MiddleStrips},        {MiddleVBar, false, MiddleStrips},
+    {Horizontal, true, SweepStrips},           {Vertical, false, SweepStrips},
+    {MiddleHBar, true, MiddleStrips},          {MiddleVBar, false, MiddleStrips},
     {HorizontalDoppelBar, true, ThirdsStrips}, {VerticalDoppelBar, false, ThirdsStrips},
 };
 

@@ -10,8 +10,7 @@ namespace {
 /// selected for a change of colour.
 class TDrawing {
  public:
-  TDrawing(const TGradientPlan& plan, TSurface& surface)
-      : FDC(surface.DC()), FSaved(FDC) {
+  TDrawing(const TGradientPlan& plan, TSurface& surface) : FDC(surface.DC()), FSaved(FDC) {
     ::SelectObject(FDC, ::GetStockObject(DC_PEN));
     ::SelectObject(FDC, ::GetStockObject(DC_BRUSH));
     ::SetROP2(FDC, R2_COPYPEN);
@@ -46,8 +45,8 @@ struct TFanLines {
   int To;
 };
 
-/// A step's lines from the edge's band, without those that the steps after it draw over exactly: what
-/// the next step draws begins where this one's band ends.
+/// A step's lines from the edge's band, without those that the steps after it draw over exactly:
+/// what the next step draws begins where this one's band ends.
 TFanLines FanLines(const TGradientPlan& plan, int band, int pair, int step) {
   const bool last = pair == plan.Pairs() - 1 && step == plan.ColorCount - 1;
   const int from = MulDiv(step, band, plan.ColorCount);

@@ -1,8 +1,8 @@
 // The gradients made of rectangles inside each other: LeftBottom and SquareMiddle.
 //
-// While each rectangle lies within the one before, what a pixel shows is the last rectangle that it is
-// in: the earlier one of the last that its column is in and the last that its row is in. So a row is
-// the row of all columns' colours, with the middle replaced by its own colour.
+// While each rectangle lies within the one before, what a pixel shows is the last rectangle that it
+// is in: the earlier one of the last that its column is in and the last that its row is in. So a
+// row is the row of all columns' colours, with the middle replaced by its own colour.
 #include <algorithm>
 #include <cstring>
 #include <vector>

@@ -48,9 +48,9 @@ int LastStepAt(const TGradientPlan& plan, int pair, std::int64_t step, Place pla
   return static_cast<int>(step);
 }
 
-/// Visits the steps of all pairs in the order of painting: `paint(pair, step)`. Where there are many,
-/// those that are hidden at once are left out, so that the number of visits of a pair is bounded by
-/// its share of the area, however many colours are asked for.
+/// Visits the steps of all pairs in the order of painting: `paint(pair, step)`. Where there are
+/// many, those that are hidden at once are left out, so that the number of visits of a pair is
+/// bounded by its share of the area, however many colours are asked for.
 template <class Place, class Paint>
 void ForEachStep(const TGradientPlan& plan, Place place, Paint paint) {
   constexpr int Many = 256;

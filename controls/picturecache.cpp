@@ -45,8 +45,9 @@ TPictureCache::TEntry& TPictureCache::Place(int width, int height) {
 
 void TPictureCache::MakeRoom(std::size_t bytes) {
   const auto used = [this] {
-    return std::accumulate(FEntries.begin(), FEntries.end(), std::size_t{0},
-                           [](std::size_t sum, const TEntry& e) { return sum + e.Surface->Bytes(); });
+    return std::accumulate(
+        FEntries.begin(), FEntries.end(), std::size_t{0},
+        [](std::size_t sum, const TEntry& e) { return sum + e.Surface->Bytes(); });
   };
   while (!FEntries.empty() && (FEntries.size() >= MaxPictures || used() + bytes > MaxBytes)) {
     FEntries.pop_back();

@@ -10,7 +10,8 @@
 namespace qel {
 
 /// Keeps the pictures that a background has painted, one for each size that it is asked for in turn
-/// (its clients' sizes), up to a limit of memory. A picture is known by all that its pixels depend on.
+/// (its clients' sizes), up to a limit of memory. A picture is known by all that its pixels depend
+/// on.
 class TPictureCache {
  public:
   /// Everything that decides how a picture looks, its size included.

@@ -31,16 +31,18 @@ const vcl::TClass& TQELButtonDetails::Class() {
   using T = TQELButtonDetails;
   using namespace vcl;
   // The constructor leaves ShowHint false: form files say so of all details that keep it.
-  static const TClass info = Describe<T, TPersistent>("TQELButtonDetails", "Qelclasses2", {
-      Property<&T::Glyph, &T::Setglyph>("Glyph"),
-      Property<&T::Visible, &T::SetVisible>("Visible").Default(true),
-      Property<&T::Enabled, &T::SetEnabled>("Enabled").Default(true),
-      Property<&T::ConfirmOnPress, &T::SetConfirmOnPress>("ConfirmOnPress").Default(false),
-      Property<&T::ConfirmMessage, &T::SetConfirmMessage>("ConfirmMessage"),
-      Property<&T::Caption, &T::SetCaption>("Caption"),
-      Property<&T::Hint, &T::SetHint>("Hint"),
-      Property<&T::ShowHint, &T::SetSHint>("ShowHint").Default(true),
-  });
+  static const TClass info = Describe<T, TPersistent>(
+      "TQELButtonDetails", "Qelclasses2",
+      {
+          Property<&T::Glyph, &T::Setglyph>("Glyph"),
+          Property<&T::Visible, &T::SetVisible>("Visible").Default(true),
+          Property<&T::Enabled, &T::SetEnabled>("Enabled").Default(true),
+          Property<&T::ConfirmOnPress, &T::SetConfirmOnPress>("ConfirmOnPress").Default(false),
+          Property<&T::ConfirmMessage, &T::SetConfirmMessage>("ConfirmMessage"),
+          Property<&T::Caption, &T::SetCaption>("Caption"),
+          Property<&T::Hint, &T::SetHint>("Hint"),
+          Property<&T::ShowHint, &T::SetSHint>("ShowHint").Default(true),
+      });
   return info;
 }
 

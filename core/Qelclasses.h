@@ -1,5 +1,6 @@
-// What the package's components have in common: their base classes without a window, the enumerations
-// that several of them share, and the settings of three-dimensional text, frames and glyphs.
+// What the package's components have in common: their base classes without a window, the
+// enumerations that several of them share, and the settings of three-dimensional text, frames and
+// glyphs.
 #pragma once
 
 #include "core/Qelcomponent.h"

@@ -30,14 +30,10 @@ constexpr std::string_view Led[] = {
 
 TColor LedColor(char pixel, TColor lamp) {
   switch (pixel) {
-    case 'd':
-      return vcl::clBtnShadow;
-    case 'l':
-      return vcl::clBtnHighlight;
-    case 'g':
-      return vcl::clWhite;
-    default:
-      return lamp;
+    case 'd': return vcl::clBtnShadow;
+    case 'l': return vcl::clBtnHighlight;
+    case 'g': return vcl::clWhite;
+    default: return lamp;
   }
 }
 

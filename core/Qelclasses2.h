@@ -1,5 +1,5 @@
-// The timer on a thread, the settings of a dialog's button, and drawing helpers that several controls
-// share, with what goes with them.
+// The timer on a thread, the settings of a dialog's button, and drawing helpers that several
+// controls share, with what goes with them.
 #pragma once
 
 #include <string>

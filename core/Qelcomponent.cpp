@@ -57,15 +57,16 @@ void TQELExecComponent::DoExec(const std::string& value) {
 }
 
 bool TQELCustomDialog::Execute() {
-  static constexpr UINT Sounds[] = {0, MB_OK, MB_ICONASTERISK, MB_ICONEXCLAMATION, MB_ICONQUESTION,
-                                    MB_ICONHAND};
+  static constexpr UINT Sounds[] = {
+      0, MB_OK, MB_ICONASTERISK, MB_ICONEXCLAMATION, MB_ICONQUESTION, MB_ICONHAND};
   const auto sound = static_cast<std::size_t>(FSound);
   if (FSound != bNone && sound < std::size(Sounds)) ::MessageBeep(Sounds[sound]);
   return false;
 }
 
 const vcl::TClass& TQELAbout::Class() {
-  static const vcl::TClass info = vcl::Describe<TQELAbout, TPersistent>("TQELAbout", "Qelclasses", {});
+  static const vcl::TClass info =
+      vcl::Describe<TQELAbout, TPersistent>("TQELAbout", "Qelclasses", {});
   return info;
 }
 
@@ -86,7 +87,8 @@ const vcl::TClass& TQELExecComponent::Class() {
 const vcl::TClass& TQELCustomDialog::Class() {
   static const vcl::TClass info = vcl::Describe<TQELCustomDialog, TQELExecComponent>(
       "TQELCustomDialog", "Qelclasses",
-      {vcl::Property<&TQELCustomDialog::Sound, &TQELCustomDialog::SetSound>("Sound").Default(bNone)});
+      {vcl::Property<&TQELCustomDialog::Sound, &TQELCustomDialog::SetSound>("Sound").Default(
+          bNone)});
   return info;
 }
 

@@ -1,4 +1,5 @@
-// The base classes of the components without a window, and TQELAbout, which every component carries.
+// The base classes of the components without a window, and TQELAbout, which every component
+// carries.
 #pragma once
 
 #include <memory>
@@ -57,8 +58,8 @@ class QEL_API TQELExecComponent : public TQELComponent {
   std::string FDesignExecute;
 };
 
-/// A component that shows a dialog. Descendants' Execute call the inherited one first, which plays the
-/// sound, and then show theirs.
+/// A component that shows a dialog. Descendants' Execute call the inherited one first, which plays
+/// the sound, and then show theirs.
 class QEL_API TQELCustomDialog : public TQELExecComponent {
  public:
   using TQELExecComponent::TQELExecComponent;

@@ -67,18 +67,20 @@ TQELGraphicControl::TQELGraphicControl(vcl::TComponent* owner)
 TQELGraphicControl::~TQELGraphicControl() = default;
 
 const vcl::TClass& TQELCustomBackground::Class() {
-  static const vcl::TClass info = vcl::Describe<TQELCustomBackground, TQELComponent>(
-      "TQELCustomBackground", "Qelcontrols", {});
+  static const vcl::TClass info =
+      vcl::Describe<TQELCustomBackground, TQELComponent>("TQELCustomBackground", "Qelcontrols", {});
   return info;
 }
 
 const vcl::TClass& TQELCustomControl::Class() {
   using T = TQELCustomControl;
   using namespace vcl;
-  static const TClass info = Describe<T, TWinControl>("TQELCustomControl", "Qelcontrols", {
-      ReadOnly<&T::About>("About").Unpublished(),
-      Property<&T::Background, &T::SetBack>("Background").Type("TQELBackground").Unpublished(),
-  });
+  static const TClass info = Describe<T, TWinControl>(
+      "TQELCustomControl", "Qelcontrols",
+      {
+          ReadOnly<&T::About>("About").Unpublished(),
+          Property<&T::Background, &T::SetBack>("Background").Type("TQELBackground").Unpublished(),
+      });
   return info;
 }
 

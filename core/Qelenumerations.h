@@ -119,13 +119,12 @@ template <>
 inline constexpr TEnumText EnumText<qel::TQELBeeptype>{
     "TQELBeeptype", "bNone bDefault bAsterix bExclamation bQuestion bCriticalStop"};
 template <>
-inline constexpr TEnumText EnumText<qel::TQELAction>{"TQELAction",
-                                                     "appRestoreAndExit appRestore appExit appNone"};
+inline constexpr TEnumText EnumText<qel::TQELAction>{
+    "TQELAction", "appRestoreAndExit appRestore appExit appNone"};
 template <>
 inline constexpr TEnumText EnumText<qel::TQELFaxorMail>{"TQELFaxorMail", "ccMail ccFax"};
 template <>
-inline constexpr TEnumText EnumText<qel::TQELPosition>{"TQELPosition",
-                                                       "pLeft pRight pTop pBottom"};
+inline constexpr TEnumText EnumText<qel::TQELPosition>{"TQELPosition", "pLeft pRight pTop pBottom"};
 template <>
 inline constexpr TEnumText EnumText<qel::TQELStyle3D>{
     "TQELStyle3D", "fontRaised fontInset fontOnlyShadow fontOnlyHighlight fontOutLineShadow"};

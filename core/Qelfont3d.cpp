@@ -11,8 +11,8 @@ namespace qel {
 
 namespace {
 
-/// Draws copies of one text, each at the place that the rectangle has been moved to. They differ only
-/// in their colour, so all else is selected once.
+/// Draws copies of one text, each at the place that the rectangle has been moved to. They differ
+/// only in their colour, so all else is selected once.
 class TTextLayers {
  public:
   TTextLayers(const vcl::TFont* font, HDC dc, const vcl::TRect& rect, const std::string& text,
@@ -80,15 +80,16 @@ class TTextLayers {
     const std::int64_t width = std::int64_t{size.right} - size.left;
     const std::int64_t height = std::int64_t{size.bottom} - size.top;
     const bool line = FFlags & DT_SINGLELINE;
-    const std::int64_t left = Start(FRect.left, FRect.right, width, FFlags & DT_CENTER,
-                                    FFlags & DT_RIGHT);
+    const std::int64_t left =
+        Start(FRect.left, FRect.right, width, FFlags & DT_CENTER, FFlags & DT_RIGHT);
     const std::int64_t top = Start(FRect.top, FRect.bottom, height, line && (FFlags & DT_VCENTER),
                                    line && (FFlags & DT_BOTTOM));
     // Slanted letters reach out of their own box.
     const std::int64_t margin = std::abs(width) + std::abs(height);
     std::int64_t first = 0;
     std::int64_t end = copies;
-    const auto bound = [&](std::int64_t from, std::int64_t to, std::int64_t low, std::int64_t high) {
+    const auto bound = [&](std::int64_t from, std::int64_t to, std::int64_t low,
+                           std::int64_t high) {
       first = std::max(first, direction > 0 ? low - margin - to : from - high - margin);
       end = std::min(end, (direction > 0 ? high + margin - from : to - low + margin) + 1);
     };
@@ -243,18 +244,20 @@ void TQELFont3D::SetHighlight(vcl::TColor color) {
 const vcl::TClass& TQELFont3D::Class() {
   using T = TQELFont3D;
   using namespace vcl;
-  static const TClass info = Describe<T, TGraphicsObject>("TQELFont3D", "Qelclasses", {
-      Property<&T::ThreeDimensional, &T::SetThreeDimensional>("ThreeDimensional").Default(true),
-      Property<&T::Style3D, &T::SetStyle3D>("Style3D").Default(fontOnlyHighlight),
-      Property<&T::Offset, &T::SetOffset>("Offset").Default(1),
-      Property<&T::Repetition, &T::SetRepetition>("Repetition").Default(repeatNone),
-      Property<&T::RepetitionColor, &T::SetRepetitionColor>("RepetitionColor").Default(clBlack),
-      Property<&T::Repetitionwidth, &T::SetRepetitionwidth>("Repetitionwidth").Default(0),
-      Property<&T::MaskFont, &T::SetMaskFont>("MaskFont").Default(true),
-      Property<&T::Shadow, &T::SetShadow>("Shadow").Default(clBtnShadow),
-      Property<&T::Highlight, &T::SetHighlight>("Highlight").Default(clBtnHighlight),
-      ReadOnly<&T::GetDrawingwidth>("DrawingWidth"),
-  });
+  static const TClass info = Describe<T, TGraphicsObject>(
+      "TQELFont3D", "Qelclasses",
+      {
+          Property<&T::ThreeDimensional, &T::SetThreeDimensional>("ThreeDimensional").Default(true),
+          Property<&T::Style3D, &T::SetStyle3D>("Style3D").Default(fontOnlyHighlight),
+          Property<&T::Offset, &T::SetOffset>("Offset").Default(1),
+          Property<&T::Repetition, &T::SetRepetition>("Repetition").Default(repeatNone),
+          Property<&T::RepetitionColor, &T::SetRepetitionColor>("RepetitionColor").Default(clBlack),
+          Property<&T::Repetitionwidth, &T::SetRepetitionwidth>("Repetitionwidth").Default(0),
+          Property<&T::MaskFont, &T::SetMaskFont>("MaskFont").Default(true),
+          Property<&T::Shadow, &T::SetShadow>("Shadow").Default(clBtnShadow),
+          Property<&T::Highlight, &T::SetHighlight>("Highlight").Default(clBtnHighlight),
+          ReadOnly<&T::GetDrawingwidth>("DrawingWidth"),
+      });
   return info;
 }
 

@@ -10,7 +10,8 @@
 namespace qel {
 
 /// How a control's text is drawn: flat, or with copies in the colours of light and shadow, and with
-/// copies that trail from it. Every setter has the owner painted again, also when it refuses a value.
+/// copies that trail from it. Every setter has the owner painted again, also when it refuses a
+/// value.
 class QEL_API TQELFont3D : public vcl::TGraphicsObject {
  public:
   /// `owner` is the control to paint again after a change; it is not owned.
@@ -49,8 +50,8 @@ class QEL_API TQELFont3D : public vcl::TGraphicsObject {
   /// How many pixels more than the plain text the drawing takes, in each direction.
   int GetDrawingwidth() const { return 2 * FOffset + FRepetitionwidth; }
 
-  /// Draws the text in the rectangle, with the flags of DrawTextEx; a disabled one as a grey text on
-  /// a light one. The context's own font, colours and modes stay what they were.
+  /// Draws the text in the rectangle, with the flags of DrawTextEx; a disabled one as a grey text
+  /// on a light one. The context's own font, colours and modes stay what they were.
   void Write(const vcl::TFont* font, HDC dc, const vcl::TRect& rect, const std::string& text,
              unsigned flags, bool enabled) const;
 

@@ -38,15 +38,14 @@ class TQELFrame::TPainter {
   }
 
  private:
-  /// How many of the rings can touch what is seen of the context. The others would only take time, as
-  /// any width may be asked for.
+  /// How many of the rings can touch what is seen of the context. The others would only take time,
+  /// as any width may be asked for.
   int SeenRings(const TRect& rect) const {
     RECT box;
     if (!::GetClipBox(FDC, &box)) return FRings;
-    const std::int64_t reach = std::max({std::int64_t{box.right} - rect.Left,
-                                         std::int64_t{box.bottom} - rect.Top,
-                                         std::int64_t{rect.Right} - box.left,
-                                         std::int64_t{rect.Bottom} - box.top});
+    const std::int64_t reach =
+        std::max({std::int64_t{box.right} - rect.Left, std::int64_t{box.bottom} - rect.Top,
+                  std::int64_t{rect.Right} - box.left, std::int64_t{rect.Bottom} - box.top});
     return static_cast<int>(std::clamp<std::int64_t>(reach + 2, 0, FRings));
   }
 
@@ -178,16 +177,18 @@ void TQELFrame::SetFrameWidth(int width) {
 const vcl::TClass& TQELFrame::Class() {
   using T = TQELFrame;
   using namespace vcl;
-  static const TClass info = Describe<T, TGraphicsObject>("TQELFrame", "Qelclasses", {
-      Property<&T::FrameStyle, &T::SetFrameStyle>("FrameStyle")
-          .Default(frameRaised)
-          .DefaultIf<&T::StyleHasDefault>(),
-      Property<&T::Highlight, &T::SetHighlight>("Highlight").Default(clBtnHighlight),
-      Property<&T::Shadow, &T::SetShadow>("Shadow").Default(clBtnShadow),
-      Property<&T::Solid, &T::SetSolid>("Solid").Default(clBlack),
-      Property<&T::Offset, &T::SetOffset>("Offset").Default(0),
-      Property<&T::FrameWidth, &T::SetFrameWidth>("FrameWidth").Default(1),
-  });
+  static const TClass info = Describe<T, TGraphicsObject>(
+      "TQELFrame", "Qelclasses",
+      {
+          Property<&T::FrameStyle, &T::SetFrameStyle>("FrameStyle")
+              .Default(frameRaised)
+              .DefaultIf<&T::StyleHasDefault>(),
+          Property<&T::Highlight, &T::SetHighlight>("Highlight").Default(clBtnHighlight),
+          Property<&T::Shadow, &T::SetShadow>("Shadow").Default(clBtnShadow),
+          Property<&T::Solid, &T::SetSolid>("Solid").Default(clBlack),
+          Property<&T::Offset, &T::SetOffset>("Offset").Default(0),
+          Property<&T::FrameWidth, &T::SetFrameWidth>("FrameWidth").Default(1),
+      });
   return info;
 }
 

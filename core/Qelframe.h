@@ -7,7 +7,8 @@
 
 namespace qel {
 
-/// A frame of one or two borders, each of so many rings one pixel wide, drawn just inside a rectangle.
+/// A frame of one or two borders, each of so many rings one pixel wide, drawn just inside a
+/// rectangle.
 class QEL_API TQELFrame : public vcl::TGraphicsObject {
  public:
   /// `owner` is the control to paint again after a change; it is not owned.
@@ -35,7 +36,8 @@ class QEL_API TQELFrame : public vcl::TGraphicsObject {
   vcl::TColor Solid() const { return FSolid; }
   void SetSolid(vcl::TColor color);
   int Offset() const { return FOffset; }
-  /// The gap between the two borders of frameFramedUp and frameFramedDown. Takes only values from 0.
+  /// The gap between the two borders of frameFramedUp and frameFramedDown. Takes only values from
+  /// 0.
   void SetOffset(int offset);
   int FrameWidth() const { return FFrameWidth; }
   /// The number of rings of a border. Takes only values above 0.

@@ -32,13 +32,11 @@ void QELGetTriangle(vcl::TCanvas* canvas, int x, int y, bool enabled, bool down,
   pen->SetStyle(vcl::psSolid);
   pen->SetColor(enabled ? color : vcl::clGrayText);
   if (down) {
-    for (int i = 0; i <= size - 2; ++i)
-      Row(canvas, x + i, x + i + 2 * (size - i) - 1, y + i);
+    for (int i = 0; i <= size - 2; ++i) Row(canvas, x + i, x + i + 2 * (size - i) - 1, y + i);
     Row(canvas, x + size - 1, x + size, y + size - 2);
   } else {
     const int center = x + size / 2;
-    for (int i = 0; i < size; ++i)
-      Row(canvas, center - i, center + i + 1, y + i);
+    for (int i = 0; i < size; ++i) Row(canvas, center - i, center + i + 1, y + i);
   }
 }
 

@@ -122,30 +122,20 @@ std::string QELGetPCName() {
 
 std::string QELGetInformationNo(int item) {
   switch (item) {
-    case inOrganization:
-      return WindowsText(L"RegisteredOrganization");
-    case inOwner:
-      return WindowsText(L"RegisteredOwner");
-    case inProgramFiles:
-      return WindowsText(L"ProgramFilesDir");
-    case inSystemRoot:
-      return WindowsText(L"SystemRoot");
-    case inProcessor:
-      return Processor();
-    case inPlatform:
-      return Platform();
-    case inVersion:
-      return VersionText();
+    case inOrganization: return WindowsText(L"RegisteredOrganization");
+    case inOwner: return WindowsText(L"RegisteredOwner");
+    case inProgramFiles: return WindowsText(L"ProgramFilesDir");
+    case inSystemRoot: return WindowsText(L"SystemRoot");
+    case inProcessor: return Processor();
+    case inPlatform: return Platform();
+    case inVersion: return VersionText();
     case inMemorySize:
     case inMemoryFree:
-    case inMemoryLoad:
-      return MemoryText(item);
+    case inMemoryLoad: return MemoryText(item);
     case inDiskSize:
     case inDiskFree:
-    case inDiskLoad:
-      return DiskText(item);
-    default:
-      return {};
+    case inDiskLoad: return DiskText(item);
+    default: return {};
   }
 }
 

@@ -177,13 +177,15 @@ void TQELGlyph::SetTransparent(bool transparent) {
 const vcl::TClass& TQELGlyph::Class() {
   using T = TQELGlyph;
   using namespace vcl;
-  static const TClass info = Describe<T, TGraphicsObject>("TQELGlyph", "Qelclasses", {
-      Property<&T::TransparentColor, &T::SetTransparentColor>("TransparentColor"),
-      Property<&T::Bitmap, &T::SetBitmap>("Bitmap"),
-      Property<&T::Visible, &T::SetVisible>("Visible").Default(true),
-      Property<&T::NumGlyphs, &T::SetNumGlyphs>("NumGlyphs").Default(0),
-      Property<&T::Transparent, &T::SetTransparent>("Transparent").Default(true),
-  });
+  static const TClass info = Describe<T, TGraphicsObject>(
+      "TQELGlyph", "Qelclasses",
+      {
+          Property<&T::TransparentColor, &T::SetTransparentColor>("TransparentColor"),
+          Property<&T::Bitmap, &T::SetBitmap>("Bitmap"),
+          Property<&T::Visible, &T::SetVisible>("Visible").Default(true),
+          Property<&T::NumGlyphs, &T::SetNumGlyphs>("NumGlyphs").Default(0),
+          Property<&T::Transparent, &T::SetTransparent>("Transparent").Default(true),
+      });
   return info;
 }
 

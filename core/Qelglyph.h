@@ -25,9 +25,9 @@ class QEL_API TQELGlyph : public vcl::TGraphicsObject {
   vcl::TColor TransparentColor() const { return FTransparentColor; }
   void SetTransparentColor(vcl::TColor color);
   vcl::TBitmap* Bitmap() const { return FBitmap.get(); }
-  /// Copies the bitmap; null for none. In the form designer the number of images (1 when it would be
-  /// above 4) follows from the size if that is a row of squares, and the transparent colour is that
-  /// of the lower left pixel.
+  /// Copies the bitmap; null for none. In the form designer the number of images (1 when it would
+  /// be above 4) follows from the size if that is a row of squares, and the transparent colour is
+  /// that of the lower left pixel.
   void SetBitmap(const vcl::TBitmap* bitmap);
   bool Visible() const { return FVisible; }
   void SetVisible(bool visible);
@@ -40,11 +40,11 @@ class QEL_API TQELGlyph : public vcl::TGraphicsObject {
   /// The size of one image in pixels; 0 when there is none.
   int GetWidth() const;
   int GetHeight() const;
-  /// Draws the image for the state at (x, y). A disabled glyph is always greyed, also when the strip
-  /// has an image for it; `grayed` greys the first image of an enabled one.
+  /// Draws the image for the state at (x, y). A disabled glyph is always greyed, also when the
+  /// strip has an image for it; `grayed` greys the first image of an enabled one.
   void Draw(vcl::TCanvas* canvas, int x, int y, bool enabled, bool down, bool grayed) const;
-  /// Turns a bitmap's colours, save the transparent one, into those of a button's face, from black to
-  /// light: the more of them into dark ones, the higher the level. `color` is not used.
+  /// Turns a bitmap's colours, save the transparent one, into those of a button's face, from black
+  /// to light: the more of them into dark ones, the higher the level. `color` is not used.
   void DrawGrayed(vcl::TBitmap& bitmap, vcl::TColor color, int level) const;
 
   /// Has the owner painted again when it is a control. Called by OnChange, until that is set to

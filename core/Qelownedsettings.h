@@ -10,8 +10,9 @@ namespace qel {
 /// Has the owner of a settings object painted again, if it is a control.
 void InvalidateOwner(vcl::TObject* owner);
 
-/// Puts settings in the place of those that a control has, which are freed, and has it painted again.
-/// Null is ignored. Settings that another control owns are copied instead, as they end with it.
+/// Puts settings in the place of those that a control has, which are freed, and has it painted
+/// again. Null is ignored. Settings that another control owns are copied instead, as they end with
+/// it.
 template <class Settings>
 void TakeOver(std::unique_ptr<Settings>& field, Settings* settings, vcl::TObject* owner) {
   if (!settings || settings == field.get()) return;

@@ -10,12 +10,14 @@ const vcl::TClass& TQELTimer32::Class() {
   using namespace vcl;
   // The constructor sets another priority than the declared one: form files say so of every timer
   // that keeps it, and reading it there is what starts a timer whose event has been read before.
-  static const TClass info = Describe<T, TQELComponent>("TQELTimer32", "Qelclasses2", {
-      Property<&T::Enabled, &T::SetEnabled>("Enabled").Default(true),
-      Property<&T::Interval, &T::SetInterval>("Interval").Default(1000),
-      Event<&T::OnTimer>("OnTimer"),
-      Property<&T::Priority, &T::SetThreadPriority>("Priority").Default(tpNormal),
-  });
+  static const TClass info = Describe<T, TQELComponent>(
+      "TQELTimer32", "Qelclasses2",
+      {
+          Property<&T::Enabled, &T::SetEnabled>("Enabled").Default(true),
+          Property<&T::Interval, &T::SetInterval>("Interval").Default(1000),
+          Event<&T::OnTimer>("OnTimer"),
+          Property<&T::Priority, &T::SetThreadPriority>("Priority").Default(tpNormal),
+      });
   return info;
 }
 

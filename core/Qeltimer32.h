@@ -12,14 +12,15 @@ namespace qel {
 
 class TQELThread;
 
-/// Fires OnTimer in the main thread, again and again: after each interval, which begins when the event
-/// before it has been handled. It runs while it is enabled, has an interval and OnTimer is assigned;
-/// which is looked at when one of Enabled, Interval and Priority is set, and only then: assigning
-/// OnTimer alone does not start it.
+/// Fires OnTimer in the main thread, again and again: after each interval, which begins when the
+/// event before it has been handled. It runs while it is enabled, has an interval and OnTimer is
+/// assigned; which is looked at when one of Enabled, Interval and Priority is set, and only then:
+/// assigning OnTimer alone does not start it.
 ///
-/// A timer that is stopped in the middle of an interval has the rest of it ahead when it goes on, and
-/// one that is stopped while its event waits for the main thread fires it then. What OnTimer raises
-/// goes to the application, and the timer goes on. The handler may change the timer, or free it.
+/// A timer that is stopped in the middle of an interval has the rest of it ahead when it goes on,
+/// and one that is stopped while its event waits for the main thread fires it then. What OnTimer
+/// raises goes to the application, and the timer goes on. The handler may change the timer, or free
+/// it.
 class QEL_API TQELTimer32 : public TQELComponent {
  public:
   explicit TQELTimer32(vcl::TComponent* owner);

@@ -17,9 +17,9 @@ using namespace qel;
 void Register() {
   vcl::RegisterClasses({&TQELFont3D::Class(), &TQELGradient::Class(), &TQELTexture::Class(),
                         &TQELFrame::Class(), &TQELButtonDetails::Class(), &TQELAbout::Class()});
-  vcl::RegisterComponents("QEL Controls/1", {&TQELBackground::Class(), &TQELLabel::Class(),
-                                             &TQELButton::Class(), &TQELGauge::Class(),
-                                             &TQELHint::Class()});
+  vcl::RegisterComponents("QEL Controls/1",
+                          {&TQELBackground::Class(), &TQELLabel::Class(), &TQELButton::Class(),
+                           &TQELGauge::Class(), &TQELHint::Class()});
   vcl::RegisterComponents("QEL Controls/2", {&TQELSpinEdit::Class()});
   vcl::RegisterComponents("QEL System/2", {&TQELTimer32::Class()});
 }

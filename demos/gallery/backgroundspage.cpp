@@ -15,8 +15,7 @@ namespace {
 void CheckColors(const std::string& lines) {
   TStringList colors;
   colors.SetText(lines);
-  for (int i = 0; i < colors.Count(); ++i)
-    StringToColor(colors.Strings(i));
+  for (int i = 0; i < colors.Count(); ++i) StringToColor(colors.Strings(i));
 }
 
 const std::vector<TSetting> BackgroundSettings = {

@@ -24,8 +24,7 @@ int TakeScreenshots(TGalleryForm& form, const char* folder) {
   form.Free();
   Application()->OnException.Clear();
   if (!failure.empty()) throw vcl::Exception(failure);
-  for (const auto& name : names)
-    std::printf("%s\n", name.c_str());
+  for (const auto& name : names) std::printf("%s\n", name.c_str());
   return 0;
 }
 

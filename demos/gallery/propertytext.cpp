@@ -91,14 +91,10 @@ void SetPropertyText(const TPropertyRef& ref, const std::string& text, const TCo
 std::vector<std::string> PropertyChoices(const TPropertyRef& ref, const TComponent& root) {
   switch (ref.Property->Kind()) {
     case TTypeKind::Enumeration:
-    case TTypeKind::Boolean:
-      return EnumNames(*ref.Property->Type);
-    case TTypeKind::Color:
-      return ColorNames();
-    case TTypeKind::Component:
-      return ComponentNames(ref.Property->Type->ClassOf(), root);
-    default:
-      return {};
+    case TTypeKind::Boolean: return EnumNames(*ref.Property->Type);
+    case TTypeKind::Color: return ColorNames();
+    case TTypeKind::Component: return ComponentNames(ref.Property->Type->ClassOf(), root);
+    default: return {};
   }
 }
 

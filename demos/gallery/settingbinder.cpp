@@ -73,12 +73,10 @@ void TSettingBinder::SetChangeEvent(TWinControl& control, const TNotifyEvent& ev
 
 void TSettingBinder::SetTargets(std::vector<TComponent*> targets) {
   for (TComponent* target : targets)
-    for (const TBinding& binding : FBindings)
-      FindProperty(*target, binding.Setting.Path);
+    for (const TBinding& binding : FBindings) FindProperty(*target, binding.Setting.Path);
   FTargets = std::move(targets);
   if (FTargets.empty()) return;
-  for (TBinding& binding : FBindings)
-    FillChoices(binding);
+  for (TBinding& binding : FBindings) FillChoices(binding);
   Refresh();
 }
 
@@ -91,8 +89,7 @@ void TSettingBinder::FillChoices(TBinding& binding) {
 }
 
 void TSettingBinder::Refresh() {
-  for (TBinding& binding : FBindings)
-    Show(binding);
+  for (TBinding& binding : FBindings) Show(binding);
 }
 
 void TSettingBinder::Show(TBinding& binding) {

@@ -1,4 +1,5 @@
-// The page of spin edits: the settings of one of them, and a gauge that shows where its value stands.
+// The page of spin edits: the settings of one of them, and a gauge that shows where its value
+// stands.
 #include "demos/gallery/galleryform.h"
 
 namespace gallery {

@@ -22,9 +22,9 @@ Proc EntryPoint(void* module, const char* name) {
 
 bool LiesIn(const void* module, const TClass* aClass) {
   HMODULE holder = nullptr;
-  ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
-                           GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<LPCSTR>(aClass), &holder);
+  ::GetModuleHandleExA(
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+      reinterpret_cast<LPCSTR>(aClass), &holder);
   return holder == module;
 }
 
@@ -42,10 +42,9 @@ EPackageError::~EPackageError() = default;
 
 TPackage::TPackage(const std::string& fileName) : FFileName(fileName) {
   // Its own folder is searched for the DLLs that it needs.
-  FModule = ::LoadLibraryExW(ToUtf16(fileName).c_str(), nullptr,
-                             fileName.find_first_of("/\\") == std::string::npos
-                                 ? 0
-                                 : LOAD_WITH_ALTERED_SEARCH_PATH);
+  FModule = ::LoadLibraryExW(
+      ToUtf16(fileName).c_str(), nullptr,
+      fileName.find_first_of("/\\") == std::string::npos ? 0 : LOAD_WITH_ALTERED_SEARCH_PATH);
   if (!FModule) {
     throw EPackageError(
         Concat("The package ", fileName, " cannot be loaded: ", os::LastErrorText()));
@@ -85,11 +84,9 @@ std::vector<const TClass*> TPackage::Classes() const {
   std::vector<const TClass*> classes;
   const auto list = EntryPoint<TListClassesProc>(FModule, "ListClasses");
   if (!list) return classes;
-  list(
-      [](const TClass& aClass, void* context) {
-        static_cast<std::vector<const TClass*>*>(context)->push_back(&aClass);
-      },
-      &classes);
+  list([](const TClass& aClass,
+          void* context) { static_cast<std::vector<const TClass*>*>(context)->push_back(&aClass); },
+       &classes);
   return classes;
 }
 

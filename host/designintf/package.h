@@ -26,8 +26,9 @@ using TListClassesProc = void (*)(void (*each)(const TClass& aClass, void* conte
 /// classes must have ended before.
 class VCL_API TPackage {
  public:
-  /// Loads the DLL and calls its registration entry point. Raises EPackageError when the file cannot
-  /// be loaded, has no such entry point, or its registration fails; nothing stays registered then.
+  /// Loads the DLL and calls its registration entry point. Raises EPackageError when the file
+  /// cannot be loaded, has no such entry point, or its registration fails; nothing stays registered
+  /// then.
   explicit TPackage(const std::string& fileName);
   ~TPackage();
   TPackage(const TPackage&) = delete;

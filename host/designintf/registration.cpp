@@ -18,8 +18,9 @@ void RegisterComponents(const std::string& page, std::initializer_list<const TCl
   if (page.empty()) throw EComponentError("A palette page needs a name");
   for (const TClass* each : classes) {
     if (each->Maker().Component) continue;
-    throw EComponentError(Concat(each->Name(), " cannot be put on the palette: it is no component "
-                                               "that can be made by name"));
+    throw EComponentError(Concat(each->Name(),
+                                 " cannot be put on the palette: it is no component "
+                                 "that can be made by name"));
   }
   RegisterClasses(classes);
   detail::Palette().push_back({page, classes});

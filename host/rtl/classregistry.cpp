@@ -25,8 +25,7 @@ void RegisterClass(const TClass& aClass) {
 }
 
 void RegisterClasses(std::initializer_list<const TClass*> classes) {
-  for (const TClass* each : classes)
-    RegisterClass(*each);
+  for (const TClass* each : classes) RegisterClass(*each);
 }
 
 void UnRegisterClass(const TClass& aClass) {
@@ -45,8 +44,7 @@ const TClass& FindClass(std::string_view name) {
 
 std::vector<const TClass*> RegisteredClasses() {
   std::vector<const TClass*> classes;
-  for (const auto& [name, each] : Registry())
-    classes.push_back(each);
+  for (const auto& [name, each] : Registry()) classes.push_back(each);
   return classes;
 }
 

@@ -54,8 +54,7 @@ TCollection::TCollection(const TClass& itemClass) : FItemClass(itemClass) {
 TCollection::~TCollection() {
   OnUpdate = nullptr;
   FUpdateCount = 1;
-  while (!FItems.empty())
-    delete FItems.back();
+  while (!FItems.empty()) delete FItems.back();
 }
 
 void TCollection::CheckIndex(int index, int count) const {
@@ -86,8 +85,7 @@ void TCollection::Delete(int index) { delete Items(index); }
 
 void TCollection::Clear() {
   BeginUpdate();
-  while (!FItems.empty())
-    delete FItems.back();
+  while (!FItems.empty()) delete FItems.back();
   EndUpdate();
 }
 
@@ -108,8 +106,7 @@ void TCollection::Assign(const TPersistent* source) {
   }
   BeginUpdate();
   Clear();
-  for (auto& copy : copies)
-    Attach(copy.release());
+  for (auto& copy : copies) Attach(copy.release());
   EndUpdate();
 }
 

@@ -63,14 +63,15 @@ class VCL_API TCollection : public TPersistent {
   void Delete(int index);
   void Clear();
   TCollectionItem* FindItemID(int id) const;
-  /// Replaces the items by copies of another collection's. Raises EConvertError, and keeps its items,
-  /// when an item cannot be copied.
+  /// Replaces the items by copies of another collection's. Raises EConvertError, and keeps its
+  /// items, when an item cannot be copied.
   void Assign(const TPersistent* source) override;
   /// Between the two, Update is not called; after the last EndUpdate it is called once, if anything
   /// changed.
   void BeginUpdate() { ++FUpdateCount; }
   void EndUpdate();
-  /// Called after changes, with the changed item or null for the whole list. Unassigned it does nothing.
+  /// Called after changes, with the changed item or null for the whole list. Unassigned it does
+  /// nothing.
   std::function<void(TCollectionItem*)> OnUpdate;
 
  protected:

@@ -72,8 +72,7 @@ TColor StringToColor(std::string_view text) {
 }
 
 void GetColorValues(const std::function<void(const std::string&)>& each) {
-  for (const TNamedColor& color : Palette)
-    each(std::string(color.Name));
+  for (const TNamedColor& color : Palette) each(std::string(color.Name));
 }
 
 }  // namespace vcl

@@ -12,7 +12,8 @@
 
 namespace vcl {
 
-/// A colour: 0x00BBGGRR, or 0xFF000000 + n for the system colour of index n (GetSysColor), or clNone.
+/// A colour: 0x00BBGGRR, or 0xFF000000 + n for the system colour of index n (GetSysColor), or
+/// clNone.
 enum TColor : std::int32_t {
   clBlack = 0x000000,
   clMaroon = 0x000080,

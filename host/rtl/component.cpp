@@ -53,8 +53,7 @@ void TComponent::AnnounceEnd() {
 
 void TComponent::MarkDestroying() {
   Include(csDestroying);
-  for (TComponent* component : FComponents)
-    component->MarkDestroying();
+  for (TComponent* component : FComponents) component->MarkDestroying();
 }
 
 void TComponent::SetName(const std::string& name) {
@@ -122,14 +121,12 @@ void TComponent::RemoveComponent(TComponent* component) {
 }
 
 void TComponent::DestroyComponents() {
-  while (!FComponents.empty())
-    delete FComponents.back();
+  while (!FComponents.empty()) delete FComponents.back();
 }
 
 void TComponent::SetDesigning(bool designing) {
   designing ? Include(csDesigning) : Exclude(csDesigning);
-  for (TComponent* component : FComponents)
-    component->SetDesigning(designing);
+  for (TComponent* component : FComponents) component->SetDesigning(designing);
 }
 
 void TComponent::FreeNotification(TComponent* component) {
@@ -183,8 +180,7 @@ TWatch::~TWatch() {
   if (!FComponent) return;
   // Watches end in the opposite order of their making, save across coroutines, which nobody uses.
   TWatch** link = &FComponent->FWatches;
-  while (*link != this)
-    link = &(*link)->FNext;
+  while (*link != this) link = &(*link)->FNext;
   *link = FNext;
 }
 

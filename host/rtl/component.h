@@ -18,11 +18,11 @@ using TOperation::opInsert;
 using TOperation::opRemove;
 
 enum TComponentStateValue {
-  csLoading,      ///< Being read from a form file; Loaded has not been called.
-  csReading,      ///< A property is being read.
-  csWriting,      ///< Being written to a form file.
-  csDestroying,   ///< Being destroyed.
-  csDesigning,    ///< On a form in the designer.
+  csLoading,         ///< Being read from a form file; Loaded has not been called.
+  csReading,         ///< A property is being read.
+  csWriting,         ///< Being written to a form file.
+  csDestroying,      ///< Being destroyed.
+  csDesigning,       ///< On a form in the designer.
   csDesignInstance,  ///< The root of what the designer edits.
 };
 using TComponentState = TSet<TComponentStateValue>;
@@ -33,20 +33,21 @@ class TWatch;
 /// A component: it has a name, unique among its owner's; it owns other components, which it frees;
 /// and it hears when a component that it links to is freed.
 ///
-/// A class that others link to calls `AnnounceEnd` first thing in its destructor, while it is whole.
+/// A class that others link to calls `AnnounceEnd` first thing in its destructor, while it is
+/// whole.
 class VCL_API TComponent : public TPersistent {
  public:
   /// Joins the owner's components, at the end; null for a component that the caller frees.
   explicit TComponent(TComponent* owner);
-  /// Tells all that asked (`FreeNotification`) and the owner's other components, frees the components
-  /// that it owns, last one first, and leaves its owner.
+  /// Tells all that asked (`FreeNotification`) and the owner's other components, frees the
+  /// components that it owns, last one first, and leaves its owner.
   ~TComponent() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
   const std::string& Name() const { return FName; }
-  /// Raises EComponentError for a text that is no identifier or a name that another component of the
-  /// owner has, compared without case. An empty name is allowed and may stand many times.
+  /// Raises EComponentError for a text that is no identifier or a name that another component of
+  /// the owner has, compared without case. An empty name is allowed and may stand many times.
   virtual void SetName(const std::string& name);
   TComponent* Owner() const { return FOwner; }
   std::intptr_t Tag() const { return FTag; }

@@ -23,16 +23,16 @@ class VCL_API TCustomApplication : public TComponent {
   virtual void SetTitle(const std::string& title) { FTitle = title; }
   /// The full name of the executable.
   std::string ExeName() const;
-  /// Handles the waiting messages of the calling thread's queue: all of them, unless threads call the
-  /// main thread without end. Here: nothing waits.
+  /// Handles the waiting messages of the calling thread's queue: all of them, unless threads call
+  /// the main thread without end. Here: nothing waits.
   virtual void ProcessMessages() {}
   /// Shows the error to the user; shows nothing for EAbort. Here: one line on standard error. Never
   /// raises.
   virtual void HandleException(TObject* sender, const std::exception& error);
   /// Like HandleException, for the exception being handled in a catch block, whatever its type.
   void HandleCurrentException(TObject* sender);
-  /// Shows a text in a box and returns the button's number as the system's MessageBox does. Here: the
-  /// text goes to standard error and the answer is 1 (OK).
+  /// Shows a text in a box and returns the button's number as the system's MessageBox does. Here:
+  /// the text goes to standard error and the answer is 1 (OK).
   virtual int MessageBox(const std::string& text, const std::string& caption, int flags);
   /// True when the program has been asked to end.
   bool Terminated() const { return FTerminated; }

@@ -47,8 +47,7 @@ year_month_day Calendar(int date) { return DayZero + days(date); }
 
 std::string Numbers(std::initializer_list<int> values, std::string_view separator) {
   std::string text;
-  for (int value : values)
-    text.append(text.empty() ? "" : separator).append(IntToStr(value));
+  for (int value : values) text.append(text.empty() ? "" : separator).append(IntToStr(value));
   return text;
 }
 

@@ -55,8 +55,7 @@ class TDatePrinter {
     FHalfDays = AsksForHalfDay(format);
     FBehindHour = false;
     std::string text;
-    while (!format.empty())
-      text += Take(format);
+    while (!format.empty()) text += Take(format);
     return text;
   }
 
@@ -90,30 +89,18 @@ class TDatePrinter {
     const bool minutes = FBehindHour && letter == 'm' && count <= 2;
     if (letter >= 'a' && letter <= 'z') FBehindHour = letter == 'h';
     switch (minutes ? 'n' : letter) {
-      case 'd':
-        return Day(count);
-      case 'm':
-        return Month(count);
-      case 'y':
-        return count > 2 ? Number(FYear, 4) : Number(FYear % 100, 2);
-      case 'h':
-        return Number(FHalfDays ? (FHour + 11) % 12 + 1 : FHour, std::min(count, 2));
-      case 'n':
-        return Number(FMinute, std::min(count, 2));
-      case 's':
-        return Number(FSecond, std::min(count, 2));
-      case 'z':
-        return Number(FMillisecond, count < 3 ? 1 : 3);
-      case 't':
-        return Setting(count == 1 ? FSettings.ShortTimeFormat : FSettings.LongTimeFormat);
-      case 'c':
-        return DateAndTime();
-      case '/':
-        return Repeated(FSettings.DateSeparator, count);
-      case ':':
-        return Repeated(FSettings.TimeSeparator, count);
-      default:
-        return std::string(run);
+      case 'd': return Day(count);
+      case 'm': return Month(count);
+      case 'y': return count > 2 ? Number(FYear, 4) : Number(FYear % 100, 2);
+      case 'h': return Number(FHalfDays ? (FHour + 11) % 12 + 1 : FHour, std::min(count, 2));
+      case 'n': return Number(FMinute, std::min(count, 2));
+      case 's': return Number(FSecond, std::min(count, 2));
+      case 'z': return Number(FMillisecond, count < 3 ? 1 : 3);
+      case 't': return Setting(count == 1 ? FSettings.ShortTimeFormat : FSettings.LongTimeFormat);
+      case 'c': return DateAndTime();
+      case '/': return Repeated(FSettings.DateSeparator, count);
+      case ':': return Repeated(FSettings.TimeSeparator, count);
+      default: return std::string(run);
     }
   }
 
@@ -125,8 +112,7 @@ class TDatePrinter {
 
   static std::string Repeated(const std::string& piece, int count) {
     std::string text;
-    while (count-- > 0)
-      text += piece;
+    while (count-- > 0) text += piece;
     return text;
   }
 
@@ -138,16 +124,11 @@ class TDatePrinter {
   std::string Day(int count) {
     switch (count) {
       case 1:
-      case 2:
-        return Number(FDay, count);
-      case 3:
-        return Name(FSettings.ShortDayNames, FDayOfWeek);
-      case 4:
-        return Name(FSettings.LongDayNames, FDayOfWeek);
-      case 5:
-        return Setting(FSettings.ShortDateFormat);
-      default:
-        return Setting(FSettings.LongDateFormat);
+      case 2: return Number(FDay, count);
+      case 3: return Name(FSettings.ShortDayNames, FDayOfWeek);
+      case 4: return Name(FSettings.LongDayNames, FDayOfWeek);
+      case 5: return Setting(FSettings.ShortDateFormat);
+      default: return Setting(FSettings.LongDateFormat);
     }
   }
 

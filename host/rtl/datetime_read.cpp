@@ -40,8 +40,7 @@ class TScanner {
 
  private:
   void SkipBlanks() {
-    while (AtBlank())
-      FRest.remove_prefix(1);
+    while (AtBlank()) FRest.remove_prefix(1);
   }
 
   std::string_view FRest;

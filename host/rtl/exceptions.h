@@ -19,11 +19,11 @@ class VCL_API Exception : public std::runtime_error {
 };
 
 // NOLINTBEGIN(bugprone-macro-parentheses): the arguments are class names.
-#define VCL_EXCEPTION(name, base) \
+#define VCL_EXCEPTION(name, base)    \
   class VCL_API name : public base { \
-   public: \
-    using base::base; \
-    ~name() override; \
+   public:                           \
+    using base::base;                \
+    ~name() override;                \
   }
 // NOLINTEND(bugprone-macro-parentheses)
 

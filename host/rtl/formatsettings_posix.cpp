@@ -93,8 +93,7 @@ void Take(std::string& setting, const std::string& text) {
 
 template <std::size_t Size>
 void TakeNames(std::array<std::string, Size>& names, const TUserLocale& locale, nl_item first) {
-  for (std::size_t i = 0; i < Size; ++i)
-    Take(names[i], locale.Text(first + static_cast<int>(i)));
+  for (std::size_t i = 0; i < Size; ++i) Take(names[i], locale.Text(first + static_cast<int>(i)));
 }
 
 }  // namespace

@@ -44,8 +44,7 @@ void Take(std::string& setting, const std::string& text) {
 
 template <std::size_t Size>
 void TakeNames(std::array<std::string, Size>& names, LCTYPE first) {
-  for (std::size_t i = 0; i < Size; ++i)
-    Take(names[i], LocaleText(first + static_cast<LCTYPE>(i)));
+  for (std::size_t i = 0; i < Size; ++i) Take(names[i], LocaleText(first + static_cast<LCTYPE>(i)));
 }
 
 /// The system's weeks begin on Monday.

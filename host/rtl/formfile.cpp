@@ -52,9 +52,8 @@ bool IsBinaryForm(std::string_view bytes) { return bytes.starts_with(FormSignatu
 
 TComponent* ReadComponentFile(TStream& stream, TComponent* root, const std::string& name) {
   TComponent* read = nullptr;
-  Naming(name, [&] {
-    WithReader(stream, [&](TReader& reader) { read = reader.ReadRootFile(root); });
-  });
+  Naming(name,
+         [&] { WithReader(stream, [&](TReader& reader) { read = reader.ReadRootFile(root); }); });
   return read;
 }
 
@@ -85,8 +84,7 @@ void WriteComponentsText(TStream& stream, const std::vector<TComponent*>& compon
                          TComponent* root) {
   TMemoryStream binary;
   TWriter writer(binary);
-  for (TComponent* component : components)
-    writer.WriteComponent(component, root);
+  for (TComponent* component : components) writer.WriteComponent(component, root);
   binary.SetPosition(0);
   if (!components.empty()) ObjectBinaryToText(binary, stream);
 }

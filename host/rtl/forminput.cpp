@@ -12,33 +12,22 @@ namespace {
 
 std::string_view SortName(TValueType sort) {
   switch (sort) {
-    case TValueType::vaNull:
-      return "the end of a list";
-    case TValueType::vaList:
-      return "a list";
+    case TValueType::vaNull: return "the end of a list";
+    case TValueType::vaList: return "a list";
     case TValueType::vaInt8:
     case TValueType::vaInt16:
     case TValueType::vaInt32:
-    case TValueType::vaInt64:
-      return "an integer";
+    case TValueType::vaInt64: return "an integer";
     case TValueType::vaString:
-    case TValueType::vaLString:
-      return "a string";
-    case TValueType::vaIdent:
-      return "an identifier";
+    case TValueType::vaLString: return "a string";
+    case TValueType::vaIdent: return "an identifier";
     case TValueType::vaFalse:
-    case TValueType::vaTrue:
-      return "a boolean";
-    case TValueType::vaBinary:
-      return "binary data";
-    case TValueType::vaSet:
-      return "a set";
-    case TValueType::vaNil:
-      return "nil";
-    case TValueType::vaCollection:
-      return "a collection";
-    case TValueType::vaDouble:
-      return "a floating point number";
+    case TValueType::vaTrue: return "a boolean";
+    case TValueType::vaBinary: return "binary data";
+    case TValueType::vaSet: return "a set";
+    case TValueType::vaNil: return "nil";
+    case TValueType::vaCollection: return "a collection";
+    case TValueType::vaDouble: return "a floating point number";
   }
   return {};
 }
@@ -144,16 +133,11 @@ std::string TFormInput::ReadName() {
 std::int64_t TFormInput::ReadInteger() {
   const TValueType sort = TakeSort();
   switch (sort) {
-    case TValueType::vaInt8:
-      return Number<std::int8_t>();
-    case TValueType::vaInt16:
-      return Number<std::int16_t>();
-    case TValueType::vaInt32:
-      return Number<std::int32_t>();
-    case TValueType::vaInt64:
-      return Number<std::int64_t>();
-    default:
-      FailSort("an integer", sort);
+    case TValueType::vaInt8: return Number<std::int8_t>();
+    case TValueType::vaInt16: return Number<std::int16_t>();
+    case TValueType::vaInt32: return Number<std::int32_t>();
+    case TValueType::vaInt64: return Number<std::int64_t>();
+    default: FailSort("an integer", sort);
   }
 }
 
@@ -199,41 +183,29 @@ std::string_view TFormInput::ReadBinary() {
 
 void TFormInput::SkipValue() {
   switch (const TValueType sort = NextValue()) {
-    case TValueType::vaList:
-      return SkipList();
-    case TValueType::vaCollection:
-      return SkipCollection();
+    case TValueType::vaList: return SkipList();
+    case TValueType::vaCollection: return SkipCollection();
     case TValueType::vaInt8:
     case TValueType::vaInt16:
     case TValueType::vaInt32:
-    case TValueType::vaInt64:
-      return static_cast<void>(ReadInteger());
-    case TValueType::vaDouble:
-      return static_cast<void>(ReadFloat());
+    case TValueType::vaInt64: return static_cast<void>(ReadInteger());
+    case TValueType::vaDouble: return static_cast<void>(ReadFloat());
     case TValueType::vaString:
-    case TValueType::vaLString:
-      return static_cast<void>(ReadString());
-    case TValueType::vaIdent:
-      return static_cast<void>(ReadIdent());
-    case TValueType::vaSet:
-      return static_cast<void>(ReadSet());
-    case TValueType::vaBinary:
-      return static_cast<void>(ReadBinary());
+    case TValueType::vaLString: return static_cast<void>(ReadString());
+    case TValueType::vaIdent: return static_cast<void>(ReadIdent());
+    case TValueType::vaSet: return static_cast<void>(ReadSet());
+    case TValueType::vaBinary: return static_cast<void>(ReadBinary());
     case TValueType::vaFalse:
     case TValueType::vaTrue:
-    case TValueType::vaNil:
-      return static_cast<void>(TakeSort());
-    default:
-      FMark = FPosition;
-      FailSort("a value", sort);
+    case TValueType::vaNil: return static_cast<void>(TakeSort());
+    default: FMark = FPosition; FailSort("a value", sort);
   }
 }
 
 void TFormInput::SkipList() {
   const TLevel level(*this);
   Take(TValueType::vaList);
-  while (!EndOfList())
-    SkipValue();
+  while (!EndOfList()) SkipValue();
   Take(TValueType::vaNull);
 }
 

@@ -83,8 +83,7 @@ void TFormLexer::ReadNumber() {
   std::size_t size = sign;
   bool isFloat = false;
   const auto digits = [&] {
-    while (IsDigit(Peek(size)))
-      ++size;
+    while (IsDigit(Peek(size))) ++size;
   };
   digits();
   if (Peek(size) == '.' && IsDigit(Peek(size + 1))) {
@@ -107,8 +106,7 @@ void TFormLexer::ReadNumber() {
 
 void TFormLexer::ReadHexNumber(std::size_t sign) {
   std::size_t size = sign + 1;
-  while (IsIdentPart(Peek(size)))
-    ++size;
+  while (IsIdentPart(Peek(size))) ++size;
   FText = FSource.substr(FPosition, size);
   FPosition += size;
   FToken = TFormToken::Integer;

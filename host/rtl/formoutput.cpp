@@ -33,8 +33,7 @@ void TFormOutput::WriteHeading(const TFormHeading& heading) {
 }
 
 void TFormOutput::WriteBits(std::uint64_t bits, std::size_t size) {
-  for (; size > 0; --size, bits >>= 8)
-    FBytes += static_cast<char>(bits & 0xFF);
+  for (; size > 0; --size, bits >>= 8) FBytes += static_cast<char>(bits & 0xFF);
 }
 
 template <class T>
@@ -81,8 +80,7 @@ void TFormOutput::WriteIdent(std::string_view ident) {
 
 void TFormOutput::WriteSet(const std::vector<std::string>& idents) {
   WriteSort(TValueType::vaSet);
-  for (const std::string& ident : idents)
-    WriteShortText(ident);
+  for (const std::string& ident : idents) WriteShortText(ident);
   WriteShortText({});
 }
 

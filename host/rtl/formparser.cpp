@@ -75,8 +75,7 @@ void TFormParser::ParseComponent() {
   Put([&] { FOutput.WriteHeading(heading); });
   ParseProperties();
   FOutput.WriteEnd();
-  while (AtComponent())
-    Deeper(&TFormParser::ParseComponent);
+  while (AtComponent()) Deeper(&TFormParser::ParseComponent);
   TakeEnd();
   FOutput.WriteEnd();
 }
@@ -114,18 +113,11 @@ void TFormParser::ParseProperties() {
 void TFormParser::ParseValue() {
   NoteLine();
   switch (FLexer.Token()) {
-    case TFormToken::Integer:
-      FOutput.WriteInteger(FLexer.Integer());
-      return FLexer.Next();
-    case TFormToken::Float:
-      FOutput.WriteFloat(FLexer.Float());
-      return FLexer.Next();
-    case TFormToken::Ident:
-      return ParseWord();
-    case TFormToken::String:
-      return ParseString();
-    default:
-      return ParseSymbol();
+    case TFormToken::Integer: FOutput.WriteInteger(FLexer.Integer()); return FLexer.Next();
+    case TFormToken::Float: FOutput.WriteFloat(FLexer.Float()); return FLexer.Next();
+    case TFormToken::Ident: return ParseWord();
+    case TFormToken::String: return ParseString();
+    default: return ParseSymbol();
   }
 }
 
@@ -166,8 +158,7 @@ void TFormParser::ParseSymbol() {
 
 void TFormParser::ParseList() {
   FOutput.WriteSort(TValueType::vaList);
-  for (FLexer.Next(); !FLexer.IsSymbol(')');)
-    ParseValue();
+  for (FLexer.Next(); !FLexer.IsSymbol(')');) ParseValue();
   FLexer.Next();
   FOutput.WriteEnd();
 }

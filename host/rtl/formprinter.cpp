@@ -76,8 +76,7 @@ void TFormPrinter::PrintComponent() {
   Line(line);
   FIndent += 2;
   PrintProperties();
-  while (!FInput.EndOfList())
-    PrintComponent();
+  while (!FInput.EndOfList()) PrintComponent();
   FInput.Take(TValueType::vaNull);
   FIndent -= 2;
   Line("end");
@@ -94,29 +93,18 @@ void TFormPrinter::PrintProperties() {
 
 void TFormPrinter::PrintValue() {
   switch (FInput.NextValue()) {
-    case TValueType::vaList:
-      return PrintList();
-    case TValueType::vaCollection:
-      return PrintCollection();
-    case TValueType::vaSet:
-      return PrintSet();
-    case TValueType::vaBinary:
-      return PrintBinary();
+    case TValueType::vaList: return PrintList();
+    case TValueType::vaCollection: return PrintCollection();
+    case TValueType::vaSet: return PrintSet();
+    case TValueType::vaBinary: return PrintBinary();
     case TValueType::vaString:
-    case TValueType::vaLString:
-      return PrintString();
-    case TValueType::vaDouble:
-      return PrintFloat();
-    case TValueType::vaIdent:
-      return static_cast<void>(FText += Checked(FInput.ReadIdent(), true));
+    case TValueType::vaLString: return PrintString();
+    case TValueType::vaDouble: return PrintFloat();
+    case TValueType::vaIdent: return static_cast<void>(FText += Checked(FInput.ReadIdent(), true));
     case TValueType::vaFalse:
-    case TValueType::vaTrue:
-      return static_cast<void>(FText += BoolToStr(FInput.ReadBoolean()));
-    case TValueType::vaNil:
-      FInput.SkipValue();
-      return static_cast<void>(FText += "nil");
-    default:
-      FText += IntToStr(FInput.ReadInteger());
+    case TValueType::vaTrue: return static_cast<void>(FText += BoolToStr(FInput.ReadBoolean()));
+    case TValueType::vaNil: FInput.SkipValue(); return static_cast<void>(FText += "nil");
+    default: FText += IntToStr(FInput.ReadInteger());
   }
 }
 
@@ -136,8 +124,7 @@ void TFormPrinter::PrintString() {
   while (rest.size() > StringWidth) {
     std::size_t size = StringWidth;
     // A character of several bytes stays whole.
-    while (size > 1 && (static_cast<unsigned char>(rest[size]) & 0xC0) == 0x80)
-      --size;
+    while (size > 1 && (static_cast<unsigned char>(rest[size]) & 0xC0) == 0x80) --size;
     FText += FormString(rest.substr(0, size));
     rest.remove_prefix(size);
     FText += " +";

@@ -57,8 +57,7 @@ bool TObject::InheritsFrom(const TClass& ancestor) const {
 TClass::TClass(std::string name, std::string unit, const TClass* parent, TMaker maker,
                std::vector<TClassEntry> entries)
     : FName(std::move(name)), FUnit(std::move(unit)), FParent(parent), FMaker(maker) {
-  for (TClassEntry& entry : entries)
-    Add(std::move(entry));
+  for (TClassEntry& entry : entries) Add(std::move(entry));
 }
 
 TClass::TClass(TClass&&) noexcept = default;
@@ -84,8 +83,7 @@ void TClass::Add(TClassEntry entry) {
 
 bool TClass::InheritsFrom(const TClass& ancestor) const {
   const TClass* each = this;
-  while (each && each != &ancestor)
-    each = each->Parent();
+  while (each && each != &ancestor) each = each->Parent();
   return each != nullptr;
 }
 

@@ -1,5 +1,5 @@
-// TObject, the root of every class that has a name at run time, and TClass, that run-time class: its
-// name, its ancestor and its published properties.
+// TObject, the root of every class that has a name at run time, and TClass, that run-time class:
+// its name, its ancestor and its published properties.
 #pragma once
 
 #include <memory>

@@ -95,8 +95,12 @@ TWallClock WallClock() {
   clock_gettime(CLOCK_REALTIME, &now);
   std::tm local{};
   localtime_r(&now.tv_sec, &local);
-  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
-          local.tm_hour,        local.tm_min,     std::min(local.tm_sec, 59),  // No leap seconds.
+  return {local.tm_year + 1900,
+          local.tm_mon + 1,
+          local.tm_mday,
+          local.tm_hour,
+          local.tm_min,
+          std::min(local.tm_sec, 59),  // No leap seconds.
           static_cast<int>(now.tv_nsec / 1'000'000)};
 }
 

@@ -96,9 +96,8 @@ bool SetSizeOfFile(std::intptr_t file, std::int64_t size) {
 std::uintptr_t CurrentThreadId() { return GetCurrentThreadId(); }
 
 void SetThreadPriority(std::uintptr_t thread, int priority) {
-  WithThread(thread, THREAD_SET_INFORMATION, [&](HANDLE handle) {
-    ::SetThreadPriority(handle, Priorities[priority]);
-  });
+  WithThread(thread, THREAD_SET_INFORMATION,
+             [&](HANDLE handle) { ::SetThreadPriority(handle, Priorities[priority]); });
 }
 
 int ThreadPriority(std::uintptr_t thread) {
@@ -138,8 +137,8 @@ std::string ExeName() {
 TWallClock WallClock() {
   SYSTEMTIME time;
   GetLocalTime(&time);
-  return {time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond,
-          time.wMilliseconds};
+  return {time.wYear,   time.wMonth,  time.wDay,         time.wHour,
+          time.wMinute, time.wSecond, time.wMilliseconds};
 }
 
 }  // namespace vcl::os

@@ -32,16 +32,12 @@ TClassEntry TClassEntry::Stored(bool stored) && {
 
 std::size_t TPropInfo::ValueIndex() const {
   switch (Kind()) {
-    case TTypeKind::Float:
-      return 1;
-    case TTypeKind::String:
-      return 2;
+    case TTypeKind::Float: return 1;
+    case TTypeKind::String: return 2;
     case TTypeKind::Class:
     case TTypeKind::Component:
-    case TTypeKind::Collection:
-      return 3;
-    default:
-      return 0;
+    case TTypeKind::Collection: return 3;
+    default: return 0;
   }
 }
 

@@ -92,8 +92,8 @@ class VCL_API TClassEntry {
   /// The declared default; a value equal to it is not written to form files.
   template <class T>
   TClassEntry Default(T value) &&;
-  /// The declared default holds only for objects that say so, as an owner may make them with another
-  /// value; of the others the value is always written.
+  /// The declared default holds only for objects that say so, as an owner may make them with
+  /// another value; of the others the value is always written.
   template <auto Ask>
   TClassEntry DefaultIf() &&;
   /// Takes back a default that the ancestor declares: the value is always written.
@@ -305,7 +305,8 @@ TClassEntry Method(std::string name) {
 }
 
 /// Describes the class T, which descends from Parent: its name, the unit that declares it, and the
-/// lines of its table. Raises EPropertyError when an inherited name is not described by an ancestor.
+/// lines of its table. Raises EPropertyError when an inherited name is not described by an
+/// ancestor.
 template <class T, class Parent>
 TClass Describe(std::string name, std::string unit, std::vector<TClassEntry> entries) {
   static_assert(std::is_base_of_v<Parent, T>);

@@ -43,8 +43,7 @@ void TReader::ReadComponents(TComponent* owner, TComponent* parent,
                              const std::function<void(TComponent*)>& made) {
   std::vector<TComponent*> outermost;
   FImpl->AllOrNothing([&] { FImpl->ReadAll(owner, parent, outermost); });
-  for (TComponent* component : outermost)
-    made(component);
+  for (TComponent* component : outermost) made(component);
 }
 
 void TReader::ReadData(TComponent* component) {
@@ -76,8 +75,7 @@ const std::string& TReader::RootClassName() const { return FImpl->RootClassName;
 /// Frees what was made, last one first, and takes the state of reading from what was there before.
 void TReader::TImpl::Undo() {
   if (!Parts.empty() && !Parts.front().Watch.Gone()) {
-    for (const TFieldInfo* field : Fields)
-      field->Assign(*Root, nullptr);
+    for (const TFieldInfo* field : Fields) field->Assign(*Root, nullptr);
   }
   for (; !Parts.empty(); Parts.pop_back()) {
     const TReaderPart& part = Parts.back();

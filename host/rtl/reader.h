@@ -15,8 +15,8 @@ class TCollection;
 class TComponent;
 
 /// Reads a form file. Its components are of classes that the root's class lists a field of, or that
-/// are registered (RegisterClass). All methods raise EReadError, with the offset (and the line, when the file
-/// came from a text) and what was wrong, for what they cannot read.
+/// are registered (RegisterClass). All methods raise EReadError, with the offset (and the line,
+/// when the file came from a text) and what was wrong, for what they cannot read.
 class VCL_API TReader : public TFiler {
  public:
   /// Reads from the stream's position on; the stream must outlive the reader.
@@ -27,14 +27,15 @@ class VCL_API TReader : public TFiler {
   /// for a file that was converted from text, so that errors can name the line.
   void SetLineOf(std::function<int(std::int64_t offset)> lineOf);
 
-  /// Reads the file's root into `root`, whatever class the file gives it, or into a new component of the file's class when it is null
-  /// (then the caller owns it), and everything in it; fills the fields of the root's class, binds
-  /// its events, resolves references, and calls Loaded on all, the root first and then in the file's
-  /// order. A root that is being designed has its events named and not bound. When anything fails, all
-  /// that the reader made is freed before the exception leaves.
+  /// Reads the file's root into `root`, whatever class the file gives it, or into a new component
+  /// of the file's class when it is null (then the caller owns it), and everything in it; fills the
+  /// fields of the root's class, binds its events, resolves references, and calls Loaded on all,
+  /// the root first and then in the file's order. A root that is being designed has its events
+  /// named and not bound. When anything fails, all that the reader made is freed before the
+  /// exception leaves.
   ///
-  /// What a property's setter raises leaves as an EReadError with the place; EClassNotFound and EAbort
-  /// leave as they are.
+  /// What a property's setter raises leaves as an EReadError with the place; EClassNotFound and
+  /// EAbort leave as they are.
   TComponent* ReadRootComponent(TComponent* root);
   /// The same for a stream that holds nothing else: anything behind the root is refused.
   TComponent* ReadRootFile(TComponent* root);

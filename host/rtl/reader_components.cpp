@@ -114,8 +114,7 @@ void TReader::TImpl::ReadChildren(TComponent* component) {
   const auto outer = std::pair(Owner, Parent);
   Owner = childOwner ? childOwner : Root;
   Parent = component->GetChildParent();
-  while (!Input.EndOfList())
-    ReadComponent();
+  while (!Input.EndOfList()) ReadComponent();
   Input.Take(TValueType::vaNull);
   std::tie(Owner, Parent) = outer;
 }

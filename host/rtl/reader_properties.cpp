@@ -148,8 +148,7 @@ void TReader::TImpl::ReadCollection(TCollection& collection) {
   collection.BeginUpdate();
   try {
     collection.Clear();
-    while (!Input.EndOfList())
-      ReadItem(collection);
+    while (!Input.EndOfList()) ReadItem(collection);
   } catch (...) {
     collection.EndUpdate();
     throw;
@@ -172,20 +171,13 @@ void TReader::TImpl::ReadItem(TCollection& collection) {
 
 TValue TReader::TImpl::ReadValue(const TPropInfo& prop) {
   switch (prop.Kind()) {
-    case TTypeKind::Float:
-      return Input.ReadFloat();
-    case TTypeKind::String:
-      return Input.ReadString();
-    case TTypeKind::Char:
-      return static_cast<std::int64_t>(Self.ReadChar());
-    case TTypeKind::Boolean:
-      return static_cast<std::int64_t>(Input.ReadBoolean());
-    case TTypeKind::Set:
-      return ReadSet(prop);
-    case TTypeKind::Enumeration:
-      return Ordinal(prop, Input.ReadIdent());
-    default:
-      return ReadOrdinal(prop);
+    case TTypeKind::Float: return Input.ReadFloat();
+    case TTypeKind::String: return Input.ReadString();
+    case TTypeKind::Char: return static_cast<std::int64_t>(Self.ReadChar());
+    case TTypeKind::Boolean: return static_cast<std::int64_t>(Input.ReadBoolean());
+    case TTypeKind::Set: return ReadSet(prop);
+    case TTypeKind::Enumeration: return Ordinal(prop, Input.ReadIdent());
+    default: return ReadOrdinal(prop);
   }
 }
 
@@ -200,8 +192,7 @@ std::int64_t TReader::TImpl::ReadOrdinal(const TPropInfo& prop) {
 
 std::int64_t TReader::TImpl::ReadSet(const TPropInfo& prop) {
   std::int64_t bits = 0;
-  for (const std::string& ident : Input.ReadSet())
-    bits |= std::int64_t{1} << Ordinal(prop, ident);
+  for (const std::string& ident : Input.ReadSet()) bits |= std::int64_t{1} << Ordinal(prop, ident);
   return bits;
 }
 

@@ -26,7 +26,8 @@ class VCL_API TStream : public TObject {
   /// that raises EStreamError.
   virtual std::int64_t Seek(std::int64_t offset, TSeekOrigin origin) = 0;
   virtual std::int64_t Size() const = 0;
-  /// Cuts off, the position too, or appends zeros. Raises EStreamError where the stream's size is fixed.
+  /// Cuts off, the position too, or appends zeros. Raises EStreamError where the stream's size is
+  /// fixed.
   virtual void SetSize(std::int64_t size);
 
   std::int64_t Position() const;

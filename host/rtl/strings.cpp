@@ -35,8 +35,7 @@ bool NeedsQuotes(const std::string& line) {
 
 std::string Quoted(std::string_view text) {
   std::string quoted = "\"";
-  for (char c : text)
-    quoted.append(c == '"' ? 2 : 1, c);
+  for (char c : text) quoted.append(c == '"' ? 2 : 1, c);
   return quoted + '"';
 }
 
@@ -62,8 +61,7 @@ std::string TakePlain(std::string_view& rest) {
 }
 
 void SkipBlanks(std::string_view& rest) {
-  while (!rest.empty() && IsBlank(rest.front()))
-    rest.remove_prefix(1);
+  while (!rest.empty() && IsBlank(rest.front())) rest.remove_prefix(1);
 }
 
 }  // namespace
@@ -133,8 +131,7 @@ int TStrings::IndexOfObject(const TObject* object) const {
 
 std::string TStrings::Text() const {
   std::string text;
-  for (int i = 0; i < Count(); ++i)
-    text.append(Strings(i)).append("\r\n");
+  for (int i = 0; i < Count(); ++i) text.append(Strings(i)).append("\r\n");
   return text;
 }
 
@@ -263,15 +260,13 @@ void TStrings::DefineProperties(TFiler& filer) {
     Batch(*this, [&] {
       reader.ReadListBegin();
       Clear();
-      while (!reader.EndOfList())
-        Add(reader.ReadString());
+      while (!reader.EndOfList()) Add(reader.ReadString());
       reader.ReadListEnd();
     });
   };
   const auto write = [this](TWriter& writer) {
     writer.WriteListBegin();
-    for (int i = 0; i < Count(); ++i)
-      writer.WriteString(Strings(i));
+    for (int i = 0; i < Count(); ++i) writer.WriteString(Strings(i));
     writer.WriteListEnd();
   };
   filer.DefineProperty("Strings", read, write, Count() > 0);

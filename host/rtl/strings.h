@@ -13,8 +13,8 @@ namespace vcl {
 
 class TStream;
 
-/// A list of texts, each with a reference to an object beside it that the list does not own. Indexes
-/// run from 0; methods that take one raise EStringListError outside.
+/// A list of texts, each with a reference to an object beside it that the list does not own.
+/// Indexes run from 0; methods that take one raise EStringListError outside.
 class VCL_API TStrings : public TPersistent {
  public:
   static const TClass& Class();
@@ -45,8 +45,8 @@ class VCL_API TStrings : public TPersistent {
   std::string Text() const;
   /// Splits at "\r\n", "\n" and "\r"; an end of line at the text's end begins no further line.
   void SetText(std::string_view text);
-  /// The lines joined by commas; a line with blanks, commas or quotes stands in double quotes, quotes
-  /// in it doubled.
+  /// The lines joined by commas; a line with blanks, commas or quotes stands in double quotes,
+  /// quotes in it doubled.
   std::string CommaText() const;
   void SetCommaText(std::string_view text);
 

@@ -46,7 +46,9 @@ TMainThreadCalls& TMainThreadCalls::Instance() {
   return calls;
 }
 
-std::ptrdiff_t TMainThreadCalls::CountReady() const { return std::ranges::count_if(FCalls, &Ready); }
+std::ptrdiff_t TMainThreadCalls::CountReady() const {
+  return std::ranges::count_if(FCalls, &Ready);
+}
 
 void TMainThreadCalls::Add(TCallRef call) {
   FCalls.push_back(std::move(call));

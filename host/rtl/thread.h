@@ -13,15 +13,7 @@
 namespace vcl {
 
 /// How urgent a thread is, compared with the program's others.
-enum TThreadPriority {
-  tpIdle,
-  tpLowest,
-  tpLower,
-  tpNormal,
-  tpHigher,
-  tpHighest,
-  tpTimeCritical
-};
+enum TThreadPriority { tpIdle, tpLowest, tpLower, tpNormal, tpHigher, tpHighest, tpTimeCritical };
 template <>
 inline constexpr TEnumText EnumText<TThreadPriority>{
     "TThreadPriority", "tpIdle tpLowest tpLower tpNormal tpHigher tpHighest tpTimeCritical"};
@@ -34,8 +26,8 @@ struct TThreadState;
 /// Nothing stops a thread at any point of its work: suspended, it rests when it comes to one of its
 /// own waiting points, `Sleep` and `Synchronize`.
 ///
-/// A descendant calls `EndThread` first thing in its destructor, while it is whole. A thread is freed
-/// by another one than itself; see SetFreeOnTerminate.
+/// A descendant calls `EndThread` first thing in its destructor, while it is whole. A thread is
+/// freed by another one than itself; see SetFreeOnTerminate.
 class VCL_API TThread : public TObject {
  public:
   /// Suspended: `Start` or `Resume` begins it.
@@ -46,8 +38,8 @@ class VCL_API TThread : public TObject {
 
   /// Begins the thread. Raises EThread when it has been started before or the system has none left.
   void Start();
-  /// Has the thread rest as soon as it sleeps or calls the main thread: the rest of its sleep, or its
-  /// call, waits until `Resume`. Called by the thread itself, it rests at once.
+  /// Has the thread rest as soon as it sleeps or calls the main thread: the rest of its sleep, or
+  /// its call, waits until `Resume`. Called by the thread itself, it rests at once.
   void Suspend();
   /// Begins the thread, or lets it go on. Raises EThread as Start does when it begins it.
   void Resume();
@@ -58,9 +50,9 @@ class VCL_API TThread : public TObject {
   bool Terminated() const;
   /// True when `Execute` has ended and OnTerminate has been told.
   bool Finished() const;
-  /// Waits until the thread is finished and returns what it left with SetReturnValue. The main thread
-  /// runs the threads' calls meanwhile. Raises EThread for a thread that has not been started, that
-  /// waits for itself, or that is freed by itself.
+  /// Waits until the thread is finished and returns what it left with SetReturnValue. The main
+  /// thread runs the threads' calls meanwhile. Raises EThread for a thread that has not been
+  /// started, that waits for itself, or that is freed by itself.
   int WaitFor();
 
   /// As the system has it, once the thread runs.
@@ -74,8 +66,8 @@ class VCL_API TThread : public TObject {
   /// What left `Execute` unhandled; null when nothing did. EAbort ends a thread silently.
   std::exception_ptr FatalException() const;
 
-  /// The thread has ended. Fired in the main thread, but not for one that is freed before. To be set
-  /// before the thread is started.
+  /// The thread has ended. Fired in the main thread, but not for one that is freed before. To be
+  /// set before the thread is started.
   TNotifyEvent OnTerminate;
 
  protected:
@@ -107,10 +99,10 @@ class VCL_API TThread : public TObject {
   std::shared_ptr<TThreadState> FState;
 };
 
-/// Runs the calls of threads that wait for the main thread, those that wait now; false when there was
-/// none. Waits up to `timeout` milliseconds for the first one. The main thread's to call, which the
-/// application does in its message loop: only a program without one calls it itself. Raises EThread
-/// in another thread.
+/// Runs the calls of threads that wait for the main thread, those that wait now; false when there
+/// was none. Waits up to `timeout` milliseconds for the first one. The main thread's to call, which
+/// the application does in its message loop: only a program without one calls it itself. Raises
+/// EThread in another thread.
 VCL_API bool CheckSynchronize(int timeout = 0);
 /// True in the thread that has loaded the library.
 VCL_API bool InMainThread();

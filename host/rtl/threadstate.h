@@ -54,8 +54,8 @@ struct TThreadCall {
 using TCallRef = std::shared_ptr<TThreadCall>;
 using TThreadLock = std::unique_lock<std::mutex>;
 
-/// The calls that wait for the main thread, in order, and the one lock of all threads' states: it is
-/// held for moments only, never while a method runs.
+/// The calls that wait for the main thread, in order, and the one lock of all threads' states: it
+/// is held for moments only, never while a method runs.
 class TMainThreadCalls {
  public:
   static TMainThreadCalls& Instance();

@@ -62,12 +62,12 @@ inline constexpr TIntegerText IntegerText{};
 /// The type of a published property.
 struct VCL_API TTypeInfo {
   TTypeKind Kind;
-  std::string_view FixedName;                 ///< Empty for class types, which name their class.
-  TEnumText Enum = {};                        ///< The enumeration, or a set's elements.
-  TIntegerText Integer = {};                  ///< Named values of an integer or colour.
-  const TClass& (*ClassOf)() = nullptr;       ///< Class, component and collection types.
-  std::int64_t Min = 0;                       ///< The least ordinal value.
-  std::int64_t Max = 0;                       ///< The greatest ordinal value.
+  std::string_view FixedName;            ///< Empty for class types, which name their class.
+  TEnumText Enum = {};                   ///< The enumeration, or a set's elements.
+  TIntegerText Integer = {};             ///< Named values of an integer or colour.
+  const TClass& (*ClassOf)() = nullptr;  ///< Class, component and collection types.
+  std::int64_t Min = 0;                  ///< The least ordinal value.
+  std::int64_t Max = 0;                  ///< The greatest ordinal value.
 
   std::string_view Name() const;
   /// The name of the ordinal's value; nothing when it has none.
@@ -92,9 +92,15 @@ constexpr std::string_view NumberName() {
   if constexpr (std::is_same_v<T, float>) return "Single";
   if constexpr (std::is_same_v<T, double>) return "Double";
   if constexpr (std::is_unsigned_v<T>) {
-    return sizeof(T) == 1 ? "Byte" : sizeof(T) == 2 ? "Word" : sizeof(T) == 4 ? "Cardinal" : "UInt64";
+    return sizeof(T) == 1   ? "Byte"
+           : sizeof(T) == 2 ? "Word"
+           : sizeof(T) == 4 ? "Cardinal"
+                            : "UInt64";
   }
-  return sizeof(T) == 1 ? "Shortint" : sizeof(T) == 2 ? "Smallint" : sizeof(T) == 4 ? "Integer" : "Int64";
+  return sizeof(T) == 1   ? "Shortint"
+         : sizeof(T) == 2 ? "Smallint"
+         : sizeof(T) == 4 ? "Integer"
+                          : "Int64";
 }
 
 constexpr std::int64_t CountNames(std::string_view values) {
@@ -108,8 +114,13 @@ TTypeInfo IntegerInfo() {
   // Values travel as std::int64_t, so the upper half of an unsigned type of its size has no place.
   constexpr auto max = std::min<std::uint64_t>(std::numeric_limits<T>::max(),
                                                std::numeric_limits<std::int64_t>::max());
-  return {TTypeKind::Integer, NumberName<T>(), {}, {}, nullptr,
-          static_cast<std::int64_t>(std::numeric_limits<T>::min()), static_cast<std::int64_t>(max)};
+  return {TTypeKind::Integer,
+          NumberName<T>(),
+          {},
+          {},
+          nullptr,
+          static_cast<std::int64_t>(std::numeric_limits<T>::min()),
+          static_cast<std::int64_t>(max)};
 }
 
 template <class T>
@@ -117,8 +128,13 @@ TTypeInfo NamedInfo() {
   constexpr auto& integer = IntegerText<T>;
   if constexpr (!integer.Name.empty()) {
     using U = std::underlying_type_t<T>;
-    return {integer.Name == "TColor" ? TTypeKind::Color : TTypeKind::Integer, integer.Name, {},
-            integer, nullptr, std::numeric_limits<U>::min(), std::numeric_limits<U>::max()};
+    return {integer.Name == "TColor" ? TTypeKind::Color : TTypeKind::Integer,
+            integer.Name,
+            {},
+            integer,
+            nullptr,
+            std::numeric_limits<U>::min(),
+            std::numeric_limits<U>::max()};
   } else {
     constexpr auto& text = EnumText<T>;
     static_assert(!text.Name.empty(), "a published enumeration needs its EnumText");
@@ -130,7 +146,12 @@ template <class E>
 TTypeInfo SetInfo() {
   constexpr auto& text = EnumText<E>;
   static_assert(!text.SetName.empty(), "a published set needs its name in the EnumText");
-  return {TTypeKind::Set, text.SetName, text, {}, nullptr, 0,
+  return {TTypeKind::Set,
+          text.SetName,
+          text,
+          {},
+          nullptr,
+          0,
           (std::int64_t{1} << CountNames(text.Values)) - 1};
 }
 

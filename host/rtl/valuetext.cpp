@@ -25,8 +25,7 @@ std::string SetToText(const TTypeInfo& type, std::int64_t bits) {
 
 std::string OrdinalToText(const TTypeInfo& type, std::int64_t value) {
   switch (type.Kind) {
-    case TTypeKind::Set:
-      return SetToText(type, value);
+    case TTypeKind::Set: return SetToText(type, value);
     case TTypeKind::Enumeration:
     case TTypeKind::Boolean:
       if (const auto name = type.EnumName(value)) return std::string(*name);
@@ -34,10 +33,8 @@ std::string OrdinalToText(const TTypeInfo& type, std::int64_t value) {
     case TTypeKind::Char:
       // A control character has no form of its own to show.
       return value < ' ' ? Concat("#", IntToStr(value)) : Utf8(static_cast<char32_t>(value));
-    case TTypeKind::Color:
-      return ColorToString(static_cast<TColor>(value));
-    default:
-      break;
+    case TTypeKind::Color: return ColorToString(static_cast<TColor>(value));
+    default: break;
   }
   if (type.Integer.ToIdent) {
     if (const auto ident = type.Integer.ToIdent(value)) return *ident;
@@ -78,8 +75,7 @@ std::int64_t TextToInteger(const TTypeInfo& type, std::string_view text) {
 
 std::int64_t TextToOrdinal(const TTypeInfo& type, std::string_view text) {
   switch (type.Kind) {
-    case TTypeKind::Set:
-      return TextToSet(type, text);
+    case TTypeKind::Set: return TextToSet(type, text);
     case TTypeKind::Enumeration:
     case TTypeKind::Boolean:
       if (const auto ordinal = type.EnumOrdinal(Trim(text))) return *ordinal;
@@ -90,10 +86,8 @@ std::int64_t TextToOrdinal(const TTypeInfo& type, std::string_view text) {
       if (!character) Refuse(type, text);
       return static_cast<std::int64_t>(*character);
     }
-    case TTypeKind::Color:
-      return StringToColor(text);
-    default:
-      return TextToInteger(type, text);
+    case TTypeKind::Color: return StringToColor(text);
+    default: return TextToInteger(type, text);
   }
 }
 
@@ -111,14 +105,10 @@ TValue TextToValue(const TTypeInfo& type, std::string_view text) {
     case TTypeKind::Class:
     case TTypeKind::Component:
     case TTypeKind::Collection:
-    case TTypeKind::Event:
-      Refuse(type, text);
-    case TTypeKind::String:
-      return std::string(text);
-    case TTypeKind::Float:
-      return StrToFloat(text);
-    default:
-      return TextToOrdinal(type, text);
+    case TTypeKind::Event: Refuse(type, text);
+    case TTypeKind::String: return std::string(text);
+    case TTypeKind::Float: return StrToFloat(text);
+    default: return TextToOrdinal(type, text);
   }
 }
 

@@ -14,10 +14,10 @@ namespace vcl {
 class TCollection;
 class TComponent;
 
-/// Writes a form file: of each object the published properties that are stored and differ from their
-/// declared defaults, then what the object defines itself. References are written by name; one to a
-/// component without a name is left out. Raises EWriteError for what cannot be kept, and then the
-/// stream holds nothing of the component.
+/// Writes a form file: of each object the published properties that are stored and differ from
+/// their declared defaults, then what the object defines itself. References are written by name;
+/// one to a component without a name is left out. Raises EWriteError for what cannot be kept, and
+/// then the stream holds nothing of the component.
 class VCL_API TWriter : public TFiler {
  public:
   /// Writes from the stream's position on; the stream must outlive the writer.

@@ -9,8 +9,7 @@
 namespace vcl {
 
 void TWriter::TImpl::WriteProperties(TPersistent& object) {
-  for (const TPropInfo* prop : object.ClassType().Published())
-    WriteProperty(object, *prop);
+  for (const TPropInfo* prop : object.ClassType().Published()) WriteProperty(object, *prop);
   object.DefineProperties(Self);
 }
 
@@ -88,20 +87,15 @@ void TWriter::TImpl::WriteCollection(TCollection& collection) {
 
 void TWriter::TImpl::WriteValue(const TPropInfo& prop, const TValue& value) {
   switch (prop.Kind()) {
-    case TTypeKind::Float:
-      return Output.WriteFloat(std::get<double>(value));
-    case TTypeKind::String:
-      return Output.WriteString(std::get<std::string>(value));
+    case TTypeKind::Float: return Output.WriteFloat(std::get<double>(value));
+    case TTypeKind::String: return Output.WriteString(std::get<std::string>(value));
     case TTypeKind::Char:
       return Self.WriteChar(static_cast<char32_t>(std::get<std::int64_t>(value)));
-    case TTypeKind::Boolean:
-      return Output.WriteBoolean(std::get<std::int64_t>(value) != 0);
-    case TTypeKind::Set:
-      return WriteSet(prop, std::get<std::int64_t>(value));
+    case TTypeKind::Boolean: return Output.WriteBoolean(std::get<std::int64_t>(value) != 0);
+    case TTypeKind::Set: return WriteSet(prop, std::get<std::int64_t>(value));
     case TTypeKind::Enumeration:
       return Output.WriteIdent(EnumName(prop, std::get<std::int64_t>(value)));
-    default:
-      return WriteOrdinal(prop, std::get<std::int64_t>(value));
+    default: return WriteOrdinal(prop, std::get<std::int64_t>(value));
   }
 }
 

@@ -7,9 +7,8 @@ namespace {
 
 /// A pointer whose upper half is zero is taken for one character.
 wchar_t Upper(wchar_t character) {
-  return static_cast<wchar_t>(
-      reinterpret_cast<std::uintptr_t>(::CharUpperW(reinterpret_cast<LPWSTR>(
-          static_cast<std::uintptr_t>(character)))));
+  return static_cast<wchar_t>(reinterpret_cast<std::uintptr_t>(
+      ::CharUpperW(reinterpret_cast<LPWSTR>(static_cast<std::uintptr_t>(character)))));
 }
 
 }  // namespace

@@ -108,8 +108,7 @@ void TApplication::FreeReleased(TCustomForm* form) {
 }
 
 void TApplication::TellForms(UINT notice) {
-  for (int i = 0; i < Screen()->FormCount(); ++i)
-    Screen()->Forms(i)->Perform(notice);
+  for (int i = 0; i < Screen()->FormCount(); ++i) Screen()->Forms(i)->Perform(notice);
 }
 
 // Running.
@@ -123,8 +122,7 @@ int TApplication::Run() {
     } catch (...) {
       HandleCurrentException(FMainForm);
     }
-    while (!Terminated())
-      HandleMessage();
+    while (!Terminated()) HandleMessage();
   }
   FreeForms();
   MSG quit;
@@ -175,14 +173,12 @@ void TApplication::SetTitle(const std::string& title) {
 void TApplication::IconChanged(TObject*) {
   const auto handle = reinterpret_cast<LPARAM>(FIcon->Handle());
   if (FHandle) ::SendMessageW(FHandle, WM_SETICON, ICON_BIG, handle);
-  for (int i = 0; i < Screen()->FormCount(); ++i)
-    Screen()->Forms(i)->UpdateIcon();
+  for (int i = 0; i < Screen()->FormCount(); ++i) Screen()->Forms(i)->UpdateIcon();
 }
 
 void TApplication::UpdateTaskbar() {
   bool shown = false;
-  for (int i = 0; i < Screen()->FormCount(); ++i)
-    shown |= Screen()->Forms(i)->Showing();
+  for (int i = 0; i < Screen()->FormCount(); ++i) shown |= Screen()->Forms(i)->Showing();
   if (shown == (::IsWindowVisible(Handle()) != FALSE)) return;
   ::SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
                  SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE |
@@ -204,44 +200,32 @@ LRESULT CALLBACK TApplication::StaticWndProc(HWND window, UINT message, WPARAM w
 
 LRESULT TApplication::WndProc(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_FREEFORM:
-      FreeReleased(reinterpret_cast<TCustomForm*>(lParam));
-      return 0;
-    case WM_THREADSCALL:
-      RunThreadsCalls();
-      return 0;
+    case WM_FREEFORM: FreeReleased(reinterpret_cast<TCustomForm*>(lParam)); return 0;
+    case WM_THREADSCALL: RunThreadsCalls(); return 0;
     case WM_TIMER:
       ::KillTimer(FHandle, ThreadsCallTimer);
       CheckSynchronize();
       return 0;
-    case WM_SYSCOMMAND:
-      return SysCommand(wParam, lParam);
+    case WM_SYSCOMMAND: return SysCommand(wParam, lParam);
     case WM_CLOSE:
       if (FMainForm) FMainForm->Close();
       return 0;
-    case WM_QUERYENDSESSION:
-      return !FMainForm || FMainForm->CloseQuery();
+    case WM_QUERYENDSESSION: return !FMainForm || FMainForm->CloseQuery();
     case WM_ENDSESSION:
       if (wParam) Terminate();
       return 0;
-    case WM_ACTIVATEAPP:
-      SetActive(wParam != 0);
-      break;
-    case WM_SETFOCUS:
-      BringToFront();
-      break;
+    case WM_ACTIVATEAPP: SetActive(wParam != 0); break;
+    case WM_SETFOCUS: BringToFront(); break;
     case WM_SYSCOLORCHANGE:
-    case WM_SETTINGCHANGE:
-      TellForms(CM_SYSCOLORCHANGE);
-      break;
-    default:
-      break;
+    case WM_SETTINGCHANGE: TellForms(CM_SYSCOLORCHANGE); break;
+    default: break;
   }
   return ::DefWindowProcW(FHandle, message, wParam, lParam);
 }
 
-// The system hands out posted messages before input and painting, and timers after them. Threads that
-// call without end must not lock the user out: when he waits too long, they wait for the timer.
+// The system hands out posted messages before input and painting, and timers after them. Threads
+// that call without end must not lock the user out: when he waits too long, they wait for the
+// timer.
 void TApplication::RunThreadsCalls() {
   ++FThreadsRounds;
   constexpr ULONGLONG patience = 50;
@@ -260,14 +244,9 @@ void TApplication::RunThreadsCalls() {
 LRESULT TApplication::SysCommand(WPARAM wParam, LPARAM lParam) {
   constexpr WPARAM command = 0xFFF0;  // The system keeps the lowest four bits for itself.
   switch (wParam & command) {
-    case SC_MINIMIZE:
-      Minimize();
-      return 0;
-    case SC_RESTORE:
-      Restore();
-      return 0;
-    default:
-      return ::DefWindowProcW(FHandle, WM_SYSCOMMAND, wParam, lParam);
+    case SC_MINIMIZE: Minimize(); return 0;
+    case SC_RESTORE: Restore(); return 0;
+    default: return ::DefWindowProcW(FHandle, WM_SYSCOMMAND, wParam, lParam);
   }
 }
 

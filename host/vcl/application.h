@@ -18,8 +18,8 @@ class TCustomForm;
 
 /// Sender, error. Assigned, it takes the place of the message box.
 using TExceptionEvent = TEvent<TObject*, const std::exception&>;
-/// Sets `done` to false to be called again at once when no message waits. It is never published, and
-/// a published event of the same shape goes by TCloseQueryEvent's name.
+/// Sets `done` to false to be called again at once when no message waits. It is never published,
+/// and a published event of the same shape goes by TCloseQueryEvent's name.
 using TIdleEvent = TEvent<TObject*, bool&>;
 /// A message of the program's queue; `handled` keeps it from its window.
 using TMessageEvent = TEvent<MSG&, bool&>;
@@ -37,9 +37,9 @@ inline constexpr const char* EventName<TMessageEvent> = "TMessageEvent";
 ///     }
 ///
 /// The application has a window of its own, without a size: it carries the taskbar's button, and it
-/// owns the forms' windows, so that minimising it takes them all off the screen. Threads call the main
-/// thread by way of it (TThread::Synchronize), so that they reach it in every message loop, those of
-/// modal forms and boxes, menus and the moving of windows too.
+/// owns the forms' windows, so that minimising it takes them all off the screen. Threads call the
+/// main thread by way of it (TThread::Synchronize), so that they reach it in every message loop,
+/// those of modal forms and boxes, menus and the moving of windows too.
 class VCL_API TApplication : public TCustomApplication {
  public:
   explicit TApplication(TComponent* owner);
@@ -47,8 +47,9 @@ class VCL_API TApplication : public TCustomApplication {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
-  /// Prepares the process: common controls, icon, title. From now on an exception that leaves `main`
-  /// (a form that can't be read, say) goes to HandleException and ends the process with exit code 1.
+  /// Prepares the process: common controls, icon, title. From now on an exception that leaves
+  /// `main` (a form that can't be read, say) goes to HandleException and ends the process with exit
+  /// code 1.
   void Initialize();
   /// Makes a form, owned by the application; the first one is the main form.
   ///
@@ -60,8 +61,9 @@ class VCL_API TApplication : public TCustomApplication {
     return form;
   }
   TCustomForm* MainForm() const { return FMainForm; }
-  /// Shows the main form, handles messages until the program is asked to end, and frees the forms that
-  /// the application owns, the last one first. Returns the exit code. Run again, it begins anew.
+  /// Shows the main form, handles messages until the program is asked to end, and frees the forms
+  /// that the application owns, the last one first. Returns the exit code. Run again, it begins
+  /// anew.
   int Run();
   /// Handles one waiting message; false when none waits.
   bool ProcessMessage();
@@ -77,8 +79,8 @@ class VCL_API TApplication : public TCustomApplication {
   void HandleException(TObject* sender, const std::exception& error) override;
   /// Shows the error's text in a box. An error that arrives while a box is up waits for its end.
   void ShowException(const std::exception& error);
-  /// A box in front of the active window, whose buttons and picture are MB_... flags; IDOK, IDYES and
-  /// so on are its answers. See the system's MessageBox for the flags and the answer.
+  /// A box in front of the active window, whose buttons and picture are MB_... flags; IDOK, IDYES
+  /// and so on are its answers. See the system's MessageBox for the flags and the answer.
   int MessageBox(const std::string& text, const std::string& caption, int flags) override;
 
   /// The application's own window, which owns the forms, and the boxes when no form is there.

@@ -121,8 +121,7 @@ void TApplication::SetMouseControl(TControl* control) {
   // FMouseControl is null by now when the handler has freed the control.
   if (FMouseControl) FMouseControl->Perform(CM_MOUSEENTER);
   const TControl* hinted = FMouseControl;
-  while (hinted && hinted->Hint().empty())
-    hinted = hinted->Parent();
+  while (hinted && hinted->Hint().empty()) hinted = hinted->Parent();
   SetHint(hinted ? GetLongHint(hinted->Hint()) : std::string());
 }
 

@@ -38,13 +38,16 @@ struct TBevelPainter {
 }  // namespace
 
 const TClass& TBevel::Class() {
-  static const TClass info = Describe<TBevel, TGraphicControl>("TBevel", "extctrls", {
-      Inherit("Align"), Inherit("ParentShowHint"),
-      Property<&TBevel::Shape, &TBevel::SetShape>("Shape").Default(bsBox),
-      Inherit("ShowHint"),
-      Property<&TBevel::Style, &TBevel::SetStyle>("Style").Default(bsLowered),
-      Inherit("Visible"),
-  });
+  static const TClass info = Describe<TBevel, TGraphicControl>(
+      "TBevel", "extctrls",
+      {
+          Inherit("Align"),
+          Inherit("ParentShowHint"),
+          Property<&TBevel::Shape, &TBevel::SetShape>("Shape").Default(bsBox),
+          Inherit("ShowHint"),
+          Property<&TBevel::Style, &TBevel::SetStyle>("Style").Default(bsLowered),
+          Inherit("Visible"),
+      });
   return info;
 }
 
@@ -71,21 +74,15 @@ void TBevel::Paint() {
   const int right = Width() - 1;
   const int bottom = Height() - 1;
   switch (FShape) {
-    case bsBox:
-      return paint.Box(paint.Dark, paint.Light, {0, 0, right, bottom});
+    case bsBox: return paint.Box(paint.Dark, paint.Light, {0, 0, right, bottom});
     case bsFrame:
       paint.Box(paint.Light, paint.Light, {1, 1, right, bottom});
       return paint.Box(paint.Dark, paint.Dark, {0, 0, right - 1, bottom - 1});
-    case bsTopLine:
-      return paint.Horizontal(0, Width());
-    case bsBottomLine:
-      return paint.Horizontal(bottom - 1, Width());
-    case bsLeftLine:
-      return paint.Vertical(0, Height());
-    case bsRightLine:
-      return paint.Vertical(right - 1, Height());
-    case bsSpacer:
-      return;
+    case bsTopLine: return paint.Horizontal(0, Width());
+    case bsBottomLine: return paint.Horizontal(bottom - 1, Width());
+    case bsLeftLine: return paint.Vertical(0, Height());
+    case bsRightLine: return paint.Vertical(right - 1, Height());
+    case bsSpacer: return;
   }
 }
 

@@ -10,18 +10,22 @@ namespace vcl {
 
 const TClass& TBitBtn::Class() {
   using T = TBitBtn;
-  static const TClass info = Describe<T, TButton>("TBitBtn", "buttons", {
-      Inherit("Cancel").StoredIf<&T::IsCustom>(),
-      Inherit("Caption").StoredIf<&T::IsCaptionStored>(),
-      Inherit("Default").StoredIf<&T::IsCustom>(),
-      Property<&T::Glyph, &T::SetGlyph>("Glyph").StoredIf<&T::IsCustom>(),
-      Property<&T::Kind, &T::SetKind>("Kind").Default(bkCustom),
-      Property<&T::Layout, &T::SetLayout>("Layout").Default(blGlyphLeft),
-      Property<&T::Margin, &T::SetMargin>("Margin").Default(-1),
-      Inherit("ModalResult").StoredIf<&T::IsCustom>(),
-      Property<&T::NumGlyphs, &T::SetNumGlyphs>("NumGlyphs").Default(1).StoredIf<&T::IsCustom>(),
-      Property<&T::Spacing, &T::SetSpacing>("Spacing").Default(4),
-  });
+  static const TClass info =
+      Describe<T, TButton>("TBitBtn", "buttons",
+                           {
+                               Inherit("Cancel").StoredIf<&T::IsCustom>(),
+                               Inherit("Caption").StoredIf<&T::IsCaptionStored>(),
+                               Inherit("Default").StoredIf<&T::IsCustom>(),
+                               Property<&T::Glyph, &T::SetGlyph>("Glyph").StoredIf<&T::IsCustom>(),
+                               Property<&T::Kind, &T::SetKind>("Kind").Default(bkCustom),
+                               Property<&T::Layout, &T::SetLayout>("Layout").Default(blGlyphLeft),
+                               Property<&T::Margin, &T::SetMargin>("Margin").Default(-1),
+                               Inherit("ModalResult").StoredIf<&T::IsCustom>(),
+                               Property<&T::NumGlyphs, &T::SetNumGlyphs>("NumGlyphs")
+                                   .Default(1)
+                                   .StoredIf<&T::IsCustom>(),
+                               Property<&T::Spacing, &T::SetSpacing>("Spacing").Default(4),
+                           });
   return info;
 }
 
@@ -126,7 +130,9 @@ void TBitBtn::DrawItem(const DRAWITEMSTRUCT& item) {
   if (down) face.Offset(1, 1);
   const bool disabled = item.itemState & ODS_DISABLED;
   FFace.Draw(FCanvas.get(), face, Caption(),
-             disabled ? TFaceState::Disabled : down ? TFaceState::Down : TFaceState::Up);
+             disabled ? TFaceState::Disabled
+             : down   ? TFaceState::Down
+                      : TFaceState::Up);
   if (!focused) return;
   face.Inflate(-1, -1);
   FCanvas->Font()->SetColor(clWindowFrame);

@@ -6,11 +6,11 @@ namespace vcl {
 namespace {
 
 constexpr TBitBtnTraits Traits[] = {
-    {"", mrNone, false, false},         {"OK", mrOk, true, false},
-    {"Cancel", mrCancel, false, true},  {"&Help", mrNone, false, false},
-    {"&Yes", mrYes, true, false},       {"&No", mrNo, false, true},
-    {"&Close", mrNone, false, false},   {"Abort", mrAbort, false, false},
-    {"&Retry", mrRetry, false, false},  {"&Ignore", mrIgnore, false, false},
+    {"", mrNone, false, false},        {"OK", mrOk, true, false},
+    {"Cancel", mrCancel, false, true}, {"&Help", mrNone, false, false},
+    {"&Yes", mrYes, true, false},      {"&No", mrNo, false, true},
+    {"&Close", mrNone, false, false},  {"Abort", mrAbort, false, false},
+    {"&Retry", mrRetry, false, false}, {"&Ignore", mrIgnore, false, false},
     {"&All", mrAll, false, false},
 };
 
@@ -28,7 +28,8 @@ constexpr TPoint SecondCheck[] = {{3, 13}, {7, 17}, {15, 8}};
 constexpr TPoint HigherCheck[] = {{3, 5}, {7, 9}, {15, 0}};
 constexpr TPoint Falling[] = {{4, 4}, {14, 14}};
 constexpr TPoint Rising[] = {{4, 14}, {14, 4}};
-constexpr TPoint Ring[] = {{6, 2}, {12, 2}, {16, 6}, {16, 12}, {12, 16}, {6, 16}, {2, 12}, {2, 6}, {6, 2}};
+constexpr TPoint Ring[] = {{6, 2},  {12, 2}, {16, 6}, {16, 12}, {12, 16},
+                           {6, 16}, {2, 12}, {2, 6},  {6, 2}};
 constexpr TPoint Bar[] = {{4, 13}, {13, 4}};
 constexpr TPoint Hook[] = {{5, 6}, {6, 3}, {11, 3}, {13, 5}, {12, 8}, {9, 10}, {9, 12}};
 constexpr TPoint Dot[] = {{9, 15}, {9, 16}};
@@ -53,7 +54,7 @@ constexpr TStroke IgnoreStrokes[] = {{clTeal, FirstAngle}, {clTeal, SecondAngle}
 constexpr TStroke AllStrokes[] = {{clGreen, HigherCheck}, {clGreen, SecondCheck}};
 
 constexpr std::span<const TStroke> Drawings[] = {
-    {},        OkStrokes,    CancelStrokes, HelpStrokes,  OkStrokes, NoStrokes,
+    {},           OkStrokes,    CancelStrokes, HelpStrokes,   OkStrokes,  NoStrokes,
     CloseStrokes, AbortStrokes, RetryStrokes,  IgnoreStrokes, AllStrokes,
 };
 

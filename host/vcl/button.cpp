@@ -36,19 +36,38 @@ void TButtonControl::Dispatch(TMessage& message) {
 }
 
 const TClass& TButton::Class() {
-  static const TClass info = Describe<TButton, TButtonControl>("TButton", "stdctrls", {
-      Property<&TButton::Cancel, &TButton::SetCancel>("Cancel").Default(false),
-      Inherit("Caption"),
-      Property<&TButton::Default, &TButton::SetDefault>("Default").Default(false),
-      Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"), Inherit("Font"),
-      Property<&TButton::ModalResult, &TButton::SetModalResult>("ModalResult").Default(mrNone),
-      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"),
-      Inherit("TabOrder"), Inherit("TabStop").Default(true), Inherit("Visible"),
-      Inherit("OnClick"), Inherit("OnDragDrop"), Inherit("OnDragOver"), Inherit("OnEndDrag"),
-      Inherit("OnEnter"), Inherit("OnExit"), Inherit("OnKeyDown"), Inherit("OnKeyPress"),
-      Inherit("OnKeyUp"), Inherit("OnMouseDown"), Inherit("OnMouseMove"), Inherit("OnMouseUp"),
-      Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<TButton, TButtonControl>(
+      "TButton", "stdctrls",
+      {
+          Property<&TButton::Cancel, &TButton::SetCancel>("Cancel").Default(false),
+          Inherit("Caption"),
+          Property<&TButton::Default, &TButton::SetDefault>("Default").Default(false),
+          Inherit("DragCursor"),
+          Inherit("DragMode"),
+          Inherit("Enabled"),
+          Inherit("Font"),
+          Property<&TButton::ModalResult, &TButton::SetModalResult>("ModalResult").Default(mrNone),
+          Inherit("ParentFont"),
+          Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),
+          Inherit("ShowHint"),
+          Inherit("TabOrder"),
+          Inherit("TabStop").Default(true),
+          Inherit("Visible"),
+          Inherit("OnClick"),
+          Inherit("OnDragDrop"),
+          Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),
+          Inherit("OnEnter"),
+          Inherit("OnExit"),
+          Inherit("OnKeyDown"),
+          Inherit("OnKeyPress"),
+          Inherit("OnKeyUp"),
+          Inherit("OnMouseDown"),
+          Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),
+          Inherit("OnStartDrag"),
+      });
   return info;
 }
 
@@ -90,8 +109,8 @@ void TButton::SetButtonStyle(bool active) {
 }
 
 bool TButton::TakesDialogKey(const TMessage& message) const {
-  const bool mine = (message.WParam == VK_RETURN && FActive) ||
-                    (message.WParam == VK_ESCAPE && FCancel);
+  const bool mine =
+      (message.WParam == VK_RETURN && FActive) || (message.WParam == VK_ESCAPE && FCancel);
   return mine && KeyDataToShiftState(message.LParam).Empty() && CanFocus();
 }
 

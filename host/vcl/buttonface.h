@@ -23,7 +23,8 @@ enum TNumGlyphs : std::int8_t {};
 template <>
 inline constexpr TIntegerText IntegerText<TNumGlyphs>{"TNumGlyphs"};
 
-/// A button's states, in the order of the images in its glyph. Exclusive is a button that stays down.
+/// A button's states, in the order of the images in its glyph. Exclusive is a button that stays
+/// down.
 enum class TFaceState { Up, Disabled, Down, Exclusive };
 
 /// What a button shows. Its glyph is a row of images of one size for the states above; a state

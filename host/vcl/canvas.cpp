@@ -112,8 +112,7 @@ void TOnDemandCanvas::FreeHandle() {
 }
 
 void FreeDeviceContexts() {
-  while (!Holders().empty())
-    Holders().back()->FreeHandle();
+  while (!Holders().empty()) Holders().back()->FreeHandle();
 }
 
 }  // namespace vcl

@@ -13,28 +13,36 @@ DWORD TextSide(TAlignment alignment) { return alignment == taLeftJustify ? BS_LE
 
 const TClass& TCustomCheckBox::Class() {
   using T = TCustomCheckBox;
-  static const TClass info = Describe<T, TButtonControl>("TCustomCheckBox", "stdctrls", {
-      LeftOrRight(Property<&T::Alignment, &T::SetAlignment>("Alignment"))
-          .Default(taRightJustify).Unpublished(),
-      Property<&T::AllowGrayed, &T::SetAllowGrayed>("AllowGrayed").Default(false).Unpublished(),
-      Property<&T::Checked, &T::SetChecked>("Checked").Default(false).Unpublished(),
-      Property<&T::State, &T::SetState>("State").Default(cbUnchecked).Unpublished(),
-      Inherit("TabStop").Default(true),
-  });
+  static const TClass info = Describe<T, TButtonControl>(
+      "TCustomCheckBox", "stdctrls",
+      {
+          LeftOrRight(Property<&T::Alignment, &T::SetAlignment>("Alignment"))
+              .Default(taRightJustify)
+              .Unpublished(),
+          Property<&T::AllowGrayed, &T::SetAllowGrayed>("AllowGrayed").Default(false).Unpublished(),
+          Property<&T::Checked, &T::SetChecked>("Checked").Default(false).Unpublished(),
+          Property<&T::State, &T::SetState>("State").Default(cbUnchecked).Unpublished(),
+          Inherit("TabStop").Default(true),
+      });
   return info;
 }
 
 const TClass& TCheckBox::Class() {
-  static const TClass info = Describe<TCheckBox, TCustomCheckBox>("TCheckBox", "stdctrls", {
-      Inherit("Alignment"), Inherit("AllowGrayed"), Inherit("Caption"), Inherit("Checked"),
-      Inherit("Color"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
-      Inherit("Font"), Inherit("ParentColor"), Inherit("ParentFont"), Inherit("ParentShowHint"),
-      Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("State"), Inherit("TabOrder"),
-      Inherit("TabStop"), Inherit("Visible"), Inherit("OnClick"), Inherit("OnDragDrop"),
-      Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"),
-      Inherit("OnKeyDown"), Inherit("OnKeyPress"), Inherit("OnKeyUp"), Inherit("OnMouseDown"),
-      Inherit("OnMouseMove"), Inherit("OnMouseUp"), Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<TCheckBox, TCustomCheckBox>(
+      "TCheckBox", "stdctrls",
+      {
+          Inherit("Alignment"),   Inherit("AllowGrayed"), Inherit("Caption"),
+          Inherit("Checked"),     Inherit("Color"),       Inherit("DragCursor"),
+          Inherit("DragMode"),    Inherit("Enabled"),     Inherit("Font"),
+          Inherit("ParentColor"), Inherit("ParentFont"),  Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),   Inherit("ShowHint"),    Inherit("State"),
+          Inherit("TabOrder"),    Inherit("TabStop"),     Inherit("Visible"),
+          Inherit("OnClick"),     Inherit("OnDragDrop"),  Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),   Inherit("OnEnter"),     Inherit("OnExit"),
+          Inherit("OnKeyDown"),   Inherit("OnKeyPress"),  Inherit("OnKeyUp"),
+          Inherit("OnMouseDown"), Inherit("OnMouseMove"), Inherit("OnMouseUp"),
+          Inherit("OnStartDrag"),
+      });
   return info;
 }
 
@@ -81,24 +89,45 @@ void TCustomCheckBox::AccelPressed() {
 
 const TClass& TRadioButton::Class() {
   using T = TRadioButton;
-  static const TClass info = Describe<T, TButtonControl>("TRadioButton", "stdctrls", {
-      LeftOrRight(Property<&T::Alignment, &T::SetAlignment>("Alignment")).Default(taRightJustify),
-      Inherit("Caption"),
-      Property<&T::Checked, &T::SetChecked>("Checked").Default(false),
-      Inherit("Color"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
-      Inherit("Font"), Inherit("ParentColor"), Inherit("ParentFont"), Inherit("ParentShowHint"),
-      Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("TabOrder"), Inherit("TabStop"),
-      Inherit("Visible"), Inherit("OnClick"), Inherit("OnDblClick"), Inherit("OnDragDrop"),
-      Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"),
-      Inherit("OnKeyDown"), Inherit("OnKeyPress"), Inherit("OnKeyUp"), Inherit("OnMouseDown"),
-      Inherit("OnMouseMove"), Inherit("OnMouseUp"), Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<T, TButtonControl>(
+      "TRadioButton", "stdctrls",
+      {
+          LeftOrRight(Property<&T::Alignment, &T::SetAlignment>("Alignment"))
+              .Default(taRightJustify),
+          Inherit("Caption"),
+          Property<&T::Checked, &T::SetChecked>("Checked").Default(false),
+          Inherit("Color"),
+          Inherit("DragCursor"),
+          Inherit("DragMode"),
+          Inherit("Enabled"),
+          Inherit("Font"),
+          Inherit("ParentColor"),
+          Inherit("ParentFont"),
+          Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),
+          Inherit("ShowHint"),
+          Inherit("TabOrder"),
+          Inherit("TabStop"),
+          Inherit("Visible"),
+          Inherit("OnClick"),
+          Inherit("OnDblClick"),
+          Inherit("OnDragDrop"),
+          Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),
+          Inherit("OnEnter"),
+          Inherit("OnExit"),
+          Inherit("OnKeyDown"),
+          Inherit("OnKeyPress"),
+          Inherit("OnKeyUp"),
+          Inherit("OnMouseDown"),
+          Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),
+          Inherit("OnStartDrag"),
+      });
   return info;
 }
 
-TRadioButton::TRadioButton(TComponent* owner) : TButtonControl(owner) {
-  SetBounds(0, 0, 113, 17);
-}
+TRadioButton::TRadioButton(TComponent* owner) : TButtonControl(owner) { SetBounds(0, 0, 113, 17); }
 
 void TRadioButton::SetAlignment(TAlignment alignment) {
   CheckLeftOrRight(alignment);
@@ -144,8 +173,8 @@ void TRadioButton::Dispatch(TMessage& message) {
   TWatch watch(this);
   TButtonControl::Dispatch(message);
   // The keyboard checks what it goes to. Windows' own radio buttons ask for that, Wine's do not.
-  const bool byKeyboard = message.Msg == WM_SETFOCUS && !watch.Gone() &&
-                          !ControlState().Has(csLButtonDown);
+  const bool byKeyboard =
+      message.Msg == WM_SETFOCUS && !watch.Gone() && !ControlState().Has(csLButtonDown);
   if (byKeyboard) SetChecked(true);
 }
 

@@ -15,31 +15,40 @@ namespace vcl {
 
 const TClass& TCustomComboBox::Class() {
   using T = TCustomComboBox;
-  static const TClass info = Describe<T, TCustomListControl>("TCustomComboBox", "stdctrls", {
-      Property<&T::Style, &T::SetStyle>("Style").Default(csDropDown).Unpublished(),
-      Property<&T::DropDownCount, &T::SetDropDownCount>("DropDownCount").Default(8).Unpublished(),
-      Property<&T::MaxLength, &T::SetMaxLength>("MaxLength").Default(0).Unpublished(),
-      Event<&T::OnChange>("OnChange").Unpublished(),
-      Event<&T::OnCloseUp>("OnCloseUp").Unpublished(),
-      Event<&T::OnDropDown>("OnDropDown").Unpublished(),
-  });
+  static const TClass info = Describe<T, TCustomListControl>(
+      "TCustomComboBox", "stdctrls",
+      {
+          Property<&T::Style, &T::SetStyle>("Style").Default(csDropDown).Unpublished(),
+          Property<&T::DropDownCount, &T::SetDropDownCount>("DropDownCount")
+              .Default(8)
+              .Unpublished(),
+          Property<&T::MaxLength, &T::SetMaxLength>("MaxLength").Default(0).Unpublished(),
+          Event<&T::OnChange>("OnChange").Unpublished(),
+          Event<&T::OnCloseUp>("OnCloseUp").Unpublished(),
+          Event<&T::OnDropDown>("OnDropDown").Unpublished(),
+      });
   return info;
 }
 
 const TClass& TComboBox::Class() {
-  static const TClass info = Describe<TComboBox, TCustomComboBox>("TComboBox", "stdctrls", {
-      Inherit("Style"), Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"),
-      Inherit("DragMode"), Inherit("DropDownCount"), Inherit("Enabled"), Inherit("Font"),
-      Inherit("ImeMode"), Inherit("ImeName"), Inherit("ItemHeight"), Inherit("MaxLength"),
-      Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"),
-      Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("Sorted"),
-      Inherit("TabOrder"), Inherit("TabStop"), Inherit("Text"), Inherit("Visible"),
-      Inherit("OnChange"), Inherit("OnClick"), Inherit("OnCloseUp"), Inherit("OnDblClick"),
-      Inherit("OnDragDrop"), Inherit("OnDragOver"), Inherit("OnDrawItem"), Inherit("OnDropDown"),
-      Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"), Inherit("OnKeyDown"),
-      Inherit("OnKeyPress"), Inherit("OnKeyUp"), Inherit("OnStartDrag"), Inherit("Items"),
-      Inherit("ItemIndex"),
-  });
+  static const TClass info = Describe<TComboBox, TCustomComboBox>(
+      "TComboBox", "stdctrls",
+      {
+          Inherit("Style"),          Inherit("Color"),       Inherit("Ctl3D"),
+          Inherit("DragCursor"),     Inherit("DragMode"),    Inherit("DropDownCount"),
+          Inherit("Enabled"),        Inherit("Font"),        Inherit("ImeMode"),
+          Inherit("ImeName"),        Inherit("ItemHeight"),  Inherit("MaxLength"),
+          Inherit("ParentColor"),    Inherit("ParentCtl3D"), Inherit("ParentFont"),
+          Inherit("ParentShowHint"), Inherit("PopupMenu"),   Inherit("ShowHint"),
+          Inherit("Sorted"),         Inherit("TabOrder"),    Inherit("TabStop"),
+          Inherit("Text"),           Inherit("Visible"),     Inherit("OnChange"),
+          Inherit("OnClick"),        Inherit("OnCloseUp"),   Inherit("OnDblClick"),
+          Inherit("OnDragDrop"),     Inherit("OnDragOver"),  Inherit("OnDrawItem"),
+          Inherit("OnDropDown"),     Inherit("OnEndDrag"),   Inherit("OnEnter"),
+          Inherit("OnExit"),         Inherit("OnKeyDown"),   Inherit("OnKeyPress"),
+          Inherit("OnKeyUp"),        Inherit("OnStartDrag"), Inherit("Items"),
+          Inherit("ItemIndex"),
+      });
   return info;
 }
 
@@ -231,18 +240,12 @@ void TCustomComboBox::ItemChosen() {
 
 void TCustomComboBox::CommandFromWindow(TMessage& message) {
   switch (HIWORD(message.WParam)) {
-    case CBN_DBLCLK:
-      return DblClick();
-    case CBN_EDITCHANGE:
-      return Change();
-    case CBN_SELCHANGE:
-      return ItemChosen();
-    case CBN_CLOSEUP:
-      return CloseUp();
-    case CBN_DROPDOWN:
-      return DropDown();
-    default:
-      return;
+    case CBN_DBLCLK: return DblClick();
+    case CBN_EDITCHANGE: return Change();
+    case CBN_SELCHANGE: return ItemChosen();
+    case CBN_CLOSEUP: return CloseUp();
+    case CBN_DROPDOWN: return DropDown();
+    default: return;
   }
 }
 

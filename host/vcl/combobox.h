@@ -8,9 +8,9 @@
 namespace vcl {
 
 enum TComboBoxStyle {
-  csDropDown,      ///< An edit with a list that drops down.
-  csSimple,        ///< An edit with a list below it.
-  csDropDownList,  ///< The text is one of the items.
+  csDropDown,       ///< An edit with a list that drops down.
+  csSimple,         ///< An edit with a list below it.
+  csDropDownList,   ///< The text is one of the items.
   csOwnerDrawFixed  ///< Like csDropDownList, with the items drawn by OnDrawItem.
 };
 template <>

@@ -22,7 +22,9 @@ const TClass& TControl::Class() {
           Property<&TControl::Cursor, &TControl::SetCursor>("Cursor").Default(crDefault),
           Property<&TControl::Hint, &TControl::SetHint>("Hint").Default(std::string()),
           Property<&TControl::Align, &TControl::SetAlign>("Align").Default(alNone).Unpublished(),
-          Property<&TControl::Caption, &TControl::SetCaption>("Caption").Type("TCaption").Unpublished(),
+          Property<&TControl::Caption, &TControl::SetCaption>("Caption")
+              .Type("TCaption")
+              .Unpublished(),
           Property<&TControl::Text, &TControl::SetText>("Text").Type("TCaption").Unpublished(),
           Property<&TControl::Color, &TControl::SetColor>("Color")
               .Default(clWindow)
@@ -43,8 +45,12 @@ const TClass& TControl::Class() {
           Property<&TControl::ParentShowHint, &TControl::SetParentShowHint>("ParentShowHint")
               .Default(true)
               .Unpublished(),
-          Property<&TControl::Enabled, &TControl::SetEnabled>("Enabled").Default(true).Unpublished(),
-          Property<&TControl::Visible, &TControl::SetVisible>("Visible").Default(true).Unpublished(),
+          Property<&TControl::Enabled, &TControl::SetEnabled>("Enabled")
+              .Default(true)
+              .Unpublished(),
+          Property<&TControl::Visible, &TControl::SetVisible>("Visible")
+              .Default(true)
+              .Unpublished(),
           Property<&TControl::DragCursor, &TControl::SetDragCursor>("DragCursor")
               .Default(crDrag)
               .Unpublished(),
@@ -352,6 +358,5 @@ void TControl::Loaded() {
   TComponent::Loaded();
   RequestAlign();
 }
-
 
 }  // namespace vcl

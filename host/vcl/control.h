@@ -59,8 +59,8 @@ class VCL_API TControl : public TComponent {
   /// Changes the size so that the inner rectangle gets the given one.
   void SetClientWidth(int width) { SetClientSize(width, ClientHeight()); }
   void SetClientHeight(int height) { SetClientSize(ClientWidth(), height); }
-  /// The screen's position of the inner rectangle's top left. Raises EInvalidOperation for a control
-  /// without a parent.
+  /// The screen's position of the inner rectangle's top left. Raises EInvalidOperation for a
+  /// control without a parent.
   virtual TPoint ClientOrigin() const;
   TPoint ClientToScreen(TPoint point) const;
   TPoint ScreenToClient(TPoint point) const;
@@ -129,7 +129,8 @@ class VCL_API TControl : public TComponent {
   /// Where every message to the control arrives. The inherited method turns mouse messages into
   /// clicks and drags and dispatches the rest.
   virtual void WndProc(TMessage& message);
-  /// A device context for the control's client rectangle, from the window it lies in, and that window.
+  /// A device context for the control's client rectangle, from the window it lies in, and that
+  /// window.
   virtual HDC GetDeviceContext(HWND& window);
 
   // Drag and drop.
@@ -137,8 +138,8 @@ class VCL_API TControl : public TComponent {
   void SetDragMode(TDragMode mode) { FDragMode = mode; }
   TCursor DragCursor() const { return FDragCursor; }
   void SetDragCursor(TCursor cursor) { FDragCursor = cursor; }
-  /// Begins to drag the control: at once, or when the mouse has moved by `threshold` pixels with the
-  /// button down (a negative one is the system's).
+  /// Begins to drag the control: at once, or when the mouse has moved by `threshold` pixels with
+  /// the button down (a negative one is the system's).
   void BeginDrag(bool immediate, int threshold = -1);
   /// Ends this control's drag with a drop, or cancels it.
   void EndDrag(bool drop);

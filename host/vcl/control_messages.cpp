@@ -10,7 +10,8 @@
 namespace vcl {
 namespace {
 
-/// The control without a window that the mouse is captured for; its parent's window has the capture.
+/// The control without a window that the mouse is captured for; its parent's window has the
+/// capture.
 TControl* capturedControl = nullptr;
 
 }  // namespace
@@ -53,14 +54,10 @@ namespace {
 /// A control that wants no double clicks gets another press instead.
 UINT PlainPress(UINT message) {
   switch (message) {
-    case WM_LBUTTONDBLCLK:
-      return WM_LBUTTONDOWN;
-    case WM_RBUTTONDBLCLK:
-      return WM_RBUTTONDOWN;
-    case WM_MBUTTONDBLCLK:
-      return WM_MBUTTONDOWN;
-    default:
-      return message;
+    case WM_LBUTTONDBLCLK: return WM_LBUTTONDOWN;
+    case WM_RBUTTONDBLCLK: return WM_RBUTTONDOWN;
+    case WM_MBUTTONDBLCLK: return WM_MBUTTONDOWN;
+    default: return message;
   }
 }
 
@@ -86,36 +83,27 @@ void TControl::DefaultHandler(TMessage&) {}
 
 bool TControl::DispatchMouse(TMessage& message) {
   switch (message.Msg) {
-    case WM_LBUTTONDOWN:
-      return MouseButtonDown(message, mbLeft, {}), true;
-    case WM_RBUTTONDOWN:
-      return MouseButtonDown(message, mbRight, {}), true;
-    case WM_MBUTTONDOWN:
-      return MouseButtonDown(message, mbMiddle, {}), true;
-    case WM_LBUTTONDBLCLK:
-      return MouseButtonDown(message, mbLeft, {ssDouble}), true;
-    case WM_RBUTTONDBLCLK:
-      return MouseButtonDown(message, mbRight, {ssDouble}), true;
-    case WM_MBUTTONDBLCLK:
-      return MouseButtonDown(message, mbMiddle, {ssDouble}), true;
-    case WM_LBUTTONUP:
-      return MouseButtonUp(message, mbLeft), true;
-    case WM_RBUTTONUP:
-      return MouseButtonUp(message, mbRight), true;
-    case WM_MBUTTONUP:
-      return MouseButtonUp(message, mbMiddle), true;
+    case WM_LBUTTONDOWN: return MouseButtonDown(message, mbLeft, {}), true;
+    case WM_RBUTTONDOWN: return MouseButtonDown(message, mbRight, {}), true;
+    case WM_MBUTTONDOWN: return MouseButtonDown(message, mbMiddle, {}), true;
+    case WM_LBUTTONDBLCLK: return MouseButtonDown(message, mbLeft, {ssDouble}), true;
+    case WM_RBUTTONDBLCLK: return MouseButtonDown(message, mbRight, {ssDouble}), true;
+    case WM_MBUTTONDBLCLK: return MouseButtonDown(message, mbMiddle, {ssDouble}), true;
+    case WM_LBUTTONUP: return MouseButtonUp(message, mbLeft), true;
+    case WM_RBUTTONUP: return MouseButtonUp(message, mbRight), true;
+    case WM_MBUTTONUP: return MouseButtonUp(message, mbMiddle), true;
     case WM_MOUSEMOVE: {
       TWatch watch(this);
       DefaultHandler(message);
-      if (!watch.Gone()) MouseMove(KeysToShiftState(message.WParam), message.XPos(), message.YPos());
+      if (!watch.Gone())
+        MouseMove(KeysToShiftState(message.WParam), message.XPos(), message.YPos());
       return true;
     }
     case WM_CANCELMODE:
       ExcludeState(csClicked);
       if (MouseCapture()) SetMouseCapture(false);
       return false;
-    default:
-      return false;
+    default: return false;
   }
 }
 
@@ -182,13 +170,9 @@ void TControl::DispatchNotice(TMessage& message) {
     case CM_FONTCHANGED:
     case CM_COLORCHANGED:
     case CM_ENABLEDCHANGED:
-    case CM_SYSCOLORCHANGE:
-      return Invalidate();
-    case CM_HITTEST:
-      message.Result = 1;
-      return;
-    default:
-      return;
+    case CM_SYSCOLORCHANGE: return Invalidate();
+    case CM_HITTEST: message.Result = 1; return;
+    default: return;
   }
 }
 

@@ -14,19 +14,19 @@ struct TIdent {
 };
 
 constexpr TIdent Cursors[] = {
-    {crDefault, "crDefault"},     {crNone, "crNone"},           {crArrow, "crArrow"},
-    {crCross, "crCross"},         {crIBeam, "crIBeam"},         {crSize, "crSize"},
-    {crSizeNESW, "crSizeNESW"},   {crSizeNS, "crSizeNS"},       {crSizeNWSE, "crSizeNWSE"},
-    {crSizeWE, "crSizeWE"},       {crUpArrow, "crUpArrow"},     {crHourGlass, "crHourGlass"},
-    {crDrag, "crDrag"},           {crNoDrop, "crNoDrop"},       {crHSplit, "crHSplit"},
-    {crVSplit, "crVSplit"},       {crMultiDrag, "crMultiDrag"}, {crNo, "crNo"},
-    {crAppStart, "crAppStart"},   {crHelp, "crHelp"},           {crHandPoint, "crHandPoint"},
+    {crDefault, "crDefault"},   {crNone, "crNone"},           {crArrow, "crArrow"},
+    {crCross, "crCross"},       {crIBeam, "crIBeam"},         {crSize, "crSize"},
+    {crSizeNESW, "crSizeNESW"}, {crSizeNS, "crSizeNS"},       {crSizeNWSE, "crSizeNWSE"},
+    {crSizeWE, "crSizeWE"},     {crUpArrow, "crUpArrow"},     {crHourGlass, "crHourGlass"},
+    {crDrag, "crDrag"},         {crNoDrop, "crNoDrop"},       {crHSplit, "crHSplit"},
+    {crVSplit, "crVSplit"},     {crMultiDrag, "crMultiDrag"}, {crNo, "crNo"},
+    {crAppStart, "crAppStart"}, {crHelp, "crHelp"},           {crHandPoint, "crHandPoint"},
 };
 
 constexpr TIdent ModalResults[] = {
-    {mrNone, "mrNone"},   {mrOk, "mrOk"},         {mrCancel, "mrCancel"}, {mrAbort, "mrAbort"},
-    {mrRetry, "mrRetry"}, {mrIgnore, "mrIgnore"}, {mrYes, "mrYes"},       {mrNo, "mrNo"},
-    {mrAll, "mrAll"},
+    {mrNone, "mrNone"},   {mrOk, "mrOk"},       {mrCancel, "mrCancel"},
+    {mrAbort, "mrAbort"}, {mrRetry, "mrRetry"}, {mrIgnore, "mrIgnore"},
+    {mrYes, "mrYes"},     {mrNo, "mrNo"},       {mrAll, "mrAll"},
 };
 
 std::optional<std::string> NameOf(std::span<const TIdent> idents, std::int64_t value) {
@@ -66,7 +66,7 @@ TShiftState KeysToShiftState(WPARAM keys) {
     WPARAM Flag;
     TShiftStateValue State;
   } flags[] = {
-      {MK_SHIFT, ssShift}, {MK_CONTROL, ssCtrl},  {MK_LBUTTON, ssLeft},
+      {MK_SHIFT, ssShift},   {MK_CONTROL, ssCtrl},   {MK_LBUTTON, ssLeft},
       {MK_RBUTTON, ssRight}, {MK_MBUTTON, ssMiddle},
   };
   TShiftState state;

@@ -1,5 +1,5 @@
-// The small types of controls: alignment, cursors, mouse and keyboard state, styles, and the types of
-// their events.
+// The small types of controls: alignment, cursors, mouse and keyboard state, styles, and the types
+// of their events.
 #pragma once
 
 #include <cstdint>
@@ -79,9 +79,9 @@ template <>
 inline constexpr TIntegerText IntegerText<TModalResult>{"TModalResult", &ModalResultToIdent,
                                                         &IdentToModalResult};
 
-/// The state of a Far Eastern input method while a control has the focus: without one, closed, open,
-/// as it is, or open and converting to Latin letters, Hiragana, Katakana (half-width with an S),
-/// Chinese or Hangul.
+/// The state of a Far Eastern input method while a control has the focus: without one, closed,
+/// open, as it is, or open and converting to Latin letters, Hiragana, Katakana (half-width with an
+/// S), Chinese or Hangul.
 enum TImeMode {
   imDisable,
   imClose,
@@ -119,15 +119,15 @@ enum TControlStyleValue {
   csAcceptsControls,  ///< The designer may put other controls inside.
   csCaptureMouse,     ///< The mouse is captured while a button is down.
   csDesignInteractive,
-  csClickEvents,      ///< A click of the left button is a Click.
+  csClickEvents,  ///< A click of the left button is a Click.
   csFramed,
-  csSetCaption,       ///< The caption follows the name while they are equal.
-  csOpaque,           ///< Fills its whole rectangle; what is behind need not be painted.
+  csSetCaption,  ///< The caption follows the name while they are equal.
+  csOpaque,      ///< Fills its whole rectangle; what is behind need not be painted.
   csDoubleClicks,
   csFixedWidth,
   csFixedHeight,
   csNoDesignVisible,
-  csReplicatable,     ///< PaintTo works for it.
+  csReplicatable,  ///< PaintTo works for it.
   csNoStdEvents,
   csDisplayDragImage,
   csReflector,
@@ -138,14 +138,14 @@ using TControlStyle = TSet<TControlStyleValue>;
 
 enum TControlStateValue {
   csLButtonDown,
-  csClicked,        ///< A press that may become a click.
+  csClicked,  ///< A press that may become a click.
   csPalette,
-  csReadingState,   ///< Being read from a form file.
+  csReadingState,  ///< Being read from a form file.
   csAlignmentNeeded,
   csFocusing,
-  csCreating,       ///< The window is being made.
+  csCreating,  ///< The window is being made.
   csPaintCopy,
-  csCustomPaint,    ///< Painted by PaintWindow rather than by the window's own procedure.
+  csCustomPaint,  ///< Painted by PaintWindow rather than by the window's own procedure.
   csDestroyingHandle,
 };
 using TControlState = TSet<TControlStateValue>;

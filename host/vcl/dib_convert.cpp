@@ -20,8 +20,7 @@ TPalette ManyColors() {
   for (std::uint32_t i = 0; i < 216; ++i) {
     colors.push_back(i / 36 * 0x33 << 16 | i / 6 % 6 * 0x33 << 8 | i % 6 * 0x33);
   }
-  for (std::uint32_t grey = 5; colors.size() < 256; grey += 10)
-    colors.push_back(grey * 0x010101);
+  for (std::uint32_t grey = 5; colors.size() < 256; grey += 10) colors.push_back(grey * 0x010101);
   return colors;
 }
 
@@ -88,8 +87,7 @@ std::uint32_t GetPixelBits(std::span<const std::uint8_t> row, std::size_t x, int
     return row[x * bits / 8] >> shift & ((1U << bits) - 1);
   }
   std::uint32_t value = 0;
-  for (std::size_t i = bits / 8; i-- > 0;)
-    value = value << 8 | row[x * bits / 8 + i];
+  for (std::size_t i = bits / 8; i-- > 0;) value = value << 8 | row[x * bits / 8 + i];
   return value;
 }
 

@@ -38,8 +38,7 @@ constexpr TFields Fields888{0xFF0000, 0xFF00, 0xFF};
 
 std::uint32_t Little(std::span<const std::uint8_t> bytes, std::size_t at, std::size_t size) {
   std::uint32_t value = 0;
-  for (std::size_t i = size; i-- > 0;)
-    value = value << 8 | bytes[at + i];
+  for (std::size_t i = size; i-- > 0;) value = value << 8 | bytes[at + i];
   return value;
 }
 
@@ -135,8 +134,7 @@ class TReadBmp {
     if (FHeader.size() == InfoHeaderSize)
       fields = Read(FCompression == cpFields ? 12 : 16, "masks");
     FFields = {Little(fields, 0, 4), Little(fields, 4, 4), Little(fields, 8, 4)};
-    for (const std::uint32_t field : {FFields.Red, FFields.Green, FFields.Blue})
-      CheckField(field);
+    for (const std::uint32_t field : {FFields.Red, FFields.Green, FFields.Blue}) CheckField(field);
   }
 
   /// A mask is one run of bits inside the pixel.
@@ -200,8 +198,7 @@ class TReadBmp {
     usual.Height = FDib.Height;
     usual.BitCount = 32;
     usual.Allocate();
-    for (int y = 0; y < FDib.Height; ++y)
-      UseFields(FDib.Row(y), usual.Row(y));
+    for (int y = 0; y < FDib.Height; ++y) UseFields(FDib.Row(y), usual.Row(y));
     FDib = std::move(usual);
   }
 

@@ -12,8 +12,7 @@ constexpr std::uint32_t InfoHeaderSize = 40;
 constexpr std::uint32_t BitFields = 3;
 
 void Put(std::string& bytes, std::uint32_t value, int size) {
-  for (int i = 0; i < size; ++i)
-    bytes += static_cast<char>(value >> 8 * i & 0xFF);
+  for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> 8 * i & 0xFF);
 }
 
 std::string Headers(const TDib& dib) {
@@ -44,11 +43,9 @@ std::string Headers(const TDib& dib) {
 void WriteBmp(const TDib& dib, TStream& stream) {
   std::string bytes = Headers(dib);
   if (dib.SixBitGreen) {
-    for (const std::uint32_t mask : {0xF800U, 0x07E0U, 0x001FU})
-      Put(bytes, mask, 4);
+    for (const std::uint32_t mask : {0xF800U, 0x07E0U, 0x001FU}) Put(bytes, mask, 4);
   }
-  for (const std::uint32_t color : dib.Palette)
-    Put(bytes, color & 0xFFFFFF, 4);
+  for (const std::uint32_t color : dib.Palette) Put(bytes, color & 0xFFFFFF, 4);
   stream.WriteText(bytes);
   stream.WriteBuffer(dib.Bits.data(), static_cast<std::int64_t>(dib.Bits.size()));
 }

@@ -107,15 +107,11 @@ LRESULT CALLBACK TDragSession::WndProc(HWND window, UINT message, WPARAM wParam,
 
 void TDragSession::HandleMessage(UINT message) {
   switch (message) {
-    case WM_MOUSEMOVE:
-      return MouseMoved();
-    case WM_LBUTTONUP:
-      return Finish(true);
+    case WM_MOUSEMOVE: return MouseMoved();
+    case WM_LBUTTONUP: return Finish(true);
     case WM_CAPTURECHANGED:
-    case WM_CANCELMODE:
-      return Finish(false);
-    default:
-      return;
+    case WM_CANCELMODE: return Finish(false);
+    default: return;
   }
 }
 

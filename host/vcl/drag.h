@@ -7,9 +7,9 @@
 
 namespace vcl {
 
-/// What is dragged. A control that is dragged without one of its own is dragged itself: handlers get
-/// the control as their source. An object that OnStartDrag gives is freed at the end of the drag,
-/// after OnEndDrag.
+/// What is dragged. A control that is dragged without one of its own is dragged itself: handlers
+/// get the control as their source. An object that OnStartDrag gives is freed at the end of the
+/// drag, after OnEndDrag.
 class VCL_API TDragObject : public TObject {
  public:
   explicit TDragObject(TControl* control) : FControl(control) {}
@@ -25,8 +25,8 @@ class VCL_API TDragObject : public TObject {
 
 /// The one drag that can be under way. It captures the mouse with a window of its own, asks the
 /// control under the mouse (OnDragOver) and ends with a drop, a refusal, or Escape. The order of
-/// events: OnStartDrag; on each control that the mouse comes to OnDragOver with dsDragEnter, dsDragMove
-/// and dsDragLeave; OnDragDrop on the target that has accepted; OnEndDrag.
+/// events: OnStartDrag; on each control that the mouse comes to OnDragOver with dsDragEnter,
+/// dsDragMove and dsDragLeave; OnDragDrop on the target that has accepted; OnEndDrag.
 class VCL_API TDragSession : public std::enable_shared_from_this<TDragSession> {
  public:
   /// The drag under way; null when there is none.

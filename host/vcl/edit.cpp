@@ -7,8 +7,8 @@
 #include "host/rtl/text.h"
 #include "host/vcl/fontmetrics.h"
 #include "host/vcl/narrowed.h"
-#include "host/vcl/windowtext.h"
 #include "host/vcl/windowmessages.h"
+#include "host/vcl/windowtext.h"
 
 namespace vcl {
 namespace {
@@ -19,39 +19,49 @@ int Utf16Length(const std::string& text) { return static_cast<int>(ToUtf16(text)
 
 const TClass& TCustomEdit::Class() {
   using T = TCustomEdit;
-  static const TClass info = Describe<T, TWinControl>("TCustomEdit", "stdctrls", {
-      Property<&T::AutoSelect, &T::SetAutoSelect>("AutoSelect").Default(true).Unpublished(),
-      Property<&T::AutoSize, &T::SetAutoSize>("AutoSize").Default(true).Unpublished(),
-      ControlBorder(Property<&T::BorderStyle, &T::SetBorderStyle>("BorderStyle"))
-          .Default(bsSingle).Unpublished(),
-      Property<&T::CharCase, &T::SetCharCase>("CharCase").Default(ecNormal).Unpublished(),
-      Property<&T::HideSelection, &T::SetHideSelection>("HideSelection")
-          .Default(true).Unpublished(),
-      Property<&T::MaxLength, &T::SetMaxLength>("MaxLength").Default(0).Unpublished(),
-      Property<&T::PasswordChar, &T::SetPasswordChar>("PasswordChar")
-          .Default(U'\0').Unpublished(),
-      Property<&T::ReadOnly, &T::SetReadOnly>("ReadOnly").Default(false).Unpublished(),
-      Inherit("ParentColor").Default(false).Unpublished(),
-      Event<&T::OnChange>("OnChange").Unpublished(),
-      Inherit("TabStop").Default(true),
-  });
+  static const TClass info = Describe<T, TWinControl>(
+      "TCustomEdit", "stdctrls",
+      {
+          Property<&T::AutoSelect, &T::SetAutoSelect>("AutoSelect").Default(true).Unpublished(),
+          Property<&T::AutoSize, &T::SetAutoSize>("AutoSize").Default(true).Unpublished(),
+          ControlBorder(Property<&T::BorderStyle, &T::SetBorderStyle>("BorderStyle"))
+              .Default(bsSingle)
+              .Unpublished(),
+          Property<&T::CharCase, &T::SetCharCase>("CharCase").Default(ecNormal).Unpublished(),
+          Property<&T::HideSelection, &T::SetHideSelection>("HideSelection")
+              .Default(true)
+              .Unpublished(),
+          Property<&T::MaxLength, &T::SetMaxLength>("MaxLength").Default(0).Unpublished(),
+          Property<&T::PasswordChar, &T::SetPasswordChar>("PasswordChar")
+              .Default(U'\0')
+              .Unpublished(),
+          Property<&T::ReadOnly, &T::SetReadOnly>("ReadOnly").Default(false).Unpublished(),
+          Inherit("ParentColor").Default(false).Unpublished(),
+          Event<&T::OnChange>("OnChange").Unpublished(),
+          Inherit("TabStop").Default(true),
+      });
   return info;
 }
 
 const TClass& TEdit::Class() {
-  static const TClass info = Describe<TEdit, TCustomEdit>("TEdit", "stdctrls", {
-      Inherit("AutoSelect"), Inherit("AutoSize"), Inherit("BorderStyle"), Inherit("CharCase"),
-      Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"),
-      Inherit("Enabled"), Inherit("Font"), Inherit("HideSelection"), Inherit("ImeMode"),
-      Inherit("ImeName"), Inherit("MaxLength"), Inherit("ParentColor"), Inherit("ParentCtl3D"),
-      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PasswordChar"),
-      Inherit("PopupMenu"), Inherit("ReadOnly"), Inherit("ShowHint"), Inherit("TabOrder"),
-      Inherit("TabStop"), Inherit("Text"), Inherit("Visible"), Inherit("OnChange"),
-      Inherit("OnClick"), Inherit("OnDblClick"), Inherit("OnDragDrop"), Inherit("OnDragOver"),
-      Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"), Inherit("OnKeyDown"),
-      Inherit("OnKeyPress"), Inherit("OnKeyUp"), Inherit("OnMouseDown"), Inherit("OnMouseMove"),
-      Inherit("OnMouseUp"), Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<TEdit, TCustomEdit>(
+      "TEdit", "stdctrls",
+      {
+          Inherit("AutoSelect"),   Inherit("AutoSize"),      Inherit("BorderStyle"),
+          Inherit("CharCase"),     Inherit("Color"),         Inherit("Ctl3D"),
+          Inherit("DragCursor"),   Inherit("DragMode"),      Inherit("Enabled"),
+          Inherit("Font"),         Inherit("HideSelection"), Inherit("ImeMode"),
+          Inherit("ImeName"),      Inherit("MaxLength"),     Inherit("ParentColor"),
+          Inherit("ParentCtl3D"),  Inherit("ParentFont"),    Inherit("ParentShowHint"),
+          Inherit("PasswordChar"), Inherit("PopupMenu"),     Inherit("ReadOnly"),
+          Inherit("ShowHint"),     Inherit("TabOrder"),      Inherit("TabStop"),
+          Inherit("Text"),         Inherit("Visible"),       Inherit("OnChange"),
+          Inherit("OnClick"),      Inherit("OnDblClick"),    Inherit("OnDragDrop"),
+          Inherit("OnDragOver"),   Inherit("OnEndDrag"),     Inherit("OnEnter"),
+          Inherit("OnExit"),       Inherit("OnKeyDown"),     Inherit("OnKeyPress"),
+          Inherit("OnKeyUp"),      Inherit("OnMouseDown"),   Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),    Inherit("OnStartDrag"),
+      });
   return info;
 }
 

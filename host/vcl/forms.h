@@ -61,9 +61,9 @@ inline constexpr const char* EventName<TCloseQueryEvent> = "TCloseQueryEvent";
 ///
 /// A field makes its component's class known to the form file, beside the classes of this library.
 ///
-/// OnDestroy reaches a form's own handlers while the form is whole when it ends by `Free`: closed with
-/// caFree, by `Release`, or at the end of `TApplication::Run`. A plain `delete` of a form whose
-/// handlers are methods of its own class fires nothing: the class's part is gone by then.
+/// OnDestroy reaches a form's own handlers while the form is whole when it ends by `Free`: closed
+/// with caFree, by `Release`, or at the end of `TApplication::Run`. A plain `delete` of a form
+/// whose handlers are methods of its own class fires nothing: the class's part is gone by then.
 class VCL_API TCustomForm : public TWinControl {
  public:
   explicit TCustomForm(TComponent* owner);
@@ -81,8 +81,9 @@ class VCL_API TCustomForm : public TWinControl {
   void Free();
   /// Frees the form once the message in hand is done, which is safe in the form's own handlers.
   void Release();
-  /// Shows the form and returns when it is closed or gets a ModalResult; the other forms are disabled
-  /// meanwhile. Raises EInvalidOperation for a form that is visible, disabled or modal already.
+  /// Shows the form and returns when it is closed or gets a ModalResult; the other forms are
+  /// disabled meanwhile. Raises EInvalidOperation for a form that is visible, disabled or modal
+  /// already.
   int ShowModal();
   TModalResult ModalResult() const { return FModalResult; }
   void SetModalResult(TModalResult result) { FModalResult = result; }
@@ -90,8 +91,8 @@ class VCL_API TCustomForm : public TWinControl {
 
   bool Active() const { return FActive; }
   TWinControl* ActiveControl() const { return FActiveControl; }
-  /// The control that has the focus while the form is active. Raises EInvalidOperation for one that is
-  /// not on the form, or cannot have it while the form is shown.
+  /// The control that has the focus while the form is active. Raises EInvalidOperation for one that
+  /// is not on the form, or cannot have it while the form is shown.
   void SetActiveControl(TWinControl* control);
   /// The same, and activates the form.
   void FocusControl(TWinControl* control);
@@ -129,9 +130,9 @@ class VCL_API TCustomForm : public TWinControl {
   TCloseQueryEvent OnCloseQuery;
 
  protected:
-  /// Reads the form from the RCDATA resource that is named after its class, in the given module or the
-  /// executable, and fires OnCreate. Raises EResNotFound, and what reading a form file raises, with the
-  /// class's name and the line. Fields are null until then.
+  /// Reads the form from the RCDATA resource that is named after its class, in the given module or
+  /// the executable, and fires OnCreate. Raises EResNotFound, and what reading a form file raises,
+  /// with the class's name and the line. Fields are null until then.
   void LoadForm(HINSTANCE module = nullptr);
 
   void CreateParams(TCreateParams& params) override;

@@ -103,8 +103,7 @@ void TCustomForm::SetFocusedControl(TWinControl* control) {
   }
   while (FFocusedControl != control) {
     TWinControl* next = control;
-    while (next->Parent() != FFocusedControl)
-      next = next->Parent();
+    while (next->Parent() != FFocusedControl) next = next->Parent();
     if (!StepTo(next, control, CM_ENTER)) return;
   }
   Perform(CM_FOCUSCHANGED, 0, reinterpret_cast<LPARAM>(control));
@@ -120,13 +119,10 @@ bool TCustomForm::DialogKey(WPARAM key) {
       SelectNext(FActiveControl, !IsDown(VK_SHIFT), true);
       return true;
     case VK_RIGHT:
-    case VK_DOWN:
-      return MoveByArrow(true);
+    case VK_DOWN: return MoveByArrow(true);
     case VK_LEFT:
-    case VK_UP:
-      return MoveByArrow(false);
-    default:
-      return false;
+    case VK_UP: return MoveByArrow(false);
+    default: return false;
   }
 }
 

@@ -30,12 +30,9 @@ void TCustomForm::Close() {
   if (watch.Gone() || action == caNone) return;
   if (this == Application()->MainForm()) return Application()->Terminate();
   switch (action) {
-    case caFree:
-      return Release();
-    case caMinimize:
-      return SetWindowState(wsMinimized);
-    default:
-      return SetVisible(false);
+    case caFree: return Release();
+    case caMinimize: return SetWindowState(wsMinimized);
+    default: return SetVisible(false);
   }
 }
 

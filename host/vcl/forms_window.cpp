@@ -239,25 +239,18 @@ bool TCustomForm::DispatchWindow(TMessage& message) {
       return true;
     case WM_COMMAND:
     case WM_INITMENUPOPUP:
-    case WM_MENUSELECT:
-      return FMenu && FMenu->HandleMessage(message);
-    case WM_CLOSE:
-      return Close(), true;
-    case WM_QUERYENDSESSION:
-      return message.Result = CloseQuery(), true;
-    case WM_SIZE:
-      return WMSize(message), true;
-    case WM_SYSCOMMAND:
-      return WMSysCommand(message), true;
-    default:
-      return false;
+    case WM_MENUSELECT: return FMenu && FMenu->HandleMessage(message);
+    case WM_CLOSE: return Close(), true;
+    case WM_QUERYENDSESSION: return message.Result = CloseQuery(), true;
+    case WM_SIZE: return WMSize(message), true;
+    case WM_SYSCOMMAND: return WMSysCommand(message), true;
+    default: return false;
   }
 }
 
 bool TCustomForm::DispatchNotice(TMessage& message) {
   switch (message.Msg) {
-    case CM_SHOWINGCHANGED:
-      return ShowingChanged(), true;
+    case CM_SHOWINGCHANGED: return ShowingChanged(), true;
     case CM_ACTIVATE:
       if (!Loading()) Activate();
       return true;
@@ -268,8 +261,7 @@ bool TCustomForm::DispatchNotice(TMessage& message) {
       if (!DialogKey(message.WParam)) return false;
       message.Result = 1;
       return true;
-    default:
-      return false;
+    default: return false;
   }
 }
 

@@ -14,16 +14,20 @@ const TClass& TCustomGroupBox::Class() {
 }
 
 const TClass& TGroupBox::Class() {
-  static const TClass info = Describe<TGroupBox, TCustomGroupBox>("TGroupBox", "stdctrls", {
-      Inherit("Align"), Inherit("Caption"), Inherit("Color"), Inherit("Ctl3D"),
-      Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"), Inherit("Font"),
-      Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"),
-      Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("TabOrder"),
-      Inherit("TabStop"), Inherit("Visible"), Inherit("OnClick"), Inherit("OnDblClick"),
-      Inherit("OnDragDrop"), Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnEnter"),
-      Inherit("OnExit"), Inherit("OnMouseDown"), Inherit("OnMouseMove"), Inherit("OnMouseUp"),
-      Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<TGroupBox, TCustomGroupBox>(
+      "TGroupBox", "stdctrls",
+      {
+          Inherit("Align"),       Inherit("Caption"),     Inherit("Color"),
+          Inherit("Ctl3D"),       Inherit("DragCursor"),  Inherit("DragMode"),
+          Inherit("Enabled"),     Inherit("Font"),        Inherit("ParentColor"),
+          Inherit("ParentCtl3D"), Inherit("ParentFont"),  Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),   Inherit("ShowHint"),    Inherit("TabOrder"),
+          Inherit("TabStop"),     Inherit("Visible"),     Inherit("OnClick"),
+          Inherit("OnDblClick"),  Inherit("OnDragDrop"),  Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),   Inherit("OnEnter"),     Inherit("OnExit"),
+          Inherit("OnMouseDown"), Inherit("OnMouseMove"), Inherit("OnMouseUp"),
+          Inherit("OnStartDrag"),
+      });
   return info;
 }
 

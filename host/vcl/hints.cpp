@@ -26,15 +26,13 @@ TPoint BelowPointer(TPoint mouse) {
 
 // The control whose hint shows for a control: itself or the nearest around it that shows one.
 TControl* HintControlOf(TControl* control) {
-  while (control && !control->ShowHint())
-    control = control->Parent();
+  while (control && !control->ShowHint()) control = control->Parent();
   return control && !control->Designing() ? control : nullptr;
 }
 
 // Nearest hint outwards that is not empty.
 std::string HintOf(const TControl* control) {
-  while (control && control->Hint().empty())
-    control = control->Parent();
+  while (control && control->Hint().empty()) control = control->Parent();
   return control ? control->Hint() : std::string();
 }
 
@@ -179,8 +177,8 @@ void THintControl::Show(const THintInfo& info) {
   FShown = info.HintControl;
   FCursorRect = info.CursorRect;
   FWindow->ActivateHint(rect, info.HintStr);
-  // A handler that the window calls may have ended the hint, which the window has shown all the same,
-  // or have had another window made.
+  // A handler that the window calls may have ended the hint, which the window has shown all the
+  // same, or have had another window made.
   if (!FShown) return Hide();
   StartTimer(info.HideTimeout);
 }

@@ -12,12 +12,12 @@ namespace vcl {
 /// OnShowHint.
 struct THintInfo {
   TControl* HintControl = nullptr;
-  TPoint HintPos;         ///< The window's top left on the screen.
-  int HintMaxWidth = 0;   ///< The width at which the text wraps, in pixels.
+  TPoint HintPos;        ///< The window's top left on the screen.
+  int HintMaxWidth = 0;  ///< The width at which the text wraps, in pixels.
   TColor HintColor = clInfoBk;
-  TRect CursorRect;       ///< Leaving it, in the control's coordinates, ends the hint.
-  TPoint CursorPos;       ///< The mouse, in the control's coordinates.
-  int HideTimeout = 0;    ///< Milliseconds.
+  TRect CursorRect;     ///< Leaving it, in the control's coordinates, ends the hint.
+  TPoint CursorPos;     ///< The mouse, in the control's coordinates.
+  int HideTimeout = 0;  ///< Milliseconds.
   std::string HintStr;
 };
 
@@ -38,8 +38,8 @@ class VCL_API THintWindow : public TCustomControl {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
-  /// The rectangle to activate the text in, with its top left at (0, 0): 6 pixels wider than the text
-  /// and 2 higher.
+  /// The rectangle to activate the text in, with its top left at (0, 0): 6 pixels wider than the
+  /// text and 2 higher.
   virtual TRect CalcHintRect(int maxWidth, const std::string& text);
   /// Shows the text in the rectangle of the screen, which grows by 4 pixels at its bottom, moved so
   /// that all of it is seen.
@@ -55,12 +55,13 @@ class VCL_API THintWindow : public TCustomControl {
 
 /// The class of the window that the application makes when its ShowHint becomes true.
 VCL_API const TClass& HintWindowClass();
-/// Another class, of the descendants of THintWindow that can be made by name. To have the window made
-/// anew, switch the application's ShowHint to and fro. Raises EInvalidOperation for other classes.
+/// Another class, of the descendants of THintWindow that can be made by name. To have the window
+/// made anew, switch the application's ShowHint to and fro. Raises EInvalidOperation for other
+/// classes.
 VCL_API void SetHintWindowClass(const TClass& windowClass);
 
-/// Decides when the application's hints appear: after the mouse has rested on a control for a pause,
-/// for a time; the next control's follows after a short pause.
+/// Decides when the application's hints appear: after the mouse has rested on a control for a
+/// pause, for a time; the next control's follows after a short pause.
 class VCL_API THintControl {
  public:
   /// `owner` is going to own the window that hints are shown in.

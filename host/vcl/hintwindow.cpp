@@ -59,11 +59,8 @@ void THintWindow::Dispatch(TMessage& message) {
     case WM_NCHITTEST:  // The mouse goes through to what lies below.
       message.Result = HTTRANSPARENT;
       return;
-    case WM_MOUSEACTIVATE:
-      message.Result = MA_NOACTIVATE;
-      return;
-    default:
-      TCustomControl::Dispatch(message);
+    case WM_MOUSEACTIVATE: message.Result = MA_NOACTIVATE; return;
+    default: TCustomControl::Dispatch(message);
   }
 }
 

@@ -24,14 +24,12 @@ using TBytes = std::span<const unsigned char>;
 
 std::uint32_t Little(TBytes bytes, std::size_t at, std::size_t size) {
   std::uint32_t value = 0;
-  for (std::size_t i = size; i-- > 0;)
-    value = value << 8 | bytes[at + i];
+  for (std::size_t i = size; i-- > 0;) value = value << 8 | bytes[at + i];
   return value;
 }
 
 void Put(std::string& bytes, std::uint32_t value, int size) {
-  for (int i = 0; i < size; ++i)
-    bytes += static_cast<char>(value >> 8 * i & 0xFF);
+  for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> 8 * i & 0xFF);
 }
 
 std::size_t CountOf(TBytes file) { return Little(file, 4, 2); }
@@ -134,8 +132,7 @@ void WriteIconFile(HBITMAP colorHandle, HBITMAP maskHandle, TStream& stream) {
   const std::uint32_t pixels = (colorRow + maskRow) * static_cast<std::uint32_t>(height);
   constexpr std::uint32_t headerSize = sizeof(BITMAPINFOHEADER);
   std::string bytes;
-  for (const std::uint32_t value : {0U, 1U, 1U})
-    Put(bytes, value, 2);
+  for (const std::uint32_t value : {0U, 1U, 1U}) Put(bytes, value, 2);
   Put(bytes, static_cast<std::uint32_t>(width) & 0xFF, 1);  // 256 is written as 0.
   Put(bytes, static_cast<std::uint32_t>(height) & 0xFF, 1);
   Put(bytes, 0, 2);
@@ -153,8 +150,7 @@ void WriteIconFile(HBITMAP colorHandle, HBITMAP maskHandle, TStream& stream) {
   bytes.append(reinterpret_cast<const char*>(&header), headerSize);
   for (int y = height; y-- > 0;)
     bytes.append(static_cast<const char*>(color.ScanLine(y)), colorRow);
-  for (int y = height; y-- > 0;)
-    bytes.append(static_cast<const char*>(mask.ScanLine(y)), maskRow);
+  for (int y = height; y-- > 0;) bytes.append(static_cast<const char*>(mask.ScanLine(y)), maskRow);
   stream.WriteText(bytes);
 }
 

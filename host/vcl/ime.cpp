@@ -23,18 +23,18 @@ struct TImeState {
   DWORD Conversion = 0;
 };
 constexpr TImeState States[] = {
-    {TSets::Nothing},                                // imDisable
-    {TSets::Closed},                                 // imClose
-    {TSets::Open},                                   // imOpen
-    {TSets::Nothing},                                // imDontCare
-    {TSets::OpenAndConversion, 0},                   // imSAlpha
-    {TSets::OpenAndConversion, Full},                // imAlpha
-    {TSets::OpenAndConversion, Native | Full},       // imHira
-    {TSets::OpenAndConversion, Katakana},            // imSKata
-    {TSets::OpenAndConversion, Katakana | Full},     // imKata
-    {TSets::OpenAndConversion, Native},              // imChinese
-    {TSets::OpenAndConversion, Native},              // imSHanguel
-    {TSets::OpenAndConversion, Native | Full},       // imHanguel
+    {TSets::Nothing},                             // imDisable
+    {TSets::Closed},                              // imClose
+    {TSets::Open},                                // imOpen
+    {TSets::Nothing},                             // imDontCare
+    {TSets::OpenAndConversion, 0},                // imSAlpha
+    {TSets::OpenAndConversion, Full},             // imAlpha
+    {TSets::OpenAndConversion, Native | Full},    // imHira
+    {TSets::OpenAndConversion, Katakana},         // imSKata
+    {TSets::OpenAndConversion, Katakana | Full},  // imKata
+    {TSets::OpenAndConversion, Native},           // imChinese
+    {TSets::OpenAndConversion, Native},           // imSHanguel
+    {TSets::OpenAndConversion, Native | Full},    // imHanguel
 };
 
 void SetState(HIMC context, const TImeState& state) {

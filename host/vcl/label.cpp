@@ -10,36 +10,48 @@
 namespace vcl {
 
 const TClass& TCustomLabel::Class() {
-  static const TClass info = Describe<TCustomLabel, TGraphicControl>("TCustomLabel", "stdctrls", {
-      Property<&TCustomLabel::Alignment, &TCustomLabel::SetAlignment>("Alignment")
-          .Default(taLeftJustify).Unpublished(),
-      Property<&TCustomLabel::AutoSize, &TCustomLabel::SetAutoSize>("AutoSize")
-          .Default(true).Unpublished(),
-      Property<&TCustomLabel::FocusControl, &TCustomLabel::SetFocusControl>("FocusControl")
-          .Unpublished(),
-      Property<&TCustomLabel::ShowAccelChar, &TCustomLabel::SetShowAccelChar>("ShowAccelChar")
-          .Default(true).Unpublished(),
-      Property<&TCustomLabel::Transparent, &TCustomLabel::SetTransparent>("Transparent")
-          .Default(false).Unpublished(),
-      Property<&TCustomLabel::Layout, &TCustomLabel::SetLayout>("Layout")
-          .Default(tlTop).Unpublished(),
-      Property<&TCustomLabel::WordWrap, &TCustomLabel::SetWordWrap>("WordWrap")
-          .Default(false).Unpublished(),
-  });
+  static const TClass info = Describe<TCustomLabel, TGraphicControl>(
+      "TCustomLabel", "stdctrls",
+      {
+          Property<&TCustomLabel::Alignment, &TCustomLabel::SetAlignment>("Alignment")
+              .Default(taLeftJustify)
+              .Unpublished(),
+          Property<&TCustomLabel::AutoSize, &TCustomLabel::SetAutoSize>("AutoSize")
+              .Default(true)
+              .Unpublished(),
+          Property<&TCustomLabel::FocusControl, &TCustomLabel::SetFocusControl>("FocusControl")
+              .Unpublished(),
+          Property<&TCustomLabel::ShowAccelChar, &TCustomLabel::SetShowAccelChar>("ShowAccelChar")
+              .Default(true)
+              .Unpublished(),
+          Property<&TCustomLabel::Transparent, &TCustomLabel::SetTransparent>("Transparent")
+              .Default(false)
+              .Unpublished(),
+          Property<&TCustomLabel::Layout, &TCustomLabel::SetLayout>("Layout")
+              .Default(tlTop)
+              .Unpublished(),
+          Property<&TCustomLabel::WordWrap, &TCustomLabel::SetWordWrap>("WordWrap")
+              .Default(false)
+              .Unpublished(),
+      });
   return info;
 }
 
 const TClass& TLabel::Class() {
-  static const TClass info = Describe<TLabel, TCustomLabel>("TLabel", "stdctrls", {
-      Inherit("Align"), Inherit("Alignment"), Inherit("AutoSize"), Inherit("Caption"),
-      Inherit("Color"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
-      Inherit("FocusControl"), Inherit("Font"), Inherit("ParentColor"), Inherit("ParentFont"),
-      Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowAccelChar"),
-      Inherit("ShowHint"), Inherit("Transparent"), Inherit("Layout"), Inherit("Visible"),
-      Inherit("WordWrap"), Inherit("OnClick"), Inherit("OnDblClick"), Inherit("OnDragDrop"),
-      Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnMouseDown"), Inherit("OnMouseMove"),
-      Inherit("OnMouseUp"), Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<TLabel, TCustomLabel>(
+      "TLabel", "stdctrls",
+      {
+          Inherit("Align"),          Inherit("Alignment"),   Inherit("AutoSize"),
+          Inherit("Caption"),        Inherit("Color"),       Inherit("DragCursor"),
+          Inherit("DragMode"),       Inherit("Enabled"),     Inherit("FocusControl"),
+          Inherit("Font"),           Inherit("ParentColor"), Inherit("ParentFont"),
+          Inherit("ParentShowHint"), Inherit("PopupMenu"),   Inherit("ShowAccelChar"),
+          Inherit("ShowHint"),       Inherit("Transparent"), Inherit("Layout"),
+          Inherit("Visible"),        Inherit("WordWrap"),    Inherit("OnClick"),
+          Inherit("OnDblClick"),     Inherit("OnDragDrop"),  Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),      Inherit("OnMouseDown"), Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),      Inherit("OnStartDrag"),
+      });
   return info;
 }
 

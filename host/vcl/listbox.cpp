@@ -10,33 +10,43 @@ namespace vcl {
 
 const TClass& TCustomListBox::Class() {
   using T = TCustomListBox;
-  static const TClass info = Describe<T, TCustomListControl>("TCustomListBox", "stdctrls", {
-      ControlBorder(Property<&T::BorderStyle, &T::SetBorderStyle>("BorderStyle"))
-          .Default(bsSingle).Unpublished(),
-      Property<&T::ExtendedSelect, &T::SetExtendedSelect>("ExtendedSelect")
-          .Default(true).Unpublished(),
-      Property<&T::IntegralHeight, &T::SetIntegralHeight>("IntegralHeight")
-          .Default(false).Unpublished(),
-      Property<&T::MultiSelect, &T::SetMultiSelect>("MultiSelect").Default(false).Unpublished(),
-      Property<&T::Style, &T::SetStyle>("Style").Default(lbStandard).Unpublished(),
-  });
+  static const TClass info = Describe<T, TCustomListControl>(
+      "TCustomListBox", "stdctrls",
+      {
+          ControlBorder(Property<&T::BorderStyle, &T::SetBorderStyle>("BorderStyle"))
+              .Default(bsSingle)
+              .Unpublished(),
+          Property<&T::ExtendedSelect, &T::SetExtendedSelect>("ExtendedSelect")
+              .Default(true)
+              .Unpublished(),
+          Property<&T::IntegralHeight, &T::SetIntegralHeight>("IntegralHeight")
+              .Default(false)
+              .Unpublished(),
+          Property<&T::MultiSelect, &T::SetMultiSelect>("MultiSelect").Default(false).Unpublished(),
+          Property<&T::Style, &T::SetStyle>("Style").Default(lbStandard).Unpublished(),
+      });
   return info;
 }
 
 const TClass& TListBox::Class() {
-  static const TClass info = Describe<TListBox, TCustomListBox>("TListBox", "stdctrls", {
-      Inherit("Align"), Inherit("BorderStyle"), Inherit("Color"), Inherit("Ctl3D"),
-      Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"), Inherit("ExtendedSelect"),
-      Inherit("Font"), Inherit("ImeMode"), Inherit("ImeName"), Inherit("IntegralHeight"),
-      Inherit("ItemHeight"), Inherit("Sorted"), Inherit("Items"), Inherit("MultiSelect"),
-      Inherit("ParentColor"), Inherit("ParentCtl3D"), Inherit("ParentFont"),
-      Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"), Inherit("Style"),
-      Inherit("TabOrder"), Inherit("TabStop"), Inherit("Visible"), Inherit("OnClick"),
-      Inherit("OnDblClick"), Inherit("OnDragDrop"), Inherit("OnDragOver"), Inherit("OnDrawItem"),
-      Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"), Inherit("OnKeyDown"),
-      Inherit("OnKeyPress"), Inherit("OnKeyUp"), Inherit("OnMouseDown"), Inherit("OnMouseMove"),
-      Inherit("OnMouseUp"), Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<TListBox, TCustomListBox>(
+      "TListBox", "stdctrls",
+      {
+          Inherit("Align"),       Inherit("BorderStyle"),    Inherit("Color"),
+          Inherit("Ctl3D"),       Inherit("DragCursor"),     Inherit("DragMode"),
+          Inherit("Enabled"),     Inherit("ExtendedSelect"), Inherit("Font"),
+          Inherit("ImeMode"),     Inherit("ImeName"),        Inherit("IntegralHeight"),
+          Inherit("ItemHeight"),  Inherit("Sorted"),         Inherit("Items"),
+          Inherit("MultiSelect"), Inherit("ParentColor"),    Inherit("ParentCtl3D"),
+          Inherit("ParentFont"),  Inherit("ParentShowHint"), Inherit("PopupMenu"),
+          Inherit("ShowHint"),    Inherit("Style"),          Inherit("TabOrder"),
+          Inherit("TabStop"),     Inherit("Visible"),        Inherit("OnClick"),
+          Inherit("OnDblClick"),  Inherit("OnDragDrop"),     Inherit("OnDragOver"),
+          Inherit("OnDrawItem"),  Inherit("OnEndDrag"),      Inherit("OnEnter"),
+          Inherit("OnExit"),      Inherit("OnKeyDown"),      Inherit("OnKeyPress"),
+          Inherit("OnKeyUp"),     Inherit("OnMouseDown"),    Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),   Inherit("OnStartDrag"),
+      });
   return info;
 }
 
@@ -98,8 +108,7 @@ void TCustomListBox::SetSelected(int index, bool selected) {
 
 int TCustomListBox::SelCount() const {
   int count = 0;
-  for (int i = 0; i < Items()->Count(); ++i)
-    count += Selected(i);
+  for (int i = 0; i < Items()->Count(); ++i) count += Selected(i);
   return count;
 }
 
@@ -133,14 +142,12 @@ void TCustomListBox::KeepSelection() {
   FTopIndex = TopIndex();
   if (!FMultiSelect) return TCustomListControl::KeepSelection();
   FCaret = ItemIndex();
-  for (int i = 0; i < Items()->Count(); ++i)
-    List().SetSelected(i, Selected(i));
+  for (int i = 0; i < Items()->Count(); ++i) List().SetSelected(i, Selected(i));
 }
 
 void TCustomListBox::RestoreSelection() {
   if (FMultiSelect) {
-    for (int i = 0; i < Items()->Count(); ++i)
-      Send(*this, LB_SETSEL, List().Selected(i), i);
+    for (int i = 0; i < Items()->Count(); ++i) Send(*this, LB_SETSEL, List().Selected(i), i);
     if (FCaret >= 0) Send(*this, LB_SETCARETINDEX, static_cast<WPARAM>(FCaret));
   } else {
     TCustomListControl::RestoreSelection();

@@ -8,8 +8,7 @@ namespace vcl {
 /// Drawn by the system, or by OnDrawItem, all items ItemHeight high.
 enum TListBoxStyle { lbStandard, lbOwnerDrawFixed };
 template <>
-inline constexpr TEnumText EnumText<TListBoxStyle>{"TListBoxStyle",
-                                                   "lbStandard lbOwnerDrawFixed"};
+inline constexpr TEnumText EnumText<TListBoxStyle>{"TListBoxStyle", "lbStandard lbOwnerDrawFixed"};
 
 /// A list box. OnClick tells that the user has selected.
 class VCL_API TCustomListBox : public TCustomListControl {
@@ -52,8 +51,8 @@ class VCL_API TCustomListBox : public TCustomListControl {
   void RestoreSelection() override;
   void CreateParams(TCreateParams& params) override;
   void Dispatch(TMessage& message) override;
-  /// The press selects before it drags. In a list with several selected items, one on a selected item
-  /// drags them all, and one with Shift or Ctrl only selects.
+  /// The press selects before it drags. In a list with several selected items, one on a selected
+  /// item drags them all, and one with Shift or Ctrl only selects.
   void BeginAutoDrag(TMessage& press) override;
 
  private:
@@ -66,7 +65,7 @@ class VCL_API TCustomListBox : public TCustomListControl {
   bool FExtendedSelect = true;
   bool FIntegralHeight = false;
   bool FMultiSelect = false;
-  int FCaret = -1;     // While there is no window.
+  int FCaret = -1;  // While there is no window.
   int FTopIndex = 0;
 };
 

@@ -15,8 +15,11 @@ TOwnerDrawState StateOf(UINT state) {
   static constexpr struct {
     UINT Bit;
     TOwnerDrawStateValue Value;
-  } values[] = {{ODS_SELECTED, odSelected}, {ODS_GRAYED, odGrayed}, {ODS_DISABLED, odDisabled},
-                {ODS_CHECKED, odChecked},   {ODS_FOCUS, odFocused}};
+  } values[] = {{ODS_SELECTED, odSelected},
+                {ODS_GRAYED, odGrayed},
+                {ODS_DISABLED, odDisabled},
+                {ODS_CHECKED, odChecked},
+                {ODS_FOCUS, odFocused}};
   TOwnerDrawState set;
   for (const auto& each : values) {
     if (state & each.Bit) set.Include(each.Value);
@@ -28,15 +31,17 @@ TOwnerDrawState StateOf(UINT state) {
 
 const TClass& TCustomListControl::Class() {
   using T = TCustomListControl;
-  static const TClass info = Describe<T, TWinControl>("TCustomListControl", "stdctrls", {
-      Property<&T::ItemHeight, &T::SetItemHeight>("ItemHeight").Default(16).Unpublished(),
-      Property<&T::Sorted, &T::SetSorted>("Sorted").Default(false).Unpublished(),
-      Inherit("ParentColor").Default(false).Unpublished(),
-      Event<&T::OnDrawItem>("OnDrawItem").Unpublished(),
-      Property<&T::Items, &T::SetItems>("Items").Unpublished(),
-      Property<&T::ItemIndex, &T::SetItemIndex>("ItemIndex").Default(-1).Unpublished(),
-      Inherit("TabStop").Default(true),
-  });
+  static const TClass info = Describe<T, TWinControl>(
+      "TCustomListControl", "stdctrls",
+      {
+          Property<&T::ItemHeight, &T::SetItemHeight>("ItemHeight").Default(16).Unpublished(),
+          Property<&T::Sorted, &T::SetSorted>("Sorted").Default(false).Unpublished(),
+          Inherit("ParentColor").Default(false).Unpublished(),
+          Event<&T::OnDrawItem>("OnDrawItem").Unpublished(),
+          Property<&T::Items, &T::SetItems>("Items").Unpublished(),
+          Property<&T::ItemIndex, &T::SetItemIndex>("ItemIndex").Default(-1).Unpublished(),
+          Inherit("TabStop").Default(true),
+      });
   return info;
 }
 

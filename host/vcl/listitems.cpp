@@ -24,9 +24,9 @@ bool Before(const std::string& a, const std::string& b) {
 const TListMessages ListBoxMessages{LB_INSERTSTRING, LB_DELETESTRING, LB_RESETCONTENT,
                                     LB_GETCURSEL,    LB_SETCURSEL,    LB_GETSEL,
                                     LB_SETSEL,       LB_SETITEMHEIGHT};
-const TListMessages ComboBoxMessages{CB_INSERTSTRING, CB_DELETESTRING, CB_RESETCONTENT,
-                                     CB_GETCURSEL,    CB_SETCURSEL,    0,
-                                     0,               CB_SETITEMHEIGHT};
+const TListMessages ComboBoxMessages{
+    CB_INSERTSTRING, CB_DELETESTRING, CB_RESETCONTENT, CB_GETCURSEL, CB_SETCURSEL, 0, 0,
+    CB_SETITEMHEIGHT};
 
 TListItems::TLine& TListItems::Line(int index) {
   CheckItem(index);
@@ -68,15 +68,15 @@ bool TListItems::SelectedInWindow(int index) const {
 
 void TListItems::SelectInWindow(int index) {
   // A list box with one selected item refuses the message that is for many.
-  const bool done = FMessages.SetItemSelected != 0 &&
-                    Send(FControl, FMessages.SetItemSelected, TRUE, index) >= 0;
+  const bool done =
+      FMessages.SetItemSelected != 0 && Send(FControl, FMessages.SetItemSelected, TRUE, index) >= 0;
   if (!done) Send(FControl, FMessages.SetSelected, static_cast<WPARAM>(index));
 }
 
 int TListItems::SortedPlace(const std::string& text) const {
-  const auto place = std::upper_bound(
-      FLines.begin(), FLines.end(), text,
-      [](const std::string& a, const TLine& b) { return Before(a, b.Text); });
+  const auto place =
+      std::upper_bound(FLines.begin(), FLines.end(), text,
+                       [](const std::string& a, const TLine& b) { return Before(a, b.Text); });
   return static_cast<int>(place - FLines.begin());
 }
 
@@ -124,29 +124,26 @@ void TListItems::Clear() {
 void TListItems::SetSorted(bool sorted) {
   FSorted = sorted;
   if (!sorted) return;
-  std::ranges::stable_sort(
-      FLines, [](const TLine& a, const TLine& b) { return Before(a.Text, b.Text); });
+  std::ranges::stable_sort(FLines,
+                           [](const TLine& a, const TLine& b) { return Before(a.Text, b.Text); });
 }
 
 bool TListItems::Selected(int index) const { return Line(index).Selected; }
 void TListItems::SetSelected(int index, bool selected) { Line(index).Selected = selected; }
 
 int TListItems::FirstSelected() const {
-  const auto found =
-      std::ranges::find_if(FLines, [](const TLine& line) { return line.Selected; });
+  const auto found = std::ranges::find_if(FLines, [](const TLine& line) { return line.Selected; });
   return found == FLines.end() ? -1 : static_cast<int>(found - FLines.begin());
 }
 
 void TListItems::SelectOnly(int index) {
-  for (TLine& line : FLines)
-    line.Selected = false;
+  for (TLine& line : FLines) line.Selected = false;
   if (index >= 0) Line(index).Selected = true;
 }
 
 void TListItems::FillWindow() {
   Send(FControl, WM_SETREDRAW, FALSE);
-  for (int i = 0; i < Count(); ++i)
-    TellInserted(i, FLines[static_cast<std::size_t>(i)].Text);
+  for (int i = 0; i < Count(); ++i) TellInserted(i, FLines[static_cast<std::size_t>(i)].Text);
   Send(FControl, WM_SETREDRAW, TRUE);
 }
 

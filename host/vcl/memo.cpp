@@ -7,31 +7,41 @@ namespace vcl {
 
 const TClass& TCustomMemo::Class() {
   using T = TCustomMemo;
-  static const TClass info = Describe<T, TCustomEdit>("TCustomMemo", "stdctrls", {
-      Property<&T::Alignment, &T::SetAlignment>("Alignment").Default(taLeftJustify).Unpublished(),
-      Property<&T::Lines, &T::SetLines>("Lines").Unpublished(),
-      Property<&T::ScrollBars, &T::SetScrollBars>("ScrollBars").Default(ssNone).Unpublished(),
-      Property<&T::WantReturns, &T::SetWantReturns>("WantReturns").Default(true).Unpublished(),
-      Property<&T::WantTabs, &T::SetWantTabs>("WantTabs").Default(false).Unpublished(),
-      Property<&T::WordWrap, &T::SetWordWrap>("WordWrap").Default(true).Unpublished(),
-  });
+  static const TClass info = Describe<T, TCustomEdit>(
+      "TCustomMemo", "stdctrls",
+      {
+          Property<&T::Alignment, &T::SetAlignment>("Alignment")
+              .Default(taLeftJustify)
+              .Unpublished(),
+          Property<&T::Lines, &T::SetLines>("Lines").Unpublished(),
+          Property<&T::ScrollBars, &T::SetScrollBars>("ScrollBars").Default(ssNone).Unpublished(),
+          Property<&T::WantReturns, &T::SetWantReturns>("WantReturns").Default(true).Unpublished(),
+          Property<&T::WantTabs, &T::SetWantTabs>("WantTabs").Default(false).Unpublished(),
+          Property<&T::WordWrap, &T::SetWordWrap>("WordWrap").Default(true).Unpublished(),
+      });
   return info;
 }
 
 const TClass& TMemo::Class() {
-  static const TClass info = Describe<TMemo, TCustomMemo>("TMemo", "stdctrls", {
-      Inherit("Align"), Inherit("Alignment"), Inherit("BorderStyle"), Inherit("Color"),
-      Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
-      Inherit("Font"), Inherit("HideSelection"), Inherit("ImeMode"), Inherit("ImeName"),
-      Inherit("Lines"), Inherit("MaxLength"), Inherit("ParentColor"), Inherit("ParentCtl3D"),
-      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ReadOnly"),
-      Inherit("ScrollBars"), Inherit("ShowHint"), Inherit("TabOrder"), Inherit("TabStop"),
-      Inherit("Visible"), Inherit("WantReturns"), Inherit("WantTabs"), Inherit("WordWrap"),
-      Inherit("OnChange"), Inherit("OnClick"), Inherit("OnDblClick"), Inherit("OnDragDrop"),
-      Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"),
-      Inherit("OnKeyDown"), Inherit("OnKeyPress"), Inherit("OnKeyUp"), Inherit("OnMouseDown"),
-      Inherit("OnMouseMove"), Inherit("OnMouseUp"), Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<TMemo, TCustomMemo>(
+      "TMemo", "stdctrls",
+      {
+          Inherit("Align"),         Inherit("Alignment"),   Inherit("BorderStyle"),
+          Inherit("Color"),         Inherit("Ctl3D"),       Inherit("DragCursor"),
+          Inherit("DragMode"),      Inherit("Enabled"),     Inherit("Font"),
+          Inherit("HideSelection"), Inherit("ImeMode"),     Inherit("ImeName"),
+          Inherit("Lines"),         Inherit("MaxLength"),   Inherit("ParentColor"),
+          Inherit("ParentCtl3D"),   Inherit("ParentFont"),  Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),     Inherit("ReadOnly"),    Inherit("ScrollBars"),
+          Inherit("ShowHint"),      Inherit("TabOrder"),    Inherit("TabStop"),
+          Inherit("Visible"),       Inherit("WantReturns"), Inherit("WantTabs"),
+          Inherit("WordWrap"),      Inherit("OnChange"),    Inherit("OnClick"),
+          Inherit("OnDblClick"),    Inherit("OnDragDrop"),  Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),     Inherit("OnEnter"),     Inherit("OnExit"),
+          Inherit("OnKeyDown"),     Inherit("OnKeyPress"),  Inherit("OnKeyUp"),
+          Inherit("OnMouseDown"),   Inherit("OnMouseMove"), Inherit("OnMouseUp"),
+          Inherit("OnStartDrag"),
+      });
   return info;
 }
 

@@ -2,8 +2,8 @@
 
 #include "host/rtl/exceptions.h"
 #include "host/vcl/memo.h"
-#include "host/vcl/windowtext.h"
 #include "host/vcl/windowmessages.h"
+#include "host/vcl/windowtext.h"
 
 namespace vcl {
 namespace {
@@ -16,7 +16,6 @@ std::size_t LineEnding(const S& text, std::size_t at) {
   if (text[at] != '\r') return 0;
   return at + 1 < text.size() && text[at + 1] == '\n' ? 2 : 1;
 }
-
 
 void ReplaceInWindow(TCustomMemo& memo, std::size_t start, std::size_t end,
                      const std::string& with) {
@@ -35,8 +34,7 @@ TMemoLines::TSpan TMemoLines::FindLine(const S& text, int index) {
   TSpan span{0, 0, 0};
   for (int i = 0; i <= index; ++i) {
     span.Start = span.End = span.Next;
-    while (span.End < text.size() && LineEnding(text, span.End) == 0)
-      ++span.End;
+    while (span.End < text.size() && LineEnding(text, span.End) == 0) ++span.End;
     span.Next = span.End + LineEnding(text, span.End);
   }
   return span;
@@ -93,7 +91,8 @@ void TMemoLines::SetStrings(int index, const std::string& text) {
     FChanged = true;
     return;
   }
-  Replace(index, [](const TSpan& line) { return std::pair(line.Start, line.End); }, text);
+  Replace(
+      index, [](const TSpan& line) { return std::pair(line.Start, line.End); }, text);
 }
 
 void TMemoLines::InsertObject(int index, const std::string& text, TObject* object) {
@@ -107,8 +106,9 @@ void TMemoLines::InsertObject(int index, const std::string& text, TObject* objec
   const std::string all = FMemo.Text();
   const bool afterOpenLine = index == Count() && !all.empty() && all.back() != '\n';
   const std::string line = text + "\r\n";
-  Replace(index, [](const TSpan& at) { return std::pair(at.Start, at.Start); },
-          afterOpenLine ? "\r\n" + line : line);
+  Replace(
+      index, [](const TSpan& at) { return std::pair(at.Start, at.Start); },
+      afterOpenLine ? "\r\n" + line : line);
 }
 
 void TMemoLines::Delete(int index) {

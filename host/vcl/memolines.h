@@ -10,9 +10,9 @@ namespace vcl {
 
 class TCustomMemo;
 
-/// The lines are the memo's text, split when they are asked for and kept until the text changes. Lines
-/// that are added stand with an end of line behind them. Between BeginUpdate and EndUpdate changes
-/// collect here; the memo gets them with the last EndUpdate.
+/// The lines are the memo's text, split when they are asked for and kept until the text changes.
+/// Lines that are added stand with an end of line behind them. Between BeginUpdate and EndUpdate
+/// changes collect here; the memo gets them with the last EndUpdate.
 class TMemoLines : public TStrings {
  public:
   explicit TMemoLines(TCustomMemo& memo) : FMemo(memo) {}

@@ -65,10 +65,8 @@ bool TMenu::HandleMessage(const TMessage& message) {
       item->Click();
       return true;
     }
-    case WM_MENUSELECT:
-      return ShowHintOf(message);
-    default:
-      return false;
+    case WM_MENUSELECT: return ShowHintOf(message);
+    default: return false;
   }
 }
 

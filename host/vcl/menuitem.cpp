@@ -24,8 +24,7 @@ std::bitset<EndOfCommands>& UsedCommands() {
 std::uint16_t TakeCommand() {
   auto& used = UsedCommands();
   std::size_t command = FirstCommand;
-  while (command < EndOfCommands && used[command])
-    ++command;
+  while (command < EndOfCommands && used[command]) ++command;
   if (command == EndOfCommands) throw EOutOfResources("There are too many menu items");
   used.set(command);
   return static_cast<std::uint16_t>(command);
@@ -146,8 +145,7 @@ void TMenuItem::Remove(TMenuItem* item) {
 void TMenuItem::Delete(int index) { Remove(Items(index)); }
 
 void TMenuItem::Clear() {
-  while (!FItems.empty())
-    delete FItems.back();
+  while (!FItems.empty()) delete FItems.back();
 }
 
 int TMenuItem::IndexOf(const TMenuItem* item) const {
@@ -167,8 +165,7 @@ void TMenuItem::SetMenuIndex(int index) {
 
 TMenu* TMenuItem::GetParentMenu() const {
   const TMenuItem* item = this;
-  while (item->FParent)
-    item = item->FParent;
+  while (item->FParent) item = item->FParent;
   return item->FMenu;
 }
 
@@ -274,8 +271,7 @@ bool TMenuItem::ChosenByKey() {
 // The component.
 
 void TMenuItem::GetChildren(const std::function<void(TComponent*)>& each, TComponent*) {
-  for (TMenuItem* item : FItems)
-    each(item);
+  for (TMenuItem* item : FItems) each(item);
 }
 
 TComponent* TMenuItem::GetParentComponent() const {

@@ -141,8 +141,8 @@ class VCL_API TMenu : public TComponent {
   /// Clicks the item whose shortcut the key message says; false when there is none.
   bool IsShortCut(const MSG& key);
   /// Does what a window that shows the menu must do with a message of it: chooses the item of a
-  /// WM_COMMAND, clicks a submenu that opens, gives an item's hint to the application. True when the
-  /// message was of this menu.
+  /// WM_COMMAND, clicks a submenu that opens, gives an item's hint to the application. True when
+  /// the message was of this menu.
   bool HandleMessage(const TMessage& message);
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
 

@@ -13,22 +13,38 @@
 
 namespace vcl {
 
-
 const TClass& TPageControl::Class() {
   using T = TPageControl;
-  static const TClass info = Describe<T, TWinControl>("TPageControl", "comctrls", {
-      Property<&T::ActivePage, &T::SetActivePage>("ActivePage"),
-      Inherit("Align"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
-      Inherit("Font"),
-      Property<&T::MultiLine, &T::SetMultiLine>("MultiLine").Default(false),
-      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"),
-      Inherit("TabOrder"), Inherit("TabStop").Default(true), Inherit("Visible"),
-      Event<&T::OnChange>("OnChange"), 
-      Event<&T::OnChanging>("OnChanging").Type("TTabChangingEvent"), Inherit("OnDragDrop"),
-      Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"),
-      Inherit("OnMouseDown"), Inherit("OnMouseMove"), Inherit("OnMouseUp"), Inherit("OnResize"),
-      Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<T, TWinControl>(
+      "TPageControl", "comctrls",
+      {
+          Property<&T::ActivePage, &T::SetActivePage>("ActivePage"),
+          Inherit("Align"),
+          Inherit("DragCursor"),
+          Inherit("DragMode"),
+          Inherit("Enabled"),
+          Inherit("Font"),
+          Property<&T::MultiLine, &T::SetMultiLine>("MultiLine").Default(false),
+          Inherit("ParentFont"),
+          Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),
+          Inherit("ShowHint"),
+          Inherit("TabOrder"),
+          Inherit("TabStop").Default(true),
+          Inherit("Visible"),
+          Event<&T::OnChange>("OnChange"),
+          Event<&T::OnChanging>("OnChanging").Type("TTabChangingEvent"),
+          Inherit("OnDragDrop"),
+          Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),
+          Inherit("OnEnter"),
+          Inherit("OnExit"),
+          Inherit("OnMouseDown"),
+          Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),
+          Inherit("OnResize"),
+          Inherit("OnStartDrag"),
+      });
   return info;
 }
 
@@ -43,8 +59,7 @@ TPageControl::~TPageControl() {
   // The pages go with it; none of them is to come forward for another meanwhile.
   const std::vector<TTabSheet*> pages = std::exchange(FPages, {});
   FActivePage = nullptr;
-  for (TTabSheet* page : pages)
-    delete page;
+  for (TTabSheet* page : pages) delete page;
 }
 
 TTabSheet* TPageControl::Pages(int index) const {
@@ -122,8 +137,7 @@ void TPageControl::SetMultiLine(bool multiLine) {
 }
 
 void TPageControl::GetChildren(const std::function<void(TComponent*)>& each, TComponent*) {
-  for (TTabSheet* page : std::vector<TTabSheet*>(FPages))
-    each(page);
+  for (TTabSheet* page : std::vector<TTabSheet*>(FPages)) each(page);
 }
 
 void TPageControl::ShowControl(TControl* control) {

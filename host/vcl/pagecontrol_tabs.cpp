@@ -64,8 +64,7 @@ TTabSheet* TPageControl::PageOfTab(int tab) const {
 TTabSheet* TPageControl::PageAtPos(TPoint position) const {
   TCHITTESTINFO info{};
   info.pt = position;
-  return PageOfTab(
-      static_cast<int>(Send(*this, TCM_HITTEST, 0, reinterpret_cast<LPARAM>(&info))));
+  return PageOfTab(static_cast<int>(Send(*this, TCM_HITTEST, 0, reinterpret_cast<LPARAM>(&info))));
 }
 
 void TPageControl::AdjustClientRect(TRect& rect) const {
@@ -78,15 +77,12 @@ void TPageControl::AdjustClientRect(TRect& rect) const {
 void TPageControl::NotifyFromWindow(TMessage& message) {
   TWatch watch(this);
   switch (reinterpret_cast<const NMHDR*>(message.LParam)->code) {
-    case static_cast<UINT>(TCN_SELCHANGING):
-      message.Result = !CanChange();
-      return;
+    case static_cast<UINT>(TCN_SELCHANGING): message.Result = !CanChange(); return;
     case static_cast<UINT>(TCN_SELCHANGE):
       SetActivePage(PageOfTab(static_cast<int>(Send(*this, TCM_GETCURSEL))));
       if (!watch.Gone()) Change();
       return;
-    default:
-      return;
+    default: return;
   }
 }
 

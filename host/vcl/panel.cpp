@@ -35,32 +35,40 @@ void Frame3D(TCanvas* canvas, TRect& rect, TColor topColor, TColor bottomColor, 
 
 const TClass& TCustomPanel::Class() {
   using T = TCustomPanel;
-  static const TClass info = Describe<T, TCustomControl>("TCustomPanel", "extctrls", {
-      Property<&T::Alignment, &T::SetAlignment>("Alignment").Default(taCenter).Unpublished(),
-      Property<&T::BevelInner, &T::SetBevelInner>("BevelInner").Default(bvNone).Unpublished(),
-      Property<&T::BevelOuter, &T::SetBevelOuter>("BevelOuter").Default(bvRaised).Unpublished(),
-      Property<&T::BevelWidth, &T::SetBevelWidth>("BevelWidth").Default(1).Unpublished(),
-      Property<&T::BorderWidth, &T::SetBorderWidth>("BorderWidth").Default(0).Unpublished(),
-      ControlBorder(Property<&T::BorderStyle, &T::SetBorderStyle>("BorderStyle"))
-          .Default(bsNone).Unpublished(),
-      Inherit("Color").Default(clBtnFace).Unpublished(),
-      Inherit("ParentColor").Default(false).Unpublished(),
-  });
+  static const TClass info = Describe<T, TCustomControl>(
+      "TCustomPanel", "extctrls",
+      {
+          Property<&T::Alignment, &T::SetAlignment>("Alignment").Default(taCenter).Unpublished(),
+          Property<&T::BevelInner, &T::SetBevelInner>("BevelInner").Default(bvNone).Unpublished(),
+          Property<&T::BevelOuter, &T::SetBevelOuter>("BevelOuter").Default(bvRaised).Unpublished(),
+          Property<&T::BevelWidth, &T::SetBevelWidth>("BevelWidth").Default(1).Unpublished(),
+          Property<&T::BorderWidth, &T::SetBorderWidth>("BorderWidth").Default(0).Unpublished(),
+          ControlBorder(Property<&T::BorderStyle, &T::SetBorderStyle>("BorderStyle"))
+              .Default(bsNone)
+              .Unpublished(),
+          Inherit("Color").Default(clBtnFace).Unpublished(),
+          Inherit("ParentColor").Default(false).Unpublished(),
+      });
   return info;
 }
 
 const TClass& TPanel::Class() {
-  static const TClass info = Describe<TPanel, TCustomPanel>("TPanel", "extctrls", {
-      Inherit("Align"), Inherit("Alignment"), Inherit("BevelInner"), Inherit("BevelOuter"),
-      Inherit("BevelWidth"), Inherit("BorderWidth"), Inherit("BorderStyle"), Inherit("Caption"),
-      Inherit("Color"), Inherit("Ctl3D"), Inherit("DragCursor"), Inherit("DragMode"),
-      Inherit("Enabled"), Inherit("Font"), Inherit("ParentColor"), Inherit("ParentCtl3D"),
-      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"),
-      Inherit("TabOrder"), Inherit("TabStop"), Inherit("Visible"), Inherit("OnClick"),
-      Inherit("OnDblClick"), Inherit("OnDragDrop"), Inherit("OnDragOver"), Inherit("OnEndDrag"),
-      Inherit("OnEnter"), Inherit("OnExit"), Inherit("OnMouseDown"), Inherit("OnMouseMove"),
-      Inherit("OnMouseUp"), Inherit("OnResize"), Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<TPanel, TCustomPanel>(
+      "TPanel", "extctrls",
+      {
+          Inherit("Align"),       Inherit("Alignment"),   Inherit("BevelInner"),
+          Inherit("BevelOuter"),  Inherit("BevelWidth"),  Inherit("BorderWidth"),
+          Inherit("BorderStyle"), Inherit("Caption"),     Inherit("Color"),
+          Inherit("Ctl3D"),       Inherit("DragCursor"),  Inherit("DragMode"),
+          Inherit("Enabled"),     Inherit("Font"),        Inherit("ParentColor"),
+          Inherit("ParentCtl3D"), Inherit("ParentFont"),  Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),   Inherit("ShowHint"),    Inherit("TabOrder"),
+          Inherit("TabStop"),     Inherit("Visible"),     Inherit("OnClick"),
+          Inherit("OnDblClick"),  Inherit("OnDragDrop"),  Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),   Inherit("OnEnter"),     Inherit("OnExit"),
+          Inherit("OnMouseDown"), Inherit("OnMouseMove"), Inherit("OnMouseUp"),
+          Inherit("OnResize"),    Inherit("OnStartDrag"),
+      });
   return info;
 }
 

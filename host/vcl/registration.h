@@ -5,8 +5,8 @@
 
 namespace vcl {
 
-/// Registers the library's controls, menus and other components with the class registry. Forms do it
-/// before they are read; calling it again changes nothing.
+/// Registers the library's controls, menus and other components with the class registry. Forms do
+/// it before they are read; calling it again changes nothing.
 VCL_API void RegisterHostClasses();
 
 }  // namespace vcl

@@ -37,8 +37,8 @@ class VCL_API TScreen : public TComponent {
   TCustomForm* Forms(int index) const;
   TCustomForm* ActiveForm() const { return FActiveForm; }
   TWinControl* ActiveControl() const { return FActiveControl; }
-  /// The topmost visible control of the program at the position on the screen, in a window of its own
-  /// or not; null when there is none. Disabled ones count only when `allowDisabled`.
+  /// The topmost visible control of the program at the position on the screen, in a window of its
+  /// own or not; null when there is none. Disabled ones count only when `allowDisabled`.
   TControl* ControlAt(TPoint position, bool allowDisabled) const;
 
   /// The pointer shown over all of the program's windows; crDefault: each control's own.

@@ -62,8 +62,7 @@ std::string KeyName(unsigned key) {
 const std::array<std::string, KeyMask + 1>& KeyNames() {
   static const auto names = [] {
     std::array<std::string, KeyMask + 1> all;
-    for (unsigned key = 1; key <= KeyMask; ++key)
-      all[key] = KeyName(key);
+    for (unsigned key = 1; key <= KeyMask; ++key) all[key] = KeyName(key);
     return all;
   }();
   return names;
@@ -104,8 +103,7 @@ std::string ShortCutToText(TShortCut shortCut) {
 TShortCut TextToShortCut(std::string_view text) {
   TShortCut result = scNone;
   text = Trim(text);
-  while (const TShortCut modifier = TakeModifier(text))
-    result = result | modifier;
+  while (const TShortCut modifier = TakeModifier(text)) result = result | modifier;
   const auto& names = KeyNames();
   for (unsigned key = 1; !text.empty() && key <= KeyMask; ++key) {
     if (SameText(names[key], text)) return result | static_cast<TShortCut>(key);

@@ -10,23 +10,33 @@ namespace vcl {
 const TClass& TSpeedButton::Class() {
   using T = TSpeedButton;
   // GroupIndex stands before Down, which only a button of a group can be.
-  static const TClass info = Describe<T, TGraphicControl>("TSpeedButton", "buttons", {
-      Property<&T::AllowAllUp, &T::SetAllowAllUp>("AllowAllUp").Default(false),
-      Property<&T::GroupIndex, &T::SetGroupIndex>("GroupIndex").Default(0),
-      Property<&T::Down, &T::SetDown>("Down").Default(false),
-      Inherit("Caption"), Inherit("Enabled"),
-      Property<&T::Flat, &T::SetFlat>("Flat").Default(false),
-      Inherit("Font"),
-      Property<&T::Glyph, &T::SetGlyph>("Glyph"),
-      Property<&T::Layout, &T::SetLayout>("Layout").Default(blGlyphLeft),
-      Property<&T::Margin, &T::SetMargin>("Margin").Default(-1),
-      Property<&T::NumGlyphs, &T::SetNumGlyphs>("NumGlyphs").Default(1),
-      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"),
-      Property<&T::Spacing, &T::SetSpacing>("Spacing").Default(4),
-      Property<&T::Transparent, &T::SetTransparent>("Transparent").Default(true),
-      Inherit("Visible"), Inherit("OnClick"), Inherit("OnDblClick"), Inherit("OnMouseDown"),
-      Inherit("OnMouseMove"), Inherit("OnMouseUp"),
-  });
+  static const TClass info = Describe<T, TGraphicControl>(
+      "TSpeedButton", "buttons",
+      {
+          Property<&T::AllowAllUp, &T::SetAllowAllUp>("AllowAllUp").Default(false),
+          Property<&T::GroupIndex, &T::SetGroupIndex>("GroupIndex").Default(0),
+          Property<&T::Down, &T::SetDown>("Down").Default(false),
+          Inherit("Caption"),
+          Inherit("Enabled"),
+          Property<&T::Flat, &T::SetFlat>("Flat").Default(false),
+          Inherit("Font"),
+          Property<&T::Glyph, &T::SetGlyph>("Glyph"),
+          Property<&T::Layout, &T::SetLayout>("Layout").Default(blGlyphLeft),
+          Property<&T::Margin, &T::SetMargin>("Margin").Default(-1),
+          Property<&T::NumGlyphs, &T::SetNumGlyphs>("NumGlyphs").Default(1),
+          Inherit("ParentFont"),
+          Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),
+          Inherit("ShowHint"),
+          Property<&T::Spacing, &T::SetSpacing>("Spacing").Default(4),
+          Property<&T::Transparent, &T::SetTransparent>("Transparent").Default(true),
+          Inherit("Visible"),
+          Inherit("OnClick"),
+          Inherit("OnDblClick"),
+          Inherit("OnMouseDown"),
+          Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),
+      });
   return info;
 }
 
@@ -191,16 +201,11 @@ void TSpeedButton::Dispatch(TMessage& message) {
   if (watch.Gone()) return;
   switch (message.Msg) {
     case CM_MOUSEENTER:
-    case CM_MOUSELEAVE:
-      return SetHot(message.Msg == CM_MOUSEENTER);
-    case CM_TEXTCHANGED:
-      return Invalidate();
+    case CM_MOUSELEAVE: return SetHot(message.Msg == CM_MOUSEENTER);
+    case CM_TEXTCHANGED: return Invalidate();
     case CM_ENABLEDCHANGED:
-    case WM_CANCELMODE:
-      FTracking = false;
-      return SetPressed(false);
-    default:
-      return;
+    case WM_CANCELMODE: FTracking = false; return SetPressed(false);
+    default: return;
   }
 }
 

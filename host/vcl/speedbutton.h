@@ -23,8 +23,8 @@ class VCL_API TSpeedButton : public TGraphicControl {
   /// 0 is no group.
   void SetGroupIndex(int group);
   bool Down() const { return FDown; }
-  /// Has a button of a group stay down, and takes up the one that was. What is down goes up only where
-  /// AllowAllUp is true.
+  /// Has a button of a group stay down, and takes up the one that was. What is down goes up only
+  /// where AllowAllUp is true.
   void SetDown(bool down);
   bool Flat() const { return FFlat; }
   /// True shows the edge only while the mouse is over the button or it is down.

@@ -9,19 +9,36 @@ namespace vcl {
 
 const TClass& TTabSheet::Class() {
   using T = TTabSheet;
-  static const TClass info = Describe<T, TWinControl>("TTabSheet", "comctrls", {
-      Inherit("Caption"), Inherit("Enabled"), Inherit("Font"),
-      // A page fills the page control, whatever a form file says.
-      Inherit("Height").Stored(false), Inherit("Left").Stored(false),
-      Property<&T::PageIndex, &T::SetPageIndex>("PageIndex").Stored(false),
-      Inherit("ParentFont"), Inherit("ParentShowHint"), Inherit("PopupMenu"), Inherit("ShowHint"),
-      Property<&T::TabVisible, &T::SetTabVisible>("TabVisible").Default(true),
-      Inherit("Top").Stored(false), Inherit("Width").Stored(false), Inherit("OnDragDrop"),
-      Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"),
-      Event<&T::OnHide>("OnHide"), Inherit("OnMouseDown"), Inherit("OnMouseMove"),
-      Inherit("OnMouseUp"), Inherit("OnResize"), Event<&T::OnShow>("OnShow"),
-      Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<T, TWinControl>(
+      "TTabSheet", "comctrls",
+      {
+          Inherit("Caption"),
+          Inherit("Enabled"),
+          Inherit("Font"),
+          // A page fills the page control, whatever a form file says.
+          Inherit("Height").Stored(false),
+          Inherit("Left").Stored(false),
+          Property<&T::PageIndex, &T::SetPageIndex>("PageIndex").Stored(false),
+          Inherit("ParentFont"),
+          Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),
+          Inherit("ShowHint"),
+          Property<&T::TabVisible, &T::SetTabVisible>("TabVisible").Default(true),
+          Inherit("Top").Stored(false),
+          Inherit("Width").Stored(false),
+          Inherit("OnDragDrop"),
+          Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),
+          Inherit("OnEnter"),
+          Inherit("OnExit"),
+          Event<&T::OnHide>("OnHide"),
+          Inherit("OnMouseDown"),
+          Inherit("OnMouseMove"),
+          Inherit("OnMouseUp"),
+          Inherit("OnResize"),
+          Event<&T::OnShow>("OnShow"),
+          Inherit("OnStartDrag"),
+      });
   return info;
 }
 
@@ -42,8 +59,7 @@ void TTabSheet::SetPageControl(TPageControl* pageControl) { SetParent(pageContro
 void TTabSheet::SetParent(TWinControl* parent) {
   auto* pages = dynamic_cast<TPageControl*>(parent);
   if (parent && !pages) {
-    throw EInvalidOperation(
-        Concat("Page '", Name(), "' cannot stand in a ", parent->ClassName()));
+    throw EInvalidOperation(Concat("Page '", Name(), "' cannot stand in a ", parent->ClassName()));
   }
   TPageControl* former = PageControl();
   if (pages == former) return;

@@ -15,11 +15,13 @@ thread_local std::unordered_map<UINT_PTR, TTimer*> running;
 }  // namespace
 
 const TClass& TTimer::Class() {
-  static const TClass info = Describe<TTimer, TComponent>("TTimer", "extctrls", {
-      Property<&TTimer::Enabled, &TTimer::SetEnabled>("Enabled").Default(true),
-      Property<&TTimer::Interval, &TTimer::SetInterval>("Interval").Default(1000u),
-      Event<&TTimer::OnTimer>("OnTimer"),
-  });
+  static const TClass info = Describe<TTimer, TComponent>(
+      "TTimer", "extctrls",
+      {
+          Property<&TTimer::Enabled, &TTimer::SetEnabled>("Enabled").Default(true),
+          Property<&TTimer::Interval, &TTimer::SetInterval>("Interval").Default(1000u),
+          Event<&TTimer::OnTimer>("OnTimer"),
+      });
   return info;
 }
 

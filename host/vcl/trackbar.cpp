@@ -12,23 +12,38 @@ namespace vcl {
 
 const TClass& TTrackBar::Class() {
   using T = TTrackBar;
-  static const TClass info = Describe<T, TWinControl>("TTrackBar", "comctrls", {
-      Inherit("Align"), Inherit("DragCursor"), Inherit("DragMode"), Inherit("Enabled"),
-      Property<&T::LineSize, &T::SetLineSize>("LineSize").Default(1),
-      Property<&T::Max, &T::SetMax>("Max").Default(10),
-      Property<&T::Min, &T::SetMin>("Min").Default(0),
-      Property<&T::Orientation, &T::SetOrientation>("Orientation").Default(trHorizontal),
-      Inherit("ParentShowHint"),
-      Property<&T::PageSize, &T::SetPageSize>("PageSize").Default(2),
-      Inherit("PopupMenu"),
-      Property<&T::Frequency, &T::SetFrequency>("Frequency").Default(1),
-      Property<&T::Position, &T::SetPosition>("Position").Default(0),
-      Inherit("ShowHint"), Inherit("TabOrder"), Inherit("TabStop").Default(true),
-      Property<&T::TickStyle, &T::SetTickStyle>("TickStyle").Default(tsAuto),
-      Inherit("Visible"), Event<&T::OnChange>("OnChange"), Inherit("OnDragDrop"),
-      Inherit("OnDragOver"), Inherit("OnEndDrag"), Inherit("OnEnter"), Inherit("OnExit"),
-      Inherit("OnKeyDown"), Inherit("OnKeyPress"), Inherit("OnKeyUp"), Inherit("OnStartDrag"),
-  });
+  static const TClass info = Describe<T, TWinControl>(
+      "TTrackBar", "comctrls",
+      {
+          Inherit("Align"),
+          Inherit("DragCursor"),
+          Inherit("DragMode"),
+          Inherit("Enabled"),
+          Property<&T::LineSize, &T::SetLineSize>("LineSize").Default(1),
+          Property<&T::Max, &T::SetMax>("Max").Default(10),
+          Property<&T::Min, &T::SetMin>("Min").Default(0),
+          Property<&T::Orientation, &T::SetOrientation>("Orientation").Default(trHorizontal),
+          Inherit("ParentShowHint"),
+          Property<&T::PageSize, &T::SetPageSize>("PageSize").Default(2),
+          Inherit("PopupMenu"),
+          Property<&T::Frequency, &T::SetFrequency>("Frequency").Default(1),
+          Property<&T::Position, &T::SetPosition>("Position").Default(0),
+          Inherit("ShowHint"),
+          Inherit("TabOrder"),
+          Inherit("TabStop").Default(true),
+          Property<&T::TickStyle, &T::SetTickStyle>("TickStyle").Default(tsAuto),
+          Inherit("Visible"),
+          Event<&T::OnChange>("OnChange"),
+          Inherit("OnDragDrop"),
+          Inherit("OnDragOver"),
+          Inherit("OnEndDrag"),
+          Inherit("OnEnter"),
+          Inherit("OnExit"),
+          Inherit("OnKeyDown"),
+          Inherit("OnKeyPress"),
+          Inherit("OnKeyUp"),
+          Inherit("OnStartDrag"),
+      });
   return info;
 }
 
@@ -40,8 +55,8 @@ TTrackBar::TTrackBar(TComponent* owner) : TWinControl(owner) {
 
 void TTrackBar::SetRange(int min, int max) {
   if (min > max) {
-    throw EArgumentOutOfRangeException(Concat("A track bar cannot go from ", std::to_string(min),
-                                              " to ", std::to_string(max)));
+    throw EArgumentOutOfRangeException(
+        Concat("A track bar cannot go from ", std::to_string(min), " to ", std::to_string(max)));
   }
   FMin = min;
   FMax = max;

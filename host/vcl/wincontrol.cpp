@@ -47,8 +47,7 @@ const TClass& TWinControl::Class() {
   return info;
 }
 
-TWinControl::TWinControl(TComponent* owner)
-    : TControl(owner), FBrush(std::make_unique<TBrush>()) {
+TWinControl::TWinControl(TComponent* owner) : TControl(owner), FBrush(std::make_unique<TBrush>()) {
   FBrush->SetColor(Color());
 }
 

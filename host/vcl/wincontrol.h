@@ -30,8 +30,8 @@ struct TCreateParams {
   std::string WinClassName;
 };
 
-/// A control with a window. The window is made when it is first needed and made again when something
-/// changes that a window cannot change (`RecreateWnd`).
+/// A control with a window. The window is made when it is first needed and made again when
+/// something changes that a window cannot change (`RecreateWnd`).
 class VCL_API TWinControl : public TControl {
  public:
   explicit TWinControl(TComponent* owner);
@@ -182,8 +182,8 @@ class VCL_API TWinControl : public TControl {
  private:
   friend class TControl;
   friend class TApplication;
-  /// Holds the arranging of the controls inside back, also when it ends by an exception; the control
-  /// may be freed meanwhile.
+  /// Holds the arranging of the controls inside back, also when it ends by an exception; the
+  /// control may be freed meanwhile.
   class TAlignHold {
    public:
     explicit TAlignHold(TWinControl& control);
@@ -230,9 +230,9 @@ class VCL_API TWinControl : public TControl {
   HWND FHandle = nullptr;
   WNDPROC FDefWndProc = nullptr;
   std::unique_ptr<TBrush> FBrush;
-  std::vector<TControl*> FControls;     // z-order: graphic controls, then windows; bottom first.
-  std::vector<TWinControl*> FTabList;   // windowed controls by tab order.
-  int FTabOrder = -1;  // As a form file gives it, while the parent is being read.
+  std::vector<TControl*> FControls;    // z-order: graphic controls, then windows; bottom first.
+  std::vector<TWinControl*> FTabList;  // windowed controls by tab order.
+  int FTabOrder = -1;                  // As a form file gives it, while the parent is being read.
   bool FTabStop = false;
   bool FCtl3D = true;
   bool FParentCtl3D = true;

@@ -9,21 +9,16 @@ namespace {
 /// Of two controls along one edge, whether the first comes nearer to that edge.
 bool ComesBefore(const TControl* a, const TControl* b, TAlign align) {
   switch (align) {
-    case alTop:
-      return a->Top() < b->Top();
-    case alBottom:
-      return a->Top() + a->Height() > b->Top() + b->Height();
-    case alLeft:
-      return a->Left() < b->Left();
-    case alRight:
-      return a->Left() + a->Width() > b->Left() + b->Width();
-    default:
-      return false;
+    case alTop: return a->Top() < b->Top();
+    case alBottom: return a->Top() + a->Height() > b->Top() + b->Height();
+    case alLeft: return a->Left() < b->Left();
+    case alRight: return a->Left() + a->Width() > b->Left() + b->Width();
+    default: return false;
   }
 }
 
-/// Puts the control along its edge of the rectangle, which becomes what is left of it. A control that
-/// ends as it hears of its new size takes nothing.
+/// Puts the control along its edge of the rectangle, which becomes what is left of it. A control
+/// that ends as it hears of its new size takes nothing.
 void Place(TControl* control, TRect& rect) {
   const TWatch watch(control);
   const int width = std::max(rect.Width(), 0);
@@ -43,10 +38,8 @@ void Place(TControl* control, TRect& rect) {
     case alRight:
       rect.Right -= control->Width();
       return control->SetBounds(rect.Right, rect.Top, control->Width(), height);
-    case alClient:
-      return control->SetBounds(rect.Left, rect.Top, width, height);
-    case alNone:
-      return;
+    case alClient: return control->SetBounds(rect.Left, rect.Top, width, height);
+    case alNone: return;
   }
 }
 
@@ -95,8 +88,8 @@ void TWinControl::AlignGroup(TControl* control, TAlign align, TRect& rect) {
   }
   // The control that asks goes in front of those that it has been moved level with.
   std::ranges::stable_partition(group, [&](TControl* each) { return each == control; });
-  std::ranges::stable_sort(
-      group, [&](TControl* a, TControl* b) { return ComesBefore(a, b, align); });
+  std::ranges::stable_sort(group,
+                           [&](TControl* a, TControl* b) { return ComesBefore(a, b, align); });
   // What hears of its new size may free any of them, and this control too.
   const TWatch watch(this);
   for (TControl* each : group) {

@@ -50,7 +50,8 @@ int TWinControl::TabOrder() const { return Parent() ? PlaceInTabList() : -1; }
 
 void TWinControl::SetTabOrder(int tabOrder) {
   FTabOrder = tabOrder;
-  // While the parent is read, its other controls are not there yet; it puts all in order at its end.
+  // While the parent is read, its other controls are not there yet; it puts all in order at its
+  // end.
   if (Parent() && !Parent()->ControlState().Has(csReadingState)) MoveInTabList(tabOrder);
 }
 
@@ -183,13 +184,10 @@ bool TWinControl::HandleChar(TMessage& message) {
 bool TWinControl::PreprocessKey(MSG& message) {
   switch (message.message) {
     case WM_KEYDOWN:
-    case WM_SYSKEYDOWN:
-      break;
+    case WM_SYSKEYDOWN: break;
     case WM_CHAR:
-    case WM_SYSCHAR:
-      return OfferChar(message);
-    default:
-      return false;
+    case WM_SYSCHAR: return OfferChar(message);
+    default: return false;
   }
   for (TControl* each = this; each; each = each->Parent()) {
     if (each->PopupMenu() && each->PopupMenu()->IsShortCut(message)) return true;
@@ -207,26 +205,20 @@ bool TWinControl::PreprocessKey(MSG& message) {
 bool TWinControl::OfferSpecialKey(WPARAM key, LPARAM data) {
   UINT wanted = 0;
   switch (key) {
-    case VK_TAB:
-      wanted = DLGC_WANTTAB;
-      break;
+    case VK_TAB: wanted = DLGC_WANTTAB; break;
     case VK_LEFT:
     case VK_RIGHT:
     case VK_UP:
-    case VK_DOWN:
-      wanted = DLGC_WANTARROWS;
-      break;
+    case VK_DOWN: wanted = DLGC_WANTARROWS; break;
     case VK_RETURN:
     case VK_EXECUTE:
     case VK_ESCAPE:
-    case VK_CANCEL:
-      wanted = DLGC_WANTALLKEYS;
-      break;
-    default:
-      return false;
+    case VK_CANCEL: wanted = DLGC_WANTALLKEYS; break;
+    default: return false;
   }
   if (Perform(CM_WANTSPECIALKEY, key)) return false;
-  // Each key by its own flag: a memo takes Enter (DLGC_WANTALLKEYS) and still leaves Tab to the form.
+  // Each key by its own flag: a memo takes Enter (DLGC_WANTALLKEYS) and still leaves Tab to the
+  // form.
   if (Perform(WM_GETDLGCODE) & wanted) return false;
   TCustomForm* form = ParentForm();
   return form && form->Perform(CM_DIALOGKEY, key, data) != 0;

@@ -32,8 +32,7 @@ TReflection Reflect(const TMessage& message) {
   switch (message.Msg) {
     case WM_COMMAND:
     case WM_HSCROLL:
-    case WM_VSCROLL:
-      return {CN_BASE + message.Msg, ControlOf(message.LParam)};
+    case WM_VSCROLL: return {CN_BASE + message.Msg, ControlOf(message.LParam)};
     case WM_NOTIFY:
       return {CN_NOTIFY,
               TWinControl::FromHandle(reinterpret_cast<const NMHDR*>(message.LParam)->hwndFrom)};
@@ -46,10 +45,8 @@ TReflection Reflect(const TMessage& message) {
     case WM_CTLCOLORBTN:
     case WM_CTLCOLORDLG:
     case WM_CTLCOLORSCROLLBAR:
-    case WM_CTLCOLORSTATIC:
-      return {CN_CTLCOLOR, ControlOf(message.LParam)};
-    default:
-      return {};
+    case WM_CTLCOLORSTATIC: return {CN_CTLCOLOR, ControlOf(message.LParam)};
+    default: return {};
   }
 }
 
@@ -69,7 +66,8 @@ void TWinControl::Dispatch(TMessage& message) {
   }
   const TReflection reflection = Reflect(message);
   if (reflection.Control) {
-    message.Result = reflection.Control->Perform(reflection.Message, message.WParam, message.LParam);
+    message.Result =
+        reflection.Control->Perform(reflection.Message, message.WParam, message.LParam);
     return;
   }
   DispatchWindow(message);
@@ -83,31 +81,21 @@ void TWinControl::DefaultHandler(TMessage& message) {
 
 void TWinControl::DispatchWindow(TMessage& message) {
   switch (message.Msg) {
-    case WM_PAINT:
-      return WMPaint(message);
-    case WM_ERASEBKGND:
-      return WMEraseBkgnd(message);
-    case WM_WINDOWPOSCHANGED:
-      return WMWindowPosChanged(message);
+    case WM_PAINT: return WMPaint(message);
+    case WM_ERASEBKGND: return WMEraseBkgnd(message);
+    case WM_WINDOWPOSCHANGED: return WMWindowPosChanged(message);
     case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-      return WMFocus(message);
+    case WM_KILLFOCUS: return WMFocus(message);
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
     case WM_KEYUP:
     case WM_SYSKEYUP:
-    case WM_CHAR:
-      return DispatchKey(message);
-    case WM_SETCURSOR:
-      return WMSetCursor(message);
-    case WM_CONTEXTMENU:
-      return WMContextMenu(message);
-    case WM_CANCELMODE:
-      return WMCancelMode(message);
-    case CN_CTLCOLOR:
-      return CNCtlColor(message);
-    default:
-      return TControl::Dispatch(message);
+    case WM_CHAR: return DispatchKey(message);
+    case WM_SETCURSOR: return WMSetCursor(message);
+    case WM_CONTEXTMENU: return WMContextMenu(message);
+    case WM_CANCELMODE: return WMCancelMode(message);
+    case CN_CTLCOLOR: return CNCtlColor(message);
+    default: return TControl::Dispatch(message);
   }
 }
 
@@ -130,11 +118,8 @@ void TWinControl::DispatchNotice(TMessage& message) {
         ::SendMessageW(FHandle, WM_SETFONT, reinterpret_cast<WPARAM>(Font()->Handle()), TRUE);
       }
       return Broadcast(CM_PARENTFONTCHANGED);
-    case CM_COLORCHANGED:
-      FBrush->SetColor(Color());
-      return Broadcast(CM_PARENTCOLORCHANGED);
-    case CM_SHOWHINTCHANGED:
-      return Broadcast(CM_PARENTSHOWHINTCHANGED);
+    case CM_COLORCHANGED: FBrush->SetColor(Color()); return Broadcast(CM_PARENTCOLORCHANGED);
+    case CM_SHOWHINTCHANGED: return Broadcast(CM_PARENTSHOWHINTCHANGED);
     case CM_PARENTCTL3DCHANGED:
       if (!FParentCtl3D || !Parent()) return;
       SetCtl3D(Parent()->FCtl3D);
@@ -151,17 +136,13 @@ void TWinControl::DispatchNotice(TMessage& message) {
       }
       return;
     }
-    case CM_ENTER:
-      return DoEnter();
-    case CM_EXIT:
-      return DoExit();
+    case CM_ENTER: return DoEnter();
+    case CM_EXIT: return DoExit();
     case CM_SYSCOLORCHANGE:
     case CM_DIALOGKEY:
     case CM_DIALOGCHAR:
-    case CM_FOCUSCHANGED:
-      return PassToChildren(message);
-    default:
-      return;
+    case CM_FOCUSCHANGED: return PassToChildren(message);
+    default: return;
   }
 }
 
@@ -199,8 +180,7 @@ bool TWinControl::IsControlMouseMessage(TMessage& message) {
   message.Result = control->Perform(message.Msg, message.WParam, position);
   // The system still does its part, such as asking for the context menu.
   if (!watch.Gone() && message.Result == 0 && FHandle) {
-    message.Result =
-        ::DefWindowProcW(FHandle, message.Msg, message.WParam, message.LParam);
+    message.Result = ::DefWindowProcW(FHandle, message.Msg, message.WParam, message.LParam);
   }
   return true;
 }

@@ -102,7 +102,8 @@ void TWinControl::PaintDoubleBuffered() {
   const TRect client = ClientRect();
   if (client.Empty()) return;
   const TMemoryDC memory;
-  const TOwnedBitmap picture(::CreateCompatibleBitmap(paint.Get(), client.Width(), client.Height()));
+  const TOwnedBitmap picture(
+      ::CreateCompatibleBitmap(paint.Get(), client.Width(), client.Height()));
   CheckHandle(picture.Get(), "bitmap");
   const TSelection selection(memory.Get(), picture.Get());
   const auto dc = reinterpret_cast<WPARAM>(memory.Get());
@@ -180,7 +181,8 @@ void TWinControl::PaintTo(HDC dc, int x, int y) {
 }
 
 const TClass& TCustomControl::Class() {
-  static const TClass info = Describe<TCustomControl, TWinControl>("TCustomControl", "controls", {});
+  static const TClass info =
+      Describe<TCustomControl, TWinControl>("TCustomControl", "controls", {});
   return info;
 }
 

@@ -27,9 +27,9 @@ TWinControl* creating = nullptr;
 /// The module that the window procedure lies in, which the window classes belong to.
 HINSTANCE OwnModule() {
   HMODULE module = nullptr;
-  ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
-                           GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<LPCSTR>(&creating), &module);
+  ::GetModuleHandleExA(
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+      reinterpret_cast<LPCSTR>(&creating), &module);
   return module;
 }
 
@@ -65,8 +65,8 @@ TWindowClass RegisterWindowClass(const TCreateParams& params, WNDPROC proc, std:
 
 const TWindowClass& WindowClass(const TCreateParams& params, WNDPROC proc) {
   static std::map<std::string, TWindowClass> known;
-  const std::string key = Concat(params.WinClassName, "|", params.SubClassOf, "|",
-                                 std::to_string(params.ClassStyle));
+  const std::string key =
+      Concat(params.WinClassName, "|", params.SubClassOf, "|", std::to_string(params.ClassStyle));
   const auto found = known.find(key);
   if (found != known.end()) return found->second;
   return known.emplace(key, RegisterWindowClass(params, proc, known.size())).first->second;
@@ -133,10 +133,10 @@ void TWinControl::CreateWnd() {
   const TWindowClass& windowClass = WindowClass(params, &TWinControl::StaticWndProc);
   FDefWndProc = windowClass.BaseProc;
   creating = this;
-  const HWND window = ::CreateWindowExW(
-      params.ExStyle, windowClass.Name.c_str(), ToUtf16(params.Caption).c_str(), params.Style,
-      params.X, params.Y, params.Width, params.Height, params.WndParent, nullptr, OwnModule(),
-      nullptr);
+  const HWND window =
+      ::CreateWindowExW(params.ExStyle, windowClass.Name.c_str(), ToUtf16(params.Caption).c_str(),
+                        params.Style, params.X, params.Y, params.Width, params.Height,
+                        params.WndParent, nullptr, OwnModule(), nullptr);
   creating = nullptr;
   if (!window) RaiseOutOfResources("window");
   UpdateBounds();

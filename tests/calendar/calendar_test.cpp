@@ -43,10 +43,8 @@ std::string Error(Call call) {
 }
 
 TEST(Calendar, TellsLeapYearsButNoLeapDays) {
-  for (int year : {4, 1996, 2000, 2400, 9996})
-    EXPECT_TRUE(QELIsLeapYear(year)) << year;
-  for (int year : {1, 1900, 1999, 2100, 9999})
-    EXPECT_FALSE(QELIsLeapYear(year)) << year;
+  for (int year : {4, 1996, 2000, 2400, 9996}) EXPECT_TRUE(QELIsLeapYear(year)) << year;
+  for (int year : {1, 1900, 1999, 2100, 9999}) EXPECT_FALSE(QELIsLeapYear(year)) << year;
   constexpr int lengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
   for (int month = 1; month <= 12; ++month) {
     EXPECT_EQ(QELDaysPerMonth(2000, month), lengths[month - 1]);

@@ -36,8 +36,7 @@ TEST_F(DateText, TellsTheOrderOfAFormat) {
   } cases[] = {{"", dlDMY},           {"DD/MM/YY", dlDMY}, {"mm/dd/yy", dlMDY},
                {"yyyy-mm-dd", dlYMD}, {"Y", dlYMD},        {" . /", dlDMY},
                {"xx M", dlMDY},       {"1d", dlDMY},       {"\xC3\xA4y", dlYMD}};
-  for (const auto& each : cases)
-    EXPECT_EQ(QELGetDateOrder(each.Format), each.Order) << each.Format;
+  for (const auto& each : cases) EXPECT_EQ(QELGetDateOrder(each.Format), each.Order) << each.Format;
   EXPECT_EQ(dlMDY, 0);
   EXPECT_EQ(dlDMY, 1);
   EXPECT_EQ(dlYMD, 2);

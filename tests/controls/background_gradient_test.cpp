@@ -70,12 +70,16 @@ TEST_P(Gradients, AreThePlainCallsPixelByPixel) {
   std::vector<COLORREF> many(24);
   for (std::size_t i = 0; i < many.size(); ++i) many[i] = RGB(i * 37 % 256, i * 91 % 256, i * 5);
   const std::vector<std::vector<COLORREF>> lists = {
-      {Silver, Gray}, {Black, Red, Blue}, {RGB(255, 0, 7), Black, RGB(3, 250, 9), Silver, Blue}, many};
-  const std::pair<int, int> sizes[] = {{1, 1},  {2, 3},   {7, 1},   {1, 9},   {33, 17},
+      {Silver, Gray},
+      {Black, Red, Blue},
+      {RGB(255, 0, 7), Black, RGB(3, 250, 9), Silver, Blue},
+      many};
+  const std::pair<int, int> sizes[] = {{1, 1},   {2, 3},    {7, 1},   {1, 9},   {33, 17},
                                        {64, 64}, {101, 40}, {31, 90}, {320, 9}, {120, 121}};
   for (const auto& [width, height] : sizes) {
     for (int count : {-3, 0, 1, 2, 3, 32, 255, 1000}) {
-      // The plain fan of a thousand colours takes minutes for all sizes, and the two smallest show it.
+      // The plain fan of a thousand colours takes minutes for all sizes, and the two smallest show
+      // it.
       if (count > 255 && width * height > 2000) continue;
       for (const std::vector<COLORREF>& colors : lists) {
         if (&colors == &lists.back() && MayBeThinEllipse(GetParam(), width, height)) continue;

@@ -376,9 +376,12 @@ TEST_F(Background, BrushPatternsStandOnWhiteOrOnTheColor) {
       TCounts counts;
       for (int i = 0; i < 256; ++i) {
         const std::uint32_t pixel = area.Pixel(i % 16, i / 16);
-        if (pixel == 0xFFFFFF) ++counts.White;
-        else if (pixel == 0xFFFF00) ++counts.Solid;
-        else if (pixel == PixelOf(each.Color)) ++counts.Brush;
+        if (pixel == 0xFFFFFF)
+          ++counts.White;
+        else if (pixel == 0xFFFF00)
+          ++counts.Solid;
+        else if (pixel == PixelOf(each.Color))
+          ++counts.Brush;
       }
       EXPECT_EQ(counts, onColor ? each.OnColor : each.OnWhite) << each.Style << onColor;
     }
@@ -397,12 +400,15 @@ TEST_F(Background, ShowsWhereTheCanvasHasTheColor) {
   canvas.SetHandle(area.DC());
   Back.DrawTrans(&canvas, 30, 12, true, vcl::clFuchsia);
   canvas.SetHandle(nullptr);
-  plain::Gradient(expected.DC(), 30, 12, plain::sVertical, 32, {RGB(192, 192, 192), RGB(128, 128, 128)});
+  plain::Gradient(expected.DC(), 30, 12, plain::sVertical, 32,
+                  {RGB(192, 192, 192), RGB(128, 128, 128)});
   for (int y = 0; y < 20; ++y) {
     for (int x = 0; x < 40; ++x) {
       const bool key = x >= 5 && x < 35 && y >= 5 && y < 15;
       const bool inside = x < 30 && y < 12;
-      ASSERT_EQ(area.Pixel(x, y), !key ? GroundPixel : inside ? expected.Pixel(x, y) : 0xFF00FFu)
+      ASSERT_EQ(area.Pixel(x, y), !key     ? GroundPixel
+                                  : inside ? expected.Pixel(x, y)
+                                           : 0xFF00FFu)
           << x << ", " << y;
     }
   }
@@ -434,9 +440,9 @@ TEST_F(LettersOfBackground, AreFilledWithIt) {
   Font3D.SetHighlight(vcl::clYellow);
   const TArea area(120, 120);
   Write(area, {10, 20, 110, 100});
-  EXPECT_EQ(area.Pixel(60, 40), 0xFF0101u);            // In the upper half of the rectangle.
-  EXPECT_EQ(area.Pixel(60, 68), 0x0101FFu);            // In the lower half.
-  EXPECT_EQ(area.Pixel(90, 70), PixelOf(vcl::clLime));   // The shadow has its own colour,
+  EXPECT_EQ(area.Pixel(60, 40), 0xFF0101u);               // In the upper half of the rectangle.
+  EXPECT_EQ(area.Pixel(60, 68), 0x0101FFu);               // In the lower half.
+  EXPECT_EQ(area.Pixel(90, 70), PixelOf(vcl::clLime));    // The shadow has its own colour,
   EXPECT_EQ(area.Pixel(30, 30), PixelOf(vcl::clYellow));  // the highlight, too.
   EXPECT_EQ(area.Pixel(2, 100), GroundPixel);
   EXPECT_EQ(area.Pixel(60, 15), GroundPixel);

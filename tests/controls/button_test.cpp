@@ -48,7 +48,8 @@ class Button : public testing::Test {
     testinput::LeftDown();
   }
   bool Clicked(int times) {
-    return testinput::PumpUntil([&] { return Clicks == times; }) && (testinput::Pump(), Clicks == times);
+    return testinput::PumpUntil([&] { return Clicks == times; }) &&
+           (testinput::Pump(), Clicks == times);
   }
 
   vcl::TForm Form;
@@ -292,13 +293,12 @@ TEST_F(PaintedButton, CopiesTheSettingsItIsGiven) {
 TEST_F(Button, PublishesItsPropertiesInOrder) {
   std::vector<std::string> names;
   for (const vcl::TPropInfo& each : qel::TQELButton::Class().Own()) names.push_back(each.Name);
-  EXPECT_THAT(names,
-              ElementsAre("About", "Font3D", "Glyph", "Enabled", "ParentShowHint", "ShowHint",
-                          "Font", "Visible", "Caption", "WordWrap", "ButtonSunk", "Background",
-                          "OnClick", "DragCursor", "DragMode", "ParentFont", "PopupMenu",
-                          "TabOrder", "TabStop", "OnDragDrop", "OnDragOver", "OnEndDrag",
-                          "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove",
-                          "OnMouseUp", "OnEnter", "OnExit", "OnStartDrag"));
+  EXPECT_THAT(names, ElementsAre("About", "Font3D", "Glyph", "Enabled", "ParentShowHint",
+                                 "ShowHint", "Font", "Visible", "Caption", "WordWrap", "ButtonSunk",
+                                 "Background", "OnClick", "DragCursor", "DragMode", "ParentFont",
+                                 "PopupMenu", "TabOrder", "TabStop", "OnDragDrop", "OnDragOver",
+                                 "OnEndDrag", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown",
+                                 "OnMouseMove", "OnMouseUp", "OnEnter", "OnExit", "OnStartDrag"));
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The gauge: its picture against the steps of its drawing done one line at a time, and what a change
-// of the percentage does to the screen.
+// The gauge: its picture against the steps of its drawing done one line at a time, and what a
+// change of the percentage does to the screen.
 #include "controls/Qeltgauge.h"
 
 #include <gmock/gmock.h>
@@ -98,8 +98,8 @@ class TPlainGauge {
   }
   void Line(int place, int x1, int y1, int x2, int y2) {
     const bool segment = place % (It.SegmentWidth() + It.SegmentGap()) <= It.SegmentWidth();
-    const plain::TTools tools(
-        FDC, vcl::ColorToRGB(segment ? It.SegmentColor() : It.InsideBackColor()));
+    const plain::TTools tools(FDC,
+                              vcl::ColorToRGB(segment ? It.SegmentColor() : It.InsideBackColor()));
     plain::Line(FDC, x1, y1, x2, y2);
   }
   void Columns(vcl::TRect r) {
@@ -455,17 +455,19 @@ TEST_F(GaugeOnScreen, AChangeDrawsOnlyBarAndNumberAndInvalidatesNothing) {
 
 TEST_F(GaugeOnScreen, EverythingElseIsPaintedWhenItIsAskedFor) {
   Show();
-  const std::vector<std::function<void()>> changes = {
-      [&] { It->SetSegmentWidth(3); }, [&] { It->SetSegmentGap(1); },
-      [&] { It->SetBorderwidth(4); },  [&] { It->SetSegmentColor(vcl::clRed); },
-      [&] { It->SetKind(kVertical); }, [&] { It->SetInsideBackColor(vcl::clRed); },
-      [&] { It->SetPicturePosition(pTop); },
-      [&] { It->SetFont3D(new TQELFont3D); },
-      [&] { It->SetBevelInner(new TQELFrame); },
-      [&] { It->SetBevelOuter(new TQELFrame); },
-      [&] { It->BevelOuter()->SetFrameWidth(2); },
-      [&] { It->SetBackground(nullptr); },
-      [&] { GiveGlyph(*It, 4, 4); }};
+  const std::vector<std::function<void()>> changes = {[&] { It->SetSegmentWidth(3); },
+                                                      [&] { It->SetSegmentGap(1); },
+                                                      [&] { It->SetBorderwidth(4); },
+                                                      [&] { It->SetSegmentColor(vcl::clRed); },
+                                                      [&] { It->SetKind(kVertical); },
+                                                      [&] { It->SetInsideBackColor(vcl::clRed); },
+                                                      [&] { It->SetPicturePosition(pTop); },
+                                                      [&] { It->SetFont3D(new TQELFont3D); },
+                                                      [&] { It->SetBevelInner(new TQELFrame); },
+                                                      [&] { It->SetBevelOuter(new TQELFrame); },
+                                                      [&] { It->BevelOuter()->SetFrameWidth(2); },
+                                                      [&] { It->SetBackground(nullptr); },
+                                                      [&] { GiveGlyph(*It, 4, 4); }};
   for (std::size_t i = 0; i < changes.size(); ++i) {
     changes[i]();
     EXPECT_TRUE(Pending()) << i;

@@ -81,11 +81,12 @@ class LabelText : public Label {
     Paint();
     return Drawn.at(0);
   }
-  TImportPatch Patch{"qel.dll", "DrawTextExW",
-                     +[](HDC, wchar_t*, int, RECT* rect, UINT flags, DRAWTEXTPARAMS*) WINAPI -> int {
-                       Drawn.push_back({*rect, flags});
-                       return 1;
-                     }};
+  TImportPatch Patch{
+      "qel.dll", "DrawTextExW",
+      +[](HDC, wchar_t*, int, RECT* rect, UINT flags, DRAWTEXTPARAMS*) WINAPI -> int {
+        Drawn.push_back({*rect, flags});
+        return 1;
+      }};
 };
 
 TEST_F(LabelText, TheFrameTakesFromThreeSides) {

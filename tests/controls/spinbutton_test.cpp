@@ -174,7 +174,7 @@ TEST_F(SpinButton, TheHalvesAreDividedByHeightAndNotByWidth) {
     int X;
     int Y;
     TQELButtonState Half;
-  } cases[] = {{0, 19, bsTopDown}, {5, 10, bsTopDown}, {5, 11, bsBottomDown},
+  } cases[] = {{0, 19, bsTopDown}, {5, 10, bsTopDown},    {5, 11, bsBottomDown},
                {10, 0, bsTopDown}, {11, 0, bsBottomDown}, {30, 2, bsBottomDown}};
   for (const auto& each : cases) {
     MoveTo(each.X, each.Y);

@@ -59,8 +59,8 @@ TEST_F(SpinEdit, KeysStep) {
     int From;
     int Value;
   } cases[] = {
-      {VK_UP, 5, 8},      {VK_DOWN, 5, 2},   {VK_PRIOR, 5, 25}, {VK_NEXT, 45, 25},
-      {VK_UP, 99, 100},   {VK_DOWN, 1, 0},   {VK_PRIOR, 90, 100}, {VK_NEXT, 10, 0},
+      {VK_UP, 5, 8},    {VK_DOWN, 5, 2}, {VK_PRIOR, 5, 25},   {VK_NEXT, 45, 25},
+      {VK_UP, 99, 100}, {VK_DOWN, 1, 0}, {VK_PRIOR, 90, 100}, {VK_NEXT, 10, 0},
   };
   Spin->SetLineSize(3);
   Spin->SetMultipleLineSize(20);
@@ -83,8 +83,8 @@ TEST_F(SpinEdit, StepsEndAtTheIntegersLimits) {
     WORD Key;
     int Value;
   } cases[] = {
-      {Most, 1, VK_UP, Most},         {Most - 2, 10, VK_UP, Most}, {Least, 1, VK_DOWN, Least},
-      {0, Least, VK_DOWN, Most},      {-1, Least, VK_UP, Least},   {Least, Most, VK_DOWN, Least},
+      {Most, 1, VK_UP, Most},    {Most - 2, 10, VK_UP, Most}, {Least, 1, VK_DOWN, Least},
+      {0, Least, VK_DOWN, Most}, {-1, Least, VK_UP, Least},   {Least, Most, VK_DOWN, Least},
   };
   SetBounds(Least, Most);
   for (const auto& each : cases) {
@@ -116,9 +116,9 @@ TEST_F(SpinEdit, WhatIsTypedIsKeptWithinTheBoundsWhenTheFocusLeaves) {
     const char* Left;
     int Value;
   } cases[] = {
-      {"500", "100", 100}, {"-5", "0", 0},     {"42", "42", 42},
-      {"", "0", 0},        {"+7", "+7", 7},    {"+-", "+-", 0},
-      {"12a", "12a", 0},   {"$1F", "$1F", 0},  {"99999999999", "99999999999", 0},
+      {"500", "100", 100}, {"-5", "0", 0},    {"42", "42", 42},
+      {"", "0", 0},        {"+7", "+7", 7},   {"+-", "+-", 0},
+      {"12a", "12a", 0},   {"$1F", "$1F", 0}, {"99999999999", "99999999999", 0},
   };
   for (const auto& each : cases) {
     Spin->SetFocus();
@@ -222,9 +222,14 @@ TEST_F(SpinEdit, IsDisabledWithItsButton) {
 }
 
 TEST_F(SpinEdit, AHandlerMayFreeIt) {
-  for (const auto& act : {std::function<void()>([&] { Key(VK_UP); }), {[&] { Key(VK_NEXT); }},
-                          {[&] { Type("5"); }}, {[&] { ClickHalf(true); }},
-                          {[&] { Spin->SetText("500"); Key(VK_TAB); }}}) {
+  for (const auto& act : {std::function<void()>([&] { Key(VK_UP); }),
+                          {[&] { Key(VK_NEXT); }},
+                          {[&] { Type("5"); }},
+                          {[&] { ClickHalf(true); }},
+                          {[&] {
+                            Spin->SetText("500");
+                            Key(VK_TAB);
+                          }}}) {
     Spin->SetValue(50);
     Spin->SetFocus();
     bool freed = false;

@@ -19,7 +19,7 @@ TEST_F(SpinEditValue, ReadsWhatTheTextSays) {
   const struct {
     const char* Text;
     int Value;
-  } cases[] = {{"7", 7},   {"-2", -2}, {"+9", 9},  {"4000", 4000}, {"1x", -3},
+  } cases[] = {{"7", 7},   {"-2", -2}, {"+9", 9},   {"4000", 4000}, {"1x", -3},
                {"1-", -3}, {"e", -3},  {"0x5", -3}, {"1\r\n2", -3}, {"2147483648", -3}};
   for (const auto& each : cases) {
     Spin->SetText(each.Text);
@@ -100,15 +100,21 @@ TEST(SpinEditFormFile, TakesBothBoundsTogether) {
 }
 
 TEST(SpinEditFormFile, HoldsWhatDiffersAndNothingOfTheButton) {
-  const auto form = Read("Left = 4\nWidth = 90\nHeight = 30\nAutoSize = False\nArrowColor = clRed\n"
-                         "MaxValue = -5\nMinValue = -10\nReadonly = True\nValue = -7\n");
+  const auto form = Read(
+      "Left = 4\nWidth = 90\nHeight = 30\nAutoSize = False\nArrowColor = clRed\n"
+      "MaxValue = -5\nMinValue = -10\nReadonly = True\nValue = -7\n");
   EXPECT_EQ(SpinOn(*form)->Height(), 30);
   vcl::TStringStream file;
   vcl::WriteComponentText(file, form.get());
   const std::string text = file.DataString();
   const std::string spin = text.substr(text.find("object Spin"));
-  const char* const order[] = {"AutoSize = False", "ArrowColor = clRed", "MaxValue = -5",
-                               "MinValue = -10", "Readonly = True", "Value = -7", "end"};
+  const char* const order[] = {"AutoSize = False",
+                               "ArrowColor = clRed",
+                               "MaxValue = -5",
+                               "MinValue = -10",
+                               "Readonly = True",
+                               "Value = -7",
+                               "end"};
   std::size_t at = 0;
   for (const char* line : order) {
     const std::size_t found = spin.find(line, at);
@@ -204,16 +210,15 @@ TEST_F(SpinEditWindow, ColoursGoToTheButton) {
 TEST(SpinEditTable, IsInDeclaredOrder) {
   std::vector<std::string> names;
   for (const vcl::TPropInfo& each : TQELCustomSpinEdit::Class().Own()) names.push_back(each.Name);
-  EXPECT_THAT(
-      names,
-      ElementsAre("AutoSelect", "AutoSize", "Color", "Ctl3D", "ButtonColor", "ArrowColor",
-                  "DragCursor", "DragMode", "Enabled", "Font", "ImeMode", "ImeName", "MaxLength",
-                  "ParentColor", "ParentCtl3D", "ParentFont", "ParentShowHint", "PopupMenu",
-                  "ShowHint", "TabOrder", "TabStop", "Visible", "CutandPaste", "LineSize",
-                  "MaxValue", "MinValue", "MultipleLineSize", "Readonly", "Value", "OnChange",
-                  "OnClick", "OnDblClick", "OnDragDrop", "OnDragOver", "OnEndDrag", "OnEnter",
-                  "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove",
-                  "OnMouseUp"));
+  EXPECT_THAT(names,
+              ElementsAre("AutoSelect", "AutoSize", "Color", "Ctl3D", "ButtonColor", "ArrowColor",
+                          "DragCursor", "DragMode", "Enabled", "Font", "ImeMode", "ImeName",
+                          "MaxLength", "ParentColor", "ParentCtl3D", "ParentFont", "ParentShowHint",
+                          "PopupMenu", "ShowHint", "TabOrder", "TabStop", "Visible", "CutandPaste",
+                          "LineSize", "MaxValue", "MinValue", "MultipleLineSize", "Readonly",
+                          "Value", "OnChange", "OnClick", "OnDblClick", "OnDragDrop", "OnDragOver",
+                          "OnEndDrag", "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp",
+                          "OnMouseDown", "OnMouseMove", "OnMouseUp"));
   ASSERT_EQ(TQELSpinEdit::Class().Own().size(), 1u);
   EXPECT_EQ(TQELSpinEdit::Class().Own()[0].Name, "About");
   const auto text = [](const char* name) {

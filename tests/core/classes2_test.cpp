@@ -38,8 +38,7 @@ TEST(StringIntoPieces, SplitsAtTheSeparator) {
     vcl::TStringList list;
     EXPECT_EQ(QELStringIntoPieces(each.Text, each.Separator, &list), &list);
     std::vector<std::string> pieces;
-    for (int i = 0; i < list.Count(); ++i)
-      pieces.push_back(list.Strings(i));
+    for (int i = 0; i < list.Count(); ++i) pieces.push_back(list.Strings(i));
     EXPECT_EQ(pieces, each.Pieces) << each.Text;
   }
 }
@@ -51,8 +50,7 @@ TEST(StringIntoPieces, KeepsPositionsInAByte) {
     QELStringIntoPieces(std::string(before, 'x') + ",yz", ",", &list);
     EXPECT_EQ(list.Strings(0), "first");
     std::vector<std::size_t> sizes;
-    for (int i = 1; i < list.Count(); ++i)
-      sizes.push_back(list.Strings(i).size());
+    for (int i = 1; i < list.Count(); ++i) sizes.push_back(list.Strings(i).size());
     return sizes;
   };
   using testing::ElementsAre;

@@ -16,11 +16,11 @@ namespace {
 
 /// Where the constructor differs from the declared default on purpose.
 const std::set<std::string> Exceptions = {
-    "TQELButton.TabStop",    // A button stops the tab key, and its form file always says so.
+    "TQELButton.TabStop",          // A button stops the tab key, and its form file always says so.
     "TQELButtonDetails.ShowHint",  // Without hints, until a dialog says so.
-    "TQELLabel.ParentFont",  // A label begins with a font of its own.
-    "TQELGauge.Width",       // A gauge of the declared size comes back from a form file with that
-    "TQELGauge.Height",      // of the constructor.
+    "TQELLabel.ParentFont",        // A label begins with a font of its own.
+    "TQELGauge.Width",   // A gauge of the declared size comes back from a form file with that
+    "TQELGauge.Height",  // of the constructor.
     "TQELHint.UnUsedHintColor",  // The declared colours differ from the constructor's on purpose.
     "TQELHint.HintShadowColor",
     "TQELTimer32.Priority",  // Urgent; that its form file says so starts it.

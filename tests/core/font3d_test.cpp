@@ -171,8 +171,8 @@ TEST(Font3DWrite, TakesAnyText) {
   }
 }
 
-/// Few copies are all drawn, of many only those that can be seen: a trail that begins beyond the area
-/// shows the same from there on, whichever it is.
+/// Few copies are all drawn, of many only those that can be seen: a trail that begins beyond the
+/// area shows the same from there on, whichever it is.
 TEST(Font3DWrite, TrailsOfAnyLengthTakeNoTime) {
   vcl::TFont font;
   for (const qel::TQELRepeat repeat : {qel::repeatOnShadow, qel::repeatOnHighLight}) {
@@ -186,10 +186,10 @@ TEST(Font3DWrite, TrailsOfAnyLengthTakeNoTime) {
         dib->Fill(0xFFFFFF);
         font3D.SetRepetitionwidth(copies);
         // The rectangle is larger by what the copies take from it.
-        font3D.Write(&font, dib->DC(),
-                     {Area.Left - copies, Area.Top - copies, Area.Right + copies,
-                      Area.Bottom + copies},
-                     "Ab cd", flags, true);
+        font3D.Write(
+            &font, dib->DC(),
+            {Area.Left - copies, Area.Top - copies, Area.Right + copies, Area.Bottom + copies},
+            "Ab cd", flags, true);
         ::GdiFlush();
         return dib;
       };

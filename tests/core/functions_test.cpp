@@ -142,8 +142,7 @@ TEST(FontHeight, IsThatOfALetter) {
     EXPECT_EQ(QELFontHeight(&font), bitmap.Canvas()->TextHeight("W")) << height;
   }
   const int before = handles::GdiObjects();
-  for (int i = 0; i < 100; ++i)
-    QELFontHeight(&font);
+  for (int i = 0; i < 100; ++i) QELFontHeight(&font);
   EXPECT_EQ(handles::GdiObjects(), before);
   const TImportPatch fails(
       "qel.dll", "GetTextExtentPointW",
@@ -192,8 +191,7 @@ TEST(GetTriangle, PointsUpOrDown) {
 
 TEST(GetTriangle, HasSizesFrom2To15) {
   for (int size : {-5, 0, 1, 16, 100}) {
-    for (const std::string& row : Triangle(false, true, size, 9, 5))
-      EXPECT_EQ(row, ".........");
+    for (const std::string& row : Triangle(false, true, size, 9, 5)) EXPECT_EQ(row, ".........");
   }
   int rows = 0;
   for (const std::string& row : Triangle(true, false, 15, 40, 20))

@@ -108,11 +108,11 @@ std::vector<int> Priorities;
 
 TEST(Timer32, ItsPriorityIsGivenToTheThreadOnceAtItsBegin) {
   Priorities.clear();
-  const TImportPatch patch("qelhost.dll", "SetThreadPriority",
-                           +[](HANDLE, int priority) WINAPI -> BOOL {
-                             Priorities.push_back(priority);
-                             return FALSE;  // A refusal does not stop the timer.
-                           });
+  const TImportPatch patch(
+      "qelhost.dll", "SetThreadPriority", +[](HANDLE, int priority) WINAPI -> BOOL {
+        Priorities.push_back(priority);
+        return FALSE;  // A refusal does not stop the timer.
+      });
   TCounted counted;
   EXPECT_EQ(counted.Timer.Priority(), vcl::tpTimeCritical);
   counted.Timer.SetThreadPriority(vcl::tpHighest);
@@ -298,7 +298,8 @@ void RunCrowd(int milliseconds) {
   for (auto& each : crowd) each->Timer.SetEnabled(true);
   EXPECT_TRUE(PumpUntil([&] {
     for (int i = 0; i < Crowd; ++i) {
-      if (crowd[static_cast<std::size_t>(i)]->Events == events[static_cast<std::size_t>(i)]) return false;
+      if (crowd[static_cast<std::size_t>(i)]->Events == events[static_cast<std::size_t>(i)])
+        return false;
     }
     return true;
   }));

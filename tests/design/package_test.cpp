@@ -31,8 +31,8 @@ TEST(Package, PutsItsComponentsOnTheirPages) {
   ASSERT_EQ(pages.size(), 3u);
   const TPaletteEntry& page = pages[0];
   EXPECT_EQ(page.Page, "QEL Controls/1");
-  EXPECT_THAT(Names(page.Classes), ElementsAre("TQELBackground", "TQELLabel", "TQELButton",
-                                               "TQELGauge", "TQELHint"));
+  EXPECT_THAT(Names(page.Classes),
+              ElementsAre("TQELBackground", "TQELLabel", "TQELButton", "TQELGauge", "TQELHint"));
   EXPECT_EQ(pages[1].Page, "QEL Controls/2");
   EXPECT_THAT(Names(pages[1].Classes), ElementsAre("TQELSpinEdit"));
   EXPECT_EQ(pages[2].Page, "QEL System/2");
@@ -83,8 +83,10 @@ TEST(Package, TakesBackWhatItRegistered) {
 }
 
 TEST(Package, SaysWhyItCannotBeLoaded) {
-  EXPECT_THAT([] { TPackage("missing.dll"); }, ThrowsMessage<EPackageError>(HasSubstr("missing.dll")));
-  EXPECT_THAT([] { TPackage("kernel32.dll"); }, ThrowsMessage<EPackageError>(HasSubstr("Register")));
+  EXPECT_THAT([] { TPackage("missing.dll"); },
+              ThrowsMessage<EPackageError>(HasSubstr("missing.dll")));
+  EXPECT_THAT([] { TPackage("kernel32.dll"); },
+              ThrowsMessage<EPackageError>(HasSubstr("Register")));
   EXPECT_TRUE(RegisteredComponents().empty());
 }
 

@@ -42,9 +42,8 @@ std::string ReadAndWrite(const std::string& text) {
 TEST(GalleryFormFile, IsTheSameWhenItIsWrittenBack) {
   RegisterHostClasses();
   RegisterClasses({&qel::TQELBackground::Class(), &qel::TQELButton::Class(),
-                   &qel::TQELLabel::Class(), &qel::TQELGauge::Class(),
-                   &qel::TQELHint::Class(), &qel::TQELSpinEdit::Class(),
-                   &qel::TQELTimer32::Class()});
+                   &qel::TQELLabel::Class(), &qel::TQELGauge::Class(), &qel::TQELHint::Class(),
+                   &qel::TQELSpinEdit::Class(), &qel::TQELTimer32::Class()});
   TResourceStream file(nullptr, "TGALLERYFORM", MAKEINTRESOURCEA(10));
   std::string text = TextOf(file);
   std::erase(text, '\r');

@@ -64,8 +64,8 @@ class Screenshots : public ::testing::Test {
 
 TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
   ASSERT_EQ(Result.Code, 0u) << Result.Errors;
-  const char* names[] = {"buttons.png", "labels.png", "backgrounds.png", "gauges.png",
-                         "spin-edits.png", "hints.png"};
+  const char* names[] = {"buttons.png", "labels.png",     "backgrounds.png",
+                         "gauges.png",  "spin-edits.png", "hints.png"};
   ASSERT_EQ(Files.size(), std::size(names));
   for (std::size_t i = 0; i < std::size(names); ++i) {
     EXPECT_EQ(std::filesystem::path(Files[i]).filename().string(), names[i]);

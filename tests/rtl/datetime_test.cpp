@@ -283,10 +283,8 @@ TEST(DateTime, RefusesTextsThatAreNone) {
 
 TEST(DateTime, ReadsWhatTheUsersFormatsWrite) {
   const TFormatSettings settings = SystemFormatSettings();
-  for (const std::string& name : settings.LongMonthNames)
-    EXPECT_NE(name, "");
-  for (const std::string& name : settings.ShortDayNames)
-    EXPECT_NE(name, "");
+  for (const std::string& name : settings.LongMonthNames) EXPECT_NE(name, "");
+  for (const std::string& name : settings.ShortDayNames) EXPECT_NE(name, "");
   const TDateTime value = EncodeDate(2034, 12, 31) + EncodeTime(23, 58, 59, 0);
   EXPECT_EQ(StrToDateTime(DateTimeToStr(value, settings), settings), value)
       << DateTimeToStr(value, settings);

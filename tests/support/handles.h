@@ -20,8 +20,9 @@ int CountByTrying(IsObject isObject) {
 inline int GdiObjects() {
   const DWORD count = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS);
   if (count) return static_cast<int>(count);
-  return CountByTrying(
-      [](std::uintptr_t handle) { return ::GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) != 0; });
+  return CountByTrying([](std::uintptr_t handle) {
+    return ::GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) != 0;
+  });
 }
 
 /// Windows and menus.

@@ -1,5 +1,5 @@
-// Takes the place of a system call that a module makes, by way of the module's import table, so that a
-// test sees which calls are made without the product knowing.
+// Takes the place of a system call that a module makes, by way of the module's import table, so
+// that a test sees which calls are made without the product knowing.
 #pragma once
 
 #include <cstdint>
@@ -32,9 +32,11 @@ class TImportPatch {
     const auto* nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
     const IMAGE_DATA_DIRECTORY& imports =
         nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    const auto* each = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + imports.VirtualAddress);
+    const auto* each =
+        reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + imports.VirtualAddress);
     for (; each->Name; ++each) {
-      const auto* names = reinterpret_cast<const IMAGE_THUNK_DATA*>(base + each->OriginalFirstThunk);
+      const auto* names =
+          reinterpret_cast<const IMAGE_THUNK_DATA*>(base + each->OriginalFirstThunk);
       auto* slots = reinterpret_cast<std::uintptr_t*>(base + each->FirstThunk);
       for (int i = 0; names[i].u1.AddressOfData; ++i) {
         if (IMAGE_SNAP_BY_ORDINAL(names[i].u1.Ordinal)) continue;

@@ -121,8 +121,8 @@ inline COLORREF StepColor(COLORREF c1, COLORREF c2, int j, int cc, bool raise) {
   const int to[] = {GetRValue(c2), GetGValue(c2), GetBValue(c2)};
   BYTE result[3];
   for (int i = 0; i < 3; ++i) {
-    result[i] = static_cast<BYTE>(
-        cc <= 1 ? from[i] : from[i] + ::MulDiv(j, to[i] - from[i], cc - 1));
+    result[i] =
+        static_cast<BYTE>(cc <= 1 ? from[i] : from[i] + ::MulDiv(j, to[i] - from[i], cc - 1));
     if (raise && result[i] == 0) result[i] = 1;
   }
   return RGB(result[0], result[1], result[2]);

@@ -40,8 +40,7 @@ inline std::uint32_t ChunkCrc(const unsigned char* bytes, std::size_t count) {
   std::uint32_t crc = 0xFFFFFFFF;
   for (std::size_t i = 0; i < count; ++i) {
     crc ^= bytes[i];
-    for (int bit = 0; bit < 8; ++bit)
-      crc = crc & 1 ? crc >> 1 ^ 0xEDB88320 : crc >> 1;
+    for (int bit = 0; bit < 8; ++bit) crc = crc & 1 ? crc >> 1 ^ 0xEDB88320 : crc >> 1;
   }
   return ~crc;
 }

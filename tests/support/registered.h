@@ -12,12 +12,11 @@
 #include "host/rtl/classregistry.h"
 
 inline void RegisterAll() {
-  vcl::RegisterClasses({&qel::TQELFont3D::Class(), &qel::TQELGradient::Class(),
-                        &qel::TQELTexture::Class(), &qel::TQELFrame::Class(),
-                        &qel::TQELAbout::Class(), &qel::TQELGlyph::Class(),
-                        &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class(),
-                        &qel::TQELButton::Class(), &qel::TQELLabel::Class(),
-                        &qel::TQELGauge::Class(), &qel::TQELHint::Class(),
-                        &qel::TQELSpinButton::Class(), &qel::TQELSpinEdit::Class(),
-                        &qel::TQELTimer32::Class(), &qel::TQELButtonDetails::Class()});
+  vcl::RegisterClasses(
+      {&qel::TQELFont3D::Class(), &qel::TQELGradient::Class(), &qel::TQELTexture::Class(),
+       &qel::TQELFrame::Class(), &qel::TQELAbout::Class(), &qel::TQELGlyph::Class(),
+       &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class(), &qel::TQELButton::Class(),
+       &qel::TQELLabel::Class(), &qel::TQELGauge::Class(), &qel::TQELHint::Class(),
+       &qel::TQELSpinButton::Class(), &qel::TQELSpinEdit::Class(), &qel::TQELTimer32::Class(),
+       &qel::TQELButtonDetails::Class()});
 }

@@ -134,10 +134,8 @@ TEST(Application, MessagesAndIdleTimeReachTheHandlers) {
   int idle = 0;
   Application()->OnIdle = [&](TObject*, bool& done) { done = ++idle == 3; };
   ::PostMessageW(Application()->Handle(), message, 0, 0);
-  while (seen == 0)
-    Application()->HandleMessage();
-  while (idle < 2)
-    Application()->HandleMessage();
+  while (seen == 0) Application()->HandleMessage();
+  while (idle < 2) Application()->HandleMessage();
   Application()->OnIdle = nullptr;
   Application()->OnMessage = nullptr;
   EXPECT_EQ(seen, 1);

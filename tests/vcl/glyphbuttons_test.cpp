@@ -174,11 +174,16 @@ TEST_F(GlyphButtons, KindsSetAnswerKeysCaptionAndGlyph) {
     TModalResult Result;
     bool Default, Cancel;
   } cases[] = {
-      {bkOK, "OK", mrOk, true, false},       {bkCancel, "Cancel", mrCancel, false, true},
-      {bkHelp, "&Help", mrNone, false, false}, {bkYes, "&Yes", mrYes, true, false},
-      {bkNo, "&No", mrNo, false, true},      {bkClose, "&Close", mrNone, false, false},
-      {bkAbort, "Abort", mrAbort, false, false}, {bkRetry, "&Retry", mrRetry, false, false},
-      {bkIgnore, "&Ignore", mrIgnore, false, false}, {bkAll, "&All", mrAll, false, false},
+      {bkOK, "OK", mrOk, true, false},
+      {bkCancel, "Cancel", mrCancel, false, true},
+      {bkHelp, "&Help", mrNone, false, false},
+      {bkYes, "&Yes", mrYes, true, false},
+      {bkNo, "&No", mrNo, false, true},
+      {bkClose, "&Close", mrNone, false, false},
+      {bkAbort, "Abort", mrAbort, false, false},
+      {bkRetry, "&Retry", mrRetry, false, false},
+      {bkIgnore, "&Ignore", mrIgnore, false, false},
+      {bkAll, "&All", mrAll, false, false},
   };
   for (const auto& each : cases) {
     auto* button = Make<TBitBtn>(0, 0);

@@ -1,5 +1,5 @@
-// What a control with the focus asks of the keyboard's input method. The system's answers are made up:
-// a test machine has no Far Eastern keyboard.
+// What a control with the focus asks of the keyboard's input method. The system's answers are made
+// up: a test machine has no Far Eastern keyboard.
 #include <gmock/gmock.h>
 
 #include "tests/support/importpatch.h"
@@ -43,10 +43,9 @@ class Ime : public TStandardForm {
 
   TEdit* Edit;
   TEdit* Other;
-  TImportPatch Associate{"qelhost.dll", "ImmAssociateContextEx",
-                         +[](HWND, HIMC, DWORD flags) WINAPI -> BOOL {
-                           return Log("associate", flags), TRUE;
-                         }};
+  TImportPatch Associate{
+      "qelhost.dll", "ImmAssociateContextEx",
+      +[](HWND, HIMC, DWORD flags) WINAPI -> BOOL { return Log("associate", flags), TRUE; }};
   TImportPatch Context{"qelhost.dll", "ImmGetContext",
                        +[](HWND) WINAPI -> HIMC { return reinterpret_cast<HIMC>(1); }};
   TImportPatch Release{"qelhost.dll", "ImmReleaseContext",
@@ -61,11 +60,9 @@ class Ime : public TStandardForm {
                                return TRUE;
                              }};
   TImportPatch SetConversion{"qelhost.dll", "ImmSetConversionStatus",
-                             +[](HIMC, DWORD conversion, DWORD) WINAPI -> BOOL {
-                               return Log("convert", conversion), TRUE;
-                             }};
-  TImportPatch List{"qelhost.dll", "GetKeyboardLayoutList",
-                    +[](int size, HKL* list) WINAPI -> int {
+                             +[](HIMC, DWORD conversion, DWORD)
+                                  WINAPI -> BOOL { return Log("convert", conversion), TRUE; }};
+  TImportPatch List{"qelhost.dll", "GetKeyboardLayoutList", +[](int size, HKL* list) WINAPI -> int {
                       if (size == 2) list[0] = Latin, list[1] = Japanese;
                       return 2;
                     }};

@@ -21,8 +21,8 @@ namespace vcl {
 template <class T>
 class TRecreatable : public T {
  public:
-  using T::T;
   using T::RecreateWnd;
+  using T::T;
 };
 
 class TStandardForm : public ::testing::Test {
@@ -64,9 +64,7 @@ class TStandardForm : public ::testing::Test {
     }
   }
   void Click(TControl& control) { testinput::Click(&control); }
-  void Click(TControl& control, int x, int y) {
-    testinput::Click(control.ClientToScreen({x, y}));
-  }
+  void Click(TControl& control, int x, int y) { testinput::Click(control.ClientToScreen({x, y})); }
 
   TForm Form;
   std::string Errors;

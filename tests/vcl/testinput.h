@@ -77,12 +77,10 @@ inline void SendKey(WORD key, bool down) {
 
 /// Presses and releases the key with the others (VK_CONTROL, ...) held down.
 inline void TypeKey(WORD key, std::initializer_list<WORD> held = {}) {
-  for (WORD each : held)
-    SendKey(each, true);
+  for (WORD each : held) SendKey(each, true);
   SendKey(key, true);
   SendKey(key, false);
-  for (WORD each : held)
-    SendKey(each, false);
+  for (WORD each : held) SendKey(each, false);
   Pump();
 }
 

@@ -38,7 +38,8 @@ class ThreadCalls : public ::testing::Test {
     EXPECT_TRUE(PumpUntil([&] { return Form.Active(); }));
   }
 
-  /// Runs a loop of the system or of ours, which `end` ends when threads' calls have come inside it.
+  /// Runs a loop of the system or of ours, which `end` ends when threads' calls have come inside
+  /// it.
   int CallsInside(const std::function<void()>& loop, const std::function<void()>& end) {
     int calls = 0;
     bool inside = false;
@@ -76,18 +77,15 @@ TEST_F(ThreadCalls, ComeWhileAMenuIsOpen) {
 
 TEST_F(ThreadCalls, ComeWhileAWindowIsMoved) {
   bool moving = false;
-  const int calls = CallsInside(
-      [&] {
-        ::SendMessageW(Form.Handle(), WM_SYSCOMMAND, SC_MOVE, 0);
-      },
-      [&] {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        ::GetGUIThreadInfo(::GetCurrentThreadId(), &info);
-        moving = info.flags & GUI_INMOVESIZE;
-        SendKey(VK_ESCAPE, true);
-        SendKey(VK_ESCAPE, false);
-      });
+  const int calls = CallsInside([&] { ::SendMessageW(Form.Handle(), WM_SYSCOMMAND, SC_MOVE, 0); },
+                                [&] {
+                                  GUITHREADINFO info{};
+                                  info.cbSize = sizeof info;
+                                  ::GetGUIThreadInfo(::GetCurrentThreadId(), &info);
+                                  moving = info.flags & GUI_INMOVESIZE;
+                                  SendKey(VK_ESCAPE, true);
+                                  SendKey(VK_ESCAPE, false);
+                                });
   EXPECT_GE(calls, 5);
   EXPECT_TRUE(moving);
 }

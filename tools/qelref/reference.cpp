@@ -15,7 +15,10 @@ std::string DefaultText(const vcl::TPropInfo& prop) {
 }
 
 TEntry EntryOf(const vcl::TPropInfo& prop) {
-  TEntry entry{prop.Name, std::string(vcl::KindName(prop.Kind())), std::string(prop.TypeName()), {},
+  TEntry entry{prop.Name,
+               std::string(vcl::KindName(prop.Kind())),
+               std::string(prop.TypeName()),
+               {},
                prop.Stored != vcl::TPropInfo::TStored::Never};
   if (prop.DefaultValue) entry.Default = DefaultText(prop);
   return entry;
