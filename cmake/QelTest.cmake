@@ -22,7 +22,7 @@ function(qel_add_test area)
     set(main GTest::gmock)
   endif()
   if(NOT arg_TIMEOUT)
-    set(arg_TIMEOUT 120)
+    set(arg_TIMEOUT 300)
   endif()
 
   set(target test_${area})
