@@ -26,8 +26,9 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"host/designintf", vcl},
       {"core", vcl},
       {"controls", component},
-      {"design", {"host/rtl", "host/vcl", "host/designintf", "core", "controls"}},
-      {"demos", {"host/rtl", "host/vcl", "core", "controls"}},
+      {"services", component},
+      {"design", {"host/rtl", "host/vcl", "host/designintf", "core", "controls", "services"}},
+      {"demos", {"host/rtl", "host/vcl", "core", "controls", "services"}},
       {"tools", designer},
   };
   return allowed;
