@@ -1,6 +1,7 @@
 #include "host/rtl/customapplication.h"
 
 #include <cstdio>
+#include <cstdlib>
 
 #include "host/rtl/exceptions.h"
 #include "host/rtl/os.h"
@@ -70,5 +71,7 @@ TCustomApplication& BaseApplication() {
   static TCustomApplication& standIn = MakeStandIn();
   return standIn;
 }
+
+void Halt(int exitCode) { std::exit(exitCode); }
 
 }  // namespace vcl

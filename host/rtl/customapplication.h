@@ -50,4 +50,9 @@ class VCL_API TCustomApplication : public TComponent {
 /// The application. While the program has made none, one that stands in for it.
 VCL_API TCustomApplication& BaseApplication();
 
+/// Ends the process here and now with the exit code, as the end of `main` would: files are flushed
+/// and static objects destroyed, but forms are neither asked nor told, and no object on the stack
+/// or the heap is destroyed. Other threads end wherever they are.
+[[noreturn]] VCL_API void Halt(int exitCode = 0);
+
 }  // namespace vcl

@@ -10,6 +10,7 @@
 #include "core/Qelclasses.h"
 #include "core/Qelclasses2.h"
 #include "host/rtl/classregistry.h"
+#include "services/Qeltonlyone.h"
 
 inline void RegisterAll() {
   vcl::RegisterClasses(
@@ -18,5 +19,5 @@ inline void RegisterAll() {
        &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class(), &qel::TQELButton::Class(),
        &qel::TQELLabel::Class(), &qel::TQELGauge::Class(), &qel::TQELHint::Class(),
        &qel::TQELSpinButton::Class(), &qel::TQELSpinEdit::Class(), &qel::TQELTimer32::Class(),
-       &qel::TQELButtonDetails::Class()});
+       &qel::TQELButtonDetails::Class(), &qel::TQELOnlyOne::Class()});
 }
