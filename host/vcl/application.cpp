@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <exception>
+#include <utility>
 
 #include "host/rtl/exceptions.h"
 #include "host/rtl/properties.h"
@@ -214,6 +215,7 @@ LRESULT TApplication::WndProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ENDSESSION:
       if (wParam) Terminate();
       return 0;
+    case WM_SIZE: SizeChanged(wParam); break;
     case WM_ACTIVATEAPP: SetActive(wParam != 0); break;
     case WM_SETFOCUS: BringToFront(); break;
     case WM_SYSCOLORCHANGE:
@@ -266,8 +268,13 @@ void TApplication::Minimize() {
 }
 
 void TApplication::Restore() {
-  if (!::IsIconic(Handle())) return;
-  ::DefWindowProcW(FHandle, WM_SYSCOMMAND, SC_RESTORE, 0);
+  if (::IsIconic(Handle())) ::DefWindowProcW(FHandle, WM_SYSCOMMAND, SC_RESTORE, 0);
+}
+
+// Another program may have restored the window without asking.
+void TApplication::SizeChanged(WPARAM kind) {
+  const bool minimized = kind == SIZE_MINIMIZED;
+  if (!std::exchange(FMinimized, minimized) || minimized) return;
   ::ShowOwnedPopups(FHandle, TRUE);
   BringToFront();
   OnRestore(this);

@@ -144,6 +144,7 @@ class VCL_API TApplication : public TCustomApplication {
   void UpdateTaskbar();
   void IconChanged(TObject* sender);
   void RunThreadsCalls();
+  void SizeChanged(WPARAM kind);
   void SetActive(bool active);
   void Dispatch(MSG& message);
   bool PreprocessInput(MSG& message);
@@ -162,6 +163,7 @@ class VCL_API TApplication : public TCustomApplication {
   int FExitCode = 0;
   bool FShowHint = true;
   bool FActive = false;
+  bool FMinimized = false;
   bool FHasRun = false;
   bool FShowingError = false;
   unsigned FThreadsRounds = 0;
