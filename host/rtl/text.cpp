@@ -63,4 +63,12 @@ std::optional<char32_t> OnlyCharacter(std::string_view text) {
   return character;
 }
 
+std::string_view CutUtf8(std::string_view text, std::size_t bytes) {
+  if (text.size() <= bytes) return text;
+  // What follows the cut must not go on a character that begins before it.
+  const auto goesOn = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
+  while (bytes > 0 && goesOn(text[bytes])) --bytes;
+  return text.substr(0, bytes);
+}
+
 }  // namespace vcl

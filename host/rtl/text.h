@@ -1,6 +1,7 @@
 // Small operations on texts: comparison without case, trimming, splitting.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,6 +25,9 @@ VCL_API bool IsValidIdent(std::string_view text);
 VCL_API std::string Utf8(char32_t character);
 /// The character that the text consists of; nothing when it is not exactly one in UTF-8.
 VCL_API std::optional<char32_t> OnlyCharacter(std::string_view text);
+/// The beginning of a text in UTF-8, as much as fits into so many bytes without cutting a
+/// character.
+VCL_API std::string_view CutUtf8(std::string_view text, std::size_t bytes);
 /// The pieces joined; what a message is put together with.
 template <class... Pieces>
 std::string Concat(const Pieces&... pieces) {

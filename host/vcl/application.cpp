@@ -180,7 +180,9 @@ void TApplication::IconChanged(TObject*) {
 void TApplication::UpdateTaskbar() {
   bool shown = false;
   for (int i = 0; i < Screen()->FormCount(); ++i) shown |= Screen()->Forms(i)->Showing();
-  if (shown == (::IsWindowVisible(Handle()) != FALSE)) return;
+  // Acts on changes only: a program that hides its button, to live in the tray, keeps it hidden
+  // when it shows a dialog.
+  if (shown == std::exchange(FFormsShown, shown)) return;
   ::SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
                  SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE |
                      static_cast<UINT>(shown ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));

@@ -140,7 +140,7 @@ class VCL_API TApplication : public TCustomApplication {
   /// Frees the form when the message in hand is done.
   void FreeLater(TCustomForm* form);
   void FreeReleased(TCustomForm* form);
-  /// Shows the taskbar's button while a form is shown.
+  /// Shows the taskbar's button when the first form is shown, and hides it with the last one.
   void UpdateTaskbar();
   void IconChanged(TObject* sender);
   void RunThreadsCalls();
@@ -164,6 +164,7 @@ class VCL_API TApplication : public TCustomApplication {
   bool FShowHint = true;
   bool FActive = false;
   bool FMinimized = false;
+  bool FFormsShown = false;
   bool FHasRun = false;
   bool FShowingError = false;
   unsigned FThreadsRounds = 0;

@@ -1,52 +1,27 @@
-#include <exception>
-
 #include "host/rtl/properties.h"
 #include "host/vcl/application.h"
-#include "host/vcl/handles.h"
 #include "host/vcl/menus.h"
+#include "host/vcl/messagewindow.h"
 
 namespace vcl {
 
 namespace {
 
-constexpr const wchar_t* WindowClassName = L"TMenuWindow";
-
 /// The window that gets a popup menu's messages while it is up.
 class TMenuWindow {
  public:
-  explicit TMenuWindow(TMenu* menu) : FMenu(menu), FWatch(menu) {
-    static const ATOM registered = Register();
-    if (!registered) RaiseOutOfResources("The window class of popup menus");
-    FHandle = CheckHandle(
-        ::CreateWindowExW(WS_EX_TOOLWINDOW, WindowClassName, L"", WS_POPUP, 0, 0, 0, 0,
-                          Application()->Handle(), nullptr, ::GetModuleHandleW(nullptr), this),
-        "The window of a popup menu");
-    ::SetWindowLongPtrW(FHandle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  }
-  ~TMenuWindow() { ::DestroyWindow(FHandle); }
+  explicit TMenuWindow(TMenu* menu)
+      : FMenu(menu), FWatch(menu), FHandle(AllocateHWnd({this, &TMenuWindow::WndProc})) {}
+  ~TMenuWindow() { DeallocateHWnd(FHandle); }
   TMenuWindow(const TMenuWindow&) = delete;
   TMenuWindow& operator=(const TMenuWindow&) = delete;
 
   HWND Handle() const { return FHandle; }
-  bool MenuGone() const { return FWatch.Gone(); }
 
  private:
-  static ATOM Register() {
-    WNDCLASSW info{};
-    info.lpfnWndProc = &WndProc;
-    info.hInstance = ::GetModuleHandleW(nullptr);
-    info.lpszClassName = WindowClassName;
-    return ::RegisterClassW(&info);
-  }
-
-  static LRESULT CALLBACK WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* self = reinterpret_cast<TMenuWindow*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
-    try {
-      if (self && !self->MenuGone()) self->FMenu->HandleMessage({message, wParam, lParam, 0});
-    } catch (...) {
-      Application()->HandleCurrentException(nullptr);
-    }
-    return ::DefWindowProcW(window, message, wParam, lParam);
+  void WndProc(TMessage& message) {
+    if (!FWatch.Gone()) FMenu->HandleMessage(message);
+    message.Result = ::DefWindowProcW(FHandle, message.Msg, message.WParam, message.LParam);
   }
 
   TMenu* FMenu;
@@ -99,10 +74,13 @@ void TPopupMenu::Popup(int x, int y) {
   {
     TMenuWindow window(this);
     // A menu of a program in the background, such as one of a tray icon, stays up when the user
-    // clicks elsewhere, unless the program comes to the front; see TrackPopupMenu's remarks.
-    if (!ProgramIsInFront()) ::SetForegroundWindow(Application()->Handle());
+    // clicks elsewhere, unless its window comes to the front; and the next one would vanish at
+    // once, were the program not woken afterwards. See TrackPopupMenu's remarks.
+    const bool inFront = ProgramIsInFront();
+    if (!inFront) ::SetForegroundWindow(window.Handle());
     command = static_cast<UINT>(::TrackPopupMenuEx(Handle(), TPM_RIGHTBUTTON | TPM_RETURNCMD, x, y,
                                                    window.Handle(), nullptr));
+    if (!inFront) ::PostMessageW(Application()->Handle(), WM_NULL, 0, 0);
   }
   if (command != 0 && !watch.Gone()) DispatchCommand(static_cast<std::uint16_t>(command));
 }

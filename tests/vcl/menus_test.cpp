@@ -7,6 +7,7 @@
 #include "host/rtl/exceptions.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/menus.h"
+#include "tests/support/importpatch.h"
 #include "tests/vcl/testinput.h"
 
 namespace vcl {
@@ -175,6 +176,36 @@ TEST_F(OnAForm, ARightClickBringsThePopupUp) {
   RightDown();
   RightUp();
   EXPECT_TRUE(PumpUntil([&] { return up && !Clicked.empty(); }));
+}
+
+TLog Calls;
+HWND WINAPI NoForeground() { return nullptr; }
+BOOL WINAPI ToFront(HWND window) {
+  Calls.push_back("front");
+  return ::SetForegroundWindow(window);
+}
+BOOL WINAPI Post(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NULL) Calls.push_back("woken");
+  return ::PostMessageW(window, message, wParam, lParam);
+}
+void CALLBACK ClickElsewhere(HWND window, UINT, UINT_PTR timer, DWORD) {
+  ::KillTimer(window, timer);
+  Calls.push_back(::FindWindowA("#32768", nullptr) ? "up" : "not up");
+  ::SetCursorPos(20, 20);
+  ::mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+  ::mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+}
+
+TEST_F(OnAForm, AMenuOfAProgramInTheBackgroundClosesWhenTheUserClicksElsewhere) {
+  const TImportPatch nowhere("qelhost.dll", "GetForegroundWindow", &NoForeground);
+  const TImportPatch front("qelhost.dll", "SetForegroundWindow", &ToFront);
+  const TImportPatch post("qelhost.dll", "PostMessageW", &Post);
+  Add("Only");
+  Calls.clear();
+  ::SetTimer(Form.Handle(), 77, 100, &ClickElsewhere);
+  Menu.Popup(250, 250);
+  EXPECT_EQ(Calls, (TLog{"front", "up", "woken"}));
+  EXPECT_EQ(Clicked, TLog{});
 }
 
 TEST_F(OnAForm, AMenuMayBeFreedByItsOwnItem) {
