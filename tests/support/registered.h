@@ -11,6 +11,7 @@
 #include "core/Qelclasses2.h"
 #include "host/rtl/classregistry.h"
 #include "services/Qeltonlyone.h"
+#include "services/Qeltsystemtray.h"
 
 inline void RegisterAll() {
   vcl::RegisterClasses(
@@ -19,5 +20,6 @@ inline void RegisterAll() {
        &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class(), &qel::TQELButton::Class(),
        &qel::TQELLabel::Class(), &qel::TQELGauge::Class(), &qel::TQELHint::Class(),
        &qel::TQELSpinButton::Class(), &qel::TQELSpinEdit::Class(), &qel::TQELTimer32::Class(),
-       &qel::TQELButtonDetails::Class(), &qel::TQELOnlyOne::Class()});
+       &qel::TQELButtonDetails::Class(), &qel::TQELOnlyOne::Class(),
+       &qel::TQELSystemTray::Class()});
 }
