@@ -2,8 +2,8 @@
 
 #include <iterator>
 
+#include "host/rtl/customapplication.h"
 #include "host/rtl/properties.h"
-#include "host/vcl/application.h"
 
 namespace qel {
 
@@ -38,7 +38,7 @@ std::string AboutText() {
 void TQELAbout::Showabout() const {
   const std::string name = FOwner ? FOwner->Name() : "";
   const std::string className = FOwner ? FOwner->ClassName() : "";
-  vcl::Application()->MessageBox(AboutText(), "(" + name + ") - " + className + AboutSuffix, 0);
+  vcl::BaseApplication().MessageBox(AboutText(), "(" + name + ") - " + className + AboutSuffix, 0);
 }
 
 TQELComponent::TQELComponent(vcl::TComponent* owner)
@@ -54,14 +54,6 @@ bool TQELExecComponent::Execute() { return false; }
 void TQELExecComponent::DoExec(const std::string& value) {
   // The text never changes, so there is nothing to set back, not even when Execute raises.
   if (value == "(Busy...)") Execute();
-}
-
-bool TQELCustomDialog::Execute() {
-  static constexpr UINT Sounds[] = {
-      0, MB_OK, MB_ICONASTERISK, MB_ICONEXCLAMATION, MB_ICONQUESTION, MB_ICONHAND};
-  const auto sound = static_cast<std::size_t>(FSound);
-  if (FSound != bNone && sound < std::size(Sounds)) ::MessageBeep(Sounds[sound]);
-  return false;
 }
 
 const vcl::TClass& TQELAbout::Class() {
@@ -81,14 +73,6 @@ const vcl::TClass& TQELExecComponent::Class() {
       "TQELExecComponent", "Qelclasses",
       {vcl::Property<&TQELExecComponent::DesignExecute, &TQELExecComponent::DoExec>("DesignExecute")
            .Stored(false)});
-  return info;
-}
-
-const vcl::TClass& TQELCustomDialog::Class() {
-  static const vcl::TClass info = vcl::Describe<TQELCustomDialog, TQELExecComponent>(
-      "TQELCustomDialog", "Qelclasses",
-      {vcl::Property<&TQELCustomDialog::Sound, &TQELCustomDialog::SetSound>("Sound").Default(
-          bNone)});
   return info;
 }
 
