@@ -22,13 +22,15 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
   static const std::set<std::string> component = {"host/rtl", "host/vcl", "core"};
   static const std::map<std::string, std::set<std::string>> allowed = {
       {"host/rtl", {}},
+      {"host/net", rtl},
       {"host/vcl", rtl},
       {"host/designintf", vcl},
       {"core", vcl},
       {"controls", component},
+      {"mail", {"host/rtl", "host/net", "core"}},
       {"services", component},
-      {"design", {"host/rtl", "host/vcl", "host/designintf", "core", "controls", "services"}},
-      {"demos", {"host/rtl", "host/vcl", "core", "controls", "services"}},
+      {"design", {"host/rtl", "host/vcl", "host/designintf", "core", "controls", "mail", "services"}},
+      {"demos", {"host/rtl", "host/net", "host/vcl", "core", "controls", "mail", "services"}},
       {"tools", designer},
   };
   return allowed;
