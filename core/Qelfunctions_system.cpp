@@ -2,7 +2,9 @@
 #include <cstdint>
 
 #include "core/Qelfunctions.h"
+#include "core/Qeltstoredata.h"
 #include "host/rtl/convert.h"
+#include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
 #include "host/vcl/win32.h"
 #include "host/vcl/windowtext.h"
@@ -23,19 +25,18 @@ std::string NameFrom(Call call) {
   return call(name, &size) ? vcl::ToUtf8(name) : std::string();
 }
 
-std::string RegistryText(const wchar_t* key, const wchar_t* value) {
-  wchar_t text[MaxName] = {};
-  DWORD size = sizeof text;
-  const LSTATUS status =
-      ::RegGetValueW(HKEY_LOCAL_MACHINE, key, value, RRF_RT_REG_SZ, nullptr, text, &size);
-  return status == ERROR_SUCCESS ? vcl::ToUtf8(text) : std::string();
+/// Empty where the registry does not tell, for whatever reason.
+std::string RegistryText(const char* path, const char* value) try {
+  const TQELRegIniFile registry(path, HKEY_LOCAL_MACHINE);
+  return registry.ReadString("CurrentVersion", value, {});
+} catch (const vcl::ERegistryException&) {
+  return {};
 }
 
 /// The family that Windows comes of keeps some of the values under a key of its own.
-std::string WindowsText(const wchar_t* value) {
-  const std::string text = RegistryText(L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion", value);
-  return text.empty() ? RegistryText(L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion", value)
-                      : text;
+std::string WindowsText(const char* value) {
+  const std::string text = RegistryText("\\SOFTWARE\\Microsoft\\Windows", value);
+  return text.empty() ? RegistryText("\\SOFTWARE\\Microsoft\\Windows NT", value) : text;
 }
 
 template <class Known>
@@ -122,10 +123,10 @@ std::string QELGetPCName() {
 
 std::string QELGetInformationNo(int item) {
   switch (item) {
-    case inOrganization: return WindowsText(L"RegisteredOrganization");
-    case inOwner: return WindowsText(L"RegisteredOwner");
-    case inProgramFiles: return WindowsText(L"ProgramFilesDir");
-    case inSystemRoot: return WindowsText(L"SystemRoot");
+    case inOrganization: return WindowsText("RegisteredOrganization");
+    case inOwner: return WindowsText("RegisteredOwner");
+    case inProgramFiles: return WindowsText("ProgramFilesDir");
+    case inSystemRoot: return WindowsText("SystemRoot");
     case inProcessor: return Processor();
     case inPlatform: return Platform();
     case inVersion: return VersionText();

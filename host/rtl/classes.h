@@ -11,6 +11,7 @@
 #include "host/rtl/exceptions.h"
 #include "host/rtl/filer.h"
 #include "host/rtl/formfile.h"
+#include "host/rtl/inifile.h"
 #include "host/rtl/properties.h"
 #include "host/rtl/reader.h"
 #include "host/rtl/streams.h"

@@ -26,5 +26,7 @@ EClassNotFound::~EClassNotFound() = default;
 EParserError::~EParserError() = default;
 EInvalidGraphic::~EInvalidGraphic() = default;
 EResNotFound::~EResNotFound() = default;
+EIniFileException::~EIniFileException() = default;
+ERegistryException::~ERegistryException() = default;
 
 }  // namespace vcl

@@ -67,6 +67,12 @@ VCL_EXCEPTION(EParserError, Exception);
 VCL_EXCEPTION(EInvalidGraphic, Exception);
 /// A resource that the module does not hold.
 VCL_EXCEPTION(EResNotFound, Exception);
+/// A settings file that can't be read or written, or that can't hold what is to be written; names
+/// the file.
+VCL_EXCEPTION(EIniFileException, Exception);
+/// A key or value of the registry that the system refuses, or that is of another type than the
+/// wanted one; names it.
+VCL_EXCEPTION(ERegistryException, Exception);
 
 #undef VCL_EXCEPTION
 

@@ -69,9 +69,9 @@ TEST(SystemInformation, IsEmptyWhereTheSystemDoesNotTell) {
   const TImportPatch noComputer(
       "qel.dll", "GetComputerNameW", +[](LPWSTR, LPDWORD) WINAPI -> BOOL { return FALSE; });
   const TImportPatch noValue(
-      "qel.dll", "RegGetValueW",
-      +[](HKEY, LPCWSTR, LPCWSTR, DWORD, LPDWORD, PVOID, LPDWORD)
-           WINAPI -> LONG { return ERROR_FILE_NOT_FOUND; });
+      "qelhost.dll", "RegQueryValueExW",
+      +[](HKEY, LPCWSTR, LPDWORD, LPDWORD, LPBYTE, LPDWORD)
+           WINAPI -> LONG { return ERROR_ACCESS_DENIED; });
   const TImportPatch noMemory(
       "qel.dll", "GlobalMemoryStatusEx", +[](LPMEMORYSTATUSEX) WINAPI -> BOOL { return FALSE; });
   const TImportPatch noDisk(

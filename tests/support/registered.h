@@ -9,6 +9,7 @@
 #include "controls/Qeltspinedit.h"
 #include "core/Qelclasses.h"
 #include "core/Qelclasses2.h"
+#include "core/Qeltstoredata.h"
 #include "host/rtl/classregistry.h"
 #include "services/Qeltonlyone.h"
 #include "services/Qeltsystemtray.h"
@@ -21,5 +22,6 @@ inline void RegisterAll() {
        &qel::TQELLabel::Class(), &qel::TQELGauge::Class(), &qel::TQELHint::Class(),
        &qel::TQELSpinButton::Class(), &qel::TQELSpinEdit::Class(), &qel::TQELTimer32::Class(),
        &qel::TQELButtonDetails::Class(), &qel::TQELOnlyOne::Class(),
-       &qel::TQELSystemTray::Class()});
+       &qel::TQELSystemTray::Class(), &qel::TQELRegistry::Class(), &qel::TQELIniFile::Class(),
+       &qel::TQELDataStore::Class(), &qel::TQELStoreData::Class()});
 }

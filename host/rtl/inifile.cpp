@@ -1,0 +1,196 @@
+#include "host/rtl/inifile.h"
+
+#include "host/rtl/convert.h"
+#include "host/rtl/exceptions.h"
+#include "host/rtl/inicoding.h"
+#include "host/rtl/initext.h"
+#include "host/rtl/os.h"
+#include "host/rtl/sharedfile.h"
+#include "host/rtl/strings.h"
+#include "host/rtl/text.h"
+
+namespace vcl {
+namespace {
+
+std::string_view Unquoted(std::string_view value) {
+  const bool quoted = value.size() > 1 && (value.front() == '"' || value.front() == '\'') &&
+                      value.front() == value.back();
+  return quoted ? value.substr(1, value.size() - 2) : value;
+}
+
+void Replace(TStrings& list, const std::vector<std::string>& lines) {
+  list.BeginUpdate();
+  list.Clear();
+  for (const std::string& line : lines) list.Add(line);
+  list.EndUpdate();
+}
+
+/// Reads a value that a text may say; `convert` returns false when it doesn't.
+template <class T, class Convert>
+T ReadAs(const std::string& text, T otherwise, Convert convert) {
+  T value{};
+  return convert(text, value) ? value : otherwise;
+}
+
+}  // namespace
+
+std::string TCustomIniFile::ReadString(const std::string& section, const std::string& ident,
+                                       const std::string& otherwise) const {
+  std::string value = otherwise;
+  Look([&](const TIniText& text) {
+    if (const auto found = text.Find(section, ident)) value = Unquoted(*found);
+  });
+  return value;
+}
+
+void TCustomIniFile::WriteString(const std::string& section, const std::string& ident,
+                                 const std::string& value) {
+  if (!TIniText::CanHold(section)) {
+    throw EIniFileException(Concat("\"", FileName(), "\" can't have a section \"", section, "\""));
+  }
+  if (!TIniText::CanHold(ident, value)) {
+    throw EIniFileException(
+        Concat("\"", FileName(), "\" can't hold the entry \"", ident, "=", value, "\""));
+  }
+  Change([&](TIniText& text) { text.Write(section, ident, value); });
+}
+
+int TCustomIniFile::ReadInteger(const std::string& section, const std::string& ident,
+                                int otherwise) const {
+  return StrToIntDef(ReadString(section, ident, {}), otherwise);
+}
+
+void TCustomIniFile::WriteInteger(const std::string& section, const std::string& ident, int value) {
+  WriteString(section, ident, IntToStr(value));
+}
+
+bool TCustomIniFile::ReadBool(const std::string& section, const std::string& ident,
+                              bool otherwise) const {
+  return ReadInteger(section, ident, otherwise) != 0;
+}
+
+void TCustomIniFile::WriteBool(const std::string& section, const std::string& ident, bool value) {
+  WriteString(section, ident, value ? "1" : "0");
+}
+
+double TCustomIniFile::ReadFloat(const std::string& section, const std::string& ident,
+                                 double otherwise) const {
+  return StrToFloatDef(ReadString(section, ident, {}), otherwise);
+}
+
+void TCustomIniFile::WriteFloat(const std::string& section, const std::string& ident,
+                                double value) {
+  WriteString(section, ident, FloatToStr(value));
+}
+
+TDateTime TCustomIniFile::ReadDate(const std::string& section, const std::string& ident,
+                                   TDateTime otherwise) const {
+  return ReadAs(ReadString(section, ident, {}), otherwise,
+                [](const auto& text, TDateTime& value) { return TryStrToDate(text, value); });
+}
+
+void TCustomIniFile::WriteDate(const std::string& section, const std::string& ident,
+                               TDateTime value) {
+  WriteString(section, ident, DateToStr(value));
+}
+
+TDateTime TCustomIniFile::ReadTime(const std::string& section, const std::string& ident,
+                                   TDateTime otherwise) const {
+  return ReadAs(ReadString(section, ident, {}), otherwise,
+                [](const auto& text, TDateTime& value) { return TryStrToTime(text, value); });
+}
+
+void TCustomIniFile::WriteTime(const std::string& section, const std::string& ident,
+                               TDateTime value) {
+  WriteString(section, ident, TimeToStr(value));
+}
+
+TDateTime TCustomIniFile::ReadDateTime(const std::string& section, const std::string& ident,
+                                       TDateTime otherwise) const {
+  return ReadAs(ReadString(section, ident, {}), otherwise,
+                [](const auto& text, TDateTime& value) { return TryStrToDateTime(text, value); });
+}
+
+void TCustomIniFile::WriteDateTime(const std::string& section, const std::string& ident,
+                                   TDateTime value) {
+  WriteString(section, ident, DateTimeToStr(value));
+}
+
+void TCustomIniFile::ReadSection(const std::string& section, TStrings& list) const {
+  std::vector<std::string> idents;
+  Look([&](const TIniText& text) {
+    for (const auto& [ident, value] : text.Entries(section)) {
+      if (value) idents.emplace_back(ident);
+    }
+  });
+  Replace(list, idents);
+}
+
+void TCustomIniFile::ReadSections(TStrings& list) const {
+  std::vector<std::string> names;
+  Look([&](const TIniText& text) {
+    for (const std::string_view name : text.Sections()) names.emplace_back(name);
+  });
+  Replace(list, names);
+}
+
+void TCustomIniFile::ReadSectionValues(const std::string& section, TStrings& list) const {
+  std::vector<std::string> lines;
+  Look([&](const TIniText& text) {
+    for (const auto& [ident, value] : text.Entries(section)) {
+      if (value) lines.push_back(Concat(ident, "=", Unquoted(*value)));
+    }
+  });
+  Replace(list, lines);
+}
+
+bool TCustomIniFile::SectionExists(const std::string& section) const {
+  bool exists = false;
+  Look([&](const TIniText& text) { exists = text.HasSection(section); });
+  return exists;
+}
+
+bool TCustomIniFile::ValueExists(const std::string& section, const std::string& ident) const {
+  bool exists = false;
+  Look([&](const TIniText& text) { exists = text.Find(section, ident).has_value(); });
+  return exists;
+}
+
+void TCustomIniFile::EraseSection(const std::string& section) {
+  Change([&](TIniText& text) { text.Erase(section); });
+}
+
+void TCustomIniFile::DeleteKey(const std::string& section, const std::string& ident) {
+  Change([&](TIniText& text) { text.Delete(section, ident); });
+}
+
+TIniFile::TIniFile(const std::string& fileName) : TCustomIniFile(fileName) {
+  if (fileName.empty()) throw EIniFileException("A settings file must have a name");
+  FFullName = os::SettingsFileName(fileName);
+}
+
+void TIniFile::Look(const std::function<void(const TIniText&)>& look) const {
+  std::string bytes;
+  if (os::ReadWholeFile(FFullName, bytes) != os::TReading::Done) bytes.clear();
+  look(TIniText(DecodeIni(std::move(bytes))));
+}
+
+void TIniFile::Change(const std::function<void(TIniText&)>& change) {
+  const auto refuse = [&](const char* what) {
+    const std::string reason = os::LastErrorText();
+    throw EIniFileException(Concat(what, " \"", FFullName, "\": ", reason));
+  };
+  const os::TFileTurn turn(FFullName);
+  if (!turn.Held()) refuse("Cannot change file");
+  std::string bytes;
+  if (os::ReadWholeFile(FFullName, bytes) == os::TReading::Refused) refuse("Cannot read file");
+  TIniText text(DecodeIni(bytes));
+  const std::string former = text.Text();
+  change(text);
+  if (text.Text() == former) return;
+  if (!os::ReplaceWholeFile(FFullName, EncodeIni(text.Text(), IniCodingOf(bytes)))) {
+    refuse("Cannot write file");
+  }
+}
+
+}  // namespace vcl
