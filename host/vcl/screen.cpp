@@ -49,6 +49,11 @@ TRect TScreen::WorkAreaRect(TPoint nearest) const {
   return WorkAreaOf(::MonitorFromPoint(nearest, MONITOR_DEFAULTTONEAREST));
 }
 
+TRect TScreen::WorkAreaRect(const TRect& nearest) const {
+  const RECT rect = nearest;
+  return WorkAreaOf(::MonitorFromRect(&rect, MONITOR_DEFAULTTONEAREST));
+}
+
 int TScreen::PixelsPerInch() const {
   const TWindowDC dc(nullptr);
   return ::GetDeviceCaps(dc.Get(), LOGPIXELSY);

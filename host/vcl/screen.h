@@ -30,6 +30,8 @@ class VCL_API TScreen : public TComponent {
   TRect WorkAreaRect() const;
   /// The part of the monitor nearest to the point that is not the taskbar's.
   TRect WorkAreaRect(TPoint nearest) const;
+  /// The same of the monitor that shows most of the rectangle, or is nearest to it.
+  TRect WorkAreaRect(const TRect& nearest) const;
   int PixelsPerInch() const;
 
   int FormCount() const { return static_cast<int>(FForms.size()); }

@@ -1,12 +1,59 @@
-// Runs the tests, or what a test starts this program anew for.
+// Runs the tests, or is a guarded program that a test has started: see TCopy.
 #include <gmock/gmock.h>
 
 #include <cstring>
 
-#include "tests/services/copy.h"
+#include "host/rtl/classregistry.h"
+#include "host/rtl/formfile.h"
+#include "host/rtl/properties.h"
+#include "host/rtl/streams.h"
+#include "host/vcl/application.h"
+#include "host/vcl/forms.h"
+#include "services/Qeltonlyone.h"
+
+namespace {
+
+constexpr int ShownCode = 100;
+
+class TCopyForm : public vcl::TForm {
+ public:
+  explicit TCopyForm(vcl::TComponent* owner) : TForm(owner) {
+    vcl::TStringStream file(FormFile);
+    vcl::ReadComponentFile(file, this);
+  }
+  static const vcl::TClass& Class() {
+    static const vcl::TClass info = vcl::Describe<TCopyForm, TForm>(
+        "TCopyForm", "main", {vcl::Method<&TCopyForm::GuardExceeded>("GuardExceeded")});
+    return info;
+  }
+  const vcl::TClass& ClassType() const override { return Class(); }
+  static inline std::string FormFile;
+
+ private:
+  void GuardExceeded(vcl::TObject*, int instances) {
+    vcl::Application()->SetExitCode(ShownCode + instances);
+  }
+};
+
+int RunCopy(const std::string& title, const std::string& instances, const std::string& onExceed) {
+  vcl::RegisterClass(qel::TQELOnlyOne::Class());
+  TCopyForm::FormFile =
+      "object CopyForm: TCopyForm\n object Guard: TQELOnlyOne\n Instances = " + instances +
+      "\n OnExceed = " + onExceed + "\n OnExceeded = GuardExceeded\n end\nend\n";
+  vcl::Application()->Initialize();
+  vcl::Application()->SetTitle(title);
+  vcl::Application()->SetExitCode(ShownCode);
+  auto* form = vcl::Application()->CreateForm<TCopyForm>();
+  form->OnActivate = [&](vcl::TObject*) {
+    if (title != "Stranger") vcl::Application()->Terminate();
+  };
+  return vcl::Application()->Run();
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
-  if (argc == 6 && std::strcmp(argv[1], "--copy") == 0) return RunCopy(argv + 2);
+  if (argc == 5 && std::strcmp(argv[1], "--copy") == 0) return RunCopy(argv[2], argv[3], argv[4]);
   testing::InitGoogleMock(&argc, argv);
   return RUN_ALL_TESTS();
 }

@@ -11,17 +11,21 @@
 #include "core/Qelclasses2.h"
 #include "core/Qeltstoredata.h"
 #include "host/rtl/classregistry.h"
+#include "services/Qeltformsaver.h"
 #include "services/Qeltonlyone.h"
 #include "services/Qeltsystemtray.h"
 
 inline void RegisterAll() {
-  vcl::RegisterClasses(
-      {&qel::TQELFont3D::Class(), &qel::TQELGradient::Class(), &qel::TQELTexture::Class(),
-       &qel::TQELFrame::Class(), &qel::TQELAbout::Class(), &qel::TQELGlyph::Class(),
-       &qel::TQELBrushFill::Class(), &qel::TQELBackground::Class(), &qel::TQELButton::Class(),
-       &qel::TQELLabel::Class(), &qel::TQELGauge::Class(), &qel::TQELHint::Class(),
-       &qel::TQELSpinButton::Class(), &qel::TQELSpinEdit::Class(), &qel::TQELTimer32::Class(),
-       &qel::TQELButtonDetails::Class(), &qel::TQELOnlyOne::Class(),
-       &qel::TQELSystemTray::Class(), &qel::TQELRegistry::Class(), &qel::TQELIniFile::Class(),
-       &qel::TQELDataStore::Class(), &qel::TQELStoreData::Class()});
+  vcl::RegisterClasses({&qel::TQELFont3D::Class(),     &qel::TQELGradient::Class(),
+                        &qel::TQELTexture::Class(),    &qel::TQELFrame::Class(),
+                        &qel::TQELAbout::Class(),      &qel::TQELGlyph::Class(),
+                        &qel::TQELBrushFill::Class(),  &qel::TQELBackground::Class(),
+                        &qel::TQELButton::Class(),     &qel::TQELLabel::Class(),
+                        &qel::TQELGauge::Class(),      &qel::TQELHint::Class(),
+                        &qel::TQELSpinButton::Class(), &qel::TQELSpinEdit::Class(),
+                        &qel::TQELTimer32::Class(),    &qel::TQELButtonDetails::Class(),
+                        &qel::TQELOnlyOne::Class(),    &qel::TQELSystemTray::Class(),
+                        &qel::TQELRegistry::Class(),   &qel::TQELIniFile::Class(),
+                        &qel::TQELDataStore::Class(),  &qel::TQELStoreData::Class(),
+                        &qel::TQELFormSaver::Class()});
 }

@@ -1,0 +1,271 @@
+// TQELFormSaver on real forms that are closed and shown again; the values stand in an INI file.
+#include "services/Qeltformsaver.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "host/rtl/classregistry.h"
+#include "host/rtl/formfile.h"
+#include "host/rtl/properties.h"
+#include "host/rtl/streams.h"
+#include "host/vcl/application.h"
+#include "host/vcl/screen.h"
+#include "host/vcl/stdctrls.h"
+#include "tests/support/importpatch.h"
+
+namespace qel {
+namespace {
+
+/// A form with a box, a button in it and a label; its own handlers keep a log.
+class TSavedForm : public vcl::TForm {
+ public:
+  TSavedForm() : TForm(vcl::Application()) {
+    vcl::TStringStream file(
+        "object SavedForm: TSavedForm\n Left = 50\n Top = 60\n Width = 400\n Height = 300\n"
+        " OnShow = FormShow\n OnClose = FormClose\n"
+        " object Box: TGroupBox\n Left = 5\n Top = 6\n Width = 200\n Height = 100\n"
+        "  object Button1: TButton\n Left = 7\n Top = 8\n Width = 75\n Height = 25\n end\n end\n"
+        " object Saver: TQELFormSaver\n FormStore.Datatype = sIniFile\n"
+        "  FormStore.Inifile.Filename = '" +
+        IniName() + "'\n StoreControls = True\n end\nend\n");
+    vcl::ReadComponentFile(file, this);
+  }
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+  static std::string IniName() {
+    return (std::filesystem::temp_directory_path() / "formsaver test.ini").string();
+  }
+
+  vcl::TGroupBox* Box = nullptr;
+  vcl::TButton* Button1 = nullptr;
+  TQELFormSaver* Saver = nullptr;
+  std::string Log;
+
+ private:
+  void FormShow(vcl::TObject*) { Log += "show "; }
+  void FormClose(vcl::TObject*, vcl::TCloseAction&) { Log += "close "; }
+};
+
+const vcl::TClass& TSavedForm::Class() {
+  using namespace vcl;
+  using T = TSavedForm;
+  static const TClass info = Describe<T, TForm>(
+      "TSavedForm", "formsaver_test",
+      {Field<&T::Box>("Box"), Field<&T::Button1>("Button1"), Field<&T::Saver>("Saver"),
+       Method<&T::FormShow>("FormShow"), Method<&T::FormClose>("FormClose")});
+  return info;
+}
+
+/// Its bounds are stored as they were before it was maximised.
+class THookingSaver : public TQELFormSaver {
+ public:
+  using TQELFormSaver::TQELFormSaver;
+  void Maximize(WPARAM command) {
+    vcl::TMessage message{WM_SYSCOMMAND, command, 0, 0};
+    ExtWndProc(message);
+  }
+};
+
+class FormSaver : public testing::Test {
+ protected:
+  FormSaver() { std::filesystem::remove(TSavedForm::IniName()); }
+  ~FormSaver() override { delete Form; }
+
+  static void Write(const std::string& lines) {
+    std::ofstream(TSavedForm::IniName()) << "[MySection]\n" << lines;
+  }
+  /// The stored values, with a blank behind each.
+  static std::string Stored() {
+    std::ifstream file(TSavedForm::IniName());
+    std::string values, line;
+    for (std::getline(file, line); file >> line;) values += line + " ";
+    return values;
+  }
+  void ShowAndClose() {
+    Form->Show();
+    Form->Close();
+  }
+  TSavedForm* Form = new TSavedForm;
+};
+
+TEST_F(FormSaver, ClosingStoresTheFormAndThenItsControlsAndShowingRestoresThem) {
+  Form->Box->SetVisible(false);
+  ShowAndClose();
+  const std::string stored =
+      "TSavedForm_WindowState=2 TSavedForm_Width=400 TSavedForm_Height=300 TSavedForm_Top=60 "
+      "TSavedForm_Left=50 TSavedForm_Visible=1 "
+      "Box_Width=200 Box_Height=100 Box_Top=6 Box_Left=5 Box_Visible=0 "
+      "Button1_Width=75 Button1_Height=25 Button1_Top=8 Button1_Left=7 Button1_Visible=1 ";
+  EXPECT_EQ(Stored(), stored);
+  Form->SetBounds(1, 2, 333, 222);
+  Form->Box->SetBounds(1, 2, 33, 22);
+  Form->Box->SetVisible(true);
+  Form->Button1->SetBounds(1, 2, 33, 22);
+  ShowAndClose();
+  EXPECT_EQ(Stored(), stored);
+  EXPECT_EQ(Form->BoundsRect(), vcl::Bounds(50, 60, 400, 300));
+  EXPECT_EQ(Form->Log, "show close show close ");
+}
+
+TEST_F(FormSaver, WhatIsNotWantedIsNotStored) {
+  Form->Saver->SetStoreSize(false);
+  Form->Saver->SetStoreVisible(false);
+  Form->Saver->SetStoreState(false);
+  Form->Saver->SetQualifyNames(true);
+  ShowAndClose();
+  EXPECT_EQ(Stored(),
+            "TSavedForm_Top=60 TSavedForm_Left=50 TSavedForm_Box_Top=6 TSavedForm_Box_Left=5 "
+            "TSavedForm_Button1_Top=8 TSavedForm_Button1_Left=7 ");
+  Write("");
+  Form->Saver->SetStoreControls(false);
+  Form->Saver->SetStoreLocation(false);
+  ShowAndClose();
+  EXPECT_EQ(Stored(), "");
+}
+
+TEST_F(FormSaver, StatesHaveNumbersOfTheirOwn) {
+  const struct {
+    int Code;
+    vcl::TWindowState State;
+  } cases[] = {{3, vcl::wsMaximized}, {0, vcl::wsMaximized}, {4, vcl::wsMaximized},
+               {2, vcl::wsNormal},    {1, vcl::wsMinimized}, {0, vcl::wsMinimized}};
+  Form->Saver->SetStoreControls(false);
+  for (const auto& each : cases) {
+    Write("TSavedForm_WindowState=" + std::to_string(each.Code) + "\n");
+    Form->Show();
+    EXPECT_EQ(Form->WindowState(), each.State) << each.Code;
+    Write("");
+    Form->Close();
+    if (each.State == vcl::wsNormal) continue;
+    EXPECT_EQ(Stored(), each.State == vcl::wsMaximized
+                            ? "TSavedForm_WindowState=3 TSavedForm_Visible=1 "
+                            : "TSavedForm_WindowState=1 TSavedForm_Visible=1 ");
+  }
+}
+
+TEST_F(FormSaver, ADescendantMayStoreTheBoundsFromBeforeMaximizing) {
+  auto* hooking = new THookingSaver(Form);
+  hooking->FormStore()->SetEnabled(false);
+  Form->Saver->FormStore()->SetEnabled(false);
+  Form->Show();
+  hooking->FormStore()->SetEnabled(true);
+  hooking->FormStore()->SetDatatype(sIniFile);
+  hooking->FormStore()->Inifile()->SetFilename(TSavedForm::IniName());
+  hooking->SetStoreControls(false);
+  for (const WPARAM command : {SC_MAXIMIZE | 2, SC_MAXIMIZE}) {
+    hooking->Maximize(command);
+    Form->SetWindowState(vcl::wsMaximized);
+    hooking->Store();
+    EXPECT_EQ(Stored(), command & 2 ? "TSavedForm_WindowState=3 TSavedForm_Visible=1 "
+                                    : "TSavedForm_WindowState=3 TSavedForm_Visible=1 "
+                                      "TSavedForm_Width=400 TSavedForm_Height=300 "
+                                      "TSavedForm_Top=60 TSavedForm_Left=50 ");
+    Form->SetWindowState(vcl::wsNormal);
+  }
+}
+
+TEST_F(FormSaver, SparedControlsAreNotStoredButRead) {
+  Form->Saver->OnStoreControl = [](vcl::TObject* sender, bool& result) {
+    result = sender->ClassName() != "TGroupBox";
+  };
+  ShowAndClose();
+  EXPECT_EQ(Stored().find("Box"), std::string::npos);
+  EXPECT_EQ(Stored().find("Button1"), std::string::npos);
+  Write("Box_Width=77\n");
+  Form->Show();
+  EXPECT_EQ(Form->Box->Width(), 77);
+  EXPECT_EQ(Form->Button1->Width(), 75);
+}
+
+TEST_F(FormSaver, HandlersAreCalledInOrderAndTheFormsOwnAlways) {
+  Form->Saver->OnStore = [this](vcl::TObject* sender) {
+    Form->Log += sender == Form ? "store " : "?";
+  };
+  Form->Saver->OnRestore = [this](vcl::TObject*) { Form->Log += "restored "; };
+  ShowAndClose();
+  Form->Saver->Store();
+  Form->Saver->Restore();
+  EXPECT_EQ(Form->Log, "show restored close store close store show restored ");
+  Form->Log.clear();
+  Form->Saver->FormStore()->SetEnabled(false);
+  Write("Box_Width=77\n");
+  ShowAndClose();
+  EXPECT_EQ(Form->Log, "show restored close ");
+  EXPECT_EQ(Form->Box->Width(), 200);
+  EXPECT_EQ(Stored(), "Box_Width=77 ");
+}
+
+TEST_F(FormSaver, KeepOnScreenMovesWhatIsOutOfReach) {
+  const vcl::TRect area = vcl::Screen()->WorkAreaRect();
+  const struct {
+    vcl::TPoint Stored, Kept;
+  } cases[] = {{{9000, 9000}, {area.Right - 400, area.Bottom - 300}},
+               {{-5000, 70}, {area.Left, 70}},
+               {{90, area.Top - 50}, {90, area.Top}},
+               {{-300, 80}, {-300, 80}},
+               {{90, area.Bottom - 40}, {90, area.Bottom - 40}}};
+  for (const bool keep : {false, true}) {
+    Form->Saver->SetKeepOnScreen(keep);
+    for (const auto& each : cases) {
+      Write("TSavedForm_Left=" + std::to_string(each.Stored.X) +
+            "\nTSavedForm_Top=" + std::to_string(each.Stored.Y) + "\n");
+      Form->Show();
+      EXPECT_EQ(Form->BoundsRect().TopLeft(), keep ? each.Kept : each.Stored);
+      Form->Hide();
+    }
+  }
+}
+
+TEST_F(FormSaver, GivesTheFormItsHandlersAndItsWindowBack) {
+  static int emptied;
+  emptied = 0;
+  const TImportPatch patch(
+      "qel.dll", "SetWindowLongA", +[](HWND window, int index, LONG value) WINAPI -> LONG {
+        emptied += index == GWLP_WNDPROC && value == 0;
+        return ::SetWindowLongA(window, index, value);
+      });
+  Form->Show();
+  delete Form->Saver;
+  EXPECT_EQ(emptied, 1);
+  EXPECT_TRUE(::IsWindowUnicode(Form->Handle()));
+  Form->Close();
+  EXPECT_EQ(Form->Log, "show close ");
+  EXPECT_FALSE(Form->Visible());
+  EXPECT_EQ(Stored(), "");
+}
+
+TEST_F(FormSaver, HandlersMayFreeWhatTheyAreCalledFor) {
+  const auto freeForm = [this](auto&&...) { delete std::exchange(Form, nullptr); };
+  const auto freeSaver = [this](auto&&...) { delete std::exchange(Form->Saver, nullptr); };
+  const auto freeBox = [this](vcl::TObject*, bool&) { delete std::exchange(Form->Box, nullptr); };
+  Form->Saver->OnStoreControl = freeForm;
+  ShowAndClose();
+  EXPECT_EQ(Form, nullptr);
+  Form = new TSavedForm;
+  Form->Saver->FormStore()->OnError = freeForm;
+  Form->Show();
+  EXPECT_EQ(Form, nullptr);
+  Form = new TSavedForm;
+  Form->Saver->OnStore = freeSaver;
+  ShowAndClose();
+  EXPECT_FALSE(Form->Visible());
+  delete Form;
+  Form = new TSavedForm;
+  Form->Saver->OnStoreControl = freeBox;
+  ShowAndClose();
+  EXPECT_EQ(Form->Box, nullptr);
+}
+
+TEST_F(FormSaver, InADesignerTheFormIsLeftAlone) {
+  vcl::TForm designed(nullptr);
+  designed.SetDesigning(true);
+  TQELFormSaver saver(&designed);
+  EXPECT_FALSE(designed.OnShow || designed.OnClose);
+}
+
+}  // namespace
+}  // namespace qel
