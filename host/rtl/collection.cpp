@@ -68,8 +68,18 @@ TCollectionItem* TCollection::Items(int index) const {
   return FItems[static_cast<std::size_t>(index)];
 }
 
+// The item joins the list before its class's part is made; the news waits until it is whole.
 TCollectionItem* TCollection::Add() {
-  return static_cast<TCollectionItem*>(FItemClass.Maker().Item(this));
+  BeginUpdate();
+  TCollectionItem* item = nullptr;
+  try {
+    item = static_cast<TCollectionItem*>(FItemClass.Maker().Item(this));
+  } catch (...) {
+    EndUpdate();
+    throw;
+  }
+  EndUpdate();
+  return item;
 }
 
 TCollectionItem* TCollection::Insert(int index) {

@@ -56,18 +56,8 @@ void TApplication::ShowException(const std::exception& error) {
 }
 
 int TApplication::MessageBox(const std::string& text, const std::string& caption, int flags) {
-  CancelHint();
-  const HWND active = ::GetActiveWindow();
-  const HWND focus = ::GetFocus();
-  int answer = 0;
-  {
-    const TDisabledWindows others(nullptr);
-    answer = ::MessageBoxA(active ? active : Handle(), text.c_str(), caption.c_str(),
-                           static_cast<UINT>(flags));
-  }
-  if (active && ::IsWindow(active)) ::SetActiveWindow(active);
-  if (focus && ::IsWindow(focus)) ::SetFocus(focus);
-  return answer;
+  const TSystemModal modal;
+  return ::MessageBoxA(modal.Owner(), text.c_str(), caption.c_str(), static_cast<UINT>(flags));
 }
 
 void ShowMessage(const std::string& text) {

@@ -52,6 +52,7 @@ class VCL_API TGraphic : public TPersistent {
   void AssignTransparent(bool transparent) { FTransparent = transparent; }
 
  private:
+  friend class TPicture;
   bool FTransparent = false;
 };
 

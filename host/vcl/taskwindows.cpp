@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "host/vcl/application.h"
 #include "host/vcl/forms.h"
 
 namespace vcl {
@@ -45,6 +46,19 @@ void TDisabledWindows::Enable() {
     if (::IsWindow(window)) ::EnableWindow(window, TRUE);
   }
 }
+
+TSystemModal::TSystemModal()
+    : FActive(::GetActiveWindow()), FFocus(::GetFocus()), FOthers(nullptr) {
+  Application()->CancelHint();
+}
+
+TSystemModal::~TSystemModal() {
+  FOthers.Enable();
+  if (FActive && ::IsWindow(FActive)) ::SetActiveWindow(FActive);
+  if (FFocus && ::IsWindow(FFocus)) ::SetFocus(FFocus);
+}
+
+HWND TSystemModal::Owner() const { return FActive ? FActive : Application()->Handle(); }
 
 HWND NextWindow(HWND other) {
   TSearch search{other, nullptr};

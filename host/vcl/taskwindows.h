@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "host/rtl/api.h"
 #include "host/vcl/win32.h"
 
 namespace vcl {
@@ -26,6 +27,25 @@ class TDisabledWindows {
 
   HWND FException;
   std::vector<HWND> FWindows;
+};
+
+/// Lasts while a box or dialog of the system's has the user's whole attention: no hint is up and
+/// all windows of this thread are disabled. Afterwards the active window and the focus are what
+/// they were.
+class VCL_API TSystemModal {
+ public:
+  TSystemModal();
+  ~TSystemModal();
+  TSystemModal(const TSystemModal&) = delete;
+  TSystemModal& operator=(const TSystemModal&) = delete;
+
+  /// The window in front of which the dialog stands: the active one, else the application's.
+  HWND Owner() const;
+
+ private:
+  HWND FActive;
+  HWND FFocus;
+  TDisabledWindows FOthers;
 };
 
 /// The topmost window of this thread, other than the given one, that can be activated; null when

@@ -6,6 +6,7 @@
 #include "host/vcl/application.h"
 #include "host/vcl/comctrls.h"
 #include "host/vcl/controls.h"
+#include "host/vcl/dialogs.h"
 #include "host/vcl/drag.h"
 #include "host/vcl/extctrls.h"
 #include "host/vcl/forms.h"

@@ -14,7 +14,9 @@
 
 #include <windows.h>
 // The others need what stands above.
+#include <cderr.h>
 #include <commctrl.h>
+#include <commdlg.h>
 #include <windowsx.h>
 
 #undef AppendMenu
