@@ -34,19 +34,19 @@ const std::vector<TSetting> BackgroundSettings = {
 };
 
 /// The pictures to choose from, and the background on the form that has each.
-struct TPicture {
+struct TBackPicture {
   const char* Title;
   const char* Background;
 };
-constexpr TPicture Pictures[] = {{"Bricks", "StretchedBackground"},
-                                 {"Leaf", "SeeThroughBackground"},
-                                 {"Weave", "TiledBackground"}};
+constexpr TBackPicture Pictures[] = {{"Bricks", "StretchedBackground"},
+                                     {"Leaf", "SeeThroughBackground"},
+                                     {"Weave", "TiledBackground"}};
 
 }  // namespace
 
 void TGalleryForm::SetUpBackgrounds() {
   Bind(BackgroundSettings).SetTargets({SharedBackground});
-  for (const TPicture& picture : Pictures)
+  for (const TBackPicture& picture : Pictures)
     BackImageBox->Items()->AddObject(picture.Title, FindComponent(picture.Background));
   BackImageBox->Items()->Add(std::string(NoComponent));
   BackImageBox->SetItemIndex(0);
