@@ -25,7 +25,7 @@ void AddLine(const unsigned char* bytes, std::int64_t count, vcl::TStrings& line
 
 void TQELSMTPMail::Base64Encode(TQELAttachment& attachment) {
   const auto life = attachment.Life();
-  auto lines = std::make_unique<vcl::TStringList>();
+  auto lines = std::make_unique<TTextLines>();
   {
     vcl::TFileStream file(attachment.FileName(), vcl::fmOpenRead | vcl::fmShareDenyNone);
     const std::int64_t size = file.Size();

@@ -44,14 +44,14 @@ const vcl::TClass& TQELAttachment::Class() {
 
 TQELAttachment::TQELAttachment(vcl::TCollection* collection)
     : TCollectionItem(collection),
-      FLines(std::make_unique<vcl::TStringList>()),
+      FLines(std::make_unique<TTextLines>()),
       FData(std::make_unique<vcl::TMemoryStream>()),
       FLife(LifeOf(this)) {}
 
 TQELAttachment::~TQELAttachment() = default;
 
-void TQELAttachment::SetLines(std::unique_ptr<vcl::TStringList> lines) {
-  FLines = lines ? std::move(lines) : std::make_unique<vcl::TStringList>();
+void TQELAttachment::SetLines(std::unique_ptr<TTextLines> lines) {
+  FLines = lines ? std::move(lines) : std::make_unique<TTextLines>();
 }
 
 void TQELAttachment::SetData(std::unique_ptr<vcl::TMemoryStream> data) { FData = std::move(data); }

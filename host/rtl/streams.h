@@ -71,6 +71,8 @@ class VCL_API TMemoryStream : public TCustomMemoryStream {
   using TCustomMemoryStream::Memory;
   void* Memory() { return FBytes.data(); }
   void Clear() { SetSize(0); }
+  /// Makes room for so many bytes, so that writing up to there moves nothing.
+  void Reserve(std::int64_t size) { FBytes.reserve(static_cast<std::size_t>(size)); }
   /// Replaces the contents by the whole other stream's resp. a file's, and goes to the beginning.
   /// When that can't be read (EReadError, EFOpenError), the contents stay.
   void LoadFromStream(TStream& stream);

@@ -1,0 +1,7 @@
+#include "mail/mailerror.h"
+
+namespace qel {
+
+EQELMailError::~EQELMailError() = default;
+
+}  // namespace qel
