@@ -1,0 +1,200 @@
+// How a message becomes a mail.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <numeric>
+
+#include "mail/Qeltiemails.h"
+#include "mail/base64.h"
+#include "tests/mail/mailtest.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+std::vector<std::string> Lines(const vcl::TStrings& lines) {
+  std::vector<std::string> all;
+  for (int i = 0; i < lines.Count(); ++i) all.push_back(lines.Strings(i));
+  return all;
+}
+
+struct Composing : testing::Test {
+  Composing() {
+    Mail.SetName("Mail1");
+    Mail.SetHost("mx.test");
+    Message->SetFromMail("ann@example.test");
+    Message->SetSendTo("bob@example.test, cy@example.test");
+    Message->SetDate("today");
+  }
+  std::vector<std::string> Compose() { return Lines(*Mail.InitializeMessage(*Message)); }
+
+  TTestApplication Application;
+  qel::TQELSMTPMail Mail{nullptr};
+  qel::TQELMessage* Message = Mail.Messages()->Add();
+};
+
+TEST_F(Composing, WritesHeadersInOrderAndStuffsDots) {
+  Message->Message()->SetText("first\r\n.dot\r\n..\r\n\r\nlast");
+  Mail.Signature()->SetText("--\n.sig");
+  const std::string host = vcl::TCustomWinSocket::GetLocalHost();
+  const std::vector<testing::Matcher<std::string>> expected = {
+      AllOf(StartsWith("Message-Id: <QELDT98."), HasSubstr("@" + host), testing::EndsWith(">")),
+      "Date: today",
+      "From: ann@example.test",
+      "X-Mailer: Mail test - [TQELSMTPMail]",
+      StartsWith("Generator: QEL Dravel Tools in [Mail1]"),
+      StartsWith("URL: http"),
+      "To: bob@example.test, cy@example.test",
+      "Subject: ",
+      "MIME-Version: 1.0",
+      "Content-Type: Text/Plain; charset=ISO-8859-1",
+      "Content-Transfer-Encoding: 8bit",
+      "",
+      "first",
+      "..dot",
+      "...",
+      "",
+      "last",
+      "\r\n",
+      "--",
+      "..sig"};
+  EXPECT_THAT(Compose(), ElementsAreArray(expected));
+}
+
+TEST_F(Composing, NumbersMailsByTheClockWithLettersWithoutZ) {
+  const std::string digits = "0123456789";
+  std::string letters;
+  for (int i = 0; i < 200; ++i) {
+    const std::string number = Mail.CreateUIN();
+    ASSERT_EQ(number.find_first_not_of(digits, 9), 13u) << number;
+    ASSERT_EQ(number.find_first_not_of(digits, 14), 22u) << number;
+    ASSERT_EQ(number.find('@'), 30u) << number;
+    letters += number.substr(22, 8);
+  }
+  EXPECT_EQ(letters.find_first_not_of("abcdefghijklmnopqrstuvwxy"), letters.npos);
+  EXPECT_NE(letters.find_first_not_of(letters[0]), letters.npos);
+}
+
+TEST_F(Composing, WritesOptionalHeadersOnlyWhenSet) {
+  struct {
+    const char *Name, *Address, *From;
+  } const table[] = {{"", "ann", "From: ann"},
+                     {"Ann", "ann@a.test", "From: \"Ann\" <ann@a.test>"},
+                     {"Ann", "ann", "From: \"Ann\" <ann@mx.test>"}};
+  Message->SetReplyTo("r@a.test");
+  Message->SetInReplyTo("<1@a>");
+  for (const auto& each : table) {
+    Message->SetFromName(each.Name);
+    Message->SetFromMail(each.Address);
+    const auto lines = Compose();
+    EXPECT_EQ(lines[1], "In-Reply-To: <1@a>");
+    EXPECT_EQ(lines[3], each.From);
+    EXPECT_EQ(lines[4], "Reply-To: r@a.test");
+  }
+}
+
+TEST_F(Composing, PutsAttachmentsIntoParts) {
+  const TWorkFolder folder("qel-parts");
+  WriteFile("a.bin", "abcd");
+  qel::TQELAttachment* attachment = Message->Attachments()->Add("/some/where/a.bin");
+  EXPECT_EQ(attachment->FileName(), "a.bin");
+  attachment->SetMimeType("x/y");
+  const auto lines = Compose();
+  const std::string start = "Content-Type: multipart/mixed; boundary=\"";
+  ASSERT_THAT(lines[9], StartsWith(start + "---QELMAIL"));
+  const std::string boundary = "--" + lines[9].substr(start.size(), 22);
+  EXPECT_EQ(lines[9], start + boundary.substr(2) + "\"");
+  EXPECT_THAT(std::vector(lines.begin() + 10, lines.end()),
+              ElementsAre("", boundary, "Content-Type: Text/Plain; charset: ISO-8859-1",
+                          "Content-Transfer-Encoding: 8bit", "", "\r\n", boundary,
+                          "Content-Type: x/y; name=\"a.bin\"", "Content-Transfer-Encoding: base64",
+                          "Content-Disposition: inLine; filename=\"a.bin\"", "", "YWJjZA==", "",
+                          boundary + "--", ""));
+  attachment->SetFileName("missing.bin");
+  EXPECT_THROW(Compose(), vcl::EFOpenError);
+  Mail.OnEncodeStart = [&](auto*, auto&, int) { Mail.Abort(); };
+  attachment->SetFileName("a.bin");
+  EXPECT_EQ(Mail.InitializeMessage(*Message), nullptr) << "aborted";
+}
+
+TEST_F(Composing, TellsHowFarEncodingIs) {
+  const TWorkFolder folder("qel-encoding");
+  std::vector<int> percents;
+  Mail.SetProgressStep(qel::TQELPStep(25));
+  Mail.OnEncodeProgress = [&](auto*, int percent) { percents.push_back(percent); };
+  // One component after the other: what the first file has reached counts for the second.
+  struct {
+    std::size_t Size;
+    std::vector<int> Percents;
+    std::vector<std::size_t> LineSizes;
+  } const table[] = {{0, {100}, {}},
+                     {57, {100}, {76}},
+                     {58, {100}, {76, 4}},
+                     {4000, {26, 50, 100}, {}},  // The rest behind the last block tells nothing.
+                     {2280, {25, 50, 75, 100}, {}},
+                     {0, {}, {}}};
+  for (const auto& each : table) {
+    WriteFile("f", Noise(each.Size));
+    qel::TQELAttachment* attachment = Message->Attachments()->Add("f");
+    percents.clear();
+    Mail.Base64Encode(*attachment);
+    EXPECT_THAT(percents, ElementsAreArray(each.Percents)) << each.Size;
+    std::vector<std::size_t> sizes;
+    for (const std::string& line : Lines(*attachment->Lines())) sizes.push_back(line.size());
+    const auto letters = std::accumulate(sizes.begin(), sizes.end(), std::size_t{0});
+    EXPECT_EQ(letters, qel::Base64Size(each.Size));
+    EXPECT_TRUE(each.LineSizes.empty() || sizes == each.LineSizes);
+  }
+}
+
+TEST(Base64, ComesBackFromItsLetters) {
+  for (std::size_t size = 0; size < 200; ++size) {
+    const std::string bytes = Noise(size);
+    std::string letters(qel::Base64Size(size), '\0'), back(size + 3, '\0');
+    qel::EncodeBase64(reinterpret_cast<const unsigned char*>(bytes.data()), size, letters.data());
+    EXPECT_EQ(letters.find_last_not_of('='), letters.size() - 1 - (3 - size % 3) % 3);
+    const std::size_t groups = qel::DecodeBase64Groups(
+        letters.data(), letters.size(), reinterpret_cast<unsigned char*>(back.data()));
+    EXPECT_EQ(groups, size / 3) << "padding is left to the caller";
+    EXPECT_EQ(back.substr(0, groups * 3), bytes.substr(0, groups * 3));
+  }
+}
+
+#ifndef _WIN32
+/// Another mail reader's view: the subject, the recipients, the text and each attachment's name and
+/// bytes in hexadecimal.
+const char* const Reader = R"(
+import email, email.policy, sys
+m = email.message_from_binary_file(open('mail', 'rb'), policy=email.policy.default)
+assert not m.defects, m.defects
+print(m['Subject'], m['From'].addresses[0].addr_spec, len(m['To'].addresses), sep='|')
+for part in m.iter_attachments():
+  print(part.get_filename(), part.get_content() == open(part.get_filename(), 'rb').read())
+)";
+
+TEST_F(Composing, IsReadByOtherMailReaders) {
+  const TWorkFolder folder("qel-readers");
+  WriteFile("read.py", Reader);
+  Message->SetSubject("Noise");
+  std::string expected = "Noise|ann@example.test|2\n";
+  for (const std::size_t size : {0, 1, 56, 57, 58, 2279, 2280, 2281, 5'000'000}) {
+    const std::string name = std::to_string(size) + ".bin";
+    WriteFile(name, Noise(size));
+    Message->Attachments()->Add(name);
+    expected += name + " True\n";
+  }
+  WriteFile("mail", Mail.InitializeMessage(*Message)->Text());
+  FILE* python = popen("timeout 60 /usr/bin/python3 read.py 2>&1", "r");
+  std::string said;
+  for (int c; (c = fgetc(python)) != EOF;) said += static_cast<char>(c);
+  pclose(python);
+  EXPECT_EQ(said, expected);
+}
+#endif
+
+}  // namespace
