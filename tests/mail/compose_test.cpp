@@ -5,6 +5,10 @@
 #include <cstdio>
 #include <numeric>
 
+#ifdef _WIN32
+#include "host/rtl/registry.h"
+#include "host/vcl/win32.h"
+#endif
 #include "mail/Qeltiemails.h"
 #include "mail/base64.h"
 #include "tests/mail/mailtest.h"
@@ -149,6 +153,24 @@ TEST_F(Composing, TellsHowFarEncodingIs) {
     const auto letters = std::accumulate(sizes.begin(), sizes.end(), std::size_t{0});
     EXPECT_EQ(letters, qel::Base64Size(each.Size));
     EXPECT_TRUE(each.LineSizes.empty() || sizes == each.LineSizes);
+  }
+}
+
+#ifdef _WIN32
+TEST(MimeType, IsTheRegisteredOneOfTheExtension) {
+  vcl::TRegistry classes;
+  classes.SetRootKey(HKEY_CLASSES_ROOT);
+  ASSERT_TRUE(classes.OpenKey(".qel-test", true));
+  classes.WriteString("Content Type", "x-test/one");
+  EXPECT_EQ(qel::TQELAttachments::GetMimeType("C:\\a.b\\c.d.qel-test"), "x-test/one");
+  classes.WriteInteger("Content Type", 1);
+  EXPECT_EQ(qel::TQELAttachments::GetMimeType("a.qel-test"), "application/octet-stream");
+  classes.DeleteKey("\\.qel-test");
+#else
+TEST(MimeType, IsTheGeneralOneWhereNoneIsRegistered) {
+#endif
+  for (const char* path : {"a.qel-test", "a", "", ".", "C:\\a.txt\\b"}) {
+    EXPECT_EQ(qel::TQELAttachments::GetMimeType(path), "application/octet-stream") << path;
   }
 }
 

@@ -11,6 +11,7 @@
 #include "core/Qelclasses2.h"
 #include "core/Qeltstoredata.h"
 #include "host/rtl/classregistry.h"
+#include "mail/Qeltiemails.h"
 #include "services/Qeltformsaver.h"
 #include "services/Qeltonlyone.h"
 #include "services/Qeltsystemtray.h"
@@ -27,5 +28,5 @@ inline void RegisterAll() {
                         &qel::TQELOnlyOne::Class(),    &qel::TQELSystemTray::Class(),
                         &qel::TQELRegistry::Class(),   &qel::TQELIniFile::Class(),
                         &qel::TQELDataStore::Class(),  &qel::TQELStoreData::Class(),
-                        &qel::TQELFormSaver::Class()});
+                        &qel::TQELFormSaver::Class(),  &qel::TQELSMTPMail::Class()});
 }
