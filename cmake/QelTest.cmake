@@ -5,14 +5,16 @@ if(WIN32 AND CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
 endif()
 cmake_path(GET PROJECT_BINARY_DIR FILENAME QEL_BUILD_NAME)
 
-# qel_add_test(AREA [NATIVE] [WINDOW] [TIMEOUT seconds] [LIBRARIES targets...] [FORMS ...]
-#              [RESOURCES ...])
+# qel_add_test(AREA [NATIVE] [WINDOW] [TIMEOUT seconds] [LAUNCHER program] [LIBRARIES targets...]
+#              [FORMS ...] [RESOURCES ...])
 #
 # Adds the test executable of tests/AREA, which is all sources in that folder; nothing while there
 # are none. NATIVE areas have no window in them and run on every platform. WINDOW areas use the
-# screen, the keyboard and the mouse and so run alone. A main of their own is main.cpp.
+# screen, the keyboard and the mouse and so run alone. A main of their own is main.cpp. LAUNCHER
+# starts the executable that it is given, or ends with 77 when that can't be run here.
 function(qel_add_test area)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "NATIVE;WINDOW" "TIMEOUT" "LIBRARIES;FORMS;RESOURCES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "NATIVE;WINDOW" "TIMEOUT;LAUNCHER"
+                        "LIBRARIES;FORMS;RESOURCES")
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${area}/*.cpp)
   if(NOT sources OR NOT (WIN32 OR arg_NATIVE))
     return()
@@ -34,11 +36,18 @@ function(qel_add_test area)
     qel_target_resources(${target} MANIFEST FORMS ${arg_FORMS} RESOURCES ${arg_RESOURCES})
   endif()
 
-  add_test(NAME ${QEL_BUILD_NAME}/${area} COMMAND ${target})
+  if(arg_LAUNCHER)
+    add_test(NAME ${QEL_BUILD_NAME}/${area} COMMAND ${arg_LAUNCHER} $<TARGET_FILE:${target}>)
+  else()
+    add_test(NAME ${QEL_BUILD_NAME}/${area} COMMAND ${target})
+  endif()
   # What runs the program ends it first, so that it can say so and clean up.
   math(EXPR last_resort "${arg_TIMEOUT} + 60")
   set_tests_properties(${QEL_BUILD_NAME}/${area} PROPERTIES
     TIMEOUT ${last_resort}
     RUN_SERIAL "${arg_WINDOW}"
     ENVIRONMENT "WINE_RUN_TIMEOUT=${arg_TIMEOUT};UBSAN_OPTIONS=print_stacktrace=1")
+  if(arg_LAUNCHER)
+    set_tests_properties(${QEL_BUILD_NAME}/${area} PROPERTIES SKIP_RETURN_CODE 77)
+  endif()
 endfunction()

@@ -2,6 +2,7 @@
 // folder for files.
 #pragma once
 
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -61,3 +62,23 @@ inline std::string Noise(std::size_t size) {
 inline void WriteFile(const std::string& name, const std::string& bytes) {
   std::ofstream(name, std::ios::binary) << bytes;
 }
+
+#ifndef _WIN32
+/// What another mail reader, Python's, sees in the file: the subject, the sender and the number of
+/// recipients, and each attachment's name and whether it is the same as the file of that name.
+inline std::string ReadElsewhere(const std::string& fileName) {
+  WriteFile("read.py", R"(
+import email, email.policy, sys
+m = email.message_from_binary_file(open(sys.argv[1], 'rb'), policy=email.policy.default)
+assert not m.defects, m.defects
+print(m['Subject'], m['From'].addresses[0].addr_spec, len(m['To'].addresses), sep='|')
+for part in m.iter_attachments():
+  print(part.get_filename(), part.get_content() == open(part.get_filename(), 'rb').read())
+)");
+  FILE* python = popen(("timeout 60 /usr/bin/python3 read.py " + fileName + " 2>&1").c_str(), "r");
+  std::string said;
+  for (int c; (c = fgetc(python)) != EOF;) said += static_cast<char>(c);
+  pclose(python);
+  return said;
+}
+#endif
