@@ -14,6 +14,8 @@ namespace {
 
 constexpr int StreamTimeOut = 100;
 constexpr std::string_view Terminator = "\r\n.\r\n";
+/// How long to wait for the next piece of a reply.
+constexpr int PieceMilliseconds = 200;
 /// No server has more to say in one line.
 constexpr std::size_t MaxReplySize = 64 << 10;
 /// What is believed of a size that a server announces.
@@ -214,13 +216,14 @@ bool TQELPOPMail::Command(const std::string& command, int refusal, std::string& 
 
 std::string TQELPOPMail::ReadReply() {
   std::string reply, chunk;
-  // Nearly always one piece; only when a reply's first line comes in several, the others are
-  // awaited.
-  do {
+  GetSocketText(reply);
+  // Nearly always one piece. What is sent in several is put together, as far as they come at once.
+  while (reply.find('\n') == reply.npos && Stream().WaitForData(PieceMilliseconds)) {
+    LetWait();
     GetSocketText(chunk);
     reply += chunk;
     if (reply.size() > MaxReplySize) throw EQELMailError("The server's reply does not end");
-  } while (chunk.find('\n') == chunk.npos);
+  }
   TakeReply(reply);
   return reply;
 }

@@ -28,5 +28,6 @@ inline void RegisterAll() {
                         &qel::TQELOnlyOne::Class(),    &qel::TQELSystemTray::Class(),
                         &qel::TQELRegistry::Class(),   &qel::TQELIniFile::Class(),
                         &qel::TQELDataStore::Class(),  &qel::TQELStoreData::Class(),
-                        &qel::TQELFormSaver::Class(),  &qel::TQELSMTPMail::Class()});
+                        &qel::TQELFormSaver::Class(),  &qel::TQELSMTPMail::Class(),
+                        &qel::TQELPOPMail::Class()});
 }
