@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/Qelcontrols.h"
+#include "host/vcl/application.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/imagelist.h"
 #include "host/vcl/screen.h"
@@ -101,9 +102,11 @@ vcl::TStrings* QELStringIntoPieces(std::string_view text, std::string_view separ
 
 void QELCenterControl(vcl::TControl* control) {
   int left = std::max(0, control->Left()), top = std::max(0, control->Top());
-  if (dynamic_cast<vcl::TCustomForm*>(control)) {
-    left = Centered(vcl::Screen()->Width(), control->Width());
-    top = Centered(vcl::Screen()->Height(), control->Height());
+  if (const auto* form = dynamic_cast<vcl::TCustomForm*>(control)) {
+    const vcl::TCustomForm* const main = vcl::Application()->MainForm();
+    const bool inside = form->FormStyle() == vcl::fsMDIChild && main;
+    left = Centered(inside ? main->ClientWidth() : vcl::Screen()->Width(), control->Width());
+    top = Centered(inside ? main->ClientHeight() : vcl::Screen()->Height(), control->Height());
   } else if (vcl::TWinControl* parent = control->Parent()) {
     parent->HandleNeeded();
     left = Centered(parent->ClientWidth(), control->Width());

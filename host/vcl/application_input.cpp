@@ -78,6 +78,8 @@ bool TApplication::PreprocessInput(MSG& message) {
   if (IsMouse(message.message)) TrackMouse(&message);
   if (!IsKey(message.message)) return false;
   if (TDragSession::HandleKey(message)) return true;
+  const HWND client = FMainForm ? FMainForm->ClientHandle() : nullptr;
+  if (client && ::TranslateMDISysAccel(client, &message)) return true;
   TWinControl* const control = ControlOf(message.hwnd);
   return control && control->PreprocessKey(message);
 }

@@ -195,6 +195,8 @@ void TCustomForm::SetBorderIcons(TBorderIcons icons) {
 
 void TCustomForm::SetFormStyle(TFormStyle style) {
   if (style == FFormStyle) return;
+  const auto inOrAround = [](TFormStyle each) { return each == fsMDIChild || each == fsMDIForm; };
+  if (inOrAround(style) || inOrAround(FFormStyle)) return RemakeAs(style);
   FFormStyle = style;
   if (!HandleAllocated() || Designing()) return;
   ::SetWindowPos(Handle(), style == fsStayOnTop ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,

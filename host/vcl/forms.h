@@ -15,9 +15,12 @@ template <>
 inline constexpr TEnumText EnumText<TBorderIcon>{
     "TBorderIcon", "biSystemMenu biMinimize biMaximize biHelp", "TBorderIcons"};
 using TBorderIcons = TSet<TBorderIcon>;
-enum TFormStyle { fsNormal, fsStayOnTop };
+enum TFormStyle { fsNormal, fsMDIChild, fsMDIForm, fsStayOnTop };
 template <>
-inline constexpr TEnumText EnumText<TFormStyle>{"TFormStyle", "fsNormal fsStayOnTop"};
+inline constexpr TEnumText EnumText<TFormStyle>{"TFormStyle",
+                                                "fsNormal fsMDIChild fsMDIForm fsStayOnTop"};
+/// Tiles lie above each other, or side by side.
+enum TTileMode { tbHorizontal, tbVertical };
 enum TPosition { poDesigned, poDefault, poDefaultPosOnly, poDefaultSizeOnly, poScreenCenter };
 template <>
 inline constexpr TEnumText EnumText<TPosition>{
@@ -105,6 +108,8 @@ class VCL_API TCustomForm : public TWinControl {
   TBorderIcons BorderIcons() const { return FBorderIcons; }
   void SetBorderIcons(TBorderIcons icons);
   TFormStyle FormStyle() const { return FFormStyle; }
+  /// A form that becomes an fsMDIChild becomes visible, inside the main form. Raises
+  /// EInvalidOperation when it is to have a window and the main form is no fsMDIForm.
   void SetFormStyle(TFormStyle style);
   TPosition Position() const { return FPosition; }
   void SetPosition(TPosition position);
@@ -120,6 +125,25 @@ class VCL_API TCustomForm : public TWinControl {
   TCanvas* Canvas() const;
   /// A picture of the form as it stands on the screen or would.
   std::unique_ptr<TBitmap> GetFormImage();
+
+  // A main form of the style fsMDIForm, and the forms of the style fsMDIChild inside it. Their
+  // menus stay out of sight, and hiding one destroys its window. Without a main form's window the
+  // calls do nothing.
+  /// The system's window in which the children stand; null in other forms, and without a window.
+  HWND ClientHandle() const { return FClientHandle; }
+  /// The child in front; null for none.
+  TCustomForm* ActiveMDIChild() const;
+  /// All forms of the style fsMDIChild.
+  int MDIChildCount() const;
+  /// By the order in which they were made; null for an index outside.
+  TCustomForm* MDIChildren(int index) const;
+  void Cascade();
+  TTileMode TileMode() const { return FTileMode; }
+  void SetTileMode(TTileMode mode) { FTileMode = mode; }
+  void Tile();
+  void ArrangeIcons();
+  void Next();
+  void Previous();
 
   void SetVisible(bool visible) override;
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
@@ -138,6 +162,9 @@ class VCL_API TCustomForm : public TWinControl {
   void CreateParams(TCreateParams& params) override;
   void CreateWnd() override;
   void DestroyWnd() override;
+  void DestroyWindowHandle() override;
+  void DefaultHandler(TMessage& message) override;
+  void AlignControls(TControl* control, TRect& rect) override;
   void Dispatch(TMessage& message) override;
   void WMPaint(TMessage& message) override;
   void PaintWindow(HDC dc) override;
@@ -167,6 +194,15 @@ class VCL_API TCustomForm : public TWinControl {
   void UpdateMenu();
   void UpdateIcon();
   void Remake();
+  // Windows inside a window.
+  bool StandsInside() const;
+  HWND WindowAround() const;
+  void CreateClient();
+  void DestroyClient();
+  void TellClient(UINT message, WPARAM wParam = 0);
+  void RemakeAs(TFormStyle style);
+  void ActivateInside();
+  void WMMDIActivate(TMessage& message);
   // Messages.
   bool DispatchWindow(TMessage& message);
   bool DispatchNotice(TMessage& message);
@@ -212,6 +248,8 @@ class VCL_API TCustomForm : public TWinControl {
   int FClientHeight = -1;
   TWinControl* FActiveControl = nullptr;
   TWinControl* FFocusedControl = nullptr;  // Where CM_ENTER has been sent to last.
+  HWND FClientHandle = nullptr;
+  TTileMode FTileMode = tbHorizontal;
   TMainMenu* FMenu = nullptr;
   std::unique_ptr<TIcon> FIcon;
   std::unique_ptr<TControlCanvas> FCanvas;

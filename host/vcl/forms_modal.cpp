@@ -25,7 +25,9 @@ void TCustomForm::Close() {
   }
   TWatch watch(this);
   if (!CloseQuery() || watch.Gone()) return;
-  TCloseAction action = caHide;
+  // A form inside another is put away by minimizing it; without that it stays.
+  const TCloseAction inside = FBorderIcons.Has(biMinimize) ? caMinimize : caNone;
+  TCloseAction action = StandsInside() ? inside : caHide;
   DoClose(action);
   if (watch.Gone() || action == caNone) return;
   if (this == Application()->MainForm()) return Application()->Terminate();
@@ -46,7 +48,7 @@ void TCustomForm::CheckCanShowModal() const {
     reason = "is visible already";
   else if (!Enabled())
     reason = "is disabled";
-  else if (Parent())
+  else if (Parent() || StandsInside())
     reason = "stands in another control";
   else if (Designing())
     reason = "is being designed";

@@ -37,9 +37,11 @@ bool HasSizeButtons(TBorderStyle style) { return style == bsSingle || style == b
 void TCustomForm::AddFrame(TCreateParams& params) const {
   if (Parent()) return;
   const TFrame& frame = Frames[FBorderStyle];
-  params.Style &= ~static_cast<DWORD>(WS_CHILD | WS_GROUP | WS_TABSTOP);
-  params.Style |= frame.Style;
-  params.ExStyle |= frame.ExStyle | WS_EX_CONTROLPARENT;
+  const bool inside = StandsInside();
+  params.Style &= ~static_cast<DWORD>(inside ? 0 : WS_CHILD);
+  params.Style &= ~static_cast<DWORD>(WS_GROUP | WS_TABSTOP);
+  params.Style |= frame.Style & ~(inside ? WS_POPUP : 0);
+  params.ExStyle |= frame.ExStyle | WS_EX_CONTROLPARENT | (inside ? WS_EX_MDICHILD : 0);
   if (FBorderStyle == bsNone) return;
   if (FBorderIcons.Has(biSystemMenu)) params.Style |= WS_SYSMENU;
   if (HasSizeButtons(FBorderStyle)) {
@@ -56,7 +58,7 @@ void TCustomForm::CreateParams(TCreateParams& params) {
   if (Parent()) return;
   params.Style &= ~static_cast<DWORD>(WS_VISIBLE);
   params.Style |= WS_CLIPCHILDREN;
-  params.WndParent = Application()->Handle();
+  params.WndParent = StandsInside() ? WindowAround() : Application()->Handle();
   if (Designing()) return;
   if (FFormStyle == fsStayOnTop) params.ExStyle |= WS_EX_TOPMOST;
   // The system places windows that are no popups only.
@@ -71,11 +73,13 @@ void TCustomForm::CreateWnd() {
   TWinControl::CreateWnd();
   UpdateIcon();
   UpdateMenu();
+  if (FFormStyle == fsMDIForm && !Designing()) CreateClient();
 }
 
 void TCustomForm::DestroyWnd() {
+  DestroyClient();
   // The system frees a menu with its window, but this one belongs to its component.
-  if (FMenu) ::SetMenu(Handle(), nullptr);
+  if (FMenu && !StandsInside()) ::SetMenu(Handle(), nullptr);
   TWinControl::DestroyWnd();
 }
 
@@ -92,7 +96,7 @@ void TCustomForm::Remake() {
 }
 
 void TCustomForm::UpdateMenu() {
-  if (!HandleAllocated() || Parent()) return;
+  if (!HandleAllocated() || Parent() || StandsInside()) return;
   const bool shown = FMenu && FBorderStyle != bsDialog && !Designing();
   ::SetMenu(Handle(), shown ? FMenu->Handle() : nullptr);
   ::DrawMenuBar(Handle());
@@ -162,7 +166,9 @@ void TCustomForm::ShowingChanged() {
 void TCustomForm::PlaceOnScreen() {
   if (std::exchange(FPlaced, true) || FPosition != poScreenCenter || Parent() || Designing())
     return;
-  const TRect area = Screen()->WorkAreaRect();
+  const TRect area = StandsInside() ? TRect(0, 0, Application()->MainForm()->ClientWidth(),
+                                            Application()->MainForm()->ClientHeight())
+                                    : Screen()->WorkAreaRect();
   SetBounds(area.Left + std::max((area.Width() - Width()) / 2, 0),
             area.Top + std::max((area.Height() - Height()) / 2, 0), Width(), Height());
 }
@@ -177,9 +183,12 @@ void TCustomForm::ShowWindowNow() {
     return;
   }
   ::ShowWindow(Handle(), commands[FWindowState]);
+  if (StandsInside()) ActivateInside();
 }
 
 void TCustomForm::HideWindowNow() {
+  // The system does not count with children that are hidden.
+  if (StandsInside()) return DestroyHandle();
   // The system would activate whatever window lies below, of another program as well.
   const HWND next = ::GetActiveWindow() == Handle() ? NextWindow(Handle()) : nullptr;
   if (next) ::SetActiveWindow(next);
@@ -231,6 +240,10 @@ bool TCustomForm::DispatchWindow(TMessage& message) {
   switch (message.Msg) {
     case WM_ACTIVATE:
       if (Designing() || Parent()) return false;
+      if (FClientHandle) {  // Its children have the focus.
+        FActive = LOWORD(message.WParam) != WA_INACTIVE;
+        return false;
+      }
       SetActive(LOWORD(message.WParam) != WA_INACTIVE && !HIWORD(message.WParam));
       return true;
     case WM_SETFOCUS:
@@ -241,6 +254,7 @@ bool TCustomForm::DispatchWindow(TMessage& message) {
     case WM_INITMENUPOPUP:
     case WM_MENUSELECT: return FMenu && FMenu->HandleMessage(message);
     case WM_CLOSE: return Close(), true;
+    case WM_MDIACTIVATE: return WMMDIActivate(message), true;
     case WM_QUERYENDSESSION: return message.Result = CloseQuery(), true;
     case WM_SIZE: return WMSize(message), true;
     case WM_SYSCOMMAND: return WMSysCommand(message), true;

@@ -135,6 +135,8 @@ class VCL_API TWinControl : public TControl {
   virtual void CreateWnd();
   /// Destroys the window; overriders first save what only the window knows.
   virtual void DestroyWnd();
+  /// The call of the system that ends the window.
+  virtual void DestroyWindowHandle();
   virtual void CreateHandle();
   void DestroyHandle();
   /// Makes the window anew, with what it shows and the focus kept.

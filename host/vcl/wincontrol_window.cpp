@@ -157,9 +157,11 @@ void TWinControl::DestroyWnd() {
   FText = WindowText(FHandle);
   FShowing = false;
   IncludeState(csDestroyingHandle);
-  ::DestroyWindow(FHandle);
+  DestroyWindowHandle();
   ExcludeState(csDestroyingHandle);
 }
+
+void TWinControl::DestroyWindowHandle() { ::DestroyWindow(FHandle); }
 
 void TWinControl::RecreateWnd() {
   if (!FHandle) return;

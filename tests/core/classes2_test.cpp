@@ -9,6 +9,7 @@
 
 #include "core/Qelcontrols.h"
 #include "host/rtl/exceptions.h"
+#include "host/vcl/application.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/graphics.h"
 #include "host/vcl/screen.h"
@@ -80,6 +81,17 @@ TEST_F(CenterControl, CentersAFormOnTheScreen) {
   QELCenterControl(&Form);
   EXPECT_EQ(Form.BoundsRect(), vcl::Bounds((vcl::Screen()->Width() - 301) / 2,
                                            (vcl::Screen()->Height() - 200) / 2, 301, 200));
+}
+
+TEST_F(CenterControl, CentersAFormInsideTheMainFormInIt) {
+  auto* main = vcl::Application()->CreateForm<vcl::TForm>();
+  main->SetFormStyle(vcl::fsMDIForm);
+  main->SetBounds(0, 0, 700, 500);
+  Form.SetFormStyle(vcl::fsMDIChild);
+  QELCenterControl(&Form);
+  EXPECT_EQ(Form.BoundsRect(), vcl::Bounds((main->ClientWidth() - 301) / 2,
+                                           (main->ClientHeight() - 200) / 2, 301, 200));
+  delete main;
 }
 
 TEST_F(CenterControl, CentersAControlInItsParent) {
