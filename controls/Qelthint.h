@@ -132,7 +132,8 @@ class QEL_API TQELNewHint : public vcl::THintWindow {
   };
   /// Finds the side for a text of the rectangle's size: the TQELHint's HintDirection, which its
   /// event may change, or else one where the hint fits on the primary screen; HintDirection is that
-  /// side then. A hint that fits nowhere stays on the side asked for, moved onto the screen.
+  /// side then. A hint that fits nowhere stays on the side asked for, moved onto the screen and
+  /// with no more of the text than the screen shows.
   /// Nothing when there is no TQELHint, or the event's handler has freed it or this window.
   std::optional<TPlacement> SelectProperHintDirection(const vcl::TRect& rect);
 

@@ -89,19 +89,22 @@ std::optional<TQELNewHint::TPlacement> TQELNewHint::SelectProperHintDirection(co
   TQELDirectionB direction = FHint->HintDirection();
   if (direction < dUpRight || direction > dDownLeft) direction = dUpRight;
   const TQELDirectionB wanted = direction;
+  // More than the screen shows of a text fits nowhere either, and no bitmap could hold some texts.
+  const TRect text(0, 0, std::min(rect.Width(), vcl::Screen()->Width()),
+                   std::min(rect.Height(), vcl::Screen()->Height()));
   const auto placed = [&](TPoint topLeft) {
     FHint->SetHintDirection(direction);
-    const TSize size = SizeOn(direction, rect);
+    const TSize size = SizeOn(direction, text);
     return TPlacement{direction, vcl::Bounds(topLeft.X, topLeft.Y, size.cx, size.cy)};
   };
   // The sides pass a hint on to each other, and one that fits nowhere would go round for ever.
   for (std::size_t tries = 0; tries < Checks.size(); ++tries) {
-    const TTry result = Checks[direction](mouse, SizeOn(direction, rect));
+    const TTry result = Checks[direction](mouse, SizeOn(direction, text));
     if (const auto* topLeft = std::get_if<TPoint>(&result)) return placed(*topLeft);
     direction = std::get<TQELDirectionB>(result);
   }
   direction = wanted;
-  return placed(Squeezed(mouse, SizeOn(direction, rect)));
+  return placed(Squeezed(mouse, SizeOn(direction, text)));
 }
 
 }  // namespace qel

@@ -48,20 +48,20 @@ const vcl::TClass& TQELButtonDetails::Class() {
 
 TQELButtonDetails::TQELButtonDetails(vcl::TControl* target)
     : FGlyph(std::make_unique<vcl::TBitmap>()),
-      FTarget(target ? std::make_unique<TTarget>(*target) : nullptr) {
+      FTarget(target ? std::make_shared<const TTarget>(*target) : nullptr) {
   FGlyph->OnChange = vcl::TNotifyEvent(this, &TQELButtonDetails::GlyphChanged);
 }
 
 TQELButtonDetails::~TQELButtonDetails() { FGlyph->OnChange.Clear(); }
 
+/// A button that is disabled or hidden loses the focus, and what handles that may free these
+/// details: from there on only the target is looked at.
 template <class Apply>
 void TQELButtonDetails::Change(Apply apply) {
-  if (FTarget) FTarget->With(apply);
-  Invalidate();
-}
-
-void TQELButtonDetails::Invalidate() {
-  if (FTarget) FTarget->With([](auto& button) { button.Invalidate(); });
+  const std::shared_ptr<const TTarget> target = FTarget;
+  if (!target) return;
+  target->With(apply);
+  target->With([](auto& button) { button.Invalidate(); });
 }
 
 void TQELButtonDetails::Setglyph(const vcl::TBitmap* glyph) { FGlyph->Assign(glyph); }

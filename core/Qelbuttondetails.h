@@ -44,7 +44,6 @@ class QEL_API TQELButtonDetails : public vcl::TPersistent {
   void GlyphChanged(vcl::TObject* sender);
   template <class Apply>
   void Change(Apply apply);
-  void Invalidate();
 
   bool FVisible = true;
   bool FConfirmOnPress = false;
@@ -54,7 +53,7 @@ class QEL_API TQELButtonDetails : public vcl::TPersistent {
   std::unique_ptr<vcl::TBitmap> FGlyph;
   std::string FHint;
   bool FShowHint = false;
-  std::unique_ptr<TTarget> FTarget;
+  std::shared_ptr<const TTarget> FTarget;
 };
 
 }  // namespace qel

@@ -6099,13 +6099,11 @@ object GalleryForm: TGalleryForm
       end
       object HintEdgeCaption: TLabel
         Left = 16
-        Top = 158
-        Width = 616
+        Top = 160
+        Width = 320
         Height = 13
         AutoSize = False
-        Caption = 
-          'Near an edge of the screen, where there is no room, a hint takes' +
-          ' another side.'
+        Caption = 'Near an edge of the screen a hint takes another side. See:'
       end
       object HintTextsHeading: TLabel
         Left = 16
@@ -6190,6 +6188,46 @@ object GalleryForm: TGalleryForm
         Background = StageBackground
         ParentFont = False
       end
+      object HintLeftEdgeButton: TButton
+        Left = 340
+        Top = 156
+        Width = 70
+        Height = 22
+        Hint = 'Moves the window, so that the four fields lie at this edge'
+        Caption = 'Left'
+        TabOrder = 0
+        OnClick = HintEdgeClick
+      end
+      object HintTopEdgeButton: TButton
+        Left = 414
+        Top = 156
+        Width = 70
+        Height = 22
+        Hint = 'Moves the window, so that the four fields lie at this edge'
+        Caption = 'Top'
+        TabOrder = 1
+        OnClick = HintEdgeClick
+      end
+      object HintRightEdgeButton: TButton
+        Left = 488
+        Top = 156
+        Width = 70
+        Height = 22
+        Hint = 'Moves the window, so that the four fields lie at this edge'
+        Caption = 'Right'
+        TabOrder = 2
+        OnClick = HintEdgeClick
+      end
+      object HintBottomEdgeButton: TButton
+        Left = 562
+        Top = 156
+        Width = 70
+        Height = 22
+        Hint = 'Moves the window, so that the four fields lie at this edge'
+        Caption = 'Bottom'
+        TabOrder = 3
+        OnClick = HintEdgeClick
+      end
       object HintUpLeftField: TPanel
         Left = 16
         Top = 34
@@ -6198,7 +6236,7 @@ object GalleryForm: TGalleryForm
         Hint = 'To be shown on the side dUpLeft of the mouse'
         BevelOuter = bvLowered
         Caption = 'dUpLeft'
-        TabOrder = 4
+        TabOrder = 8
       end
       object HintUpRightField: TPanel
         Left = 332
@@ -6208,7 +6246,7 @@ object GalleryForm: TGalleryForm
         Hint = 'To be shown on the side dUpRight of the mouse'
         BevelOuter = bvLowered
         Caption = 'dUpRight'
-        TabOrder = 5
+        TabOrder = 9
       end
       object HintDownLeftField: TPanel
         Left = 16
@@ -6218,7 +6256,7 @@ object GalleryForm: TGalleryForm
         Hint = 'To be shown on the side dDownLeft of the mouse'
         BevelOuter = bvLowered
         Caption = 'dDownLeft'
-        TabOrder = 6
+        TabOrder = 10
       end
       object HintDownRightField: TPanel
         Left = 332
@@ -6228,7 +6266,7 @@ object GalleryForm: TGalleryForm
         Hint = 'To be shown on the side dDownRight of the mouse'
         BevelOuter = bvLowered
         Caption = 'dDownRight'
-        TabOrder = 7
+        TabOrder = 11
       end
       object HintShortField: TPanel
         Left = 16
@@ -6238,7 +6276,7 @@ object GalleryForm: TGalleryForm
         Hint = 'Hint'
         BevelOuter = bvLowered
         Caption = 'A word'
-        TabOrder = 8
+        TabOrder = 12
       end
       object HintLongField: TPanel
         Left = 224
@@ -6250,7 +6288,7 @@ object GalleryForm: TGalleryForm
           'od for'
         BevelOuter = bvLowered
         Caption = 'A sentence'
-        TabOrder = 9
+        TabOrder = 13
       end
       object HintLinesField: TPanel
         Left = 432
@@ -6262,7 +6300,7 @@ object GalleryForm: TGalleryForm
           ' three lines'
         BevelOuter = bvLowered
         Caption = 'Three lines'
-        TabOrder = 10
+        TabOrder = 14
       end
       object HintEdit: TEdit
         Left = 16
@@ -6270,7 +6308,7 @@ object GalleryForm: TGalleryForm
         Width = 148
         Height = 20
         Hint = 'The hint of an edit'
-        TabOrder = 0
+        TabOrder = 4
         Text = 'An edit'
       end
       object HintButton: TQELButton
@@ -6282,7 +6320,7 @@ object GalleryForm: TGalleryForm
         Glyph.TransparentColor = clBlack
         Caption = 'A button'
         Background = FaceBackground
-        TabOrder = 1
+        TabOrder = 5
         TabStop = True
       end
       object HintCheck: TCheckBox
@@ -6292,7 +6330,7 @@ object GalleryForm: TGalleryForm
         Height = 17
         Hint = 'The hint of a check box'
         Caption = 'A check box'
-        TabOrder = 2
+        TabOrder = 6
       end
       object HintBox: TComboBox
         Left = 484
@@ -6300,7 +6338,7 @@ object GalleryForm: TGalleryForm
         Width = 148
         Height = 21
         Hint = 'The hint of a list'
-        TabOrder = 3
+        TabOrder = 7
         Text = 'A list'
         Items.Strings = (
           'One'
@@ -6314,7 +6352,7 @@ object GalleryForm: TGalleryForm
         Align = alRight
         BevelOuter = bvNone
         Caption = ''
-        TabOrder = 11
+        TabOrder = 15
         object HintSettingsEdge: TBevel
           Left = 0
           Top = 0

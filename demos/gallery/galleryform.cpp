@@ -59,6 +59,7 @@ const TClass& TGalleryForm::Class() {
                              Method<&T::LiveStartClick>("LiveStartClick"),
                              Method<&T::LiveStopClick>("LiveStopClick"),
                              Method<&T::SampleSpinChange>("SampleSpinChange"),
+                             Method<&T::HintEdgeClick>("HintEdgeClick"),
                              Method<&T::SelectHintDirection>("SelectHintDirection"),
                          });
   return info;

@@ -109,6 +109,7 @@ class TGalleryForm : public vcl::TForm {
 
   // The page of hints.
   void SetUpHints();
+  void HintEdgeClick(vcl::TObject* sender);
   void SelectHintDirection(vcl::TControl* control, qel::TQELDirectionB& direction);
 
   // What the pages share.

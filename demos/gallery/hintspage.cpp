@@ -2,6 +2,7 @@
 // rest the mouse on.
 #include "demos/gallery/galleryform.h"
 #include "host/vcl/application.h"
+#include "host/vcl/screen.h"
 
 namespace gallery {
 
@@ -57,6 +58,21 @@ void TGalleryForm::SelectHintDirection(TControl* control, TQELDirectionB& direct
   // A hint that found no room has changed the setting, and this one does.
   BubbleHint->SetHintDirection(direction);
   FDirectionSetting->Refresh();
+}
+
+/// Moves the window, beyond the screen where it must be, until the four fields touch the edge.
+void TGalleryForm::HintEdgeClick(TObject* sender) {
+  const auto corner = [this](const char* field, bool far) {
+    const auto* control = dynamic_cast<TControl*>(FindComponent(field));
+    return control->ClientToScreen(far ? TPoint(control->Width(), control->Height()) : TPoint());
+  };
+  const TPoint first = corner("HintUpLeftField", false);
+  const TPoint last = corner("HintDownRightField", true);
+  const std::string& edge = dynamic_cast<const TComponent&>(*sender).Name();
+  if (edge == "HintLeftEdgeButton") SetLeft(Left() - first.X);
+  if (edge == "HintTopEdgeButton") SetTop(Top() - first.Y);
+  if (edge == "HintRightEdgeButton") SetLeft(Left() + Screen()->Width() - last.X);
+  if (edge == "HintBottomEdgeButton") SetTop(Top() + Screen()->Height() - last.Y);
 }
 
 void TGalleryForm::ShowSampleHint() {

@@ -73,6 +73,9 @@ TEST_F(HintPlacement, AHintThatFitsNowhereIsSeenFromItsBeginning) {
   EXPECT_EQ(Window()->Top(), 515);
   Window()->ActivateHint({0, 0, 84, Bottom * 2}, "x");
   EXPECT_EQ(Window()->Top(), 0);
+  Window()->ActivateHint({0, 0, 84, 1 << 30}, "x");
+  Window()->Update();
+  EXPECT_LE(Window()->Height(), Bottom + 29);
   Hint->SetHintDirection(static_cast<TQELDirectionB>(9));
   Window()->ActivateHint(Text, "x");
   EXPECT_EQ(Hint->HintDirection(), dUpRight);

@@ -66,6 +66,25 @@ TEST(ButtonDetailsAlone, AnotherControlStaysAsItIs) {
   EXPECT_EQ(details.Caption(), "x");
 }
 
+TEST(ButtonDetailsAlone, AreFreedByWhoHandlesTheChange) {
+  vcl::TForm form(nullptr);
+  auto* button = new vcl::TBitBtn(&form);
+  auto* other = new vcl::TBitBtn(&form);
+  for (auto* each : {button, other}) each->SetParent(&form);
+  form.Show();
+  button->SetFocus();
+  auto details = std::make_unique<qel::TQELButtonDetails>(button);
+  int exits = 0;
+  button->OnExit = [&](vcl::TObject*) {
+    ++exits;
+    details.reset();
+    delete button;
+  };
+  details->SetEnabled(false);
+  EXPECT_EQ(exits, 1);
+  EXPECT_EQ(details, nullptr);
+}
+
 TEST(ButtonDetailsAlone, SayInFormFilesThatTheyShowNoHints) {
   const qel::TQELButtonDetails details;
   const auto written = [&](const char* name) {

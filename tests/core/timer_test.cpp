@@ -272,8 +272,7 @@ DWORD HandleCount() {
 }
 
 constexpr int Crowd = 50;
-// The handling of three seconds shows what that of ten does.
-constexpr int LoadTime = 3000;
+constexpr int LoadTime = 10000;
 
 void RunCrowd(int milliseconds) {
   std::vector<std::unique_ptr<TCounted>> crowd;

@@ -8,6 +8,7 @@
 #include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
 #include "host/vcl/handles.h"
+#include "host/vcl/screen.h"
 #include "tests/support/kepthandles.h"
 #include "tests/vcl/testinput.h"
 
@@ -137,6 +138,23 @@ TEST_F(Gallery, TheHintOfASettingStandsBelow) {
   const std::string hint = Find("ButtonNumGlyphsEdit")->Hint();
   ASSERT_NE(hint, "");
   EXPECT_TRUE(PumpUntil([&] { return Status() == " " + hint; })) << Status();
+}
+
+TEST_F(Gallery, TheFieldsOfHintsGoToEachEdgeOfTheScreen) {
+  GoTo(5);
+  const auto press = [&](const char* name) {
+    Form.SetBounds(30, 30, Form.Width(), Form.Height());
+    Click(Find(name));
+    PumpUntil([&] { return Form.Left() != 30 || Form.Top() != 30; });
+    const TControl* const last = Find("HintDownRightField");
+    const TPoint from = Find("HintUpLeftField")->ClientToScreen({});
+    const TPoint to = last->ClientToScreen({last->Width(), last->Height()});
+    return TRect(from.X, from.Y, to.X, to.Y);
+  };
+  EXPECT_EQ(press("HintLeftEdgeButton").Left, 0);
+  EXPECT_EQ(press("HintTopEdgeButton").Top, 0);
+  EXPECT_EQ(press("HintRightEdgeButton").Right, Screen()->Width());
+  EXPECT_EQ(press("HintBottomEdgeButton").Bottom, Screen()->Height());
 }
 
 TEST_F(Gallery, AWrongTextKeepsTheValueAndIsMarked) {
