@@ -48,9 +48,9 @@ QEL_API void QELPaintEffect(vcl::TCanvas* canvas, const vcl::TRect& rect,
 QEL_API vcl::TStrings* QELStringIntoPieces(std::string_view text, std::string_view separator,
                                            vcl::TStrings* list);
 
-/// Centres a form on the screen, a form inside the main form in its client area, and another control in its parent, whose window is made if it has
-/// to be. What is larger than the room for it is put at 0. A control without a parent stays, only
-/// negative coordinates become 0.
+/// Centres a form on the screen, a form inside the main form in its client area, and another
+/// control in its parent, whose window is made if it has to be. What is larger than the room for it
+/// is put at 0. A control without a parent stays, only negative coordinates become 0.
 QEL_API void QELCenterControl(vcl::TControl* control);
 
 }  // namespace qel

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "controls/Qeltbackground.h"
-#include "host/rtl/properties.h"
 #include "host/vcl/forms.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plainfill.h"
@@ -288,17 +287,6 @@ TEST_F(PaintedButton, CopiesTheSettingsItIsGiven) {
   Paint();
   EXPECT_EQ(Dib.Pixel(50, 15), 0x00FF00u);
   EXPECT_EQ(Dib.Pixel(100, 15), 0u);
-}
-
-TEST_F(Button, PublishesItsPropertiesInOrder) {
-  std::vector<std::string> names;
-  for (const vcl::TPropInfo& each : qel::TQELButton::Class().Own()) names.push_back(each.Name);
-  EXPECT_THAT(names, ElementsAre("About", "Font3D", "Glyph", "Enabled", "ParentShowHint",
-                                 "ShowHint", "Font", "Visible", "Caption", "WordWrap", "ButtonSunk",
-                                 "Background", "OnClick", "DragCursor", "DragMode", "ParentFont",
-                                 "PopupMenu", "TabOrder", "TabStop", "OnDragDrop", "OnDragOver",
-                                 "OnEndDrag", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown",
-                                 "OnMouseMove", "OnMouseUp", "OnEnter", "OnExit", "OnStartDrag"));
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 // change of the percentage does to the screen.
 #include "controls/Qeltgauge.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -12,7 +11,6 @@
 #include <string>
 #include <vector>
 
-#include "host/rtl/properties.h"
 #include "host/vcl/forms.h"
 #include "tests/support/handles.h"
 #include "tests/support/plainfill.h"
@@ -21,7 +19,6 @@
 namespace {
 
 using namespace qel;
-using testing::ElementsAre;
 
 constexpr COLORREF Ground = RGB(0xFE, 0x01, 0xFD);
 constexpr std::uint32_t GroundPixel = 0xFE01FD, Navy = 0x000080, White = 0xFFFFFF;
@@ -363,16 +360,6 @@ TEST_F(Gauge, OutlivesItsBackground) {
   EXPECT_EQ(later.ClientCount(), 1);
   gauge.reset();
   EXPECT_EQ(later.ClientCount(), 0);
-}
-
-TEST_F(Gauge, PublishesItsPropertiesInOrder) {
-  std::vector<std::string> names;
-  for (const vcl::TPropInfo& each : TQELGauge::Class().Own()) names.push_back(each.Name);
-  EXPECT_THAT(names, ElementsAre("Align", "Cursor", "Glyph", "OnClick", "OnDblClick", "OnMouseDown",
-                                 "OnMouseMove", "OnMouseUp", "Font", "Font3D", "Background",
-                                 "BevelInner", "BevelOuter", "PicturePosition", "Borderwidth",
-                                 "Kind", "SegmentGap", "SegmentWidth", "SegmentColor",
-                                 "InsideBackColor", "Percentage", "Width", "Height"));
 }
 
 // On the screen.

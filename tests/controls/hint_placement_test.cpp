@@ -29,7 +29,8 @@ TEST_F(HintPlacement, IsTheSideWantedWhereItFits) {
       // At the right edge: the last place to the right, and the first that goes left.
       {dUpRight, {Right - 100, 500}, dUpRight, {Right - 100, 445}},
       {dUpRight, {Right - 99, 500}, dUpLeft, {Right - 193, 445}},
-      {dDownRight, {Right - 1, 500}, dDownLeft, {Right - 95, 515}},
+      {dDownRight, {Right - 100, 500}, dDownRight, {Right - 100, 515}},
+      {dDownRight, {Right - 99, 500}, dDownLeft, {Right - 193, 515}},
       // At the left edge.
       {dUpLeft, {94, 500}, dUpLeft, {0, 445}},
       {dUpLeft, {93, 500}, dUpRight, {93, 445}},

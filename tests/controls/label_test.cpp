@@ -1,14 +1,12 @@
 // The label: what is painted where, and the objects that it takes over.
 #include "controls/Qeltlabel.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <vector>
 
 #include "controls/Qeltbutton.h"
-#include "host/rtl/properties.h"
 #include "host/vcl/forms.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plainfill.h"
@@ -16,7 +14,6 @@
 namespace {
 
 using qel::TQELBackground;
-using testing::ElementsAre;
 
 struct TLabel : qel::TQELLabel {
   using TQELLabel::TQELLabel;
@@ -184,19 +181,6 @@ TEST_F(Label, LeavesItsBackgroundsAndTheyLeaveIt) {
   It->SetBack2(&Back);
   delete It;
   EXPECT_EQ(Back.ClientCount(), 0);
-}
-
-TEST_F(Label, PublishesItsPropertiesInOrder) {
-  std::vector<std::string> names;
-  for (const vcl::TPropInfo& each : qel::TQELLabel::Class().Own()) names.push_back(each.Name);
-  EXPECT_THAT(names,
-              ElementsAre("About", "Align", "Alignment", "Caption", "Color", "Enabled",
-                          "FocusControl", "FontBackground", "Font", "Font3D", "Frame", "Background",
-                          "Transparent", "ShowHint", "Visible", "WordWrap", "OnClick", "OnDblClick",
-                          "OnMouseDown", "OnMouseMove", "OnMouseUp", "OnDragDrop", "OnEndDrag",
-                          "OnStartDrag", "OnDragOver", "DragCursor", "DragMode", "ParentColor",
-                          "ParentFont", "ShowAccelChar"));
-  EXPECT_TRUE(It->ClassType().FindPublished("Frame")->NeedsWriting(*It));
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 namespace qel {
 namespace {
 
-using testing::ElementsAre;
 using vcl::TRect;
 
 class SpinEditValue : public TSpinForm {};
@@ -205,31 +204,6 @@ TEST_F(SpinEditWindow, ColoursGoToTheButton) {
   EXPECT_EQ(Spin->Button()->Color(), vcl::clAqua);
   EXPECT_EQ(Spin->Button()->ArrowColor(), vcl::clRed);
   EXPECT_EQ(Spin->Color(), vcl::clWindow);
-}
-
-TEST(SpinEditTable, IsInDeclaredOrder) {
-  std::vector<std::string> names;
-  for (const vcl::TPropInfo& each : TQELCustomSpinEdit::Class().Own()) names.push_back(each.Name);
-  EXPECT_THAT(names,
-              ElementsAre("AutoSelect", "AutoSize", "Color", "Ctl3D", "ButtonColor", "ArrowColor",
-                          "DragCursor", "DragMode", "Enabled", "Font", "ImeMode", "ImeName",
-                          "MaxLength", "ParentColor", "ParentCtl3D", "ParentFont", "ParentShowHint",
-                          "PopupMenu", "ShowHint", "TabOrder", "TabStop", "Visible", "CutandPaste",
-                          "LineSize", "MaxValue", "MinValue", "MultipleLineSize", "Readonly",
-                          "Value", "OnChange", "OnClick", "OnDblClick", "OnDragDrop", "OnDragOver",
-                          "OnEndDrag", "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp",
-                          "OnMouseDown", "OnMouseMove", "OnMouseUp"));
-  ASSERT_EQ(TQELSpinEdit::Class().Own().size(), 1u);
-  EXPECT_EQ(TQELSpinEdit::Class().Own()[0].Name, "About");
-  const auto text = [](const char* name) {
-    return *TQELSpinEdit::Class().FindPublished(name)->DefaultValue;
-  };
-  EXPECT_EQ(text("Color"), vcl::TValue(std::int64_t{vcl::clWindow}));
-  EXPECT_EQ(text("ButtonColor"), vcl::TValue(std::int64_t{vcl::clBtnFace}));
-  EXPECT_EQ(text("MaxValue"), vcl::TValue(std::int64_t{100}));
-  EXPECT_EQ(text("MultipleLineSize"), vcl::TValue(std::int64_t{10}));
-  EXPECT_EQ(text("CutandPaste"), vcl::TValue(std::int64_t{1}));
-  EXPECT_FALSE(TQELSpinEdit::Class().FindPublished("Ctl3D")->DefaultValue);
 }
 
 }  // namespace

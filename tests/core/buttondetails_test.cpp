@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <vector>
 
 #include "core/Qelclasses2.h"
 #include "host/rtl/classes.h"
@@ -75,10 +76,13 @@ TEST(ButtonDetailsAlone, AreFreedByWhoHandlesTheChange) {
   button->SetFocus();
   auto details = std::make_unique<qel::TQELButtonDetails>(button);
   int exits = 0;
+  std::vector<std::vector<char>> others;
   button->OnExit = [&](vcl::TObject*) {
     ++exits;
     details.reset();
     delete button;
+    for (std::size_t size = 4; size < 256; size += 4)  // Over what they have left in memory.
+      for (int i = 0; i < 4; ++i) others.emplace_back(size, '\xA5');
   };
   details->SetEnabled(false);
   EXPECT_EQ(exits, 1);

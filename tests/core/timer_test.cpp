@@ -152,6 +152,9 @@ TEST(Timer32, TheHandlerMayChangeItsTimer) {
   EXPECT_TRUE(PumpUntil([&] { return events == 3; }));
   PumpFor(30);
   EXPECT_EQ(events, 3);
+  timer.SetInterval(400);  // After none, a whole one.
+  PumpFor(150);
+  EXPECT_EQ(events, 3);
 }
 
 TEST(Timer32, WhatTheHandlerRaisesGoesToTheApplicationAndTheTimerGoesOn) {
