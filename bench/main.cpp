@@ -1,11 +1,12 @@
-// Prints how long painting, forms and dates take, as ratios to what the system itself or the
-// standard library needs, measured in one run.
+// Prints how long painting, forms, dates and settings take, as ratios to what the system itself or
+// the standard library needs, measured in one run.
 #include <cstdio>
 
 #include "bench/backgrounds.h"
 #include "bench/dates.h"
 #include "bench/forms.h"
 #include "bench/gauge.h"
+#include "bench/settings.h"
 #include "host/vcl/win32.h"
 
 int main() {
@@ -15,4 +16,5 @@ int main() {
   bench::Gauge();
   bench::Forms();
   bench::Dates();
+  bench::Settings();
 }

@@ -25,6 +25,38 @@ void Replace(TStrings& list, const std::vector<std::string>& lines) {
   list.EndUpdate();
 }
 
+std::string FullName(const std::string& fileName) {
+  if (fileName.empty()) throw EIniFileException("A settings file must have a name");
+  return os::SettingsFileName(fileName);
+}
+
+[[noreturn]] void Refuse(const char* what, const std::string& fileName) {
+  const std::string reason = os::LastErrorText();
+  throw EIniFileException(Concat("Cannot ", what, " file \"", fileName, "\": ", reason));
+}
+
+/// The file's bytes; none when it is missing.
+std::string ReadOrRaise(const std::string& fileName) {
+  std::string bytes;
+  if (os::ReadWholeFile(fileName, bytes) == os::TReading::Refused) Refuse("read", fileName);
+  return bytes;
+}
+
+/// One's turn to change a file.
+class TTurn {
+ public:
+  explicit TTurn(const std::string& fileName) : FFileName(fileName), FTurn(fileName) {
+    if (!FTurn.Held()) Refuse("change", fileName);
+  }
+  void Write(const std::string& bytes) const {
+    if (!os::ReplaceWholeFile(FFileName, bytes)) Refuse("write", FFileName);
+  }
+
+ private:
+  std::string FFileName;
+  os::TFileTurn FTurn;
+};
+
 /// Reads a value that a text may say; `convert` returns false when it doesn't.
 template <class T, class Convert>
 T ReadAs(const std::string& text, T otherwise, Convert convert) {
@@ -164,33 +196,49 @@ void TCustomIniFile::DeleteKey(const std::string& section, const std::string& id
   Change([&](TIniText& text) { text.Delete(section, ident); });
 }
 
-TIniFile::TIniFile(const std::string& fileName) : TCustomIniFile(fileName) {
-  if (fileName.empty()) throw EIniFileException("A settings file must have a name");
-  FFullName = os::SettingsFileName(fileName);
-}
+TIniFile::TIniFile(const std::string& fileName)
+    : TCustomIniFile(fileName), FFullName(FullName(fileName)) {}
 
+// The memory of the last read is used again: making it anew costs more than reading the file.
 void TIniFile::Look(const std::function<void(const TIniText&)>& look) const {
-  std::string bytes;
+  constexpr std::size_t worthKeeping = 1 << 20;
+  static thread_local std::string kept;
+  std::string bytes = std::move(kept);
   if (os::ReadWholeFile(FFullName, bytes) != os::TReading::Done) bytes.clear();
-  look(TIniText(DecodeIni(std::move(bytes))));
+  TIniText text(DecodeIni(std::move(bytes)));
+  look(text);
+  if (text.Text().size() < worthKeeping) kept = text.TakeText();
 }
 
 void TIniFile::Change(const std::function<void(TIniText&)>& change) {
-  const auto refuse = [&](const char* what) {
-    const std::string reason = os::LastErrorText();
-    throw EIniFileException(Concat(what, " \"", FFullName, "\": ", reason));
-  };
-  const os::TFileTurn turn(FFullName);
-  if (!turn.Held()) refuse("Cannot change file");
-  std::string bytes;
-  if (os::ReadWholeFile(FFullName, bytes) == os::TReading::Refused) refuse("Cannot read file");
+  const TTurn turn(FFullName);
+  const std::string bytes = ReadOrRaise(FFullName);
   TIniText text(DecodeIni(bytes));
   const std::string former = text.Text();
   change(text);
-  if (text.Text() == former) return;
-  if (!os::ReplaceWholeFile(FFullName, EncodeIni(text.Text(), IniCodingOf(bytes)))) {
-    refuse("Cannot write file");
-  }
+  if (text.Text() != former) turn.Write(EncodeIni(text.Text(), IniCodingOf(bytes)));
+}
+
+TMemIniFile::TMemIniFile(const std::string& fileName)
+    : TCustomIniFile(fileName), FFullName(FullName(fileName)) {
+  const std::string bytes = ReadOrRaise(FFullName);
+  FCoding = IniCodingOf(bytes);
+  FText = std::make_unique<TIniText>(DecodeIni(bytes));
+}
+
+TMemIniFile::~TMemIniFile() = default;
+
+void TMemIniFile::Look(const std::function<void(const TIniText&)>& look) const { look(*FText); }
+
+void TMemIniFile::Change(const std::function<void(TIniText&)>& change) {
+  change(*FText);
+  FModified = true;
+}
+
+void TMemIniFile::UpdateFile() {
+  if (!FModified) return;
+  TTurn(FFullName).Write(EncodeIni(FText->Text(), FCoding));
+  FModified = false;
 }
 
 }  // namespace vcl

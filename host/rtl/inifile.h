@@ -1,8 +1,9 @@
-// Settings in files of sections, names and values: TCustomIniFile, and TIniFile, which keeps
-// nothing in memory.
+// Settings in files of sections, names and values: TCustomIniFile, TIniFile, which keeps
+// nothing in memory, and TMemIniFile, which keeps the whole file there.
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "host/rtl/datetime.h"
@@ -10,6 +11,7 @@
 
 namespace vcl {
 
+enum class TIniCoding;
 class TIniText;
 class TStrings;
 
@@ -98,6 +100,29 @@ class VCL_API TIniFile : public TCustomIniFile {
 
  private:
   std::string FFullName;
+};
+
+/// A settings file in memory: many values are read and written at once. The file is named, and its
+/// text understood, as TIniFile does; it is read by the constructor and written by UpdateFile, in
+/// whole, so that what others have written meanwhile is lost.
+class VCL_API TMemIniFile : public TCustomIniFile {
+ public:
+  /// Raises EIniFileException for an empty name and for a file that is there and can't be read.
+  explicit TMemIniFile(const std::string& fileName);
+  ~TMemIniFile() override;
+  /// Raises EIniFileException when the file can't be written. What has not been written when the
+  /// object ends is lost.
+  void UpdateFile() override;
+
+ protected:
+  void Look(const std::function<void(const TIniText&)>& look) const override;
+  void Change(const std::function<void(TIniText&)>& change) override;
+
+ private:
+  std::string FFullName;
+  TIniCoding FCoding;
+  std::unique_ptr<TIniText> FText;
+  bool FModified = false;
 };
 
 }  // namespace vcl

@@ -7,10 +7,12 @@
 namespace vcl {
 namespace {
 
-constexpr std::string_view Blanks = " \t\n\v\f\r\x1A";
 constexpr std::size_t None = std::string_view::npos;
+constexpr std::size_t BlockSize = 64;
 
-bool IsBlank(char c) { return Blanks.find(c) != None; }
+bool IsLineBreak(char c) { return c == '\n' || c == '\r'; }
+/// Line breaks included, and the mark that ended texts long ago.
+bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r') || c == '\x1A'; }
 
 std::string_view WithoutBlanks(std::string_view text) {
   while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
@@ -23,10 +25,26 @@ std::size_t Position(std::string_view text, char wanted) {
   return found ? static_cast<std::size_t>(static_cast<const char*>(found) - text.data()) : None;
 }
 
+/// Whether the character is among the 64 from there on. The compiler makes this one comparison of
+/// many at a time, which a search that could stop at each would not be.
+bool IsInBlock(const char* block, char wanted) {
+  bool found = false;
+  for (std::size_t i = 0; i < BlockSize; ++i) found |= block[i] == wanted;
+  return found;
+}
+
+/// The position of the first one, in a long text that has few of them.
+std::size_t RarePosition(std::string_view text, std::size_t from, char wanted) {
+  while (from + BlockSize <= text.size() && !IsInBlock(text.data() + from, wanted)) {
+    from += BlockSize;
+  }
+  return text.find(wanted, from);
+}
+
 /// Where the text's first line ends, before its break.
 std::size_t LineEnd(std::string_view text) {
   std::size_t end = 0;
-  while (end < text.size() && text[end] != '\n' && text[end] != '\r') ++end;
+  while (end < text.size() && !IsLineBreak(text[end])) ++end;
   return end;
 }
 
@@ -75,10 +93,25 @@ TIniText::TLine TIniText::LineAt(std::size_t begin) const {
   return {begin, begin + end + size, WithoutBlanks(rest.substr(0, end))};
 }
 
+/// The first header from a line's begin on. It looks for the bracket instead of at each line: few
+/// lines are headers.
 TIniText::TLine TIniText::NextHeader(std::size_t begin) const {
-  TLine line = LineAt(begin);
-  while (line && !IsHeader(line.Content)) line = LineAt(line.Next);
-  return line;
+  for (std::size_t bracket = begin;; ++bracket) {
+    bracket = RarePosition(FText, bracket, '[');
+    if (bracket == None) return {};
+    const std::size_t start = LineBegin(bracket, begin);
+    if (start == None) continue;
+    const TLine line = LineAt(start);
+    if (IsHeader(line.Content)) return line;
+  }
+}
+
+/// Where the line begins whose first character stands there; none when others stand before it.
+std::size_t TIniText::LineBegin(std::size_t first, std::size_t limit) const {
+  while (first > limit && !IsLineBreak(FText[first - 1])) {
+    if (!IsBlank(FText[--first])) return None;
+  }
+  return first;
 }
 
 /// The header of the section, or an empty line where the text begins for the one without a name.
@@ -156,7 +189,7 @@ void TIniText::Write(std::string_view section, std::string_view ident, std::stri
   const auto begin = static_cast<std::size_t>(line.Content.data() - FText.data());
   // The place, without the blanks before the line's break.
   std::size_t end = line.Next;
-  while (end > begin && (FText[end - 1] == '\n' || FText[end - 1] == '\r')) --end;
+  while (end > begin && IsLineBreak(FText[end - 1])) --end;
   FText.replace(begin, end - begin, entry);
 }
 
@@ -170,7 +203,7 @@ void TIniText::AddEntry(std::size_t sectionBegin, const std::string& line) {
 
 /// Inserts whole lines where a line begins; the last one before them may lack its end.
 void TIniText::InsertLines(std::size_t at, std::string lines) {
-  if (at > 0 && FText[at - 1] != '\n' && FText[at - 1] != '\r') lines.insert(0, LineBreak());
+  if (at > 0 && !IsLineBreak(FText[at - 1])) lines.insert(0, LineBreak());
   FText.insert(at, lines);
 }
 
@@ -193,7 +226,7 @@ void TIniText::Delete(std::string_view section, std::string_view ident) {
 
 void TIniText::Erase(std::string_view section) {
   const TLine header = SectionHeader(section, 0);
-  if (!header || header.Next == 0) return;
+  if (!header) return;
   const TLine next = NextHeader(header.Next);
   FText.erase(header.Begin, (next ? next.Begin : FText.size()) - header.Begin);
 }

@@ -16,6 +16,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace vcl {
@@ -31,6 +32,8 @@ class TIniText {
   TIniText() = default;
   explicit TIniText(std::string text) : FText(std::move(text)) {}
   const std::string& Text() const { return FText; }
+  /// The text, which is none any more then.
+  std::string TakeText() { return std::move(FText); }
 
   /// The value, quotes included; nothing when there is none. Valid until the text changes.
   std::optional<std::string_view> Find(std::string_view section, std::string_view ident) const;
@@ -48,14 +51,14 @@ class TIniText {
   void Write(std::string_view section, std::string_view ident, std::string_view value);
   /// Deletes the first such entry, be it in a later section of the same name.
   void Delete(std::string_view section, std::string_view ident);
-  /// Deletes the first such section whole, comments in it included. What stands before the first
-  /// section stays.
+  /// Deletes the first such section whole, comments in it included.
   void Erase(std::string_view section);
 
  private:
   struct TLine;
   TLine LineAt(std::size_t begin) const;
   TLine NextHeader(std::size_t begin) const;
+  std::size_t LineBegin(std::size_t first, std::size_t limit) const;
   TLine SectionHeader(std::string_view section, std::size_t from) const;
   TLine EntryLine(std::size_t begin, std::string_view ident) const;
   void AddEntry(std::size_t sectionBegin, const std::string& line);
