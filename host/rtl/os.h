@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace vcl::os {
 
@@ -28,6 +29,9 @@ void SetThreadPriority(std::uintptr_t thread, int priority);
 int ThreadPriority(std::uintptr_t thread);
 /// Answers the messages that other threads send to windows of the calling one and wait for.
 void AnswerSentMessages();
+
+/// Compares without case, by the user's language: negative, zero or positive.
+int CompareText(std::string_view a, std::string_view b);
 
 /// The system's words for the calling thread's last failure.
 std::string LastErrorText();

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+#include <wctype.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -14,6 +15,7 @@
 #include <system_error>
 
 #include "host/rtl/streams.h"
+#include "host/rtl/text.h"
 
 namespace vcl::os {
 namespace {
@@ -24,6 +26,21 @@ int Flags(int mode) {
   if (mode == fmCreate) return O_RDWR | O_CREAT | O_TRUNC;
   static constexpr int access[] = {O_RDONLY, O_WRONLY, O_RDWR, O_RDWR};
   return access[mode & 3];
+}
+
+/// The text's characters without case. What is no UTF-8 stands for itself.
+std::u32string Folded(std::string_view text) {
+  static const locale_t characters = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+  std::u32string folded;
+  while (!text.empty()) {
+    std::size_t size = std::min<std::size_t>(4, text.size());
+    while (size > 1 && !OnlyCharacter(text.substr(0, size))) --size;
+    const char32_t byte = static_cast<unsigned char>(text.front());
+    const char32_t character = OnlyCharacter(text.substr(0, size)).value_or(byte);
+    folded += static_cast<char32_t>(::towlower_l(static_cast<wint_t>(character), characters));
+    text.remove_prefix(size);
+  }
+  return folded;
 }
 
 /// How nice a thread of each priority is to the others.
@@ -82,6 +99,8 @@ int ThreadPriority(std::uintptr_t thread) {
 }
 
 void AnswerSentMessages() {}
+
+int CompareText(std::string_view a, std::string_view b) { return Folded(a).compare(Folded(b)); }
 
 std::string LastErrorText() { return std::generic_category().message(errno); }
 

@@ -116,6 +116,15 @@ void AnswerSentMessages() {
   PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
 }
 
+int CompareText(std::string_view a, std::string_view b) {
+  const std::wstring first = Wide(a);
+  const std::wstring second = Wide(b);
+  const int order = ::CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, first.c_str(),
+                                     static_cast<int>(first.size()), second.c_str(),
+                                     static_cast<int>(second.size()));
+  return order - CSTR_EQUAL;
+}
+
 std::string LastErrorText() {
   const DWORD code = GetLastError();
   wchar_t text[512];

@@ -79,13 +79,13 @@ int TStringList::IndexOf(std::string_view text) const {
     return Find(text, index) ? index : -1;
   }
   const auto found = std::ranges::find_if(FLines, [&](const TLine& line) {
-    return FCaseSensitive ? line.Text == text : SameText(line.Text, text);
+    return FCaseSensitive ? line.Text == text : AnsiSameText(line.Text, text);
   });
   return found == FLines.end() ? -1 : static_cast<int>(found - FLines.begin());
 }
 
 bool TStringList::Less(std::string_view a, std::string_view b) const {
-  return FCaseSensitive ? a < b : CompareText(a, b) < 0;
+  return FCaseSensitive ? a < b : AnsiCompareText(a, b) < 0;
 }
 
 bool TStringList::Find(std::string_view text, int& index) const {

@@ -117,7 +117,7 @@ void TStrings::Move(int from, int to) {
 
 int TStrings::IndexOf(std::string_view text) const {
   for (int i = 0; i < Count(); ++i) {
-    if (SameText(Strings(i), text)) return i;
+    if (AnsiSameText(Strings(i), text)) return i;
   }
   return -1;
 }

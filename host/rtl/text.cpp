@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "host/rtl/os.h"
+
 namespace vcl {
 namespace {
 
@@ -23,6 +25,10 @@ int CompareText(std::string_view a, std::string_view b) {
       });
   return order < 0 ? -1 : order > 0 ? 1 : 0;
 }
+
+bool AnsiSameText(std::string_view a, std::string_view b) { return AnsiCompareText(a, b) == 0; }
+
+int AnsiCompareText(std::string_view a, std::string_view b) { return os::CompareText(a, b); }
 
 std::string UpperCase(std::string_view text) {
   std::string upper(text);

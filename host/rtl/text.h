@@ -15,6 +15,10 @@ namespace vcl {
 VCL_API bool SameText(std::string_view a, std::string_view b);
 /// Negative, zero or positive as SameText's ordering of the two goes.
 VCL_API int CompareText(std::string_view a, std::string_view b);
+/// The same by the user's language: letters of every alphabet match without case. This is how lists
+/// of what users write are compared.
+VCL_API bool AnsiSameText(std::string_view a, std::string_view b);
+VCL_API int AnsiCompareText(std::string_view a, std::string_view b);
 /// The text with A to Z in capitals.
 VCL_API std::string UpperCase(std::string_view text);
 /// The text without white space and control characters at both ends.

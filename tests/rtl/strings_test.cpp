@@ -128,6 +128,24 @@ TEST(Strings, KeepsSorted) {
   EXPECT_EQ(list.IndexOf("C"), -1);
 }
 
+TEST(Strings, LettersOfEveryAlphabetMatchWithoutCase) {
+  TStringList list;
+  list.SetText(
+      "stra\xC3\x9F"
+      "e\n\xC3\xA4.txt\n\xD0\x96\n");
+  for (bool sorted : {false, true}) {
+    list.SetSorted(sorted);
+    for (const char* text : {"\xC3\x84.TXT", "\xD0\xB6",
+                             "STRA\xC3\x9F"
+                             "E"}) {
+      EXPECT_GE(list.IndexOf(text), 0) << text;
+    }
+    for (const char* text : {"a.txt", "", "\xC3\x84"}) EXPECT_EQ(list.IndexOf(text), -1) << text;
+  }
+  EXPECT_EQ(AnsiCompareText("", ""), 0);
+  EXPECT_TRUE(AnsiSameText("x\xC3", "X\xC3")) << "no UTF-8";
+}
+
 TEST(Strings, NotifiesOncePerBatch) {
   TStringList list;
   std::string log;
