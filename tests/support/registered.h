@@ -13,6 +13,7 @@
 #include "host/rtl/classregistry.h"
 #include "mail/Qeltiemails.h"
 #include "services/Qeltformsaver.h"
+#include "services/Qeltmrumenu.h"
 #include "services/Qeltonlyone.h"
 #include "services/Qeltsystemtray.h"
 
@@ -29,5 +30,6 @@ inline void RegisterAll() {
                         &qel::TQELRegistry::Class(),   &qel::TQELIniFile::Class(),
                         &qel::TQELDataStore::Class(),  &qel::TQELStoreData::Class(),
                         &qel::TQELFormSaver::Class(),  &qel::TQELSMTPMail::Class(),
-                        &qel::TQELPOPMail::Class()});
+                        &qel::TQELPOPMail::Class(),    &qel::TQELMRUItem::Class(),
+                        &qel::TQELMRUMenu::Class()});
 }

@@ -1,0 +1,187 @@
+// TQELMRUMenu: what stands in the menu and in the store.
+#include <gmock/gmock.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/rtl/exceptions.h"
+#include "host/vcl/application.h"
+#include "services/Qeltmrumenu.h"
+
+namespace qel {
+namespace {
+
+using testing::ElementsAre;
+using TLines = std::vector<std::string>;
+
+class MRUMenu : public testing::Test {
+ protected:
+  MRUMenu() : Menu(std::make_unique<vcl::TMainMenu>(nullptr)) {
+    File = Add(Menu->Items(), "File");
+    Open = Add(File, "Open");
+    Exit = Add(File, "Exit");
+    MRU = Make();
+    MRU->SetAsSubMenu(false);
+    MRU->SetAttachToMenu(Exit);
+  }
+  ~MRUMenu() override {
+    if (MRU) MRU->Clear();
+  }
+  static vcl::TMenuItem* Add(vcl::TMenuItem* parent, const std::string& caption) {
+    auto* item = new vcl::TMenuItem(nullptr);
+    item->SetCaption(caption);
+    parent->Add(item);
+    return item;
+  }
+  static std::unique_ptr<TQELMRUMenu> Make() {
+    auto mru = std::make_unique<TQELMRUMenu>(nullptr);
+    mru->MRUStore()->Registry()->SetPath("Software\\QELTests\\MRU");
+    return mru;
+  }
+  void Fill(const TLines& names) {
+    for (const std::string& name : names) MRU->Insert(name);
+  }
+  static TLines Captions(const vcl::TMenuItem* menu) {
+    TLines captions;
+    for (int i = 0; i < menu->Count(); ++i) captions.push_back(menu->Items(i)->Caption());
+    return captions;
+  }
+  TLines Shown() const { return Captions(File); }
+  TLines Stored() {
+    vcl::TStringList lines;
+    MRU->MRUStore()->ReadStrs(lines);
+    TLines stored;
+    for (int i = 0; i < lines.Count(); ++i) stored.push_back(lines.Strings(i));
+    return stored;
+  }
+  std::unique_ptr<vcl::TMainMenu> Menu;
+  vcl::TMenuItem *File, *Open, *Exit;
+  std::unique_ptr<TQELMRUMenu> MRU;
+};
+
+TEST_F(MRUMenu, NamesComeAndGoInTheirOwnOrder) {
+  const std::pair<std::function<void()>, TLines> steps[] = {
+      {[&] {
+         MRU->SetMaxItems(3), Fill({"a", "b", "c", "d"});
+       },
+       {"-", "b", "c", "d"}},
+      {[&] { MRU->Insert("C"); }, {"-", "c", "b", "d"}},
+      {[&] { MRU->Delete("B"); }, {"-", "c", "d"}},
+      {[&] { MRU->SetSeparator(false); }, {"c", "d"}},
+      {[&] {
+         MRU->SetMaxItems(10), Fill({"Ä&=", "ä&=", "-"});
+       },
+       {"Ä&=", "c", "d", "-"}},
+      {[&] { MRU->SetMaxItems(2); }, {"Ä&=", "c"}},
+      {[&] { MRU->SetNumbering(true), MRU->PopulateMenu(); }, {"&1 Ä&=", "&2 c"}},
+      {[&] { MRU->SetMaxItems(0), MRU->Insert("e"); }, {}},
+  };
+  for (const auto& [step, names] : steps) {
+    step();
+    TLines expected = names;
+    expected.insert(expected.begin(), "Open");
+    expected.push_back("Exit");
+    EXPECT_EQ(Shown(), expected);
+  }
+}
+
+TEST_F(MRUMenu, StandsWhereItIsAttached) {
+  Fill({"a", "b"});
+  MRU->SetAsSubMenu(true);
+  EXPECT_THAT(Shown(), ElementsAre("Open", "-", "Reopen", "Exit"));
+  EXPECT_THAT(Captions(File->Items(2)), ElementsAre("a", "b"));
+  MRU->SetSubMenuname("Again");
+  MRU->SetAttachToMenu(File);
+  EXPECT_THAT(Shown(), ElementsAre("Open", "Exit", "-", "Again"));
+  Add(Open, "Inside");
+  MRU->SetAttachToMenu(Open);
+  EXPECT_THAT(Shown(), ElementsAre("Open", "Exit"));
+  EXPECT_THAT(Captions(Open), ElementsAre("Inside", "-", "Again"));
+  MRU->SetAttachToMenu(nullptr);
+  EXPECT_THAT(Captions(Open), ElementsAre("Inside"));
+}
+
+TEST_F(MRUMenu, AClickedNameLeavesTheListAndItsHandlerMayDoAnything) {
+  TLines log;
+  std::function<void()> act;
+  MRU->OnItemClick = [&](vcl::TObject* sender, const std::string& name) {
+    EXPECT_EQ(Shown(), (TLines{"Open", "-", "a", "c", "Exit"}));
+    act();
+    if (MRU) log.push_back(name + static_cast<TQELMRUItem*>(sender)->Caption());
+  };
+  const std::function<void()> acts[] = {[&] { MRU->Insert("b"); }, [&] { MRU->Clear(); },
+                                        [&] { MRU.reset(); }};
+  for (const auto& each : acts) {
+    MRU->Clear();
+    Fill({"a", "b", "c"});
+    act = each;
+    File->Items(3)->Click();
+  }
+  EXPECT_THAT(log, ElementsAre("bb", "bb"));
+  EXPECT_THAT(Shown(), ElementsAre("Open", "Exit")) << "the items go with the component";
+  (MRU = Make())->Clear();
+}
+
+TEST_F(MRUMenu, AMenuThatIsFreedIsNeverFollowed) {
+  Fill({"a"});
+  delete Exit;
+  EXPECT_EQ(MRU->AttachToMenu(), Exit) << "kept at run time";
+  EXPECT_THAT(Shown(), ElementsAre("Open"));
+  MRU->Insert("b");
+  MRU->SetAsSubMenu(true);
+  MRU->SetAttachToMenu(Open);
+  EXPECT_THAT(Shown(), ElementsAre("-", "Reopen", "Open"));
+  Menu.reset();
+  MRU->Insert("c");
+  vcl::TComponent form(nullptr);
+  form.SetDesigning(true);
+  auto* designed = new TQELMRUMenu(&form);
+  auto* item = new vcl::TMenuItem(nullptr);
+  designed->SetAttachToMenu(item);
+  delete item;
+  EXPECT_EQ(designed->AttachToMenu(), nullptr) << "cleared in the designer";
+}
+
+TEST_F(MRUMenu, TheStoreHasTheListFromRunToRun) {
+  Fill({"a=b", "c&", "d"});
+  MRU.reset();
+  MRU = Make();
+  EXPECT_THAT(Stored(), ElementsAre("MRU0=a=b", "MRU1=c&", "MRU2=d"));
+  MRU->SetMaxItems(2);
+  MRU->SetAsSubMenu(false);
+  MRU->SetAttachToMenu(Exit);
+  EXPECT_TRUE(MRU->Load());
+  EXPECT_THAT(Shown(), ElementsAre("Open", "-", "a=b", "c&", "d", "Exit"));
+  MRU->MRUStore()->Registry()->SetSection("");
+  EXPECT_TRUE(MRU->Load());
+  EXPECT_EQ(Shown().size(), 6u) << "nothing was read";
+  MRU->MRUStore()->SetEnabled(false);
+  EXPECT_FALSE(MRU->Load() || MRU->Save());
+  MRU->MRUStore()->SetEnabled(true);
+  MRU->MRUStore()->Registry()->SetSection("MRU Items");
+  for (int i = 3; i < 1000; ++i) MRU->MRUStore()->WriteStr("X" + std::to_string(i), "x");
+  MRU->Load();
+  EXPECT_EQ(File->Items(256)->Caption(), "x");
+  EXPECT_EQ(File->Count(), 258) << "numbers end with 255";
+}
+
+TEST_F(MRUMenu, WhatTheStoreRefusesReachesTheCallerAndTheRestIsKept) {
+  MRU->MRUStore()->SetDatatype(sIniFile);
+  const std::string file = "C:\\mru_test.ini";
+  MRU->MRUStore()->Inifile()->SetFilename(file);
+  Fill({"a", "b\nc", "d"});
+  EXPECT_THROW(MRU->Save(), vcl::Exception);
+  EXPECT_THAT(Stored(), ElementsAre("MRU0=a", "MRU2=d"));
+  MRU->MRUStore()->Inifile()->SetFilename("C:\\no such folder\\x.ini");
+  int errors = 0;
+  vcl::Application()->OnException = [&](vcl::TObject*, const std::exception&) { ++errors; };
+  MRU.reset();
+  EXPECT_EQ(errors, 1);
+  vcl::Application()->OnException = nullptr;
+  ::DeleteFileA(file.c_str());
+}
+
+}  // namespace
+}  // namespace qel
