@@ -204,8 +204,11 @@ void TCustomForm::SetWindowState(TWindowState state) {
   const bool main = this == Application()->MainForm();
   FWindowState = state;
   if (!Showing() || Designing()) return;
-  if (state == wsMinimized && main) return Application()->Minimize();
-  ::ShowWindow(Handle(), commands[state]);
+  if (state != wsMinimized || !main) {
+    ::ShowWindow(Handle(), commands[state]);
+  } else if (::IsWindowVisible(Handle())) {
+    Application()->Minimize();  // In OnShow it is too early: that is done when the window is shown.
+  }
 }
 
 void TCustomForm::WMSize(TMessage& message) {
