@@ -97,14 +97,20 @@ TQELFormSaver::~TQELFormSaver() {
   if (FForm) LeaveForm();
 }
 
-// The form's events are read before the components on it, so these are those of its form file.
+// The form's events are read before the components on it, so these are those of its form file. A
+// saver that comes later keeps the handlers of this one, and may call them when it has gone.
 void TQELFormSaver::TakeForm() {
   FForm->FreeNotification(this);
   if (Designing()) return;
   FPreviousOnShow = FForm->OnShow;
   FPreviousOnClose = FForm->OnClose;
-  FForm->OnShow = {this, &TQELFormSaver::MyRestore};
-  FForm->OnClose = {this, &TQELFormSaver::MyStore};
+  const std::weak_ptr<void> alive = FAlive;
+  FForm->OnShow = [this, alive](vcl::TObject* sender) {
+    if (!alive.expired()) MyRestore(sender);
+  };
+  FForm->OnClose = [this, alive](vcl::TObject* sender, vcl::TCloseAction& action) {
+    if (!alive.expired()) MyStore(sender, action);
+  };
 }
 
 void TQELFormSaver::LeaveForm() {

@@ -5,10 +5,10 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <memory>
 #include <string>
+#include <utility>
 
-#include "host/rtl/classregistry.h"
 #include "host/rtl/formfile.h"
 #include "host/rtl/properties.h"
 #include "host/rtl/streams.h"
@@ -20,21 +20,29 @@
 namespace qel {
 namespace {
 
-/// A form with a box, a button in it and a label; its own handlers keep a log.
+/// A form with a button in a box; its own handlers keep a log.
 class TSavedForm : public vcl::TForm {
  public:
-  TSavedForm() : TForm(vcl::Application()) {
+  explicit TSavedForm(vcl::TComponent* owner) : TForm(owner) {
     vcl::TStringStream file(
-        "object SavedForm: TSavedForm\n Left = 50\n Top = 60\n Width = 400\n Height = 300\n"
-        " OnShow = FormShow\n OnClose = FormClose\n"
-        " object Box: TGroupBox\n Left = 5\n Top = 6\n Width = 200\n Height = 100\n"
-        "  object Button1: TButton\n Left = 7\n Top = 8\n Width = 75\n Height = 25\n end\n end\n"
-        " object Saver: TQELFormSaver\n FormStore.Datatype = sIniFile\n"
+        "object SavedForm: TSavedForm Left = 50 Top = 60 Width = 400 Height = 300\n"
+        " OnShow = FormShow OnClose = FormClose\n"
+        " object Box: TGroupBox Left = 5 Top = 6 Width = 200 Height = 100\n"
+        "  object Button1: TButton Left = 7 Top = 8 Width = 75 Height = 25 end end\n"
+        " object Saver: TQELFormSaver FormStore.Datatype = sIniFile\n"
         "  FormStore.Inifile.Filename = '" +
-        IniName() + "'\n StoreControls = True\n end\nend\n");
+        IniName() + "' end end");
     vcl::ReadComponentFile(file, this);
   }
-  static const vcl::TClass& Class();
+  static const vcl::TClass& Class() {
+    using namespace vcl;
+    using T = TSavedForm;
+    static const TClass info = Describe<T, TForm>(
+        "TSavedForm", "formsaver_test",
+        {Field<&T::Box>("Box"), Field<&T::Button1>("Button1"), Field<&T::Saver>("Saver"),
+         Method<&T::FormShow>("FormShow"), Method<&T::FormClose>("FormClose")});
+    return info;
+  }
   const vcl::TClass& ClassType() const override { return Class(); }
   static std::string IniName() {
     return (std::filesystem::temp_directory_path() / "formsaver test.ini").string();
@@ -48,26 +56,6 @@ class TSavedForm : public vcl::TForm {
  private:
   void FormShow(vcl::TObject*) { Log += "show "; }
   void FormClose(vcl::TObject*, vcl::TCloseAction&) { Log += "close "; }
-};
-
-const vcl::TClass& TSavedForm::Class() {
-  using namespace vcl;
-  using T = TSavedForm;
-  static const TClass info = Describe<T, TForm>(
-      "TSavedForm", "formsaver_test",
-      {Field<&T::Box>("Box"), Field<&T::Button1>("Button1"), Field<&T::Saver>("Saver"),
-       Method<&T::FormShow>("FormShow"), Method<&T::FormClose>("FormClose")});
-  return info;
-}
-
-/// Its bounds are stored as they were before it was maximised.
-class THookingSaver : public TQELFormSaver {
- public:
-  using TQELFormSaver::TQELFormSaver;
-  void Maximize(WPARAM command) {
-    vcl::TMessage message{WM_SYSCOMMAND, command, 0, 0};
-    ExtWndProc(message);
-  }
 };
 
 class FormSaver : public testing::Test {
@@ -89,7 +77,7 @@ class FormSaver : public testing::Test {
     Form->Show();
     Form->Close();
   }
-  TSavedForm* Form = new TSavedForm;
+  TSavedForm* Form = new TSavedForm(vcl::Application());
 };
 
 TEST_F(FormSaver, ClosingStoresTheFormAndThenItsControlsAndShowingRestoresThem) {
@@ -131,40 +119,57 @@ TEST_F(FormSaver, StatesHaveNumbersOfTheirOwn) {
   const struct {
     int Code;
     vcl::TWindowState State;
-  } cases[] = {{3, vcl::wsMaximized}, {0, vcl::wsMaximized}, {4, vcl::wsMaximized},
-               {2, vcl::wsNormal},    {1, vcl::wsMinimized}, {0, vcl::wsMinimized}};
+    const char* Stored;  // Without the bounds.
+  } cases[] = {{3, vcl::wsMaximized, "TSavedForm_WindowState=3 TSavedForm_Visible=1 "},
+               {0, vcl::wsMaximized, "TSavedForm_WindowState=3 TSavedForm_Visible=1 "},
+               {1, vcl::wsMinimized, "TSavedForm_WindowState=1 TSavedForm_Visible=1 "},
+               {4, vcl::wsMinimized, "TSavedForm_WindowState=1 TSavedForm_Visible=1 "}};
   Form->Saver->SetStoreControls(false);
+  Form->SetWindowState(vcl::wsMaximized);
+  Form->Show();  // Without a stored state it is normal.
+  EXPECT_EQ(Form->WindowState(), vcl::wsNormal);
+  Form->Hide();
   for (const auto& each : cases) {
     Write("TSavedForm_WindowState=" + std::to_string(each.Code) + "\n");
     Form->Show();
     EXPECT_EQ(Form->WindowState(), each.State) << each.Code;
     Write("");
     Form->Close();
-    if (each.State == vcl::wsNormal) continue;
-    EXPECT_EQ(Stored(), each.State == vcl::wsMaximized
-                            ? "TSavedForm_WindowState=3 TSavedForm_Visible=1 "
-                            : "TSavedForm_WindowState=1 TSavedForm_Visible=1 ");
+    EXPECT_EQ(Stored(), each.Stored) << each.Code;
   }
 }
 
+TEST_F(FormSaver, AMinimizedMainFormComesBackAsAMinimizedApplication) {
+  Write("TSavedForm_WindowState=1\n");
+  const std::unique_ptr<TSavedForm> main(vcl::Application()->CreateForm<TSavedForm>());
+  main->Show();
+  EXPECT_TRUE(::IsIconic(vcl::Application()->Handle()));
+  EXPECT_FALSE(::IsWindowVisible(main->Handle()));
+  vcl::Application()->Restore();
+}
+
 TEST_F(FormSaver, ADescendantMayStoreTheBoundsFromBeforeMaximizing) {
-  auto* hooking = new THookingSaver(Form);
-  hooking->FormStore()->SetEnabled(false);
-  Form->Saver->FormStore()->SetEnabled(false);
+  struct THooking : TQELFormSaver {
+    using TQELFormSaver::ExtWndProc;
+    using TQELFormSaver::TQELFormSaver;
+  };
+  const std::string state = "TSavedForm_WindowState=3 TSavedForm_Visible=1 ";
+  delete Form->Saver;
+  Form->Saver = new THooking(Form);
+  Form->Saver->FormStore()->SetDatatype(sIniFile);
+  Form->Saver->FormStore()->Inifile()->SetFilename(TSavedForm::IniName());
+  Form->Saver->SetStoreControls(false);
   Form->Show();
-  hooking->FormStore()->SetEnabled(true);
-  hooking->FormStore()->SetDatatype(sIniFile);
-  hooking->FormStore()->Inifile()->SetFilename(TSavedForm::IniName());
-  hooking->SetStoreControls(false);
   for (const WPARAM command : {SC_MAXIMIZE | 2, SC_MAXIMIZE}) {
-    hooking->Maximize(command);
+    vcl::TMessage message{WM_SYSCOMMAND, command, 0, 0};
+    static_cast<THooking*>(Form->Saver)->ExtWndProc(message);
     Form->SetWindowState(vcl::wsMaximized);
-    hooking->Store();
-    EXPECT_EQ(Stored(), command & 2 ? "TSavedForm_WindowState=3 TSavedForm_Visible=1 "
-                                    : "TSavedForm_WindowState=3 TSavedForm_Visible=1 "
-                                      "TSavedForm_Width=400 TSavedForm_Height=300 "
-                                      "TSavedForm_Top=60 TSavedForm_Left=50 ");
+    Form->Saver->Store();
     Form->SetWindowState(vcl::wsNormal);
+    EXPECT_EQ(Stored(), command & 2 ? state
+                                    : state +
+                                          "TSavedForm_Width=400 TSavedForm_Height=300 "
+                                          "TSavedForm_Top=60 TSavedForm_Left=50 ");
   }
 }
 
@@ -245,19 +250,38 @@ TEST_F(FormSaver, HandlersMayFreeWhatTheyAreCalledFor) {
   Form->Saver->OnStoreControl = freeForm;
   ShowAndClose();
   EXPECT_EQ(Form, nullptr);
-  Form = new TSavedForm;
+  Form = new TSavedForm(vcl::Application());
   Form->Saver->FormStore()->OnError = freeForm;
   Form->Show();
   EXPECT_EQ(Form, nullptr);
-  Form = new TSavedForm;
+  Form = new TSavedForm(vcl::Application());
   Form->Saver->OnStore = freeSaver;
   ShowAndClose();
   EXPECT_FALSE(Form->Visible());
   delete Form;
-  Form = new TSavedForm;
+  Form = new TSavedForm(vcl::Application());
   Form->Saver->OnStoreControl = freeBox;
   ShowAndClose();
   EXPECT_EQ(Form->Box, nullptr);
+  TQELFormSaver later(Form);
+  freeSaver();
+  later.Store();
+}
+
+TEST_F(FormSaver, StoresInTheRegistryAndReadsWithDefaultsThatStay) {
+  const std::string path = "Software\\Form saver test " + std::to_string(::GetCurrentProcessId());
+  Form->Saver->FormStore()->SetDatatype(sRegistry);
+  Form->Saver->FormStore()->Registry()->SetPath(path);
+  ShowAndClose();
+  char width[8] = "";
+  DWORD size = sizeof width;
+  ::RegGetValueA(HKEY_CURRENT_USER, (path + "\\MySection").c_str(), "TSavedForm_Width",
+                 RRF_RT_REG_SZ, nullptr, width, &size);
+  EXPECT_STREQ(width, "400");
+  EXPECT_EQ(Form->Saver->ReadStr("Nothing", "default"), "default");
+  EXPECT_EQ(Form->Saver->FormStore()->ErrorStr(), "default");
+  EXPECT_EQ(Form->Saver->FormStore()->ErrorInt(), 7);  // The left side of the button.
+  ::RegDeleteTreeA(HKEY_CURRENT_USER, path.c_str());
 }
 
 TEST_F(FormSaver, InADesignerTheFormIsLeftAlone) {
