@@ -157,7 +157,12 @@ void TCustomForm::Notification(TComponent* component, TOperation operation) {
   TWinControl::Notification(component, operation);
   if (operation != opRemove) return;
   if (component == FActiveControl) FActiveControl = nullptr;
-  if (component == FFocusedControl) FFocusedControl = FFocusedControl->Parent();
+  // The controls around it may be ending too, and have said so before.
+  if (component == FFocusedControl) {
+    while (FFocusedControl && FFocusedControl->Destroying()) {
+      FFocusedControl = FFocusedControl->Parent();
+    }
+  }
   if (component == FMenu) SetMenu(nullptr);
 }
 

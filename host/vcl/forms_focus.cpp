@@ -89,7 +89,8 @@ bool TCustomForm::StepTo(TWinControl* entered, TWinControl* target, UINT notice)
 }
 
 void TCustomForm::SetFocusedControl(TWinControl* control) {
-  if (Designing()) return;
+  // The system gives the focus of a control that goes to the one around it, which may be going too.
+  if (Designing() || control->Destroying()) return;
   TWatch form(this);
   TWatch aim(control);
   FActiveControl = control == this ? nullptr : control;
