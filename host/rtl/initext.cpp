@@ -28,9 +28,11 @@ std::size_t Position(std::string_view text, char wanted) {
 /// Whether the character is among the 64 from there on. The compiler makes this one comparison of
 /// many at a time, which a search that could stop at each would not be.
 bool IsInBlock(const char* block, char wanted) {
-  bool found = false;
-  for (std::size_t i = 0; i < BlockSize; ++i) found |= block[i] == wanted;
-  return found;
+  unsigned char found = 0;  // As wide as what is compared.
+  for (std::size_t i = 0; i < BlockSize; ++i) {
+    found = static_cast<unsigned char>(found | (block[i] == wanted));
+  }
+  return found != 0;
 }
 
 /// The position of the first one, in a long text that has few of them.
