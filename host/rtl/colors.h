@@ -76,6 +76,7 @@ VCL_API TColor StringToColor(std::string_view text);
 VCL_API void GetColorValues(const std::function<void(const std::string&)>& each);
 
 template <>
-inline constexpr TIntegerText IntegerText<TColor>{"TColor", &ColorToIdent, &IdentToColor};
+inline constexpr TIntegerText IntegerText<TColor>{"TColor", &ColorToIdent, &IdentToColor,
+                                                  &GetColorValues};
 
 }  // namespace vcl

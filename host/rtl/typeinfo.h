@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <string>
@@ -55,6 +56,8 @@ struct TIntegerText {
   std::string_view Name;
   std::optional<std::string> (*ToIdent)(std::int64_t value) = nullptr;
   std::optional<std::int64_t> (*FromIdent)(std::string_view ident) = nullptr;
+  /// Calls `each` for every name, in the order in which a user chooses from them.
+  void (*GetIdents)(const std::function<void(const std::string&)>& each) = nullptr;
 };
 template <class T>
 inline constexpr TIntegerText IntegerText{};

@@ -43,6 +43,10 @@ std::optional<std::int64_t> ValueOf(std::span<const TIdent> idents, std::string_
   return std::nullopt;
 }
 
+void NamesOf(std::span<const TIdent> idents, const std::function<void(const std::string&)>& each) {
+  for (const TIdent& ident : idents) each(ident.Name);
+}
+
 bool KeyDown(int key) { return GetKeyState(key) < 0; }
 
 }  // namespace
@@ -53,12 +57,20 @@ std::optional<std::int64_t> IdentToCursor(std::string_view ident) {
   return ValueOf(Cursors, ident);
 }
 
+void GetCursorValues(const std::function<void(const std::string&)>& each) {
+  NamesOf(Cursors, each);
+}
+
 std::optional<std::string> ModalResultToIdent(std::int64_t result) {
   return NameOf(ModalResults, result);
 }
 
 std::optional<std::int64_t> IdentToModalResult(std::string_view ident) {
   return ValueOf(ModalResults, ident);
+}
+
+void GetModalResultValues(const std::function<void(const std::string&)>& each) {
+  NamesOf(ModalResults, each);
 }
 
 TShiftState KeysToShiftState(WPARAM keys) {

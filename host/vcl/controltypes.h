@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -52,8 +53,11 @@ enum TCursor : std::int16_t {
 };
 VCL_API std::optional<std::string> CursorToIdent(std::int64_t cursor);
 VCL_API std::optional<std::int64_t> IdentToCursor(std::string_view ident);
+/// Calls `each` for every cursor that has a name.
+VCL_API void GetCursorValues(const std::function<void(const std::string&)>& each);
 template <>
-inline constexpr TIntegerText IntegerText<TCursor>{"TCursor", &CursorToIdent, &IdentToCursor};
+inline constexpr TIntegerText IntegerText<TCursor>{"TCursor", &CursorToIdent, &IdentToCursor,
+                                                   &GetCursorValues};
 
 /// A window's border: forms have all of them, other controls the first two.
 enum TBorderStyle { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bsSizeToolWin };
@@ -75,9 +79,11 @@ enum TModalResult : std::int32_t {
 };
 VCL_API std::optional<std::string> ModalResultToIdent(std::int64_t result);
 VCL_API std::optional<std::int64_t> IdentToModalResult(std::string_view ident);
+/// Calls `each` for every modal result that has a name.
+VCL_API void GetModalResultValues(const std::function<void(const std::string&)>& each);
 template <>
 inline constexpr TIntegerText IntegerText<TModalResult>{"TModalResult", &ModalResultToIdent,
-                                                        &IdentToModalResult};
+                                                        &IdentToModalResult, &GetModalResultValues};
 
 /// The state of a Far Eastern input method while a control has the focus: without one, closed,
 /// open, as it is, or open and converting to Latin letters, Hiragana, Katakana (half-width with an

@@ -74,6 +74,10 @@ std::optional<std::int64_t> IdentToCharset(std::string_view ident) {
   return found->Charset;
 }
 
+void GetCharsetValues(const std::function<void(const std::string&)>& each) {
+  for (const TCharsetName& entry : CharsetNames) each(entry.Name);
+}
+
 TFont::TFont()
     : FHeight(-::MulDiv(DefaultPoints, ScreenPixelsPerInch(), PointsPerInch)),
       FPixelsPerInch(ScreenPixelsPerInch()) {}

@@ -26,9 +26,11 @@ enum TFontCharset : std::uint8_t {};
 /// The constant's name; nothing for a value without one, resp. the value of that name.
 VCL_API std::optional<std::string> CharsetToIdent(std::int64_t charset);
 VCL_API std::optional<std::int64_t> IdentToCharset(std::string_view ident);
+/// Calls `each` for every character set that has a name.
+VCL_API void GetCharsetValues(const std::function<void(const std::string&)>& each);
 template <>
 inline constexpr TIntegerText IntegerText<TFontCharset>{"TFontCharset", &CharsetToIdent,
-                                                        &IdentToCharset};
+                                                        &IdentToCharset, &GetCharsetValues};
 
 /// A font. A new one is Tahoma, 8 points, in the colour of text in windows.
 class VCL_API TFont : public TGraphicsObject {

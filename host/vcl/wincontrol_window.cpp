@@ -8,6 +8,7 @@
 #include "host/vcl/application.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/handles.h"
+#include "host/vcl/module.h"
 #include "host/vcl/wincontrol.h"
 #include "host/vcl/windowtext.h"
 
@@ -25,13 +26,7 @@ std::unordered_map<HWND, TWinControl*>& Windows() {
 TWinControl* creating = nullptr;
 
 /// The module that the window procedure lies in, which the window classes belong to.
-HINSTANCE OwnModule() {
-  HMODULE module = nullptr;
-  ::GetModuleHandleExA(
-      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-      reinterpret_cast<LPCSTR>(&creating), &module);
-  return module;
-}
+HINSTANCE OwnModule() { return ModuleOf(&creating); }
 
 /// A window class of ours: its name, and the procedure that it builds on.
 struct TWindowClass {
