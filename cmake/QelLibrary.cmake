@@ -22,7 +22,9 @@ endfunction()
 #                 WINDOW_FREE files... LIBRARIES targets... SYSTEM_LIBRARIES names...)
 #
 # Adds the shared library NAME with all sources of its folders; elsewhere than on Windows only the
-# WINDOW_FREE files of the WINDOWED ones. Where there are no sources there is no target.
+# WINDOW_FREE files of the WINDOWED ones. Where there are no sources there is no target. The form
+# files (*.dfm) in the WINDOWED folders become its resources; a form class of the library gives
+# LoadForm its module.
 # BUILD_DEFINITION is what the library's api.h asks for to know whether it exports or imports.
 function(qel_add_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "BUILD_DEFINITION"
@@ -49,6 +51,11 @@ function(qel_add_library name)
   if(WIN32)
     set_target_properties(${name} PROPERTIES PREFIX "")
     target_link_libraries(${name} PRIVATE ${arg_SYSTEM_LIBRARIES})
+    list(TRANSFORM arg_WINDOWED APPEND /*.dfm)
+    file(GLOB forms CONFIGURE_DEPENDS ${arg_WINDOWED})
+    if(forms)
+      qel_target_resources(${name} FORMS ${forms})
+    endif()
   endif()
   if(MINGW)
     # Only what is marked is exported, even while nothing is marked yet.
