@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/designintf/palette.h"
+#include "host/designintf/registered.h"
 #include "host/rtl/classregistry.h"
 #include "host/rtl/os.h"
 #include "host/rtl/text.h"
 #include "host/vcl/application.h"
+#include "host/vcl/module.h"
 #include "host/vcl/win32.h"
 #include "host/vcl/windowtext.h"
 
@@ -20,12 +21,10 @@ Proc EntryPoint(void* module, const char* name) {
   return reinterpret_cast<Proc>(reinterpret_cast<void*>(found));
 }
 
-bool LiesIn(const void* module, const TClass* aClass) {
-  HMODULE holder = nullptr;
-  ::GetModuleHandleExA(
-      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-      reinterpret_cast<LPCSTR>(aClass), &holder);
-  return holder == module;
+/// A class lies in the module that describes it, an editor in the one that makes it.
+template <class T>
+bool LiesIn(const void* module, T* address) {
+  return ModuleOf(reinterpret_cast<const void*>(address)) == module;
 }
 
 /// Hints are shown in a window of the library's own class from now on.
@@ -66,13 +65,22 @@ void TPackage::Register() {
   const auto proc = EntryPoint<TRegisterProc>(FModule, "Register");
   if (!proc) throw EPackageError("it has no entry point named Register");
   proc();
+  if (const auto expert = EntryPoint<TRegisterProc>(FModule, "RegisterExpert")) expert();
 }
 
 void TPackage::TakeBack() {
-  const auto ours = [this](const TClass* each) { return LiesIn(FModule, each); };
+  const auto ours = [this](auto* each) { return LiesIn(FModule, each); };
   std::erase_if(detail::Palette(), [&](const TPaletteEntry& entry) {
     return std::ranges::any_of(entry.Classes, ours);
   });
+  std::erase_if(detail::NoIcons(), ours);
+  std::erase_if(detail::PropertyEditorEntries(), [&](const TPropertyEditorEntry& entry) {
+    return ours(entry.Editor.Make) || ours(entry.Class);
+  });
+  std::erase_if(detail::ComponentEditorEntries(), [&](const TComponentEditorEntry& entry) {
+    return ours(entry.Editor.Make) || ours(entry.Class);
+  });
+  std::erase_if(detail::Experts(), [&](const TExpertClass& each) { return ours(each.Make); });
   for (const TClass* each : RegisteredClasses()) {
     if (ours(each)) UnRegisterClass(*each);
   }

@@ -16,14 +16,16 @@ class VCL_API EPackageError : public Exception {
   ~EPackageError() override;
 };
 
-/// The entry point of a package, under the name "Register".
+/// The entry point of a package, under the name "Register", which tells what a designer gets from
+/// it (registration.h, propertyeditor.h, componenteditor.h); and another one, which a package may
+/// have under the name "RegisterExpert" for its add-ins (environment.h).
 using TRegisterProc = void (*)();
 /// Lists the classes that a package declares, on a palette page or not, under the name
 /// "ListClasses": calls `each` with every class, and `context` passed through.
 using TListClassesProc = void (*)(void (*each)(const TClass& aClass, void* context), void* context);
 
 /// A loaded package. What it registered is taken back when the object ends; objects made of its
-/// classes must have ended before.
+/// classes, editors and add-ins must have ended before.
 class VCL_API TPackage {
  public:
   /// Loads the DLL and calls its registration entry point. Raises EPackageError when the file

@@ -3,10 +3,22 @@
 
 #include <vector>
 
+#include "host/designintf/componenteditor.h"
+#include "host/designintf/environment.h"
+#include "host/designintf/propertyeditor.h"
 #include "host/designintf/registration.h"
 
 namespace vcl::detail {
 
 std::vector<TPaletteEntry>& Palette();
+std::vector<const TClass*>& NoIcons();
+std::vector<TPropertyEditorEntry>& PropertyEditorEntries();
+std::vector<TComponentEditorEntry>& ComponentEditorEntries();
+std::vector<TExpertClass>& Experts();
+
+/// How many steps lie between the class and its ancestor; -1 when it is none.
+int DistanceTo(const TClass& aClass, const TClass& ancestor);
+/// The editor that every property of that type falls back to.
+const TPropertyEditorClass& StandardEditor(const TClass& aClass, const TPropInfo& property);
 
 }  // namespace vcl::detail

@@ -2,31 +2,56 @@
 
 #include <algorithm>
 
-#include "host/designintf/palette.h"
+#include "host/designintf/registered.h"
 #include "host/rtl/classregistry.h"
 #include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
 
 namespace vcl {
 
+namespace {
+
+void CheckComponents(const std::vector<const TClass*>& classes) {
+  for (const TClass* each : classes) {
+    if (each->Maker().Component) continue;
+    throw EComponentError(Concat(each->Name(),
+                                 " cannot be registered with a designer: it is no component "
+                                 "that can be made by name"));
+  }
+}
+
+void RegisterAll(const std::vector<const TClass*>& classes) {
+  for (const TClass* each : classes) RegisterClass(*each);
+}
+
+}  // namespace
+
 std::vector<TPaletteEntry>& detail::Palette() {
   static std::vector<TPaletteEntry> entries;
   return entries;
 }
 
-void RegisterComponents(const std::string& page, std::initializer_list<const TClass*> classes) {
+std::vector<const TClass*>& detail::NoIcons() {
+  static std::vector<const TClass*> classes;
+  return classes;
+}
+
+void RegisterComponents(const std::string& page, const std::vector<const TClass*>& classes) {
   if (page.empty()) throw EComponentError("A palette page needs a name");
-  for (const TClass* each : classes) {
-    if (each->Maker().Component) continue;
-    throw EComponentError(Concat(each->Name(),
-                                 " cannot be put on the palette: it is no component "
-                                 "that can be made by name"));
-  }
-  RegisterClasses(classes);
+  CheckComponents(classes);
+  RegisterAll(classes);
   detail::Palette().push_back({page, classes});
 }
 
+void RegisterNoIcon(const std::vector<const TClass*>& classes) {
+  CheckComponents(classes);
+  RegisterAll(classes);
+  detail::NoIcons().insert(detail::NoIcons().end(), classes.begin(), classes.end());
+}
+
 const std::vector<TPaletteEntry>& RegisteredComponents() { return detail::Palette(); }
+
+const std::vector<const TClass*>& NoIconComponents() { return detail::NoIcons(); }
 
 std::string_view PalettePageOf(const TClass& aClass) {
   for (const TPaletteEntry& entry : detail::Palette()) {

@@ -1,0 +1,7 @@
+#include "host/designintf/designer.h"
+
+namespace vcl {
+
+TDesigner::~TDesigner() = default;
+
+}  // namespace vcl

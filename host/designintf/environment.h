@@ -1,0 +1,50 @@
+// TEnvironment and TExpert: what a package adds to the designer application beside its components.
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "host/designintf/designer.h"
+#include "host/vcl/menus.h"
+
+namespace vcl {
+
+/// The designer application, as its add-ins see it.
+class VCL_API TEnvironment {
+ public:
+  TEnvironment() = default;
+  TEnvironment(const TEnvironment&) = delete;
+  TEnvironment& operator=(const TEnvironment&) = delete;
+  virtual ~TEnvironment();
+
+  /// The application's main menu, where an add-in puts items of its own. The hint of the item that
+  /// the user points at is shown, that of a disabled one too: it says why the item is disabled.
+  virtual TMainMenu& MainMenu() = 0;
+  /// The designer of the form in front; null when none is open.
+  virtual TDesigner* ActiveDesigner() = 0;
+};
+
+/// An add-in. It adds what it has to the environment in its constructor and takes it away in its
+/// destructor; a menu item leaves its menu when it is freed.
+class VCL_API TExpert {
+ public:
+  TExpert() = default;
+  TExpert(const TExpert&) = delete;
+  TExpert& operator=(const TExpert&) = delete;
+  virtual ~TExpert();
+};
+
+/// How an add-in is made, and what it is called.
+struct TExpertClass {
+  std::string_view Name;
+  std::unique_ptr<TExpert> (*Make)(TEnvironment& environment);
+};
+
+/// Called by a package's entry point "RegisterExpert". The application makes one add-in of each
+/// class when it has loaded the package, and frees it before it unloads the package.
+VCL_API void RegisterExpertClass(const TExpertClass& expert);
+/// The registered add-ins, in order.
+VCL_API const std::vector<TExpertClass>& RegisteredExperts();
+
+}  // namespace vcl

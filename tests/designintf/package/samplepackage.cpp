@@ -1,0 +1,50 @@
+// A package with one of everything that a package can register. When the environment says so, it
+// fails once it has registered all of it.
+#include <cstdlib>
+
+#include "host/designintf/componenteditor.h"
+#include "host/designintf/environment.h"
+#include "host/designintf/registration.h"
+#include "host/designintf/standardeditors.h"
+#include "host/rtl/exceptions.h"
+
+namespace {
+
+class TSample : public vcl::TComponent {
+ public:
+  using TComponent::TComponent;
+  static const vcl::TClass& Class() {
+    static const vcl::TClass info =
+        vcl::Describe<TSample, vcl::TComponent>("TSample", "sample", {});
+    return info;
+  }
+  const vcl::TClass& ClassType() const override { return Class(); }
+};
+
+class TSamplePart : public TSample {
+ public:
+  using TSample::TSample;
+  static const vcl::TClass& Class() {
+    static const vcl::TClass info =
+        vcl::Describe<TSamplePart, TSample>("TSamplePart", "sample", {});
+    return info;
+  }
+  const vcl::TClass& ClassType() const override { return Class(); }
+};
+
+}  // namespace
+
+extern "C" __declspec(dllexport) void Register() {
+  vcl::RegisterComponents("Samples", {&TSample::Class()});
+  vcl::RegisterNoIcon({&TSamplePart::Class()});
+  vcl::RegisterPropertyEditor("Boolean", nullptr, "",
+                              vcl::PropertyEditorClass<vcl::TBooleanProperty>("TSampleEditor"));
+  vcl::RegisterComponentEditor(vcl::TComponent::Class(),
+                               vcl::ComponentEditorClass<vcl::TDefaultEditor>("TSampleEditor"));
+}
+
+extern "C" __declspec(dllexport) void RegisterExpert() {
+  vcl::RegisterExpertClass(
+      {"TSampleExpert", [](vcl::TEnvironment&) { return std::make_unique<vcl::TExpert>(); }});
+  if (std::getenv("SAMPLE_PACKAGE_FAILS")) throw vcl::Exception("half-way");
+}
