@@ -56,7 +56,7 @@ void TPropertyEditor::GetValues(const std::function<void(const std::string&)>&) 
 TPropertyEditors TPropertyEditor::GetProperties() const { return {}; }
 
 void TPropertyEditor::Edit() {
-  if (!Offers(paValueList) || PropInfo().ReadOnly()) return;
+  if (!Offers(paValueList) || ReadOnly()) return;
   std::vector<std::string> values;
   GetValues([&](const std::string& value) { values.push_back(value); });
   if (values.empty()) return;
@@ -79,9 +79,9 @@ bool TPropertyEditor::IsDefault() const {
 }
 
 bool TPropertyEditor::CanRevert() const {
-  return Offers(paRevertable) && std::ranges::all_of(FEdited, [](const TEditedProperty& each) {
-           return each.Property->DefaultValue && !each.Property->ReadOnly();
-         });
+  return Offers(paRevertable) && !ReadOnly() &&
+         std::ranges::all_of(
+             FEdited, [](const TEditedProperty& each) { return each.Property->DefaultValue.has_value(); });
 }
 
 void TPropertyEditor::Revert() {

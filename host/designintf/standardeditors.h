@@ -113,6 +113,8 @@ class VCL_API TSetElementProperty : public TPropertyEditor {
 class VCL_API TColorProperty : public TIntegerProperty {
  public:
   using TIntegerProperty::TIntegerProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
 };
 
 class VCL_API TShortCutProperty : public TOrdinalProperty {
@@ -147,9 +149,12 @@ class VCL_API TClassProperty : public TPropertyEditor {
   virtual std::unique_ptr<TPersistent> NewValue() const;
 };
 
+/// A font: its properties, and the system's dialog.
 class VCL_API TFontProperty : public TClassProperty {
  public:
   using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
 };
 
 /// A list of texts, edited in a dialog of many lines.
@@ -169,13 +174,15 @@ class VCL_API TStringsProperty : public TClassProperty {
   std::unique_ptr<TPersistent> NewValue() const override;
 };
 
-/// A picture, which a dialog loads from a file.
-class VCL_API TGraphicProperty : public TClassProperty {
+/// A picture, bitmap or icon, which a dialog loads from a file.
+class VCL_API TPictureProperty : public TClassProperty {
  public:
   using TClassProperty::TClassProperty;
   TPropertyAttributes GetAttributes() const override;
   /// "(None)" for no picture.
   std::string GetValue() const override;
+  /// Raises what loading a picture raises; the objects then keep theirs.
+  void Edit() override;
   bool AllEqual() const override { return true; }
   bool IsDefault() const override;
   bool CanRevert() const override { return !IsDefault(); }

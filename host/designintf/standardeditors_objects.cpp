@@ -7,7 +7,6 @@
 #include "host/rtl/exceptions.h"
 #include "host/rtl/strings.h"
 #include "host/rtl/text.h"
-#include "host/vcl/graphics.h"
 
 namespace vcl {
 namespace {
@@ -114,26 +113,6 @@ void TStringsProperty::Revert() { AssignAll(TStringList()); }
 std::unique_ptr<TPersistent> TStringsProperty::NewValue() const {
   return std::make_unique<TStringList>();
 }
-
-// Pictures.
-
-TPropertyAttributes TGraphicProperty::GetAttributes() const {
-  return {paMultiSelect, paDialog, paReadOnly, paRevertable};
-}
-
-std::string TGraphicProperty::GetValue() const {
-  const auto* picture = Behind<TGraphic>(Edited().front());
-  return !picture || picture->Empty() ? "(None)" : TClassProperty::GetValue();
-}
-
-bool TGraphicProperty::IsDefault() const {
-  return std::ranges::all_of(Edited(), [](const TEditedProperty& each) {
-    const auto* picture = Behind<TGraphic>(each);
-    return !picture || picture->Empty();
-  });
-}
-
-void TGraphicProperty::Revert() { AssignAll(*NewValue()); }
 
 // Collections.
 

@@ -21,7 +21,8 @@ const std::vector<TPropertyEditorEntry>& TypeEditors() {
       {VCL_EDITOR(TShortCutProperty), "TShortCut", nullptr, ""},
       {VCL_EDITOR(TFontProperty), "TFont", nullptr, ""},
       {VCL_EDITOR(TStringsProperty), "TStrings", nullptr, ""},
-      {VCL_EDITOR(TGraphicProperty), "TGraphic", nullptr, ""},
+      {VCL_EDITOR(TPictureProperty), "TGraphic", nullptr, ""},
+      {VCL_EDITOR(TPictureProperty), "TPicture", nullptr, ""},
   };
   return entries;
 }

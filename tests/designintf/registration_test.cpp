@@ -44,7 +44,7 @@ TEST(EditorChoice, TheStandardEditorsAreByTypeAndKind) {
       {TFont::Class(), "Style", "TSetProperty"},
       {TFont::Class(), "Name", "TFontNameProperty"},
       {TListBox::Class(), "Items", "TStringsProperty"},
-      {TSpeedButton::Class(), "Glyph", "TGraphicProperty"},
+      {TSpeedButton::Class(), "Glyph", "TPictureProperty"},
       {TMenuItem::Class(), "ShortCut", "TShortCutProperty"},
   };
   for (const auto& [aClass, property, editor] : cases) {
