@@ -213,8 +213,9 @@ LRESULT TApplication::WndProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       if (FMainForm) FMainForm->Close();
       return 0;
-    case WM_QUERYENDSESSION: return !FMainForm || FMainForm->CloseQuery();
+    case WM_QUERYENDSESSION: return AskSessionEnd(FMainForm);
     case WM_ENDSESSION:
+      FSessionEnding = wParam != 0;
       if (wParam) Terminate();
       return 0;
     case WM_SIZE: SizeChanged(wParam); break;
@@ -225,6 +226,11 @@ LRESULT TApplication::WndProc(UINT message, WPARAM wParam, LPARAM lParam) {
     default: break;
   }
   return ::DefWindowProcW(FHandle, message, wParam, lParam);
+}
+
+bool TApplication::AskSessionEnd(TCustomForm* form) {
+  FSessionEnding = true;
+  return FSessionEnding = !form || form->CloseQuery();
 }
 
 // The system hands out posted messages before input and painting, and timers after them. Threads

@@ -72,6 +72,10 @@ class VCL_API TApplication : public TCustomApplication {
   void HandleMessage();
   /// Asks the message loop to end.
   void Terminate() override;
+  /// True from the moment that the system asks whether the user's session may end until he decides
+  /// otherwise: OnCloseQuery should then keep what is unsaved rather than ask, as the process may be
+  /// ended without another word.
+  bool SessionEnding() const { return FSessionEnding; }
   /// The code that Run returns.
   void SetExitCode(int code) { FExitCode = code; }
 
@@ -135,6 +139,8 @@ class VCL_API TApplication : public TCustomApplication {
   LRESULT SysCommand(WPARAM wParam, LPARAM lParam);
   [[noreturn]] static void EndByError();
   void CreateHandle();
+  /// Asks the form whether the session may end; true without one.
+  bool AskSessionEnd(TCustomForm* form);
   void SetMainFormIfNone(TCustomForm* form);
   void FreeForms();
   /// Frees the form when the message in hand is done.
@@ -166,6 +172,7 @@ class VCL_API TApplication : public TCustomApplication {
   bool FMinimized = false;
   bool FFormsShown = false;
   bool FHasRun = false;
+  bool FSessionEnding = false;
   bool FShowingError = false;
   unsigned FThreadsRounds = 0;
   ULONGLONG FInputWaitsSince = 0;  // 0: none was seen to wait.

@@ -258,7 +258,7 @@ bool TCustomForm::DispatchWindow(TMessage& message) {
     case WM_MENUSELECT: return FMenu && FMenu->HandleMessage(message);
     case WM_CLOSE: return Close(), true;
     case WM_MDIACTIVATE: return WMMDIActivate(message), true;
-    case WM_QUERYENDSESSION: return message.Result = CloseQuery(), true;
+    case WM_QUERYENDSESSION: return message.Result = Application()->AskSessionEnd(this), true;
     case WM_SIZE: return WMSize(message), true;
     case WM_SYSCOMMAND: return WMSysCommand(message), true;
     default: return false;

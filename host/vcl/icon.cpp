@@ -125,6 +125,8 @@ void TIcon::SaveToStream(TStream& stream) const {
 
 void TIcon::LoadFromResourceName(HINSTANCE instance, const std::string& name) {
   const TSize size = Wanted();
+  // Here null would be the system's own module instead of the program.
+  if (!instance) instance = ::GetModuleHandleW(nullptr);
   const HANDLE icon = ::LoadImageA(instance, name.c_str(), IMAGE_ICON, size.cx, size.cy, 0);
   if (!icon) throw EResNotFound(Concat("There is no icon \"", name, "\" in the module"));
   SetHandle(static_cast<HICON>(icon));
