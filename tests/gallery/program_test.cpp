@@ -4,15 +4,19 @@
 #include <sstream>
 
 #include "demos/gallery/galleryform.h"
-#include "tests/gallery/program.h"
 #include "tests/support/pngpicture.h"
+#include "tests/support/program.h"
 
 namespace gallery_test {
 namespace {
 
 using testing_support::FileBytes;
+using testing_support::Patience;
 using testing_support::PngChunks;
+using testing_support::TFolder;
+using testing_support::TOutputFile;
 using testing_support::TPicture;
+using testing_support::TProgram;
 
 struct TResult {
   DWORD Code;
@@ -30,7 +34,7 @@ TResult RunGallery(const TFolder& folder, const std::wstring& arguments) {
   DWORD code;
   {
     const TOutputFile outputFile(output), errorFile(errors);
-    code = TProgram(arguments, outputFile.Handle(), errorFile.Handle()).ExitCode();
+    code = TProgram(L"gallery", arguments, outputFile.Handle(), errorFile.Handle()).ExitCode();
   }
   return {code, TextOf(output), TextOf(errors)};
 }
@@ -161,7 +165,7 @@ HWND WindowOf(DWORD process, const wchar_t* title) {
 TEST(Program, EndsWhenItsWindowIsClosed) {
   const TFolder folder;
   const TOutputFile output(folder.Path / "output");
-  const TProgram program(L"", output.Handle(), output.Handle());
+  const TProgram program(L"gallery", L"", output.Handle(), output.Handle());
   HWND window = nullptr;
   const ULONGLONG end = ::GetTickCount64() + Patience;
   while (!window && ::GetTickCount64() < end) {

@@ -1,4 +1,4 @@
-// Runs gallery.exe, which lies beside the test, and says what came of it.
+// Runs a program that lies beside the test, and says what came of it.
 #pragma once
 
 #include <array>
@@ -10,7 +10,7 @@
 #include "host/vcl/win32.h"
 #include "host/vcl/windowtext.h"
 
-namespace gallery_test {
+namespace testing_support {
 
 inline constexpr DWORD Patience = 60000;  // Milliseconds.
 
@@ -34,10 +34,12 @@ class TOutputFile {
 /// The running program. It is ended with this object.
 class TProgram {
  public:
-  TProgram(const std::wstring& arguments, HANDLE output, HANDLE errors) {
+  /// The name has no folder and no extension. Without files its output goes nowhere.
+  TProgram(const std::wstring& name, const std::wstring& arguments, HANDLE output = nullptr,
+           HANDLE errors = nullptr) {
     std::array<wchar_t, 1024> self{};
     ::GetModuleFileNameW(nullptr, self.data(), static_cast<DWORD>(self.size()));
-    const auto program = std::filesystem::path(self.data()).parent_path() / L"gallery.exe";
+    const auto program = std::filesystem::path(self.data()).parent_path() / (name + L".exe");
     std::wstring line = L"\"" + program.wstring() + L"\" " + arguments;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
@@ -46,11 +48,11 @@ class TProgram {
     startup.hStdError = errors;
     if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                           &startup, &FProcess)) {
-      throw vcl::EInOutError("gallery.exe cannot be started");
+      throw vcl::EInOutError(vcl::ToUtf8(name) + " cannot be started");
     }
   }
   ~TProgram() {
-    if (ExitCode(0) == STILL_ACTIVE) ::TerminateProcess(FProcess.hProcess, 99);
+    if (ExitCode(0) == STILL_ACTIVE) End();
     ::CloseHandle(FProcess.hThread);
     ::CloseHandle(FProcess.hProcess);
   }
@@ -64,6 +66,7 @@ class TProgram {
     ::GetExitCodeProcess(FProcess.hProcess, &code);
     return code;
   }
+  void End() const { ::TerminateProcess(FProcess.hProcess, 99); }
   DWORD ProcessId() const { return FProcess.dwProcessId; }
 
  private:
@@ -75,7 +78,7 @@ class TFolder {
  public:
   TFolder()
       : Path(std::filesystem::temp_directory_path() /
-             ("gallery test " + std::to_string(::GetCurrentProcessId()))) {
+             ("test " + std::to_string(::GetCurrentProcessId()))) {
     std::filesystem::remove_all(Path);
     std::filesystem::create_directories(Path);
   }
@@ -89,4 +92,4 @@ class TFolder {
   const std::filesystem::path Path;
 };
 
-}  // namespace gallery_test
+}  // namespace testing_support
