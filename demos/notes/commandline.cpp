@@ -1,0 +1,47 @@
+#include "demos/notes/commandline.h"
+
+#include <cstdlib>
+
+#include "host/rtl/text.h"
+#include "host/vcl/windowtext.h"
+
+namespace notes {
+
+namespace {
+
+TCommandLine& Mutable() {
+  static TCommandLine line;
+  return line;
+}
+
+std::string UsersFolder() {
+  const wchar_t* const data = ::_wgetenv(L"APPDATA");
+  return vcl::Concat(data ? vcl::ToUtf8(data) : std::string("."), "\\Notes");
+}
+
+}  // namespace
+
+const TCommandLine& CommandLine() { return Mutable(); }
+
+bool ReadCommandLine(int argc, char** argv) {
+  TCommandLine& line = Mutable();
+  for (int i = 1; i < argc; ++i) {
+    const std::string argument = argv[i];
+    const bool hasNext = i + 1 < argc;
+    if (argument == "--settings" && hasNext) {
+      line.SettingsFolder = argv[++i];
+    } else if (argument == "--screenshot" && hasNext) {
+      line.ScreenshotFolder = argv[++i];
+    } else if (argument.starts_with("--") || !line.FileName.empty()) {
+      return false;
+    } else {
+      line.FileName = argument;
+    }
+  }
+  if (line.SettingsFolder.empty())
+    line.SettingsFolder =
+        line.ScreenshotFolder.empty() ? UsersFolder() : line.ScreenshotFolder + "\\settings";
+  return true;
+}
+
+}  // namespace notes

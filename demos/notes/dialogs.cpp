@@ -1,0 +1,85 @@
+#include "demos/notes/dialogs.h"
+
+#include "host/rtl/properties.h"
+#include "host/vcl/application.h"
+
+namespace notes {
+
+using namespace vcl;
+
+// Options.
+
+const TClass& TOptionsForm::Class() {
+  using T = TOptionsForm;
+  static const TClass info = Describe<T, TForm>("TOptionsForm", "dialogs",
+                                                {
+                                                    Field<&T::KeepEdit>("KeepEdit"),
+                                                    Field<&T::EndsCombo>("EndsCombo"),
+                                                    Field<&T::CloseToTrayBox>("CloseToTrayBox"),
+                                                });
+  return info;
+}
+
+TOptionsForm::TOptionsForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+
+void TOptionsForm::Show(const TOptions& options) {
+  KeepEdit->SetValue(options.KeepSeconds);
+  EndsCombo->SetItemIndex(options.NewLineEnds == TLineEnds::Lf ? 1 : 0);
+  CloseToTrayBox->SetChecked(options.CloseToTray);
+}
+
+void TOptionsForm::Take(TOptions& options) const {
+  options.KeepSeconds = KeepEdit->GetValue();
+  options.NewLineEnds = EndsCombo->ItemIndex() == 1 ? TLineEnds::Lf : TLineEnds::CrLf;
+  options.CloseToTray = CloseToTrayBox->Checked();
+}
+
+// Search.
+
+const TClass& TFindForm::Class() {
+  using T = TFindForm;
+  static const TClass info =
+      Describe<T, TForm>("TFindForm", "dialogs",
+                         {
+                             Field<&T::WhatEdit>("WhatEdit"),
+                             Field<&T::MatchCaseBox>("MatchCaseBox"),
+                             Field<&T::NextButton>("NextButton"),
+                             Method<&T::WhatEditChange>("WhatEditChange"),
+                             Method<&T::NextButtonClick>("NextButtonClick"),
+                             Method<&T::CloseButtonClick>("CloseButtonClick"),
+                         });
+  return info;
+}
+
+TFindForm::TFindForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+
+void TFindForm::Ask(const std::string& what) {
+  if (!what.empty() && what.find('\r') == std::string::npos) WhatEdit->SetText(what);
+  Show();
+  FocusControl(WhatEdit);
+  WhatEdit->SelectAll();
+}
+
+void TFindForm::WhatEditChange(TObject*) { NextButton->SetEnabled(!What().empty()); }
+void TFindForm::NextButtonClick(TObject*) { OnNext(this); }
+void TFindForm::CloseButtonClick(TObject*) { Close(); }
+
+// About.
+
+const TClass& TAboutForm::Class() {
+  using T = TAboutForm;
+  static const TClass info = Describe<T, TForm>("TAboutForm", "dialogs",
+                                                {
+                                                    Field<&T::PictureImage>("PictureImage"),
+                                                    Field<&T::TitleLabel>("TitleLabel"),
+                                                    Field<&T::TitleBackground>("TitleBackground"),
+                                                });
+  return info;
+}
+
+TAboutForm::TAboutForm(TComponent* owner) : TForm(owner) {
+  LoadForm();
+  PictureImage->Picture()->SetGraphic(Application()->Icon());
+}
+
+}  // namespace notes

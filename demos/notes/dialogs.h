@@ -1,0 +1,73 @@
+// The forms beside the main one: options, search, about.
+#pragma once
+
+#include <string>
+
+#include "controls/Qeltbackground.h"
+#include "controls/Qeltlabel.h"
+#include "controls/Qeltspinedit.h"
+#include "demos/notes/options.h"
+#include "host/vcl/extctrls.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/stdctrls.h"
+
+namespace notes {
+
+/// The form of options.dfm.
+class TOptionsForm : public vcl::TForm {
+ public:
+  explicit TOptionsForm(vcl::TComponent* owner);
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  /// What the form shows.
+  void Show(const TOptions& options);
+  /// Takes over what the user has changed.
+  void Take(TOptions& options) const;
+  using TForm::Show;
+
+ private:
+  qel::TQELSpinEdit* KeepEdit = nullptr;
+  vcl::TComboBox* EndsCombo = nullptr;
+  vcl::TCheckBox* CloseToTrayBox = nullptr;
+};
+
+/// The form of find.dfm, which stays while the user edits.
+class TFindForm : public vcl::TForm {
+ public:
+  explicit TFindForm(vcl::TComponent* owner);
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  std::string What() const { return WhatEdit->Text(); }
+  bool MatchCase() const { return MatchCaseBox->Checked(); }
+  /// Shows the form, with that text when it is one line's.
+  void Ask(const std::string& what);
+
+  /// The user wants the next place.
+  vcl::TNotifyEvent OnNext;
+
+ private:
+  void WhatEditChange(vcl::TObject* sender);
+  void NextButtonClick(vcl::TObject* sender);
+  void CloseButtonClick(vcl::TObject* sender);
+
+  vcl::TEdit* WhatEdit = nullptr;
+  vcl::TCheckBox* MatchCaseBox = nullptr;
+  vcl::TButton* NextButton = nullptr;
+};
+
+/// The form of about.dfm.
+class TAboutForm : public vcl::TForm {
+ public:
+  explicit TAboutForm(vcl::TComponent* owner);
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+ private:
+  vcl::TImage* PictureImage = nullptr;
+  qel::TQELLabel* TitleLabel = nullptr;
+  qel::TQELBackground* TitleBackground = nullptr;
+};
+
+}  // namespace notes

@@ -1,0 +1,47 @@
+// Notes, an editor of text files.
+//
+// notes [FILE] [--settings DIR]: edits the file; settings and unsaved text are kept in DIR.
+// notes --screenshot DIR: saves pictures of the program in DIR, prints their names and ends.
+#include <cstdio>
+#include <exception>
+
+#include "demos/common/formpicture.h"
+#include "demos/notes/commandline.h"
+#include "demos/notes/notesform.h"
+#include "demos/notes/screenshots.h"
+#include "host/vcl/application.h"
+
+namespace {
+
+using namespace notes;
+using vcl::Application;
+
+int RunNotes() {
+  const TCommandLine& line = CommandLine();
+  demos::MakeFolder(line.SettingsFolder);
+  Application()->Initialize();
+  // The guard knows copies of the program by this title.
+  Application()->SetTitle("Notes");
+  auto* form = Application()->CreateForm<TNotesForm>();
+  if (line.ScreenshotFolder.empty()) return Application()->Run();
+  for (const auto& name : SaveScreenshots(*form, line.ScreenshotFolder))
+    std::printf("%s\n", name.c_str());
+  form->Free();
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (!ReadCommandLine(argc, argv)) {
+    std::fprintf(stderr, "Usage: notes [FILE] [--settings DIR] | --screenshot DIR\n");
+    return 2;
+  }
+  try {
+    return RunNotes();
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "notes: %s\n", error.what());
+    if (CommandLine().ScreenshotFolder.empty()) Application()->HandleException(nullptr, error);
+    return 1;
+  }
+}

@@ -1,0 +1,235 @@
+#include "demos/notes/notesform.h"
+
+#include "demos/notes/commandline.h"
+#include "host/rtl/exceptions.h"
+#include "host/rtl/properties.h"
+#include "host/rtl/text.h"
+#include "host/vcl/application.h"
+#include "host/vcl/windowtext.h"
+
+namespace notes {
+
+using namespace vcl;
+
+namespace {
+
+constexpr UINT WM_BEGIN = WM_APP + 1;         // The window is there: what waits for it may begin.
+constexpr UINT WM_OPENWANTED = WM_APP + 2;    // Another copy wants a file opened.
+constexpr ULONG_PTR FileToOpen = 0x4E6F7465;  // What a copy sends.
+
+}  // namespace
+
+const TClass& TNotesForm::Class() {
+  using T = TNotesForm;
+  static const TClass info =
+      Describe<T, TForm>("TNotesForm", "notesform",
+                         {
+                             Field<&T::Editor>("Editor"),
+                             Field<&T::StatusBar>("StatusBar"),
+                             Field<&T::UndoItem>("UndoItem"),
+                             Field<&T::CutItem>("CutItem"),
+                             Field<&T::CopyItem>("CopyItem"),
+                             Field<&T::WordWrapItem>("WordWrapItem"),
+                             Field<&T::StatusBarItem>("StatusBarItem"),
+                             Field<&T::OpenDialog>("OpenDialog"),
+                             Field<&T::SaveDialog>("SaveDialog"),
+                             Field<&T::FontDialog>("FontDialog"),
+                             Field<&T::RecoveryTimer>("RecoveryTimer"),
+                             Field<&T::Guard>("Guard"),
+                             Field<&T::Settings>("Settings"),
+                             Field<&T::WindowSaver>("WindowSaver"),
+                             Field<&T::RecentFiles>("RecentFiles"),
+                             Field<&T::Tray>("Tray"),
+                             Method<&T::FormShow>("FormShow"),
+                             Method<&T::FormResize>("FormResize"),
+                             Method<&T::FormCloseQuery>("FormCloseQuery"),
+                             Method<&T::FormClose>("FormClose"),
+                             Method<&T::WindowsRestored>("WindowsRestored"),
+                             Method<&T::WordWrapClick>("WordWrapClick"),
+                             Method<&T::FontClick>("FontClick"),
+                             Method<&T::StatusBarClick>("StatusBarClick"),
+                             Method<&T::OptionsClick>("OptionsClick"),
+                             Method<&T::AboutClick>("AboutClick"),
+                             Method<&T::TrayShowClick>("TrayShowClick"),
+                             Method<&T::ExitClick>("ExitClick"),
+                             Method<&T::GuardExceeded>("GuardExceeded"),
+                             Method<&T::NewClick>("NewClick"),
+                             Method<&T::OpenClick>("OpenClick"),
+                             Method<&T::SaveClick>("SaveClick"),
+                             Method<&T::SaveAsClick>("SaveAsClick"),
+                             Method<&T::RecentClick>("RecentClick"),
+                             Method<&T::RecoveryTimerTick>("RecoveryTimerTick"),
+                             Method<&T::EditorChange>("EditorChange"),
+                             Method<&T::EditMenuClick>("EditMenuClick"),
+                             Method<&T::UndoClick>("UndoClick"),
+                             Method<&T::CutClick>("CutClick"),
+                             Method<&T::CopyClick>("CopyClick"),
+                             Method<&T::PasteClick>("PasteClick"),
+                             Method<&T::SelectAllClick>("SelectAllClick"),
+                             Method<&T::FindClick>("FindClick"),
+                             Method<&T::FindNextClick>("FindNextClick"),
+                         });
+  return info;
+}
+
+TNotesForm::TNotesForm(TComponent* owner) : TForm(owner), FRecovery(CommandLine().SettingsFolder) {
+  LoadForm();
+  ReadOptions(*Settings, FOptions, *Editor->Font());
+  FFormat.LineEnds = FOptions.NewLineEnds;
+  ApplyOptions();
+  FFind = new TFindForm(Application());
+  FFind->OnNext = {this, &TNotesForm::FindNextClick};
+  Application()->OnHint = [this](TObject*) { Tell(Application()->Hint()); };
+  Application()->OnIdle = [this](TObject*, bool&) { UpdateStatus(); };
+}
+
+TNotesForm::~TNotesForm() {
+  Application()->OnHint.Clear();
+  Application()->OnIdle.Clear();
+}
+
+// Before the components are told the same, and use their stores.
+void TNotesForm::Loaded() {
+  TForm::Loaded();
+  for (qel::TQELDataStore* store :
+       {Settings->DataStore(), WindowSaver->FormStore(), RecentFiles->MRUStore()}) {
+    qel::TQELIniFile& file = *store->Inifile();
+    file.SetFilename(CommandLine().SettingsFolder + "\\" + file.Filename());
+  }
+}
+
+void TNotesForm::WndProc(TMessage& message) {
+  switch (message.Msg) {
+    case WM_BEGIN: return Begin();
+    case WM_OPENWANTED: return OpenIfWanted(std::exchange(FWanted, {}));
+    case WM_COPYDATA:
+      TakeFromCopy(*reinterpret_cast<const COPYDATASTRUCT*>(message.LParam));
+      message.Result = TRUE;
+      return;
+    default: return TForm::WndProc(message);
+  }
+}
+
+// Beginning and ending.
+
+void TNotesForm::FormShow(TObject*) { ::PostMessageW(Handle(), WM_BEGIN, 0, 0); }
+
+void TNotesForm::Begin() {
+  EnterTray();
+  OfferUnsaved();
+  OpenIfWanted(CommandLine().FileName);
+}
+
+// Without a shell there is no tray, and the taskbar has to do.
+void TNotesForm::EnterTray() {
+  try {
+    Tray->SetEnabled(true);
+  } catch (const EOutOfResources& error) {
+    Tray->SetEnabled(false);
+    Tell(error.Message());
+  }
+}
+
+void TNotesForm::FormCloseQuery(TObject*, bool& canClose) {
+  if (Application()->SessionEnding()) {
+    canClose = KeepForNextStart();
+    return;
+  }
+  if (FOptions.CloseToTray && Tray->Enabled() && !FExiting) {
+    canClose = false;
+    return Application()->Minimize();
+  }
+  FExiting = false;
+  canClose = MayLoseText();
+}
+
+// The components store what they remember when the form has closed, or its end. Where they can't,
+// that must not keep the program from ending.
+void TNotesForm::FormClose(TObject*, TCloseAction&) {
+  try {
+    SaveOptions();
+  } catch (const Exception& error) {
+    WindowSaver->FormStore()->SetEnabled(false);
+    RecentFiles->MRUStore()->SetEnabled(false);
+    if (Application()->SessionEnding()) return;
+    MessageDlg(Concat("What Notes remembers cannot be stored: ", error.what()), mtWarning, {mbOK});
+  }
+}
+
+void TNotesForm::ExitClick(TObject*) {
+  FExiting = true;
+  Close();
+}
+
+void TNotesForm::TrayShowClick(TObject*) {
+  Application()->Restore();
+  Application()->BringToFront();
+}
+
+// Other copies.
+
+// This copy ends soon: the other one opens what this one was started with.
+void TNotesForm::GuardExceeded(TObject*, int) {
+  const std::string& fileName = CommandLine().FileName;
+  const HWND other = fileName.empty() ? nullptr : ::FindWindowW(L"TNotesForm", nullptr);
+  if (!other) return;
+  wchar_t full[MAX_PATH] = L"";
+  ::GetFullPathNameW(ToUtf16(fileName).c_str(), MAX_PATH, full, nullptr);
+  std::string text = ToUtf8(full);
+  COPYDATASTRUCT data{FileToOpen, static_cast<DWORD>(text.size()), text.data()};
+  constexpr UINT patience = 5000;
+  ::SendMessageTimeoutW(other, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data), SMTO_ABORTIFHUNG,
+                        patience, nullptr);
+}
+
+// The copy waits for the answer, so the file is opened afterwards; not while a dialog is up.
+void TNotesForm::TakeFromCopy(const COPYDATASTRUCT& data) {
+  if (data.dwData != FileToOpen || !::IsWindowEnabled(Handle())) return;
+  FWanted.assign(static_cast<const char*>(data.lpData), data.cbData);
+  ::PostMessageW(Handle(), WM_OPENWANTED, 0, 0);
+}
+
+// Options.
+
+void TNotesForm::ApplyOptions() {
+  WordWrapItem->SetChecked(FOptions.WordWrap);
+  Editor->SetWordWrap(FOptions.WordWrap);
+  Editor->SetScrollBars(FOptions.WordWrap ? ssVertical : ssBoth);
+  RecoveryTimer->SetInterval(static_cast<std::uint32_t>(FOptions.KeepSeconds) * 1000);
+}
+
+void TNotesForm::SaveOptions() { WriteOptions(*Settings, FOptions, *Editor->Font()); }
+
+void TNotesForm::WordWrapClick(TObject*) {
+  FOptions.WordWrap = !FOptions.WordWrap;
+  ApplyOptions();
+  SaveOptions();
+}
+
+void TNotesForm::FontClick(TObject*) {
+  FontDialog->SetFont(Editor->Font());
+  if (!FontDialog->Execute()) return;
+  Editor->SetFont(FontDialog->Font());
+  SaveOptions();
+}
+
+void TNotesForm::OptionsClick(TObject*) {
+  TOptionsForm form(nullptr);
+  form.Show(FOptions);
+  if (form.ShowModal() != mrOk) return;
+  form.Take(FOptions);
+  ApplyOptions();
+  SaveOptions();
+}
+
+void TNotesForm::AboutClick(TObject*) { TAboutForm(nullptr).ShowModal(); }
+
+void TNotesForm::StatusBarClick(TObject*) {
+  StatusBar->SetVisible(!StatusBar->Visible());
+  StatusBarItem->SetChecked(StatusBar->Visible());
+}
+
+// The status bar may have come back hidden.
+void TNotesForm::WindowsRestored(TObject*) { StatusBarItem->SetChecked(StatusBar->Visible()); }
+
+}  // namespace notes

@@ -1,0 +1,138 @@
+// TNotesForm: the main window, a text and what can be done with it.
+#pragma once
+
+#include <string>
+
+#include "core/Qeltstoredata.h"
+#include "demos/notes/dialogs.h"
+#include "demos/notes/options.h"
+#include "demos/notes/recovery.h"
+#include "demos/notes/textfile.h"
+#include "host/vcl/comctrls.h"
+#include "host/vcl/dialogs.h"
+#include "host/vcl/extctrls.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/menus.h"
+#include "host/vcl/stdctrls.h"
+#include "services/Qeltformsaver.h"
+#include "services/Qeltmrumenu.h"
+#include "services/Qeltonlyone.h"
+#include "services/Qeltsystemtray.h"
+
+namespace notes {
+
+/// The form of notes.dfm. The sources hold a group of its work each: notesform.cpp the form itself
+/// and its options, notesform_file.cpp files and unsaved text, notesform_edit.cpp editing and what
+/// the status bar says.
+class TNotesForm : public vcl::TForm {
+ public:
+  explicit TNotesForm(vcl::TComponent* owner);
+  ~TNotesForm() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  /// Shows a file's text. Raises EInOutError, and keeps the text that is shown.
+  void Open(const std::string& fileName);
+
+ protected:
+  void Loaded() override;
+  void WndProc(vcl::TMessage& message) override;
+
+ private:
+  // What the form file fills.
+  vcl::TMemo* Editor = nullptr;
+  vcl::TStatusBar* StatusBar = nullptr;
+  vcl::TMenuItem* UndoItem = nullptr;
+  vcl::TMenuItem* CutItem = nullptr;
+  vcl::TMenuItem* CopyItem = nullptr;
+  vcl::TMenuItem* WordWrapItem = nullptr;
+  vcl::TMenuItem* StatusBarItem = nullptr;
+  vcl::TOpenDialog* OpenDialog = nullptr;
+  vcl::TSaveDialog* SaveDialog = nullptr;
+  vcl::TFontDialog* FontDialog = nullptr;
+  vcl::TTimer* RecoveryTimer = nullptr;
+  qel::TQELOnlyOne* Guard = nullptr;
+  qel::TQELStoreData* Settings = nullptr;
+  qel::TQELFormSaver* WindowSaver = nullptr;
+  qel::TQELMRUMenu* RecentFiles = nullptr;
+  qel::TQELSystemTray* Tray = nullptr;
+
+  // The form and its options.
+  void FormShow(vcl::TObject* sender);
+  void FormResize(vcl::TObject* sender);
+  void FormCloseQuery(vcl::TObject* sender, bool& canClose);
+  void FormClose(vcl::TObject* sender, vcl::TCloseAction& action);
+  void WindowsRestored(vcl::TObject* sender);
+  void Begin();
+  void EnterTray();
+  void ApplyOptions();
+  void SaveOptions();
+  void WordWrapClick(vcl::TObject* sender);
+  void FontClick(vcl::TObject* sender);
+  void StatusBarClick(vcl::TObject* sender);
+  void OptionsClick(vcl::TObject* sender);
+  void AboutClick(vcl::TObject* sender);
+  void TrayShowClick(vcl::TObject* sender);
+  void ExitClick(vcl::TObject* sender);
+  // Other copies of the program.
+  void GuardExceeded(vcl::TObject* sender, int instances);
+  void TakeFromCopy(const COPYDATASTRUCT& data);
+
+  // Files and unsaved text.
+  void NewClick(vcl::TObject* sender);
+  void OpenClick(vcl::TObject* sender);
+  void SaveClick(vcl::TObject* sender);
+  void SaveAsClick(vcl::TObject* sender);
+  void RecentClick(vcl::TObject* sender, std::string fileName);
+  void RecoveryTimerTick(vcl::TObject* sender);
+  void OpenIfWanted(const std::string& fileName);
+  bool Save();
+  bool SaveAs();
+  bool SaveIn(const std::string& fileName);
+  bool MayLoseText();
+  void ShowText(const std::string& fileName, const TText& text);
+  void Remember(const std::string& fileName);
+  /// False when what is unsaved is not safe.
+  bool KeepUnsaved();
+  bool KeepForNextStart();
+  void OfferUnsaved();
+  std::string DocumentName() const;
+
+  // Editing, and the status bar.
+  void EditorChange(vcl::TObject* sender);
+  void EditMenuClick(vcl::TObject* sender);
+  void UndoClick(vcl::TObject* sender);
+  void CutClick(vcl::TObject* sender);
+  void CopyClick(vcl::TObject* sender);
+  void PasteClick(vcl::TObject* sender);
+  void SelectAllClick(vcl::TObject* sender);
+  void FindClick(vcl::TObject* sender);
+  void FindNextClick(vcl::TObject* sender);
+  void Tell(const std::string& message);
+  void UpdateStatus();
+  std::string CaretText() const;
+  void ShowPanel(int panel, const std::string& text);
+
+  /// When a file was written, and its size: another program's writing shows in them.
+  struct TStamp {
+    FILETIME Written{};
+    DWORD Size = 0;
+    bool operator==(const TStamp& other) const;
+  };
+  static TStamp StampOf(const std::string& fileName);
+
+  TOptions FOptions;
+  TRecovery FRecovery;
+  TFindForm* FFind = nullptr;  // The application's.
+  std::string FFileName;       // Empty for a text that has none yet.
+  TTextFormat FFormat;
+  TStamp FStamp;
+  std::string FWanted;    // What another copy was started with.
+  bool FExiting = false;  // The user wants an end, not the tray.
+  int FChanges = 0;
+  int FKeptChanges = 0;  // Those that are in the recovery file.
+  int FShownCaret = -1;
+  int FShownChanges = -1;
+};
+
+}  // namespace notes

@@ -1,0 +1,166 @@
+#include "demos/notes/textfile.h"
+
+#include <algorithm>
+
+#include "host/rtl/exceptions.h"
+#include "host/rtl/streams.h"
+#include "host/rtl/text.h"
+#include "host/vcl/win32.h"
+#include "host/vcl/windowtext.h"
+
+namespace notes {
+
+using namespace vcl;
+
+namespace {
+
+constexpr std::string_view Mark = "\xEF\xBB\xBF";
+constexpr std::string_view Ends[] = {"\r\n", "\n", "\r"};
+
+/// What the first and the second byte of a character may be, and its length (Unicode, table 3-7).
+struct TForm {
+  unsigned char First, Last;
+  std::size_t Length;
+  unsigned char SecondFirst, SecondLast;
+};
+constexpr TForm Forms[] = {
+    {0x00, 0x7F, 1, 0, 0},       {0xC2, 0xDF, 2, 0x80, 0xBF}, {0xE0, 0xE0, 3, 0xA0, 0xBF},
+    {0xE1, 0xEC, 3, 0x80, 0xBF}, {0xED, 0xED, 3, 0x80, 0x9F}, {0xEE, 0xEF, 3, 0x80, 0xBF},
+    {0xF0, 0xF0, 4, 0x90, 0xBF}, {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
+};
+
+/// The length of the character that the bytes begin with; 0 for none.
+std::size_t CharacterLength(std::string_view bytes) {
+  const auto within = [&](std::size_t at, unsigned char first, unsigned char last) {
+    const auto byte = static_cast<unsigned char>(bytes[at]);
+    return byte >= first && byte <= last;
+  };
+  for (const TForm& form : Forms) {
+    if (!within(0, form.First, form.Last)) continue;
+    if (bytes.size() < form.Length) return 0;
+    if (form.Length > 1 && !within(1, form.SecondFirst, form.SecondLast)) return 0;
+    for (std::size_t i = 2; i < form.Length; ++i)
+      if (!within(i, 0x80, 0xBF)) return 0;
+    return form.Length;
+  }
+  return 0;
+}
+
+[[noreturn]] void Refuse(const std::string& name, const std::string& reason) {
+  throw EInOutError(Concat(name, " ", reason));
+}
+
+void CheckText(std::string_view bytes, const std::string& name) {
+  for (std::size_t at = 0; at < bytes.size();) {
+    const std::size_t length = CharacterLength(bytes.substr(at));
+    if (bytes[at] == '\0')
+      Refuse(name, Concat("is no text file: byte ", std::to_string(at + 1), " is a NUL"));
+    if (length == 0)
+      Refuse(name, Concat("is no text file in UTF-8: byte ", std::to_string(at + 1),
+                          " belongs to no character"));
+    at += length;
+  }
+}
+
+/// Calls `line` for each line and the kind of its end; the last one has none.
+template <class F>
+void EachLine(std::string_view text, F line) {
+  for (;;) {
+    const auto end = text.find_first_of("\r\n");
+    if (end == std::string_view::npos) return line(text, nullptr);
+    TLineEnds kind = text[end] == '\n' ? TLineEnds::Lf : TLineEnds::Cr;
+    if (text.substr(end).starts_with("\r\n")) kind = TLineEnds::CrLf;
+    line(text.substr(0, end), &kind);
+    text.remove_prefix(end + Ends[static_cast<int>(kind)].size());
+  }
+}
+
+std::string WithEnds(std::string_view text, TLineEnds ends) {
+  std::string result;
+  result.reserve(text.size());
+  EachLine(text, [&](std::string_view line, const TLineEnds* end) {
+    result += line;
+    if (end) result += Ends[static_cast<int>(ends)];
+  });
+  return result;
+}
+
+[[noreturn]] void RefuseByError(const std::string& name, const char* what, DWORD error) {
+  wchar_t text[300] = L"";
+  ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0,
+                   text, 300, nullptr);
+  const std::string reason = ToUtf8(text);
+  Refuse(name, Concat(what, ": ", Trim(reason)));
+}
+
+DWORD WriteWhole(const std::wstring& name, const std::string& bytes) {
+  const HANDLE file = ::CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return ::GetLastError();
+  DWORD done = 0;
+  const auto size = static_cast<DWORD>(bytes.size());
+  const bool whole = ::WriteFile(file, bytes.data(), size, &done, nullptr) && done == size &&
+                     ::FlushFileBuffers(file);
+  const DWORD error = whole ? ERROR_SUCCESS : ::GetLastError();
+  ::CloseHandle(file);
+  return whole ? ERROR_SUCCESS : std::max<DWORD>(error, ERROR_INVALID_FUNCTION);
+}
+
+}  // namespace
+
+TText DecodeText(std::string_view bytes, const std::string& name) {
+  CheckText(bytes, name);
+  TText result;
+  result.Format.ByteOrderMark = bytes.starts_with(Mark);
+  if (result.Format.ByteOrderMark) bytes.remove_prefix(Mark.size());
+  int counts[3] = {};
+  EachLine(bytes, [&](std::string_view, const TLineEnds* end) {
+    if (end) ++counts[static_cast<int>(*end)];
+  });
+  const auto* most = std::max_element(std::begin(counts), std::end(counts));
+  result.Format.LineEnds = static_cast<TLineEnds>(most - counts);
+  result.MixedLineEnds = *most < counts[0] + counts[1] + counts[2];
+  result.Text = WithEnds(bytes, TLineEnds::CrLf);
+  return result;
+}
+
+std::string EncodeText(std::string_view text, const TTextFormat& format) {
+  return std::string(format.ByteOrderMark ? Mark : "") + WithEnds(text, format.LineEnds);
+}
+
+TText ReadTextFile(const std::string& fileName) {
+  const DWORD attributes = ::GetFileAttributesW(ToUtf16(fileName).c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES)
+    RefuseByError(fileName, "cannot be opened", ::GetLastError());
+  if (attributes & FILE_ATTRIBUTE_DIRECTORY) Refuse(fileName, "is a folder");
+  TFileStream file(fileName, fmOpenRead | fmShareDenyNone);
+  if (file.Size() > LargestFile) {
+    Refuse(fileName,
+           Concat("is too large: it has ", std::to_string(file.Size() >> 20), " MB, and at most ",
+                  std::to_string(LargestFile >> 20), " MB can be edited"));
+  }
+  return DecodeText(file.ReadRest(), fileName);
+}
+
+void ReplaceContents(const std::string& fileName, const std::string& bytes) {
+  constexpr const char* failed = "cannot be saved";
+  const std::wstring name = ToUtf16(fileName);
+  const std::wstring beside = name + L".~notes";
+  const DWORD attributes = ::GetFileAttributesW(name.c_str());
+  const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
+  if (exists && attributes & FILE_ATTRIBUTE_DIRECTORY) Refuse(fileName, "is a folder");
+  if (exists && attributes & FILE_ATTRIBUTE_READONLY)
+    Refuse(fileName, "cannot be saved: it may only be read");
+  DWORD error = WriteWhole(beside, bytes);
+  if (error == ERROR_SUCCESS) {
+    if (exists) ::SetFileAttributesW(beside.c_str(), attributes);
+    if (::MoveFileExW(beside.c_str(), name.c_str(),
+                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+      return;
+    error = ::GetLastError();
+  }
+  ::DeleteFileW(beside.c_str());
+  RefuseByError(fileName, failed, error);
+}
+
+}  // namespace notes
