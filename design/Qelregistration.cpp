@@ -9,20 +9,62 @@
 #include "core/Qelclasses.h"
 #include "core/Qelclasses2.h"
 #include "core/Qelcontrols.h"
+#include "core/Qeltstoredata.h"
+#include "design/Qelbindings.h"
+#include "design/Qeltools.h"
 #include "host/designintf/registration.h"
 #include "host/rtl/classregistry.h"
+#include "mail/Qeltiemails.h"
+#include "services/Qeltformsaver.h"
+#include "services/Qeltonlyone.h"
+#include "services/Qeltsystemtray.h"
 
 using namespace qel;
+
+namespace {
+
+/// The pages of the palette in their order, and the classes of each in theirs; one line a class.
+const std::vector<vcl::TPaletteEntry>& Pages() {
+  static const std::vector<vcl::TPaletteEntry> pages = {
+      {"QEL Controls/1",
+       {
+           &TQELBackground::Class(),
+           &TQELLabel::Class(),
+           &TQELButton::Class(),
+           &TQELGauge::Class(),
+           &TQELHint::Class(),
+       }},
+      {"QEL Controls/2",
+       {
+           &TQELSpinEdit::Class(),
+       }},
+      {"QEL System/1",
+       {
+           &TQELStoreData::Class(),
+           &TQELSystemTray::Class(),
+           &TQELFormSaver::Class(),
+       }},
+      {"QEL System/2",
+       {
+           &TQELOnlyOne::Class(),
+           &TQELTimer32::Class(),
+           &TQELPOPMail::Class(),
+           &TQELSMTPMail::Class(),
+       }},
+  };
+  return pages;
+}
+
+}  // namespace
 
 void Register() {
   vcl::RegisterClasses({&TQELFont3D::Class(), &TQELGradient::Class(), &TQELTexture::Class(),
                         &TQELFrame::Class(), &TQELButtonDetails::Class(), &TQELAbout::Class()});
-  vcl::RegisterComponents("QEL Controls/1",
-                          {&TQELBackground::Class(), &TQELLabel::Class(), &TQELButton::Class(),
-                           &TQELGauge::Class(), &TQELHint::Class()});
-  vcl::RegisterComponents("QEL Controls/2", {&TQELSpinEdit::Class()});
-  vcl::RegisterComponents("QEL System/2", {&TQELTimer32::Class()});
+  for (const auto& [page, classes] : Pages()) vcl::RegisterComponents(page, classes);
+  RegisterEditors();
 }
+
+void RegisterExpert() { RegisterTools(); }
 
 void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* context) {
   static const vcl::TClass* const classes[] = {
@@ -51,6 +93,20 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELSpinEdit::Class(),
       &TQELTimer32::Class(),
       &TQELButtonDetails::Class(),
+      &TQELRegistry::Class(),
+      &TQELIniFile::Class(),
+      &TQELDataStore::Class(),
+      &TQELStoreData::Class(),
+      &TQELSystemTray::Class(),
+      &TQELFormSaver::Class(),
+      &TQELOnlyOne::Class(),
+      &TQELAttachment::Class(),
+      &TQELAttachments::Class(),
+      &TQELMessage::Class(),
+      &TQELMessages::Class(),
+      &TQELMailHost::Class(),
+      &TQELSMTPMail::Class(),
+      &TQELPOPMail::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }

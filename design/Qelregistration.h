@@ -9,9 +9,12 @@
 #define QEL_ENTRY extern "C"
 #endif
 
-/// Registers the persistent classes and puts the components on their palette pages. Called once
-/// when the package is loaded.
+/// Registers the persistent classes, puts the components on their palette pages, and registers the
+/// property editors and then the component editors. Called once when the package is loaded.
 QEL_ENTRY void Register();
+
+/// Registers the add-in of the designer application (Qeltools.h). Called after Register.
+QEL_ENTRY void RegisterExpert();
 
 /// Calls `each` for every class that the package declares, ancestors before descendants.
 QEL_ENTRY void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* context);

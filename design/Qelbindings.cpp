@@ -1,0 +1,44 @@
+#include "design/Qelbindings.h"
+
+#include "controls/Qeltbackground.h"
+#include "core/Qelcomponent.h"
+#include "core/Qeltstoredata.h"
+#include "design/Qelcolorsinbetween.h"
+#include "design/Qelcomponenteditors.h"
+#include "design/Qelpropertyeditors.h"
+#include "host/vcl/control.h"
+
+namespace qel {
+namespace {
+
+#define QEL_EDITOR(name) vcl::PropertyEditorClass<name>(#name)
+
+/// In the order of registration. A class gets its lines here when it comes.
+const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
+  static const std::vector<vcl::TPropertyEditorEntry> entries = {
+      {QEL_EDITOR(TQELColorInBetweenProperty), "TStrings", &TQELGradient::Class(),
+       "ColorsInBetween"},
+      {QEL_EDITOR(TQELShowMeNowProperty), "string", &vcl::TComponent::Class(), "DesignExecute"},
+      {QEL_EDITOR(TQELHintProperty), "string", &vcl::TComponent::Class(), "Hint"},
+      {QEL_EDITOR(TQELCaptionProperty), "TCaption", &vcl::TControl::Class(), "Caption"},
+      {QEL_EDITOR(TQELAboutCompsProperty), "TQELAbout", &vcl::TPersistent::Class(), ""},
+      // The store's file name is a property of its Inifile, which this line does not reach; a
+      // property of the store itself would get the editor.
+      {QEL_EDITOR(TQELINIFilenameProperty), "string", &TQELStoreData::Class(), "Filename"},
+  };
+  return entries;
+}
+
+#undef QEL_EDITOR
+
+}  // namespace
+
+void RegisterEditors() {
+  for (const auto& [editor, type, aClass, property] : PropertyEditors()) {
+    vcl::RegisterPropertyEditor(type, aClass, property, editor);
+  }
+  vcl::RegisterComponentEditor(TQELExecComponent::Class(),
+                               vcl::ComponentEditorClass<TQELDialogEditor>("TQELDialogEditor"));
+}
+
+}  // namespace qel

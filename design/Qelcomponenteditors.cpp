@@ -1,0 +1,41 @@
+#include "design/Qelcomponenteditors.h"
+
+#include <iterator>
+
+#include "core/Qelcomponent.h"
+#include "host/vcl/application.h"
+
+namespace qel {
+namespace {
+
+constexpr const char* Verbs[] = {"Execute the Component", "QEL component library, 2026"};
+enum { ExecuteVerbIndex, CreditVerbIndex };
+
+}  // namespace
+
+void TQELDialogEditor::Edit() {
+  if (auto* component = dynamic_cast<TQELExecComponent*>(&Component())) component->Execute();
+}
+
+int TQELDialogEditor::GetVerbCount() const { return static_cast<int>(std::size(Verbs)); }
+
+std::string TQELDialogEditor::GetVerb(int index) const {
+  if (index < 0 || index >= GetVerbCount()) return TComponentEditor::GetVerb(index);
+  return Verbs[index];
+}
+
+void TQELDialogEditor::ExecuteVerb(int index) {
+  switch (index) {
+    case ExecuteVerbIndex: return Edit();
+    case CreditVerbIndex: return ShowCredit();
+    default: return TComponentEditor::ExecuteVerb(index);
+  }
+}
+
+void TQELDialogEditor::ShowCredit() {
+  vcl::Application()->MessageBox(
+      "The property About of the component tells more about it and the library.",
+      Verbs[CreditVerbIndex], MB_OK | MB_ICONINFORMATION);
+}
+
+}  // namespace qel

@@ -1,0 +1,21 @@
+// The package's editors of components.
+#pragma once
+
+#include "host/designintf/componenteditor.h"
+
+namespace qel {
+
+/// A component that performs an action: a double click performs it.
+class TQELDialogEditor : public vcl::TComponentEditor {
+ public:
+  using TComponentEditor::TComponentEditor;
+  void Edit() override;
+  int GetVerbCount() const override;
+  std::string GetVerb(int index) const override;
+  void ExecuteVerb(int index) override;
+
+ private:
+  void ShowCredit();
+};
+
+}  // namespace qel

@@ -1,0 +1,156 @@
+#include "design/Qeltools.h"
+
+#include "design/tools.h"
+#include "design/toolsettings.h"
+#include "host/rtl/exceptions.h"
+#include "host/rtl/text.h"
+#include "host/vcl/application.h"
+#include "host/vcl/windowtext.h"
+
+#include <shellapi.h>
+
+namespace qel {
+namespace {
+
+using namespace vcl;
+
+constexpr const char* NoSourceEditor = "Works on source files, which this designer does not edit";
+
+/// An item of the menu. One without a procedure is filled by the add-in, or disabled when it has a
+/// hint, which says why.
+struct TTool {
+  const char* Caption;
+  void (*Run)(TEnvironment&);
+  const char* Hint;
+};
+
+constexpr const char* FilesCaption = "My Personal Files";
+constexpr const char* LinksCaption = "My Personal Links";
+constexpr const char* PropertiesCaption = "Properties...";
+constexpr const char* ContactCaption = "Contact QEL";
+
+constexpr TTool Tools[] = {
+    {"Activate Screensaver", &ActivateScreenSaver, ""},
+    {"Non-Visual Components", &ShowNonVisualComponents, ""},
+    {"Paste Comments...", nullptr, NoSourceEditor},
+    {"Auto Save Files", nullptr, NoSourceEditor},
+    {"Clean Project Paths", nullptr, "Works on projects, which this designer does not have"},
+    {"Search && Replace Text", nullptr, NoSourceEditor},
+    {"Repair Component Names", &RepairComponentNames, ""},
+    {"Ini File Explorer", &ExploreIniFile, ""},
+    {"View Clipboard Contents", &ViewClipboard, ""},
+    {"View Ascii Table", &ViewAsciiTable, ""},
+    {"Generate Table Source", nullptr, NoSourceEditor},
+    {FilesCaption, nullptr, ""},
+    {LinksCaption, nullptr, ""},
+    {PropertiesCaption, nullptr, ""},
+    {ContactCaption, nullptr, ""},
+    {"About QEL", &ShowToolsAbout, ""},
+};
+
+/// The ways to contact, and what goes in front of an address that says no protocol.
+constexpr struct {
+  const char* Caption;
+  std::string TQELToolSettings::*Address;
+  const char* Protocol;
+} Contacts[] = {
+    {"Home page", &TQELToolSettings::HomePage, "http://"},
+    {"Send e-mail", &TQELToolSettings::Mail, "mailto:"},
+    {"Pager", &TQELToolSettings::Pager, "mailto:"},
+};
+
+/// The system answers with a number of at most 32 when it cannot open the file or address.
+void Open(const std::string& target) {
+  constexpr INT_PTR lastError = 32;
+  const HINSTANCE answer = ::ShellExecuteW(
+      Application()->Handle(), nullptr, ToUtf16(target).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  if (reinterpret_cast<INT_PTR>(answer) <= lastError) {
+    throw EInOutError(Concat("'", target, "' cannot be opened"));
+  }
+}
+
+TMenuItem* AddItem(TMenuItem& menu, const std::string& caption, TNotifyEvent click) {
+  auto* item = new TMenuItem(&menu);
+  item->SetCaption(caption);
+  item->OnClick = std::move(click);
+  menu.Add(item);
+  return item;
+}
+
+void Disable(TMenuItem& item, const std::string& reason) {
+  item.SetEnabled(false);
+  item.SetHint(reason);
+}
+
+class TQELTools : public TExpert {
+ public:
+  explicit TQELTools(TEnvironment& environment)
+      : FEnvironment(environment), FSettings(LoadToolSettings()), FMenu(nullptr) {
+    FMenu.SetCaption("QEL &Tools");
+    for (const TTool& tool : Tools) AddTool(tool);
+    FillLists();
+    environment.MainMenu().Items()->Add(&FMenu);
+  }
+
+ private:
+  void AddTool(const TTool& tool) {
+    TMenuItem* item = AddItem(FMenu, tool.Caption, nullptr);
+    if (tool.Run) item->OnClick = [this, run = tool.Run](TObject*) { run(FEnvironment); };
+    if (*tool.Hint) Disable(*item, tool.Hint);
+    if (tool.Caption == PropertiesCaption) item->OnClick = {this, &TQELTools::EditProperties};
+  }
+
+  TMenuItem& Item(const std::string& caption) {
+    int index = 0;
+    while (FMenu.Items(index)->Caption() != caption) ++index;
+    return *FMenu.Items(index);
+  }
+
+  void FillLists() {
+    FillLinks(Item(FilesCaption), FSettings.Files);
+    FillLinks(Item(LinksCaption), FSettings.Links);
+    TMenuItem& contact = Item(ContactCaption);
+    contact.Clear();
+    for (const auto& [caption, address, protocol] : Contacts) {
+      AddContact(contact, caption, FSettings.*address, protocol);
+    }
+  }
+
+  static void FillLinks(TMenuItem& menu, const std::vector<TQELToolLink>& links) {
+    menu.Clear();
+    for (const auto& [caption, target] : links) {
+      AddItem(menu, caption, [target = target](TObject*) { Open(target); });
+    }
+    if (links.empty()) Disable(*AddItem(menu, "[ EMPTY ]", nullptr), "Properties adds entries");
+  }
+
+  static void AddContact(TMenuItem& menu, const char* caption, const std::string& address,
+                         const char* protocol) {
+    const bool whole = address.find(':') != std::string::npos;
+    const std::string target = whole ? address : protocol + address;
+    TMenuItem* item = AddItem(menu, caption, [target](TObject*) { Open(target); });
+    if (address.empty()) Disable(*item, "No address is set: see Properties");
+  }
+
+  void EditProperties(TObject*) {
+    TQELToolSettings settings = FSettings;
+    if (!EditToolSettings(settings)) return;
+    SaveToolSettings(settings);
+    FSettings = std::move(settings);
+    FillLists();
+  }
+
+  TEnvironment& FEnvironment;
+  TQELToolSettings FSettings;
+  TMenuItem FMenu;
+};
+
+std::unique_ptr<TExpert> MakeTools(TEnvironment& environment) {
+  return std::make_unique<TQELTools>(environment);
+}
+
+}  // namespace
+
+void RegisterTools() { RegisterExpertClass({"TQELTools", &MakeTools}); }
+
+}  // namespace qel

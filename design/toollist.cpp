@@ -1,0 +1,64 @@
+#include "design/toollist.h"
+
+#include "host/rtl/properties.h"
+#include "host/vcl/button.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/listbox.h"
+#include "host/vcl/memo.h"
+#include "host/vcl/module.h"
+
+namespace qel {
+
+using namespace vcl;
+
+namespace {
+
+class TQELToolListForm : public TForm {
+ public:
+  explicit TQELToolListForm(const TQELToolList& list) : TForm(nullptr), FList(list) {
+    LoadForm(ModuleOf(&Class()));
+    SetCaption(list.Caption);
+    for (const std::string& line : list.Lines) Lines->Items()->Add(line);
+    ActionButton->SetCaption(list.Action);
+    ActionButton->SetVisible(!list.Action.empty());
+    Lines->SetItemIndex(list.Lines.empty() ? -1 : 0);
+    LineClick(this);
+  }
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+ private:
+  void LineClick(TObject*) {
+    const int index = Lines->ItemIndex();
+    ActionButton->SetEnabled(index >= 0);
+    Details->Lines()->SetText(index < 0 ? "There is nothing to show." : FList.Details(index));
+  }
+  void ActionClick(TObject*) {
+    FList.Act(Lines->ItemIndex());
+    SetModalResult(mrOk);
+  }
+
+  const TQELToolList& FList;
+  TListBox* Lines = nullptr;
+  TMemo* Details = nullptr;
+  TButton* ActionButton = nullptr;
+};
+
+const TClass& TQELToolListForm::Class() {
+  using T = TQELToolListForm;
+  static const TClass info = Describe<T, TForm>("TQELToolListForm", "toollist",
+                                                {
+                                                    Field<&T::Lines>("Lines"),
+                                                    Field<&T::Details>("Details"),
+                                                    Field<&T::ActionButton>("ActionButton"),
+                                                    Method<&T::LineClick>("LineClick"),
+                                                    Method<&T::ActionClick>("ActionClick"),
+                                                });
+  return info;
+}
+
+}  // namespace
+
+void ShowToolList(const TQELToolList& list) { TQELToolListForm(list).ShowModal(); }
+
+}  // namespace qel

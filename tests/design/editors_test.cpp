@@ -1,0 +1,186 @@
+// The package's editors: which property and component gets which, and what they do.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "core/Qelcomponent.h"
+#include "design/Qelpropertyeditors.h"
+#include "host/designintf/componenteditor.h"
+#include "host/designintf/package.h"
+#include "host/rtl/classregistry.h"
+#include "host/vcl/vcl.h"
+#include "tests/support/importpatch.h"
+#include "tests/support/plaindesigner.h"
+
+namespace qel {
+namespace {
+
+using namespace vcl;
+using testing::ElementsAre;
+
+class Editors : public testing::Test {
+ protected:
+  TEditedProperties Edited(TObject& object, const char* property) {
+    return {{&object, object.ClassType().FindPublished(property)}};
+  }
+  TPropertyAttributes AttributesOf(TObject& object, const char* property) {
+    return MakePropertyEditor(Designer, Edited(object, property))->GetAttributes();
+  }
+
+  TPackage Package{"qel.dll"};
+  TPlainDesigner Designer;
+};
+
+TEST_F(Editors, AreRegisteredInTheirOrder) {
+  std::vector<std::string> lines;
+  for (const auto& [editor, type, aClass, property] : RegisteredPropertyEditors()) {
+    lines.push_back(std::string(editor.Name) + " " + type + " " + aClass->Name() + "." + property);
+  }
+  EXPECT_THAT(lines, ElementsAre("TQELColorInBetweenProperty TStrings TQELGradient.ColorsInBetween",
+                                 "TQELShowMeNowProperty string TComponent.DesignExecute",
+                                 "TQELHintProperty string TComponent.Hint",
+                                 "TQELCaptionProperty TCaption TControl.Caption",
+                                 "TQELAboutCompsProperty TQELAbout TPersistent.",
+                                 "TQELINIFilenameProperty string TQELStoreData.Filename"));
+  ASSERT_EQ(RegisteredComponentEditors().size(), 1u);
+  EXPECT_EQ(RegisteredComponentEditors()[0].Class, &TQELExecComponent::Class());
+}
+
+TEST_F(Editors, ReachThePropertiesOfDescendants) {
+  const struct {
+    const char* Class;
+    const char* Property;
+    const char* Editor;
+  } cases[] = {
+      {"TQELGradient", "ColorsInBetween", "TQELColorInBetweenProperty"},
+      {"TQELLabel", "Caption", "TQELCaptionProperty"},
+      {"TQELLabel", "Hint", "TQELHintProperty"},
+      {"TQELLabel", "Name", "TComponentNameProperty"},
+      {"TQELTimer32", "About", "TQELAboutCompsProperty"},
+      {"TQELSMTPMail", "DesignExecute", "TQELShowMeNowProperty"},
+      // A name in a nested object, which the binding to the component does not reach.
+      {"TQELIniFile", "Filename", "TStringProperty"},
+  };
+  for (const auto& [className, property, editor] : cases) {
+    const TClass* aClass = nullptr;
+    for (const TClass* each : Package.Classes()) {
+      if (each->Name() == className) aClass = each;
+    }
+    ASSERT_NE(aClass, nullptr) << className;
+    EXPECT_EQ(EditorClassOf(*aClass, *aClass->FindPublished(property)).Name, editor) << className;
+  }
+}
+
+/// What the file dialog was asked for, and what it answers.
+struct TAsked {
+  std::wstring Filter;
+  std::wstring Name;
+  const wchar_t* Answer = nullptr;
+};
+TAsked asked;
+
+BOOL WINAPI AskForFile(OPENFILENAMEW* data) {
+  const wchar_t* end = data->lpstrFilter;
+  while (*end) end += std::wcslen(end) + 1;
+  asked.Filter.assign(data->lpstrFilter, end);
+  asked.Name = data->lpstrFile;
+  if (asked.Answer) std::wcscpy(data->lpstrFile, asked.Answer);
+  return asked.Answer != nullptr;
+}
+
+template <class Editor>
+void ExpectFilter(TPlainDesigner& designer, const char* filter, const std::wstring& split) {
+  TButton button(nullptr);
+  button.SetHint("C:\\old.txt");
+  Editor editor(designer, {{&button, button.ClassType().FindPublished("Hint")}});
+  EXPECT_EQ(editor.GetFilter(), filter);
+  EXPECT_EQ(editor.GetAttributes(), TPropertyAttributes{paDialog});
+  asked = {};
+  editor.Edit();
+  EXPECT_EQ(asked.Filter, split);
+  EXPECT_EQ(asked.Name, L"C:\\old.txt");
+  EXPECT_EQ(button.Hint(), "C:\\old.txt") << "cancelled";
+  asked.Answer = L"C:\\new.txt";
+  editor.Edit();
+  EXPECT_EQ(button.Hint(), "C:\\new.txt");
+}
+
+TEST_F(Editors, FileNamesAreChosenInADialog) {
+  const TImportPatch patch("qelhost.dll", "GetOpenFileNameW", &AskForFile);
+  using std::literals::string_literals::operator""s;
+  ExpectFilter<TQELFilenameProperty>(Designer, "All Files (*.*)|*.*|", L"All Files (*.*)\0*.*\0"s);
+  ExpectFilter<TQELWaveFilenameProperty>(Designer, "Wave Files (*.wav)|*.wav|",
+                                         L"Wave Files (*.wav)\0*.wav\0"s);
+  ExpectFilter<TQELBitmapFilenameProperty>(Designer, "Bitmaps (*.bmp)|*.bmp|",
+                                           L"Bitmaps (*.bmp)\0*.bmp\0"s);
+  ExpectFilter<TQELINIFilenameProperty>(Designer, "INI Files (*.ini)|*.ini|",
+                                        L"INI Files (*.ini)\0*.ini\0"s);
+  ExpectFilter<TQELAviFilenameProperty>(Designer, "Avi Files (*.avi)|*.avi|",
+                                        L"Avi Files (*.avi)\0*.avi\0"s);
+  ExpectFilter<TQELLogFilenameProperty>(Designer, "Log Files (*.log)|*.log|",
+                                        L"Log Files (*.log)\0*.log\0"s);
+}
+
+TEST_F(Editors, OfferWhatTheyCanDo) {
+  TButton button(nullptr);
+  button.SetEnabled(true);
+  TQELROBooleanproperty shown(Designer, Edited(button, "Enabled"));
+  EXPECT_TRUE(shown.ReadOnly());
+  EXPECT_FALSE(shown.CanRevert());
+  shown.Edit();
+  EXPECT_TRUE(button.Enabled());
+  EXPECT_EQ(TQELROStringProperty(Designer, Edited(button, "Hint")).GetAttributes(),
+            (TPropertyAttributes{paMultiSelect, paRevertable, paReadOnly}));
+  EXPECT_TRUE(AttributesOf(button, "Caption").Has(paAutoUpdate));
+  EXPECT_TRUE(AttributesOf(button, "Caption").Has(paDialog));
+  TQELExecComponent component(nullptr);
+  for (const char* property : {"About", "DesignExecute"}) {
+    EXPECT_EQ(AttributesOf(component, property), (TPropertyAttributes{paDialog, paReadOnly}));
+  }
+}
+
+class TCounter : public TQELExecComponent {
+ public:
+  using TQELExecComponent::TQELExecComponent;
+  bool Execute() override { return ++Runs > 0; }
+  int Runs = 0;
+};
+
+TEST_F(Editors, RunComponents) {
+  TCounter counter(nullptr);
+  MakePropertyEditor(Designer, Edited(counter, "DesignExecute"))->Edit();
+  EXPECT_EQ(counter.Runs, 1);
+  const auto editor = MakeComponentEditor(Designer, counter);
+  editor->Edit();
+  ASSERT_EQ(editor->GetVerbCount(), 2);
+  EXPECT_EQ(editor->GetVerb(0), "Execute the Component");
+  editor->ExecuteVerb(0);
+  EXPECT_EQ(counter.Runs, 3);
+  EXPECT_THROW(editor->ExecuteVerb(2), EListError);
+}
+
+TEST_F(Editors, ColorsKeepWhatWasEditedHoweverTheFormIsClosed) {
+  const std::unique_ptr<TObject> gradient(FindClass("TQELGradient").Maker().Plain());
+  const auto edited = Edited(*gradient, "ColorsInBetween");
+  auto* colors = dynamic_cast<TStrings*>(std::get<TObject*>(edited[0].Property->Get(*gradient)));
+  ASSERT_NE(colors, nullptr);
+  colors->SetCommaText("clRed,nonsense,$00FF00");
+  TTimer timer(nullptr);
+  timer.SetInterval(20);
+  timer.OnTimer = [](TObject*) {
+    const HWND form = ::FindWindowW(nullptr, L"Colors in between");
+    HWND list = ::GetWindow(form, GW_CHILD);
+    while (list && ::SendMessageW(list, LB_GETCOUNT, 0, 0) != 3) {
+      list = ::GetWindow(list, GW_HWNDNEXT);
+    }
+    ::SendMessageW(list, WM_KEYDOWN, VK_HOME, 0);  // Selects the first line.
+    ::SendMessageW(::FindWindowExW(form, nullptr, nullptr, L"&Delete"), BM_CLICK, 0, 0);
+    ::PostMessageW(form, WM_CLOSE, 0, 0);
+  };
+  timer.SetEnabled(true);
+  MakePropertyEditor(Designer, edited)->Edit();
+  EXPECT_EQ(colors->CommaText(), "nonsense,$00FF00");
+  EXPECT_EQ(Designer.Modifications, 1);
+}
+
+}  // namespace
+}  // namespace qel
