@@ -1,9 +1,8 @@
 #include "bench/timing.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
-
-#include "host/vcl/win32.h"
 
 namespace bench {
 
@@ -15,21 +14,15 @@ constexpr double MaxMilliseconds = 1500;
 constexpr double SampleMilliseconds = 0.5;
 
 double Now() {
-  static const double frequency = [] {
-    LARGE_INTEGER value;
-    ::QueryPerformanceFrequency(&value);
-    return static_cast<double>(value.QuadPart) / 1000;
-  }();
-  LARGE_INTEGER value;
-  ::QueryPerformanceCounter(&value);
-  return static_cast<double>(value.QuadPart) / frequency;
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return std::chrono::duration<double, std::milli>(now).count();
 }
 
 /// Milliseconds for one run, from `times` runs in a row.
 double Time(const std::function<void()>& work, int times) {
   const double start = Now();
   for (int i = 0; i < times; ++i) work();
-  ::GdiFlush();
+  FinishPainting();
   return (Now() - start) / times;
 }
 

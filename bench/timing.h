@@ -7,6 +7,9 @@
 
 namespace bench {
 
+/// Waits until what was painted is painted, where there is something to paint on.
+void FinishPainting();
+
 /// Both take turns, so that a busy machine slows down the one as it does the other.
 struct TPair {
   double Ours;      ///< Milliseconds, the median.

@@ -353,8 +353,8 @@ class QEL_API TQELSMTPMail : public TQELMailHost {
   // These and the encoding are false when the session was aborted meanwhile.
   bool AddParts(TQELMessage& message, const std::string& boundary, vcl::TStrings& lines);
   bool AddAttachment(TQELAttachment& attachment, vcl::TStrings& lines);
-  bool EncodeBlocks(vcl::TStream& file, std::int64_t size, vcl::TStrings& lines);
-  bool EncodeRest(vcl::TStream& file, std::int64_t count, vcl::TStrings& lines);
+  bool EncodeBlocks(vcl::TStream& file, std::int64_t size, TTextLines& lines);
+  bool EncodeRest(vcl::TStream& file, std::int64_t count, TTextLines& lines);
   std::string NextChunk();
   void TakeReply(std::string_view text);
   bool ReadGreeting();

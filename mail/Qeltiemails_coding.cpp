@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <vector>
 
 #include "mail/Qeltiemails.h"
 #include "mail/base64.h"
@@ -14,11 +15,14 @@ constexpr std::size_t LineLetters = Base64Size(LineBytes);
 constexpr int BlockBytes = 40 * LineBytes;
 using TBlock = std::array<unsigned char, BlockBytes>;
 
-void AddLine(const unsigned char* bytes, std::int64_t count, vcl::TStrings& lines) {
+/// How many bytes are read from a file at a time: several blocks, as each reading has its price.
+constexpr std::int64_t PortionBytes = 32 * BlockBytes;
+
+void AddLine(const unsigned char* bytes, std::int64_t count, TTextLines& lines) {
   char letters[LineLetters];
   const auto size = static_cast<std::size_t>(count);
   EncodeBase64(bytes, size, letters);
-  lines.Add(std::string(letters, Base64Size(size)));
+  lines.AddLine({letters, Base64Size(size)});
 }
 
 }  // namespace
@@ -31,6 +35,8 @@ void TQELSMTPMail::Base64Encode(TQELAttachment& attachment) {
     const std::int64_t size = file.Size();
     DoEncodeStart(attachment.FileName(),
                   static_cast<int>(std::min<std::int64_t>(size, std::numeric_limits<int>::max())));
+    lines->Reserve(Base64Size(static_cast<std::size_t>(size)),
+                   static_cast<std::size_t>(size / LineBytes + 1));
     if (!EncodeBlocks(file, size, *lines) || !EncodeRest(file, size % BlockBytes, *lines)) return;
   }
   // What a file has reached stays for the next: a short one behind a whole one has no event.
@@ -41,26 +47,29 @@ void TQELSMTPMail::Base64Encode(TQELAttachment& attachment) {
   DoEncodeEnd();
 }
 
-bool TQELSMTPMail::EncodeBlocks(vcl::TStream& file, std::int64_t size, vcl::TStrings& lines) {
+bool TQELSMTPMail::EncodeBlocks(vcl::TStream& file, std::int64_t size, TTextLines& lines) {
   int threshold = ProgressStep();
-  std::int64_t done = 0;
-  TBlock block;
-  for (std::int64_t left = size / BlockBytes; left > 0; --left) {
-    Pump();
-    if (Aborted()) return false;
-    file.ReadBuffer(block.data(), BlockBytes);
-    for (int at = 0; at < BlockBytes; at += LineBytes) {
-      AddLine(block.data() + at, LineBytes, lines);
-      done += LineBytes;
-      FLastEncodePercent = Percent(static_cast<double>(done), static_cast<double>(size));
-      if (StepReached(FLastEncodePercent, threshold)) DoEncodeProgress(FLastEncodePercent);
-      Pump();
+  std::vector<unsigned char> portion;
+  for (std::int64_t done = 0; done < size - size % BlockBytes; done += LineBytes) {
+    const std::int64_t at = done % PortionBytes;
+    if (at == 0) {
+      portion.resize(static_cast<std::size_t>(
+          std::min(PortionBytes, (size - done) / BlockBytes * BlockBytes)));
+      file.ReadBuffer(portion.data(), std::ssize(portion));
     }
+    if (done % BlockBytes == 0) {
+      Pump();
+      if (Aborted()) return false;
+    }
+    AddLine(portion.data() + at, LineBytes, lines);
+    FLastEncodePercent = Percent(static_cast<double>(done + LineBytes), static_cast<double>(size));
+    if (StepReached(FLastEncodePercent, threshold)) DoEncodeProgress(FLastEncodePercent);
+    Pump();
   }
   return true;
 }
 
-bool TQELSMTPMail::EncodeRest(vcl::TStream& file, std::int64_t count, vcl::TStrings& lines) {
+bool TQELSMTPMail::EncodeRest(vcl::TStream& file, std::int64_t count, TTextLines& lines) {
   TBlock block;
   file.ReadBuffer(block.data(), count);
   for (std::int64_t group = count / 3; group > 0; --group) {

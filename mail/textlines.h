@@ -54,8 +54,11 @@ class QEL_API TTextLines : public vcl::TStrings {
   void AddLine(std::string_view line);
   /// Appends the lines of a text.
   void AddLines(std::string_view text);
-  /// Makes room for lines of so many letters altogether.
-  void Reserve(std::size_t letters) { FLetters.reserve(letters); }
+  /// Makes room for so many lines of so many letters altogether.
+  void Reserve(std::size_t letters, std::size_t lines = 0) {
+    FLetters.reserve(letters);
+    FEnds.reserve(lines);
+  }
   /// All lines, one behind the other, without ends; where in it each line ends; and the line that a
   /// letter in it, counted from 0, belongs to.
   std::string_view Letters() const { return FLetters; }

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <thread>
@@ -83,6 +84,23 @@ TEST_F(RealServers, DeliverAttachmentsByteForByte) {
   const fs::path mail = Delivered(Setting("QEL_MAILDIR") + "/new");
   ASSERT_FALSE(mail.empty()) << "nothing was delivered";
   EXPECT_EQ(ReadElsewhere(mail.string()), expected);
+}
+
+TEST(SendmailExample, SendsAFile) {
+  const TWorkFolder folder("qel-sendmail");
+  WriteFile("1.bin", Noise(100));
+  const std::string command = std::string("echo text | ") + SENDMAIL_EXAMPLE + " 127.0.0.1 " +
+                              Setting("QEL_SINK_PORT") +
+                              " ann@example.test cy@example.test Example";
+  EXPECT_NE(std::system((command + " missing.bin").c_str()), 0);
+  ASSERT_EQ(std::system((command + " 1.bin").c_str()), 0);
+  fs::path last;
+  for (const auto& entry : fs::directory_iterator(Setting("QEL_SINK"))) {
+    last = std::max(last, entry.path());
+  }
+  const std::string mail = ReadFile(last);
+  WriteFile("mail", mail.substr(mail.find('\n') + 1));
+  EXPECT_EQ(ReadElsewhere("mail"), "Example|ann@example.test|1\n1.bin True\n");
 }
 
 }  // namespace

@@ -1,0 +1,8 @@
+// Coding attachments.
+#pragma once
+
+namespace bench {
+
+void Mail();
+
+}  // namespace bench

@@ -1,0 +1,7 @@
+#include "bench/timing.h"
+
+namespace bench {
+
+void FinishPainting() {}
+
+}  // namespace bench
