@@ -5,3 +5,7 @@ if(QEL_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
   add_compile_definitions(_GLIBCXX_ASSERTIONS)
 endif()
+if(QEL_FUZZ)
+  # What libFuzzer steers by: which branches an input takes.
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -399,9 +399,9 @@ class QEL_API TQELPOPMail : public TQELMailHost {
   /// session that does not end with a farewell: an abort, a refusal or an error in its middle.
   bool DeleteOfServer() const { return FDeleteOfServer; }
   void SetDeleteOfServer(bool deleteOfServer) { FDeleteOfServer = deleteOfServer; }
-  /// A server that sends a larger mail is an error (EQELMailError), which ends the session: so no
-  /// server can fill the memory. In bytes, at first 256 MiB; 0 for no limit. A mail takes up to
-  /// three times its size while it is read, and more when its lines are very short.
+  /// A server that sends a larger mail, or attachment, is an error (EQELMailError), which ends the
+  /// session: so no server can fill the memory. In bytes, at first 256 MiB; 0 for no limit. A mail
+  /// takes up to three times its size while it is read, and more when its lines are very short.
   std::size_t MaxMessageSize() const { return FMaxMessageSize; }
   void SetMaxMessageSize(std::size_t bytes) { FMaxMessageSize = bytes; }
 

@@ -80,6 +80,8 @@ void TQELPOPMail::UUDecode(TQELAttachment& attachment) {
       const TTextLines& lines = *Living(life).Lines();
       const std::size_t count = DecodeUULine(lines.Line(line), bytes);
       data->WriteBuffer(bytes.data(), static_cast<std::int64_t>(count));
+      // A line of one letter can stand for 45 bytes.
+      CheckSize(static_cast<std::size_t>(data->Size()));
       FDecodePercent = Percent(line, lines.Count());
       if (DoDecodeProgress(FDecodePercent, threshold) || line % PumpLines == 0) Pump();
     } while (!ends(++line));

@@ -88,8 +88,9 @@ bool StartsWithKey(std::string_view line, std::string_view key) {
 }
 
 std::size_t FindKey(std::string_view line, std::string_view key) {
-  const auto found = std::ranges::search(line, key, {}, Capital);
-  return found.empty() ? 0 : static_cast<std::size_t>(found.begin() - line.begin()) + 1;
+  const auto found = std::search(line.begin(), line.end(), key.begin(), key.end(),
+                                 [](char a, char b) { return Capital(a) == b; });
+  return found == line.end() ? 0 : static_cast<std::size_t>(found - line.begin()) + 1;
 }
 
 std::optional<std::string_view> FindInHeaders(std::string_view key, const THeaderLines& lines) {

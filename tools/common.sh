@@ -18,6 +18,9 @@ compiler_of() {
   esac
 }
 
+# has_fuzzer: clang is here, with its library for fuzzing.
+has_fuzzer() { ls "$(clang++ -print-runtime-dir)"/libclang_rt.fuzzer-*.a; } >/dev/null 2>&1
+
 # windows_preset: which of the Windows builds can be built and run here; fails when none can.
 windows_preset() {
   local preset
