@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "mail/Qeltiemails.h"
 #include "mail/base64.h"
 #include "mail/mailerror.h"
@@ -330,6 +332,43 @@ TEST_F(Receiving, FindsLines) {
   EXPECT_FALSE(Mail.FindInStringListCS("SUBJ", list, index));
   EXPECT_EQ(index, 4);
 }
+
+#ifndef _WIN32
+TEST_F(Receiving, ReadsWhatOthersCompose) {
+  const TWorkFolder folder("qel-composed");
+  const std::vector<std::size_t> sizes = {0, 1, 56, 57, 58, 2279, 2280, 2281, 500'000};
+  for (const std::size_t size : sizes) WriteFile(std::to_string(size), Noise(size));
+  WriteFile("compose.py", R"(
+import email.message, email.policy, sys
+m = email.message.EmailMessage(policy=email.policy.SMTP)
+m['From'], m['To'] = '"Ann Bee" <ann@a.test>', 'bob@a.test, cy@a.test'
+m['Subject'], m['Message-ID'] = 'Noise', '<1@a.test>'
+m.set_content('.\n..\n\nlast\n')
+for name in sys.argv[1:]:
+  m.add_attachment(open(name, 'rb').read(), 'application', 'octet-stream', filename=name + '.bin')
+m.add_attachment('<p>\n', 'html')
+mail = m.as_bytes().replace(b'\r\n.', b'\r\n..')
+open('mail', 'wb').write(b'+OK\r\n' + mail + b'.\r\n')
+)");
+  std::string command = "timeout 60 /usr/bin/python3 compose.py";
+  for (const std::size_t size : sizes) command += " " + std::to_string(size);
+  ASSERT_EQ(std::system(command.c_str()), 0);
+  vcl::TMemoryStream mail;
+  mail.LoadFromFile("mail");
+
+  const qel::TQELMessage& message = *Mail.ReadMessage(mail.ReadRest());
+  EXPECT_EQ(message.FromName() + message.FromMail(), "Ann Bee ann@a.test");
+  EXPECT_EQ(message.SendTo(), "bob@a.test,cy@a.test");
+  EXPECT_EQ(message.Subject() + message.MessageId(), "Noise<1@a.test>");
+  EXPECT_EQ(message.Message()->Text(), ".\r\n..\r\n\r\nlast\r\n\r\n");
+  std::vector<std::string> expected;
+  for (const std::size_t size : sizes) {
+    expected.push_back(std::to_string(size) + ".bin=" + Noise(size));
+  }
+  expected.push_back("Noise.html=<p>\r\n");
+  EXPECT_TRUE(Attachments(message) == expected);
+}
+#endif
 
 TEST(TextLines, AreAList) {
   qel::TTextLines lines;
