@@ -91,7 +91,10 @@ void TPropertyEditor::Revert() {
   SetAll(*PropInfo().DefaultValue);
 }
 
-bool TPropertyEditor::ReadOnly() const { return Offers(paReadOnly) || PropInfo().ReadOnly(); }
+bool TPropertyEditor::ReadOnly() const {
+  // An event has no setter and can be given handlers all the same.
+  return Offers(paReadOnly) || (PropInfo().ReadOnly() && !PropInfo().IsEvent());
+}
 
 TValue TPropertyEditor::Value(int index) const {
   const TEditedProperty& edited = FEdited.at(static_cast<std::size_t>(index));
