@@ -8,8 +8,8 @@
 namespace vcl {
 
 /// The height of a line in the font on the screen, in pixels.
-int FontHeight(const TFont& font);
+VCL_API int FontHeight(const TFont& font);
 /// Draws text with the canvas's font as the system's DrawText does, with its flags.
-void DrawTextOn(TCanvas* canvas, const std::string& text, TRect& rect, UINT flags);
+VCL_API void DrawTextOn(TCanvas* canvas, const std::string& text, TRect& rect, UINT flags);
 
 }  // namespace vcl
