@@ -32,6 +32,7 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"design", {"host/rtl", "host/vcl", "host/designintf", "core", "controls", "mail", "services"}},
       {"demos", {"host/rtl", "host/net", "host/vcl", "core", "controls", "mail", "services"}},
       {"tools", designer},
+      {"ide", designer},
   };
   return allowed;
 }

@@ -1,0 +1,31 @@
+#include "ide/inspectoredit.h"
+
+namespace ide {
+
+TInspectorEdit::TInspectorEdit(vcl::TComponent* owner) : TCustomEdit(owner) {
+  SetAutoSize(false);
+  SetBorderStyle(vcl::bsNone);
+  SetTabStop(false);
+}
+
+// Without this style a text that is wider than the edit could not be scrolled.
+void TInspectorEdit::CreateParams(vcl::TCreateParams& params) {
+  TCustomEdit::CreateParams(params);
+  params.Style |= ES_AUTOHSCROLL;
+}
+
+void TInspectorEdit::Dispatch(vcl::TMessage& message) {
+  switch (message.Msg) {
+    case vcl::CM_WANTSPECIALKEY: message.Result = 1; return;
+    // The lines are scrolled, not the text.
+    case WM_MOUSEWHEEL:
+      message.Result = Parent()->Perform(message.Msg, message.WParam, message.LParam);
+      return;
+    default: break;
+  }
+  vcl::TWatch watch(this);
+  TCustomEdit::Dispatch(message);
+  if (!watch.Gone() && message.Msg == WM_KILLFOCUS) OnLeave(this);
+}
+
+}  // namespace ide

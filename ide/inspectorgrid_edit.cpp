@@ -1,0 +1,151 @@
+// TInspectorGrid: the value of the selected line: its edit, its button, its list.
+#include <algorithm>
+
+#include "host/rtl/text.h"
+#include "host/vcl/fontmetrics.h"
+#include "ide/inspectoredit.h"
+#include "ide/inspectorgrid.h"
+#include "ide/inspectorlayout.h"
+#include "ide/inspectorlist.h"
+
+namespace ide {
+
+using vcl::TRect;
+
+// Where it stands.
+
+TInspectorGrid::TButtonKind TInspectorGrid::ButtonKind() const {
+  if (FSelected < 0) return bkNone;
+  const vcl::TPropertyEditor& editor = *Row(FSelected).Editor;
+  if (editor.Offers(vcl::paValueList) && !editor.ReadOnly()) return bkList;
+  return editor.Offers(vcl::paDialog) ? bkDialog : bkNone;
+}
+
+TRect TInspectorGrid::ButtonRect() const {
+  const TRect row = RowRect(FSelected);
+  return {row.Right - layout::ButtonWidth, row.Top, row.Right, row.Bottom - 1};
+}
+
+void TInspectorGrid::PlaceEdit() {
+  FEdit->SetVisible(FSelected >= 0);
+  if (FSelected < 0 || !HandleAllocated()) return;
+  const TInspectorRow& row = Row(FSelected);
+  TRect cell = RowRect(FSelected);
+  cell.Left = Splitter() + 1 + layout::TextIndent + (row.Color ? layout::SwatchWidth : 0);
+  if (ButtonKind() != bkNone) cell.Right = ButtonRect().Left;
+  FEdit->SetBounds(cell.Left, cell.Top + layout::TextMargin, std::max(cell.Width(), 0),
+                   cell.Height() - layout::TextMargin - 1);
+  ShowValue();
+}
+
+// What the user has typed stays until it holds or is dropped.
+void TInspectorGrid::ShowValue() {
+  if (FSelected < 0 || FTyped) return;
+  const TInspectorRow& row = Row(FSelected);
+  FShowing = true;
+  FEdit->Font()->SetStyle(row.Default ? vcl::TFontStyles{} : vcl::TFontStyles{vcl::fsBold});
+  FEdit->SetReadOnly(row.ReadOnly);
+  if (FEdit->Text() != row.Value) FEdit->SetText(row.Value);
+  FShowing = false;
+}
+
+void TInspectorGrid::FocusEdit() {
+  if (!FEdit->CanFocus()) return;
+  FEdit->SetFocus();
+  FEdit->SelectAll();
+}
+
+// Changing it.
+
+bool TInspectorGrid::Call(const TEditorCall& call) {
+  if (FSelected < 0) return true;
+  // Kept alive until it returns, whatever the call does to the selection.
+  const auto editor = Row(FSelected).Editor;
+  vcl::TWatch watch(this);
+  std::exception_ptr error;
+  try {
+    call(*editor);
+  } catch (...) {
+    error = std::current_exception();
+  }
+  if (watch.Gone()) return false;
+  // Shown when what happens now is over: a box in the middle of a change of focus confuses it.
+  if (error) {
+    FError = error;
+    ::PostMessageW(Handle(), layout::MessageShowError, 0, 0);
+  }
+  Refresh();
+  return !error;
+}
+
+bool TInspectorGrid::SetValue(const std::string& text) {
+  return Call([&](vcl::TPropertyEditor& editor) { editor.SetValue(text); });
+}
+
+bool TInspectorGrid::Apply() {
+  if (!FTyped) return true;
+  FTyped = false;
+  return SetValue(FEdit->Text());
+}
+
+void TInspectorGrid::EditChanged(vcl::TObject* /*sender*/) {
+  if (FShowing || FSelected < 0) return;
+  FTyped = true;
+  if (!Row(FSelected).Editor->Offers(vcl::paAutoUpdate)) return;
+  // The text itself stays as it is typed.
+  const std::string text = FEdit->Text();
+  if (SetValue(text)) FTyped = false;
+}
+
+void TInspectorGrid::EditLeft(vcl::TObject* /*sender*/) {
+  FList->CloseUp();
+  Apply();
+}
+
+void TInspectorGrid::EditValue() {
+  if (!Apply()) return;
+  Call([](vcl::TPropertyEditor& editor) { editor.Edit(); });
+}
+
+void TInspectorGrid::Revert() {
+  FTyped = false;
+  Call([](vcl::TPropertyEditor& editor) { editor.Revert(); });
+}
+
+void TInspectorGrid::MenuPopup(vcl::TObject* /*sender*/) {
+  const bool can = FSelected >= 0 && !Row(FSelected).Default && Row(FSelected).Editor->CanRevert();
+  FMenu->Items()->Items(0)->SetEnabled(can);
+}
+
+// Its list and its button.
+
+void TInspectorGrid::DropDown() {
+  if (ButtonKind() != bkList) return;
+  const auto editor = Row(FSelected).Editor;
+  std::vector<std::string> values;
+  editor->GetValues([&](const std::string& value) { values.push_back(value); });
+  if (values.empty()) return;
+  if (editor->Offers(vcl::paSortList)) {
+    std::ranges::sort(values,
+                      [](const auto& a, const auto& b) { return vcl::CompareText(a, b) < 0; });
+  }
+  const TRect row = RowRect(FSelected);
+  const vcl::TPoint from = ClientToScreen({Splitter() + 1, row.Top});
+  const vcl::TPoint to = ClientToScreen({row.Right, row.Bottom});
+  FList->SetFont(Font());
+  FList->DropDown({from.X, from.Y, to.X, to.Y}, values, Row(FSelected).Value);
+}
+
+void TInspectorGrid::PressButton() {
+  if (ButtonKind() == bkDialog) return EditValue();
+  FList->DroppedDown() ? FList->CloseUp() : DropDown();
+}
+
+void TInspectorGrid::ListChosen(vcl::TObject* /*sender*/) {
+  const std::string value = FList->Chosen();
+  FList->CloseUp();
+  FTyped = false;
+  if (SetValue(value)) FocusEdit();
+}
+
+}  // namespace ide

@@ -1,0 +1,88 @@
+#include "ide/inspectorlist.h"
+
+#include <algorithm>
+
+#include "host/rtl/strings.h"
+#include "host/vcl/application.h"
+#include "host/vcl/fontmetrics.h"
+#include "host/vcl/screen.h"
+
+namespace ide {
+
+namespace {
+
+constexpr int MostItems = 12;  // Seen at once.
+constexpr int Border = 1;
+
+}  // namespace
+
+TInspectorList::TInspectorList(vcl::TComponent* owner) : TCustomListBox(owner) {
+  SetBorderStyle(vcl::bsNone);
+  SetTabStop(false);
+}
+
+void TInspectorList::CreateParams(vcl::TCreateParams& params) {
+  TCustomListBox::CreateParams(params);
+  params.Style = (params.Style & ~static_cast<DWORD>(WS_CHILD | WS_VISIBLE)) | WS_POPUP | WS_BORDER;
+  params.ExStyle = WS_EX_TOOLWINDOW | WS_EX_TOPMOST | WS_EX_NOACTIVATE;
+  params.WndParent = vcl::Application()->Handle();
+}
+
+void TInspectorList::DropDown(const vcl::TRect& below, const std::vector<std::string>& values,
+                              const std::string& current) {
+  HandleNeeded();
+  Items()->BeginUpdate();
+  Items()->Clear();
+  for (const std::string& value : values) Items()->Add(value);
+  Items()->EndUpdate();
+  SetItemIndex(Items()->IndexOf(current));
+  const int count = std::clamp(Items()->Count(), 1, MostItems);
+  const int item = ItemRect(0).Height() > 0 ? ItemRect(0).Height() : vcl::FontHeight(*Font());
+  const int height = count * item + 2 * Border;
+  const vcl::TRect area = vcl::Screen()->WorkAreaRect(below);
+  const bool fits = below.Bottom + height <= area.Bottom || below.Top - height < area.Top;
+  SetBounds(below.Left, fits ? below.Bottom : below.Top - height, below.Width(), height);
+  ::SetWindowPos(Handle(), HWND_TOPMOST, 0, 0, 0, 0,
+                 SWP_SHOWWINDOW | SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE);
+  FDown = true;
+}
+
+void TInspectorList::CloseUp() {
+  if (!FDown) return;
+  FDown = false;
+  ::ShowWindow(Handle(), SW_HIDE);
+}
+
+std::string TInspectorList::Chosen() const {
+  return ItemIndex() < 0 ? std::string() : Items()->Strings(ItemIndex());
+}
+
+void TInspectorList::Step(int by) {
+  if (Items()->Count() == 0) return;
+  SetItemIndex(std::clamp(ItemIndex() + by, 0, Items()->Count() - 1));
+}
+
+void TInspectorList::Dispatch(vcl::TMessage& message) {
+  if (!DispatchOwn(message)) TCustomListBox::Dispatch(message);
+}
+
+// The window's own procedure would take the keyboard when it is pressed.
+bool TInspectorList::DispatchOwn(vcl::TMessage& message) {
+  switch (message.Msg) {
+    case WM_MOUSEACTIVATE: message.Result = MA_NOACTIVATE; return true;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_MOUSEMOVE: SelectAt(message); return true;
+    case WM_LBUTTONUP:
+      if (ItemAtPos({message.XPos(), message.YPos()}, true) >= 0) OnClick(this);
+      return true;
+    default: return false;
+  }
+}
+
+void TInspectorList::SelectAt(const vcl::TMessage& message) {
+  const int item = ItemAtPos({message.XPos(), message.YPos()}, true);
+  if (item >= 0 && item != ItemIndex()) SetItemIndex(item);
+}
+
+}  // namespace ide
