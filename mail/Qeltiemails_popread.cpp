@@ -44,9 +44,18 @@ class TLineFilter {
   std::size_t FBegin = 0, FKept = 0;
 };
 
+/// Far faster than going through the lines: letters of attachments have no dots.
+bool HasLineWithDot(std::string_view text) {
+  for (std::size_t dot = 0; (dot = text.find('.', dot)) != text.npos; ++dot) {
+    if (dot == 0 || text[dot - 1] == '\n' || text[dot - 1] == '\r') return true;
+  }
+  return false;
+}
+
 /// A server doubles the dot that a line begins with, since a lone one ends the mail. Returns how
 /// much is left.
 std::size_t UndoDotStuffing(char* text, std::size_t size) {
+  if (!HasLineWithDot({text, size})) return size;
   TLineFilter lines(text, size);
   for (std::string_view line; lines.Next(line);) {
     lines.Keep(line.size() > 1 && line.front() == '.' && !lines.IsLast() ? 1 : 0);
