@@ -23,10 +23,12 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
   static const std::map<std::string, std::set<std::string>> allowed = {
       {"host/rtl", {}},
       {"host/net", rtl},
+      {"host/db", rtl},
       {"host/vcl", rtl},
       {"host/designintf", vcl},
       {"core", vcl},
       {"controls", component},
+      {"data", {"host/rtl", "host/db", "core"}},
       {"mail", {"host/rtl", "host/net", "core"}},
       {"services", component},
       {"design", {"host/rtl", "host/vcl", "host/designintf", "core", "controls", "mail", "services"}},

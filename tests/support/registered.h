@@ -10,6 +10,7 @@
 #include "core/Qelclasses.h"
 #include "core/Qelclasses2.h"
 #include "core/Qeltstoredata.h"
+#include "data/Qeltdbascii.h"
 #include "host/rtl/classregistry.h"
 #include "mail/Qeltiemails.h"
 #include "services/Qeltformsaver.h"
@@ -31,5 +32,5 @@ inline void RegisterAll() {
                         &qel::TQELDataStore::Class(),  &qel::TQELStoreData::Class(),
                         &qel::TQELFormSaver::Class(),  &qel::TQELSMTPMail::Class(),
                         &qel::TQELPOPMail::Class(),    &qel::TQELMRUItem::Class(),
-                        &qel::TQELMRUMenu::Class()});
+                        &qel::TQELMRUMenu::Class(),    &qel::TQELDBAscii::Class()});
 }

@@ -1,0 +1,387 @@
+// Data sets in memory: moving, editing, fields, events, and what data links hear.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "host/db/datasource.h"
+#include "host/db/fields.h"
+#include "host/db/memorydataset.h"
+#include "host/db/registration.h"
+#include "host/rtl/classes.h"
+#include "tests/data/datatest.h"
+
+namespace {
+
+using namespace vcl;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+/// Three people, the current one being the first.
+struct TPeople : TMemoryDataSet {
+  TPeople() : TMemoryDataSet(nullptr) {
+    FieldDefs()->Add("Name", ftString, 8, true);
+    FieldDefs()->Add("Age", ftInteger);
+    Open();
+    for (const char* name : {"Ann", "Bob", "Cid"}) AppendRecord({std::string(name)});
+    First();
+  }
+  std::string Name() const { return FieldByName("name")->AsString(); }
+};
+
+std::string Message(const std::function<void()>& call) {
+  try {
+    call();
+  } catch (const EDatabaseError& error) {
+    return error.Message();
+  }
+  return "nothing was raised";
+}
+
+TEST(DataSet, MovesAndSaysWhereItIs) {
+  TPeople people;
+  EXPECT_TRUE(people.Bof());
+  people.Prior();
+  EXPECT_EQ(people.Name(), "Ann");
+  EXPECT_EQ(people.MoveBy(2), 2);
+  EXPECT_FALSE(people.Eof()) << "standing on the last record is not being behind it";
+  EXPECT_FALSE(people.Bof());
+  people.Next();
+  EXPECT_TRUE(people.Eof());
+  EXPECT_EQ(people.Name(), "Cid");
+  EXPECT_EQ(people.MoveBy(-7), -2);
+  EXPECT_TRUE(people.Bof());
+  EXPECT_FALSE(people.Eof());
+  people.Last();
+  EXPECT_TRUE(people.Eof());
+  EXPECT_EQ(people.RecNo(), 3);
+  people.SetRecNo(2);
+  const TBookmark bob = people.Bookmark();
+  people.InsertRecord({std::string("Abe")});
+  people.First();
+  people.GotoBookmark(bob);
+  EXPECT_EQ(people.Name(), "Bob");
+  EXPECT_EQ(people.RecNo(), 3);
+  people.Delete();
+  EXPECT_EQ(people.Name(), "Cid");
+  EXPECT_FALSE(people.BookmarkValid(bob));
+  EXPECT_THAT(Message([&] { people.GotoBookmark(bob); }), HasSubstr("gone"));
+  EXPECT_THAT(Message([&] { people.SetRecNo(9); }), HasSubstr("9"));
+}
+
+TEST(DataSet, EditsInsertsAndDeletes) {
+  TPeople people;
+  people.Next();
+  people.Insert();
+  EXPECT_EQ(people.State(), dsInsert);
+  EXPECT_TRUE(people.FieldByName("Name")->IsNull());
+  people.Next();
+  EXPECT_EQ(Dump(people), "Ann|;Bob|;Cid|") << "a record that nothing was written into is given up";
+  people.Edit();
+  people.SetFieldValues("Name", std::string("Zoe"));
+  EXPECT_EQ(std::get<std::string>(people.FieldByName("Name")->OldValue()), "Cid");
+  people.Cancel();
+  EXPECT_EQ(people.Name(), "Cid");
+  people.Edit();
+  people.FieldByName("Age")->SetAsInteger(7);
+  people.First();
+  EXPECT_EQ(Dump(people), "Ann|;Bob|;Cid|7") << "moving posts";
+  people.Last();
+  people.Delete();
+  EXPECT_EQ(people.Name(), "Bob") << "behind the last one there is only the one before";
+  while (!people.IsEmpty()) people.Delete();
+  EXPECT_TRUE(people.Bof() && people.Eof());
+  EXPECT_EQ(people.Name(), "");
+  EXPECT_THAT(Message([&] { people.Delete(); }), HasSubstr("empty"));
+  people.Edit();
+  EXPECT_EQ(people.State(), dsInsert) << "there is nothing to edit, so a record is made";
+  people.Cancel();
+  EXPECT_TRUE(people.IsEmpty());
+}
+
+TEST(DataSet, RefusesWithAMessageAndStaysAsItWas) {
+  TPeople people;
+  people.SetName("People");
+  EXPECT_EQ(Message([&] { people.FieldByName("City"); }), "People: Field 'City' not found");
+  EXPECT_THAT(Message([&] { people.FieldByName("Age")->SetAsInteger(1); }), HasSubstr("edit"));
+  people.Insert();
+  EXPECT_EQ(Message([&] { people.Post(); }), "Field 'Name' must have a value");
+  EXPECT_EQ(people.State(), dsInsert);
+  people.SetFieldValues("Name", std::string("\u00c4\u00d6\u00dc456789"));
+  EXPECT_THAT(Message([&] { people.Post(); }), HasSubstr("longer than the 8 characters"));
+  people.SetFieldValues("Name", std::string("\u00c4\u00d6\u00dc45678"));
+  people.Post();
+  people.Close();
+  EXPECT_THAT(Message([&] { people.Next(); }), HasSubstr("closed"));
+  EXPECT_EQ(people.FindField("Name"), nullptr);
+  TMemoryDataSet undefined(nullptr);
+  EXPECT_THAT(Message([&] { undefined.Open(); }), HasSubstr("definitions"));
+  EXPECT_FALSE(undefined.Active());
+}
+
+TEST(DataSet, FiresItsEventsInOrder) {
+  TPeople people;
+  std::vector<std::string> log;
+  const auto note = [&](const char* what) { return [&log, what](TDataSet*) { log.push_back(what); }; };
+  people.BeforeInsert = note("BeforeInsert"), people.AfterInsert = note("AfterInsert");
+  people.BeforeEdit = note("BeforeEdit"), people.AfterEdit = note("AfterEdit");
+  people.BeforePost = note("BeforePost"), people.AfterPost = note("AfterPost");
+  people.BeforeCancel = note("BeforeCancel"), people.AfterCancel = note("AfterCancel");
+  people.BeforeDelete = note("BeforeDelete"), people.AfterDelete = note("AfterDelete");
+  people.BeforeScroll = note("BeforeScroll"), people.AfterScroll = note("AfterScroll");
+  people.OnNewRecord = [&](TDataSet* data) {
+    log.push_back("OnNewRecord");
+    data->SetFieldValues("Age", std::int64_t{1});
+  };
+  people.Insert();
+  EXPECT_FALSE(people.Modified()) << "what a new record begins with is no change of the user's";
+  people.Cancel();
+  EXPECT_THAT(log, ElementsAre("BeforeInsert", "BeforeScroll", "OnNewRecord", "AfterInsert",
+                               "AfterScroll", "BeforeCancel", "BeforeScroll", "AfterCancel",
+                               "AfterScroll"));
+  log.clear();
+  people.Edit();
+  people.SetFieldValues("Name", std::string("Eve"));
+  people.Next();
+  EXPECT_THAT(log, ElementsAre("BeforeEdit", "AfterEdit", "BeforePost", "AfterPost", "BeforeScroll",
+                               "AfterScroll"));
+  log.clear();
+  people.Delete();
+  EXPECT_THAT(log, ElementsAre("BeforeDelete", "BeforeScroll", "AfterDelete", "AfterScroll"));
+}
+
+TEST(DataSet, AHandlerMayFreeOrCloseIt) {
+  auto people = std::make_unique<TPeople>();
+  people->BeforePost = [&](TDataSet*) { people.reset(); };
+  people->Edit();
+  people->SetFieldValues("Age", std::int64_t{1});
+  EXPECT_THROW(people->Next(), EAbort);
+  TPeople closed;
+  closed.BeforeScroll = [](TDataSet* data) { data->Close(); };
+  EXPECT_THAT(Message([&] { closed.Next(); }), HasSubstr("closed"));
+}
+
+TEST(Fields, ConvertOrRefuse) {
+  const TFormatSettings settings;
+  FormatSettings() = settings;
+  struct TCase {
+    TFieldType Type;
+    const char *Text, *Read;  // Null for a text that is refused.
+  };
+  const TCase cases[] = {
+      {ftString, "", ""},
+      {ftSmallint, "32767", "32767"},
+      {ftSmallint, "32768", nullptr},
+      {ftInteger, " -2147483648 ", "-2147483648"},
+      {ftInteger, "2147483648", nullptr},
+      {ftInteger, "1.5", nullptr},
+      {ftInteger, "", ""},
+      {ftLargeint, "9223372036854775807", "9223372036854775807"},
+      {ftLargeint, "9223372036854775808", nullptr},
+      {ftFloat, "1e3", "1000"},
+      {ftFloat, "much", nullptr},
+      {ftCurrency, "2.5", "2.5"},
+      {ftBoolean, "TRUE", "True"},
+      {ftBoolean, "0", "False"},
+      {ftBoolean, "perhaps", nullptr},
+      {ftDate, "02/29/2000", "02/29/2000"},
+      {ftDate, "02/30/2000", nullptr},
+      {ftTime, "23:59", "23:59:00"},
+      {ftDateTime, "1/2/2003 4:05", "01/02/2003 04:05:00"},
+      {ftMemo, "a\r\nb", "a\r\nb"},
+  };
+  for (const TCase& each : cases) {
+    SCOPED_TRACE(std::string(EnumText<TFieldType>.Name) + " " + std::to_string(each.Type) + ": " +
+                 each.Text);
+    TMemoryDataSet data(nullptr);
+    data.FieldDefs()->Add("F", each.Type);
+    data.Open();
+    data.Insert();
+    TField* field = data.Fields()[0];
+    if (each.Read) {
+      field->SetAsString(each.Text);
+      EXPECT_EQ(field->AsString(), each.Read);
+      EXPECT_EQ(field->IsNull(), !*each.Text && each.Type != ftString);
+    } else {
+      EXPECT_THAT(Message([&] { field->SetAsString(each.Text); }), HasSubstr("for field 'F'"));
+      EXPECT_TRUE(field->IsNull());
+    }
+  }
+}
+
+TEST(Fields, ReadAsOtherTypesAndShowThemselves) {
+  TMemoryDataSet data(nullptr);
+  data.FieldDefs()->Add("Text", ftString);
+  data.FieldDefs()->Add("Number", ftFloat);
+  data.FieldDefs()->Add("Money", ftCurrency);
+  data.FieldDefs()->Add("Sure", ftBoolean);
+  data.FieldDefs()->Add("Day", ftDate);
+  data.Open();
+  data.Insert();
+  const auto field = [&](const char* name) { return data.FieldByName(name); };
+  EXPECT_EQ(field("Number")->AsInteger(), 0) << "Null";
+  field("Text")->SetAsFloat(-2.5);
+  EXPECT_EQ(field("Text")->AsFloat(), -2.5);
+  field("Text")->SetAsString("x");
+  EXPECT_THAT(Message([&] { field("Text")->AsInteger(); }), HasSubstr("'x'"));
+  field("Number")->SetAsFloat(2.5);
+  EXPECT_EQ(field("Number")->AsInteger(), 3);
+  field("Number")->SetAsFloat(1e10);
+  EXPECT_THAT(Message([&] { field("Number")->AsInteger(); }), HasSubstr("10000000000"));
+  field("Money")->SetAsCurrency(2.5);
+  EXPECT_EQ(field("Money")->DisplayText(), "2.50");
+  EXPECT_EQ(field("Money")->Text(), "2.5");
+  static_cast<TBooleanField*>(field("Sure"))->SetDisplayValues("Yes;No");
+  field("Sure")->SetAsString("no");
+  EXPECT_FALSE(field("Sure")->AsBoolean());
+  EXPECT_EQ(field("Sure")->DisplayText(), "No");
+  field("Day")->SetAsDateTime(EncodeDate(2000, 2, 29) + 0.75);
+  EXPECT_EQ(field("Day")->AsDateTime(), EncodeDate(2000, 2, 29));
+  EXPECT_THAT(Message([&] { field("Day")->AsBoolean(); }), HasSubstr("Boolean"));
+  field("Text")->OnGetText = [](TField*, std::string& text, bool display) {
+    if (display) text = "<" + text + ">";
+  };
+  EXPECT_EQ(field("Text")->DisplayText(), "<x>");
+  field("Text")->OnValidate = [](TField* sender) {
+    if (sender->AsString() == "bad") throw EDatabaseError("bad is bad");
+  };
+  EXPECT_EQ(Message([&] { field("Text")->SetAsString("bad"); }), "bad is bad");
+  EXPECT_EQ(field("Text")->AsString(), "x");
+}
+
+/// Notes what a control would hear.
+struct TNotes : TDataLink {
+  std::vector<std::string> Log;
+  void ActiveChanged() override { Log.push_back(Active() ? "open" : "closed"); }
+  void EditingChanged() override { Log.push_back(Editing() ? "editing" : "browsing"); }
+  void DataSetChanged() override { Log.push_back("all"); }
+  void DataSetScrolled(int distance) override { Log.push_back("scroll " + IntToStr(distance)); }
+  void RecordChanged(TField* field) override {
+    Log.push_back(field ? field->FieldName() : "record");
+  }
+};
+
+TEST(DataLink, HearsOfTheDataSet) {
+  TPeople people;
+  TNotes notes;
+  auto source = std::make_unique<TDataSource>(nullptr);
+  source->SetDataSet(&people);
+  notes.SetDataSource(source.get());
+  EXPECT_EQ(source->State(), dsBrowse);
+  people.Next();
+  EXPECT_TRUE(notes.Edit());
+  people.SetFieldValues("Age", std::int64_t{5});
+  people.Post();
+  people.DisableControls();
+  people.Last();
+  people.EnableControls();
+  source->SetEnabled(false);
+  people.First();
+  source->SetEnabled(true);
+  people.Close();
+  EXPECT_THAT(notes.Log, ElementsAre("open", "scroll 1", "editing", "record", "Age", "browsing",
+                                     "all", "all", "closed", "open", "closed"));
+  source->SetAutoEdit(false);
+  people.Open();
+  EXPECT_FALSE(notes.Edit());
+  source.reset();
+  EXPECT_FALSE(notes.Active());
+  EXPECT_EQ(notes.DataSource(), nullptr);
+}
+
+TEST(DataLink, WritesWhatIsTypedBeforeTheRecordIsPosted) {
+  TPeople people;
+  TDataSource source(nullptr);
+  source.SetDataSet(&people);
+  TFieldDataLink link;
+  link.SetFieldName("Name");
+  link.SetDataSource(&source);
+  link.OnUpdateData = [&](TObject*) { link.Field()->SetText("Typed"); };
+  ASSERT_TRUE(link.Edit());
+  link.Modified();
+  people.Next();
+  EXPECT_EQ(Dump(people), "Typed|;Bob|;Cid|");
+}
+
+TEST(DataLink, LooksAtTheRecordsAroundTheCurrentOne) {
+  TPeople people;
+  TDataSource source(nullptr);
+  source.SetDataSet(&people);
+  TNotes link;
+  link.SetDataSource(&source);
+  link.SetBufferCount(2);
+  const auto rows = [&] {
+    std::string names;
+    const int active = link.ActiveRecord();
+    for (int i = 0; i < link.RecordCount(); ++i) {
+      link.SetActiveRecord(i);
+      names += (i == active ? "*" : " ") + people.Name();
+    }
+    link.SetActiveRecord(active);
+    return names;
+  };
+  EXPECT_EQ(rows(), "*Ann Bob");
+  people.Last();
+  EXPECT_EQ(rows(), " Bob*Cid");
+  EXPECT_EQ(people.Name(), "Cid") << "looking is no move";
+  people.Insert();
+  EXPECT_EQ(rows(), " Bob*");
+  people.Cancel();
+  people.First();
+  EXPECT_EQ(rows(), "*Ann Bob");
+}
+
+TEST(MemoryDataSet, KeepsWhatItCanUnderNewDefinitions) {
+  TPeople people;
+  people.Close();
+  people.FieldDefs()->Items(1)->SetDataType(ftString);
+  people.FieldDefs()->Add("City", ftString)->SetIndex(0);
+  people.Open();
+  EXPECT_EQ(Dump(people), "|Ann|;|Bob|;|Cid|");
+  people.EmptyTable();
+  EXPECT_TRUE(people.IsEmpty());
+}
+
+struct TDataForm : TComponent {
+  using TComponent::TComponent;
+  static const TClass& Class() {
+    static const TClass info = Describe<TDataForm, TComponent>("TDataForm", "test", {});
+    return info;
+  }
+  const TClass& ClassType() const override { return Class(); }
+  void GetChildren(const std::function<void(TComponent*)>& each, TComponent*) override {
+    for (int i = 0; i < ComponentCount(); ++i) {
+      if (!Components(i)->HasParent()) each(Components(i));
+    }
+  }
+};
+
+TEST(MemoryDataSet, ComesFromAFormFileWithItsFields) {
+  RegisterDataClasses();
+  const std::string text =
+      "object Form: TDataForm\r\n"
+      "  object Source: TDataSource\r\n"
+      "    DataSet = Data\r\n"
+      "  end\r\n"
+      "  object Data: TMemoryDataSet\r\n"
+      "    FieldDefs = <\r\n"
+      "      item\r\n        Name = 'Name'\r\n        DataType = ftString\r\n      end\r\n"
+      "      item\r\n        Name = 'Hidden'\r\n        DataType = ftInteger\r\n      end>\r\n"
+      "    Active = True\r\n"
+      "    object DataName: TStringField\r\n"
+      "      DisplayLabel = 'Who'\r\n"
+      "      FieldName = 'Name'\r\n"
+      "    end\r\n"
+      "  end\r\n"
+      "end\r\n";
+  TDataForm form(nullptr);
+  TStringStream file(text);
+  ReadComponentFile(file, &form);
+  auto* data = static_cast<TDataSet*>(form.FindComponent("Data"));
+  EXPECT_EQ(static_cast<TDataSource*>(form.FindComponent("Source"))->State(), dsBrowse);
+  ASSERT_EQ(data->FieldCount(), 1) << "the fields of the form are all that there are";
+  EXPECT_EQ(data->Fields()[0], form.FindComponent("DataName"));
+  EXPECT_EQ(data->FieldByName("name")->DisplayLabel(), "Who");
+  data->AppendRecord({std::string("Ann")});
+  EXPECT_EQ(Dump(*data), "Ann");
+}
+
+}  // namespace
