@@ -56,6 +56,7 @@ TImageList::TImageList(TComponent* owner, int width, int height) : TImageList(ow
 
 TImageList::~TImageList() {
   AnnounceEnd();
+  for (TChangeLink* link : FLinks) link->FSender = nullptr;
   if (FHandle) ::ImageList_Destroy(FHandle);
 }
 
@@ -169,7 +170,25 @@ void TImageList::Clear() {
   if (FHandle) Replace(nullptr, FWidth, FHeight);
 }
 
-void TImageList::Changed() { OnChange(this); }
+void TImageList::Changed() {
+  TWatch watch(this);
+  for (std::size_t i = 0; !watch.Gone() && i < FLinks.size(); ++i) FLinks[i]->OnChange(this);
+  if (!watch.Gone()) OnChange(this);
+}
+
+void TImageList::RegisterChanges(TChangeLink* link) {
+  if (link->FSender) link->FSender->UnRegisterChanges(link);
+  link->FSender = this;
+  FLinks.push_back(link);
+}
+
+void TImageList::UnRegisterChanges(TChangeLink* link) {
+  if (std::erase(FLinks, link) != 0) link->FSender = nullptr;
+}
+
+TChangeLink::~TChangeLink() {
+  if (FSender) FSender->UnRegisterChanges(this);
+}
 
 // ---- Drawing ----
 

@@ -1,6 +1,8 @@
 // TImageList: pictures of one size, kept together for trees, lists, menus and buttons.
 #pragma once
 
+#include <vector>
+
 #include "host/rtl/component.h"
 #include "host/vcl/canvas.h"
 #include "host/vcl/win32.h"
@@ -10,6 +12,25 @@ namespace vcl {
 class TBitmap;
 class TIcon;
 class TStream;
+
+class TImageList;
+
+/// Tells a user of a list of pictures that they have changed (`TImageList::RegisterChanges`).
+class VCL_API TChangeLink {
+ public:
+  TChangeLink() = default;
+  ~TChangeLink();
+  TChangeLink(const TChangeLink&) = delete;
+  TChangeLink& operator=(const TChangeLink&) = delete;
+  /// The list that it listens to; null for none, also when the list has been freed.
+  TImageList* Sender() const { return FSender; }
+  /// Gets the list. Its handle may be another one.
+  TNotifyEvent OnChange;
+
+ private:
+  friend class TImageList;
+  TImageList* FSender = nullptr;
+};
 
 /// A list of pictures. Indexes run from 0.
 class VCL_API TImageList : public TComponent {
@@ -56,6 +77,10 @@ class VCL_API TImageList : public TComponent {
   void GetBitmap(int index, TBitmap* image, TColor background = clWhite) const;
   void GetIcon(int index, TIcon* icon) const;
 
+  /// The link hears of every change, before OnChange; it leaves the list that it listened to.
+  void RegisterChanges(TChangeLink* link);
+  void UnRegisterChanges(TChangeLink* link);
+
   /// The pictures have changed.
   TNotifyEvent OnChange;
 
@@ -73,6 +98,7 @@ class VCL_API TImageList : public TComponent {
   void Replace(HIMAGELIST handle, int width, int height);
 
   mutable HIMAGELIST FHandle = nullptr;
+  std::vector<TChangeLink*> FLinks;
   int FWidth = 16;
   int FHeight = 16;
   TColor FBkColor = clNone;
