@@ -16,7 +16,7 @@ void RegisterStandardControls() {
        &TGroupBox::Class(),    &TImage::Class(),      &TLabel::Class(),       &TListBox::Class(),
        &TMemo::Class(),        &TOpenDialog::Class(), &TPageControl::Class(), &TPanel::Class(),
        &TRadioButton::Class(), &TSaveDialog::Class(), &TSpeedButton::Class(), &TStatusBar::Class(),
-       &TTabSheet::Class(),    &TTimer::Class(),      &TTrackBar::Class()});
+       &TTabSheet::Class(),    &TTimer::Class(),      &TTrackBar::Class(),    &TTreeView::Class()});
 }
 
 }  // namespace vcl

@@ -58,6 +58,7 @@
 #undef GetNextSibling
 #undef GetNextWindow
 #undef GetObject
+#undef GetPrevSibling
 #undef GetProp
 #undef GetTextExtentPoint
 #undef GetTextMetrics
