@@ -7,6 +7,11 @@
 # instead), with its manifest and its resources. CONSOLE makes a console program of it. DESCRIPTION
 # is the line that ./run help shows.
 #
+# qel_icon_resources(RESULT folders...)
+#
+# The bitmaps of folders as RESOURCES takes them; a designer shows them for the classes that they are
+# named after.
+#
 # qel_target_resources(TARGET [MANIFEST] [FORMS ...] [RESOURCES ...] [ICON ...])
 #
 # Embeds the same into any executable or DLL. A form file becomes an RCDATA resource named after
@@ -35,6 +40,19 @@ function(qel_resource_type result file)
     list(GET types ${at} type)
     set(${result} ${type} PARENT_SCOPE)
   endif()
+endfunction()
+
+function(qel_icon_resources result)
+  set(resources)
+  foreach(folder IN LISTS ARGN)
+    cmake_path(ABSOLUTE_PATH folder BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} NORMALIZE)
+    file(GLOB files CONFIGURE_DEPENDS ${folder}/*.bmp)
+    foreach(file IN LISTS files)
+      cmake_path(GET file STEM name)
+      list(APPEND resources ${name}=${file})
+    endforeach()
+  endforeach()
+  set(${result} ${resources} PARENT_SCOPE)
 endfunction()
 
 function(qel_target_resources target)

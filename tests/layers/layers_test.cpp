@@ -34,7 +34,7 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"design", {"host/rtl", "host/vcl", "host/designintf", "core", "controls", "mail", "services"}},
       {"demos", {"host/rtl", "host/net", "host/vcl", "core", "controls", "mail", "services"}},
       {"tools", designer},
-      {"ide", designer},
+      {"ide", {"host/rtl", "host/net", "host/db", "host/vcl", "host/designintf"}},
   };
   return allowed;
 }

@@ -1,0 +1,52 @@
+#include "ide/paletteicons.h"
+
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "host/rtl/resources.h"
+#include "host/vcl/handles.h"
+#include "host/vcl/module.h"
+
+namespace ide {
+
+namespace {
+
+using TKey = std::pair<HINSTANCE, std::string>;
+
+const vcl::TBitmap& Loaded(HINSTANCE module, const std::string& name) {
+  static std::map<TKey, std::unique_ptr<vcl::TBitmap>> icons;
+  auto& icon = icons[{module, name}];
+  if (!icon) {
+    auto bitmap = std::make_unique<vcl::TBitmap>();
+    bitmap->LoadFromResourceName(module, name);
+    icon = std::move(bitmap);
+  }
+  return *icon;
+}
+
+}  // namespace
+
+const vcl::TBitmap& ComponentIcon(const vcl::TClass& aClass) {
+  for (HINSTANCE module : {vcl::ModuleOf(&aClass), ::GetModuleHandleW(nullptr)}) {
+    if (vcl::ResourceExists(module, aClass.Name(), reinterpret_cast<const char*>(RT_BITMAP))) {
+      return Loaded(module, aClass.Name());
+    }
+  }
+  return ProgramIcon("COMPONENT");
+}
+
+const vcl::TBitmap& ProgramIcon(const std::string& name) {
+  return Loaded(::GetModuleHandleW(nullptr), name);
+}
+
+void DrawIcon(vcl::TCanvas& canvas, int x, int y, const vcl::TBitmap& icon, bool dimmed) {
+  constexpr BYTE faint = 90;
+  const vcl::TMemoryDC source;
+  const vcl::TSelection selection(source.Get(), icon.Handle());
+  const BLENDFUNCTION blend{AC_SRC_OVER, 0, dimmed ? faint : BYTE{255}, AC_SRC_ALPHA};
+  ::AlphaBlend(canvas.Handle(), x, y, icon.Width(), icon.Height(), source.Get(), 0, 0, icon.Width(),
+               icon.Height(), blend);
+}
+
+}  // namespace ide

@@ -1,0 +1,33 @@
+// Which of the class library's components stand on which page of the palette.
+#include "host/db/datasource.h"
+#include "host/db/memorydataset.h"
+#include "host/net/sockets.h"
+#include "host/vcl/buttons.h"
+#include "host/vcl/vcl.h"
+#include "ide/palette.h"
+
+namespace ide {
+
+void RegisterStandardPages() {
+  using namespace vcl;
+  const TPaletteEntry pages[] = {
+      {"Standard",
+       {&TMainMenu::Class(), &TPopupMenu::Class(), &TLabel::Class(), &TEdit::Class(),
+        &TMemo::Class(), &TButton::Class(), &TCheckBox::Class(), &TRadioButton::Class(),
+        &TListBox::Class(), &TComboBox::Class(), &TGroupBox::Class(), &TPanel::Class()}},
+      {"Additional",
+       {&TBitBtn::Class(), &TSpeedButton::Class(), &TImage::Class(), &TBevel::Class()}},
+      {"Win32",
+       {&TPageControl::Class(), &TImageList::Class(), &TTrackBar::Class(), &TTreeView::Class(),
+        &TStatusBar::Class()}},
+      {"System", {&TTimer::Class()}},
+      {"Data Access", {&TDataSource::Class(), &TMemoryDataSet::Class()}},
+      {"Dialogs",
+       {&TOpenDialog::Class(), &TSaveDialog::Class(), &TFontDialog::Class(),
+        &TColorDialog::Class()}},
+      {"Internet", {&TClientSocket::Class()}},
+  };
+  for (const auto& [page, classes] : pages) RegisterComponents(page, classes);
+}
+
+}  // namespace ide
