@@ -16,6 +16,7 @@
 #include "host/rtl/classregistry.h"
 #include "mail/Qeltiemails.h"
 #include "services/Qeltformsaver.h"
+#include "services/Qeltmrumenu.h"
 #include "services/Qeltonlyone.h"
 #include "services/Qeltsystemtray.h"
 
@@ -43,6 +44,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELStoreData::Class(),
            &TQELSystemTray::Class(),
            &TQELFormSaver::Class(),
+           &TQELMRUMenu::Class(),
        }},
       {"QEL System/2",
        {
@@ -99,6 +101,8 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELStoreData::Class(),
       &TQELSystemTray::Class(),
       &TQELFormSaver::Class(),
+      &TQELMRUItem::Class(),
+      &TQELMRUMenu::Class(),
       &TQELOnlyOne::Class(),
       &TQELAttachment::Class(),
       &TQELAttachments::Class(),

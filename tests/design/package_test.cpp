@@ -33,7 +33,7 @@ TEST(Package, PutsItsComponentsOnTheirPages) {
   } expected[] = {
       {"QEL Controls/1", {"TQELBackground", "TQELLabel", "TQELButton", "TQELGauge", "TQELHint"}},
       {"QEL Controls/2", {"TQELSpinEdit"}},
-      {"QEL System/1", {"TQELStoreData", "TQELSystemTray", "TQELFormSaver"}},
+      {"QEL System/1", {"TQELStoreData", "TQELSystemTray", "TQELFormSaver", "TQELMRUMenu"}},
       {"QEL System/2", {"TQELOnlyOne", "TQELTimer32", "TQELPOPMail", "TQELSMTPMail"}},
   };
   ASSERT_EQ(pages.size(), std::size(expected));
