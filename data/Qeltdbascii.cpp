@@ -48,8 +48,7 @@ const vcl::TClass& TQELADFields::Class() {
   return info;
 }
 
-TQELADFields::TQELADFields(TQELDBAscii* owner)
-    : TCollection(TQELADField::Class()), FOwner(owner) {}
+TQELADFields::TQELADFields(TQELDBAscii* owner) : TCollection(TQELADField::Class()), FOwner(owner) {}
 
 TQELADField* TQELADFields::Add() { return static_cast<TQELADField*>(TCollection::Add()); }
 TQELADField* TQELADFields::GetItem(int index) const {
@@ -67,11 +66,11 @@ const vcl::TClass& TQELDBAscii::Class() {
           vcl::Property<&T::Filename, &T::SetFilename>("Filename"),
           vcl::Property<&T::DataSource, &T::SetDataSource>("DataSource"),
           vcl::Property<&T::PrintHeader, &T::SetPrintHeader>("PrintHeader"),
-          vcl::Event<&T::ImportBeforePost>("ImportBeforePost"),
-          vcl::Event<&T::ImportBeforeInsert>("ImportBeforeInsert"),
-          vcl::Event<&T::OnImportException>("OnImportException"),
-          vcl::Event<&T::OnImportSuccess>("OnImportSuccess"),
-          vcl::Event<&T::ExportBeforeWrite>("ExportBeforeWrite"),
+          vcl::Event<&T::ImportBeforePost>("ImportBeforePost").Type("TQELImportExportEvent"),
+          vcl::Event<&T::ImportBeforeInsert>("ImportBeforeInsert").Type("TQELImportExportEvent"),
+          vcl::Event<&T::OnImportException>("OnImportException").Type("TQELImportExportEvent"),
+          vcl::Event<&T::OnImportSuccess>("OnImportSuccess").Type("TQELImportExportEvent"),
+          vcl::Event<&T::ExportBeforeWrite>("ExportBeforeWrite").Type("TQELImportExportEvent"),
           vcl::Event<&T::OnExportDone>("OnExportDone"),
       });
   return info;

@@ -127,6 +127,3 @@ class QEL_API TQELDBAscii : public TQELComponent {
 };
 
 }  // namespace qel
-
-template <>
-inline constexpr const char* vcl::EventName<qel::TQELImportExportEvent> = "TQELImportExportEvent";

@@ -53,7 +53,7 @@ const vcl::TClass& TQELMRUMenu::Class() {
           Property<&T::AsSubMenu, &T::SetAsSubMenu>("AsSubMenu").Default(false),
           Property<&T::Separator, &T::SetSeparator>("Separator").Default(true),
           Property<&T::SubMenuname, &T::SetSubMenuname>("SubMenuname"),
-          Event<&T::OnItemClick>("OnItemClick"),
+          Event<&T::OnItemClick>("OnItemClick").Type("TQELMRUItemClick"),
           // Who reads the property by its table may look at the item itself.
           Property<&T::LiveMenu, &T::SetAttachToMenu>("AttachToMenu"),
           ReadOnly<&T::MRUStore>("MRUStore"),

@@ -124,6 +124,3 @@ class QEL_API TQELMRUMenu : public TQELComponent {
 };
 
 }  // namespace qel
-
-template <>
-inline constexpr const char* vcl::EventName<qel::TQELMRUItemClick> = "TQELMRUItemClick";
