@@ -3,8 +3,10 @@
 #include <cstdio>
 
 #include "bench/mail.h"
+#include "bench/records.h"
 
 int main() {
   std::printf("# Performance without a window\n\nRatios of medians; in brackets the two times.\n");
   bench::Mail();
+  bench::Records();
 }

@@ -19,16 +19,18 @@ function(qel_folder_sources result)
 endfunction()
 
 # qel_add_library(NAME BUILD_DEFINITION macro PORTABLE folders... WINDOWED folders...
-#                 WINDOW_FREE files... LIBRARIES targets... SYSTEM_LIBRARIES names...)
+#                 WINDOW_FREE files... LIBRARIES targets... SYSTEM_LIBRARIES names...
+#                 NATIVE_LIBRARIES names...)
 #
 # Adds the shared library NAME with all sources of its folders; elsewhere than on Windows only the
 # WINDOW_FREE files of the WINDOWED ones. Where there are no sources there is no target. The form
 # files (*.dfm) in the WINDOWED folders become its resources; a form class of the library gives
 # LoadForm its module.
+# SYSTEM_LIBRARIES are Windows's, NATIVE_LIBRARIES those that stand in for them elsewhere.
 # BUILD_DEFINITION is what the library's api.h asks for to know whether it exports or imports.
 function(qel_add_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "BUILD_DEFINITION"
-                        "PORTABLE;WINDOWED;WINDOW_FREE;LIBRARIES;SYSTEM_LIBRARIES")
+                        "PORTABLE;WINDOWED;WINDOW_FREE;LIBRARIES;SYSTEM_LIBRARIES;NATIVE_LIBRARIES")
   set(folders ${arg_PORTABLE})
   if(WIN32)
     list(APPEND folders ${arg_WINDOWED})
@@ -58,6 +60,8 @@ function(qel_add_library name)
     if(forms OR icons)
       qel_target_resources(${name} FORMS ${forms} RESOURCES ${icons})
     endif()
+  else()
+    target_link_libraries(${name} PRIVATE ${arg_NATIVE_LIBRARIES})
   endif()
   if(MINGW)
     # Only what is marked is exported, even while nothing is marked yet.

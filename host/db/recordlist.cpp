@@ -3,7 +3,7 @@
 namespace vcl {
 
 TRecordList::TEntry* TRecordList::Entry(int index) {
-  if (index < 0 || index >= Count()) return nullptr;
+  if (index < 0 || index >= Size()) return nullptr;
   const auto at = static_cast<std::size_t>(index);
   return at < FBefore.size() ? &FBefore[at] : &FBehind[FBehind.size() - 1 - (at - FBefore.size())];
 }
@@ -21,7 +21,7 @@ void TRecordList::MoveGap(std::size_t index) {
 void TRecordList::Insert(int index, const TRecord& record) {
   TEntry entry{FLastBookmark + 1, record};
   // Records that are appended stay before the gap, so that nothing is moved for the next one.
-  const bool append = index == Count();
+  const bool append = index == Size();
   MoveGap(static_cast<std::size_t>(index));
   (append ? FBefore : FBehind).push_back(std::move(entry));
   ++FLastBookmark;
@@ -37,7 +37,7 @@ void TRecordList::Erase(int index) {
 TBookmark TRecordList::BookmarkOf(int index) { return Entry(index)->Bookmark; }
 
 int TRecordList::IndexOf(TBookmark bookmark) {
-  for (int i = 0; i < Count(); ++i) {
+  for (int i = 0; i < Size(); ++i) {
     if (Entry(i)->Bookmark == bookmark) return i;
   }
   return -1;

@@ -29,13 +29,17 @@ class VCL_API TRecordStore {
 class VCL_API TRecordList : public TRecordStore {
  public:
   const TRecord* At(int index) override;
-  int Count() override { return static_cast<int>(FBefore.size() + FBehind.size()); }
+  int Count() override { return Size(); }
   void Insert(int index, const TRecord& record) override;
   void Replace(int index, const TRecord& record) override;
   void Erase(int index) override;
   TBookmark BookmarkOf(int index) override;
   int IndexOf(TBookmark bookmark) override;
   void Clear();
+
+ protected:
+  /// How many are in memory.
+  int Size() const { return static_cast<int>(FBefore.size() + FBehind.size()); }
 
  private:
   struct TEntry {

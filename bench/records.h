@@ -1,0 +1,8 @@
+// What exporting records costs.
+#pragma once
+
+namespace bench {
+
+void Records();
+
+}  // namespace bench

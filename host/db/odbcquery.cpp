@@ -1,0 +1,177 @@
+#include "host/db/odbcquery.h"
+
+#include "host/db/odbclive.h"
+#include "host/db/odbcrows.h"
+#include "host/rtl/properties.h"
+#include "host/rtl/text.h"
+
+namespace vcl {
+
+const TClass& TOdbcQuery::Class() {
+  using T = TOdbcQuery;
+  static const TClass info = Describe<T, TDataSet>(
+      "TOdbcQuery", "db",
+      {Property<&T::ConnectionString, &T::SetConnectionString>("ConnectionString"),
+       Property<&T::IdentityQuery, &T::SetIdentityQuery>("IdentityQuery").Default(std::string()),
+       Property<&T::RequestLive, &T::SetRequestLive>("RequestLive").Default(false),
+       Property<&T::SQL, &T::SetSQL>("SQL"),
+       Property<&T::UniDirectional, &T::SetUniDirectional>("UniDirectional").Default(false),
+       Inherit("Active"),        Inherit("BeforeOpen"),   Inherit("AfterOpen"),
+       Inherit("BeforeClose"),   Inherit("AfterClose"),   Inherit("BeforeInsert"),
+       Inherit("AfterInsert"),   Inherit("BeforeEdit"),   Inherit("AfterEdit"),
+       Inherit("BeforePost"),    Inherit("AfterPost"),    Inherit("BeforeCancel"),
+       Inherit("AfterCancel"),   Inherit("BeforeDelete"), Inherit("AfterDelete"),
+       Inherit("BeforeScroll"),  Inherit("AfterScroll"),  Inherit("BeforeRefresh"),
+       Inherit("AfterRefresh"),  Inherit("OnDeleteError"), Inherit("OnEditError"),
+       Inherit("OnNewRecord"),   Inherit("OnPostError")});
+  return info;
+}
+
+TOdbcQuery::TOdbcQuery(TComponent* owner)
+    : TDataSet(owner),
+      FSQL(std::make_unique<TStringList>()),
+      FParams(std::make_unique<TParams>()) {
+  FSQL->OnChange = [this](TObject*) { SQLChanged(); };
+}
+
+TOdbcQuery::~TOdbcQuery() {
+  AnnounceEnd();
+  Shut();
+}
+
+void TOdbcQuery::SQLChanged() {
+  Close();
+  FPrepared = FParams->Parse(FSQL->Text());
+}
+
+void TOdbcQuery::SetConnectionString(const std::string& text) {
+  if (text == FConnectionString) return;
+  SetConnected(false);
+  FConnectionString = text;
+}
+
+void TOdbcQuery::SetConnected(bool connected) {
+  if (connected == Connected()) return;
+  CheckInactive();
+  FStatement.reset();  // One that has failed may still be there.
+  FConnection = connected ? std::make_unique<odbc::TConnection>(FConnectionString) : nullptr;
+}
+
+void TOdbcQuery::SetRequestLive(bool requestLive) {
+  CheckInactive();
+  FRequestLive = requestLive;
+}
+
+void TOdbcQuery::SetUniDirectional(bool uniDirectional) {
+  CheckInactive();
+  FUniDirectional = uniDirectional;
+}
+
+bool TOdbcQuery::CanModify() const { return FLive && FLive->Known(); }
+
+void TOdbcQuery::Prepare() {
+  if (Trim(FPrepared).empty()) Refuse("There is no SQL to execute");
+  SetConnected(true);
+  FStatement = std::make_unique<odbc::TStatement>(*FConnection, FPrepared);
+}
+
+void TOdbcQuery::Execute() {
+  std::vector<odbc::TArgument> arguments;
+  for (const std::string& name : FParams->Places()) {
+    const TParam& param = *FParams->ParamByName(name);
+    arguments.push_back({param.Value(), param.DataType()});
+  }
+  FStatement->Execute(arguments);
+}
+
+int TOdbcQuery::ExecSQL() {
+  CheckInactive();
+  Prepare();
+  Execute();
+  const int affected = FStatement->RowsAffected();
+  FStatement.reset();
+  return affected;
+}
+
+TRecordStore& TOdbcQuery::InternalOpen() {
+  Prepare();
+  Execute();
+  if (FStatement->Columns().empty()) Refuse("The SQL has no records as its result: use ExecSQL");
+  DefineFields();
+  if (FRequestLive) {
+    FLive = std::make_unique<odbc::TLiveTable>(*FConnection, FStatement->Columns());
+  }
+  if (FUniDirectional) {
+    FRows = std::make_unique<odbc::TForwardRows>(*FStatement);
+  } else {
+    FRows = std::make_unique<odbc::TCachedRows>(*FStatement);
+  }
+  return *FRows;
+}
+
+/// The name, or with a number behind it when the query has it twice.
+std::string TOdbcQuery::FreeName(const std::string& name) const {
+  std::string free = name.empty() ? "Column" : name;
+  for (int i = 1; FieldDefs()->IndexOf(free) >= 0; ++i) free = Concat(name, "_", std::to_string(i));
+  return free;
+}
+
+void TOdbcQuery::DefineFields() {
+  FieldDefs()->Clear();
+  for (const odbc::TColumn& column : FStatement->Columns()) {
+    const std::string name = FreeName(column.Name);
+    TFieldDef* definition = FieldDefs()->Add(name, column.DataType, column.Size);
+    // What is computed by the query cannot be written.
+    definition->SetReadOnly(column.Table.empty());
+  }
+}
+
+void TOdbcQuery::InternalClose() {
+  FLive.reset();
+  FRows.reset();
+  FStatement.reset();
+}
+
+void TOdbcQuery::InternalFirst() {
+  if (FUniDirectional && !static_cast<odbc::TForwardRows&>(*FRows).AtBeginning()) InternalRefresh();
+}
+
+void TOdbcQuery::InternalRefresh() {
+  Execute();
+  if (FUniDirectional) {
+    static_cast<odbc::TForwardRows&>(*FRows).Restart();
+  } else {
+    static_cast<odbc::TCachedRows&>(*FRows).Restart();
+  }
+}
+
+void TOdbcQuery::InternalInsert(TRecord& record) {
+  // A query that is still running might come to meet the new record again.
+  if (!FUniDirectional) FRows->Count();
+  FLive->Insert(record, FIdentityQuery);
+}
+
+void TOdbcQuery::InternalUpdate(const TRecord& before, TRecord& record) {
+  FLive->Update(before, record);
+}
+
+void TOdbcQuery::InternalDelete(const TRecord& record) { FLive->Delete(record); }
+
+void TOdbcQuery::StartTransaction() {
+  SetConnected(true);
+  FConnection->StartTransaction();
+}
+
+void TOdbcQuery::Commit() {
+  SetConnected(true);
+  FConnection->EndTransaction(true);
+}
+
+void TOdbcQuery::Rollback() {
+  SetConnected(true);
+  FConnection->EndTransaction(false);
+}
+
+bool TOdbcQuery::InTransaction() const { return FConnection && FConnection->InTransaction(); }
+
+}  // namespace vcl
