@@ -104,7 +104,7 @@ class TQELDBAscii::TRun {
   bool Ended() const { return FComponent.Gone() || FData.Gone(); }
   /// Fires an event; false when it has ended the run.
   bool Fire(const TQELImportExportEvent& event, const std::string& text, TQELDBAscii* sender) {
-    event(sender, text);
+    if (event) event(sender, text);
     return !Ended();
   }
   /// Leaves the data set open or closed, as it was.
@@ -132,14 +132,13 @@ std::string TQELDBAscii::HeaderLine() const {
   return line;
 }
 
-std::string TQELDBAscii::RecordLine(const vcl::TDataSet& data) const {
+void TQELDBAscii::RecordLine(const vcl::TDataSet& data, std::string& line) const {
   const std::string delimiter = vcl::Utf8(FDelimiter);
-  std::string line;
+  line.clear();
   for (int i = 0; i < FFields->Count(); ++i) {
     if (i > 0) line += delimiter;
     line += data.FieldByName(FFields->GetItem(i)->DataField())->AsString();
   }
-  return line;
 }
 
 void TQELDBAscii::DoExport() {
@@ -157,8 +156,9 @@ void TQELDBAscii::WriteRecords(TRun& run) {
   run.Data.First();
   run.File.Rewrite(FFilename);
   if (FPrintHeader) run.File.WriteLn(HeaderLine());
+  std::string line;
   while (!run.Data.Eof()) {
-    const std::string line = RecordLine(run.Data);
+    RecordLine(run.Data, line);
     if (!run.Fire(ExportBeforeWrite, line, this)) return;
     run.File.WriteLn(line);
     run.Data.Next();

@@ -112,7 +112,7 @@ class QEL_API TQELDBAscii : public TQELComponent {
  private:
   class TRun;
   std::string HeaderLine() const;
-  std::string RecordLine(const vcl::TDataSet& data) const;
+  void RecordLine(const vcl::TDataSet& data, std::string& line) const;
   void WriteRecords(TRun& run);
   void ReadRecords(TRun& run);
   void ImportRecord(TRun& run, const std::string& record);

@@ -269,7 +269,8 @@ TField* TFields::Fields(int index) const {
 
 TField* TFields::FindField(std::string_view name) const {
   for (TField* field : FFields) {
-    if (field->FieldName().size() == name.size() && SameText(field->FieldName(), name)) return field;
+    const std::string& each = field->FieldName();
+    if (each == name || (each.size() == name.size() && SameText(each, name))) return field;
   }
   return nullptr;
 }

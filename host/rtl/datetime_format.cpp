@@ -26,6 +26,8 @@ constexpr std::string_view HalfDays[] = {"am/pm", "ampm", "a/p"};
 
 /// The one that the format begins with; empty when it does with none.
 std::string_view HalfDay(std::string_view format) {
+  // Asked at each place of a format, of which hardly one begins with their letter.
+  if (Lower(format.front()) != 'a') return {};
   for (std::string_view each : HalfDays) {
     if (BeginsWith(format, each)) return format.substr(0, each.size());
   }
