@@ -37,7 +37,8 @@ function(qel_add_test area)
   endif()
 
   if(arg_LAUNCHER)
-    add_test(NAME ${QEL_BUILD_NAME}/${area} COMMAND ${arg_LAUNCHER} $<TARGET_FILE:${target}>)
+    add_test(NAME ${QEL_BUILD_NAME}/${area}
+             COMMAND ${arg_LAUNCHER} ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${target}>)
   else()
     add_test(NAME ${QEL_BUILD_NAME}/${area} COMMAND ${target})
   endif()

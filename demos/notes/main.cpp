@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <exception>
 
+#include "demos/common/commandline.h"
 #include "demos/common/formpicture.h"
-#include "demos/notes/commandline.h"
 #include "demos/notes/notesform.h"
 #include "demos/notes/screenshots.h"
 #include "host/vcl/application.h"
@@ -17,7 +17,7 @@ using namespace notes;
 using vcl::Application;
 
 int RunNotes() {
-  const TCommandLine& line = CommandLine();
+  const demos::TCommandLine& line = demos::CommandLine();
   demos::MakeFolder(line.SettingsFolder);
   Application()->Initialize();
   // The guard knows copies of the program by this title.
@@ -33,7 +33,7 @@ int RunNotes() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (!ReadCommandLine(argc, argv)) {
+  if (!demos::ReadCommandLine(argc, argv, "Notes")) {
     std::fprintf(stderr, "Usage: notes [FILE] [--settings DIR] | --screenshot DIR\n");
     return 2;
   }
@@ -41,7 +41,8 @@ int main(int argc, char** argv) {
     return RunNotes();
   } catch (const std::exception& error) {
     std::fprintf(stderr, "notes: %s\n", error.what());
-    if (CommandLine().ScreenshotFolder.empty()) Application()->HandleException(nullptr, error);
+    if (demos::CommandLine().ScreenshotFolder.empty())
+      Application()->HandleException(nullptr, error);
     return 1;
   }
 }

@@ -1,6 +1,6 @@
 #include "demos/notes/notesform.h"
 
-#include "demos/notes/commandline.h"
+#include "demos/common/commandline.h"
 #include "host/rtl/exceptions.h"
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
@@ -72,7 +72,8 @@ const TClass& TNotesForm::Class() {
   return info;
 }
 
-TNotesForm::TNotesForm(TComponent* owner) : TForm(owner), FRecovery(CommandLine().SettingsFolder) {
+TNotesForm::TNotesForm(TComponent* owner)
+    : TForm(owner), FRecovery(demos::CommandLine().SettingsFolder) {
   LoadForm();
   ReadOptions(*Settings, FOptions, *Editor->Font());
   FFormat.LineEnds = FOptions.NewLineEnds;
@@ -94,7 +95,7 @@ void TNotesForm::Loaded() {
   for (qel::TQELDataStore* store :
        {Settings->DataStore(), WindowSaver->FormStore(), RecentFiles->MRUStore()}) {
     qel::TQELIniFile& file = *store->Inifile();
-    file.SetFilename(CommandLine().SettingsFolder + "\\" + file.Filename());
+    file.SetFilename(demos::CommandLine().SettingsFolder + "\\" + file.Filename());
   }
 }
 
@@ -117,7 +118,7 @@ void TNotesForm::FormShow(TObject*) { ::PostMessageW(Handle(), WM_BEGIN, 0, 0); 
 void TNotesForm::Begin() {
   EnterTray();
   OfferUnsaved();
-  OpenIfWanted(CommandLine().FileName);
+  OpenIfWanted(demos::CommandLine().FileName);
 }
 
 // Without a shell there is no tray, and the taskbar has to do.
@@ -170,7 +171,7 @@ void TNotesForm::TrayShowClick(TObject*) {
 
 // This copy ends soon: the other one opens what this one was started with.
 void TNotesForm::GuardExceeded(TObject*, int) {
-  const std::string& fileName = CommandLine().FileName;
+  const std::string& fileName = demos::CommandLine().FileName;
   const HWND other = fileName.empty() ? nullptr : ::FindWindowW(L"TNotesForm", nullptr);
   if (!other) return;
   wchar_t full[MAX_PATH] = L"";

@@ -1,7 +1,7 @@
 // TNotesForm: files, and text that is not saved.
 #include <exception>
 
-#include "demos/notes/commandline.h"
+#include "demos/common/commandline.h"
 #include "demos/notes/notesform.h"
 #include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"

@@ -2,34 +2,14 @@
 
 #include <algorithm>
 
+#include "demos/common/storedvalues.h"
+
 namespace notes {
 
 using namespace vcl;
 
-namespace {
-
-/// The store gives its error value for what is not there: make it the value to stay.
-struct TReading {
-  qel::TQELDataStore& Store;
-
-  bool Bool(const char* name, bool value) const {
-    Store.SetErrorBool(value);
-    return Store.ReadBool(name);
-  }
-  int Int(const char* name, int value) const {
-    Store.SetErrorInt(value);
-    return Store.ReadInt(name);
-  }
-  std::string Str(const char* name, const std::string& value) const {
-    Store.SetErrorStr(value);
-    return Store.ReadStr(name);
-  }
-};
-
-}  // namespace
-
 void ReadOptions(qel::TQELStoreData& settings, TOptions& options, TFont& font) {
-  const TReading read{*settings.DataStore()};
+  const demos::TStoredValues read{*settings.DataStore()};
   options.WordWrap = read.Bool("WordWrap", options.WordWrap);
   options.CloseToTray = read.Bool("CloseToTray", options.CloseToTray);
   options.KeepSeconds = std::clamp(read.Int("KeepSeconds", options.KeepSeconds), 1, 600);

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "demos/notes/commandline.h"
+#include "demos/common/commandline.h"
 #include "demos/notes/notesform.h"
 #include "host/vcl/application.h"
 #include "tests/support/importpatch.h"
@@ -50,7 +50,7 @@ BOOL WINAPI NoMove(LPCWSTR from, LPCWSTR to, DWORD flags) {
 int RunUntilIt(int count, char** arguments) {
   using vcl::Application;
   const std::string function = arguments[0];
-  if (!notes::ReadCommandLine(count, arguments)) return 2;
+  if (!demos::ReadCommandLine(count, arguments, "Notes")) return 2;
   std::unique_ptr<TImportPatch> patch;
   if (function == "WriteFile")
     patch = std::make_unique<TImportPatch>(Self, "WriteFile", &HalfWrite);

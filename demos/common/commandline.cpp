@@ -1,11 +1,11 @@
-#include "demos/notes/commandline.h"
+#include "demos/common/commandline.h"
 
 #include <cstdlib>
 
 #include "host/rtl/text.h"
 #include "host/vcl/windowtext.h"
 
-namespace notes {
+namespace demos {
 
 namespace {
 
@@ -14,16 +14,16 @@ TCommandLine& Mutable() {
   return line;
 }
 
-std::string UsersFolder() {
+std::string UsersFolder(const std::string& program) {
   const wchar_t* const data = ::_wgetenv(L"APPDATA");
-  return vcl::Concat(data ? vcl::ToUtf8(data) : std::string("."), "\\Notes");
+  return vcl::Concat(data ? vcl::ToUtf8(data) : std::string("."), "\\", program);
 }
 
 }  // namespace
 
 const TCommandLine& CommandLine() { return Mutable(); }
 
-bool ReadCommandLine(int argc, char** argv) {
+bool ReadCommandLine(int argc, char** argv, const std::string& program) {
   TCommandLine& line = Mutable();
   for (int i = 1; i < argc; ++i) {
     const std::string argument = argv[i];
@@ -40,8 +40,8 @@ bool ReadCommandLine(int argc, char** argv) {
   }
   if (line.SettingsFolder.empty())
     line.SettingsFolder =
-        line.ScreenshotFolder.empty() ? UsersFolder() : line.ScreenshotFolder + "\\settings";
+        line.ScreenshotFolder.empty() ? UsersFolder(program) : line.ScreenshotFolder + "\\settings";
   return true;
 }
 
-}  // namespace notes
+}  // namespace demos

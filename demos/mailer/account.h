@@ -1,0 +1,30 @@
+// The user's mail account, as it is remembered.
+#pragma once
+
+#include <string>
+
+#include "core/Qeltstoredata.h"
+
+namespace mailer {
+
+struct TAccount {
+  std::string Name, Address;
+  std::string SmtpHost, SmtpPort = "25";
+  std::string PopHost, PopPort = "110";
+  std::string User, Password;
+  bool KeepPassword = false;    ///< The user wants the password stored.
+  bool DeleteOfServer = false;  ///< Mails that have been fetched.
+};
+
+/// Reads what is there; the rest stays as it is.
+void ReadAccount(qel::TQELStoreData& settings, TAccount& account);
+/// The password is written only when it is to be kept, and else removed from the store.
+void WriteAccount(qel::TQELStoreData& settings, const TAccount& account);
+
+/// What is wrong with the account; empty when mail can be sent, or fetched, with it.
+std::string SendingProblem(const TAccount& account);
+std::string FetchingProblem(const TAccount& account);
+/// Whether a text is a port's number, 1 to 65535.
+bool IsPort(const std::string& text);
+
+}  // namespace mailer

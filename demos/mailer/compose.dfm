@@ -1,0 +1,105 @@
+object ComposeForm: TComposeForm
+  Left = 180
+  Top = 130
+  ActiveControl = ToEdit
+  BorderIcons = [biSystemMenu]
+  BorderStyle = bsDialog
+  Caption = 'New mail'
+  ClientHeight = 330
+  ClientWidth = 500
+  Color = clBtnFace
+  Position = poScreenCenter
+  object ToLabel: TLabel
+    Left = 12
+    Top = 14
+    Width = 60
+    Height = 13
+    Caption = '&To:'
+    FocusControl = ToEdit
+  end
+  object ToEdit: TEdit
+    Left = 80
+    Top = 10
+    Width = 408
+    Height = 21
+    Hint = 'Addresses with commas between them'
+    TabOrder = 0
+  end
+  object SubjectLabel: TLabel
+    Left = 12
+    Top = 42
+    Width = 60
+    Height = 13
+    Caption = 'S&ubject:'
+    FocusControl = SubjectEdit
+  end
+  object SubjectEdit: TEdit
+    Left = 80
+    Top = 38
+    Width = 408
+    Height = 21
+    TabOrder = 1
+  end
+  object TextMemo: TMemo
+    Left = 12
+    Top = 68
+    Width = 476
+    Height = 150
+    ScrollBars = ssVertical
+    TabOrder = 2
+  end
+  object FileList: TListBox
+    Left = 12
+    Top = 226
+    Width = 384
+    Height = 58
+    TabOrder = 3
+    OnClick = FilesClick
+  end
+  object AttachButton: TButton
+    Left = 404
+    Top = 226
+    Width = 84
+    Height = 25
+    Caption = '&Attach...'
+    TabOrder = 4
+    OnClick = AttachClick
+  end
+  object RemoveButton: TButton
+    Left = 404
+    Top = 256
+    Width = 84
+    Height = 25
+    Caption = '&Remove'
+    Enabled = False
+    TabOrder = 5
+    OnClick = RemoveClick
+  end
+  object SendButton: TButton
+    Left = 312
+    Top = 296
+    Width = 84
+    Height = 25
+    Caption = '&Send'
+    Default = True
+    TabOrder = 6
+    OnClick = SendClick
+  end
+  object CancelButton: TButton
+    Left = 404
+    Top = 296
+    Width = 84
+    Height = 25
+    Cancel = True
+    Caption = 'Cancel'
+    ModalResult = mrCancel
+    TabOrder = 7
+  end
+  object OpenDialog: TOpenDialog
+    Filter = 'All files|*.*'
+    Options = [ofHideReadOnly, ofNoChangeDir, ofAllowMultiSelect, ofPathMustExist, ofFileMustExist, ofEnableSizing]
+    Title = 'Attach'
+    Left = 24
+    Top = 84
+  end
+end

@@ -1,0 +1,120 @@
+#include "demos/mailer/mailerform.h"
+
+#include "demos/common/commandline.h"
+#include "host/rtl/properties.h"
+#include "host/rtl/text.h"
+#include "host/vcl/application.h"
+
+namespace mailer {
+
+using namespace vcl;
+
+const TClass& TMailerForm::Class() {
+  using T = TMailerForm;
+  static const TClass info =
+      Describe<T, TForm>("TMailerForm", "mailerform",
+                         {
+                             Field<&T::ComposeButton>("ComposeButton"),
+                             Field<&T::FetchButton>("FetchButton"),
+                             Field<&T::AccountButton>("AccountButton"),
+                             Field<&T::AbortButton>("AbortButton"),
+                             Field<&T::Gauge>("Gauge"),
+                             Field<&T::MailList>("MailList"),
+                             Field<&T::HeaderLabel>("HeaderLabel"),
+                             Field<&T::TextMemo>("TextMemo"),
+                             Field<&T::AttachmentList>("AttachmentList"),
+                             Field<&T::SaveButton>("SaveButton"),
+                             Field<&T::StatusBar>("StatusBar"),
+                             Field<&T::SaveDialog>("SaveDialog"),
+                             Field<&T::Settings>("Settings"),
+                             Field<&T::Sender>("Sender"),
+                             Field<&T::Receiver>("Receiver"),
+                             Method<&T::FormClose>("FormClose"),
+                             Method<&T::MailListClick>("MailListClick"),
+                             Method<&T::AttachmentListClick>("AttachmentListClick"),
+                             Method<&T::SaveClick>("SaveClick"),
+                             Method<&T::ComposeClick>("ComposeClick"),
+                             Method<&T::FetchClick>("FetchClick"),
+                             Method<&T::AccountClick>("AccountClick"),
+                             Method<&T::AbortClick>("AbortClick"),
+                             Method<&T::MailError>("MailError"),
+                             Method<&T::MailProgress>("MailProgress"),
+                             Method<&T::EncodeStart>("EncodeStart"),
+                             Method<&T::MailSent>("MailSent"),
+                             Method<&T::MailBegins>("MailBegins"),
+                             Method<&T::MailFetched>("MailFetched"),
+                         });
+  return info;
+}
+
+TMailerForm::TMailerForm(TComponent* owner) : TForm(owner) {
+  LoadForm();
+  ReadAccount(*Settings, FAccount);
+  ShowRunning(false);
+}
+
+TMailerForm::~TMailerForm() = default;
+
+void TMailerForm::Loaded() {
+  TForm::Loaded();
+  qel::TQELIniFile& file = *Settings->DataStore()->Inifile();
+  file.SetFilename(demos::CommandLine().SettingsFolder + "\\" + file.Filename());
+}
+
+// A session that still runs ends with the window.
+void TMailerForm::FormClose(TObject* sender, TCloseAction&) { AbortClick(sender); }
+
+void TMailerForm::SetAccount(const TAccount& account) {
+  FAccount = account;
+  WriteAccount(*Settings, FAccount);
+}
+
+void TMailerForm::Tell(const std::string& message) { StatusBar->SetSimpleText(message); }
+
+// Mails.
+
+void TMailerForm::ListMails() {
+  TStrings& items = *MailList->Items();
+  while (items.Count() > Mails().Count()) items.Delete(items.Count() - 1);
+  for (int i = items.Count(); i < Mails().Count(); ++i) {
+    const qel::TQELMessage& mail = *Mails().GetQELMessage(i);
+    const std::string name = mail.FromName().empty() ? mail.FromMail() : mail.FromName();
+    items.Add(Concat(Trim(name), ": ", mail.Subject()));
+  }
+  MailListClick(nullptr);
+}
+
+void TMailerForm::MailListClick(TObject*) {
+  if (MailList->ItemIndex() >= 0) ShowMail(MailList->ItemIndex());
+}
+
+void TMailerForm::ShowMail(int index) {
+  const qel::TQELMessage& mail = *Mails().GetQELMessage(index);
+  MailList->SetItemIndex(index);
+  HeaderLabel->SetCaption(Concat("From:  ", Trim(mail.FromName()), " <", mail.FromMail(),
+                                 ">\nTo:  ", mail.SendTo(), "\nDate:  ", mail.Date(),
+                                 "\nSubject:  ", mail.Subject()));
+  TextMemo->SetText(mail.Message()->Text());
+  AttachmentList->Items()->Clear();
+  for (int i = 0; i < mail.Attachments()->Count(); ++i) {
+    AttachmentList->Items()->Add(NamePart(mail.Attachments()->GeTQELAttachment(i)->FileName()));
+  }
+  if (mail.Attachments()->Count() > 0) AttachmentList->SetItemIndex(0);
+  AttachmentListClick(nullptr);
+}
+
+void TMailerForm::AttachmentListClick(TObject*) {
+  SaveButton->SetEnabled(AttachmentList->ItemIndex() >= 0);
+}
+
+void TMailerForm::SaveClick(TObject*) {
+  const qel::TQELAttachment& attachment = *Mails()
+                                               .GetQELMessage(MailList->ItemIndex())
+                                               ->Attachments()
+                                               ->GeTQELAttachment(AttachmentList->ItemIndex());
+  // The sender has chosen the name, and must not choose a folder with it.
+  SaveDialog->SetFileName(NamePart(attachment.FileName()));
+  if (SaveDialog->Execute()) attachment.SaveToFile(SaveDialog->FileName());
+}
+
+}  // namespace mailer

@@ -1,0 +1,94 @@
+// TMailerForm: the main window, the mails that have been fetched.
+#pragma once
+
+#include <string>
+
+#include "controls/Qeltgauge.h"
+#include "core/Qeltstoredata.h"
+#include "demos/mailer/account.h"
+#include "demos/mailer/draft.h"
+#include "host/vcl/comctrls.h"
+#include "host/vcl/dialogs.h"
+#include "host/vcl/extctrls.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/stdctrls.h"
+#include "mail/Qeltiemails.h"
+
+namespace mailer {
+
+/// The form of mailer.dfm. mailerform.cpp shows mails and saves attachments,
+/// mailerform_sessions.cpp talks to the servers.
+class TMailerForm : public vcl::TForm {
+ public:
+  explicit TMailerForm(vcl::TComponent* owner);
+  ~TMailerForm() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  const TAccount& Account() const { return FAccount; }
+  /// The account for what follows, which is remembered.
+  void SetAccount(const TAccount& account);
+  /// Sends a mail. When it has not gone out: raises an exception with the server's refusal, or
+  /// EAbort when the reason has been shown or the user ended the session.
+  void Send(const TDraft& draft);
+  /// Fetches the mailbox's mails and returns how many of them are new. Raises as Send does; what
+  /// has been fetched until then stays.
+  int Fetch();
+  /// The mails that have been fetched.
+  qel::TQELMessages& Mails() const { return *Receiver->Messages(); }
+  /// Shows one of them, counted from 0.
+  void ShowMail(int index);
+
+ protected:
+  void Loaded() override;
+
+ private:
+  // What the form file fills.
+  vcl::TButton* ComposeButton = nullptr;
+  vcl::TButton* FetchButton = nullptr;
+  vcl::TButton* AccountButton = nullptr;
+  vcl::TButton* AbortButton = nullptr;
+  qel::TQELGauge* Gauge = nullptr;
+  vcl::TListBox* MailList = nullptr;
+  vcl::TLabel* HeaderLabel = nullptr;
+  vcl::TMemo* TextMemo = nullptr;
+  vcl::TListBox* AttachmentList = nullptr;
+  vcl::TButton* SaveButton = nullptr;
+  vcl::TStatusBar* StatusBar = nullptr;
+  vcl::TSaveDialog* SaveDialog = nullptr;
+  qel::TQELStoreData* Settings = nullptr;
+  qel::TQELSMTPMail* Sender = nullptr;
+  qel::TQELPOPMail* Receiver = nullptr;
+
+  void FormClose(vcl::TObject* sender, vcl::TCloseAction& action);
+  void MailListClick(vcl::TObject* sender);
+  void AttachmentListClick(vcl::TObject* sender);
+  void SaveClick(vcl::TObject* sender);
+  void ListMails();
+  void Tell(const std::string& message);
+
+  // Sessions.
+  void ComposeClick(vcl::TObject* sender);
+  void FetchClick(vcl::TObject* sender);
+  void AccountClick(vcl::TObject* sender);
+  void AbortClick(vcl::TObject* sender);
+  void MailError(vcl::TObject* sender, int code, const std::string& text);
+  void MailProgress(vcl::TObject* sender, std::uint16_t percent);
+  void EncodeStart(vcl::TObject* sender, const std::string& fileName, int size);
+  void MailSent(vcl::TObject* sender);
+  void MailBegins(vcl::TObject* sender, std::uint16_t index);
+  void MailFetched(vcl::TObject* sender);
+  /// Asks for the account as long as there is a problem with it; false when the user gives up.
+  bool Solve(std::string (*problem)(const TAccount&));
+  bool AskAccount();
+  bool RunSession(qel::TQELMailHost& mail);
+  void ShowRunning(bool running);
+  [[noreturn]] void RaiseFailure() const;
+  int DropKnown(int known);
+
+  TAccount FAccount;
+  std::string FRefusal;  ///< By a server, in the last session.
+  bool FSent = false;    ///< The last session's mail.
+};
+
+}  // namespace mailer
