@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/vcl/bitmap.h"
 #include "host/vcl/menus.h"
 #include "host/vcl/wincontrol.h"
 #include "ide/inspectorrows.h"
@@ -136,6 +137,7 @@ class TInspectorGrid : public vcl::TCustomControl {
   std::string FSearch;
   DWORD FSearchTime = 0;
   std::exception_ptr FError;
+  vcl::TBitmap FLine;  // What a line is drawn on first.
 };
 
 }  // namespace ide

@@ -2,7 +2,6 @@
 // picture of its own first, so that none is seen half-painted.
 #include <algorithm>
 
-#include "host/vcl/bitmap.h"
 #include "host/vcl/canvas.h"
 #include "host/vcl/fontmetrics.h"
 #include "ide/inspectorgrid.h"
@@ -65,8 +64,8 @@ void TInspectorGrid::Paint() {
 void TInspectorGrid::PaintRow(int index) {
   const TRect place = RowRect(index);
   const TInspectorRow& row = Row(index);
-  vcl::TBitmap picture(place.Width(), place.Height());
-  vcl::TCanvas* canvas = picture.Canvas();
+  FLine.SetSize(place.Width(), place.Height());
+  vcl::TCanvas* canvas = FLine.Canvas();
   canvas->SetFont(Font());
   const int bottom = place.Height() - 1;
   Fill(canvas, {0, 0, place.Width(), place.Height()}, vcl::clBtnFace);  // The lines stay of it.
@@ -77,7 +76,7 @@ void TInspectorGrid::PaintRow(int index) {
     button.Offset(0, -place.Top);
     PaintButton(canvas, button);
   }
-  Canvas()->Draw(0, place.Top, &picture);
+  Canvas()->Draw(0, place.Top, &FLine);
 }
 
 TRect TInspectorGrid::SignRect(const TInspectorRow& row, const TRect& cell) const {

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "host/designintf/package.h"
+#include "host/designintf/registration.h"
 #include "host/vcl/vcl.h"
 #include "ide/inspectorgrid.h"
 #include "tests/support/plaindesigner.h"
@@ -287,6 +289,27 @@ TEST_F(Inspector, TheSplitterIsDragged) {
   EXPECT_EQ(Grid().Splitter(), before + 25);
   Inspected->ShowEvents(true);
   EXPECT_EQ(Grid().Splitter(), before + 25);
+}
+
+TEST_F(Inspector, EveryComponentOfThePackageIsShownUnfolded) {
+  const vcl::TPackage package("qel.dll");
+  Designer.Form.SetDesigning(true);
+  for (const auto& [page, classes] : vcl::RegisteredComponents()) {
+    for (const vcl::TClass* each : classes) {
+      SCOPED_TRACE(each->Name());
+      const std::unique_ptr<vcl::TComponent> made(each->Maker().Component(&Designer.Form));
+      made->SetName("Shown1");
+      Select({made.get()});
+      for (int row = 0; row < Grid().RowCount(); ++row) {
+        Grid().SetExpanded(row, true);
+      }
+      EXPECT_TRUE(Grid().SelectRow(Grid().RowCount() - 1));
+      Inspected->ShowEvents(true);
+      Inspected->Update();
+      Inspected->ShowEvents(false);
+      Select({});
+    }
+  }
 }
 
 }  // namespace
