@@ -107,6 +107,8 @@ class VCL_API TCustomTreeView : public TWinControl {
   /// The user has edited the text. The inherited method gives it to OnEdited, then to the node.
   virtual void Edit(TTreeNode* node, std::string text);
   virtual void Delete(TTreeNode* node);
+  /// The node's text for the window, which shows or measures it.
+  virtual std::string GetText(TTreeNode* node) { return node->Text(); }
   /// Asked before a picture is shown; they set the node's index.
   virtual void GetImageIndex(TTreeNode* node);
   virtual void GetSelectedIndex(TTreeNode* node);

@@ -249,9 +249,13 @@ void TCustomTreeView::TellItem(NMTVDISPINFOW& asked) {
   TVITEMW& item = asked.item;
   TTreeNode* node = NodeOf(item);
   if (!node) return;
-  FTelling = node;
+  const struct TTell {
+    TTreeNode*& Telling;
+    TTreeNode* Former;
+    ~TTell() { Telling = Former; }
+  } tell{FTelling, std::exchange(FTelling, node)};
   if (item.mask & TVIF_TEXT) {
-    ::lstrcpynW(item.pszText, ToUtf16(node->Text()).c_str(), item.cchTextMax);
+    ::lstrcpynW(item.pszText, ToUtf16(GetText(node)).c_str(), item.cchTextMax);
   }
   if (item.mask & TVIF_CHILDREN) item.cChildren = node->HasChildren();
   if (item.mask & TVIF_IMAGE) {
@@ -262,7 +266,6 @@ void TCustomTreeView::TellItem(NMTVDISPINFOW& asked) {
     GetSelectedIndex(node);
     if (FTelling) item.iSelectedImage = node->SelectedIndex();
   }
-  FTelling = nullptr;
 }
 
 /// Keeps an event until the window has done with the message that brought it: a handler may free

@@ -17,6 +17,7 @@
 #include "services/Qeltmrumenu.h"
 #include "services/Qeltonlyone.h"
 #include "services/Qeltsystemtray.h"
+#include "shell/Qeltexplorertree.h"
 
 inline void RegisterAll() {
   vcl::RegisterClasses({&qel::TQELFont3D::Class(),     &qel::TQELGradient::Class(),
@@ -32,5 +33,6 @@ inline void RegisterAll() {
                         &qel::TQELDataStore::Class(),  &qel::TQELStoreData::Class(),
                         &qel::TQELFormSaver::Class(),  &qel::TQELSMTPMail::Class(),
                         &qel::TQELPOPMail::Class(),    &qel::TQELMRUItem::Class(),
-                        &qel::TQELMRUMenu::Class(),    &qel::TQELDBAscii::Class()});
+                        &qel::TQELMRUMenu::Class(),    &qel::TQELExplorerTree::Class(),
+                        &qel::TQELDBAscii::Class()});
 }

@@ -1,0 +1,109 @@
+// TQELExplorerTree: folders that the user makes, renames and deletes.
+#include <algorithm>
+
+#include "host/rtl/exceptions.h"
+#include "host/rtl/text.h"
+#include "host/vcl/dialogs.h"
+#include "shell/Qeltexplorertree.h"
+#include "shell/folders.h"
+
+namespace qel {
+namespace {
+
+void CheckNotOnTop(const TQELExplorerNode* node, const char* what) {
+  if (node->Parent()) return;
+  throw vcl::EInOutError(vcl::Concat("'", node->Folder(), "' cannot be ", what));
+}
+
+void CheckName(const std::string& name) {
+  const bool dots = name.find_first_not_of(". ") == std::string::npos;
+  if (!dots && name.find_first_of("\\/:*?\"<>|") == std::string::npos) return;
+  throw vcl::EInOutError(vcl::Concat("'", name, "' cannot be the name of a folder"));
+}
+
+}  // namespace
+
+TQELExplorerNode* TQELExplorerTree::AddPath(const std::string& path) {
+  std::string given(vcl::Trim(path));
+  const bool absolute = given.find(':') == 1 || given.starts_with("\\") || given.starts_with("/");
+  const std::string folder = folders::Normalized(absolute ? given : FDirectory + given);
+  if (given.empty() || folder.empty()) throw vcl::EInOutError("Invalid Directory Name");
+  folders::Make(folder);
+  // The folders above may have been read before there was this one.
+  for (std::string above = folder; !(above = folders::ParentOf(above)).empty();) {
+    if (TQELExplorerNode* node = GetNodeFromPath(above)) {
+      node->FButtonKnown = false;
+      ReadAgain(node);
+      break;
+    }
+  }
+  return GetNodeFromPath(folder);
+}
+
+void TQELExplorerTree::RenamePath(TQELExplorerNode* node, const std::string& name) {
+  CheckNotOnTop(node, "renamed");
+  CheckName(name);
+  const std::string folder = folders::ParentOf(node->Folder()) + name + "\\";
+  folders::Rename(node->Folder(), folder);
+  MoveFolder(node, folder);
+  std::vector<std::string> order;
+  for (vcl::TTreeNode* each = node->Parent()->GetFirstChild(); each;
+       each = each->GetNextSibling()) {
+    order.push_back(static_cast<TQELExplorerNode*>(each)->Folder());
+  }
+  folders::Sort(order);
+  const auto next = std::ranges::find(order, folder) + 1;
+  vcl::TTreeNode* place = next == order.end() ? nullptr : GetNodeFromPath(*next);
+  if (place == node->GetNextSibling()) return;
+  place ? node->MoveTo(place, vcl::naInsert) : node->MoveTo(node->Parent(), vcl::naAddChild);
+}
+
+/// The folder is somewhere else, and with it all below it.
+void TQELExplorerTree::MoveFolder(TQELExplorerNode* node, const std::string& folder) {
+  node->SetFolder(folder);
+  node->AskShell();
+  if (node == Selected()) Change(node);
+  for (vcl::TTreeNode* each = node->GetFirstChild(); each; each = each->GetNextSibling()) {
+    auto* child = static_cast<TQELExplorerNode*>(each);
+    MoveFolder(child, folder + folders::NameOf(child->Folder()) + "\\");
+  }
+}
+
+bool TQELExplorerTree::DeletePath(TQELExplorerNode* node) {
+  CheckNotOnTop(node, "deleted");
+  const std::string question = vcl::Concat("Put the folder '", node->Folder(),
+                                           "' and all it contains into the recycle bin?");
+  vcl::TTreeNodeWatch watch(node);
+  if (vcl::MessageDlg(question, vcl::mtConfirmation, {vcl::mbYes, vcl::mbNo}) != vcl::mrYes) {
+    return false;
+  }
+  if (watch.Gone()) return false;
+  if (!folders::Recycle(node->Folder(), Handle())) return false;
+  if (!watch.Gone()) DropNode(node);
+  return true;
+}
+
+bool TQELExplorerTree::CanEdit(vcl::TTreeNode* node) {
+  return node->Parent() && TCustomTreeView::CanEdit(node);
+}
+
+void TQELExplorerTree::Edit(vcl::TTreeNode* node, std::string text) {
+  vcl::TTreeNodeWatch watch(node);
+  OnEdited(this, node, text);
+  if (!watch.Gone() && text != node->Text()) {
+    RenamePath(static_cast<TQELExplorerNode*>(node), text);
+  }
+}
+
+void TQELExplorerTree::KeyDown(std::uint16_t& key, vcl::TShiftState shift) {
+  vcl::TWatch watch(this);
+  TCustomTreeView::KeyDown(key, shift);
+  if (watch.Gone() || shift != vcl::TShiftState{}) return;
+  auto* node = static_cast<TQELExplorerNode*>(Selected());
+  if (key == VK_F5) return ReadNew();
+  if (ReadOnly() || !node || !node->Parent()) return;
+  if (key == VK_F2) node->EditText();
+  if (key == VK_DELETE) DeletePath(node);
+}
+
+}  // namespace qel

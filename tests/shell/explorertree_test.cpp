@@ -1,0 +1,275 @@
+// The explorer tree on real folders.
+#include "shell/Qeltexplorertree.h"
+
+#include <shellapi.h>
+
+#include <filesystem>
+#include <iostream>
+
+#include "host/vcl/messagedialog.h"
+#include "host/vcl/windowtext.h"
+#include "tests/support/importpatch.h"
+#include "tests/vcl/standardform.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using qel::TQELExplorerNode;
+using qel::TQELExplorerTree;
+
+class TTree : public TQELExplorerTree {
+ public:
+  using TQELExplorerTree::RecreateWnd;
+  using TQELExplorerTree::TQELExplorerTree;
+};
+
+UINT WINAPI ZIsRemote(LPCSTR root) { return *root == 'Z' ? DRIVE_REMOTE : DRIVE_FIXED; }
+
+std::wstring recycled;
+int WINAPI Recycle(LPSHFILEOPSTRUCTW operation) {
+  recycled = operation->fFlags & FOF_ALLOWUNDO ? operation->pFrom : L"not to the bin";
+  return 0;
+}
+
+/// Where a folder is a Unix system's, each new name is compared with all others there, unless the
+/// folder is named in that system's way.
+std::wstring Plain(const fs::path& folder) {
+  const auto unixName = reinterpret_cast<char*(CDECL*)(const wchar_t*)>(reinterpret_cast<void*>(
+      ::GetProcAddress(::GetModuleHandleA("kernel32.dll"), "wine_get_unix_file_name")));
+  if (!unixName) return folder.wstring();
+  return L"\\\\?\\unix" + vcl::ToUtf16(unixName(folder.c_str()));
+}
+
+void MakeMany(const fs::path& folder, int count) {
+  const std::wstring start = Plain(folder) + L"\\f";
+  for (int i = 0; i < count; ++i) {
+    ::CreateDirectoryW((start + std::to_wstring(i)).c_str(), nullptr);
+  }
+}
+
+void RemoveMany(const fs::path& folder, int count) {
+  const std::wstring start = Plain(folder) + L"\\f";
+  for (int i = 0; i < count; ++i) ::RemoveDirectoryW((start + std::to_wstring(i)).c_str());
+}
+
+class ExplorerTree : public vcl::TStandardForm {
+ protected:
+  ExplorerTree() : Tree(new TTree(&Form)) {
+    wchar_t temp[MAX_PATH];
+    ::GetTempPathW(MAX_PATH, temp);
+    Root = fs::path(temp) / (L"explorer" + std::to_wstring(::GetCurrentProcessId()));
+    Make(L"b");
+    Make(L"a/a1/a2");
+    Make(L"Äpfel ☃");
+    Tree->SetBounds(0, 0, 300, 350);
+    Tree->SetParent(&Form);
+  }
+  ~ExplorerTree() override {
+    delete Tree;
+    std::error_code ignored;
+    fs::remove_all(Root, ignored);
+  }
+
+  void Make(const std::wstring& folder) const { fs::create_directories(Root / folder); }
+  /// The folder's path as the tree has it.
+  std::string Path(const std::wstring& folder = {}) const {
+    std::wstring path = (Root / folder).wstring();
+    for (wchar_t& each : path) each = each == L'/' ? L'\\' : each;
+    return vcl::ToUtf8(path) + (path.ends_with(L'\\') ? "" : "\\");
+  }
+  TQELExplorerNode* Node(const std::wstring& folder = {}) {
+    return Tree->GetNodeFromPath(Path(folder));
+  }
+  /// The captions of what is below a folder.
+  std::string Kids(TQELExplorerNode* node) {
+    std::string captions;
+    for (int i = 0; i < node->Count(); ++i) captions += node->Item(i)->Text() + ",";
+    return captions;
+  }
+  template <class F>
+  std::string Refused(F action) {
+    try {
+      action();
+    } catch (const vcl::EInOutError& error) {
+      return error.what();
+    }
+    return "not refused";
+  }
+
+  fs::path Root;
+  TTree* Tree;
+};
+
+TEST_F(ExplorerTree, ShowsTheFoldersOnTheWayToADirectory) {
+  ShowForm();
+  std::string seen;
+  Tree->OnAddDirectory = [&](vcl::TObject*, std::string path, bool& accept) {
+    if (path.ends_with("\\b\\")) accept = false;
+  };
+  Tree->OnChange = [&](vcl::TObject*, vcl::TTreeNode* node) { seen = node->Text(); };
+  Tree->SetDirectory(" " + Path(L"a/a1") + " ");
+  EXPECT_EQ(Tree->Directory(), Path(L"a/a1"));
+  EXPECT_EQ(seen, "a1");
+  EXPECT_TRUE(Tree->Selected()->IsVisible());
+  EXPECT_EQ(Kids(Node()), "a,Äpfel ☃,") << "in order, without what the handler refuses";
+  EXPECT_TRUE(Node(L"a/a1")->HasChildren());
+  EXPECT_FALSE(Node(L"a/a1/a2")->HasChildren()) << "a look ahead finds none";
+  EXPECT_EQ(Refused([&] { Tree->SetDirectory("  "); }), "Invalid Directory Name");
+  EXPECT_NE(Refused([&] { Tree->SetDirectory(Path(L"none")); }).find("none"), std::string::npos);
+  EXPECT_NE(Refused([&] { Tree->SetDirectory(Path(L"b")); }).find("not shown"), std::string::npos);
+  EXPECT_EQ(Tree->Directory(), Path(L"a/a1")) << "what is refused changes nothing";
+  Tree->RecreateWnd();
+  EXPECT_EQ(Tree->Selected(), Node(L"a/a1"));
+}
+
+TEST_F(ExplorerTree, AFolderOfARecycleBinKeepsWhatItHolds) {
+  Make(L"Recycled/inside");
+  ShowForm();
+  TQELExplorerNode* bin = Node(L"Recycled");
+  ASSERT_TRUE(bin);
+  EXPECT_FALSE(bin->HasChildren());
+  EXPECT_EQ(Node(L"Recycled/inside"), nullptr);
+}
+
+TEST_F(ExplorerTree, DrivesRememberTheirFolders) {
+  ShowForm();
+  const auto has = [&](const char* path) { return Tree->GetNodeFromPath(path) != nullptr; };
+  ASSERT_TRUE(has("C:\\") && has("Z:\\"));
+  Tree->SetDirectory("Z:\\");
+  Tree->SetDirectory("C:\\windows\\system32");
+  Tree->SetDrive('z');
+  EXPECT_EQ(Tree->Directory(), "Z:\\");
+  Tree->SetDrive('Z');
+  Tree->SetDrive('c');
+  EXPECT_TRUE(Tree->Directory().ends_with("system32\\"));
+  const char driveOfRoot = Path()[0];
+  Make(L"b/gone");
+  Tree->SetDirectory(Path(L"b/gone"));
+  fs::remove(Root / L"b/gone");
+  Tree->SetDrive(driveOfRoot == 'C' ? 'Z' : 'C');
+  Tree->SetDrive(driveOfRoot);
+  EXPECT_EQ(Tree->Directory(), std::string(1, driveOfRoot) + ":\\");
+}
+
+TEST_F(ExplorerTree, RemoteDrivesAreHiddenAndRefusedWithoutNetwork) {
+  ShowForm();
+  Tree->SetDirectory("C:\\");
+  const TImportPatch remote("qel.dll", "GetDriveTypeA", &ZIsRemote);
+  EXPECT_NE(Tree->GetNodeFromPath("Z:\\"), nullptr);
+  Tree->SetNetAllow(false);
+  EXPECT_EQ(Tree->GetNodeFromPath("Z:\\"), nullptr);
+  EXPECT_NE(Refused([&] { Tree->SetDirectory("Z:\\"); }).find("remote"), std::string::npos);
+  EXPECT_EQ(Tree->Directory(), "C:\\");
+  Tree->SetNetAllow(true);
+  Tree->SetDirectory("Z:\\");
+  EXPECT_EQ(Tree->Directory(), "Z:\\");
+}
+
+TEST_F(ExplorerTree, AHandlerSearchesInPlaceOfTheDisk) {
+  ShowForm();
+  std::string calls;
+  int at = 0;
+  Tree->OnFindDirectory = [&](vcl::TObject*, std::string folder, int first,
+                              qel::TQELFoundFile& entry, bool& found) {
+    if (folder != "C:\\") return;
+    static const qel::TQELFoundFile entries[] = {
+        {".", FILE_ATTRIBUTE_DIRECTORY}, {"y"}, {"file", FILE_ATTRIBUTE_NORMAL}, {"X"}};
+    if (first) at = 0;
+    calls += std::to_string(first);
+    found = at < 4;
+    if (found) entry = entries[at++];
+  };
+  TQELExplorerNode* drive = Tree->GetNodeFromPath("C:\\");
+  EXPECT_TRUE(drive->HasChildren());
+  EXPECT_EQ(calls, "10") << "a look ahead ends with the first folder";
+  calls.clear();
+  drive->SetExpanded(true);
+  EXPECT_EQ(calls, "10000");
+  EXPECT_EQ(Kids(drive), "X,y,");
+  Tree->SetDirectory("c:/y");
+  EXPECT_EQ(Tree->Directory(), "C:\\y\\");
+}
+
+TEST_F(ExplorerTree, ReadingAnewKeepsWhatIsExpandedAndSelected) {
+  ShowForm();
+  Tree->SetDirectory(Path(L"a/a1"));
+  Node(L"a/a1")->SetExpanded(true);
+  Make(L"a/a0");
+  fs::remove(Root / L"b");
+  vcl::TTreeNode* selected = Tree->Selected();
+  Key(VK_F5);
+  EXPECT_EQ(Tree->Selected(), selected);
+  EXPECT_TRUE(Node(L"a/a1")->Expanded());
+  EXPECT_EQ(Kids(Node()), "a,Äpfel ☃,");
+  EXPECT_EQ(Kids(Node(L"a")), "a0,a1,");
+  fs::remove_all(Root / L"a/a1");
+  Tree->ReadNew();
+  EXPECT_EQ(Tree->Directory(), Path(L"a")) << "the one above the folder that is gone";
+}
+
+TEST_F(ExplorerTree, FoldersAreMadeRenamedAndDeleted) {
+  ShowForm();
+  Tree->SetDirectory(Path());
+  TQELExplorerNode* made = Tree->AddPath("c/d");
+  ASSERT_TRUE(made);
+  EXPECT_EQ(made->Folder(), Path(L"c/d"));
+  EXPECT_TRUE(fs::exists(Root / L"c/d"));
+  TQELExplorerNode* a = Node(L"a");
+  a->Expand(false);
+  TQELExplorerNode* inner = Node(L"a/a1");
+  Tree->SetSelected(a);
+  Key(VK_F2);
+  ASSERT_TRUE(testinput::PumpUntil([&] { return Tree->IsEditing(); }));
+  Type("z9");
+  Key(VK_RETURN);
+  EXPECT_TRUE(testinput::PumpUntil([&] { return fs::exists(Root / L"z9/a1/a2"); }));
+  EXPECT_EQ(inner->Folder(), Path(L"z9/a1")) << "what is below has moved with it";
+  EXPECT_EQ(Node()->GetLastChild(), a) << "and stands in its place";
+  EXPECT_EQ(Tree->Directory(), Path(L"z9"));
+  for (const char* name : {"", "..", "x/y", "b"}) {
+    EXPECT_NE(Refused([&] { Tree->RenamePath(a, name); }), "not refused") << name;
+  }
+  EXPECT_EQ(a->Text(), "z9");
+  const TImportPatch shell("qel.dll", "SHFileOperationW", &Recycle);
+  const auto answer = [this](WORD key, TQELExplorerNode* node) {
+    std::thread user([key] {
+      ::Sleep(300);
+      testinput::SendKey(key, true), testinput::SendKey(key, false);
+    });
+    const bool done = Tree->DeletePath(node);
+    user.join();
+    return done;
+  };
+  EXPECT_FALSE(answer(VK_ESCAPE, a));
+  EXPECT_EQ(recycled, L"");
+  EXPECT_TRUE(answer(VK_RETURN, a));
+  EXPECT_EQ(vcl::ToUtf8(recycled) + "\\", Path(L"z9"));
+  EXPECT_EQ(Tree->Directory(), Path());
+  EXPECT_EQ(Kids(Node()), "Äpfel ☃,b,c,");
+  EXPECT_NE(Refused([&] { Tree->DeletePath(Tree->GetNodeFromPath("C:\\")); }), "not refused");
+}
+
+TEST_F(ExplorerTree, TenThousandFoldersOpenAtOnce) {
+  constexpr int many = 10000;
+  MakeMany(Root / L"b", many);
+  ShowForm();
+  Tree->SetDirectory(Path(L"b"));
+  testinput::Pump();
+  const ULONGLONG start = ::GetTickCount64();
+  Tree->Selected()->SetExpanded(true);
+  Tree->Repaint();
+  const ULONGLONG opened = ::GetTickCount64();
+  std::cout << many << " folders: " << opened - start << " ms" << std::endl;
+  EXPECT_EQ(Tree->Selected()->Count(), many);
+  EXPECT_EQ(Tree->Selected()->Item(2)->Text(), "f10");
+  EXPECT_LT(opened - start, 5000u);
+  RemoveMany(Root / L"b", many);
+  Tree->Selected()->Item(5)->SetExpanded(true);
+  EXPECT_FALSE(Tree->Selected()->Item(5)->HasChildren()) << "gone meanwhile";
+  const ULONGLONG again = ::GetTickCount64();
+  Tree->ReadNew();
+  std::cout << "reading anew: " << ::GetTickCount64() - again << " ms" << std::endl;
+  EXPECT_EQ(Tree->Selected()->Count(), 0);
+}
+
+}  // namespace
