@@ -1,5 +1,7 @@
 #include "ide/inspectoredit.h"
 
+#include "host/vcl/windowmessages.h"
+
 namespace ide {
 
 TInspectorEdit::TInspectorEdit(vcl::TComponent* owner) : TCustomEdit(owner) {
@@ -25,7 +27,12 @@ void TInspectorEdit::Dispatch(vcl::TMessage& message) {
   }
   vcl::TWatch watch(this);
   TCustomEdit::Dispatch(message);
-  if (!watch.Gone() && message.Msg == WM_KILLFOCUS) OnLeave(this);
+  if (watch.Gone()) return;
+  // The text stands where the line's value is painted; a font brings margins of its own.
+  if (message.Msg == WM_SETFONT) {
+    vcl::Send(*this, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+  }
+  if (message.Msg == WM_KILLFOCUS) OnLeave(this);
 }
 
 }  // namespace ide
