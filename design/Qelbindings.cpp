@@ -5,8 +5,10 @@
 #include "core/Qeltstoredata.h"
 #include "design/Qelcolorsinbetween.h"
 #include "design/Qelcomponenteditors.h"
+#include "design/Qelmaileditors.h"
 #include "design/Qelpropertyeditors.h"
 #include "host/vcl/control.h"
+#include "mail/Qeltiemails.h"
 
 namespace qel {
 namespace {
@@ -16,6 +18,9 @@ namespace {
 /// In the order of registration. A class gets its lines here when it comes.
 const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
   static const std::vector<vcl::TPropertyEditorEntry> entries = {
+      {QEL_EDITOR(TQELAttachmentProperty), "TQELAttachments", &TQELMessage::Class(), "Attachments"},
+      {QEL_EDITOR(TQELInetProperty), "TQELMessages", &TQELSMTPMail::Class(), "Messages"},
+      {QEL_EDITOR(TQELInetProperty), "TQELMessages", &TQELPOPMail::Class(), "Messages"},
       {QEL_EDITOR(TQELColorInBetweenProperty), "TStrings", &TQELGradient::Class(),
        "ColorsInBetween"},
       {QEL_EDITOR(TQELShowMeNowProperty), "string", &vcl::TComponent::Class(), "DesignExecute"},
@@ -39,6 +44,9 @@ void RegisterEditors() {
   }
   vcl::RegisterComponentEditor(TQELExecComponent::Class(),
                                vcl::ComponentEditorClass<TQELDialogEditor>("TQELDialogEditor"));
+  vcl::RegisterComponentEditor(
+      TQELMailHost::Class(),
+      vcl::ComponentEditorClass<TQELMailConfigEditor>("TQELMailConfigEditor"));
 }
 
 }  // namespace qel

@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "core/Qelcomponent.h"
+#include "host/designintf/propertyeditor.h"
 #include "host/vcl/application.h"
 
 namespace qel {
@@ -36,6 +37,20 @@ void TQELDialogEditor::ShowCredit() {
   vcl::Application()->MessageBox(
       "The property About of the component tells more about it and the library.",
       Verbs[CreditVerbIndex], MB_OK | MB_ICONINFORMATION);
+}
+
+void TQELMailConfigEditor::Edit() {
+  const vcl::TPropInfo* messages = Component().ClassType().FindPublished("Messages");
+  if (messages) vcl::MakePropertyEditor(Designer(), {{&Component(), messages}})->Edit();
+}
+
+std::string TQELMailConfigEditor::GetVerb(int index) const {
+  return index == 0 ? "Configure Mail ..." : TComponentEditor::GetVerb(index);
+}
+
+void TQELMailConfigEditor::ExecuteVerb(int index) {
+  if (index != 0) return TComponentEditor::ExecuteVerb(index);
+  Edit();
 }
 
 }  // namespace qel

@@ -18,4 +18,14 @@ class TQELDialogEditor : public vcl::TComponentEditor {
   void ShowCredit();
 };
 
+/// A component with mails: a double click edits them, as the editor of its Messages does.
+class TQELMailConfigEditor : public vcl::TComponentEditor {
+ public:
+  using TComponentEditor::TComponentEditor;
+  void Edit() override;
+  int GetVerbCount() const override { return 1; }
+  std::string GetVerb(int index) const override;
+  void ExecuteVerb(int index) override;
+};
+
 }  // namespace qel

@@ -8,6 +8,7 @@
 #include "host/designintf/package.h"
 #include "host/rtl/classregistry.h"
 #include "host/vcl/vcl.h"
+#include "mail/Qeltiemails.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plaindesigner.h"
 
@@ -35,14 +36,18 @@ TEST_F(Editors, AreRegisteredInTheirOrder) {
   for (const auto& [editor, type, aClass, property] : RegisteredPropertyEditors()) {
     lines.push_back(std::string(editor.Name) + " " + type + " " + aClass->Name() + "." + property);
   }
-  EXPECT_THAT(lines, ElementsAre("TQELColorInBetweenProperty TStrings TQELGradient.ColorsInBetween",
+  EXPECT_THAT(lines, ElementsAre("TQELAttachmentProperty TQELAttachments TQELMessage.Attachments",
+                                 "TQELInetProperty TQELMessages TQELSMTPMail.Messages",
+                                 "TQELInetProperty TQELMessages TQELPOPMail.Messages",
+                                 "TQELColorInBetweenProperty TStrings TQELGradient.ColorsInBetween",
                                  "TQELShowMeNowProperty string TComponent.DesignExecute",
                                  "TQELHintProperty string TComponent.Hint",
                                  "TQELCaptionProperty TCaption TControl.Caption",
                                  "TQELAboutCompsProperty TQELAbout TPersistent.",
                                  "TQELINIFilenameProperty string TQELStoreData.Filename"));
-  ASSERT_EQ(RegisteredComponentEditors().size(), 1u);
+  ASSERT_EQ(RegisteredComponentEditors().size(), 2u);
   EXPECT_EQ(RegisteredComponentEditors()[0].Class, &TQELExecComponent::Class());
+  EXPECT_EQ(RegisteredComponentEditors()[1].Class, &TQELMailHost::Class());
 }
 
 TEST_F(Editors, ReachThePropertiesOfDescendants) {
@@ -180,6 +185,67 @@ TEST_F(Editors, ColorsKeepWhatWasEditedHoweverTheFormIsClosed) {
   MakePropertyEditor(Designer, edited)->Edit();
   EXPECT_EQ(colors->CommaText(), "nonsense,$00FF00");
   EXPECT_EQ(Designer.Modifications, 1);
+}
+
+void Press(HWND form, const wchar_t* button) {
+  ::SendMessageW(::FindWindowExW(form, nullptr, nullptr, button), BM_CLICK, 0, 0);
+}
+
+/// Where the selected item's property of that place in its list is edited.
+HWND EditOf(HWND form, int property) {
+  const HWND panel = ::FindWindowExW(form, nullptr, L"TPanel", nullptr);
+  return ::ChildWindowFromPoint(panel, {150, property * 27 + 10});
+}
+
+TEST_F(Editors, MailsAreConfiguredInAForm) {
+  TQELSMTPMail mail(nullptr);
+  mail.Messages()->Add()->SetSubject("first");
+  mail.Messages()->Add()->SetSubject("second");
+  const auto editor = MakeComponentEditor(Designer, mail);
+  ASSERT_EQ(editor->GetVerbCount(), 1);
+  EXPECT_EQ(editor->GetVerb(0), "Configure Mail ...");
+  for (const wchar_t* end : {L"Cancel", L"OK"}) {
+    TTimer timer(nullptr);
+    timer.SetInterval(20);
+    timer.OnTimer = [&](TObject*) {
+      const HWND form = ::FindWindowW(nullptr, L"Messages");
+      timer.SetEnabled(form == nullptr);
+      if (!form) return;
+      Press(form, L"&Delete");
+      Press(form, L"&Add");
+      ::SetWindowTextW(EditOf(form, 3), L"new");
+      Press(form, end);
+    };
+    timer.SetEnabled(true);
+    editor->ExecuteVerb(0);
+    ASSERT_EQ(mail.Messages()->Count(), 2);
+    const bool agreed = std::wcscmp(end, L"OK") == 0;
+    EXPECT_EQ(mail.Messages()->GetQELMessage(0)->Subject(), agreed ? "second" : "first");
+    EXPECT_EQ(mail.Messages()->GetQELMessage(1)->Subject(), agreed ? "new" : "second");
+  }
+  EXPECT_GE(Designer.Modifications, 1);
+}
+
+TEST_F(Editors, FilesAreAttachedUnderTheirFullNames) {
+  const TImportPatch patch("qelhost.dll", "GetOpenFileNameW", &AskForFile);
+  TQELSMTPMail mail(nullptr);
+  TQELMessage& message = *mail.Messages()->Add();
+  asked.Answer = L"C:\\folder\\file.txt";
+  TTimer timer(nullptr);
+  timer.SetInterval(20);
+  timer.OnTimer = [&](TObject*) {
+    const HWND form = ::FindWindowW(nullptr, L"Attachments");
+    timer.SetEnabled(form == nullptr);
+    if (!form) return;
+    Press(form, L"&Add");
+    asked.Answer = nullptr;
+    Press(form, L"&Add");
+    Press(form, L"OK");
+  };
+  timer.SetEnabled(true);
+  MakePropertyEditor(Designer, Edited(message, "Attachments"))->Edit();
+  ASSERT_EQ(message.Attachments()->Count(), 1);
+  EXPECT_EQ(message.Attachments()->GeTQELAttachment(0)->FileName(), "C:\\folder\\file.txt");
 }
 
 }  // namespace

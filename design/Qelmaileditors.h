@@ -1,0 +1,28 @@
+// The editors of mails and of the files that travel with them.
+#pragma once
+
+#include "host/designintf/standardeditors.h"
+
+namespace qel {
+
+/// The attachments of a mail: a list of files, to which a dialog adds.
+class TQELAttachmentProperty : public vcl::TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  vcl::TPropertyAttributes GetAttributes() const override {
+    return {vcl::paDialog, vcl::paReadOnly};
+  }
+  void Edit() override;
+};
+
+/// The mails of a component.
+class TQELInetProperty : public vcl::TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  vcl::TPropertyAttributes GetAttributes() const override {
+    return {vcl::paDialog, vcl::paReadOnly};
+  }
+  void Edit() override;
+};
+
+}  // namespace qel
