@@ -56,7 +56,7 @@ void TDataLink::DataEvent(TDataEvent event, TField* field, int distance) {
     case deLayoutChange:
       return LayoutChanged();
     case deUpdateRecord:
-      return FEditing ? UpdateData() : void();
+      return UpdateRecord();
     case deUpdateState:
       return;
   }

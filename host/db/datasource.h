@@ -74,6 +74,10 @@ class VCL_API TDataLink : public TPersistent {
   void SetReadOnly(bool readOnly);
   /// Begins to edit where the source's AutoEdit allows it; true when the record is being edited.
   bool Edit();
+  /// Writes what is being typed into the field, if the record is being edited.
+  void UpdateRecord() {
+    if (FEditing) UpdateData();
+  }
 
   /// How many records the control shows at once, 1 at first.
   int BufferCount() const { return FBufferCount; }

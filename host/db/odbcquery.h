@@ -25,6 +25,9 @@ struct TArgument;
 /// records than for ten. (A driver may collect them on its own; SQLite's does not with "StepAPI=1"
 /// in the connection string.)
 ///
+/// A query that has not been read to its end may keep others from writing, as it does with SQLite;
+/// RecordCount reads all of one that is not unidirectional.
+///
 /// The connection is made when it is needed first and stays until Connected or ConnectionString
 /// says otherwise. What ODBC refuses raises EDatabaseError with the driver's message.
 class VCL_API TOdbcQuery : public TDataSet {

@@ -1,0 +1,72 @@
+#include "demos/records/database.h"
+
+#include <filesystem>
+
+#include "host/db/odbcquery.h"
+#include "host/rtl/text.h"
+#include "host/vcl/win32.h"
+#include "host/vcl/windowtext.h"
+
+namespace records {
+namespace {
+
+/// Wine passes names on to drivers of the system below, which know no drives; it says what a file
+/// is called there. Windows has no such function and needs none.
+std::string NameForDriver(const std::string& fileName) {
+  using TUnixName = char*(__cdecl*)(const wchar_t*);
+  const auto unixName = reinterpret_cast<TUnixName>(reinterpret_cast<void*>(
+      ::GetProcAddress(::GetModuleHandleA("kernel32"), "wine_get_unix_file_name")));
+  if (!unixName) return fileName;
+  const std::filesystem::path path = std::filesystem::absolute(vcl::ToUtf16(fileName));
+  char* found = unixName(path.c_str());
+  const std::string name = found ? found : fileName;
+  ::HeapFree(::GetProcessHeap(), 0, found);
+  return name;
+}
+
+constexpr const char* Sample[] = {
+    "1, 'Ada Bergström', 'Göteborg', '1962-03-14', 1250.5",
+    "2, 'Bruno Kowalski', 'Łódź', '1975-11-02', -40",
+    "3, 'Chiara Rossi', 'Forlì', '1988-06-30', 310.25",
+    "4, 'Dimitra Papadaki', 'Ηράκλειο', '1991-01-09', 0",
+    "5, 'Emil Nováček', 'Plzeň', '1957-08-21', 77.8",
+    "6, 'Fatma Yıldız', 'İzmir', '2001-12-24', 9100",
+};
+
+void Execute(vcl::TOdbcQuery& query, const std::string& sql) {
+  query.SQL()->SetText(sql);
+  query.ExecSQL();
+}
+
+}  // namespace
+
+std::string ConnectionString(const std::string& fileName) {
+  return "Driver=SQLite3;StepAPI=1;Database=" + NameForDriver(fileName);
+}
+
+void MakeTable(const std::string& connectionString) {
+  vcl::TOdbcQuery query(nullptr);
+  query.SetConnectionString(connectionString);
+  query.SQL()->SetText("SELECT name FROM sqlite_master WHERE name = 'people'");
+  query.Open();
+  if (!query.IsEmpty()) return;
+  query.Close();
+  query.StartTransaction();
+  Execute(query,
+          "CREATE TABLE people (id INTEGER PRIMARY KEY, name VARCHAR(28) NOT NULL UNIQUE,"
+          " city VARCHAR(20), born DATE, balance DOUBLE)");
+  for (const char* values : Sample) {
+    Execute(query, vcl::Concat("INSERT INTO people VALUES (", values, ")"));
+  }
+  query.Commit();
+}
+
+int CountRecords(const std::string& connectionString) {
+  vcl::TOdbcQuery query(nullptr);
+  query.SetConnectionString(connectionString);
+  query.SQL()->SetText("SELECT count(*) FROM people");
+  query.Open();
+  return query.Fields()[0]->AsInteger();
+}
+
+}  // namespace records

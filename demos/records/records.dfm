@@ -1,0 +1,215 @@
+object RecordsForm: TRecordsForm
+  Left = 160
+  Top = 120
+  Caption = 'Records'
+  ClientHeight = 400
+  ClientWidth = 620
+  object Grid: TDBGrid
+    Left = 0
+    Top = 0
+    Width = 620
+    Height = 200
+    Align = alTop
+    DataSource = Source
+    TabOrder = 0
+  end
+  object NameLabel: TLabel
+    Left = 12
+    Top = 219
+    Width = 70
+    Height = 15
+    Caption = '&Name'
+    FocusControl = NameEdit
+  end
+  object NameEdit: TDBEdit
+    Left = 90
+    Top = 216
+    Width = 220
+    Height = 21
+    DataField = 'name'
+    DataSource = Source
+    TabOrder = 1
+  end
+  object CityLabel: TLabel
+    Left = 12
+    Top = 251
+    Width = 70
+    Height = 15
+    Caption = '&City'
+    FocusControl = CityEdit
+  end
+  object CityEdit: TDBEdit
+    Left = 90
+    Top = 248
+    Width = 220
+    Height = 21
+    DataField = 'city'
+    DataSource = Source
+    TabOrder = 2
+  end
+  object BornLabel: TLabel
+    Left = 12
+    Top = 283
+    Width = 70
+    Height = 15
+    Caption = '&Born'
+    FocusControl = BornEdit
+  end
+  object BornEdit: TDBEdit
+    Left = 90
+    Top = 280
+    Width = 100
+    Height = 21
+    DataField = 'born'
+    DataSource = Source
+    TabOrder = 3
+  end
+  object BalanceLabel: TLabel
+    Left = 12
+    Top = 315
+    Width = 70
+    Height = 15
+    Caption = 'B&alance'
+    FocusControl = BalanceEdit
+  end
+  object BalanceEdit: TDBEdit
+    Left = 90
+    Top = 312
+    Width = 100
+    Height = 21
+    DataField = 'balance'
+    DataSource = Source
+    TabOrder = 4
+  end
+  object AddButton: TButton
+    Left = 340
+    Top = 215
+    Width = 80
+    Height = 25
+    Caption = 'A&dd'
+    TabOrder = 5
+    OnClick = AddClick
+  end
+  object DeleteButton: TButton
+    Left = 430
+    Top = 215
+    Width = 80
+    Height = 25
+    Caption = 'De&lete'
+    TabOrder = 6
+    OnClick = DeleteClick
+  end
+  object PostButton: TButton
+    Left = 340
+    Top = 247
+    Width = 80
+    Height = 25
+    Caption = '&Save'
+    Enabled = False
+    TabOrder = 7
+    OnClick = PostClick
+  end
+  object CancelButton: TButton
+    Left = 430
+    Top = 247
+    Width = 80
+    Height = 25
+    Caption = '&Undo'
+    Enabled = False
+    TabOrder = 8
+    OnClick = CancelClick
+  end
+  object ExportButton: TButton
+    Left = 340
+    Top = 279
+    Width = 80
+    Height = 25
+    Caption = '&Export...'
+    TabOrder = 9
+    OnClick = ExportClick
+  end
+  object ImportButton: TButton
+    Left = 430
+    Top = 279
+    Width = 80
+    Height = 25
+    Caption = '&Import...'
+    TabOrder = 10
+    OnClick = ImportClick
+  end
+  object Gauge: TQELGauge
+    Left = 340
+    Top = 314
+    Width = 170
+    Height = 26
+  end
+  object StatusBar: TStatusBar
+    Left = 0
+    Top = 380
+    Width = 620
+    Height = 20
+    SimplePanel = True
+  end
+  object Source: TDataSource
+    DataSet = Query
+    OnStateChange = StateChange
+    Left = 540
+    Top = 216
+  end
+  object Query: TOdbcQuery
+    IdentityQuery = 'SELECT last_insert_rowid()'
+    RequestLive = True
+    SQL.Strings = (
+      'SELECT id, name, city, born, balance FROM people ORDER BY name')
+    Left = 540
+    Top = 248
+  end
+  object TransferSource: TDataSource
+    DataSet = TransferQuery
+    Left = 572
+    Top = 216
+  end
+  object TransferQuery: TOdbcQuery
+    RequestLive = True
+    SQL.Strings = (
+      'SELECT name, city, born, balance FROM people ORDER BY name')
+    UniDirectional = True
+    Left = 572
+    Top = 248
+  end
+  object Transfer: TQELDBAscii
+    Fields = <
+      item
+        CSVName = 'Name'
+        DataField = 'name'
+      end
+      item
+        CSVName = 'City'
+        DataField = 'city'
+      end
+      item
+        CSVName = 'Born'
+        DataField = 'born'
+      end
+      item
+        CSVName = 'Balance'
+        DataField = 'balance'
+      end>
+    Delimiter = ';'
+    DataSource = TransferSource
+    PrintHeader = True
+    OnImportException = RecordRefused
+    OnImportSuccess = RecordRead
+    ExportBeforeWrite = RecordWritten
+    Left = 540
+    Top = 280
+  end
+  object OpenDialog: TOpenDialog
+    Left = 540
+    Top = 312
+  end
+  object SaveDialog: TSaveDialog
+    Left = 572
+    Top = 312
+  end
+end

@@ -1,0 +1,140 @@
+#include "demos/records/recordsform.h"
+
+#include <algorithm>
+
+#include "demos/records/database.h"
+#include "host/rtl/convert.h"
+#include "host/rtl/properties.h"
+#include "host/rtl/streams.h"
+#include "host/rtl/text.h"
+
+namespace records {
+
+using namespace vcl;
+
+const TClass& TRecordsForm::Class() {
+  using T = TRecordsForm;
+  static const TClass info = Describe<T, TForm>(
+      "TRecordsForm", "recordsform",
+      {
+          Field<&T::Query>("Query"),
+          Field<&T::TransferQuery>("TransferQuery"),
+          Field<&T::Transfer>("Transfer"),
+          Field<&T::Gauge>("Gauge"),
+          Field<&T::StatusBar>("StatusBar"),
+          Field<&T::OpenDialog>("OpenDialog"),
+          Field<&T::SaveDialog>("SaveDialog"),
+          Field<&T::PostButton>("PostButton"),
+          Field<&T::CancelButton>("CancelButton"),
+          Method<&T::StateChange>("StateChange"),
+          Method<&T::AddClick>("AddClick"),
+          Method<&T::PostClick>("PostClick"),
+          Method<&T::CancelClick>("CancelClick"),
+          Method<&T::DeleteClick>("DeleteClick"),
+          Method<&T::ExportClick>("ExportClick"),
+          Method<&T::ImportClick>("ImportClick"),
+          Method<&T::RecordWritten>("RecordWritten"),
+          Method<&T::RecordRead>("RecordRead"),
+          Method<&T::RecordRefused>("RecordRefused"),
+      });
+  return info;
+}
+
+TRecordsForm::TRecordsForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+
+void TRecordsForm::Open(const std::string& fileName) {
+  const std::string connection = ConnectionString(fileName);
+  MakeTable(connection);
+  Query->Close();
+  Query->SetConnectionString(connection);
+  TransferQuery->SetConnectionString(connection);
+  Query->Open();
+}
+
+void TRecordsForm::StateChange(TObject*) {
+  const bool editing = Query->State() == dsEdit || Query->State() == dsInsert;
+  PostButton->SetEnabled(editing);
+  CancelButton->SetEnabled(editing);
+}
+
+void TRecordsForm::AddClick(TObject*) { Query->Append(); }
+void TRecordsForm::PostClick(TObject*) { Query->Post(); }
+void TRecordsForm::CancelClick(TObject*) { Query->Cancel(); }
+void TRecordsForm::DeleteClick(TObject*) { Query->Delete(); }
+
+void TRecordsForm::ExportClick(TObject*) {
+  if (SaveDialog->Execute()) Export(SaveDialog->FileName());
+}
+
+void TRecordsForm::ImportClick(TObject*) {
+  if (OpenDialog->Execute()) Import(OpenDialog->FileName());
+}
+
+void TRecordsForm::ShowProgress() {
+  const int percent = static_cast<int>(std::min(100.0, 100 * FDone / std::max(FAll, 1.0)));
+  if (percent == Gauge->Percentage()) return;
+  Gauge->SetPercentage(percent);
+  Gauge->Update();
+}
+
+void TRecordsForm::Export(const std::string& fileName) {
+  Query->CheckBrowseMode();
+  FAll = CountRecords(Query->ConnectionString());
+  FDone = FCount = 0;
+  Transfer->SetFilename(fileName);
+  Transfer->DoExport();
+  StatusBar->SetSimpleText(Concat(IntToStr(FCount), " records written to ", fileName));
+}
+
+void TRecordsForm::RecordWritten(TObject*, std::string) {
+  ++FCount;
+  ++FDone;
+  ShowProgress();
+}
+
+/// All at once is far faster than each record for itself, and an error in the middle leaves none.
+void TRecordsForm::ImportAtOnce() {
+  TransferQuery->StartTransaction();
+  try {
+    Transfer->DoImport();
+  } catch (...) {
+    TransferQuery->Close();
+    TransferQuery->Rollback();
+    throw;
+  }
+  TransferQuery->Commit();
+}
+
+void TRecordsForm::Import(const std::string& fileName) {
+  Query->CheckBrowseMode();
+  FAll = static_cast<double>(TFileStream(fileName, fmOpenRead | fmShareDenyNone).Size());
+  FDone = FCount = FRefused = 0;
+  Transfer->SetFilename(fileName);
+  // A query that is half read keeps others from writing.
+  Query->Close();
+  try {
+    ImportAtOnce();
+  } catch (...) {
+    Query->Open();
+    throw;
+  }
+  Query->Open();
+  FDone = FAll;  // The header and empty lines have counted for nothing.
+  ShowProgress();
+  std::string text = Concat(IntToStr(FCount - FRefused), " records read from ", fileName);
+  if (FRefused) text += Concat(", ", IntToStr(FRefused), " refused: ", FWhy);
+  StatusBar->SetSimpleText(text);
+}
+
+void TRecordsForm::RecordRead(TObject*, std::string record) {
+  ++FCount;
+  FDone += static_cast<double>(record.size() + 2);
+  ShowProgress();
+}
+
+void TRecordsForm::RecordRefused(TObject*, std::string) {
+  ++FRefused;
+  FWhy = Transfer->ImportError();
+}
+
+}  // namespace records

@@ -1,0 +1,63 @@
+// TRecordsForm: the records of a table, the current one in edits, and what can be done with them.
+#pragma once
+
+#include <string>
+
+#include "controls/Qeltgauge.h"
+#include "data/Qeltdbascii.h"
+#include "host/db/odbcquery.h"
+#include "host/dbctrls/dbedit.h"
+#include "host/dbctrls/dbgrid.h"
+#include "host/vcl/comctrls.h"
+#include "host/vcl/dialogs.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/stdctrls.h"
+
+namespace records {
+
+class TRecordsForm : public vcl::TForm {
+ public:
+  explicit TRecordsForm(vcl::TComponent* owner);
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  /// Shows a database file, which is made when it is not there. Raises vcl::EDatabaseError.
+  void Open(const std::string& fileName);
+  /// Write all records to a text file resp. insert those of one, showing how far it has come.
+  void Export(const std::string& fileName);
+  void Import(const std::string& fileName);
+
+ private:
+  // What the form file fills.
+  vcl::TOdbcQuery* Query = nullptr;
+  vcl::TOdbcQuery* TransferQuery = nullptr;
+  qel::TQELDBAscii* Transfer = nullptr;
+  qel::TQELGauge* Gauge = nullptr;
+  vcl::TStatusBar* StatusBar = nullptr;
+  vcl::TOpenDialog* OpenDialog = nullptr;
+  vcl::TSaveDialog* SaveDialog = nullptr;
+  vcl::TButton* PostButton = nullptr;
+  vcl::TButton* CancelButton = nullptr;
+
+  void StateChange(vcl::TObject* sender);
+  void AddClick(vcl::TObject* sender);
+  void PostClick(vcl::TObject* sender);
+  void CancelClick(vcl::TObject* sender);
+  void DeleteClick(vcl::TObject* sender);
+  void ExportClick(vcl::TObject* sender);
+  void ImportClick(vcl::TObject* sender);
+  void RecordWritten(vcl::TObject* sender, std::string record);
+  void RecordRead(vcl::TObject* sender, std::string record);
+  void RecordRefused(vcl::TObject* sender, std::string record);
+  void ImportAtOnce();
+  void ShowProgress();
+
+  // How much of the work is done, in records resp. in bytes.
+  double FDone = 0;
+  double FAll = 1;
+  int FCount = 0;
+  int FRefused = 0;
+  std::string FWhy;
+};
+
+}  // namespace records
