@@ -1,7 +1,7 @@
 #include "demos/gallery/screenshots.h"
 
-#include "demos/common/formpicture.h"
 #include "host/rtl/text.h"
+#include "host/vcl/formpicture.h"
 #include "host/vcl/png.h"
 
 namespace gallery {
@@ -22,7 +22,7 @@ std::string FileName(const std::string& folder, const std::string& caption) {
 }  // namespace
 
 std::vector<std::string> SaveScreenshots(TGalleryForm& form, const std::string& folder) {
-  demos::MakeFolder(folder);
+  vcl::MakeFolder(folder);
   form.SetFormStyle(fsStayOnTop);
   form.Show();
   std::vector<std::string> names;
@@ -30,10 +30,10 @@ std::vector<std::string> SaveScreenshots(TGalleryForm& form, const std::string& 
     TTabSheet* page = form.Pages->Pages(i);
     form.Pages->SetActivePage(page);
     TBitmap picture;
-    demos::TakePicture(form, demos::TPart::Inside, picture);
+    vcl::TakePicture(form, vcl::TFormPart::Inside, picture);
     if (page == form.HintsPage) {  // At rest, as a hint copies the screen under it.
       form.ShowSampleHint();
-      demos::TakePicture(form, demos::TPart::Inside, picture);
+      vcl::TakePicture(form, vcl::TFormPart::Inside, picture);
     }
     names.push_back(FileName(folder, page->Caption()));
     SavePng(picture, names.back());

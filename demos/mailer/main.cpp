@@ -7,11 +7,11 @@
 #include <exception>
 
 #include "demos/common/commandline.h"
-#include "demos/common/formpicture.h"
 #include "demos/mailer/mailerform.h"
 #include "demos/mailer/roundtrip.h"
 #include "host/rtl/exceptions.h"
 #include "host/vcl/application.h"
+#include "host/vcl/formpicture.h"
 
 namespace {
 
@@ -39,7 +39,7 @@ int RunUnseen(TMailerForm& form, const std::string& folder) {
 
 int RunMailer() {
   const demos::TCommandLine& line = demos::CommandLine();
-  demos::MakeFolder(line.SettingsFolder);
+  vcl::MakeFolder(line.SettingsFolder);
   Application()->Initialize();
   Application()->SetTitle("Mailer");
   auto* form = Application()->CreateForm<TMailerForm>();

@@ -3,12 +3,12 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "demos/common/formpicture.h"
 #include "demos/mailer/dialogs.h"
 #include "demos/mailer/mailerform.h"
 #include "host/rtl/exceptions.h"
 #include "host/rtl/streams.h"
 #include "host/rtl/text.h"
+#include "host/vcl/formpicture.h"
 #include "host/vcl/png.h"
 
 namespace mailer {
@@ -92,7 +92,7 @@ std::vector<std::string> SaveScreenshots(TMailerForm& form, const std::string& f
     shown.SetFormStyle(fsStayOnTop);
     shown.TCustomForm::Show();
     TBitmap picture;
-    demos::TakePicture(shown, demos::TPart::Whole, picture);
+    vcl::TakePicture(shown, vcl::TFormPart::Whole, picture);
     names.push_back(Concat(folder, "/", name, ".png"));
     SavePng(picture, names.back());
   };

@@ -6,10 +6,10 @@
 #include <exception>
 
 #include "demos/common/commandline.h"
-#include "demos/common/formpicture.h"
 #include "demos/notes/notesform.h"
 #include "demos/notes/screenshots.h"
 #include "host/vcl/application.h"
+#include "host/vcl/formpicture.h"
 
 namespace {
 
@@ -18,7 +18,7 @@ using vcl::Application;
 
 int RunNotes() {
   const demos::TCommandLine& line = demos::CommandLine();
-  demos::MakeFolder(line.SettingsFolder);
+  vcl::MakeFolder(line.SettingsFolder);
   Application()->Initialize();
   // The guard knows copies of the program by this title.
   Application()->SetTitle("Notes");

@@ -1,9 +1,9 @@
 #include "demos/notes/screenshots.h"
 
-#include "demos/common/formpicture.h"
 #include "demos/notes/notesform.h"
 #include "host/rtl/text.h"
 #include "host/vcl/application.h"
+#include "host/vcl/formpicture.h"
 #include "host/vcl/png.h"
 
 namespace notes {
@@ -38,7 +38,7 @@ std::vector<std::string> SaveScreenshots(TNotesForm& form, const std::string& fo
     bool done = true;
     Application()->OnIdle(nullptr, done);  // The status bar is filled when nothing else is to do.
     TBitmap picture;
-    demos::TakePicture(shown, demos::TPart::Whole, picture);
+    vcl::TakePicture(shown, vcl::TFormPart::Whole, picture);
     names.push_back(Concat(folder, "/", name, ".png"));
     SavePng(picture, names.back());
   };

@@ -18,6 +18,11 @@ TCollectionItem::TCollectionItem(TCollection* collection) {
   if (collection) collection->Attach(this);
 }
 
+TKeptData& TCollectionItem::Keep() {
+  if (!FKept) FKept = std::make_unique<TKeptData>();
+  return *FKept;
+}
+
 TCollectionItem::~TCollectionItem() {
   if (FCollection) FCollection->Detach(this);
 }

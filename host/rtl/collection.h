@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/rtl/keptdata.h"
 #include "host/rtl/persistent.h"
 
 namespace vcl {
@@ -30,6 +31,9 @@ class VCL_API TCollectionItem : public TPersistent {
   void SetIndex(int index);
   /// What a designer's list shows for the item: its class name unless overridden.
   virtual std::string DisplayName() const { return ClassName(); }
+  /// What a designer keeps of the item's form file beside what the item knows; null for nothing.
+  const TKeptData* Kept() const { return FKept.get(); }
+  TKeptData& Keep();
 
  protected:
   /// Tells the collection of a change, of this item or, when `allItems`, of the list.
@@ -39,6 +43,7 @@ class VCL_API TCollectionItem : public TPersistent {
   friend class TCollection;
   TCollection* FCollection = nullptr;
   int FID = 0;
+  std::unique_ptr<TKeptData> FKept;
 };
 
 class VCL_API TCollection : public TPersistent {

@@ -1,6 +1,7 @@
 #include "host/rtl/component.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "host/rtl/exceptions.h"
 #include "host/rtl/filer.h"
@@ -122,6 +123,22 @@ void TComponent::RemoveComponent(TComponent* component) {
 
 void TComponent::DestroyComponents() {
   while (!FComponents.empty()) delete FComponents.back();
+}
+
+void TComponent::SetDesignPosition(int left, int top) {
+  constexpr int lowest = std::numeric_limits<std::int16_t>::min();
+  constexpr int highest = std::numeric_limits<std::int16_t>::max();
+  FDesignLeft = static_cast<std::int16_t>(std::clamp(left, lowest, highest));
+  FDesignTop = static_cast<std::int16_t>(std::clamp(top, lowest, highest));
+}
+
+TKeptData& TComponent::Keep() {
+  if (!FKept) FKept = std::make_unique<TKeptData>();
+  return *FKept;
+}
+
+const std::string& TComponent::FileClassName() const {
+  return FKept && !FKept->ClassName.empty() ? FKept->ClassName : ClassName();
 }
 
 void TComponent::SetDesigning(bool designing) {

@@ -4,10 +4,12 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/rtl/keptdata.h"
 #include "host/rtl/persistent.h"
 #include "host/rtl/typeinfo.h"
 
@@ -74,6 +76,19 @@ class VCL_API TComponent : public TPersistent {
   /// Puts the component and all that it owns into the designing state, or takes them out of it.
   void SetDesigning(bool designing);
 
+  /// Where a designer shows a component that is not a control, in pixels.
+  int DesignLeft() const { return FDesignLeft; }
+  int DesignTop() const { return FDesignTop; }
+  /// What lies outside 16 bits is taken as the nearest that does not.
+  void SetDesignPosition(int left, int top);
+
+  /// What a designer keeps of the component's form file beside what the component knows; null for
+  /// nothing.
+  const TKeptData* Kept() const { return FKept.get(); }
+  TKeptData& Keep();
+  /// The class that form files give the component: its own, or the one that it stands in for.
+  const std::string& FileClassName() const;
+
   /// Asks that `component` be told (`Notification`, opRemove) when this one is freed, wherever the
   /// two belong. Asking twice is asking once.
   void FreeNotification(TComponent* component);
@@ -118,7 +133,6 @@ class VCL_API TComponent : public TPersistent {
   friend class TWatch;
   bool Unnamed() const { return FName.empty(); }
   void MarkDestroying();
-  /// Where a designer shows a component that is not a control, in pixels.
   void DefinePosition(TFiler& filer, const char* name, std::int16_t& coordinate);
 
   TComponent* FOwner = nullptr;
@@ -131,6 +145,7 @@ class VCL_API TComponent : public TPersistent {
   std::int16_t FDesignLeft = 0;
   std::int16_t FDesignTop = 0;
   TWatch* FWatches = nullptr;
+  std::unique_ptr<TKeptData> FKept;
 };
 
 /// Watches a component during a call that might free it, such as an event:

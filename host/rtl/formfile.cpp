@@ -12,7 +12,7 @@ namespace {
 
 /// Hands a reader over the form file that the rest of a stream is, in whichever form, to `read`.
 template <class Read>
-void WithReader(TStream& stream, const Read& read) {
+void WithReader(TStream& stream, TReaderKeeper* keeper, const Read& read) {
   TStringStream source(stream.ReadRest());
   TFormLines lines;
   TMemoryStream converted;
@@ -23,6 +23,7 @@ void WithReader(TStream& stream, const Read& read) {
   }
   TMemoryStream& form = binary ? source : converted;
   TReader reader(form);
+  reader.SetKeeper(keeper);
   if (!binary) reader.SetLineOf([&](std::int64_t offset) { return lines.LineOf(offset); });
   read(reader);
 }
@@ -50,10 +51,12 @@ void Naming(const std::string& name, const Read& read) {
 
 bool IsBinaryForm(std::string_view bytes) { return bytes.starts_with(FormSignature); }
 
-TComponent* ReadComponentFile(TStream& stream, TComponent* root, const std::string& name) {
+TComponent* ReadComponentFile(TStream& stream, TComponent* root, const std::string& name,
+                              TReaderKeeper* keeper) {
   TComponent* read = nullptr;
-  Naming(name,
-         [&] { WithReader(stream, [&](TReader& reader) { read = reader.ReadRootFile(root); }); });
+  Naming(name, [&] {
+    WithReader(stream, keeper, [&](TReader& reader) { read = reader.ReadRootFile(root); });
+  });
   return read;
 }
 
@@ -63,8 +66,8 @@ TComponent* ReadComponentFile(const std::string& fileName, TComponent* root) {
 }
 
 void ReadComponentsInto(TStream& stream, TComponent* owner, TComponent* parent,
-                        const std::function<void(TComponent*)>& made) {
-  WithReader(stream, [&](TReader& reader) { reader.ReadComponents(owner, parent, made); });
+                        const std::function<void(TComponent*)>& made, TReaderKeeper* keeper) {
+  WithReader(stream, keeper, [&](TReader& reader) { reader.ReadComponents(owner, parent, made); });
 }
 
 void WriteComponentBinary(TStream& stream, TComponent* root, const std::string& className) {

@@ -23,6 +23,7 @@
 namespace vcl {
 
 class TComponent;
+class TReaderKeeper;
 class TStream;
 
 /// Where in a text the values of the binary form made of it came from.
@@ -52,15 +53,18 @@ VCL_API void ObjectBinaryToText(TStream& binary, TStream& text);
 
 /// Reads the form file that the rest of the stream is, in either form, into `root`, or makes a
 /// root; see TReader::ReadRootComponent. Messages name the line of a text.
-/// They begin with `name`, when there is one, which says what is read.
+/// They begin with `name`, when there is one, which says what is read. With a keeper nothing is lost
+/// (TReader::SetKeeper).
 VCL_API TComponent* ReadComponentFile(TStream& stream, TComponent* root,
-                                      const std::string& name = {});
+                                      const std::string& name = {},
+                                      TReaderKeeper* keeper = nullptr);
 /// Reads a file; messages name it. Raises EFOpenError too.
 VCL_API TComponent* ReadComponentFile(const std::string& fileName, TComponent* root);
 /// Reads the components in the rest of the stream, in either form, into an owner and a parent; see
 /// TReader::ReadComponents.
 VCL_API void ReadComponentsInto(TStream& stream, TComponent* owner, TComponent* parent,
-                                const std::function<void(TComponent*)>& made);
+                                const std::function<void(TComponent*)>& made,
+                                TReaderKeeper* keeper = nullptr);
 
 /// Write a root; see TWriter, whose SetRootClassName gets `className`.
 VCL_API void WriteComponentBinary(TStream& stream, TComponent* root,

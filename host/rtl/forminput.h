@@ -39,6 +39,10 @@ class TFormInput {
   std::size_t Position() const { return FPosition; }
   void SetPosition(std::size_t position) { FPosition = position; }
   bool AtEnd() const { return FPosition == FBytes.size(); }
+  /// The bytes from one position up to another.
+  std::string Slice(std::size_t from, std::size_t to) const {
+    return FBytes.substr(from, to - from);
+  }
 
   /// "Line 12: Button1.Colour: " or the same with the offset.
   std::string Place(std::size_t at) const;

@@ -30,6 +30,8 @@ class TFormOutput {
   void WriteIdent(std::string_view ident);
   void WriteSet(const std::vector<std::string>& idents);
   void WriteBinary(std::string_view bytes);
+  /// What is in the binary form already.
+  void WriteRaw(std::string_view bytes) { FBytes += bytes; }
 
  private:
   template <class T>

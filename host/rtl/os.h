@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/rtl/api.h"
+
 namespace vcl::os {
 
 /// What `OpenFile` returns when the system refuses; LastErrorText says why.
@@ -34,7 +36,7 @@ void AnswerSentMessages();
 int CompareText(std::string_view a, std::string_view b);
 
 /// The system's words for the calling thread's last failure.
-std::string LastErrorText();
+VCL_API std::string LastErrorText();
 /// The full name of the running program.
 std::string ExeName();
 

@@ -107,6 +107,7 @@ TComponent* TReader::TImpl::ReadRoot(TComponent* root, bool toTheEnd) {
   Enter(Root, !root);
   NameRoot(Root, heading.Name);
   Input.Context = heading.Name;
+  if (Keeper) Root->Keep().ClassName = heading.ClassName;
   Owner = Root;
   Parent = Root;
   ReadBody(Root);
@@ -136,7 +137,13 @@ void TReader::TImpl::ReadAll(TComponent* owner, TComponent* parent,
 void TReader::TImpl::CallLoaded() {
   for (TReaderPart& part : Parts) {
     // Any of them may free another.
-    if (!part.Watch.Gone()) part.Component->Loaded();
+    if (part.Watch.Gone()) continue;
+    try {
+      part.Component->Loaded();
+    } catch (const Exception& error) {
+      if (!Keeper) throw;
+      Keeper->Report(Concat(part.Component->Name(), ": ", error.what()));
+    }
   }
 }
 

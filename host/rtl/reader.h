@@ -13,6 +13,7 @@ namespace vcl {
 
 class TCollection;
 class TComponent;
+class TReaderKeeper;
 
 /// Reads a form file. Its components are of classes that the root's class lists a field of, or that
 /// are registered (RegisterClass). All methods raise EReadError, with the offset (and the line,
@@ -26,6 +27,11 @@ class VCL_API TReader : public TFiler {
   /// Tells the line of the text that the byte at an offset came from; 0 when it is not known. Set
   /// for a file that was converted from text, so that errors can name the line.
   void SetLineOf(std::function<int(std::int64_t offset)> lineOf);
+
+  /// Goes on where a class, a property or a referred component is missing or refuses what the file
+  /// gives it, and keeps that (keptdata.h) so that a writer puts it back. The keeper must outlive
+  /// the reader; null raises instead.
+  void SetKeeper(TReaderKeeper* keeper);
 
   /// Reads the file's root into `root`, whatever class the file gives it, or into a new component
   /// of the file's class when it is null (then the caller owns it), and everything in it; fills the

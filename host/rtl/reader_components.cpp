@@ -18,7 +18,7 @@ std::string FreeName(const TComponent& owner, const std::string& name) {
 
 /// What a pasted component's number stands behind: its class name without the T.
 std::string NameStem(const TComponent& component) {
-  const std::string& className = component.ClassName();
+  const std::string& className = component.FileClassName();
   return className.starts_with('T') ? className.substr(1) : className;
 }
 
@@ -60,8 +60,13 @@ void TReader::TImpl::NameRoot(TComponent* root, const std::string& name) {
 
 /// Gives a component that has just been made its name, its parent and its field.
 void TReader::TImpl::Place(TComponent* component, const TFormHeading& heading) {
-  const bool taken = Pasting && component->Owner()->FindComponent(heading.Name);
-  component->SetName(taken ? FreeName(*component->Owner(), NameStem(*component)) : heading.Name);
+  const bool taken = component->Owner()->FindComponent(heading.Name) != nullptr;
+  const bool renamed = taken && (Pasting || Keeper);
+  component->SetName(renamed ? FreeName(*component->Owner(), NameStem(*component)) : heading.Name);
+  if (renamed && !Pasting) {
+    Keeper->Report(Concat(Input.Place(Input.Mark()), "the name ", heading.Name,
+                          " is taken; the component is ", component->Name(), " now"));
+  }
   if (Parent) component->SetParentComponent(Parent);
   if (component->Owner() == Root) FillField(component, heading.Name);
 }
@@ -87,7 +92,7 @@ TComponent* TReader::TImpl::ReadComponent() {
 
   TComponent* component = nullptr;
   Placed(start, [&] {
-    component = heading.Inherited ? Existing(heading) : Make(heading, Owner);
+    component = heading.Inherited ? Existing(heading) : MakeOrStandIn(heading, Owner);
     Enter(component, !heading.Inherited);
     if (!heading.Name.empty() && component->Owner() == Root) {
       Named.insert_or_assign(UpperCase(heading.Name), Part);
@@ -110,6 +115,8 @@ void TReader::TImpl::ReadBody(TComponent* component) {
 }
 
 void TReader::TImpl::ReadChildren(TComponent* component) {
+  const bool standsIn = Keeper && component != Root && component->Kept();
+  if (standsIn && !component->Kept()->ClassName.empty()) return KeepChildren(component->Keep());
   TComponent* childOwner = component->GetChildOwner();
   const auto outer = std::pair(Owner, Parent);
   Owner = childOwner ? childOwner : Root;

@@ -9,14 +9,16 @@
 namespace vcl {
 
 void TReader::TImpl::ReadProperties(TPersistent& object) {
+  std::string after;
   while (!Input.EndOfList()) {
-    ReadProperty(object);
+    ReadProperty(object, after);
     if (Part && Part->Watch.Gone()) Input.Fail("the component was freed while it was read");
   }
   Input.Take(TValueType::vaNull);
 }
 
-void TReader::TImpl::ReadProperty(TPersistent& object) {
+/// Reads a property, or keeps it; `after` is the name of the one in front.
+void TReader::TImpl::ReadProperty(TPersistent& object, std::string& after) {
   const std::string path = Input.ReadName();
   const std::size_t start = Input.Mark();
   const std::size_t outerContext = Input.Context.size();
@@ -24,18 +26,34 @@ void TReader::TImpl::ReadProperty(TPersistent& object) {
   if (!Input.Context.empty()) Input.Context += '.';
   Input.Context += path;
 
-  Placed(start, [&] {
-    TObject* holder = &object;
-    std::string_view rest = path;
-    for (auto dot = rest.find('.'); dot != std::string_view::npos; dot = rest.find('.')) {
-      holder = StepInto(holder, rest.substr(0, dot));
-      rest.remove_prefix(dot + 1);
-    }
-    ReadInto(*holder, std::string(rest));
-  });
+  const std::size_t value = Input.Position();
+  const std::string* outerDefined = Defined;
+  const auto keep = [&](const Exception& error) {
+    Defined = outerDefined;
+    return KeepProperty(object, path, value, after, error.what());
+  };
+  After = after;
+  try {
+    Placed(start, [&] { ReadPath(object, path); });
+  } catch (const EPlacedReadError& error) {
+    if (!keep(error)) throw;
+  } catch (const EClassNotFound& error) {
+    if (!keep(error)) throw;
+  }
 
+  after = path;
   Steps.resize(outerSteps);
   Input.Context.resize(outerContext);
+}
+
+void TReader::TImpl::ReadPath(TPersistent& object, const std::string& path) {
+  TObject* holder = &object;
+  std::string_view rest = path;
+  for (auto dot = rest.find('.'); dot != std::string_view::npos; dot = rest.find('.')) {
+    holder = StepInto(holder, rest.substr(0, dot));
+    rest.remove_prefix(dot + 1);
+  }
+  ReadInto(*holder, std::string(rest));
 }
 
 /// The object behind a property, whose own properties the file sets one by one.
@@ -128,7 +146,8 @@ void TReader::TImpl::ReadObject(TObject& object, const TPropInfo& prop) {
     return prop.Set(object, static_cast<TObject*>(nullptr));
   }
   std::string target = Input.ReadIdent();
-  Fixups.push_back({Part, Steps, &prop, std::move(target), Input.Context, Input.Mark()});
+  Fixups.push_back(
+      {Part, Steps, &prop, std::move(target), Input.Context, Input.Mark(), After});
 }
 
 /// Reads a collection that no published property leads to.

@@ -32,8 +32,12 @@ void TReader::TImpl::ResolveReferences(bool required) {
     Input.Context = fixup.Context;
     TComponent* target = Find(fixup.Target);
     if (!target && !required) continue;
-    if (!target) Input.FailAt(fixup.At, Concat("there is no component ", fixup.Target));
-    Placed(fixup.At, [&] { fixup.Prop->Set(*holder, static_cast<TObject*>(target)); });
+    try {
+      if (!target) Input.FailAt(fixup.At, Concat("there is no component ", fixup.Target));
+      Placed(fixup.At, [&] { fixup.Prop->Set(*holder, static_cast<TObject*>(target)); });
+    } catch (const EPlacedReadError& error) {
+      if (!KeepReference(fixup, error.what())) throw;
+    }
   }
   Input.Context.clear();
 }

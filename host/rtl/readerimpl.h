@@ -39,6 +39,7 @@ struct TReaderFixup {
   std::string Target;
   std::string Context;
   std::size_t At;
+  std::string After;
 };
 
 struct TReader::TImpl {
@@ -65,6 +66,16 @@ struct TReader::TImpl {
   void ReadBody(TComponent* component);
   void ReadChildren(TComponent* component);
 
+  // Keeping what can't be used (reader_kept.cpp).
+  static TKeptData* KeptOf(TObject* object);
+  bool KeepProperty(TObject& object, const std::string& name, std::size_t value,
+                    const std::string& after, const std::string& error);
+  bool KeepReference(const TReaderFixup& fixup, const std::string& error);
+  bool HasWidth();
+  TComponent* MakeOrStandIn(const TFormHeading& heading, TComponent* owner);
+  void SkipComponent(TKeptData& kept);
+  void KeepChildren(TKeptData& kept);
+
   // References (reader_references.cpp).
   void ResolveReferences(bool required);
   TObject* Holder(const TReaderFixup& fixup) const;
@@ -73,7 +84,8 @@ struct TReader::TImpl {
 
   // Properties (reader_properties.cpp).
   void ReadProperties(TPersistent& object);
-  void ReadProperty(TPersistent& object);
+  void ReadProperty(TPersistent& object, std::string& after);
+  void ReadPath(TPersistent& object, const std::string& path);
   TObject* StepInto(TObject* object, std::string_view name);
   void ReadInto(TObject& object, const std::string& name);
   void ReadDefined(TObject& object, const std::string& name);
@@ -95,6 +107,7 @@ struct TReader::TImpl {
 
   TReader& Self;
   TFormInput Input;
+  TReaderKeeper* Keeper = nullptr;
   TComponent* Root = nullptr;
   TComponent* Owner = nullptr;
   TComponent* Parent = nullptr;
@@ -114,6 +127,8 @@ struct TReader::TImpl {
   std::vector<TReaderStep> Steps;
   /// The defined property that is looked for; null when it has been found.
   const std::string* Defined = nullptr;
+  /// The property in front of the one that is read.
+  std::string After;
 };
 
 template <class Read>

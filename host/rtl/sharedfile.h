@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "host/rtl/api.h"
+
 namespace vcl::os {
 
 enum class TReading { Done, Missing, Refused };
@@ -35,6 +37,6 @@ class TFileTurn {
 /// the former contents or the new ones. They are written to a file beside it, "NAME.~new", which
 /// then takes its place. Call it in one's turn. False when the system refuses; LastErrorText says
 /// why, and the file is as before.
-bool ReplaceWholeFile(const std::string& name, const std::string& contents);
+VCL_API bool ReplaceWholeFile(const std::string& name, const std::string& contents);
 
 }  // namespace vcl::os

@@ -16,6 +16,7 @@ void TWriter::TImpl::Change(const Write& write) {
   if (Busy) return write(Output);
   Output = {};
   Busy = true;
+  KeptLeft.clear();
   try {
     write(Output);
   } catch (...) {
@@ -43,9 +44,10 @@ void TWriter::WriteComponent(TComponent* component, TComponent* root) {
 }
 
 void TWriter::WriteData(TComponent* component) {
-  FImpl->WriteProperties(*component);
+  FImpl->WriteAllProperties(*component, component->Kept());
   FImpl->Output.WriteEnd();
   component->GetChildren([&](TComponent* child) { FImpl->WriteComponent(child); }, FImpl->Root);
+  if (component->Kept()) FImpl->Output.WriteRaw(component->Kept()->Children);
   FImpl->Output.WriteEnd();
 }
 
@@ -90,7 +92,7 @@ void TWriter::TImpl::WriteComponent(TComponent* component) {
   const TDepth depth(*this);
   const bool renamed = component == Root && !RootClassName.empty();
   TFormHeading heading;
-  heading.ClassName = renamed ? RootClassName : component->ClassName();
+  heading.ClassName = renamed ? RootClassName : component->FileClassName();
   heading.Name = component->Name();
   Output.WriteHeading(heading);
   component->Include(csWriting);

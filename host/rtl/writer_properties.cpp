@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include "host/rtl/collection.h"
@@ -7,6 +9,60 @@
 #include "host/rtl/writerimpl.h"
 
 namespace vcl {
+
+namespace {
+
+/// True when the object writes a value of its own for the property that a name with dots says.
+bool WritesOwn(const TObject* object, std::string_view name) {
+  const auto dot = name.find('.');
+  const TPropInfo* prop = object->ClassType().FindPublished(name.substr(0, dot));
+  if (!prop) return false;
+  if (prop->IsEvent()) {
+    return !prop->EventOf(const_cast<TObject&>(*object)).HandlerName().empty();
+  }
+  if (!prop->Type->ClassOf) return dot == std::string_view::npos && prop->NeedsWriting(*object);
+  const TObject* inner = std::get<TObject*>(prop->Get(*object));
+  return inner && (dot == std::string_view::npos || WritesOwn(inner, name.substr(dot + 1)));
+}
+
+}  // namespace
+
+/// Writes what the object publishes and defines, and what is kept of it at its place in between.
+void TWriter::TImpl::WriteAllProperties(TPersistent& object, const TKeptData* kept) {
+  std::vector<const TKeptProperty*> way;
+  if (kept) {
+    for (const TKeptProperty& each : kept->Properties) {
+      if (!WritesOwn(&object, each.Name)) way.push_back(&each);
+    }
+  }
+  const auto outer = std::pair(std::exchange(KeptLeft, std::move(way)), std::exchange(Last, {}));
+  WriteProperties(object);
+  WriteKept(Last);
+  // What stood behind a property that is no longer written.
+  while (!KeptLeft.empty()) WriteKept(KeptLeft.front()->After);
+  std::tie(KeptLeft, Last) = outer;
+}
+
+/// Writes what is kept behind the property `after`.
+void TWriter::TImpl::WriteKept(const std::string& after) {
+  std::string last = after;
+  const auto next = [&] {
+    return std::ranges::find_if(
+        KeptLeft, [&](const TKeptProperty* each) { return SameText(each->After, last); });
+  };
+  for (auto each = next(); each != KeptLeft.end(); each = next()) {
+    Output.WriteName((*each)->Name);
+    Output.WriteRaw((*each)->Value);
+    last = (*each)->Name;
+    KeptLeft.erase(each);
+  }
+}
+
+void TWriter::TImpl::WriteName(const std::string& name) {
+  if (!KeptLeft.empty()) WriteKept(Last);
+  Last = Prefix + name;
+  Output.WriteName(Last);
+}
 
 void TWriter::TImpl::WriteProperties(TPersistent& object) {
   for (const TPropInfo* prop : object.ClassType().Published()) WriteProperty(object, *prop);
@@ -78,7 +134,7 @@ void TWriter::TImpl::WriteCollection(TCollection& collection) {
   Output.WriteSort(TValueType::vaCollection);
   for (int i = 0; i < collection.Count(); ++i) {
     Output.WriteSort(TValueType::vaList);
-    WriteProperties(*collection.Items(i));
+    WriteAllProperties(*collection.Items(i), collection.Items(i)->Kept());
     Output.WriteEnd();
   }
   Output.WriteEnd();

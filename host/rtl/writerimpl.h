@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "host/rtl/component.h"
 #include "host/rtl/formoutput.h"
@@ -19,6 +20,7 @@ struct TWriter::TImpl {
   void WriteComponent(TComponent* component);
 
   // Properties (writer_properties.cpp).
+  void WriteAllProperties(TPersistent& object, const TKeptData* kept);
   void WriteProperties(TPersistent& object);
   void WriteProperty(TPersistent& object, const TPropInfo& prop);
   void WriteEvent(TPersistent& object, const TPropInfo& prop);
@@ -30,7 +32,8 @@ struct TWriter::TImpl {
   void WriteOrdinal(const TPropInfo& prop, std::int64_t value);
   void WriteSet(const TPropInfo& prop, std::int64_t bits);
   std::string EnumName(const TPropInfo& prop, std::int64_t value) const;
-  void WriteName(const std::string& name) { Output.WriteName(Prefix + name); }
+  void WriteName(const std::string& name);
+  void WriteKept(const std::string& after);
   std::string ReferenceTo(const TComponent& component) const;
 
   /// Counts how deep things stand in each other while it lives, and refuses too many.
@@ -54,6 +57,10 @@ struct TWriter::TImpl {
   std::string RootClassName;
   /// The names of the properties that lead to the object being written, a dot behind each.
   std::string Prefix;
+  /// What is kept of the object being written (keptdata.h) and waits for its place, and the
+  /// property that was written last.
+  std::vector<const TKeptProperty*> KeptLeft;
+  std::string Last;
 };
 
 }  // namespace vcl

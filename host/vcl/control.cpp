@@ -279,6 +279,10 @@ void TControl::SetName(const std::string& name) {
   if (follows) SetText(name);
 }
 
+bool TControl::Seen() const {
+  return FVisible || (Designing() && !FControlStyle.Has(csNoDesignVisible));
+}
+
 // Painting.
 
 void TControl::Invalidate() { InvalidateArea(FVisible, FControlStyle.Has(csOpaque)); }

@@ -73,6 +73,8 @@ class VCL_API TControl : public TComponent {
   void SetEnabled(bool enabled);
   bool Visible() const { return FVisible; }
   virtual void SetVisible(bool visible);
+  /// True when the control is shown where its parent is: it is visible, or is being designed.
+  bool Seen() const;
   void Show();
   void Hide() { SetVisible(false); }
   TControlStyle ControlStyle() const { return FControlStyle; }

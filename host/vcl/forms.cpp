@@ -175,6 +175,14 @@ void TCustomForm::GetChildren(const std::function<void(TComponent*)>& each, TCom
   }
 }
 
+TDesignerHook::~TDesignerHook() = default;
+
+void TCustomForm::SetDesigner(TDesignerHook* designer) {
+  FDesigner = designer;
+  designer ? Include(csDesignInstance) : Exclude(csDesignInstance);
+  SetDesigning(designer != nullptr);
+}
+
 // Properties.
 
 void TCustomForm::SetVisible(bool visible) {

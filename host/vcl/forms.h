@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "host/vcl/designerhook.h"
 #include "host/vcl/wincontrol.h"
 
 namespace vcl {
@@ -145,6 +146,12 @@ class VCL_API TCustomForm : public TWinControl {
   void Next();
   void Previous();
 
+  /// The designer that shows the form; null for a form that runs.
+  TDesignerHook* Designer() const { return FDesigner; }
+  /// Puts the form, which has no window yet, into the designing state. The designer must outlive
+  /// it. A form file that is read then shows the form.
+  void SetDesigner(TDesignerHook* designer);
+
   void SetVisible(bool visible) override;
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
   TRect ClientRect() const override;
@@ -197,6 +204,7 @@ class VCL_API TCustomForm : public TWinControl {
   // Windows inside a window.
   bool StandsInside() const;
   HWND WindowAround() const;
+  bool InsideWindow() const { return StandsInside() || FDesigner; }
   void CreateClient();
   void DestroyClient();
   void TellClient(UINT message, WPARAM wParam = 0);
@@ -251,6 +259,7 @@ class VCL_API TCustomForm : public TWinControl {
   HWND FClientHandle = nullptr;
   TTileMode FTileMode = tbHorizontal;
   TMainMenu* FMenu = nullptr;
+  TDesignerHook* FDesigner = nullptr;
   std::unique_ptr<TIcon> FIcon;
   std::unique_ptr<TControlCanvas> FCanvas;
 };

@@ -31,8 +31,9 @@ bool TCustomForm::StandsInside() const {
   return FFormStyle == fsMDIChild && !Designing() && !Parent();
 }
 
-/// The main form's client, which is made if it has to be.
+/// The designer's window, or the main form's client, which is made if it has to be.
 HWND TCustomForm::WindowAround() const {
+  if (FDesigner) return FDesigner->HostWindow();
   TCustomForm* const main = Application()->MainForm();
   if (main && main != this && main->FFormStyle == fsMDIForm) main->HandleNeeded();
   if (main && main->FClientHandle) return main->FClientHandle;

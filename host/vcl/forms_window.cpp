@@ -37,11 +37,11 @@ bool HasSizeButtons(TBorderStyle style) { return style == bsSingle || style == b
 void TCustomForm::AddFrame(TCreateParams& params) const {
   if (Parent()) return;
   const TFrame& frame = Frames[FBorderStyle];
-  const bool inside = StandsInside();
+  const bool inside = InsideWindow();
   params.Style &= ~static_cast<DWORD>(inside ? 0 : WS_CHILD);
   params.Style &= ~static_cast<DWORD>(WS_GROUP | WS_TABSTOP);
   params.Style |= frame.Style & ~(inside ? WS_POPUP : 0);
-  params.ExStyle |= frame.ExStyle | WS_EX_CONTROLPARENT | (inside ? WS_EX_MDICHILD : 0);
+  params.ExStyle |= frame.ExStyle | WS_EX_CONTROLPARENT | (StandsInside() ? WS_EX_MDICHILD : 0);
   if (FBorderStyle == bsNone) return;
   if (FBorderIcons.Has(biSystemMenu)) params.Style |= WS_SYSMENU;
   if (HasSizeButtons(FBorderStyle)) {
@@ -58,7 +58,7 @@ void TCustomForm::CreateParams(TCreateParams& params) {
   if (Parent()) return;
   params.Style &= ~static_cast<DWORD>(WS_VISIBLE);
   params.Style |= WS_CLIPCHILDREN;
-  params.WndParent = StandsInside() ? WindowAround() : Application()->Handle();
+  params.WndParent = InsideWindow() ? WindowAround() : Application()->Handle();
   if (Designing()) return;
   if (FFormStyle == fsStayOnTop) params.ExStyle |= WS_EX_TOPMOST;
   // The system places windows that are no popups only.
@@ -96,7 +96,7 @@ void TCustomForm::Remake() {
 }
 
 void TCustomForm::UpdateMenu() {
-  if (!HandleAllocated() || Parent() || StandsInside()) return;
+  if (!HandleAllocated() || Parent() || InsideWindow()) return;
   const bool shown = FMenu && FBorderStyle != bsDialog && !Designing();
   ::SetMenu(Handle(), shown ? FMenu->Handle() : nullptr);
   ::DrawMenuBar(Handle());
@@ -140,6 +140,7 @@ void TCustomForm::WMPaint(TMessage& message) {
 }
 
 void TCustomForm::PaintWindow(HDC dc) {
+  if (FDesigner) FDesigner->PaintBehind(dc);
   const TCanvasBinding binding(*this, *FCanvas, dc);
   OnPaint(this);
 }

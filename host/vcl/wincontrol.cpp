@@ -131,7 +131,7 @@ void TWinControl::SetZOrder(bool topmost) {
 TControl* TWinControl::ControlAtPos(TPoint position, bool allowDisabled) const {
   for (auto each = FControls.rbegin(); each != FControls.rend(); ++each) {
     TControl* control = *each;
-    if (!control->Visible() && !control->Designing()) continue;
+    if (!control->Seen()) continue;
     if (!control->BoundsRect().Contains(position)) continue;
     if (!allowDisabled && !control->FEnabled && !control->Designing()) continue;
     const TPoint inside{position.X - control->Left(), position.Y - control->Top()};

@@ -197,6 +197,7 @@ class VCL_API TWinControl : public TControl {
     TWatch FWatch;
     TWinControl& FControl;
   };
+  bool TakenByDesigner(TMessage& message);
   static LRESULT CALLBACK StaticWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void Insert(TControl* control);
   void Remove(TControl* control);

@@ -182,6 +182,7 @@ bool TWinControl::HandleChar(TMessage& message) {
 }
 
 bool TWinControl::PreprocessKey(MSG& message) {
+  if (Designing()) return false;
   switch (message.message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN: break;

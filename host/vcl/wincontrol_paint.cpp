@@ -153,7 +153,7 @@ void TWinControl::PaintControls(HDC dc, TControl* first) {
     if (dynamic_cast<TWinControl*>(control)) return;
     begun = begun || control == first;
     const RECT bounds = control->BoundsRect();
-    const bool seen = control->Visible() || control->Designing();
+    const bool seen = control->Seen();
     if (!begun || !seen || !::RectVisible(dc, &bounds)) continue;
     const TSavedDC saved(dc);
     MoveOrigin(dc, control->Left(), control->Top());

@@ -176,8 +176,7 @@ void TWinControl::UpdateControlState() {
 }
 
 void TWinControl::UpdateShowing() {
-  const bool show = (Visible() || (Designing() && !ControlStyle().Has(csNoDesignVisible))) &&
-                    !ControlState().Has(csReadingState);
+  const bool show = Seen() && !ControlState().Has(csReadingState);
   if (show) {
     Handle();
     // Bottom first, as they lie above each other.
@@ -188,6 +187,11 @@ void TWinControl::UpdateShowing() {
   if (!FHandle || show == FShowing) return;
   FShowing = show;
   Perform(CM_SHOWINGCHANGED);
+}
+
+bool TWinControl::TakenByDesigner(TMessage& message) {
+  const TCustomForm* form = Designing() ? ParentForm() : nullptr;
+  return form && form->Designer() && form->Designer()->IsDesignMessage(*this, message);
 }
 
 LRESULT CALLBACK TWinControl::StaticWndProc(HWND window, UINT message, WPARAM wParam,
@@ -202,7 +206,7 @@ LRESULT CALLBACK TWinControl::StaticWndProc(HWND window, UINT message, WPARAM wP
   TMessage record{message, wParam, lParam, 0};
   TWatch watch(control);
   try {
-    control->WndProc(record);
+    if (!control->TakenByDesigner(record)) control->WndProc(record);
   } catch (...) {
     Application()->HandleCurrentException(watch.Gone() ? nullptr : control);
   }

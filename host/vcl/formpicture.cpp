@@ -1,4 +1,4 @@
-#include "demos/common/formpicture.h"
+#include "host/vcl/formpicture.h"
 
 #include <cstring>
 #include <filesystem>
@@ -8,16 +8,14 @@
 #include "host/vcl/application.h"
 #include "host/vcl/windowtext.h"
 
-namespace demos {
-
-using namespace vcl;
+namespace vcl {
 
 namespace {
 
 /// On the screen.
-TRect PlaceOf(TCustomForm& form, TPart part) {
+TRect PlaceOf(TCustomForm& form, TFormPart part) {
   const TPoint corner = form.ClientToScreen({0, 0});
-  if (part == TPart::Inside)
+  if (part == TFormPart::Inside)
     return Bounds(corner.X, corner.Y, form.ClientWidth(), form.ClientHeight());
   RECT window;
   ::GetWindowRect(form.Handle(), &window);
@@ -49,7 +47,7 @@ void MakeFolder(const std::string& folder) {
   }
 }
 
-void TakePicture(TCustomForm& form, TPart part, TBitmap& picture) {
+void TakePicture(TCustomForm& form, TFormPart part, TBitmap& picture) {
   constexpr int attempts = 50;
   constexpr DWORD pause = 50;  // Milliseconds.
   picture.SetPixelFormat(pf32bit);
@@ -64,4 +62,4 @@ void TakePicture(TCustomForm& form, TPart part, TBitmap& picture) {
   }
 }
 
-}  // namespace demos
+}  // namespace vcl

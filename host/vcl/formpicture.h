@@ -3,19 +3,20 @@
 
 #include <string>
 
+#include "host/rtl/api.h"
 #include "host/vcl/bitmap.h"
 #include "host/vcl/forms.h"
 
-namespace demos {
+namespace vcl {
 
 /// Makes the folder, and those around it, when it is not there. Raises EInOutError.
-void MakeFolder(const std::string& folder);
+VCL_API void MakeFolder(const std::string& folder);
 
 /// What of a form is on its picture: its client area, or all with caption and menu.
-enum class TPart { Inside, Whole };
+enum class TFormPart { Inside, Whole };
 
 /// Takes a picture of a shown form, which nothing covers, once the screen has come to rest: that is
 /// some time after the painting. The system's controls draw their edges nowhere but there.
-void TakePicture(vcl::TCustomForm& form, TPart part, vcl::TBitmap& picture);
+VCL_API void TakePicture(TCustomForm& form, TFormPart part, TBitmap& picture);
 
-}  // namespace demos
+}  // namespace vcl

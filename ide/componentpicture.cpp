@@ -1,0 +1,21 @@
+#include "ide/componentpicture.h"
+
+#include "ide/paletteicons.h"
+
+namespace ide {
+
+using namespace vcl;
+
+void PaintComponentPicture(TCanvas& canvas, const TRect& inside, const TComponent& component,
+                           bool selected) {
+  RECT face = inside;
+  ::DrawFrameControl(canvas.Handle(), &face, DFC_BUTTON, DFCS_BUTTONPUSH);
+  DrawIcon(canvas, (inside.Left + inside.Right - IconSize) / 2,
+           (inside.Top + inside.Bottom - IconSize) / 2, ComponentIcon(component.ClassType()));
+  if (!selected) return;
+  canvas.Brush()->SetStyle(bsClear);
+  canvas.Pen()->SetColor(clNavy);
+  canvas.Rectangle(inside);
+}
+
+}  // namespace ide

@@ -1,0 +1,99 @@
+// TDesignSurface: which component is where.
+#include <algorithm>
+#include <cstdlib>
+
+#include "ide/designsurface.h"
+
+namespace ide {
+
+using namespace vcl;
+
+bool TDesignSurface::IsIcon(const TComponent& component) {
+  return !dynamic_cast<const TControl*>(&component) && !component.HasParent();
+}
+
+TRect TDesignSurface::BoundsOf(const TComponent& component) {
+  if (const auto* control = dynamic_cast<const TControl*>(&component)) return control->BoundsRect();
+  return Bounds(component.DesignLeft(), component.DesignTop(), PictureSize, PictureSize);
+}
+
+void TDesignSurface::SetBoundsOf(TComponent& component, const TRect& bounds) {
+  if (auto* control = dynamic_cast<TControl*>(&component)) {
+    control->SetBounds(bounds.Left, bounds.Top, bounds.Width(), bounds.Height());
+  } else {
+    component.SetDesignPosition(bounds.Left, bounds.Top);
+  }
+}
+
+/// The control, or the nearest around it that belongs to the form itself.
+TComponent* TDesignSurface::Selectable(TControl* control) const {
+  while (control && control != FRoot && control->Owner() != FRoot) control = control->Parent();
+  return control ? control : FRoot;
+}
+
+/// The deepest component at a position that the system has found to be in the window.
+TComponent* TDesignSurface::ComponentAt(TWinControl& window, TPoint screen) const {
+  TControl* found = &window;
+  for (auto* around = &window; around; around = dynamic_cast<TWinControl*>(found)) {
+    TControl* inside = around->ControlAtPos(around->ScreenToClient(screen), true);
+    if (!inside) break;
+    found = inside;
+  }
+  return Selectable(found);
+}
+
+/// The control, or the nearest around it, that holds others.
+TWinControl* TDesignSurface::ContainerOf(TControl* control) const {
+  for (; control && control != FRoot; control = control->Parent()) {
+    auto* window = dynamic_cast<TWinControl*>(control);
+    const bool holds = control->ControlStyle().Has(csAcceptsControls);
+    if (window && holds && control->Owner() == FRoot) return window;
+  }
+  return FRoot;
+}
+
+TWinControl* TDesignSurface::ContainerAt(TWinControl& window, TPoint screen) const {
+  return ContainerOf(dynamic_cast<TControl*>(ComponentAt(window, screen)));
+}
+
+TWinControl& TDesignSurface::Container() const {
+  const auto components = FSelection.Components();
+  auto* control = components.empty() ? nullptr : dynamic_cast<TControl*>(components.front());
+  return *ContainerOf(control);
+}
+
+TWinControl* TDesignSurface::ParentOf(const TComponent& component) const {
+  const auto* control = dynamic_cast<const TControl*>(&component);
+  return control && control != FRoot ? control->Parent() : FRoot;
+}
+
+std::vector<TComponent*> TDesignSurface::Inside(TWinControl& container) const {
+  std::vector<TComponent*> inside;
+  for (int i = 0; i < FRoot->ComponentCount(); ++i) {
+    TComponent* each = FRoot->Components(i);
+    const bool shown = dynamic_cast<TControl*>(each) || IsIcon(*each);
+    if (shown && ParentOf(*each) == &container) inside.push_back(each);
+  }
+  return inside;
+}
+
+/// The nearest component of the same parent that lies in the direction.
+TComponent* TDesignSurface::Neighbour(const TComponent& component, int dx, int dy) const {
+  TComponent* best = nullptr;
+  int nearest = 0;
+  const TRect from = BoundsOf(component);
+  for (TComponent* each : Inside(*ParentOf(component))) {
+    const TRect to = BoundsOf(*each);
+    const int x = to.Left + to.Right - from.Left - from.Right;
+    const int y = to.Top + to.Bottom - from.Top - from.Bottom;
+    const int ahead = x * dx + y * dy;
+    // What lies aside is as far as it is off the way, and more.
+    const int distance = ahead + 2 * std::abs(x * dy + y * dx);
+    if (each == &component || ahead <= 0 || (best && distance >= nearest)) continue;
+    best = each;
+    nearest = distance;
+  }
+  return best;
+}
+
+}  // namespace ide

@@ -1,0 +1,172 @@
+// TDesignSurface: selecting, moving, sizing and placing with the mouse.
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+#include "ide/designsurface.h"
+
+namespace ide {
+
+using namespace vcl;
+
+namespace {
+
+bool IsDown(int key) { return ::GetKeyState(key) < 0; }
+
+/// The nearest multiple of the grid's step.
+int OnGrid(int value) {
+  const int shifted = value + GridStep / 2;
+  return (shifted >= 0 ? shifted : shifted - GridStep + 1) / GridStep * GridStep;
+}
+
+}  // namespace
+
+/// Alt leaves the grid aside.
+int TDesignSurface::Snapped(int value) const {
+  return FSnap && !IsDown(VK_MENU) ? OnGrid(value) : value;
+}
+
+void TDesignSurface::Press(TComponent& component, TWinControl& container, TPoint screen) {
+  ::SetFocus(FRoot->Handle());
+  FStart = screen;
+  FMoved = false;
+  if (FPlacing) return BeginBand(TMode::Placing, container);
+  if (&component == FRoot || IsDown(VK_CONTROL)) return BeginBand(TMode::Banding, container);
+  if (IsDown(VK_SHIFT)) return FSelection.Toggle(&component);
+  if (!FSelection.Contains(&component)) FSelection.Only(&component);
+  FMode = TMode::Pressed;
+  ::SetCapture(FRoot->Handle());
+}
+
+void TDesignSurface::BeginBand(TMode mode, TWinControl& container) {
+  FMode = mode;
+  FBandIn = &container;
+  ::SetCapture(FRoot->Handle());
+}
+
+void TDesignSurface::BeginSizing(TGrab grab, TPoint screen) {
+  if (FLocked) return;
+  ::SetFocus(FRoot->Handle());
+  FStart = screen;
+  FMoved = false;
+  FGrab = grab;
+  BeginDrag();
+  FMode = TMode::Sizing;
+  ::SetCapture(FRoot->Handle());
+}
+
+/// Notes where the selected components are; those inside others move with them.
+void TDesignSurface::BeginDrag() {
+  FDragged.clear();
+  for (TComponent* each : FSelection.Components()) {
+    if (each == FRoot) continue;
+    bool inside = false;
+    for (TWinControl* around = ParentOf(*each); around; around = around->Parent()) {
+      inside = inside || (around != FRoot && FSelection.Contains(around));
+    }
+    if (!inside) FDragged.push_back({each, BoundsOf(*each)});
+  }
+}
+
+void TDesignSurface::MouseMove(TPoint screen) {
+  const TPoint by = screen - FStart;
+  const bool begun = std::abs(by.X) >= ::GetSystemMetrics(SM_CXDRAG) ||
+                     std::abs(by.Y) >= ::GetSystemMetrics(SM_CYDRAG);
+  switch (FMode) {
+    case TMode::Idle: return;
+    case TMode::Pressed:
+      if (!begun || FLocked) return;
+      BeginDrag();
+      FMode = TMode::Moving;
+      return Move(by);
+    case TMode::Moving: return Move(by);
+    case TMode::Sizing: return Size(by);
+    default: ShowBand(Band(screen));
+  }
+}
+
+void TDesignSurface::Move(TPoint by) {
+  if (FDragged.empty()) return;
+  // The first one stands on the grid; the others keep their distance from it.
+  const TRect first = FDragged.front().Bounds;
+  const int dx = Snapped(first.Left + by.X) - first.Left;
+  const int dy = Snapped(first.Top + by.Y) - first.Top;
+  for (const TDragged& each : FDragged) {
+    TRect bounds = each.Bounds;
+    bounds.Offset(dx, dy);
+    FMoved = FMoved || bounds != BoundsOf(*each.Component);
+    SetBoundsOf(*each.Component, bounds);
+  }
+  Refresh();
+}
+
+void TDesignSurface::Size(TPoint by) {
+  for (const TDragged& each : FDragged) {
+    TRect bounds = each.Bounds;
+    if (FGrab.X < 0) bounds.Left = std::min(Snapped(bounds.Left + by.X), bounds.Right);
+    if (FGrab.X > 0) bounds.Right = std::max(Snapped(bounds.Right + by.X), bounds.Left);
+    if (FGrab.Y < 0) bounds.Top = std::min(Snapped(bounds.Top + by.Y), bounds.Bottom);
+    if (FGrab.Y > 0) bounds.Bottom = std::max(Snapped(bounds.Bottom + by.Y), bounds.Top);
+    FMoved = FMoved || bounds != BoundsOf(*each.Component);
+    SetBoundsOf(*each.Component, bounds);
+  }
+  Refresh();
+}
+
+/// The rectangle from the press to the position, inside the container.
+TRect TDesignSurface::Band(TPoint screen) const {
+  const TPoint a = FBandIn->ScreenToClient(FStart);
+  const TPoint b = FBandIn->ScreenToClient(screen);
+  return {std::min(a.X, b.X), std::min(a.Y, b.Y), std::max(a.X, b.X), std::max(a.Y, b.Y)};
+}
+
+void TDesignSurface::MouseUp(TPoint screen) {
+  const TMode mode = FMode;
+  if (mode == TMode::Idle) return;
+  const bool moved = FMoved;
+  const bool banding = mode == TMode::Banding || mode == TMode::Placing;
+  const TRect band = banding ? Band(screen) : TRect();
+  EndMode();
+  if (banding) EndBand(band);
+  FBandIn = nullptr;
+  if (moved && Events.Changed) Events.Changed({});
+}
+
+/// Selects what the rectangle touches, or has a component placed there.
+void TDesignSurface::EndBand(const TRect& band) {
+  constexpr int click = 4;  // A smaller rectangle is a click.
+  const bool clicked = band.Width() < click && band.Height() < click;
+  if (const TClass* placing = std::exchange(FPlacing, nullptr)) {
+    const TRect place(Snapped(band.Left), Snapped(band.Top),
+                      clicked ? Snapped(band.Left) : Snapped(band.Right),
+                      clicked ? Snapped(band.Top) : Snapped(band.Bottom));
+    if (Events.Drop) Events.Drop(*placing, *FBandIn, place);
+    return;
+  }
+  std::vector<TPersistent*> touched;
+  if (!clicked) {
+    for (TComponent* each : Inside(*FBandIn)) {
+      if (!Intersection(BoundsOf(*each), band).Empty()) touched.push_back(each);
+    }
+  }
+  if (touched.empty()) touched.push_back(Selectable(FBandIn));
+  FSelection.Set(touched);
+}
+
+void TDesignSurface::EndMode() {
+  FMode = TMode::Idle;
+  FBandSides.clear();
+  FDragged.clear();
+  if (FRoot && ::GetCapture() == FRoot->Handle()) ::ReleaseCapture();
+}
+
+/// Takes everything back to where it was before the mouse was pressed.
+void TDesignSurface::Cancel() {
+  if (FMode == TMode::Idle) return;
+  for (const TDragged& each : FDragged) SetBoundsOf(*each.Component, each.Bounds);
+  EndMode();
+  FBandIn = nullptr;
+  if (FRoot) Refresh();
+}
+
+}  // namespace ide

@@ -1,0 +1,182 @@
+#include "ide/formdesigner.h"
+
+#include <algorithm>
+
+#include "host/designintf/componenteditor.h"
+#include "host/rtl/convert.h"
+#include "host/rtl/exceptions.h"
+#include "host/rtl/text.h"
+#include "ide/standins.h"
+
+namespace ide {
+
+using namespace vcl;
+
+TFormDesigner::TFormDesigner(TWinControl& host) : FSurface(host, FSelection), FDocument(FSurface) {
+  FSelection.OnChange = [this] { SelectionChanged(); };
+  FDocument.OnRootGoing = [this] { RootGoing(); };
+  FDocument.OnRootMade = [this] { RootMade(); };
+  FDocument.OnProblem = [this](const std::string& message) { Report(message); };
+  FDocument.OnChange = [this] {
+    if (Events.Changed) Events.Changed();
+  };
+  FSurface.Events.Changed = [this](const std::string& key) { Changed(key); };
+  FSurface.Events.Drop = [this](const TClass& aClass, TWinControl& container, const TRect& place) {
+    Drop(aClass, container, place);
+    if (Events.Placed) Events.Placed();
+  };
+  FSurface.Events.DoubleClick = [this](TComponent& component) { EditComponent(component); };
+}
+
+TFormDesigner::~TFormDesigner() {
+  // The document ends after what hears of it.
+  FDocument.OnRootGoing = nullptr;
+  FSelection.OnChange = nullptr;
+  FSurface.SetRoot(nullptr);
+}
+
+// What happens to the form.
+
+void TFormDesigner::Changed(const std::string& key) {
+  FSurface.Refresh();
+  FDocument.Changed(key);
+}
+
+void TFormDesigner::Modified() { Changed({}); }
+
+void TFormDesigner::Report(const std::string& message) const {
+  if (Events.Problem) Events.Problem(message);
+}
+
+void TFormDesigner::Try(const std::function<void()>& change) {
+  try {
+    change();
+  } catch (const EAbort&) {
+  } catch (const std::exception& error) {
+    Report(error.what());
+  }
+  FSurface.Refresh();
+}
+
+void TFormDesigner::RootGoing() {
+  FSelectedNames.clear();
+  for (const TComponent* each : FSelection.Components()) FSelectedNames.push_back(NameOf(*each));
+  FBusy = true;
+  if (Events.RootGoing) Events.RootGoing();
+  FSelection.Clear();
+  FSurface.SetRoot(nullptr);
+}
+
+void TFormDesigner::RootMade() {
+  std::vector<TPersistent*> selected;
+  for (const std::string& name : FSelectedNames) selected.push_back(FindComponent(name));
+  std::erase(selected, nullptr);
+  if (selected.empty()) selected.push_back(&Root());
+  FSurface.SetRoot(&FDocument.Root());
+  FSelection.Set(selected);
+  FBusy = false;
+  SelectionChanged();
+}
+
+void TFormDesigner::SelectionChanged() {
+  if (FBusy) return;
+  FSurface.Refresh();
+  if (Events.SelectionChanged) Events.SelectionChanged();
+}
+
+// Names.
+
+bool TFormDesigner::IsNameTaken(const std::string& name) const {
+  if (SameText(name, Root().Name()) || Root().FindComponent(name)) return true;
+  // Those inside what stands in for another have their names too.
+  for (int i = 0; i < Root().ComponentCount(); ++i) {
+    const TKeptData* kept = Root().Components(i)->Kept();
+    const auto same = [&](const std::string& each) { return SameText(each, name); };
+    if (kept && std::ranges::any_of(kept->ChildNames, same)) return true;
+  }
+  return false;
+}
+
+std::string TFormDesigner::UniqueName(const std::string& className) const {
+  const std::string stem = className.starts_with('T') ? className.substr(1) : className;
+  for (int i = 1;; ++i) {
+    std::string name = stem + IntToStr(i);
+    if (!IsNameTaken(name)) return name;
+  }
+}
+
+std::vector<std::string> TFormDesigner::ComponentNames(const TClass& aClass) const {
+  std::vector<std::string> names;
+  if (Root().InheritsFrom(aClass)) names.push_back(Root().Name());
+  for (int i = 0; i < Root().ComponentCount(); ++i) {
+    const TComponent* each = Root().Components(i);
+    if (each->InheritsFrom(aClass) && !each->Name().empty()) names.push_back(each->Name());
+  }
+  std::ranges::sort(names);
+  return names;
+}
+
+TComponent* TFormDesigner::FindComponent(const std::string& name) const {
+  return SameText(name, Root().Name()) ? &Root() : Root().FindComponent(name);
+}
+
+std::string TFormDesigner::NameOf(const TComponent& component) const { return component.Name(); }
+
+// Handlers.
+
+std::vector<std::string> TFormDesigner::MethodNames(const TPropInfo& event) const {
+  std::vector<std::string> names;
+  for (const auto& [name, of] : FHandlers.All(Root())) {
+    if (*of->Signature == *event.Signature) names.push_back(name);
+  }
+  return names;
+}
+
+bool TFormDesigner::MethodExists(const std::string& name) const {
+  return FHandlers.Find(Root(), name) != nullptr;
+}
+
+void TFormDesigner::CheckMethodName(const std::string& name) const {
+  if (!IsValidIdent(name)) throw EComponentError(Concat("'", name, "' is no name for a handler"));
+  if (MethodExists(name) || IsNameTaken(name)) {
+    throw EComponentError(Concat("The name ", name, " is taken"));
+  }
+}
+
+void TFormDesigner::CreateMethod(const std::string& name, const TPropInfo& event) {
+  CheckMethodName(name);
+  FHandlers.Add(name, event);
+}
+
+void TFormDesigner::RenameMethod(const std::string& name, const std::string& newName) {
+  if (!SameText(name, newName)) CheckMethodName(newName);
+  FHandlers.Rename(Root(), name, newName);
+  Modified();
+}
+
+void TFormDesigner::ShowMethod(const std::string& name) {
+  if (Events.ShowMethod) Events.ShowMethod(name);
+}
+
+// What is selected.
+
+std::vector<TPersistent*> TFormDesigner::Selection() const {
+  if (FSelection.Empty()) return {&Root()};
+  return FSelection.All();
+}
+
+void TFormDesigner::SetSelection(const std::vector<TPersistent*>& selection) {
+  FSelection.Set(selection);
+}
+
+void TFormDesigner::ShowCollection(TPersistent& owner, TCollection& collection,
+                                   const std::string& property) {
+  if (Events.ShowCollection) Events.ShowCollection(owner, collection, property);
+}
+
+void TFormDesigner::EditComponent(TComponent& component) {
+  if (IsStandIn(component)) return;
+  Try([&] { MakeComponentEditor(*this, component)->Edit(); });
+}
+
+}  // namespace ide

@@ -1,0 +1,167 @@
+#include "ide/formdocument.h"
+
+#include <utility>
+
+#include "host/rtl/exceptions.h"
+#include "host/rtl/formfile.h"
+#include "host/rtl/os.h"
+#include "host/rtl/sharedfile.h"
+#include "host/rtl/streams.h"
+#include "host/rtl/text.h"
+#include "host/vcl/windowtext.h"
+
+namespace ide {
+
+using namespace vcl;
+
+namespace {
+
+constexpr std::size_t UndoLimit = std::size_t{64} << 20;
+
+std::string ReadFile(const std::string& fileName) {
+  TFileStream file(fileName, fmOpenRead | fmShareDenyWrite);
+  return file.ReadRest();
+}
+
+void WriteFile(const std::string& fileName, const std::string& contents) {
+  if (os::ReplaceWholeFile(fileName, contents)) return;
+  throw EInOutError(Concat("The file ", fileName, " cannot be saved: ", os::LastErrorText()));
+}
+
+/// When the file was written last; 0 when there is none.
+ULONGLONG TimeOf(const std::string& fileName) {
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  if (!::GetFileAttributesExW(ToUtf16(fileName).c_str(), GetFileExInfoStandard, &data)) return 0;
+  const FILETIME& time = data.ftLastWriteTime;
+  return ULONGLONG{time.dwHighDateTime} << 32 | time.dwLowDateTime;
+}
+
+}  // namespace
+
+TFormDocument::TFormDocument(TDesignerHook& hook) : FHook(hook), FHistory(UndoLimit) {
+  FKeeper.OnProblem = [this](const std::string& message) {
+    if (!FQuiet && OnProblem) OnProblem(message);
+  };
+}
+
+TFormDocument::~TFormDocument() { Tell(OnRootGoing); }
+
+// Reading and writing.
+
+std::unique_ptr<TForm> TFormDocument::Read(const std::string& bytes, const std::string& name) {
+  auto root = std::make_unique<TForm>(nullptr);
+  root->SetDesigner(&FHook);
+  TStringStream stream(bytes);
+  ReadComponentFile(stream, root.get(), name, &FKeeper);
+  return root;
+}
+
+void TFormDocument::Show(std::unique_ptr<TForm> root) {
+  if (FRoot) Tell(OnRootGoing);
+  FRoot = std::move(root);
+  Tell(OnRootMade);
+}
+
+std::string TFormDocument::State() const {
+  TStringStream stream;
+  WriteComponentBinary(stream, FRoot.get());
+  return stream.DataString();
+}
+
+std::string TFormDocument::Text() const {
+  TStringStream stream;
+  WriteComponentText(stream, FRoot.get());
+  return stream.DataString();
+}
+
+void TFormDocument::New(const std::string& formName) {
+  constexpr const char* place = "  Left = 40\n  Top = 30\n  ClientHeight = 300\n  ClientWidth = 420\n";
+  Show(Read(Concat("object ", formName, ": T", formName, "\n  Caption = ", "'", formName, "'\n",
+                   place, "end\n"),
+            {}));
+  FFileName.clear();
+  FHistory.Reset(State());
+  Tell(OnChange);
+}
+
+void TFormDocument::Load(const std::string& fileName) {
+  Show(Read(ReadFile(fileName), fileName));
+  FFileName = fileName;
+  FHistory.Reset(State());
+  Tell(OnChange);
+}
+
+void TFormDocument::LoadAutosaved(const std::string& fileName) {
+  Show(Read(ReadFile(AutosaveName(fileName)), fileName));
+  FFileName = fileName;
+  FHistory.Reset(State());
+  FHistory.ForgetClean();
+  Tell(OnChange);
+}
+
+void TFormDocument::Save(const std::string& fileName) {
+  WriteFile(fileName, Text());
+  DiscardAutosave();
+  FFileName = fileName;
+  FHistory.MarkClean();
+  Tell(OnChange);
+}
+
+void TFormDocument::Paste(const std::string& text, TWinControl& parent,
+                          const std::function<void(TComponent*)>& made) {
+  TStringStream stream(text);
+  ReadComponentsInto(stream, FRoot.get(), &parent, made, &FKeeper);
+}
+
+// Former states.
+
+void TFormDocument::Changed(const std::string& key) {
+  FHistory.Add(State(), key);
+  Tell(OnChange);
+}
+
+void TFormDocument::Restore(const std::string& state) {
+  // A class of which one instance may exist would refuse a second form beside the first.
+  Tell(OnRootGoing);
+  FRoot.reset();
+  FQuiet = true;
+  try {
+    FRoot = Read(state, {});
+  } catch (...) {
+    FQuiet = false;
+    throw;
+  }
+  FQuiet = false;
+  Tell(OnRootMade);
+  Tell(OnChange);
+}
+
+void TFormDocument::Undo() {
+  if (CanUndo()) Restore(FHistory.Undo());
+}
+
+void TFormDocument::Redo() {
+  if (CanRedo()) Restore(FHistory.Redo());
+}
+
+// The copy for the case that the program is killed.
+
+std::string TFormDocument::AutosaveName(const std::string& fileName) { return fileName + "~auto"; }
+
+bool TFormDocument::HasAutosave(const std::string& fileName) {
+  const ULONGLONG copy = TimeOf(AutosaveName(fileName));
+  return copy != 0 && copy >= TimeOf(fileName);
+}
+
+void TFormDocument::Autosave() {
+  if (!Modified() || FFileName.empty() || FAutosaved == FHistory.Present()) return;
+  WriteFile(AutosaveName(FFileName), Text());
+  FAutosaved = FHistory.Present();
+}
+
+void TFormDocument::DiscardAutosave() {
+  FAutosaved.clear();
+  if (!FFileName.empty()) ::DeleteFileW(ToUtf16(AutosaveName(FFileName)).c_str());
+}
+
+}  // namespace ide

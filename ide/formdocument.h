@@ -1,0 +1,90 @@
+// TFormDocument: a form that is designed, the file that it is kept in, and its former states.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/vcl/forms.h"
+#include "ide/standins.h"
+#include "ide/undohistory.h"
+
+namespace ide {
+
+/// The document of a designer. What the file holds and this program doesn't know stays in it.
+///
+/// Going back to a former state, like loading, makes a new form: whoever refers to the form or its
+/// components lets go of them at `OnRootGoing` and takes the new ones at `OnRootMade`.
+class TFormDocument {
+ public:
+  /// The hook must outlive the document.
+  explicit TFormDocument(vcl::TDesignerHook& hook);
+  ~TFormDocument();
+  TFormDocument(const TFormDocument&) = delete;
+  TFormDocument& operator=(const TFormDocument&) = delete;
+
+  /// The form; only after New, Load or Restore.
+  vcl::TForm& Root() const { return *FRoot; }
+  /// The file's name with its folder; empty for a form that was never saved.
+  const std::string& FileName() const { return FFileName; }
+
+  /// An empty form of that name; its class is the name with a T in front.
+  void New(const std::string& formName);
+  /// Reads a form file. What it holds and can't be used is kept and told to `OnProblem`. Raises
+  /// EFOpenError, EParserError, EReadError; the document is as before then.
+  void Load(const std::string& fileName);
+  /// The same for the copy that the autosave left of the file; the document is modified then.
+  void LoadAutosaved(const std::string& fileName);
+  /// Replaces the file by the form's text. Raises EInOutError; the file is as before then.
+  void Save(const std::string& fileName);
+  /// The form as a form file's text.
+  std::string Text() const;
+
+  /// To be called after every change; see TUndoHistory::Add.
+  void Changed(const std::string& key = {});
+  bool Modified() const { return FRoot && !FHistory.Clean(); }
+  bool CanUndo() const { return FHistory.CanUndo(); }
+  bool CanRedo() const { return FHistory.CanRedo(); }
+  void Undo();
+  void Redo();
+
+  /// Where the copy of a file is kept that saves the user's work of a killed program.
+  static std::string AutosaveName(const std::string& fileName);
+  /// True when there is a copy that is newer than the file.
+  static bool HasAutosave(const std::string& fileName);
+  /// Writes the copy, if the form was modified since the last one.
+  void Autosave();
+  /// The form is saved, or its changes are given up.
+  void DiscardAutosave();
+
+  /// Pastes components from a form file's text into the form; each outermost one is handed to
+  /// `made`. Raises EParserError and EReadError; nothing is pasted then.
+  void Paste(const std::string& text, vcl::TWinControl& parent,
+             const std::function<void(vcl::TComponent*)>& made);
+
+  std::function<void()> OnRootGoing, OnRootMade;
+  /// The form, its file's name or its state of being modified has changed.
+  std::function<void()> OnChange;
+  /// Something that the file holds could not be used.
+  std::function<void(const std::string& message)> OnProblem;
+
+ private:
+  std::unique_ptr<vcl::TForm> Read(const std::string& bytes, const std::string& name);
+  void Show(std::unique_ptr<vcl::TForm> root);
+  void Restore(const std::string& state);
+  std::string State() const;
+  void Tell(const std::function<void()>& event) const {
+    if (event) event();
+  }
+
+  vcl::TDesignerHook& FHook;
+  std::unique_ptr<vcl::TForm> FRoot;
+  std::string FFileName;
+  std::string FAutosaved;
+  TFormKeeper FKeeper;
+  bool FQuiet = false;  // What is restored has been told before.
+  TUndoHistory FHistory;
+};
+
+}  // namespace ide

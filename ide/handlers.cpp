@@ -1,0 +1,70 @@
+#include "ide/handlers.h"
+
+#include <algorithm>
+
+#include "host/rtl/collection.h"
+#include "host/rtl/text.h"
+
+namespace ide {
+
+using namespace vcl;
+
+namespace {
+
+using TEach = std::function<void(const TPropInfo&, TEventBase&)>;
+
+/// What of a property is a part of the object; null for a reference and for no object.
+TObject* PartOf(TObject& object, const TPropInfo& property) {
+  if (property.IsEvent() || !property.Type->ClassOf) return nullptr;
+  TObject* inner = std::get<TObject*>(property.Get(object));
+  const auto* component = dynamic_cast<const TComponent*>(inner);
+  return component && component->Owner() != &object ? nullptr : inner;
+}
+
+}  // namespace
+
+void EachEvent(TObject& object, const TEach& each) {
+  for (const TPropInfo* property : object.ClassType().Published()) {
+    if (property->IsEvent()) {
+      each(*property, property->EventOf(object));
+    } else if (TObject* part = PartOf(object, *property)) {
+      EachEvent(*part, each);
+    }
+  }
+  auto* collection = dynamic_cast<TCollection*>(&object);
+  for (int i = 0; collection && i < collection->Count(); ++i) EachEvent(*collection->Items(i), each);
+}
+
+void EachEventOfForm(TComponent& root, const TEach& each) {
+  EachEvent(root, each);
+  for (int i = 0; i < root.ComponentCount(); ++i) EachEvent(*root.Components(i), each);
+}
+
+std::map<std::string, const TPropInfo*> THandlers::All(TComponent& root) const {
+  std::map<std::string, const TPropInfo*> all = FAdded;
+  EachEventOfForm(root, [&](const TPropInfo& property, TEventBase& event) {
+    if (!event.HandlerName().empty()) all.emplace(event.HandlerName(), &property);
+  });
+  return all;
+}
+
+const TPropInfo* THandlers::Find(TComponent& root, const std::string& name) const {
+  for (const auto& [each, event] : All(root)) {
+    if (SameText(each, name)) return event;
+  }
+  return nullptr;
+}
+
+void THandlers::Rename(TComponent& root, const std::string& name, const std::string& newName) {
+  EachEventOfForm(root, [&](const TPropInfo&, TEventBase& event) {
+    if (SameText(event.HandlerName(), name)) event.SetHandlerName(newName);
+  });
+  const auto added = std::ranges::find_if(
+      FAdded, [&](const auto& each) { return SameText(each.first, name); });
+  if (added == FAdded.end()) return;
+  const TPropInfo* event = added->second;
+  FAdded.erase(added);
+  FAdded[newName] = event;
+}
+
+}  // namespace ide

@@ -1,0 +1,39 @@
+// The handlers of a form that is designed: its components' events know them by name.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/rtl/component.h"
+#include "host/rtl/properties.h"
+
+namespace ide {
+
+/// Calls `each` for every event of the object and of what is inside it; of a component that it owns
+/// only when that is a part of it.
+void EachEvent(vcl::TObject& object,
+               const std::function<void(const vcl::TPropInfo&, vcl::TEventBase&)>& each);
+/// The same for a form and all its components.
+void EachEventOfForm(vcl::TComponent& root,
+                     const std::function<void(const vcl::TPropInfo&, vcl::TEventBase&)>& each);
+
+/// The handlers by name, each with one of the events that it is for.
+class THandlers {
+ public:
+  /// Adds one that no event names yet.
+  void Add(const std::string& name, const vcl::TPropInfo& event) { FAdded[name] = &event; }
+  void Rename(vcl::TComponent& root, const std::string& name, const std::string& newName);
+  void Clear() { FAdded.clear(); }
+
+  /// All handlers that the form's events name, and the added ones.
+  std::map<std::string, const vcl::TPropInfo*> All(vcl::TComponent& root) const;
+  /// The one of that name, compared without case; null when there is none.
+  const vcl::TPropInfo* Find(vcl::TComponent& root, const std::string& name) const;
+
+ private:
+  std::map<std::string, const vcl::TPropInfo*> FAdded;
+};
+
+}  // namespace ide

@@ -1,0 +1,240 @@
+#include "ide/mainform.h"
+
+#include <algorithm>
+
+#include "host/designintf/componenteditor.h"
+#include "host/rtl/convert.h"
+#include "host/rtl/properties.h"
+#include "host/rtl/text.h"
+#include "ide/standins.h"
+
+namespace ide {
+
+using namespace vcl;
+
+const TClass& TMainForm::Class() {
+  using T = TMainForm;
+  static const TClass info = Describe<T, TForm>(
+      "TMainForm", "mainform",
+      {
+          Field<&T::PalettePanel>("PalettePanel"),
+          Field<&T::SidePanel>("SidePanel"),
+          Field<&T::Messages>("Messages"),
+          Field<&T::StatusBar>("StatusBar"),
+          Field<&T::MainMenuBar>("MainMenuBar"),
+          Field<&T::RecentItem>("RecentItem"),
+          Field<&T::UndoItem>("UndoItem"),
+          Field<&T::RedoItem>("RedoItem"),
+          Field<&T::LockItem>("LockItem"),
+          Field<&T::GridItem>("GridItem"),
+          Field<&T::SnapItem>("SnapItem"),
+          Field<&T::OpenDialog>("OpenDialog"),
+          Field<&T::SaveDialog>("SaveDialog"),
+          Field<&T::AutosaveTimer>("AutosaveTimer"),
+          Field<&T::DesignMenu>("DesignMenu"),
+          Method<&T::FormShow>("FormShow"),
+          Method<&T::FormCloseQuery>("FormCloseQuery"),
+          Method<&T::MenuClick>("MenuClick"),
+          Method<&T::AutosaveTimerTick>("AutosaveTimerTick"),
+          Method<&T::NewClick>("NewClick"),
+          Method<&T::OpenClick>("OpenClick"),
+          Method<&T::SaveClick>("SaveClick"),
+          Method<&T::SaveAsClick>("SaveAsClick"),
+          Method<&T::WriteUnitClick>("WriteUnitClick"),
+          Method<&T::ExitClick>("ExitClick"),
+          Method<&T::CommandClick>("CommandClick"),
+          Method<&T::TabOrderClick>("TabOrderClick"),
+          Method<&T::CreationClick>("CreationClick"),
+          Method<&T::ClearMessagesClick>("ClearMessagesClick"),
+          Method<&T::PackagesClick>("PackagesClick"),
+          Method<&T::PreviewClick>("PreviewClick"),
+          Method<&T::AboutClick>("AboutClick"),
+      });
+  return info;
+}
+
+TMainForm::TMainForm(TComponent* owner) : TForm(owner),
+      FWorkspace(new TWorkspace(this)),
+      FInspector(new TObjectInspector(this)),
+      FPalette(new TComponentPalette(this)) {
+  LoadForm();
+  FWorkspace->SetParent(this);
+  FWorkspace->SetAlign(alClient);
+  FInspector->SetParent(SidePanel);
+  FInspector->SetAlign(alClient);
+  FPalette->SetParent(PalettePanel);
+  FPalette->SetAlign(alClient);
+  FPalette->OnSelect = TNotifyEvent([this](TObject*) { TakeTool(); });
+  FPalette->OnAdd = [this](const TClass& aClass) { FDesigner->Add(aClass); };
+  MakeDesigner();
+  Application()->OnHint = TNotifyEvent([this](TObject*) {
+    StatusBar->Panels()->Items(2)->SetText(Application()->Hint());
+  });
+  Application()->OnMessage = TMessageEvent(this, &TMainForm::ApplicationMessage);
+}
+
+TMainForm::~TMainForm() {
+  AnnounceEnd();
+  Application()->OnHint.Clear();
+  Application()->OnMessage.Clear();
+  FExperts.clear();
+  FDesigner.reset();
+}
+
+void TMainForm::MakeDesigner() {
+  FDesigner = std::make_unique<TFormDesigner>(FWorkspace->Desktop());
+  FDesigner->Events.Changed = [this] { FormChanged(); };
+  FDesigner->Events.SelectionChanged = [this] { SelectionChanged(); };
+  FDesigner->Events.RootGoing = [this] { FInspector->SetDesigner(nullptr); };
+  FDesigner->Events.Placed = [this] {
+    FPalette->Placed();
+    TakeTool();
+  };
+  FDesigner->Events.Problem = [this](const std::string& message) { Tell(message); };
+  FDesigner->Events.ShowMethod = [this](const std::string& name) {
+    Tell(Concat("The handler ", name, " is written into the form's unit (File, Write C++ unit)"));
+  };
+  FDesigner->Surface().Events.ContextMenu = [this](TPoint at) { ShowDesignMenu(at); };
+  FDesigner->Surface().Events.Key = [this](WPARAM key) { return DesignKey(key); };
+  FDesigner->Surface().Events.PlacingEnded = [this] { FPalette->SelectTool(nullptr); };
+  FDesigner->Surface().Events.Close = [this] { NewClick(this); };
+}
+
+void TMainForm::Begin(const TStart& start, TPackages& packages) {
+  FPackages = &packages;
+  FSettings = std::make_unique<TSettings>(
+      start.SettingsFile.empty() ? TSettings::DefaultFileName() : start.SettingsFile);
+  LoadPackages(start);
+  ShowRecentFiles();
+  if (start.FileName.empty() || !Open(start.FileName)) NewClick(this);
+}
+
+void TMainForm::LoadPackages(const TStart& start) {
+  if (RegisteredComponents().empty()) RegisterStandardPages();
+  for (const auto& name : start.Packages.empty() ? FSettings->Packages() : start.Packages) {
+    const TPackageEntry& entry = FPackages->Load(name);
+    if (!entry.Error.empty()) Tell(entry.Error);
+  }
+  for (const TExpertClass& each : RegisteredExperts()) {
+    FDesigner->Try([&] { FExperts.push_back(each.Make(*this)); });
+  }
+  FPalette->SetPages(RegisteredComponents());
+}
+
+// What the parts tell.
+
+/// The next press on the form makes a component of the palette's tool.
+void TMainForm::TakeTool() { FDesigner->Surface().SetPlacing(FPalette->Tool().Class); }
+
+void TMainForm::Tell(const std::string& message) {
+  Messages->Items()->Add(message);
+  Messages->SetTopIndex(Messages->Items()->Count() - 1);
+}
+
+void TMainForm::ShowTitle() {
+  const TFormDocument& document = FDesigner->Document();
+  const std::string name =
+      document.FileName().empty() ? document.Root().Name() : document.FileName();
+  SetCaption(Concat(name, document.Modified() ? " *" : "", " - Designer"));
+  StatusBar->Panels()->Items(1)->SetText(document.Modified() ? "Modified" : "");
+}
+
+void TMainForm::FormChanged() {
+  ShowTitle();
+  const TForm& root = FDesigner->Document().Root();
+  constexpr int margin = 40;
+  FWorkspace->SetExtent(
+      {root.Left() + root.Width() + margin, root.Top() + root.Height() + margin});
+  FInspector->Refresh();
+  ShowSelected();
+}
+
+void TMainForm::SelectionChanged() {
+  FInspector->Designer() ? FInspector->SelectionChanged()
+                         : FInspector->SetDesigner(FDesigner.get());
+  ShowSelected();
+}
+
+/// Says in the status bar what is selected.
+void TMainForm::ShowSelected() {
+  const auto components = FDesigner->Selected().Components();
+  std::string text;
+  if (components.size() == 1) {
+    text = Concat(components.front()->Name(), ": ", components.front()->FileClassName());
+  } else if (!components.empty()) {
+    text = IntToStr(static_cast<std::int64_t>(components.size())) + " components";
+  }
+  StatusBar->Panels()->Items(0)->SetText(text);
+}
+
+void TMainForm::FormShow(TObject*) { ShowWhole(); }
+
+/// Brings the form's upper left corner into view.
+void TMainForm::ShowWhole() {
+  if (!FDesigner || !FPackages) return;
+  constexpr int margin = 8;
+  const TForm& root = FDesigner->Document().Root();
+  FWorkspace->ScrollTo(root.Left() - margin, root.Top() - margin);
+}
+
+void TMainForm::FormCloseQuery(TObject*, bool& canClose) {
+  canClose = MayLoseChanges();
+  if (canClose) FDesigner->Document().DiscardAutosave();
+}
+
+void TMainForm::AutosaveTimerTick(TObject*) {
+  if (FPackages) FDesigner->Try([this] { FDesigner->Document().Autosave(); });
+}
+
+// The designer's own keys and menu.
+
+/// Keys that the designed form gets do what the menu says.
+void TMainForm::ApplicationMessage(MSG& message, bool& handled) {
+  if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return;
+  const TWinControl* control = TWinControl::FromHandle(message.hwnd);
+  if (control && control->Designing()) handled = MainMenuBar->IsShortCut(message);
+}
+
+bool TMainForm::DesignKey(WPARAM key) {
+  if (key == VK_DELETE) FDesigner->DeleteSelected();
+  return key == VK_DELETE;
+}
+
+/// The commands of the selected component's editor.
+void TMainForm::AddVerbs() {
+  const auto components = FDesigner->Selected().Components();
+  if (components.size() != 1 || IsStandIn(*components.front())) return;
+  std::shared_ptr<TComponentEditor> editor =
+      MakeComponentEditor(*FDesigner, *components.front());
+  for (int i = 0; i < editor->GetVerbCount(); ++i) {
+    auto* item = new TMenuItem(DesignMenu);
+    item->SetCaption(editor->GetVerb(i));
+    item->OnClick = TNotifyEvent([this, editor, i](TObject*) {
+      FDesigner->Try([&] { editor->ExecuteVerb(i); });
+    });
+    DesignMenu->Items()->Add(item);
+  }
+}
+
+void TMainForm::ShowDesignMenu(TPoint screen) {
+  static constexpr const char* commands[] = {"CutItem",   "CopyItem", "PasteItem", "DeleteItem",
+                                             "FrontItem", "BackItem", "TabOrderItem"};
+  DesignMenu->Items()->Clear();
+  FDesigner->Try([this] { AddVerbs(); });
+  if (DesignMenu->Items()->Count() > 0) {
+    auto* line = new TMenuItem(DesignMenu);
+    line->SetCaption("-");
+    DesignMenu->Items()->Add(line);
+  }
+  for (const char* name : commands) {
+    auto* original = dynamic_cast<TMenuItem*>(TForm::FindComponent(name));
+    auto* item = new TMenuItem(DesignMenu);
+    item->SetCaption(original->Caption());
+    item->SetHint(original->Hint());
+    item->OnClick = TNotifyEvent([original](TObject*) { original->Click(); });
+    DesignMenu->Items()->Add(item);
+  }
+  DesignMenu->Popup(screen.X, screen.Y);
+}
+
+}  // namespace ide

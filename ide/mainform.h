@@ -1,0 +1,122 @@
+// TMainForm: the designer's window.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/designintf/environment.h"
+#include "host/vcl/vcl.h"
+#include "ide/formdesigner.h"
+#include "ide/inspector.h"
+#include "ide/packages.h"
+#include "ide/palette.h"
+#include "ide/settings.h"
+#include "ide/workspace.h"
+
+namespace ide {
+
+/// What the program was started with.
+struct TStart {
+  std::string SettingsFile;
+  /// Packages instead of those of the settings.
+  std::vector<std::string> Packages;
+  /// The form to open; empty for a new one.
+  std::string FileName;
+};
+
+/// The form of mainform.dfm. The sources hold a group of its work each: mainform.cpp the form and
+/// what its parts tell it, mainform_file.cpp files, mainform_commands.cpp the menu's commands.
+class TMainForm : public vcl::TForm, private vcl::TEnvironment {
+ public:
+  explicit TMainForm(vcl::TComponent* owner);
+  ~TMainForm() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  /// Loads the packages and opens the form.
+  void Begin(const TStart& start, TPackages& packages);
+  /// Opens a form file in place of the present form. What is wrong with it is among the messages;
+  /// false when it could not be opened.
+  bool Open(const std::string& fileName);
+
+  TFormDesigner& FormDesigner() { return *FDesigner; }
+  const TPackages& Packages() const { return *FPackages; }
+  vcl::TListBox& MessageList() { return *Messages; }
+  TObjectInspector& Inspector() { return *FInspector; }
+  TComponentPalette& Palette() { return *FPalette; }
+
+ private:
+  // What the form file fills.
+  vcl::TPanel* PalettePanel = nullptr;
+  vcl::TPanel* SidePanel = nullptr;
+  vcl::TListBox* Messages = nullptr;
+  vcl::TStatusBar* StatusBar = nullptr;
+  vcl::TMainMenu* MainMenuBar = nullptr;
+  vcl::TMenuItem* RecentItem = nullptr;
+  vcl::TMenuItem* UndoItem = nullptr;
+  vcl::TMenuItem* RedoItem = nullptr;
+  vcl::TMenuItem* LockItem = nullptr;
+  vcl::TMenuItem* GridItem = nullptr;
+  vcl::TMenuItem* SnapItem = nullptr;
+  vcl::TOpenDialog* OpenDialog = nullptr;
+  vcl::TSaveDialog* SaveDialog = nullptr;
+  vcl::TTimer* AutosaveTimer = nullptr;
+  vcl::TPopupMenu* DesignMenu = nullptr;
+
+  // The form and its parts.
+  void FormShow(vcl::TObject* sender);
+  void FormCloseQuery(vcl::TObject* sender, bool& canClose);
+  void MenuClick(vcl::TObject* sender);
+  void AutosaveTimerTick(vcl::TObject* sender);
+  void MakeDesigner();
+  void LoadPackages(const TStart& start);
+  void FormChanged();
+  void SelectionChanged();
+  void ShowSelected();
+  void ShowTitle();
+  void TakeTool();
+  void Tell(const std::string& message);
+  void ShowDesignMenu(vcl::TPoint screen);
+  void AddVerbs();
+  bool DesignKey(WPARAM key);
+  void ApplicationMessage(MSG& message, bool& handled);
+
+  // Files.
+  void NewClick(vcl::TObject* sender);
+  void OpenClick(vcl::TObject* sender);
+  void RecentFileClick(vcl::TObject* sender);
+  void SaveClick(vcl::TObject* sender);
+  void SaveAsClick(vcl::TObject* sender);
+  void WriteUnitClick(vcl::TObject* sender);
+  void ExitClick(vcl::TObject* sender);
+  bool Save();
+  bool SaveAs();
+  bool SaveIn(const std::string& fileName);
+  bool MayLoseChanges();
+  void Remember(const std::string& fileName);
+  void ShowRecentFiles();
+  void ShowWhole();
+
+  // Commands.
+  void CommandClick(vcl::TObject* sender);
+  void TabOrderClick(vcl::TObject* sender);
+  void CreationClick(vcl::TObject* sender);
+  void ClearMessagesClick(vcl::TObject* sender);
+  void PackagesClick(vcl::TObject* sender);
+  void PreviewClick(vcl::TObject* sender);
+  void AboutClick(vcl::TObject* sender);
+
+  vcl::TMainMenu& MainMenu() override { return *MainMenuBar; }
+  vcl::TDesigner* ActiveDesigner() override { return FDesigner.get(); }
+
+  TPackages* FPackages = nullptr;
+  std::unique_ptr<TSettings> FSettings;
+  TWorkspace* FWorkspace;
+  TObjectInspector* FInspector;
+  TComponentPalette* FPalette;
+  std::unique_ptr<TFormDesigner> FDesigner;
+  std::vector<std::unique_ptr<vcl::TExpert>> FExperts;
+};
+
+}  // namespace ide

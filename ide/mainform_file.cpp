@@ -1,0 +1,97 @@
+// TMainForm: files.
+#include "host/rtl/exceptions.h"
+#include "host/rtl/text.h"
+#include "ide/mainform.h"
+
+namespace ide {
+
+using namespace vcl;
+
+void TMainForm::NewClick(TObject*) {
+  if (!MayLoseChanges()) return;
+  FDesigner->Try([this] { FDesigner->Document().New("Form1"); });
+  ShowWhole();
+}
+
+void TMainForm::OpenClick(TObject*) {
+  if (OpenDialog->Execute() && MayLoseChanges()) Open(OpenDialog->FileName());
+}
+
+bool TMainForm::Open(const std::string& fileName) {
+  bool opened = false;
+  TFormDocument& document = FDesigner->Document();
+  FDesigner->Try([&] {
+    const bool saved =
+        TFormDocument::HasAutosave(fileName) &&
+        Application()->MessageBox(
+            Concat(fileName, " was changed and not saved when the program ended. "
+                             "Shall the changes be brought back?"),
+            "Designer", MB_YESNO | MB_ICONQUESTION) == IDYES;
+    saved ? document.LoadAutosaved(fileName) : document.Load(fileName);
+    opened = true;
+    Remember(fileName);
+  });
+  if (opened) ShowWhole();
+  return opened;
+}
+
+void TMainForm::SaveClick(TObject*) { Save(); }
+void TMainForm::SaveAsClick(TObject*) { SaveAs(); }
+void TMainForm::ExitClick(TObject*) { Close(); }
+
+bool TMainForm::Save() {
+  const std::string& fileName = FDesigner->Document().FileName();
+  return fileName.empty() ? SaveAs() : SaveIn(fileName);
+}
+
+bool TMainForm::SaveAs() {
+  const TFormDocument& document = FDesigner->Document();
+  SaveDialog->SetFileName(document.FileName().empty() ? document.Root().Name() + ".dfm"
+                                                      : document.FileName());
+  return SaveDialog->Execute() && SaveIn(SaveDialog->FileName());
+}
+
+bool TMainForm::SaveIn(const std::string& fileName) {
+  bool saved = false;
+  if (!FInspector->Apply()) return false;
+  FDesigner->Try([&] {
+    FDesigner->Document().Save(fileName);
+    saved = true;
+    Remember(fileName);
+  });
+  return saved;
+}
+
+/// Asks what is to be done with changes; false when the user wants to go on with them.
+bool TMainForm::MayLoseChanges() {
+  if (!FPackages || !FDesigner->Document().Modified()) return true;
+  const int answer =
+      Application()->MessageBox(Concat("Save the changes of ", FDesigner->Document().Root().Name(), "?"),
+                                "Designer", MB_YESNOCANCEL | MB_ICONQUESTION);
+  if (answer == IDYES) return Save();
+  if (answer == IDNO) FDesigner->Document().DiscardAutosave();
+  return answer == IDNO;
+}
+
+void TMainForm::Remember(const std::string& fileName) {
+  FSettings->AddRecentFile(fileName);
+  ShowRecentFiles();
+}
+
+void TMainForm::ShowRecentFiles() {
+  RecentItem->Clear();
+  for (const std::string& name : FSettings->RecentFiles()) {
+    auto* item = new TMenuItem(RecentItem);
+    item->SetCaption(name);
+    item->OnClick = TNotifyEvent(this, &TMainForm::RecentFileClick);
+    RecentItem->Add(item);
+  }
+  RecentItem->SetEnabled(RecentItem->Count() > 0);
+}
+
+void TMainForm::RecentFileClick(TObject* sender) {
+  const std::string name = dynamic_cast<TMenuItem&>(*sender).Caption();
+  if (MayLoseChanges()) Open(name);
+}
+
+}  // namespace ide

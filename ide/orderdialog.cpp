@@ -1,0 +1,102 @@
+#include "ide/orderdialog.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "host/rtl/text.h"
+#include "host/vcl/vcl.h"
+#include "ide/designsurface.h"
+
+namespace ide {
+
+using namespace vcl;
+
+namespace {
+
+/// A list whose lines are moved up and down.
+class TOrderForm : public TForm {
+ public:
+  TOrderForm(const std::string& caption, const std::vector<TComponent*>& components)
+      : TForm(nullptr), FOrder(components), FList(new TListBox(this)) {
+    constexpr int width = 320;
+    constexpr int height = 300;
+    SetCaption(caption);
+    SetBorderStyle(bsDialog);
+    SetPosition(poScreenCenter);
+    SetClientWidth(width);
+    SetClientHeight(height);
+    FList->SetParent(this);
+    FList->SetBounds(8, 8, width - 104, height - 16);
+    for (const TComponent* each : components) {
+      FList->Items()->Add(Concat(each->Name(), ": ", each->FileClassName()));
+    }
+    FList->SetItemIndex(0);
+    AddButton("&Up", 8)->OnClick = TNotifyEvent([this](TObject*) { Move(-1); });
+    AddButton("&Down", 40)->OnClick = TNotifyEvent([this](TObject*) { Move(1); });
+    TButton* ok = AddButton("OK", height - 66);
+    ok->SetModalResult(mrOk);
+    ok->SetDefault(true);
+    TButton* cancel = AddButton("Cancel", height - 34);
+    cancel->SetModalResult(mrCancel);
+    cancel->SetCancel(true);
+  }
+  const std::vector<TComponent*>& Order() const { return FOrder; }
+
+ private:
+  TButton* AddButton(const std::string& caption, int top) {
+    auto* button = new TButton(this);
+    button->SetParent(this);
+    button->SetCaption(caption);
+    button->SetBounds(ClientWidth() - 88, top, 80, 25);
+    return button;
+  }
+  void Move(int by) {
+    const int from = FList->ItemIndex();
+    const int to = from + by;
+    if (from < 0 || to < 0 || to >= FList->Items()->Count()) return;
+    std::swap(FOrder[static_cast<std::size_t>(from)], FOrder[static_cast<std::size_t>(to)]);
+    FList->Items()->Exchange(from, to);
+    FList->SetItemIndex(to);
+  }
+
+  std::vector<TComponent*> FOrder;
+  TListBox* FList;
+};
+
+/// Lets the user order the components; empty when nothing is to change.
+std::vector<TComponent*> Ordered(const std::string& caption,
+                                 const std::vector<TComponent*>& components) {
+  TOrderForm form(caption, components);
+  const bool changed = form.ShowModal() == mrOk && form.Order() != components;
+  return changed ? form.Order() : std::vector<TComponent*>();
+}
+
+}  // namespace
+
+bool EditTabOrder(TWinControl& container) {
+  std::vector<TComponent*> controls;
+  for (int i = 0; i < container.ControlCount(); ++i) {
+    if (dynamic_cast<TWinControl*>(container.Controls(i))) controls.push_back(container.Controls(i));
+  }
+  const auto tabOrder = [](const TComponent* each) {
+    return dynamic_cast<const TWinControl&>(*each).TabOrder();
+  };
+  std::ranges::sort(controls, {}, tabOrder);
+  const auto ordered = Ordered("Tab order", controls);
+  for (std::size_t i = 0; i < ordered.size(); ++i) {
+    dynamic_cast<TWinControl&>(*ordered[i]).SetTabOrder(static_cast<int>(i));
+  }
+  return !ordered.empty();
+}
+
+bool EditCreationOrder(TComponent& root) {
+  std::vector<TComponent*> icons;
+  for (int i = 0; i < root.ComponentCount(); ++i) {
+    if (TDesignSurface::IsIcon(*root.Components(i))) icons.push_back(root.Components(i));
+  }
+  const auto ordered = Ordered("Creation order", icons);
+  for (TComponent* each : ordered) each->SetComponentIndex(root.ComponentCount() - 1);
+  return !ordered.empty();
+}
+
+}  // namespace ide

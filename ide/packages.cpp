@@ -1,0 +1,30 @@
+#include "ide/packages.h"
+
+#include "host/rtl/text.h"
+
+namespace ide {
+
+using namespace vcl;
+
+TPackageEntry& TPackages::Entry(const std::string& fileName) {
+  for (const auto& each : FEntries) {
+    if (SameText(each->FileName, fileName)) return *each;
+  }
+  FEntries.push_back(std::make_unique<TPackageEntry>());
+  FEntries.back()->FileName = fileName;
+  return *FEntries.back();
+}
+
+const TPackageEntry& TPackages::Load(const std::string& fileName) {
+  TPackageEntry& entry = Entry(fileName);
+  if (entry.Package) return entry;
+  entry.Error.clear();
+  try {
+    entry.Package = std::make_unique<TPackage>(fileName);
+  } catch (const std::exception& error) {
+    entry.Error = error.what();
+  }
+  return entry;
+}
+
+}  // namespace ide

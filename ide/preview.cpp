@@ -1,0 +1,86 @@
+#include "ide/preview.h"
+
+#include <cstdio>
+
+#include "host/rtl/exceptions.h"
+#include "host/rtl/formfile.h"
+#include "host/rtl/os.h"
+#include "host/rtl/sharedfile.h"
+#include "host/rtl/streams.h"
+#include "host/rtl/text.h"
+#include "host/vcl/application.h"
+#include "host/vcl/forms.h"
+#include "host/vcl/windowtext.h"
+#include "ide/standins.h"
+
+namespace ide {
+
+using namespace vcl;
+
+namespace {
+
+/// A file of the user's for temporary files, which the preview removes when it has read it.
+std::string TemporaryFile() {
+  wchar_t folder[MAX_PATH + 1] = L"";
+  wchar_t name[MAX_PATH + 1] = L"";
+  ::GetTempPathW(MAX_PATH, folder);
+  if (::GetTempFileNameW(folder, L"dfm", 0, name) == 0) {
+    throw EInOutError(Concat("No temporary file can be made: ", os::LastErrorText()));
+  }
+  return ToUtf8(name);
+}
+
+std::string Quoted(const std::string& text) { return Concat("\"", text, "\""); }
+
+void StartProcess(const std::string& commandLine) {
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process{};
+  std::wstring line = ToUtf16(commandLine);
+  if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                        &process)) {
+    throw EInOutError(Concat("The preview cannot be started: ", os::LastErrorText()));
+  }
+  ::CloseHandle(process.hThread);
+  ::CloseHandle(process.hProcess);
+}
+
+/// A form of a file, without a class of its own: its handlers are not there.
+class TPreviewForm : public TForm {
+ public:
+  using TForm::TForm;
+};
+
+}  // namespace
+
+void StartPreview(const std::string& text, const TPackages& packages) {
+  const std::string file = TemporaryFile();
+  if (!os::ReplaceWholeFile(file, text)) {
+    throw EInOutError(Concat("The file ", file, " cannot be written: ", os::LastErrorText()));
+  }
+  wchar_t program[MAX_PATH + 1] = L"";
+  ::GetModuleFileNameW(nullptr, program, MAX_PATH);
+  std::string line = Concat(Quoted(ToUtf8(program)), " --preview ", Quoted(file), " --remove");
+  for (const auto& each : packages.Entries()) {
+    if (each->Package) line += Concat(" --package ", Quoted(each->FileName));
+  }
+  StartProcess(line);
+}
+
+int RunPreview(const std::string& fileName, const std::vector<std::string>& packages) {
+  TPackages loaded;
+  for (const std::string& each : packages) {
+    const TPackageEntry& entry = loaded.Load(each);
+    if (!entry.Error.empty()) std::fprintf(stderr, "%s\n", entry.Error.c_str());
+  }
+  TFormKeeper keeper;
+  keeper.OnProblem = [](const std::string& message) {
+    std::fprintf(stderr, "%s\n", message.c_str());
+  };
+  auto* form = Application()->CreateForm<TPreviewForm>();
+  TFileStream file(fileName, fmOpenRead | fmShareDenyNone);
+  ReadComponentFile(file, form, fileName, &keeper);
+  return Application()->Run();
+}
+
+}  // namespace ide

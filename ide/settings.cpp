@@ -1,0 +1,80 @@
+#include "ide/settings.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "host/rtl/convert.h"
+#include "host/rtl/inifile.h"
+#include "host/rtl/text.h"
+#include "host/vcl/windowtext.h"
+
+namespace ide {
+
+using namespace vcl;
+
+namespace {
+
+constexpr std::size_t RecentLimit = 9;
+
+std::string FolderOf(const std::string& fileName) {
+  return fileName.substr(0, fileName.find_last_of("\\/"));
+}
+
+}  // namespace
+
+std::string ProgramFolder() {
+  std::wstring name(MAX_PATH, L'\0');
+  DWORD size = 0;
+  while ((size = ::GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size()))) ==
+         name.size()) {
+    name.resize(2 * name.size());
+  }
+  return FolderOf(ToUtf8(name.substr(0, size)));
+}
+
+std::string TSettings::DefaultFileName() {
+  const wchar_t* folder = ::_wgetenv(L"APPDATA");
+  return (folder ? ToUtf8(folder) : ProgramFolder()) + "\\Designer\\designer.ini";
+}
+
+std::vector<std::string> TSettings::List(const std::string& section) const {
+  const TIniFile file(FFileName);
+  std::vector<std::string> lines;
+  for (int i = 1;; ++i) {
+    std::string line = file.ReadString(section, IntToStr(i), {});
+    if (line.empty()) return lines;
+    lines.push_back(std::move(line));
+  }
+}
+
+void TSettings::SetList(const std::string& section, const std::vector<std::string>& lines) const {
+  std::error_code ignored;  // Writing says what is wrong.
+  std::filesystem::create_directories(ToUtf16(FolderOf(FFileName)), ignored);
+  TIniFile file(FFileName);
+  if (file.SectionExists(section)) file.EraseSection(section);
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    file.WriteString(section, IntToStr(static_cast<std::int64_t>(i) + 1), lines[i]);
+  }
+}
+
+std::vector<std::string> TSettings::Packages() const {
+  auto packages = List("Packages");
+  if (packages.empty()) packages.push_back(ProgramFolder() + "\\qel.dll");
+  return packages;
+}
+
+void TSettings::SetPackages(const std::vector<std::string>& packages) const {
+  SetList("Packages", packages);
+}
+
+std::vector<std::string> TSettings::RecentFiles() const { return List("Recent files"); }
+
+void TSettings::AddRecentFile(const std::string& fileName) const {
+  auto files = RecentFiles();
+  std::erase_if(files, [&](const std::string& each) { return SameText(each, fileName); });
+  files.insert(files.begin(), fileName);
+  if (files.size() > RecentLimit) files.resize(RecentLimit);
+  SetList("Recent files", files);
+}
+
+}  // namespace ide

@@ -1,0 +1,35 @@
+// TSettings: what the designer remembers from one run to the next, in an INI file.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace ide {
+
+class TSettings {
+ public:
+  /// The file need not be there; its folder is made when something is written.
+  explicit TSettings(std::string fileName) : FFileName(std::move(fileName)) {}
+  /// The user's own file.
+  static std::string DefaultFileName();
+  const std::string& FileName() const { return FFileName; }
+
+  /// The packages to load, in order. While none are named: "qel.dll" beside the program.
+  std::vector<std::string> Packages() const;
+  void SetPackages(const std::vector<std::string>& packages) const;
+  /// The files that were open last, the newest first.
+  std::vector<std::string> RecentFiles() const;
+  /// Puts the file in front.
+  void AddRecentFile(const std::string& fileName) const;
+
+ private:
+  std::vector<std::string> List(const std::string& section) const;
+  void SetList(const std::string& section, const std::vector<std::string>& lines) const;
+
+  std::string FFileName;
+};
+
+/// The folder of the running program, without a backslash at its end.
+std::string ProgramFolder();
+
+}  // namespace ide

@@ -1,0 +1,55 @@
+#include "ide/standins.h"
+
+#include "host/rtl/properties.h"
+#include "host/rtl/text.h"
+#include "host/vcl/canvas.h"
+
+namespace ide {
+
+using namespace vcl;
+
+const TClass& TStandInControl::Class() {
+  // The class itself publishes nothing but its place, which is what every control's file gives.
+  static const TClass info =
+      Describe<TStandInControl, TCustomControl>("TStandInControl", "standins", {});
+  return info;
+}
+
+const TClass& TStandInComponent::Class() {
+  static const TClass info =
+      Describe<TStandInComponent, TComponent>("TStandInComponent", "standins", {});
+  return info;
+}
+
+TStandInControl::TStandInControl(TComponent* owner) : TCustomControl(owner) {
+  SetControlStyle(TControlStyle{csCaptureMouse, csClickEvents, csOpaque});
+  SetColor(clWhite);
+}
+
+void TStandInControl::Paint() {
+  const TRect inside = ClientRect();
+  TCanvas& canvas = *Canvas();
+  canvas.Brush()->SetColor(clSilver);
+  canvas.Brush()->SetStyle(bsFDiagonal);
+  canvas.Pen()->SetColor(clRed);
+  canvas.Rectangle(inside);
+  canvas.Brush()->SetStyle(bsClear);
+  canvas.Font()->SetColor(clMaroon);
+  canvas.TextOut(4, 4, Concat(Name(), ": ", FileClassName()));
+}
+
+void TFormKeeper::Report(const std::string& message) {
+  if (OnProblem) OnProblem(message);
+}
+
+TComponent* TFormKeeper::MakeStandIn(TComponent* owner, bool visual) {
+  if (visual) return new TStandInControl(owner);
+  return new TStandInComponent(owner);
+}
+
+bool IsStandIn(const TComponent& component) {
+  return dynamic_cast<const TStandInControl*>(&component) ||
+         dynamic_cast<const TStandInComponent*>(&component);
+}
+
+}  // namespace ide

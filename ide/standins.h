@@ -1,0 +1,43 @@
+// What stands on a form for components whose class is missing or could not be made. Their
+// properties are kept as the form file has them (host/rtl/keptdata.h).
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "host/vcl/wincontrol.h"
+
+namespace ide {
+
+/// Stands for a control: a hatched rectangle with the class's name.
+class TStandInControl : public vcl::TCustomControl {
+ public:
+  explicit TStandInControl(vcl::TComponent* owner);
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+ protected:
+  void Paint() override;
+};
+
+/// Stands for a component that is no control.
+class TStandInComponent : public vcl::TComponent {
+ public:
+  using TComponent::TComponent;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+};
+
+/// True when the component stands in for another.
+bool IsStandIn(const vcl::TComponent& component);
+
+/// Keeps what a reader can't use, in stand-ins and beside what could be used.
+class TFormKeeper : public vcl::TReaderKeeper {
+ public:
+  void Report(const std::string& message) override;
+  vcl::TComponent* MakeStandIn(vcl::TComponent* owner, bool visual) override;
+
+  std::function<void(const std::string& message)> OnProblem;
+};
+
+}  // namespace ide

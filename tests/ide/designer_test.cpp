@@ -1,0 +1,253 @@
+// The designer's window, by mouse and keyboard.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <fstream>
+#include <iterator>
+
+#include "host/rtl/classregistry.h"
+#include "host/rtl/exceptions.h"
+#include "host/rtl/text.h"
+#include "host/vcl/registration.h"
+#include "ide/mainform.h"
+#include "tests/support/program.h"
+#include "tests/vcl/testinput.h"
+
+namespace ide {
+namespace {
+
+using namespace testinput;
+using namespace vcl;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing_support::TFolder;
+
+class Designer : public ::testing::Test {
+ protected:
+  Designer() {
+    RegisterHostClasses();
+    TStart start;
+    start.SettingsFile = (Folder.Path / "designer.ini").string();
+    Window = std::make_unique<TMainForm>(nullptr);
+    Window->Begin(start, Packages);
+    Window->Show();
+    PumpUntil([&] { return Window->Active(); });
+  }
+  ~Designer() override { Window.reset(); }
+
+  TFormDesigner& It() { return Window->FormDesigner(); }
+  TFormDocument& Document() { return It().Document(); }
+  TForm& Root() { return Document().Root(); }
+  std::string File(const char* name) { return (Folder.Path / name).string(); }
+  void Write(const char* name, const std::string& text) {
+    std::ofstream(Folder.Path / name, std::ios::binary) << text;
+  }
+  std::string Read(const char* name) {
+    std::ifstream file(Folder.Path / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  TPoint At(int x, int y) { return Root().ClientToScreen({x, y}); }
+  void Place(const char* className, TPoint from, TPoint to) {
+    It().Surface().SetPlacing(&FindClass(className));
+    Drag(from, to);
+  }
+  static void Drag(TPoint from, TPoint to) {
+    MoveMouse(from);
+    LeftDown();
+    MoveMouse({(from.X + to.X) / 2, (from.Y + to.Y) / 2});
+    MoveMouse(to);
+    LeftUp();
+  }
+  template <class T = TControl>
+  T* Find(const char* name) {
+    return dynamic_cast<T*>(Root().FindComponent(name));
+  }
+  std::vector<std::string> SelectedNames() {
+    std::vector<std::string> names;
+    for (const TComponent* each : It().Selected().Components()) names.push_back(each->Name());
+    return names;
+  }
+  std::vector<std::string> Messages() {
+    std::vector<std::string> lines;
+    for (int i = 0; i < Window->MessageList().Items()->Count(); ++i) {
+      lines.push_back(Window->MessageList().Items()->Strings(i));
+    }
+    return lines;
+  }
+
+  TFolder Folder;
+  TPackages Packages;
+  std::unique_ptr<TMainForm> Window;
+};
+
+TEST_F(Designer, FormsAreMadeByMouseAndComeBackFromTheirFile) {
+  Place("TQELButton", At(17, 22), At(17, 22));
+  Place("TQELBackground", At(200, 100), At(200, 100));
+  Place("TPanel", At(42, 82), At(181, 169));
+  ASSERT_TRUE(Find("QELButton1") && Find("Panel1") && Find<TComponent>("QELBackground1"));
+  EXPECT_EQ(Find("QELButton1")->BoundsRect().TopLeft(), Point(16, 24));
+  EXPECT_EQ(Find("Panel1")->BoundsRect(), Rect(40, 80, 184, 168));
+  EXPECT_EQ(TDesignSurface::BoundsOf(*Root().FindComponent("QELBackground1")).TopLeft(),
+            Point(200, 104));
+  // Into the container under the mouse.
+  Place("TEdit", At(60, 100), At(60, 100));
+  EXPECT_EQ(Find("Edit1")->Parent(), Find("Panel1"));
+  const std::string made = Document().Text();
+
+  // Moved with the grid, sized by a grabber, and taken back by Escape.
+  Drag(MiddleOf(Find("QELButton1")), MiddleOf(Find("QELButton1")) + Point(30, -9));
+  EXPECT_EQ(Find("QELButton1")->BoundsRect().TopLeft(), Point(48, 16));
+  Click(At(150, 160));
+  EXPECT_THAT(SelectedNames(), ElementsAre("Panel1"));
+  Drag(At(183, 167), At(230, 191));
+  EXPECT_EQ(Find("Panel1")->BoundsRect(), Rect(40, 80, 232, 192));
+  MoveMouse(At(200, 180));
+  LeftDown();
+  MoveMouse(At(250, 250));
+  EXPECT_NE(Find("Panel1")->Left(), 40);
+  TypeKey(VK_ESCAPE);
+  LeftUp();
+  EXPECT_EQ(Find("Panel1")->BoundsRect(), Rect(40, 80, 232, 192));
+  TypeKey(VK_RIGHT, {VK_CONTROL});
+  TypeKey(VK_RIGHT, {VK_CONTROL});
+  EXPECT_EQ(Find("Panel1")->Left(), 42);
+
+  // The two steps of the keyboard are one; after all of them the text is what it was.
+  const std::string last = Document().Text();
+  for (int i = 0; i < 3; ++i) TypeKey('Z', {VK_CONTROL});
+  EXPECT_EQ(Document().Text(), made);
+  for (int i = 0; i < 3; ++i) TypeKey('Y', {VK_CONTROL});
+  EXPECT_EQ(Document().Text(), last);
+  EXPECT_THAT(SelectedNames(), ElementsAre("Panel1"));
+
+  Document().Save(File("made.dfm"));
+  EXPECT_EQ(Read("made.dfm"), last);
+  EXPECT_FALSE(Document().Modified());
+  ASSERT_TRUE(Window->Open(File("made.dfm")));
+  EXPECT_EQ(Document().Text(), last);
+  EXPECT_THAT(Messages(), ElementsAre());
+}
+
+TEST_F(Designer, SelectsWithTheMouseAndTheKeyboard) {
+  Write("four.dfm",
+        "object F: TF\n Left = 40\n Top = 30\n ClientHeight = 300\n ClientWidth = 420\n"
+        " object A: TButton\n Left = 16\n Top = 16\n Width = 60\n Height = 24\n Enabled = False\n"
+        " Visible = False\n end\n"
+        " object B: TLabel\n Left = 100\n Top = 16\n Width = 60\n Height = 24\n AutoSize = False\n"
+        " end\n"
+        " object C: TComboBox\n Left = 16\n Top = 80\n Width = 90\n Height = 21\n end\n"
+        " object D: TTimer\n Left = 200\n Top = 200\n end\nend\n");
+  ASSERT_TRUE(Window->Open(File("four.dfm")));
+  for (const char* name : {"A", "B", "C"}) {
+    Click(MiddleOf(Find(name)));
+    EXPECT_THAT(SelectedNames(), ElementsAre(name));
+  }
+  Click(At(210, 210));
+  EXPECT_THAT(SelectedNames(), ElementsAre("D"));
+  // The key goes down last: moving the mouse lets go of keys that are not down on the real keyboard.
+  MoveMouse(MiddleOf(Find("A")));
+  SendKey(VK_SHIFT, true);
+  LeftDown();
+  LeftUp();
+  SendKey(VK_SHIFT, false);
+  EXPECT_THAT(SelectedNames(), ElementsAre("D", "A"));
+  Drag(At(8, 8), At(120, 30));
+  EXPECT_THAT(SelectedNames(), testing::UnorderedElementsAre("A", "B"));
+  It().Arrange(TArrangement::Low, TArrangement::None);
+  EXPECT_EQ(Find("A")->Left(), Find("B")->Left());
+  Click(MiddleOf(Find("C")));
+  TypeKey(VK_TAB);
+  EXPECT_THAT(SelectedNames(), ElementsAre("D"));
+  TypeKey(VK_ESCAPE);
+  EXPECT_THAT(SelectedNames(), ElementsAre("F"));
+  // Copied, removed and pasted, as text.
+  // Elsewhere than before, or two clicks would be a double click.
+  Click(MiddleOf(Find("C")) + Point(20, 0));
+  EXPECT_THAT(SelectedNames(), ElementsAre("C"));
+  TypeKey('C', {VK_CONTROL});
+  TypeKey(VK_DELETE);
+  EXPECT_FALSE(Find("C"));
+  TypeKey('V', {VK_CONTROL});
+  ASSERT_TRUE(Find("C"));
+  EXPECT_EQ(Find("C")->BoundsRect().TopLeft(), Point(16, 80));
+  TypeKey('V', {VK_CONTROL});
+  ASSERT_TRUE(Find("ComboBox1")) << Document().Text();
+  EXPECT_EQ(Find("ComboBox1")->BoundsRect().TopLeft(), Point(24, 88));
+}
+
+TEST_F(Designer, KeepsWhatItDoesNotKnowThroughUndo) {
+  const std::string text =
+      "object F: TF\n  Left = 40\n  Top = 30\n  Caption = 'F'\n  ClientHeight = 300\n"
+      "  ClientWidth = 420\n  Foreign = 12\n  OnCreate = FormCreate\n"
+      "  object Panel: TNoSuchPanel\n    Left = 16\n    Top = 16\n    Width = 160\n"
+      "    Height = 80\n    Bevel = [a, b]\n    object Inner: TNoSuchEdit\n      Left = 4\n"
+      "    end\n  end\n  object Guard: TQELOnlyOne\n    Instances = 1\n    Left = 200\n    Top = 16\n  end\n"
+      "  object Guard2: TQELOnlyOne\n    Left = 240\n    Top = 16\n  end\nend\n";
+  Write("foreign.dfm", text);
+  ASSERT_TRUE(Window->Open(File("foreign.dfm")));
+  EXPECT_EQ(Document().Text(), text);
+  EXPECT_THAT(Messages(), ElementsAre(HasSubstr("Line 7: F.Foreign"),
+                                      HasSubstr("Line 9: Panel: Class TNoSuchPanel not found"),
+                                      HasSubstr("Line 24: Guard2: no TQELOnlyOne can be made")));
+  Drag(MiddleOf(Find("Panel")), MiddleOf(Find("Panel")) + Point(16, 0));
+  EXPECT_THAT(Document().Text(), HasSubstr("Left = 32\n    Top = 16\n    Width = 160"));
+  It().Undo();
+  EXPECT_EQ(Document().Text(), text);
+  EXPECT_FALSE(Document().Modified());
+  EXPECT_EQ(Messages().size(), 3u);
+  // Dropping a second one is refused, and the form is as before.
+  It().Add(FindClass("TQELOnlyOne"));
+  EXPECT_EQ(Document().Text(), text);
+  EXPECT_EQ(Messages().size(), 4u);
+}
+
+TEST_F(Designer, SurvivesDamagedFilesAndPackages) {
+  const std::string before = Document().Text();
+  for (const char* damaged :
+       {"", "object", "object F: TF\n  Left = \nend\n", "object F: TF\n  Left = 1\n",
+        "TPF0\x03", "object F: TF\n  object A: TButton\n"}) {
+    Write("damaged.dfm", damaged);
+    Window->MessageList().Items()->Clear();
+    EXPECT_FALSE(Window->Open(File("damaged.dfm"))) << damaged;
+    EXPECT_THAT(Messages(), ElementsAre(HasSubstr("damaged.dfm"))) << damaged;
+    EXPECT_EQ(Document().Text(), before);
+  }
+  EXPECT_FALSE(Window->Open(File("missing.dfm")));
+  EXPECT_THAT(Packages.Load(File("missing.dll")).Error, HasSubstr("missing.dll"));
+  EXPECT_TRUE(Packages.Entries().front()->Error.empty());
+}
+
+TEST_F(Designer, BringsBackWhatAKilledProgramLost) {
+  Document().Save(File("kept.dfm"));
+  Place("TButton", At(40, 40), At(40, 40));
+  const std::string changed = Document().Text();
+  Document().Autosave();
+  Document().New("Other");
+  TBoxAnswer answer(IDYES);
+  ASSERT_TRUE(Window->Open(File("kept.dfm")));
+  EXPECT_TRUE(answer.Wait());
+  EXPECT_EQ(Document().Text(), changed);
+  EXPECT_TRUE(Document().Modified());
+  Document().Save(File("kept.dfm"));
+  EXPECT_FALSE(TFormDocument::HasAutosave(File("kept.dfm")));
+}
+
+TEST_F(Designer, OpensAFormOfManyComponents) {
+  std::string text = "object F: TF\n  ClientHeight = 600\n  ClientWidth = 800\n";
+  for (int i = 0; i < 500; ++i) {
+    text += Concat("  object Button", std::to_string(i), ": TQELButton\n    Left = ",
+                   std::to_string(i % 25 * 30), "\n    Top = ", std::to_string(i / 25 * 28),
+                   "\n    Width = 28\n    Height = 25\n  end\n");
+  }
+  Write("many.dfm", text + "end\n");
+  const auto start = std::chrono::steady_clock::now();
+  ASSERT_TRUE(Window->Open(File("many.dfm")));
+  Window->Update();
+  const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
+  std::printf("500 components opened in %.0f ms\n", took.count());
+  EXPECT_EQ(Root().ComponentCount(), 500);
+}
+
+}  // namespace
+}  // namespace ide
