@@ -7,6 +7,7 @@
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
 #include "mail/Qeltiemails.h"
+#include "mail/living.h"
 
 namespace qel {
 namespace {
@@ -125,11 +126,7 @@ void TQELMailHost::DoError(vcl::TObject*, vcl::TCustomWinSocket*, vcl::TErrorEve
   CloseConnection();
 }
 
-void TQELMailHost::Guarded(const std::function<void()>& call) {
-  vcl::TWatch watch(this);
-  call();
-  if (watch.Gone()) throw vcl::EAbort("The component was freed by one of its events");
-}
+void TQELMailHost::Guarded(const std::function<void()>& call) { qel::Guarded(this, call); }
 
 void TQELMailHost::Pump() {
   vcl::TWatch watch(this);

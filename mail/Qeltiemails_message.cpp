@@ -1,20 +1,12 @@
 #include "host/rtl/customapplication.h"
 #include "host/rtl/properties.h"
 #include "mail/Qeltiemails.h"
+#include "mail/filenames.h"
+#include "mail/living.h"
 #include "mail/mimetypes.h"
 
 namespace qel {
 namespace {
-
-/// A pointer that owns nothing and only says how long the object lives.
-template <class T>
-std::shared_ptr<T> LifeOf(T* object) {
-  return {object, [](T*) {}};
-}
-
-std::string_view NamePart(std::string_view path) {
-  return path.substr(path.find_last_of("/\\:") + 1);
-}
 
 /// With its dot; empty when there is none.
 std::string Extension(std::string_view path) {

@@ -1,11 +1,26 @@
-// Items that events may delete while something is done with them.
+// Components and items that events may delete while something is done with them.
 #pragma once
 
 #include <memory>
 
+#include "host/rtl/component.h"
 #include "host/rtl/exceptions.h"
 
 namespace qel {
+
+/// Makes a call that may free the component. Raises EAbort when it has.
+template <class Call>
+void Guarded(vcl::TComponent* component, const Call& call) {
+  vcl::TWatch watch(component);
+  call();
+  if (watch.Gone()) throw vcl::EAbort("The component was freed by one of its events");
+}
+
+/// A pointer that owns nothing and only says how long the object lives.
+template <class T>
+std::shared_ptr<T> LifeOf(T* object) {
+  return {object, [](T*) {}};
+}
 
 /// The item. Raises EInvalidOperation when it has been deleted.
 template <class T>

@@ -10,6 +10,7 @@ EConvertError::~EConvertError() = default;
 EInOutError::~EInOutError() = default;
 EOutOfResources::~EOutOfResources() = default;
 EInvalidOperation::~EInvalidOperation() = default;
+EAccessViolation::~EAccessViolation() = default;
 EThread::~EThread() = default;
 EArgumentOutOfRangeException::~EArgumentOutOfRangeException() = default;
 EListError::~EListError() = default;

@@ -37,6 +37,8 @@ VCL_EXCEPTION(EInOutError, Exception);
 VCL_EXCEPTION(EOutOfResources, Exception);
 /// An operation that the object's state does not allow.
 VCL_EXCEPTION(EInvalidOperation, Exception);
+/// A call of what is not there.
+VCL_EXCEPTION(EAccessViolation, Exception);
 /// A thread that the system refuses, or that is asked for what it can't do.
 VCL_EXCEPTION(EThread, Exception);
 /// A value outside what a property or parameter takes.

@@ -13,6 +13,8 @@
 #include "data/Qeltdbascii.h"
 #include "host/rtl/classregistry.h"
 #include "mail/Qeltiemails.h"
+#include "mail/Qeltmapimail.h"
+#include "mail/Qeltquickmail.h"
 #include "services/Qeltformsaver.h"
 #include "services/Qeltmrumenu.h"
 #include "services/Qeltonlyone.h"
@@ -34,5 +36,6 @@ inline void RegisterAll() {
                         &qel::TQELFormSaver::Class(),  &qel::TQELSMTPMail::Class(),
                         &qel::TQELPOPMail::Class(),    &qel::TQELMRUItem::Class(),
                         &qel::TQELMRUMenu::Class(),    &qel::TQELExplorerTree::Class(),
-                        &qel::TQELDBAscii::Class()});
+                        &qel::TQELDBAscii::Class(),    &qel::TQELMapiMail::Class(),
+                        &qel::TQELQuickMail::Class()});
 }

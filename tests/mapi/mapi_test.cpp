@@ -1,0 +1,322 @@
+// Mail as the mail library gets it: each call with its records, and the events between the calls.
+#include "host/rtl/exceptions.h"
+#include "host/rtl/registry.h"
+#include "mail/Qeltmapimail.h"
+#include "tests/mapi/mapitest.h"
+
+namespace {
+
+using qel::TQELMapiMail;
+using qel::TQELMapiMessage;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+using TCalls = std::vector<std::string>;
+
+/// The plain events, in the order of a session.
+const std::pair<const char*, vcl::TNotifyEvent TQELMapiMail::*> Notices[] = {
+    {"NotAvailable", &TQELMapiMail::OnMapiNotAvailable},
+    {"BeforeLogon", &TQELMapiMail::BeforeLogon},
+    {"LogonSuccess", &TQELMapiMail::OnLogonSuccess},
+    {"BeforeSendAll", &TQELMapiMail::BeforeSendAll},
+    {"AfterSendAll", &TQELMapiMail::AfterSendAll},
+    {"BeforeLogoff", &TQELMapiMail::BeforeLogoff},
+    {"LogoffSuccess", &TQELMapiMail::OnLogoffSuccess},
+    {"AfterExecute", &TQELMapiMail::AfterExecute}};
+
+void Say(const std::string& what) { Provider().Calls.push_back(what); }
+
+struct MapiMail : TMapiTest {
+  MapiMail() {
+    Mail->SetDefaultProfile(false);
+    const auto mail = [](const char* what) {
+      return [=](vcl::TObject*, TQELMapiMessage* mail) { Say(what + mail->Subject()); };
+    };
+    const auto failure = [](const char* what) {
+      return [=](vcl::TObject*, int no) { Say(what + std::to_string(no)); };
+    };
+    for (const auto& [name, event] : Notices) {
+      Mail.get()->*event = [text = name](vcl::TObject*) { Say(text); };
+    }
+    Mail->BeforeSendMail = mail("Before ");
+    Mail->AfterSendMail = mail("After ");
+    Mail->OnDeleteMail = mail("Delete ");
+    Mail->OnLogonFailure = failure("LogonFailure ");
+    Mail->OnLogoffFailure = failure("LogoffFailure ");
+    Mail->OnSendError = [](vcl::TObject*, int no, TQELMapiMessage* mail) {
+      Say("Error " + std::to_string(no) + ' ' + mail->Subject());
+    };
+  }
+  TQELMapiMessage* Add(const char* subject, const char* to = "a") const {
+    TQELMapiMessage* message = Mail->Messages()->Add();
+    message->SetSubject(subject);
+    message->RecipientsTo()->SetText(to);
+    return message;
+  }
+  /// The calls of the one entry point.
+  static TCalls Only(const std::string& entry) {
+    TCalls calls = Calls();
+    std::erase_if(calls, [&](const std::string& call) { return !call.starts_with(entry); });
+    return calls;
+  }
+  std::unique_ptr<TQELMapiMail> Mail = std::make_unique<TQELMapiMail>(nullptr);
+};
+
+TEST_F(MapiMail, IsHandedOverWithEveryFieldInOneSession) {
+  const TWorkFolder folder("mapi");
+  WriteFile("ünï.txt", "x");
+  const std::string file = (folder.Path() / "").string() + "\xC3\xBCn\xC3\xAF.txt";
+  Mail->SetProfile("Ann");
+  Mail->SetPassword("pass");
+  Mail->Signature()->SetText("-- \nAnn");
+  TQELMapiMessage* message = Add("Grüße", "Bob\n\nnobody");
+  message->Message()->SetText("one\ntwo");
+  message->RecipientsCC()->SetText("Cy");
+  message->RecipientsBC()->SetText("[smtp:d@x.test]\nEve");
+  message->Attachments()->Add(file);
+  message->Attachments()->Add("C:\\is\\not\\there.txt");
+  message->SetReceipt(true);
+  Provider().Names = {{"Bob", "Bob Smith"}, {"[smtp:d@x.test]", "Dee"}};
+  Provider().Results["Resolve"] = {0, 14, 14, 21, 0};
+  EXPECT_TRUE(Mail->Execute());
+  EXPECT_THAT(
+      Calls(),
+      ElementsAre("BeforeLogon", "Logon 0 'Ann' 'pass' 1 0", "LogonSuccess", "BeforeSendAll",
+                  "Before Grüße", "Resolve 7 0 'Bob' 0 0", "Resolve 7 0 'nobody' 0 0",
+                  "Resolve 7 0 'nobody' 8 0", "Resolve 7 0 'Cy' 0 0", "Resolve 7 0 'Cy' 8 0",
+                  "Resolve 7 0 '[smtp:d@x.test]' 0 0", "Resolve 7 0 'Eve' 0 0",
+                  "Send 7 0 0 0 {0 'Grüße' '  \rone\r\ntwo\r\n-- \r\nAnn\r\n' - - - 2 - 6"
+                  " {0 1 'Bob Smith' - 0 -} {0 0 - - 0 -} {0 0 - - 0 -} {0 2 'Cy' - 0 -}"
+                  " {0 2 'smtp:d@x.test' 'smtp:d@x.test' 0 -} {0 3 'Eve' - 0 -}"
+                  " 2 {0 0 -1 '" +
+                      file + "' 'ünï.txt' -} {0 0 -1 '' '' -}}",
+                  "After Grüße", "AfterSendAll", "BeforeLogoff", "Logoff 7 0 0 0", "LogoffSuccess",
+                  "AfterExecute"));
+  EXPECT_TRUE(message->Sent());
+  EXPECT_THAT(Loads, ElementsAre("mapi32 32769"));
+  EXPECT_NE(::GetErrorMode(), 32769u);
+}
+
+TEST_F(MapiMail, LogsOnWithFlagsThatStayAndAsksTheUserWhenThatFails) {
+  Provider().Results = {{"Logon", {0, 3, 1, 3, 0}}, {"Logoff", {0, 2}}};
+  EXPECT_EQ(Mail->Logon(), 0);
+  EXPECT_EQ(Mail->Logon(), 0) << "the session is open";
+  EXPECT_EQ(Mail->Session(), 7u);
+  EXPECT_EQ(Mail->Logoff(), 0);
+  EXPECT_EQ(Only("Logo"),
+            (TCalls{"Logon 0 '' '' 1 0", "LogonSuccess", "Logoff 7 0 0 0", "LogoffSuccess"}));
+  Mail->SetNewSession(true);
+  EXPECT_FALSE(Mail->Execute());
+  EXPECT_EQ(Calls(), (TCalls{"BeforeLogon", "Logon 0 '' '' 3 0", "Logon 0 - - 3 0",
+                             "LogonFailure 1", "AfterExecute"}));
+  Mail->SetNewSession(false);
+  Mail->SetDefaultProfile(true);
+  EXPECT_EQ(Mail->Logon(), 0);
+  EXPECT_EQ(Mail->Logoff(), 2);
+  EXPECT_EQ(Mail->Logoff(), 0);
+  EXPECT_EQ(Calls(), (TCalls{"BeforeLogon", "Logon 0 '' '' 3 0", "Logon 0 - - 3 0", "LogonSuccess",
+                             "BeforeLogoff", "Logoff 7 0 0 0", "LogoffFailure 2", "BeforeLogoff"}));
+  Mail->Logon();
+  Calls();
+  Mail = nullptr;
+  EXPECT_EQ(Calls(), (TCalls{"BeforeLogoff", "Logoff 7 0 0 0", "LogoffSuccess"}));
+}
+
+TEST_F(MapiMail, TakesTheProfileOfTheRegistry) {
+  const std::string plain = "\\Software\\Microsoft\\Windows Messaging Subsystem";
+  const std::string nt =
+      "\\Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows Messaging Subsystem";
+  vcl::TRegistry registry;
+  Mail->SetDefaultProfile(true);
+  const auto profile = [&] {
+    Mail->SetProfile("mine");
+    Mail->Logon();
+    Mail->Logoff();
+    return Mail->Profile();
+  };
+  EXPECT_EQ(profile(), "mine");
+  registry.OpenKey(plain + "\\Profiles", true);
+  EXPECT_EQ(profile(), "");
+  registry.WriteString("DefaultProfile", "older");
+  EXPECT_EQ(profile(), "older");
+  registry.OpenKey(nt + "\\Profiles", true);
+  registry.WriteString("DefaultProfile", "newer");
+  EXPECT_EQ(profile(), "newer");
+  EXPECT_EQ(Only("Logon 0").back(), "Logon 0 'newer' '' 0 0");
+  registry.WriteInteger("DefaultProfile", 1);
+  EXPECT_EQ(profile(), "");
+  registry.DeleteKey(plain);
+  registry.DeleteKey(nt);
+}
+
+TEST_F(MapiMail, ClassesOfAddressesInBracketsReachOneLineFurther) {
+  struct {
+    const char *Line, *Known, *Expected;
+  } const table[] = {
+      {"a", "A", "{0 1 'A' - 0 -} {0 2 'A' - 0 -} {0 3 'A' - 0 -}"},
+      {"[a", "A", "{0 1 'A' - 0 -} {0 2 'A' - 0 -} {0 3 'A' - 0 -}"},
+      {"[a]", "[A", "{0 1 '[A' - 0 -} {0 2 '[A' - 0 -} {0 3 '[A' - 0 -}"},
+      {"x]a][[", "A", "{0 1 'xa][' 'xa][' 0 -} {0 1 'xa][' 'xa][' 0 -} {0 2 'xa][' 'xa][' 0 -}"}};
+  TQELMapiMessage* message = Add("");
+  for (const auto& each : table) {
+    for (vcl::TStrings* list :
+         {message->RecipientsTo(), message->RecipientsCC(), message->RecipientsBC()}) {
+      list->SetText(each.Line);
+    }
+    Provider().Names = {{each.Line, each.Known}};
+    Mail->SendMapi();
+    EXPECT_THAT(Only("Send"),
+                ElementsAre(testing::HasSubstr(" - 3 " + std::string(each.Expected) + " 0 -}")));
+  }
+  message->RecipientsTo()->SetText(std::string(254, 'n') + "ö");
+  Mail->SendMapi();
+  EXPECT_EQ(Only("Resolve")[0], "Resolve 0 0 '" + std::string(254, 'n') + "' 0 0");
+}
+
+TEST_F(MapiMail, ShowsTheDialogWhereToldOrWithoutRecipients) {
+  Add("none", "");
+  Add("told")->SetDialog(true);
+  Add("line", "\n");
+  Mail->SendMapi();
+  EXPECT_THAT(Only("Send"),
+              ElementsAre("Send 0 0 8 0 {0 'none' '\r' - - - 0 - 0 - 0 -}",
+                          StartsWith("Send 0 0 8 0 {0 'told'"),
+                          "Send 0 0 0 0 {0 'line' '\r' - - - 0 - 1 {0 0 - - 0 -} 0 -}"));
+}
+
+TEST_F(MapiMail, StopsAtOneThatIsTooLargeAndDeletesNothing) {
+  Add("first");
+  TQELMapiMessage* large = Add("large", "");
+  for (int i = 0; i < 100; ++i) large->Attachments()->Add("x");
+  for (int i = 0; i < 1000; ++i) large->RecipientsBC()->Add("");
+  Mail->SetDeleteAfterSend(false);
+  EXPECT_EQ(Mail->SendMapi(), 0);
+  Mail->SetDeleteAfterSend(true);
+  large->Attachments()->Add("x");
+  EXPECT_EQ(Mail->SendMapi(), 9);
+  large->RecipientsTo()->Add("");
+  EXPECT_EQ(Mail->SendMapi(), 10);
+  EXPECT_FALSE(large->Sent());
+  EXPECT_EQ(Only("After"), (TCalls{"After first", "After large", "After first", "After first"}));
+  EXPECT_EQ(Mail->Messages()->Count(), 2);
+}
+
+TEST_F(MapiMail, DeletesWhatWasSentButTheLast) {
+  for (const char* subject : {"1", "2", "3", "4"}) Add(subject);
+  Provider().Results["Send"] = {0, 18, 0, 9};
+  EXPECT_EQ(Mail->SendMapi(), 9);
+  EXPECT_EQ(Mail->Messages()->Count(), 2);
+  Mail->OnDeleteMail = [](vcl::TObject*, TQELMapiMessage*) { throw vcl::Exception("keep it"); };
+  EXPECT_EQ(Mail->SendMapi(), 0);
+  EXPECT_EQ(Mail->Messages()->Count(), 2);
+  EXPECT_THAT(Application.Errors, ElementsAre("keep it"));
+  EXPECT_EQ(Only("Delete"), (TCalls{"Delete 1", "Delete 3"}));
+}
+
+TEST_F(MapiMail, GoesOnAfterWhatGoesWrongWithOne) {
+  for (const char* subject : {"raises", "ends", "ends inside", "good"}) Add(subject);
+  Mail->BeforeSendMail = [](vcl::TObject*, TQELMapiMessage* message) {
+    const auto end = [=] { delete message; };
+    if (message->Subject() == "raises") throw vcl::Exception("no!");
+    if (message->Subject() == "ends inside") Provider().During["Resolve"] = end;
+    if (message->Subject() == "ends") end();
+  };
+  EXPECT_EQ(Mail->SendMapi(), 0);
+  EXPECT_THAT(Only("After"), ElementsAre("After good"));
+  const auto gone = StartsWith("The mail was deleted");
+  EXPECT_THAT(Application.Errors, ElementsAre("no!", gone, gone));
+}
+
+TEST_F(MapiMail, MayBeFreedByAnyEventAndInAnyDialog) {
+  TQELMapiMail* mail = nullptr;
+  const auto free = [&] { delete std::exchange(mail, nullptr); };
+  const auto freed = [&](const std::string& when) {
+    mail->Messages()->Add()->RecipientsTo()->Add("a");
+    mail->Execute();
+    EXPECT_EQ(mail, nullptr) << when;
+  };
+  for (const auto& [name, event] : Notices) {
+    if (event == &TQELMapiMail::OnMapiNotAvailable) continue;
+    mail = new TQELMapiMail(nullptr);
+    mail->*event = [&](vcl::TObject*) { free(); };
+    freed(name);
+  }
+  for (const char* entry : {"Logon", "Resolve", "Send", "Logoff"}) {
+    mail = new TQELMapiMail(nullptr);
+    Provider().During[entry] = free;
+    freed(entry);
+  }
+  // Whatever had logged on logged off: all but the one that was freed before.
+  EXPECT_THAT(Only("Logoff "), testing::SizeIs(std::size(Notices) - 2 + 4));
+}
+
+TEST_F(MapiMail, SaysThatThereIsNoneAndThenFails) {
+  HasLibrary = false;
+  Add("x");
+  EXPECT_FALSE(Mail->GetMAPIAvail());
+  EXPECT_THAT(Loads, ElementsAre("mapi32 32769", "mapi32.dll 32769"));
+  EXPECT_THROW(Mail->Execute(), vcl::EAccessViolation);
+  EXPECT_EQ(Calls(), (TCalls{"NotAvailable", "BeforeLogon"}));
+  EXPECT_EQ(Mail->SendMapi(), 0);
+  EXPECT_THAT(Application.Errors, ElementsAre(StartsWith("Access violation: MAPIResolveName")));
+  EXPECT_EQ(Mail->Logoff(), 0);
+  EXPECT_EQ(Calls(), (TCalls{"NotAvailable", "Before x", "NotAvailable", "BeforeLogoff"}));
+  Mail->SetDesigning(true);
+  EXPECT_THROW(Mail->Execute(), qel::TQELExceptunavailable);
+  EXPECT_THAT(Calls(), IsEmpty());
+}
+
+TEST_F(MapiMail, NeedsAllOfTheInterface) {
+  static std::string missing;
+  const TImportPatch entries(
+      "qel.dll", "GetProcAddress", +[](HMODULE module, LPCSTR name) WINAPI -> FARPROC {
+        return missing == name ? nullptr : ::GetProcAddress(module, name);
+      });
+  for (const char* entry : {"FindNext", "Logoff", "Logon", "SendMail", "ReadMail", "DeleteMail",
+                            "ResolveName", "FreeBuffer", "Address", "SaveMail"}) {
+    missing = std::string("MAPI") + entry;
+    TQELMapiMail mail(nullptr);
+    EXPECT_THROW(mail.Execute(), qel::TQELExceptdllerror) << entry;
+    EXPECT_TRUE(mail.GetMAPIAvail());
+  }
+  EXPECT_THAT(Calls(), IsEmpty());
+}
+
+/// What a system says of itself: its version, the registry's value and its settings file's, and
+/// whether it has MAPI then.
+const struct TSystem {
+  unsigned long Major, Minor;
+  std::string Value;
+  LSTATUS Status;
+  unsigned Setting;
+  bool Expected;
+} Systems[] = {{4, 0, {"1\0", 2}, 0, 0, true},   {10, 0, "1", 0, 0, true},
+               {3, 52, "1", 0, 0, true},         {4, 0, {"0\0", 2}, 0, 1, false},
+               {4, 0, {"10\0", 3}, 0, 1, false}, {4, 0, "1", ERROR_MORE_DATA, 1, false},
+               {4, 0, "", 0, 1, false},          {4, 0, "", ERROR_FILE_NOT_FOUND, 1, false},
+               {3, 51, "1", 0, 0, false},        {3, 51, "", 0, 1, true}};
+const TSystem* System = Systems;
+
+TEST_F(MapiMail, IsThereWhereTheSystemSaysSo) {
+  const TImportPatch version(
+      "qel.dll", "GetVersionExA", +[](OSVERSIONINFOA* info) WINAPI -> BOOL {
+        info->dwMajorVersion = System->Major;
+        info->dwMinorVersion = System->Minor;
+        return TRUE;
+      });
+  const TImportPatch value(
+      "qel.dll", "RegQueryValueExA",
+      +[](HKEY, LPCSTR, DWORD*, DWORD*, BYTE* data, DWORD* size) WINAPI -> LSTATUS {
+        *size = static_cast<DWORD>(System->Value.copy(reinterpret_cast<char*>(data), *size));
+        return System->Status;
+      });
+  const TImportPatch setting(
+      "qel.dll", "GetProfileIntA",
+      +[](LPCSTR, LPCSTR, INT) WINAPI -> UINT { return System->Setting; });
+  for (const auto& each : Systems) {
+    System = &each;
+    EXPECT_EQ(TQELMapiMail(nullptr).GetMAPIAvail(), each.Expected) << System - Systems;
+  }
+}
+
+}  // namespace
