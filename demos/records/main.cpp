@@ -6,10 +6,10 @@
 #include <exception>
 #include <string>
 
-#include "demos/common/formpicture.h"
 #include "demos/records/recordsform.h"
 #include "host/dbctrls/registration.h"
 #include "host/vcl/application.h"
+#include "host/vcl/formpicture.h"
 #include "host/vcl/png.h"
 
 namespace {
@@ -18,7 +18,7 @@ using records::TRecordsForm;
 using vcl::Application;
 
 int TakeScreenshot(TRecordsForm& form, const std::string& folder) {
-  demos::MakeFolder(folder);
+  vcl::MakeFolder(folder);
   const std::string text = folder + "\\people.csv";
   form.Open(folder + "\\people.db");
   form.Export(text);
@@ -27,7 +27,7 @@ int TakeScreenshot(TRecordsForm& form, const std::string& folder) {
   form.SetFormStyle(vcl::fsStayOnTop);
   form.Show();
   vcl::TBitmap picture;
-  demos::TakePicture(form, demos::TPart::Whole, picture);
+  vcl::TakePicture(form, vcl::TFormPart::Whole, picture);
   SavePng(picture, folder + "/records.png");
   std::printf("%s/records.png\n", folder.c_str());
   form.Free();
