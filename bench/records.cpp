@@ -59,6 +59,12 @@ struct TRecords {
   qel::TQELDBAscii Ascii{nullptr};
 };
 
+void Read(vcl::TDataSet& data) {
+  data.Open();
+  while (!data.Eof()) data.Next();
+  data.Close();
+}
+
 std::string Shell(const std::string& commands) {
   return std::string("cd ") + Folder + " && sqlite3 data " + commands;
 }
@@ -71,13 +77,14 @@ void Records() {
   Run(Shell("\"" + Table("records", Count) + Table("many", ManyCount) + "\""));
   {
     TTable table("250,000 records of five columns in a text file, against sqlite3's own shell",
-                 "Its start is measured too. Over ODBC each record passes driver and driver "
-                 "manager. Aim: at most 1.",
-                 {"written"});
+                 "Its start is measured too. Aim: at most 1, which the driver's own work, three "
+                 "quarters of the time, does not allow: the records alone, with nothing done to "
+                 "them, take longer than the shell.",
+                 {"250,000"});
     TRecords records("records");
-    table.Add("TQELDBAscii",
-              {Compare([&] { records.Ascii.DoExport(); },
-                       [] { Run(Shell("-csv 'SELECT * FROM records' >theirs")); })});
+    const auto shell = [] { Run(Shell("-csv 'SELECT * FROM records' >theirs")); };
+    table.Add("TQELDBAscii", {Compare([&] { records.Ascii.DoExport(); }, shell)});
+    table.Add("TOdbcQuery, read only", {Compare([&] { Read(records.Query); }, shell)});
   }
   const long before = PeakMemory();
   TRecords("many").Ascii.DoExport();
