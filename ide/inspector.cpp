@@ -14,7 +14,7 @@ namespace {
 
 std::string LineOf(const vcl::TDesigner& designer, vcl::TPersistent* object) {
   const auto* component = dynamic_cast<vcl::TComponent*>(object);
-  if (component) return vcl::Concat(component->Name(), ": ", component->ClassName());
+  if (component) return vcl::Concat(component->Name(), ": ", component->FileClassName());
   const auto* item = dynamic_cast<vcl::TCollectionItem*>(object);
   const std::string index = item ? vcl::Concat("[", vcl::IntToStr(item->Index()), "]") : "";
   return vcl::Concat(designer.Root().Name(), index, ": ", object->ClassName());

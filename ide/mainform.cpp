@@ -1,6 +1,7 @@
 #include "ide/mainform.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "host/designintf/componenteditor.h"
 #include "host/rtl/convert.h"
@@ -56,8 +57,14 @@ const TClass& TMainForm::Class() {
 TMainForm::TMainForm(TComponent* owner) : TForm(owner),
       FWorkspace(new TWorkspace(this)),
       FInspector(new TObjectInspector(this)),
-      FPalette(new TComponentPalette(this)) {
+      FPalette(new TComponentPalette(this)),
+      FStructure(new TStructureTree(this)),
+      FItems(new TCollectionWindow(this)) {
+  constexpr int structureHeight = 150;
   LoadForm();
+  FStructure->SetHeight(structureHeight);
+  FStructure->SetParent(SidePanel);
+  FStructure->SetAlign(alTop);
   FWorkspace->SetParent(this);
   FWorkspace->SetAlign(alClient);
   FInspector->SetParent(SidePanel);
@@ -85,7 +92,10 @@ void TMainForm::MakeDesigner() {
   FDesigner = std::make_unique<TFormDesigner>(FWorkspace->Desktop());
   FDesigner->Events.Changed = [this] { FormChanged(); };
   FDesigner->Events.SelectionChanged = [this] { SelectionChanged(); };
-  FDesigner->Events.RootGoing = [this] { FInspector->SetDesigner(nullptr); };
+  FDesigner->Events.RootGoing = [this] { RootGoing(); };
+  FDesigner->Events.ShowCollection = [this](TPersistent&, TCollection& items, const std::string&) {
+    FItems->ShowItems(*FDesigner, items);
+  };
   FDesigner->Events.Placed = [this] {
     FPalette->Placed();
     TakeTool();
@@ -146,12 +156,28 @@ void TMainForm::FormChanged() {
   FWorkspace->SetExtent(
       {root.Left() + root.Width() + margin, root.Top() + root.Height() + margin});
   FInspector->Refresh();
+  FStructure->Refresh();
+  FItems->Refresh();
   ShowSelected();
 }
 
+/// The form will be made anew; the parts take it when something on it is selected.
+void TMainForm::RootGoing() {
+  FInspector->SetDesigner(nullptr);
+  FStructure->SetDesigner(nullptr);
+  FItems->SetDesigner(nullptr);
+}
+
 void TMainForm::SelectionChanged() {
-  FInspector->Designer() ? FInspector->SelectionChanged()
-                         : FInspector->SetDesigner(FDesigner.get());
+  if (FInspector->Designer()) {
+    FInspector->SelectionChanged();
+    FStructure->SelectionChanged();
+    FItems->SelectionChanged();
+  } else {
+    FInspector->SetDesigner(FDesigner.get());
+    FStructure->SetDesigner(FDesigner.get());
+    FItems->SetDesigner(FDesigner.get());
+  }
   ShowSelected();
 }
 
@@ -188,11 +214,27 @@ void TMainForm::AutosaveTimerTick(TObject*) {
 
 // The designer's own keys and menu.
 
-/// Keys that the designed form gets do what the menu says.
+namespace {
+
+/// The keys that are about components on the form, and about the text in an edit.
+bool IsEditingKey(WPARAM key) {
+  constexpr WPARAM keys[] = {'A', 'C', 'V', 'X', 'Y', 'Z'};
+  return ::GetKeyState(VK_CONTROL) < 0 && std::ranges::find(keys, key) != std::end(keys);
+}
+
+}  // namespace
+
+/// Keys that the designed form gets do what the menu says; an edit's own come before the menu.
 void TMainForm::ApplicationMessage(MSG& message, bool& handled) {
   if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return;
   const TWinControl* control = TWinControl::FromHandle(message.hwnd);
-  if (control && control->Designing()) handled = MainMenuBar->IsShortCut(message);
+  if (control && control->Designing()) {
+    handled = MainMenuBar->IsShortCut(message);
+  } else if (dynamic_cast<const TCustomEdit*>(control) && IsEditingKey(message.wParam)) {
+    handled = true;
+    ::TranslateMessage(&message);
+    ::DispatchMessageW(&message);
+  }
 }
 
 bool TMainForm::DesignKey(WPARAM key) {

@@ -12,6 +12,8 @@
 #include "ide/packages.h"
 #include "ide/palette.h"
 #include "ide/settings.h"
+#include "ide/structure.h"
+#include "ide/structurecollection.h"
 #include "ide/workspace.h"
 
 namespace ide {
@@ -45,6 +47,8 @@ class TMainForm : public vcl::TForm, private vcl::TEnvironment {
   vcl::TListBox& MessageList() { return *Messages; }
   TObjectInspector& Inspector() { return *FInspector; }
   TComponentPalette& Palette() { return *FPalette; }
+  TStructureTree& Structure() { return *FStructure; }
+  TCollectionWindow& Items() { return *FItems; }
 
  private:
   // What the form file fills.
@@ -72,6 +76,7 @@ class TMainForm : public vcl::TForm, private vcl::TEnvironment {
   void MakeDesigner();
   void LoadPackages(const TStart& start);
   void FormChanged();
+  void RootGoing();
   void SelectionChanged();
   void ShowSelected();
   void ShowTitle();
@@ -115,6 +120,8 @@ class TMainForm : public vcl::TForm, private vcl::TEnvironment {
   TWorkspace* FWorkspace;
   TObjectInspector* FInspector;
   TComponentPalette* FPalette;
+  TStructureTree* FStructure;
+  TCollectionWindow* FItems;
   std::unique_ptr<TFormDesigner> FDesigner;
   std::vector<std::unique_ptr<vcl::TExpert>> FExperts;
 };

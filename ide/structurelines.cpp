@@ -20,7 +20,7 @@ class TLister {
 
  private:
   void AddComponent(vcl::TComponent& component, int depth) {
-    const std::string text = Concat(component.Name(), ": ", component.ClassName());
+    const std::string text = Concat(component.Name(), ": ", component.FileClassName());
     Lines.push_back({depth, text, &component, nullptr, {}, component.Name()});
     AddCollections(component, component.Name(), depth + 1, 0);
     component.GetChildren([&](vcl::TComponent* child) { AddComponent(*child, depth + 1); }, &FRoot);

@@ -10,6 +10,7 @@
 #include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
 #include "host/vcl/registration.h"
+#include "ide/inspectorgrid.h"
 #include "ide/mainform.h"
 #include "tests/support/program.h"
 #include "tests/vcl/testinput.h"
@@ -247,6 +248,38 @@ TEST_F(Designer, OpensAFormOfManyComponents) {
   const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
   std::printf("500 components opened in %.0f ms\n", took.count());
   EXPECT_EQ(Root().ComponentCount(), 500);
+}
+
+TEST_F(Designer, PartsFollowTheForm) {
+  Write("bar.dfm",
+        "object F: TF\n ClientHeight = 300\n ClientWidth = 420\n object Bar: TStatusBar\n"
+        "  Panels = <\n   item\n   end>\n end\nend\n");
+  ASSERT_TRUE(Window->Open(File("bar.dfm")));
+  TPersistent* bar = Find("Bar");
+  It().SetSelection({bar});
+  EXPECT_EQ(Window->Structure().Selected(), Window->Structure().NodeOf("Bar"));
+  TStatusPanels* panels = Find<TStatusBar>("Bar")->Panels();
+  It().ShowCollection(*bar, *panels, "Panels");
+  EXPECT_TRUE(Window->Items().Visible());
+  Window->Items().AddItem();
+  EXPECT_NE(Window->Structure().NodeOf("Bar.Panels[1]"), nullptr);
+  // Undo makes the form anew: the parts take the new one.
+  It().Undo();
+  EXPECT_EQ(Window->Structure().NodeOf("Bar.Panels[1]"), nullptr);
+  EXPECT_EQ(Window->Items().Collection(), Find<TStatusBar>("Bar")->Panels());
+  EXPECT_EQ(Window->Items().List().Items()->Count(), 1);
+}
+
+TEST_F(Designer, AnEditKeepsItsKeys) {
+  Place("TButton", At(16, 16), At(16, 16));
+  TInspectorGrid& grid = Window->Inspector().Properties();
+  const TRect row = grid.RowRect(grid.IndexOf("Hint"));
+  Click(grid.ClientToScreen({grid.Splitter() + 10, row.Top + 5}));
+  TypeKey('A');
+  TypeKey('Z', {VK_CONTROL});
+  EXPECT_NE(Find("Button1"), nullptr) << "not the form's last change is taken back";
+  TypeKey(VK_RETURN);
+  EXPECT_EQ(Find("Button1")->Hint(), "");
 }
 
 }  // namespace
