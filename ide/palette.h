@@ -65,8 +65,8 @@ class TComponentPalette : public vcl::TWinControl {
 };
 
 /// Registers the class library's own components with the palette, on the pages Standard,
-/// Additional, Win32, System, Data Access, Dialogs and Internet. To be called once, before packages
-/// are loaded.
+/// Additional, Win32, System, Data Access, Data Controls, Dialogs and Internet. To be called once,
+/// before packages are loaded.
 void RegisterStandardPages();
 
 }  // namespace ide

@@ -1,6 +1,9 @@
 // Which of the class library's components stand on which page of the palette.
 #include "host/db/datasource.h"
 #include "host/db/memorydataset.h"
+#include "host/db/odbcquery.h"
+#include "host/dbctrls/dbedit.h"
+#include "host/dbctrls/dbgrid.h"
 #include "host/net/sockets.h"
 #include "host/vcl/buttons.h"
 #include "host/vcl/vcl.h"
@@ -21,7 +24,8 @@ void RegisterStandardPages() {
        {&TPageControl::Class(), &TImageList::Class(), &TTrackBar::Class(), &TTreeView::Class(),
         &TStatusBar::Class()}},
       {"System", {&TTimer::Class()}},
-      {"Data Access", {&TDataSource::Class(), &TMemoryDataSet::Class()}},
+      {"Data Access", {&TDataSource::Class(), &TMemoryDataSet::Class(), &TOdbcQuery::Class()}},
+      {"Data Controls", {&TDBEdit::Class(), &TDBGrid::Class()}},
       {"Dialogs",
        {&TOpenDialog::Class(), &TSaveDialog::Class(), &TFontDialog::Class(),
         &TColorDialog::Class()}},
