@@ -18,6 +18,7 @@ if(applications)
   install(TARGETS ${applications} RUNTIME DESTINATION bin)
 endif()
 install(FILES ${QEL_RUNTIME_DLLS} DESTINATION bin)
+install(FILES qel.h DESTINATION include/qel)
 install(FILES README.md DESTINATION .)
 install(DIRECTORY docs DESTINATION .)
 

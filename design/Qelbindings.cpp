@@ -5,6 +5,7 @@
 #include "core/Qeltstoredata.h"
 #include "design/Qelcolorsinbetween.h"
 #include "design/Qelcomponenteditors.h"
+#include "design/Qeldataeditors.h"
 #include "design/Qelmaileditors.h"
 #include "design/Qelpropertyeditors.h"
 #include "host/vcl/control.h"
@@ -23,10 +24,14 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELInetProperty), "TQELMessages", &TQELPOPMail::Class(), "Messages"},
       {QEL_EDITOR(TQELColorInBetweenProperty), "TStrings", &TQELGradient::Class(),
        "ColorsInBetween"},
+      {QEL_EDITOR(TQELItemDataFieldProperty), "string", &vcl::TCollectionItem::Class(),
+       "DataField"},
       {QEL_EDITOR(TQELShowMeNowProperty), "string", &vcl::TComponent::Class(), "DesignExecute"},
       {QEL_EDITOR(TQELHintProperty), "string", &vcl::TComponent::Class(), "Hint"},
       {QEL_EDITOR(TQELCaptionProperty), "TCaption", &vcl::TControl::Class(), "Caption"},
       {QEL_EDITOR(TQELAboutCompsProperty), "TQELAbout", &vcl::TPersistent::Class(), ""},
+      {QEL_EDITOR(TQELDataFieldProperty), "string", &vcl::TComponent::Class(), "DataUsername"},
+      {QEL_EDITOR(TQELDataFieldProperty), "string", &vcl::TComponent::Class(), "Datapassword"},
       // The store's file name is a property of its Inifile, which this line does not reach; a
       // property of the store itself would get the editor.
       {QEL_EDITOR(TQELINIFilenameProperty), "string", &TQELStoreData::Class(), "Filename"},

@@ -10,15 +10,19 @@
 #include "core/Qelclasses2.h"
 #include "core/Qelcontrols.h"
 #include "core/Qeltstoredata.h"
+#include "data/Qeltdbascii.h"
 #include "design/Qelbindings.h"
 #include "design/Qeltools.h"
 #include "host/designintf/registration.h"
 #include "host/rtl/classregistry.h"
 #include "mail/Qeltiemails.h"
+#include "mail/Qeltmapimail.h"
+#include "mail/Qeltquickmail.h"
 #include "services/Qeltformsaver.h"
 #include "services/Qeltmrumenu.h"
 #include "services/Qeltonlyone.h"
 #include "services/Qeltsystemtray.h"
+#include "shell/Qeltexplorertree.h"
 
 using namespace qel;
 
@@ -39,9 +43,14 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        {
            &TQELSpinEdit::Class(),
        }},
+      {"QEL DBControls",
+       {
+           &TQELDBAscii::Class(),
+       }},
       {"QEL System/1",
        {
            &TQELStoreData::Class(),
+           &TQELQuickMail::Class(),
            &TQELSystemTray::Class(),
            &TQELFormSaver::Class(),
            &TQELMRUMenu::Class(),
@@ -52,6 +61,11 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELTimer32::Class(),
            &TQELPOPMail::Class(),
            &TQELSMTPMail::Class(),
+           &TQELMapiMail::Class(),
+       }},
+      {"QEL Files",
+       {
+           &TQELExplorerTree::Class(),
        }},
   };
   return pages;
@@ -111,6 +125,10 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELMailHost::Class(),
       &TQELSMTPMail::Class(),
       &TQELPOPMail::Class(),
+      &TQELADField::Class(),
+      &TQELADFields::Class(),
+      &TQELDBAscii::Class(),
+      &TQELExplorerTree::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }

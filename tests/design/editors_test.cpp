@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "core/Qelcomponent.h"
+#include "data/Qeltdbascii.h"
 #include "design/Qelpropertyeditors.h"
+#include "host/db/memorydataset.h"
 #include "host/designintf/componenteditor.h"
 #include "host/designintf/package.h"
 #include "host/rtl/classregistry.h"
@@ -40,10 +42,13 @@ TEST_F(Editors, AreRegisteredInTheirOrder) {
                                  "TQELInetProperty TQELMessages TQELSMTPMail.Messages",
                                  "TQELInetProperty TQELMessages TQELPOPMail.Messages",
                                  "TQELColorInBetweenProperty TStrings TQELGradient.ColorsInBetween",
+                                 "TQELItemDataFieldProperty string TCollectionItem.DataField",
                                  "TQELShowMeNowProperty string TComponent.DesignExecute",
                                  "TQELHintProperty string TComponent.Hint",
                                  "TQELCaptionProperty TCaption TControl.Caption",
                                  "TQELAboutCompsProperty TQELAbout TPersistent.",
+                                 "TQELDataFieldProperty string TComponent.DataUsername",
+                                 "TQELDataFieldProperty string TComponent.Datapassword",
                                  "TQELINIFilenameProperty string TQELStoreData.Filename"));
   ASSERT_EQ(RegisteredComponentEditors().size(), 2u);
   EXPECT_EQ(RegisteredComponentEditors()[0].Class, &TQELExecComponent::Class());
@@ -246,6 +251,30 @@ TEST_F(Editors, FilesAreAttachedUnderTheirFullNames) {
   MakePropertyEditor(Designer, Edited(message, "Attachments"))->Edit();
   ASSERT_EQ(message.Attachments()->Count(), 1);
   EXPECT_EQ(message.Attachments()->GeTQELAttachment(0)->FileName(), "C:\\folder\\file.txt");
+}
+
+TEST_F(Editors, ColumnsOfferTheFieldsOfTheirDataSet) {
+  TMemoryDataSet data(nullptr);
+  data.FieldDefs()->Add("Town", ftString, 20);
+  data.FieldDefs()->Add("Area", ftFloat);
+  TDataSource source(nullptr);
+  TQELDBAscii ascii(nullptr);
+  TQELADField& column = *ascii.Fields()->Add();
+  const auto offered = [&] {
+    std::vector<std::string> names;
+    const auto editor = MakePropertyEditor(Designer, Edited(column, "DataField"));
+    EXPECT_EQ(editor->GetAttributes(),
+              (TPropertyAttributes{paValueList, paMultiSelect, paSortList}));
+    editor->GetValues([&](const std::string& name) { names.push_back(name); });
+    return names;
+  };
+  EXPECT_THAT(offered(), ElementsAre()) << "no source";
+  ascii.SetDataSource(&source);
+  EXPECT_THAT(offered(), ElementsAre()) << "no data set";
+  source.SetDataSet(&data);
+  EXPECT_THAT(offered(), ElementsAre("Town", "Area")) << "closed";
+  data.Open();
+  EXPECT_THAT(offered(), ElementsAre("Town", "Area")) << "open";
 }
 
 }  // namespace

@@ -33,8 +33,10 @@ TEST(Package, PutsItsComponentsOnTheirPages) {
   } expected[] = {
       {"QEL Controls/1", {"TQELBackground", "TQELLabel", "TQELButton", "TQELGauge", "TQELHint"}},
       {"QEL Controls/2", {"TQELSpinEdit"}},
-      {"QEL System/1", {"TQELStoreData", "TQELSystemTray", "TQELFormSaver", "TQELMRUMenu"}},
-      {"QEL System/2", {"TQELOnlyOne", "TQELTimer32", "TQELPOPMail", "TQELSMTPMail"}},
+      {"QEL DBControls", {"TQELDBAscii"}},
+      {"QEL System/1", {"TQELStoreData", "TQELQuickMail", "TQELSystemTray", "TQELFormSaver", "TQELMRUMenu"}},
+      {"QEL System/2", {"TQELOnlyOne", "TQELTimer32", "TQELPOPMail", "TQELSMTPMail", "TQELMapiMail"}},
+      {"QEL Files", {"TQELExplorerTree"}},
   };
   ASSERT_EQ(pages.size(), std::size(expected));
   for (std::size_t i = 0; i < pages.size(); ++i) {

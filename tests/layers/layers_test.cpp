@@ -34,7 +34,7 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"services", component},
       {"shell", component},
       {"design",
-       {"host/rtl", "host/vcl", "host/designintf", "core", "controls", "data", "mail",
+       {"host/rtl", "host/db", "host/vcl", "host/designintf", "core", "controls", "data", "mail",
         "services", "shell"}},
       {"demos",
        {"host/rtl", "host/net", "host/db", "host/vcl", "host/dbctrls", "core", "controls", "data",

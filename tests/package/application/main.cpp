@@ -1,6 +1,6 @@
 #include <iostream>
 
-#include "controls/qel.h"
+#include "qel.h"
 #include "host/vcl/vcl.h"
 
 class TMainForm : public vcl::TForm {

@@ -1,0 +1,45 @@
+#include "design/Qeldataeditors.h"
+
+#include "data/Qeltdbascii.h"
+#include "host/db/dataset.h"
+#include "host/db/datasource.h"
+
+namespace qel {
+namespace {
+
+/// Those of the open data set, else those that it is going to have.
+void AddFieldNames(const vcl::TDataSet& data, vcl::TStrings& list) {
+  if (data.FieldCount() > 0) {
+    for (int i = 0; i < data.FieldCount(); ++i) list.Add(data.Fields()[i]->FieldName());
+    return;
+  }
+  const vcl::TFieldDefs& definitions = *data.FieldDefs();
+  for (int i = 0; i < definitions.Count(); ++i) list.Add(definitions.Items(i)->Name());
+}
+
+}  // namespace
+
+void TQELDBStringProperty::GetValues(const std::function<void(const std::string&)>& each) const {
+  vcl::TStringList list;
+  GetValueList(list);
+  for (int i = 0; i < list.Count(); ++i) each(list.Strings(i));
+}
+
+void TQELDataFieldProperty::GetValueList(vcl::TStrings& list) const {
+  const vcl::TObject* const holder = Holder();
+  const vcl::TPropInfo* const property =
+      holder ? holder->ClassType().FindPublished(GetDataSourcePropName()) : nullptr;
+  if (!property || property->Kind() != vcl::TTypeKind::Component) return;
+  const auto* source =
+      dynamic_cast<const vcl::TDataSource*>(std::get<vcl::TObject*>(property->Get(*holder)));
+  if (source && source->DataSet()) AddFieldNames(*source->DataSet(), list);
+}
+
+const vcl::TObject* TQELDataFieldProperty::Holder() const { return Edited().front().Object; }
+
+const vcl::TObject* TQELItemDataFieldProperty::Holder() const {
+  const auto* field = dynamic_cast<const TQELADField*>(Edited().front().Object);
+  return field ? field->Owner() : nullptr;
+}
+
+}  // namespace qel

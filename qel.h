@@ -1,0 +1,21 @@
+// Every component of the package in one include.
+#pragma once
+
+#include "controls/Qeltbackground.h"
+#include "controls/Qeltbutton.h"
+#include "controls/Qeltgauge.h"
+#include "controls/Qelthint.h"
+#include "controls/Qeltlabel.h"
+#include "controls/Qeltspinedit.h"
+#include "core/Qelclasses2.h"
+#include "core/Qelfunctions.h"
+#include "core/Qeltstoredata.h"
+#include "data/Qeltdbascii.h"
+#include "mail/Qeltiemails.h"
+#include "mail/Qeltmapimail.h"
+#include "mail/Qeltquickmail.h"
+#include "services/Qeltformsaver.h"
+#include "services/Qeltmrumenu.h"
+#include "services/Qeltonlyone.h"
+#include "services/Qeltsystemtray.h"
+#include "shell/Qeltexplorertree.h"
