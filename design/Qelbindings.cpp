@@ -10,6 +10,7 @@
 #include "design/Qelpropertyeditors.h"
 #include "host/vcl/control.h"
 #include "mail/Qeltiemails.h"
+#include "mail/Qeltmapimail.h"
 
 namespace qel {
 namespace {
@@ -22,6 +23,9 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELAttachmentProperty), "TQELAttachments", &TQELMessage::Class(), "Attachments"},
       {QEL_EDITOR(TQELInetProperty), "TQELMessages", &TQELSMTPMail::Class(), "Messages"},
       {QEL_EDITOR(TQELInetProperty), "TQELMessages", &TQELPOPMail::Class(), "Messages"},
+      {QEL_EDITOR(TQELMapiAttachmentProperty), "TQELMapiAttachments", &TQELMapiMessage::Class(),
+       "Attachments"},
+      {QEL_EDITOR(TQELMapiProperty), "TQELMapiMessages", &TQELMapiMail::Class(), "Messages"},
       {QEL_EDITOR(TQELColorInBetweenProperty), "TStrings", &TQELGradient::Class(),
        "ColorsInBetween"},
       {QEL_EDITOR(TQELItemDataFieldProperty), "string", &vcl::TCollectionItem::Class(),
@@ -49,9 +53,9 @@ void RegisterEditors() {
   }
   vcl::RegisterComponentEditor(TQELExecComponent::Class(),
                                vcl::ComponentEditorClass<TQELDialogEditor>("TQELDialogEditor"));
-  vcl::RegisterComponentEditor(
-      TQELMailHost::Class(),
-      vcl::ComponentEditorClass<TQELMailConfigEditor>("TQELMailConfigEditor"));
+  const auto mailConfig = vcl::ComponentEditorClass<TQELMailConfigEditor>("TQELMailConfigEditor");
+  vcl::RegisterComponentEditor(TQELMailHost::Class(), mailConfig);
+  vcl::RegisterComponentEditor(TQELMapiMail::Class(), mailConfig);
 }
 
 }  // namespace qel

@@ -3,22 +3,37 @@
 #include "design/itemsform.h"
 #include "host/vcl/dialogs.h"
 #include "mail/Qeltiemails.h"
+#include "mail/Qeltmapimail.h"
 
 namespace qel {
 namespace {
 
-/// A file is attached under its full name: the program's current folder may be any.
-vcl::TCollectionItem* NewAttachment(TQELAttachments& attachments) {
+/// Has the user choose a file; empty when none was chosen.
+std::string ChosenFile() {
   vcl::TOpenDialog dialog(nullptr);
   dialog.SetFilter("All Files (*.*)|*.*|");
   dialog.SetOptions({vcl::ofHideReadOnly, vcl::ofNoChangeDir, vcl::ofFileMustExist});
-  if (!dialog.Execute()) return nullptr;
-  TQELAttachment* attachment = attachments.Add(dialog.FileName());
-  attachment->SetFileName(dialog.FileName());
+  return dialog.Execute() ? dialog.FileName() : std::string();
+}
+
+/// A file is attached under its full name: the program's current folder may be any.
+vcl::TCollectionItem* NewAttachment(TQELAttachments& attachments) {
+  const std::string fileName = ChosenFile();
+  if (fileName.empty()) return nullptr;
+  TQELAttachment* attachment = attachments.Add(fileName);
+  attachment->SetFileName(fileName);
   return attachment;
 }
 
-vcl::TCollectionItem* NewMessage(TQELMessages& messages) { return messages.Add(); }
+vcl::TCollectionItem* NewMapiAttachment(TQELMapiAttachments& attachments) {
+  const std::string fileName = ChosenFile();
+  return fileName.empty() ? nullptr : attachments.Add(fileName);
+}
+
+template <class Messages>
+vcl::TCollectionItem* NewMessage(Messages& messages) {
+  return messages.Add();
+}
 
 }  // namespace
 
@@ -29,7 +44,17 @@ void TQELAttachmentProperty::Edit() {
 
 void TQELInetProperty::Edit() {
   auto* messages = dynamic_cast<TQELMessages*>(ObjectValue());
-  if (messages) EditItems(*this, *messages, "Subject", &NewMessage);
+  if (messages) EditItems(*this, *messages, "Subject", &NewMessage<TQELMessages>);
+}
+
+void TQELMapiAttachmentProperty::Edit() {
+  auto* attachments = dynamic_cast<TQELMapiAttachments*>(ObjectValue());
+  if (attachments) EditItems(*this, *attachments, "Filename", &NewMapiAttachment);
+}
+
+void TQELMapiProperty::Edit() {
+  auto* messages = dynamic_cast<TQELMapiMessages*>(ObjectValue());
+  if (messages) EditItems(*this, *messages, "Subject", &NewMessage<TQELMapiMessages>);
 }
 
 }  // namespace qel

@@ -25,4 +25,24 @@ class TQELInetProperty : public vcl::TClassProperty {
   void Edit() override;
 };
 
+/// The files that a mail of the system's mail program takes along.
+class TQELMapiAttachmentProperty : public vcl::TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  vcl::TPropertyAttributes GetAttributes() const override {
+    return {vcl::paDialog, vcl::paReadOnly};
+  }
+  void Edit() override;
+};
+
+/// The mails for the system's mail program.
+class TQELMapiProperty : public vcl::TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  vcl::TPropertyAttributes GetAttributes() const override {
+    return {vcl::paDialog, vcl::paReadOnly};
+  }
+  void Edit() override;
+};
+
 }  // namespace qel

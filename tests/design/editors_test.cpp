@@ -11,6 +11,7 @@
 #include "host/rtl/classregistry.h"
 #include "host/vcl/vcl.h"
 #include "mail/Qeltiemails.h"
+#include "mail/Qeltmapimail.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plaindesigner.h"
 
@@ -41,6 +42,9 @@ TEST_F(Editors, AreRegisteredInTheirOrder) {
   EXPECT_THAT(lines, ElementsAre("TQELAttachmentProperty TQELAttachments TQELMessage.Attachments",
                                  "TQELInetProperty TQELMessages TQELSMTPMail.Messages",
                                  "TQELInetProperty TQELMessages TQELPOPMail.Messages",
+                                 "TQELMapiAttachmentProperty TQELMapiAttachments "
+                                 "TQELMapiMessage.Attachments",
+                                 "TQELMapiProperty TQELMapiMessages TQELMapiMail.Messages",
                                  "TQELColorInBetweenProperty TStrings TQELGradient.ColorsInBetween",
                                  "TQELItemDataFieldProperty string TCollectionItem.DataField",
                                  "TQELShowMeNowProperty string TComponent.DesignExecute",
@@ -50,9 +54,10 @@ TEST_F(Editors, AreRegisteredInTheirOrder) {
                                  "TQELDataFieldProperty string TComponent.DataUsername",
                                  "TQELDataFieldProperty string TComponent.Datapassword",
                                  "TQELINIFilenameProperty string TQELStoreData.Filename"));
-  ASSERT_EQ(RegisteredComponentEditors().size(), 2u);
+  ASSERT_EQ(RegisteredComponentEditors().size(), 3u);
   EXPECT_EQ(RegisteredComponentEditors()[0].Class, &TQELExecComponent::Class());
   EXPECT_EQ(RegisteredComponentEditors()[1].Class, &TQELMailHost::Class());
+  EXPECT_EQ(RegisteredComponentEditors()[2].Class, &TQELMapiMail::Class());
 }
 
 TEST_F(Editors, ReachThePropertiesOfDescendants) {

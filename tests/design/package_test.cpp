@@ -34,8 +34,10 @@ TEST(Package, PutsItsComponentsOnTheirPages) {
       {"QEL Controls/1", {"TQELBackground", "TQELLabel", "TQELButton", "TQELGauge", "TQELHint"}},
       {"QEL Controls/2", {"TQELSpinEdit"}},
       {"QEL DBControls", {"TQELDBAscii"}},
-      {"QEL System/1", {"TQELStoreData", "TQELQuickMail", "TQELSystemTray", "TQELFormSaver", "TQELMRUMenu"}},
-      {"QEL System/2", {"TQELOnlyOne", "TQELTimer32", "TQELPOPMail", "TQELSMTPMail", "TQELMapiMail"}},
+      {"QEL System/1",
+       {"TQELStoreData", "TQELQuickMail", "TQELSystemTray", "TQELFormSaver", "TQELMRUMenu"}},
+      {"QEL System/2",
+       {"TQELOnlyOne", "TQELTimer32", "TQELPOPMail", "TQELSMTPMail", "TQELMapiMail"}},
       {"QEL Files", {"TQELExplorerTree"}},
   };
   ASSERT_EQ(pages.size(), std::size(expected));
