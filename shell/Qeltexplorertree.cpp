@@ -111,6 +111,7 @@ void TQELExplorerTree::SetDirectory(const std::string& name) {
   if (path.empty()) throw vcl::EInOutError("Invalid Directory Name");
   if (Loading() || Designing()) {
     FDirectory = path;
+    FDirectoryGiven = true;
     return;
   }
   if (!OnFindDirectory && !folders::Exists(path)) {
@@ -121,6 +122,7 @@ void TQELExplorerTree::SetDirectory(const std::string& name) {
         vcl::Concat("Folder '", path, "' is on a remote drive, and Network is off"));
   }
   GoTo(path);
+  FDirectoryGiven = true;
 }
 
 bool TQELExplorerTree::Allowed(const std::string& path) const {

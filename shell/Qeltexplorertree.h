@@ -146,12 +146,13 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
   void GoToNearest(std::string path);
   void MoveFolder(TQELExplorerNode* node, const std::string& folder);
   static TQELExplorerNode* First(const vcl::TTreeNodes& nodes, const TQELExplorerNode* parent);
-  bool IsStored() const { return !FDirectory.empty(); }
+  bool IsStored() const { return FDirectoryGiven; }
 
   std::string FDirectory;
   std::map<char, std::string> FRemembered;  // The last folder of each drive.
   bool FNetwork = true;
   bool FFastLoad = false;
+  bool FDirectoryGiven = false;  // By form file or program.
   bool FTopRead = false;
   bool FSearching = false;
   bool FPainting = false;

@@ -6074,6 +6074,88 @@ object GalleryForm: TGalleryForm
         end
       end
     end
+    object ExplorerPage: TTabSheet
+      Caption = 'Explorer'
+      object ExplorerCaption: TLabel
+        Left = 16
+        Top = 8
+        Width = 616
+        Height = 13
+        AutoSize = False
+        Caption = 'Folders. F2 renames, Del deletes, F5 reads anew'
+        Font.Charset = DEFAULT_CHARSET
+        Font.Color = clNavy
+        Font.Height = -11
+        Font.Name = 'Tahoma'
+        Font.Style = [fsBold]
+        ParentFont = False
+      end
+      object ExplorerDirectoryCaption: TLabel
+        Left = 452
+        Top = 156
+        Width = 180
+        Height = 13
+        AutoSize = False
+        Caption = 'Directory'
+      end
+      object SampleExplorer: TQELExplorerTree
+        Left = 16
+        Top = 30
+        Width = 420
+        Height = 380
+        HideSelection = False
+        Indent = 19
+        TabOrder = 0
+      end
+      object ExplorerNetworkCheck: TCheckBox
+        Left = 452
+        Top = 30
+        Width = 180
+        Height = 17
+        Caption = 'Network'
+        TabOrder = 1
+      end
+      object ExplorerFastLoadCheck: TCheckBox
+        Left = 452
+        Top = 54
+        Width = 180
+        Height = 17
+        Caption = 'FastLoad'
+        TabOrder = 2
+      end
+      object ExplorerReadOnlyCheck: TCheckBox
+        Left = 452
+        Top = 78
+        Width = 180
+        Height = 17
+        Caption = 'ReadOnly'
+        TabOrder = 3
+      end
+      object ExplorerLinesCheck: TCheckBox
+        Left = 452
+        Top = 102
+        Width = 180
+        Height = 17
+        Caption = 'ShowLines'
+        TabOrder = 4
+      end
+      object ExplorerButtonsCheck: TCheckBox
+        Left = 452
+        Top = 126
+        Width = 180
+        Height = 17
+        Caption = 'ShowButtons'
+        TabOrder = 5
+      end
+      object ExplorerDirectoryEdit: TEdit
+        Left = 452
+        Top = 172
+        Width = 180
+        Height = 20
+        TabOrder = 6
+        Text = ''
+      end
+    end
     object HintsPage: TTabSheet
       Caption = 'Hints'
       object HintSidesHeading: TLabel

@@ -31,6 +31,7 @@ const TClass& TGalleryForm::Class() {
                              Field<&T::LiveTimer>("LiveTimer"),
                              Field<&T::SampleSpin>("SampleSpin"),
                              Field<&T::SpinGauge>("SpinGauge"),
+                             Field<&T::SampleExplorer>("SampleExplorer"),
                              Field<&T::HintsPage>("HintsPage"),
                              Field<&T::BubbleHint>("BubbleHint"),
                              Field<&T::HintStageField>("HintStageField"),
@@ -72,6 +73,7 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   SetUpBackgrounds();
   SetUpGauges();
   SetUpSpinEdits();
+  SetUpExplorer();
   SetUpHints();
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
 }

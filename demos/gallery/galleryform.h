@@ -19,6 +19,7 @@
 #include "host/vcl/forms.h"
 #include "host/vcl/menus.h"
 #include "host/vcl/stdctrls.h"
+#include "shell/Qeltexplorertree.h"
 
 namespace gallery {
 
@@ -56,6 +57,7 @@ class TGalleryForm : public vcl::TForm {
   qel::TQELTimer32* LiveTimer = nullptr;
   qel::TQELSpinEdit* SampleSpin = nullptr;
   qel::TQELGauge* SpinGauge = nullptr;
+  qel::TQELExplorerTree* SampleExplorer = nullptr;
   qel::TQELHint* BubbleHint = nullptr;
   qel::TQELLabel* HintStageField = nullptr;
 
@@ -105,6 +107,7 @@ class TGalleryForm : public vcl::TForm {
 
   // The page of spin edits.
   void SetUpSpinEdits();
+  void SetUpExplorer();
   void SampleSpinChange(vcl::TObject* sender);
 
   // The page of hints.

@@ -14,6 +14,7 @@
 #include "host/rtl/streams.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/registration.h"
+#include "shell/Qeltexplorertree.h"
 
 namespace gallery_test {
 namespace {
@@ -41,9 +42,10 @@ std::string ReadAndWrite(const std::string& text) {
 
 TEST(GalleryFormFile, IsTheSameWhenItIsWrittenBack) {
   RegisterHostClasses();
-  RegisterClasses({&qel::TQELBackground::Class(), &qel::TQELButton::Class(),
-                   &qel::TQELLabel::Class(), &qel::TQELGauge::Class(), &qel::TQELHint::Class(),
-                   &qel::TQELSpinEdit::Class(), &qel::TQELTimer32::Class()});
+  RegisterClasses({&qel::TQELExplorerTree::Class(), &qel::TQELBackground::Class(),
+                   &qel::TQELButton::Class(), &qel::TQELLabel::Class(), &qel::TQELGauge::Class(),
+                   &qel::TQELHint::Class(), &qel::TQELSpinEdit::Class(),
+                   &qel::TQELTimer32::Class()});
   TResourceStream file(nullptr, "TGALLERYFORM", MAKEINTRESOURCEA(10));
   std::string text = TextOf(file);
   std::erase(text, '\r');

@@ -68,8 +68,8 @@ class Screenshots : public ::testing::Test {
 
 TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
   ASSERT_EQ(Result.Code, 0u) << Result.Errors;
-  const char* names[] = {"buttons.png", "labels.png",     "backgrounds.png",
-                         "gauges.png",  "spin-edits.png", "hints.png"};
+  const char* names[] = {"buttons.png",    "labels.png",   "backgrounds.png", "gauges.png",
+                         "spin-edits.png", "explorer.png", "hints.png"};
   ASSERT_EQ(Files.size(), std::size(names));
   for (std::size_t i = 0; i < std::size(names); ++i) {
     EXPECT_EQ(std::filesystem::path(Files[i]).filename().string(), names[i]);
@@ -82,7 +82,7 @@ TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
 }
 
 TEST_F(Screenshots, ShowEachPage) {
-  ASSERT_EQ(Files.size(), 6u);
+  ASSERT_EQ(Files.size(), 7u);
   gallery::TGalleryForm form(nullptr);
   form.Show();
   const TPicture buttons(Files[0]), labels(Files[1]), backgrounds(Files[2]);
@@ -118,12 +118,12 @@ TEST_F(Screenshots, ShowEachPage) {
 }
 
 TEST_F(Screenshots, ShowAHintOnItsBackgroundAboveTheMouse) {
-  ASSERT_EQ(Files.size(), 6u);
+  ASSERT_EQ(Files.size(), 7u);
   gallery::TGalleryForm form(nullptr);
   form.Show();
-  const vcl::TRect stage = Place(form, 5, "HintStageField");
+  const vcl::TRect stage = Place(form, 6, "HintStageField");
   const vcl::TPoint mouse{(stage.Left + stage.Right) / 2, stage.Bottom - 30};
-  const TPicture hints(Files[5]);
+  const TPicture hints(Files[6]);
   const auto blueAt = [&](int x, int y) { return unsigned(hints.At(x, y)) >> 16 & 0xFF; };
   const auto redAt = [&](int x, int y) { return unsigned(hints.At(x, y)) & 0xFF; };
   // The bubble's lower left corner is yellow, the stage beside it white to blue.

@@ -141,7 +141,7 @@ TEST_F(Gallery, TheHintOfASettingStandsBelow) {
 }
 
 TEST_F(Gallery, TheFieldsOfHintsGoToEachEdgeOfTheScreen) {
-  GoTo(5);
+  GoTo(6);
   const auto press = [&](const char* name) {
     Form.SetBounds(30, 30, Form.Width(), Form.Height());
     Click(Find(name));
