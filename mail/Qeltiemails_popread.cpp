@@ -115,7 +115,8 @@ void WriteText(std::string_view text, vcl::TStream& stream) {
 
 std::unique_ptr<TTextLines> LinesOf(std::string_view text) {
   auto lines = std::make_unique<TTextLines>();
-  lines->Reserve(text.size());
+  constexpr std::size_t usualLine = 60;  // Room that is not used costs nothing.
+  lines->Reserve(text.size(), text.size() / usualLine);
   lines->AddLines(text);
   return lines;
 }

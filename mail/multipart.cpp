@@ -22,6 +22,13 @@ std::string_view BehindLineWith(std::string_view text, const std::string& wanted
   return lines.Rest();
 }
 
+/// The line that begins there, without its end; empty where none begins.
+std::string_view LineAt(std::string_view text, std::size_t begin) {
+  constexpr std::string_view ends = "\r\n";
+  if (begin > 0 && ends.find(text[begin - 1]) == ends.npos) return {};
+  return text.substr(begin, text.find_first_of(ends, begin) - begin);
+}
+
 /// A name behind FILENAME= is taken to stand in quotes: without them it loses its first and its
 /// last character.
 std::string FileName(std::string_view behindKey) {
@@ -56,20 +63,22 @@ std::string ReadBoundary(const THeaderLines& lines) {
   return boundary;
 }
 
+// The boundary is looked for as a text: far faster than going through the lines of what lies
+// between.
 std::vector<std::string_view> SplitParts(std::string_view body, const std::string& boundary) {
   const std::string start = "--" + boundary, end = start + "--";
   const std::string_view text = BehindLineWith(body, start);
   std::vector<std::string_view> parts;
   std::size_t begin = 0;
-  std::string_view line;
-  for (TLineReader lines(text);;) {
-    const std::size_t here = lines.Position();
-    if (!lines.Next(line)) throw vcl::EStringListError("The mail ends before its last part does");
+  for (std::size_t here = 0; (here = text.find(start, here)) != text.npos; ++here) {
+    const std::string_view line = LineAt(text, here);
     if (line != start && line != end) continue;
     parts.push_back(text.substr(begin, here - begin));
     if (line == end) return parts;
-    begin = lines.Position();
+    here += line.size();
+    begin = std::min(text.size(), here + (text.substr(here).starts_with("\r\n") ? 2 : 1));
   }
+  throw vcl::EStringListError("The mail ends before its last part does");
 }
 
 THeader ReadHeader(std::string_view text) {
