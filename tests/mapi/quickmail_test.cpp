@@ -67,7 +67,7 @@ TEST(SystemsOwnLibrary, PassesTheMailOn) {
       "winemapi.dll", "ShellExecuteA",
       +[](HWND, LPCSTR, LPCSTR, LPCSTR parameters, LPCSTR, INT) WINAPI {
         passed.push_back(parameters);
-        return reinterpret_cast<HINSTANCE>(33);
+        return reinterpret_cast<HINSTANCE>(std::intptr_t{33});
       });
   mail.Messages()->Add()->SetSubject("To whom?");
   EXPECT_TRUE(mail.Execute());
