@@ -5,6 +5,7 @@
 #include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
 #include "host/vcl/windowtext.h"
+#include "ide/formunit.h"
 #include "ide/mainform.h"
 #include "ide/orderdialog.h"
 #include "ide/packagesdialog.h"
@@ -137,7 +138,15 @@ void TMainForm::AboutClick(TObject*) {
 }
 
 void TMainForm::WriteUnitClick(TObject*) {
-  Tell("Writing units is not there yet");
+  if (!Save()) return;
+  FDesigner->Try([this] {
+    const TFormDocument& document = FDesigner->Document();
+    const std::string& fileName = document.FileName();
+    for (const std::string& note : WriteUnitFiles(document.Root(), FDesigner->Handlers(), fileName)) {
+      Tell(note);
+    }
+    Tell(Concat("The unit of ", fileName, " is written"));
+  });
 }
 
 }  // namespace ide

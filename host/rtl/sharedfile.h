@@ -16,7 +16,7 @@ enum class TReading { Done, Missing, Refused };
 std::string SettingsFileName(const std::string& name);
 
 /// Reads the whole file. When it is refused, LastErrorText says why.
-TReading ReadWholeFile(const std::string& name, std::string& contents);
+VCL_API TReading ReadWholeFile(const std::string& name, std::string& contents);
 
 /// While it lives, no other program or thread has one for the same file.
 class TFileTurn {

@@ -1,0 +1,158 @@
+#include "ide/cppnames.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "host/rtl/text.h"
+
+namespace ide {
+
+using namespace vcl;
+
+namespace {
+
+/// The header of a class, or of all classes of a unit. The class comes before its unit.
+struct THeaderRow {
+  std::string_view Name, Header;
+};
+constexpr THeaderRow Headers[] = {
+    {"TDataSource", "host/db/datasource.h"},
+    {"TMemoryDataSet", "host/db/memorydataset.h"},
+    {"TOdbcQuery", "host/db/odbcquery.h"},
+    {"TDBEdit", "host/dbctrls/dbedit.h"},
+    {"TDBGrid", "host/dbctrls/dbgrid.h"},
+    {"buttons", "host/vcl/buttons.h"},
+    {"comctrls", "host/vcl/vcl.h"},
+    {"controls", "host/vcl/vcl.h"},
+    {"db", "host/db/fields.h"},
+    {"dialogs", "host/vcl/vcl.h"},
+    {"extctrls", "host/vcl/vcl.h"},
+    {"forms", "host/vcl/vcl.h"},
+    {"menus", "host/vcl/vcl.h"},
+    {"sockets", "host/net/sockets.h"},
+    {"stdctrls", "host/vcl/vcl.h"},
+    {"Qelclasses", "core/Qelclasses.h"},
+    {"Qelclasses2", "core/Qelclasses2.h"},
+    {"Qeltbackground", "controls/Qeltbackground.h"},
+    {"Qeltbutton", "controls/Qeltbutton.h"},
+    {"Qeltdbascii", "data/Qeltdbascii.h"},
+    {"Qeltexplorertree", "shell/Qeltexplorertree.h"},
+    {"Qeltformsaver", "services/Qeltformsaver.h"},
+    {"Qeltgauge", "controls/Qeltgauge.h"},
+    {"Qelthint", "controls/Qelthint.h"},
+    {"Qeltiemails", "mail/Qeltiemails.h"},
+    {"Qeltlabel", "controls/Qeltlabel.h"},
+    {"Qeltmapimail", "mail/Qeltmapimail.h"},
+    {"Qeltmrumenu", "services/Qeltmrumenu.h"},
+    {"Qeltonlyone", "services/Qeltonlyone.h"},
+    {"Qeltquickmail", "mail/Qeltquickmail.h"},
+    {"Qeltspinedit", "controls/Qeltspinedit.h"},
+    {"Qeltstoredata", "core/Qeltstoredata.h"},
+    {"Qeltsystemtray", "services/Qeltsystemtray.h"},
+};
+
+/// The parameters of the handlers of each event type, by the name that it is published under.
+struct TEventRow {
+  std::string_view Type, Parameters;
+};
+constexpr TEventRow Events[] = {
+    {"TCloseEvent", "vcl::TObject* sender, vcl::TCloseAction& action"},
+    {"TCloseQueryEvent", "vcl::TObject* sender, bool& canClose"},
+    {"TDataChangeEvent", "vcl::TObject* sender, vcl::TField* field"},
+    {"TDataSetErrorEvent",
+     "vcl::TDataSet* dataSet, const vcl::EDatabaseError& error, vcl::TDataAction& action"},
+    {"TDataSetNotifyEvent", "vcl::TDataSet* dataSet"},
+    {"TDragDropEvent", "vcl::TObject* sender, vcl::TObject* source, int x, int y"},
+    {"TDragOverEvent",
+     "vcl::TObject* sender, vcl::TObject* source, int x, int y, vcl::TDragState state, "
+     "bool& accept"},
+    {"TDrawItemEvent",
+     "vcl::TObject* sender, int index, const vcl::TRect& rect, vcl::TOwnerDrawState state"},
+    {"TEndDragEvent", "vcl::TObject* sender, vcl::TObject* target, int x, int y"},
+    {"TExceptionEvent", "vcl::TObject* sender, const std::exception& error"},
+    {"TFieldGetTextEvent", "vcl::TField* sender, std::string& text, bool displayText"},
+    {"TFieldNotifyEvent", "vcl::TField* sender"},
+    {"TFieldSetTextEvent", "vcl::TField* sender, const std::string& text"},
+    {"TKeyEvent", "vcl::TObject* sender, std::uint16_t& key, vcl::TShiftState shift"},
+    {"TKeyPressEvent", "vcl::TObject* sender, char32_t& key"},
+    {"TMessageEvent", "MSG& message, bool& handled"},
+    {"TMouseEvent",
+     "vcl::TObject* sender, vcl::TMouseButton button, vcl::TShiftState shift, int x, int y"},
+    {"TMouseMoveEvent", "vcl::TObject* sender, vcl::TShiftState shift, int x, int y"},
+    {"TNotifyEvent", "vcl::TObject* sender"},
+    {"TOnSelectHintDirection", "vcl::TControl* control, qel::TQELDirectionB& direction"},
+    {"TQELBeforeRetrieve", "vcl::TObject* sender, int message"},
+    {"TQELImportExportEvent", "vcl::TObject* sender, std::string line"},
+    {"TQELMRUItemClick", "vcl::TObject* sender, std::string fileName"},
+    {"TQELOnCodingProgress", "vcl::TObject* sender, std::uint16_t percent"},
+    {"TQELOnCodingStart", "vcl::TObject* sender, const std::string& fileName, int size"},
+    {"TQELOnDelete", "vcl::TObject* sender, int message"},
+    {"TQELOnError", "vcl::TObject* sender, int code, const std::string& message"},
+    {"TQELOnExceeded", "vcl::TObject* sender, int instances"},
+    {"TQELOnStoreControl", "vcl::TObject* sender, bool& store"},
+    {"TQELSendingProgress", "vcl::TObject* sender, int percent"},
+    {"TShowHintEvent", "std::string& hint, bool& canShow, vcl::THintInfo& info"},
+    {"TSocketErrorEvent",
+     "vcl::TObject* sender, vcl::TCustomWinSocket* socket, vcl::TErrorEvent event, int& code"},
+    {"TSocketNotifyEvent", "vcl::TObject* sender, vcl::TCustomWinSocket* socket"},
+    {"TStartDragEvent", "vcl::TObject* sender, vcl::TDragObject*& dragObject"},
+    {"TTabChangingEvent", "vcl::TObject* sender, bool& allow"},
+    {"TTVChangedEvent", "vcl::TObject* sender, vcl::TTreeNode* node"},
+    {"TTVChangingEvent", "vcl::TObject* sender, vcl::TTreeNode* node, bool& allow"},
+    {"TTVCollapsingEvent", "vcl::TObject* sender, vcl::TTreeNode* node, bool& allow"},
+    {"TTVCompareEvent",
+     "vcl::TObject* sender, vcl::TTreeNode* first, vcl::TTreeNode* second, int data, "
+     "int& order"},
+    {"TTVEditedEvent", "vcl::TObject* sender, vcl::TTreeNode* node, std::string& text"},
+    {"TTVEditingEvent", "vcl::TObject* sender, vcl::TTreeNode* node, bool& allow"},
+    {"TTVExpandedEvent", "vcl::TObject* sender, vcl::TTreeNode* node"},
+    {"TTVExpandingEvent", "vcl::TObject* sender, vcl::TTreeNode* node, bool& allow"},
+};
+
+constexpr std::string_view Keywords[] = {
+    "alignas",      "alignof",     "and",           "and_eq",       "asm",
+    "auto",         "bitand",      "bitor",         "bool",         "break",
+    "case",         "catch",       "char",          "char16_t",     "char32_t",
+    "char8_t",      "class",       "co_await",      "co_return",    "co_yield",
+    "compl",        "concept",     "const",         "const_cast",   "consteval",
+    "constexpr",    "constinit",   "continue",      "decltype",     "default",
+    "delete",       "do",          "double",        "dynamic_cast", "else",
+    "enum",         "explicit",    "export",        "extern",       "false",
+    "float",        "for",         "friend",        "goto",         "if",
+    "inline",       "int",         "long",          "mutable",      "namespace",
+    "new",          "noexcept",    "not",           "not_eq",       "nullptr",
+    "operator",     "or",          "or_eq",         "private",      "protected",
+    "public",       "register",    "reinterpret_cast", "requires",  "return",
+    "short",        "signed",      "sizeof",        "static",       "static_assert",
+    "static_cast",  "struct",      "switch",        "template",     "this",
+    "thread_local", "throw",       "true",          "try",          "typedef",
+    "typeid",       "typename",    "union",         "unsigned",     "using",
+    "virtual",      "void",        "volatile",      "wchar_t",      "while",
+    "xor",          "xor_eq",
+};
+
+std::string_view HeaderOf(std::string_view name) {
+  const auto* found = std::ranges::find(Headers, name, &THeaderRow::Name);
+  return found == std::end(Headers) ? std::string_view() : found->Header;
+}
+
+}  // namespace
+
+TCppClass CppClassOf(const TClass& type) {
+  std::string_view header = HeaderOf(type.Name());
+  if (header.empty()) header = HeaderOf(type.Unit());
+  if (header.empty()) return {};
+  return {Concat(header.starts_with("host/") ? "vcl::" : "qel::", type.Name()),
+          std::string(header)};
+}
+
+std::string_view ParametersOf(std::string_view eventType) {
+  const auto* found = std::ranges::find(Events, eventType, &TEventRow::Type);
+  return found == std::end(Events) ? std::string_view() : found->Parameters;
+}
+
+bool IsCppKeyword(std::string_view name) {
+  return std::ranges::find(Keywords, name) != std::end(Keywords);
+}
+
+}  // namespace ide

@@ -1,0 +1,96 @@
+#include "ide/formunit.h"
+
+#include "host/rtl/exceptions.h"
+#include "host/rtl/keptdata.h"
+#include "host/rtl/os.h"
+#include "host/rtl/sharedfile.h"
+#include "host/rtl/text.h"
+#include "ide/cppnames.h"
+#include "ide/cpptext.h"
+#include "ide/standins.h"
+
+namespace ide {
+
+using namespace vcl;
+
+namespace {
+
+/// False when the component, or what is inside it, was not understood.
+bool IsKnown(const TComponent& component) {
+  const TKeptData* kept = component.Kept();
+  return !IsStandIn(component) && (!kept || (kept->Properties.empty() && kept->Children.empty()));
+}
+
+void AddField(TComponent& component, TUnitForm& form, std::vector<std::string>& notes) {
+  const TCppClass type = CppClassOf(component.ClassType());
+  if (type.Name.empty()) {
+    notes.push_back(Concat(component.Name(), " is of the class ", component.ClassName(),
+                           ", whose header is not known; declare it by hand"));
+    form.Incomplete = true;
+    return;
+  }
+  TUnitField field{component.Name(), {type.Name}, type.Header};
+  for (const TClass* each = component.ClassType().Parent(); each; each = each->Parent()) {
+    field.Classes.push_back(each->Name());
+  }
+  form.Fields.push_back(std::move(field));
+}
+
+std::string ReadPresent(const std::string& fileName) {
+  std::string contents;
+  if (os::ReadWholeFile(fileName, contents) != os::TReading::Refused) return contents;
+  throw EInOutError(Concat("The file ", fileName, " cannot be read: ", os::LastErrorText()));
+}
+
+void Replace(const std::string& fileName, const std::string& before, const std::string& contents) {
+  if (before == contents || os::ReplaceWholeFile(fileName, contents)) return;
+  throw EInOutError(Concat("The file ", fileName, " cannot be saved: ", os::LastErrorText()));
+}
+
+}  // namespace
+
+TUnitForm UnitFormOf(TComponent& root, const THandlers& handlers, const std::string& unitName,
+                     std::vector<std::string>& notes) {
+  TUnitForm form;
+  form.ClassName = root.FileClassName();
+  form.UnitName = unitName;
+  form.Incomplete = !IsKnown(root);
+  for (int i = 0; i < root.ComponentCount(); ++i) {
+    TComponent& component = *root.Components(i);
+    if (!IsKnown(component)) form.Incomplete = true;
+    if (component.Name().empty() || IsStandIn(component)) continue;
+    if (root.ClassType().FindPublished(component.Name())) {
+      throw EUnitError(Concat("The component ", component.Name(),
+                              " would hide the form's property of that name"));
+    }
+    AddField(component, form, notes);
+  }
+  if (form.Incomplete) {
+    notes.push_back("The form holds what the designer doesn't know; nothing is removed");
+  }
+  for (const auto& [name, event] : handlers.All(root)) {
+    const std::string type(event->TypeName());
+    form.Handlers.push_back({name, type, std::string(ParametersOf(type))});
+  }
+  return form;
+}
+
+std::vector<std::string> WriteUnitFiles(TComponent& root, const THandlers& handlers,
+                                        const std::string& formFile) {
+  const std::size_t name = formFile.find_last_of("/\\") + 1;  // npos + 1 is 0.
+  const std::size_t dot = formFile.rfind('.');
+  const std::string stem =
+      dot == std::string::npos || dot < name ? formFile : formFile.substr(0, dot);
+  const std::string headerFile = stem + ".h", sourceFile = stem + ".cpp";
+  std::vector<std::string> notes;
+  const TUnitForm form = UnitFormOf(root, handlers, stem.substr(name), notes);
+  const std::string header = ReadPresent(headerFile), source = ReadPresent(sourceFile);
+  TUnitTexts texts = WriteUnit(form, header, source);
+  // The header last: a source alone, as a broken attempt leaves it, can be brought up to date.
+  Replace(sourceFile, source, texts.Source);
+  Replace(headerFile, header, texts.Header);
+  notes.insert(notes.end(), texts.Notes.begin(), texts.Notes.end());
+  return notes;
+}
+
+}  // namespace ide
