@@ -3,6 +3,7 @@
 //     designer [--settings INI] [--package DLL]... [FILE]
 //     designer --screenshot FOLDER ...    saves a picture of the window and ends
 //     designer --preview FILE ...         shows a form as it runs
+//     designer --unit FILE ...            writes the form's C++ unit and ends
 #include <cstdio>
 #include <exception>
 #include <string>
@@ -23,6 +24,7 @@ struct TOptions {
   TStart Start;
   std::string Screenshots;
   std::string Preview;
+  bool WriteUnit = false;
   bool Remove = false;
 };
 
@@ -46,6 +48,9 @@ bool Parse(int argc, char** argv, TOptions& options) {
       options.Start.SettingsFile = value;
     } else if (name == "--screenshot") {
       options.Screenshots = value;
+    } else if (name == "--unit") {
+      options.WriteUnit = true;
+      options.Start.FileName = value;
     } else if (name == "--preview") {
       options.Preview = value;
     } else {
@@ -61,10 +66,22 @@ int Preview(const TOptions& options) {
   return code;
 }
 
+int WriteUnit(TMainForm& form) {
+  const bool written = form.WriteUnit();
+  vcl::TStrings& messages = *form.MessageList().Items();
+  for (int i = 0; i < messages.Count(); ++i) std::printf("%s\n", messages.Strings(i).c_str());
+  return written ? 0 : 1;
+}
+
 int RunDesigner(const TOptions& options) {
   TPackages packages;
   auto* form = Application()->CreateForm<TMainForm>();
   form->Begin(options.Start, packages);
+  if (options.WriteUnit) {
+    const int code = WriteUnit(*form);
+    form->Free();
+    return code;
+  }
   if (options.Screenshots.empty()) return Application()->Run();
   std::printf("%s\n", SaveScreenshot(*form, options.Screenshots).c_str());
   form->Free();
@@ -75,7 +92,7 @@ int Run(int argc, char** argv) {
   TOptions options;
   if (!Parse(argc, argv, options)) {
     std::fprintf(stderr, "Usage: designer [--settings INI] [--package DLL]... "
-                         "[--screenshot FOLDER] [--preview] [FILE]\n");
+                         "[--screenshot FOLDER] [--preview | --unit] [FILE]\n");
     return 2;
   }
   Application()->Initialize();

@@ -41,6 +41,9 @@ class TMainForm : public vcl::TForm, private vcl::TEnvironment {
   /// Opens a form file in place of the present form. What is wrong with it is among the messages;
   /// false when it could not be opened.
   bool Open(const std::string& fileName);
+  /// Writes or updates the C++ unit beside the form file. What there is to know is among the
+  /// messages; false when it could not be written.
+  bool WriteUnit();
 
   TFormDesigner& FormDesigner() { return *FDesigner; }
   const TPackages& Packages() const { return *FPackages; }

@@ -138,15 +138,21 @@ void TMainForm::AboutClick(TObject*) {
 }
 
 void TMainForm::WriteUnitClick(TObject*) {
-  if (!Save()) return;
-  FDesigner->Try([this] {
+  if (Save()) WriteUnit();
+}
+
+bool TMainForm::WriteUnit() {
+  bool written = false;
+  FDesigner->Try([&] {
     const TFormDocument& document = FDesigner->Document();
     const std::string& fileName = document.FileName();
     for (const std::string& note : WriteUnitFiles(document.Root(), FDesigner->Handlers(), fileName)) {
       Tell(note);
     }
     Tell(Concat("The unit of ", fileName, " is written"));
+    written = true;
   });
+  return written;
 }
 
 }  // namespace ide

@@ -48,3 +48,4 @@ foreach(said "MainForm shows \"Made from a form file: Grüße\"" "The button say
     message(FATAL_ERROR "The application was to write\n${said}\nand wrote\n${output}")
   endif()
 endforeach()
+include(${CMAKE_CURRENT_LIST_DIR}/tutorial.cmake)
