@@ -1,5 +1,7 @@
 #include "tests/support/server.h"
 
+#include <algorithm>
+
 #ifdef _WIN32
 #include <winsock2.h>
 #include <ws2tcpip.h>
@@ -58,13 +60,15 @@ void TPeer::SayBytewise(const std::string& bytes) {
 }
 
 std::optional<std::string> TPeer::Hear() {
-  for (;;) {
-    if (const std::size_t end = FHeard.find("\r\n"); end != FHeard.npos) {
+  // Long lines come in many pieces: what has been searched is not searched again.
+  for (std::size_t searched = 0;;) {
+    if (const std::size_t end = FHeard.find("\r\n", searched); end != FHeard.npos) {
       const std::string line = FHeard.substr(0, end);
       FHeard.erase(0, end + 2);
       return line;
     }
-    char chunk[4096];
+    searched = FHeard.size() - std::min<std::size_t>(FHeard.size(), 1);
+    char chunk[65536];
     const auto size = recv(System(FSocket), chunk, sizeof chunk, 0);
     if (size <= 0) return {};
     FHeard.append(chunk, static_cast<std::size_t>(size));
