@@ -57,7 +57,8 @@ std::string ClipboardText() {
   if (!data) return {};
   // The block may be longer than its text, and need not end with a zero.
   const std::size_t most = ::GlobalSize(block) / sizeof(wchar_t);
-  std::string text = ToUtf8({data, static_cast<std::size_t>(std::find(data, data + most, L'\0') - data)});
+  std::string text =
+      ToUtf8({data, static_cast<std::size_t>(std::find(data, data + most, L'\0') - data)});
   ::GlobalUnlock(block);
   std::erase(text, '\r');
   return text;

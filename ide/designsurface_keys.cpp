@@ -16,8 +16,7 @@ struct TArrow {
   int X;
   int Y;
 };
-constexpr TArrow Arrows[] = {
-    {VK_LEFT, -1, 0}, {VK_RIGHT, 1, 0}, {VK_UP, 0, -1}, {VK_DOWN, 0, 1}};
+constexpr TArrow Arrows[] = {{VK_LEFT, -1, 0}, {VK_RIGHT, 1, 0}, {VK_UP, 0, -1}, {VK_DOWN, 0, 1}};
 
 }  // namespace
 
@@ -48,10 +47,9 @@ bool TDesignSurface::Arrow(WPARAM key) {
   const bool shift = IsDown(VK_SHIFT);
   const auto components = FSelection.Components();
   if (!ctrl && !shift) {
-    TComponent* next =
-        components.empty() || components.front() == FRoot
-            ? nullptr
-            : Neighbour(*components.front(), arrow->X, arrow->Y);
+    TComponent* next = components.empty() || components.front() == FRoot
+                           ? nullptr
+                           : Neighbour(*components.front(), arrow->X, arrow->Y);
     if (next) FSelection.Only(next);
     return true;
   }

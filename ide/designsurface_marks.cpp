@@ -20,11 +20,14 @@ struct TGrabber {
   int Y;
   LPCWSTR Pointer;
 };
-const TGrabber Grabbers[] = {
-    {-1, -1, reinterpret_cast<LPCWSTR>(IDC_SIZENWSE)}, {1, 1, reinterpret_cast<LPCWSTR>(IDC_SIZENWSE)},
-    {1, -1, reinterpret_cast<LPCWSTR>(IDC_SIZENESW)},  {-1, 1, reinterpret_cast<LPCWSTR>(IDC_SIZENESW)},
-    {0, -1, reinterpret_cast<LPCWSTR>(IDC_SIZENS)},    {0, 1, reinterpret_cast<LPCWSTR>(IDC_SIZENS)},
-    {-1, 0, reinterpret_cast<LPCWSTR>(IDC_SIZEWE)},    {1, 0, reinterpret_cast<LPCWSTR>(IDC_SIZEWE)}};
+const TGrabber Grabbers[] = {{-1, -1, reinterpret_cast<LPCWSTR>(IDC_SIZENWSE)},
+                             {1, 1, reinterpret_cast<LPCWSTR>(IDC_SIZENWSE)},
+                             {1, -1, reinterpret_cast<LPCWSTR>(IDC_SIZENESW)},
+                             {-1, 1, reinterpret_cast<LPCWSTR>(IDC_SIZENESW)},
+                             {0, -1, reinterpret_cast<LPCWSTR>(IDC_SIZENS)},
+                             {0, 1, reinterpret_cast<LPCWSTR>(IDC_SIZENS)},
+                             {-1, 0, reinterpret_cast<LPCWSTR>(IDC_SIZEWE)},
+                             {1, 0, reinterpret_cast<LPCWSTR>(IDC_SIZEWE)}};
 constexpr std::size_t Corners = 4;
 
 /// Where the middle of a grabber is on a side from `low` to `high`.
@@ -75,9 +78,7 @@ BOOL CALLBACK Quiet(HWND window, LPARAM) {
 
 /// Windows inside a control that are not this library's, such as a combo box's edit, leave the
 /// mouse to the control.
-void TDesignSurface::QuietForeignWindows() const {
-  ::EnumChildWindows(FRoot->Handle(), &Quiet, 0);
-}
+void TDesignSurface::QuietForeignWindows() const { ::EnumChildWindows(FRoot->Handle(), &Quiet, 0); }
 
 TOverlay& TDesignSurface::GrabberIn(HWND window, std::size_t index, TGrab grab, bool several) {
   if (index >= FMarks.size()) FMarks.resize(index + 1);
@@ -93,10 +94,10 @@ TOverlay& TDesignSurface::GrabberIn(HWND window, std::size_t index, TGrab grab, 
   };
   const auto* pointer = std::ranges::find_if(
       Grabbers, [grab](const TGrabber& each) { return each.X == grab.X && each.Y == grab.Y; });
-  mark = {std::make_unique<TOverlay>(window, paint, mouse,
-                                     several ? reinterpret_cast<LPCWSTR>(IDC_ARROW)
-                                             : pointer->Pointer),
-          grab, several};
+  mark = {
+      std::make_unique<TOverlay>(window, paint, mouse,
+                                 several ? reinterpret_cast<LPCWSTR>(IDC_ARROW) : pointer->Pointer),
+      grab, several};
   return *mark.Window;
 }
 
@@ -150,8 +151,8 @@ void TDesignSurface::PlaceIcon(TIcon& icon) {
   const TRect bounds = BoundsOf(component);
   const int width = CaptionWidth(component.Name());
   icon.Picture->Place(bounds);
-  icon.Caption->Place(Bounds((bounds.Left + bounds.Right - width) / 2, bounds.Bottom + 1, width,
-                             height));
+  icon.Caption->Place(
+      Bounds((bounds.Left + bounds.Right - width) / 2, bounds.Bottom + 1, width, height));
   const bool selected = FSelection.Contains(&component);
   if (icon.Text == component.Name() && icon.Selected == selected) return;
   icon.Text = component.Name();
@@ -181,8 +182,8 @@ void TDesignSurface::ShowBand(const TRect& band) {
     FillWith(canvas, inside, clGray, clGray);
   };
   while (FBandSides.size() < 4) {
-    FBandSides.push_back(std::make_unique<TOverlay>(window, paint, nullptr,
-                                                    reinterpret_cast<LPCWSTR>(IDC_ARROW)));
+    FBandSides.push_back(
+        std::make_unique<TOverlay>(window, paint, nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW)));
   }
   const int width = std::max(band.Width(), 1);
   const int height = std::max(band.Height(), 1);

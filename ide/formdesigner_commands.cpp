@@ -23,9 +23,8 @@ void TFormDesigner::Drop(const TClass& aClass, TWinControl& container, const TRe
     auto* control = dynamic_cast<TControl*>(made.get());
     const TRect own = TDesignSurface::BoundsOf(*made);
     const bool sized = control && !place.Empty();
-    TDesignSurface::SetBoundsOf(*made, sized ? place
-                                             : Bounds(place.Left, place.Top, own.Width(),
-                                                      own.Height()));
+    TDesignSurface::SetBoundsOf(
+        *made, sized ? place : Bounds(place.Left, place.Top, own.Width(), own.Height()));
     made->SetParentComponent(&container);
     FSelection.Only(made.release());
     Modified();
@@ -118,7 +117,8 @@ void TFormDesigner::PlaceBeside(const std::vector<TComponent*>& pasted) const {
     const auto* control = dynamic_cast<TControl*>(each);
     const auto covers = [&](const TComponent* other) {
       return std::ranges::count(pasted, other) == 0 &&
-             TDesignSurface::BoundsOf(*other).TopLeft() == TDesignSurface::BoundsOf(*each).TopLeft();
+             TDesignSurface::BoundsOf(*other).TopLeft() ==
+                 TDesignSurface::BoundsOf(*each).TopLeft();
     };
     TWinControl& around = control ? *control->Parent() : FDocument.Root();
     while (std::ranges::any_of(FSurface.Inside(around), covers)) {

@@ -75,7 +75,8 @@ std::string TFormDocument::Text() const {
 }
 
 void TFormDocument::New(const std::string& formName) {
-  constexpr const char* place = "  Left = 40\n  Top = 30\n  ClientHeight = 300\n  ClientWidth = 420\n";
+  constexpr const char* place =
+      "  Left = 40\n  Top = 30\n  ClientHeight = 300\n  ClientWidth = 420\n";
   Show(Read(Concat("object ", formName, ": T", formName, "\n  Caption = ", "'", formName, "'\n",
                    place, "end\n"),
             {}));

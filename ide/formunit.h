@@ -15,8 +15,8 @@ TUnitForm UnitFormOf(vcl::TComponent& root, const THandlers& handlers, const std
                      std::vector<std::string>& notes);
 
 /// Writes or updates NAME.h and NAME.cpp beside the form file NAME.dfm; returns what the programmer
-/// should know. Raises EUnitError (see WriteUnit) and EInOutError. A unit that is as it should be is
-/// not written; each file is replaced whole.
+/// should know. Raises EUnitError (see WriteUnit) and EInOutError. A unit that is as it should be
+/// is not written; each file is replaced whole.
 std::vector<std::string> WriteUnitFiles(vcl::TComponent& root, const THandlers& handlers,
                                         const std::string& formFile);
 

@@ -32,7 +32,8 @@ void EachEvent(TObject& object, const TEach& each) {
     }
   }
   auto* collection = dynamic_cast<TCollection*>(&object);
-  for (int i = 0; collection && i < collection->Count(); ++i) EachEvent(*collection->Items(i), each);
+  for (int i = 0; collection && i < collection->Count(); ++i)
+    EachEvent(*collection->Items(i), each);
 }
 
 void EachEventOfForm(TComponent& root, const TEach& each) {
@@ -59,8 +60,8 @@ void THandlers::Rename(TComponent& root, const std::string& name, const std::str
   EachEventOfForm(root, [&](const TPropInfo&, TEventBase& event) {
     if (SameText(event.HandlerName(), name)) event.SetHandlerName(newName);
   });
-  const auto added = std::ranges::find_if(
-      FAdded, [&](const auto& each) { return SameText(each.first, name); });
+  const auto added =
+      std::ranges::find_if(FAdded, [&](const auto& each) { return SameText(each.first, name); });
   if (added == FAdded.end()) return;
   const TPropInfo* event = added->second;
   FAdded.erase(added);

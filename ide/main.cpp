@@ -91,8 +91,9 @@ int RunDesigner(const TOptions& options) {
 int Run(int argc, char** argv) {
   TOptions options;
   if (!Parse(argc, argv, options)) {
-    std::fprintf(stderr, "Usage: designer [--settings INI] [--package DLL]... "
-                         "[--screenshot FOLDER] [--preview | --unit] [FILE]\n");
+    std::fprintf(stderr,
+                 "Usage: designer [--settings INI] [--package DLL]... "
+                 "[--screenshot FOLDER] [--preview | --unit] [FILE]\n");
     return 2;
   }
   Application()->Initialize();

@@ -15,46 +15,47 @@ using namespace vcl;
 
 const TClass& TMainForm::Class() {
   using T = TMainForm;
-  static const TClass info = Describe<T, TForm>(
-      "TMainForm", "mainform",
-      {
-          Field<&T::PalettePanel>("PalettePanel"),
-          Field<&T::SidePanel>("SidePanel"),
-          Field<&T::Messages>("Messages"),
-          Field<&T::StatusBar>("StatusBar"),
-          Field<&T::MainMenuBar>("MainMenuBar"),
-          Field<&T::RecentItem>("RecentItem"),
-          Field<&T::UndoItem>("UndoItem"),
-          Field<&T::RedoItem>("RedoItem"),
-          Field<&T::LockItem>("LockItem"),
-          Field<&T::GridItem>("GridItem"),
-          Field<&T::SnapItem>("SnapItem"),
-          Field<&T::OpenDialog>("OpenDialog"),
-          Field<&T::SaveDialog>("SaveDialog"),
-          Field<&T::AutosaveTimer>("AutosaveTimer"),
-          Field<&T::DesignMenu>("DesignMenu"),
-          Method<&T::FormShow>("FormShow"),
-          Method<&T::FormCloseQuery>("FormCloseQuery"),
-          Method<&T::MenuClick>("MenuClick"),
-          Method<&T::AutosaveTimerTick>("AutosaveTimerTick"),
-          Method<&T::NewClick>("NewClick"),
-          Method<&T::OpenClick>("OpenClick"),
-          Method<&T::SaveClick>("SaveClick"),
-          Method<&T::SaveAsClick>("SaveAsClick"),
-          Method<&T::WriteUnitClick>("WriteUnitClick"),
-          Method<&T::ExitClick>("ExitClick"),
-          Method<&T::CommandClick>("CommandClick"),
-          Method<&T::TabOrderClick>("TabOrderClick"),
-          Method<&T::CreationClick>("CreationClick"),
-          Method<&T::ClearMessagesClick>("ClearMessagesClick"),
-          Method<&T::PackagesClick>("PackagesClick"),
-          Method<&T::PreviewClick>("PreviewClick"),
-          Method<&T::AboutClick>("AboutClick"),
-      });
+  static const TClass info =
+      Describe<T, TForm>("TMainForm", "mainform",
+                         {
+                             Field<&T::PalettePanel>("PalettePanel"),
+                             Field<&T::SidePanel>("SidePanel"),
+                             Field<&T::Messages>("Messages"),
+                             Field<&T::StatusBar>("StatusBar"),
+                             Field<&T::MainMenuBar>("MainMenuBar"),
+                             Field<&T::RecentItem>("RecentItem"),
+                             Field<&T::UndoItem>("UndoItem"),
+                             Field<&T::RedoItem>("RedoItem"),
+                             Field<&T::LockItem>("LockItem"),
+                             Field<&T::GridItem>("GridItem"),
+                             Field<&T::SnapItem>("SnapItem"),
+                             Field<&T::OpenDialog>("OpenDialog"),
+                             Field<&T::SaveDialog>("SaveDialog"),
+                             Field<&T::AutosaveTimer>("AutosaveTimer"),
+                             Field<&T::DesignMenu>("DesignMenu"),
+                             Method<&T::FormShow>("FormShow"),
+                             Method<&T::FormCloseQuery>("FormCloseQuery"),
+                             Method<&T::MenuClick>("MenuClick"),
+                             Method<&T::AutosaveTimerTick>("AutosaveTimerTick"),
+                             Method<&T::NewClick>("NewClick"),
+                             Method<&T::OpenClick>("OpenClick"),
+                             Method<&T::SaveClick>("SaveClick"),
+                             Method<&T::SaveAsClick>("SaveAsClick"),
+                             Method<&T::WriteUnitClick>("WriteUnitClick"),
+                             Method<&T::ExitClick>("ExitClick"),
+                             Method<&T::CommandClick>("CommandClick"),
+                             Method<&T::TabOrderClick>("TabOrderClick"),
+                             Method<&T::CreationClick>("CreationClick"),
+                             Method<&T::ClearMessagesClick>("ClearMessagesClick"),
+                             Method<&T::PackagesClick>("PackagesClick"),
+                             Method<&T::PreviewClick>("PreviewClick"),
+                             Method<&T::AboutClick>("AboutClick"),
+                         });
   return info;
 }
 
-TMainForm::TMainForm(TComponent* owner) : TForm(owner),
+TMainForm::TMainForm(TComponent* owner)
+    : TForm(owner),
       FWorkspace(new TWorkspace(this)),
       FInspector(new TObjectInspector(this)),
       FPalette(new TComponentPalette(this)),
@@ -74,9 +75,8 @@ TMainForm::TMainForm(TComponent* owner) : TForm(owner),
   FPalette->OnSelect = TNotifyEvent([this](TObject*) { TakeTool(); });
   FPalette->OnAdd = [this](const TClass& aClass) { FDesigner->Add(aClass); };
   MakeDesigner();
-  Application()->OnHint = TNotifyEvent([this](TObject*) {
-    StatusBar->Panels()->Items(2)->SetText(Application()->Hint());
-  });
+  Application()->OnHint = TNotifyEvent(
+      [this](TObject*) { StatusBar->Panels()->Items(2)->SetText(Application()->Hint()); });
   Application()->OnMessage = TMessageEvent(this, &TMainForm::ApplicationMessage);
 }
 
@@ -112,8 +112,8 @@ void TMainForm::MakeDesigner() {
 
 void TMainForm::Begin(const TStart& start, TPackages& packages) {
   FPackages = &packages;
-  FSettings = std::make_unique<TSettings>(
-      start.SettingsFile.empty() ? TSettings::DefaultFileName() : start.SettingsFile);
+  FSettings = std::make_unique<TSettings>(start.SettingsFile.empty() ? TSettings::DefaultFileName()
+                                                                     : start.SettingsFile);
   LoadPackages(start);
   ShowRecentFiles();
   if (start.FileName.empty() || !Open(start.FileName)) NewClick(this);
@@ -153,8 +153,7 @@ void TMainForm::FormChanged() {
   ShowTitle();
   const TForm& root = FDesigner->Document().Root();
   constexpr int margin = 40;
-  FWorkspace->SetExtent(
-      {root.Left() + root.Width() + margin, root.Top() + root.Height() + margin});
+  FWorkspace->SetExtent({root.Left() + root.Width() + margin, root.Top() + root.Height() + margin});
   FInspector->Refresh();
   FStructure->Refresh();
   FItems->Refresh();
@@ -246,20 +245,18 @@ bool TMainForm::DesignKey(WPARAM key) {
 void TMainForm::AddVerbs() {
   const auto components = FDesigner->Selected().Components();
   if (components.size() != 1 || IsStandIn(*components.front())) return;
-  std::shared_ptr<TComponentEditor> editor =
-      MakeComponentEditor(*FDesigner, *components.front());
+  std::shared_ptr<TComponentEditor> editor = MakeComponentEditor(*FDesigner, *components.front());
   for (int i = 0; i < editor->GetVerbCount(); ++i) {
     auto* item = new TMenuItem(DesignMenu);
     item->SetCaption(editor->GetVerb(i));
-    item->OnClick = TNotifyEvent([this, editor, i](TObject*) {
-      FDesigner->Try([&] { editor->ExecuteVerb(i); });
-    });
+    item->OnClick = TNotifyEvent(
+        [this, editor, i](TObject*) { FDesigner->Try([&] { editor->ExecuteVerb(i); }); });
     DesignMenu->Items()->Add(item);
   }
 }
 
 void TMainForm::ShowDesignMenu(TPoint screen) {
-  static constexpr const char* commands[] = {"CutItem",   "CopyItem", "PasteItem", "DeleteItem",
+  static constexpr const char* commands[] = {"CutItem",   "CopyItem", "PasteItem",   "DeleteItem",
                                              "FrontItem", "BackItem", "TabOrderItem"};
   DesignMenu->Items()->Clear();
   FDesigner->Try([this] { AddVerbs(); });

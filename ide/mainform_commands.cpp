@@ -70,9 +70,9 @@ struct TTextCommand {
   LPARAM LParam;
 };
 constexpr TTextCommand TextCommands[] = {
-    {"UndoItem", WM_UNDO, 0, 0},     {"CutItem", WM_CUT, 0, 0},
-    {"CopyItem", WM_COPY, 0, 0},     {"PasteItem", WM_PASTE, 0, 0},
-    {"DeleteItem", WM_CLEAR, 0, 0},  {"SelectAllItem", EM_SETSEL, 0, -1},
+    {"UndoItem", WM_UNDO, 0, 0},    {"CutItem", WM_CUT, 0, 0},
+    {"CopyItem", WM_COPY, 0, 0},    {"PasteItem", WM_PASTE, 0, 0},
+    {"DeleteItem", WM_CLEAR, 0, 0}, {"SelectAllItem", EM_SETSEL, 0, -1},
 };
 
 bool GoesToText(const std::string& item) {
@@ -146,7 +146,8 @@ bool TMainForm::WriteUnit() {
   FDesigner->Try([&] {
     const TFormDocument& document = FDesigner->Document();
     const std::string& fileName = document.FileName();
-    for (const std::string& note : WriteUnitFiles(document.Root(), FDesigner->Handlers(), fileName)) {
+    for (const std::string& note :
+         WriteUnitFiles(document.Root(), FDesigner->Handlers(), fileName)) {
       Tell(note);
     }
     Tell(Concat("The unit of ", fileName, " is written"));

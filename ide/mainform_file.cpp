@@ -23,10 +23,10 @@ bool TMainForm::Open(const std::string& fileName) {
   FDesigner->Try([&] {
     const bool saved =
         TFormDocument::HasAutosave(fileName) &&
-        Application()->MessageBox(
-            Concat(fileName, " was changed and not saved when the program ended. "
-                             "Shall the changes be brought back?"),
-            "Designer", MB_YESNO | MB_ICONQUESTION) == IDYES;
+        Application()->MessageBox(Concat(fileName,
+                                         " was changed and not saved when the program ended. "
+                                         "Shall the changes be brought back?"),
+                                  "Designer", MB_YESNO | MB_ICONQUESTION) == IDYES;
     saved ? document.LoadAutosaved(fileName) : document.Load(fileName);
     opened = true;
     Remember(fileName);
@@ -65,9 +65,9 @@ bool TMainForm::SaveIn(const std::string& fileName) {
 /// Asks what is to be done with changes; false when the user wants to go on with them.
 bool TMainForm::MayLoseChanges() {
   if (!FPackages || !FDesigner->Document().Modified()) return true;
-  const int answer =
-      Application()->MessageBox(Concat("Save the changes of ", FDesigner->Document().Root().Name(), "?"),
-                                "Designer", MB_YESNOCANCEL | MB_ICONQUESTION);
+  const int answer = Application()->MessageBox(
+      Concat("Save the changes of ", FDesigner->Document().Root().Name(), "?"), "Designer",
+      MB_YESNOCANCEL | MB_ICONQUESTION);
   if (answer == IDYES) return Save();
   if (answer == IDNO) FDesigner->Document().DiscardAutosave();
   return answer == IDNO;

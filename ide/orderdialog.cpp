@@ -76,7 +76,8 @@ std::vector<TComponent*> Ordered(const std::string& caption,
 bool EditTabOrder(TWinControl& container) {
   std::vector<TComponent*> controls;
   for (int i = 0; i < container.ControlCount(); ++i) {
-    if (dynamic_cast<TWinControl*>(container.Controls(i))) controls.push_back(container.Controls(i));
+    if (dynamic_cast<TWinControl*>(container.Controls(i)))
+      controls.push_back(container.Controls(i));
   }
   const auto tabOrder = [](const TComponent* each) {
     return dynamic_cast<const TWinControl&>(*each).TabOrder();

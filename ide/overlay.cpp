@@ -34,10 +34,9 @@ TOverlay::TOverlay(HWND parent, TPaint paint, TMouse mouse, LPCWSTR cursor)
       FMouse(std::move(mouse)),
       FCursor(::LoadCursorW(nullptr, cursor)) {
   RegisterOnce(&TOverlay::WndProc);
-  FHandle = CheckHandle(
-      ::CreateWindowExW(0, ClassName, L"", WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 1, 1, parent, nullptr,
-                        ::GetModuleHandleW(nullptr), nullptr),
-      "window");
+  FHandle = CheckHandle(::CreateWindowExW(0, ClassName, L"", WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 1, 1,
+                                          parent, nullptr, ::GetModuleHandleW(nullptr), nullptr),
+                        "window");
   ::SetWindowLongPtrW(FHandle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 

@@ -142,9 +142,8 @@ TTablePart FindTable(const TCppText& text, const std::string& className) {
     if (open) part.Open = open;
   }
   if (!part.Open) {
-    text.Refuse(text.Text().size(),
-                Concat("there is no table Describe<", className, ", …>(\"", className,
-                       "\", …, {…}) of the class"));
+    text.Refuse(text.Text().size(), Concat("there is no table Describe<", className, ", …>(\"",
+                                           className, "\", …, {…}) of the class"));
   }
   part.Close = text[part.Open].Mate;
   int angles = 0;

@@ -22,9 +22,9 @@ struct TClassMember {
 
 /// The class in its header.
 struct TClassPart {
-  std::size_t Open, Close;             // The braces' tokens.
-  std::vector<TClassMember> Members;   // Fields that are pointers, and methods.
-  std::size_t PrivateLabel = 0;        // The colon behind the first `private`; 0 when there is none.
+  std::size_t Open, Close;            // The braces' tokens.
+  std::vector<TClassMember> Members;  // Fields that are pointers, and methods.
+  std::size_t PrivateLabel = 0;       // The colon behind the first `private`; 0 when there is none.
 
   const TClassMember* Find(std::string_view name) const;
 };

@@ -78,7 +78,8 @@ class TUnitUpdate {
         FClass(FindClass(FHeader, form.ClassName)),
         FTable(FindTable(FSource, form.ClassName)) {
     if (HasClass(FSource, form.ClassName)) {
-      FSource.Refuse(0, Concat("the class ", form.ClassName, " is declared here and in the header"));
+      FSource.Refuse(0,
+                     Concat("the class ", form.ClassName, " is declared here and in the header"));
     }
   }
 

@@ -42,13 +42,13 @@ struct TUnitTexts {
 ///
 /// The class's published table says what the form had before: of the table, the fields and the
 /// declarations of handlers, those are added that the form has, and removed that it has no more;
-/// nothing else is touched. A new handler gets an empty body at the end of the source. The body of a
-/// handler that is gone stays, with its declaration, unless it is empty and nobody calls it.
-/// Everything keeps its place, its layout and its line breaks. A handler without parameters is of an
-/// event type that is not known; it is only told of.
+/// nothing else is touched. A new handler gets an empty body at the end of the source. The body of
+/// a handler that is gone stays, with its declaration, unless it is empty and nobody calls it.
+/// Everything keeps its place, its layout and its line breaks. A handler without parameters is of
+/// an event type that is not known; it is only told of.
 ///
-/// Raises EUnitError for texts that hold no such class or table, more than one, or no whole C++; for
-/// a source that is missing beside a header; and for names that C++ can't take.
+/// Raises EUnitError for texts that hold no such class or table, more than one, or no whole C++;
+/// for a source that is missing beside a header; and for names that C++ can't take.
 TUnitTexts WriteUnit(const TUnitForm& form, const std::string& header, const std::string& source);
 
 }  // namespace ide

@@ -11,8 +11,7 @@ using namespace vcl;
 
 const TClass& TWorkspace::Class() {
   static const TClass info = Describe<TWorkspace, TCustomControl>(
-      "TWorkspace", "workspace",
-      {Inherit("Align"), Inherit("TabOrder")});
+      "TWorkspace", "workspace", {Inherit("Align"), Inherit("TabOrder")});
   return info;
 }
 

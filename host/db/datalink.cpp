@@ -38,27 +38,21 @@ void TDataLink::UpdateState() {
   if (activeChanged) FFirst = 0;
   if (activeChanged) ActiveChanged();
   // A handler that frees the link does so by its control, which hears only of one change at a time.
-  else if (editingChanged) EditingChanged();
+  else if (editingChanged)
+    EditingChanged();
 }
 
 void TDataLink::DataEvent(TDataEvent event, TField* field, int distance) {
   if (!FActive) return;
   if (event != deUpdateRecord) KeepCurrentInside();
   switch (event) {
-    case deFieldChange:
-      return RecordChanged(field);
-    case deRecordChange:
-      return RecordChanged(nullptr);
-    case deDataSetChange:
-      return DataSetChanged();
-    case deDataSetScroll:
-      return DataSetScrolled(distance);
-    case deLayoutChange:
-      return LayoutChanged();
-    case deUpdateRecord:
-      return UpdateRecord();
-    case deUpdateState:
-      return;
+    case deFieldChange: return RecordChanged(field);
+    case deRecordChange: return RecordChanged(nullptr);
+    case deDataSetChange: return DataSetChanged();
+    case deDataSetScroll: return DataSetScrolled(distance);
+    case deLayoutChange: return LayoutChanged();
+    case deUpdateRecord: return UpdateRecord();
+    case deUpdateState: return;
   }
 }
 

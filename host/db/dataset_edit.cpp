@@ -104,9 +104,8 @@ void TDataSet::Post() {
   for (TField* field : FFields) field->CheckPosted();
   const bool inserting = FState == dsInsert;
   TRecord record = FEdited;
-  Attempt(OnPostError, [&] {
-    inserting ? InternalInsert(record) : InternalUpdate(FBefore, record);
-  });
+  Attempt(OnPostError,
+          [&] { inserting ? InternalInsert(record) : InternalUpdate(FBefore, record); });
   inserting ? FStore->Insert(FIndex, record) : FStore->Replace(FIndex, record);
   Resync();
   Fire(AfterPost);

@@ -71,10 +71,9 @@ void Check(SQLRETURN result, SQLSMALLINT handleType, SQLHANDLE handle) {
   TWideText state(5, u' '), text(1024, u' ');
   SQLINTEGER native = 0;
   SQLSMALLINT length = 0;
-  for (SQLSMALLINT record = 1;
-       SQL_SUCCEEDED(SQLGetDiagRecW(handleType, handle, record, Argument(state), &native,
-                                    Argument(text), static_cast<SQLSMALLINT>(text.size()),
-                                    &length));
+  for (SQLSMALLINT record = 1; SQL_SUCCEEDED(
+           SQLGetDiagRecW(handleType, handle, record, Argument(state), &native, Argument(text),
+                          static_cast<SQLSMALLINT>(text.size()), &length));
        ++record) {
     const auto kept = std::min(static_cast<std::size_t>(std::max<int>(length, 0)), text.size() - 1);
     if (!message.empty()) message += "\r\n";

@@ -42,8 +42,8 @@ std::string TConnection::AskQuote() const {
 
 std::string TConnection::Quoted(const std::string& name) const {
   std::string text = FQuote;
-  for (const char c : name) text += FQuote.size() == 1 && c == FQuote[0] ? FQuote + FQuote
-                                                                        : std::string(1, c);
+  for (const char c : name)
+    text += FQuote.size() == 1 && c == FQuote[0] ? FQuote + FQuote : std::string(1, c);
   return text + FQuote;
 }
 

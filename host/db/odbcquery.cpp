@@ -16,21 +16,34 @@ const TClass& TOdbcQuery::Class() {
        Property<&T::RequestLive, &T::SetRequestLive>("RequestLive").Default(false),
        Property<&T::SQL, &T::SetSQL>("SQL"),
        Property<&T::UniDirectional, &T::SetUniDirectional>("UniDirectional").Default(false),
-       Inherit("Active"),        Inherit("BeforeOpen"),   Inherit("AfterOpen"),
-       Inherit("BeforeClose"),   Inherit("AfterClose"),   Inherit("BeforeInsert"),
-       Inherit("AfterInsert"),   Inherit("BeforeEdit"),   Inherit("AfterEdit"),
-       Inherit("BeforePost"),    Inherit("AfterPost"),    Inherit("BeforeCancel"),
-       Inherit("AfterCancel"),   Inherit("BeforeDelete"), Inherit("AfterDelete"),
-       Inherit("BeforeScroll"),  Inherit("AfterScroll"),  Inherit("BeforeRefresh"),
-       Inherit("AfterRefresh"),  Inherit("OnDeleteError"), Inherit("OnEditError"),
-       Inherit("OnNewRecord"),   Inherit("OnPostError")});
+       Inherit("Active"),
+       Inherit("BeforeOpen"),
+       Inherit("AfterOpen"),
+       Inherit("BeforeClose"),
+       Inherit("AfterClose"),
+       Inherit("BeforeInsert"),
+       Inherit("AfterInsert"),
+       Inherit("BeforeEdit"),
+       Inherit("AfterEdit"),
+       Inherit("BeforePost"),
+       Inherit("AfterPost"),
+       Inherit("BeforeCancel"),
+       Inherit("AfterCancel"),
+       Inherit("BeforeDelete"),
+       Inherit("AfterDelete"),
+       Inherit("BeforeScroll"),
+       Inherit("AfterScroll"),
+       Inherit("BeforeRefresh"),
+       Inherit("AfterRefresh"),
+       Inherit("OnDeleteError"),
+       Inherit("OnEditError"),
+       Inherit("OnNewRecord"),
+       Inherit("OnPostError")});
   return info;
 }
 
 TOdbcQuery::TOdbcQuery(TComponent* owner)
-    : TDataSet(owner),
-      FSQL(std::make_unique<TStringList>()),
-      FParams(std::make_unique<TParams>()) {
+    : TDataSet(owner), FSQL(std::make_unique<TStringList>()), FParams(std::make_unique<TParams>()) {
   FSQL->OnChange = [this](TObject*) { SQLChanged(); };
 }
 

@@ -20,18 +20,14 @@ struct TTypeName {
   TFieldType DataType;
 };
 constexpr TTypeName Types[] = {
-    {SQL_CHAR, ftString},          {SQL_VARCHAR, ftString},
-    {SQL_WCHAR, ftString},         {SQL_WVARCHAR, ftString},
-    {SQL_LONGVARCHAR, ftMemo},     {SQL_WLONGVARCHAR, ftMemo},
-    {SQL_TINYINT, ftSmallint},     {SQL_SMALLINT, ftSmallint},
-    {SQL_INTEGER, ftInteger},      {SQL_BIGINT, ftLargeint},
-    {SQL_BIT, ftBoolean},          {SQL_REAL, ftFloat},
-    {SQL_FLOAT, ftFloat},          {SQL_DOUBLE, ftFloat},
-    {SQL_DECIMAL, ftBCD},          {SQL_NUMERIC, ftBCD},
-    {SQL_TYPE_DATE, ftDate},       {SQL_DATE, ftDate},
-    {SQL_TYPE_TIME, ftTime},       {SQL_TIME, ftTime},
-    {SQL_TYPE_TIMESTAMP, ftDateTime}, {SQL_TIMESTAMP, ftDateTime},
-    {SQL_BINARY, ftBlob},          {SQL_VARBINARY, ftBlob},
+    {SQL_CHAR, ftString},        {SQL_VARCHAR, ftString},    {SQL_WCHAR, ftString},
+    {SQL_WVARCHAR, ftString},    {SQL_LONGVARCHAR, ftMemo},  {SQL_WLONGVARCHAR, ftMemo},
+    {SQL_TINYINT, ftSmallint},   {SQL_SMALLINT, ftSmallint}, {SQL_INTEGER, ftInteger},
+    {SQL_BIGINT, ftLargeint},    {SQL_BIT, ftBoolean},       {SQL_REAL, ftFloat},
+    {SQL_FLOAT, ftFloat},        {SQL_DOUBLE, ftFloat},      {SQL_DECIMAL, ftBCD},
+    {SQL_NUMERIC, ftBCD},        {SQL_TYPE_DATE, ftDate},    {SQL_DATE, ftDate},
+    {SQL_TYPE_TIME, ftTime},     {SQL_TIME, ftTime},         {SQL_TYPE_TIMESTAMP, ftDateTime},
+    {SQL_TIMESTAMP, ftDateTime}, {SQL_BINARY, ftBlob},       {SQL_VARBINARY, ftBlob},
     {SQL_LONGVARBINARY, ftBlob},
 };
 
@@ -49,24 +45,16 @@ TTransport TransportOf(TFieldType dataType) {
   switch (dataType) {
     case ftSmallint:
     case ftInteger:
-    case ftLargeint:
-      return {SQL_C_SBIGINT, SQL_BIGINT};
-    case ftBoolean:
-      return {SQL_C_SBIGINT, SQL_BIT};
+    case ftLargeint: return {SQL_C_SBIGINT, SQL_BIGINT};
+    case ftBoolean: return {SQL_C_SBIGINT, SQL_BIT};
     case ftFloat:
     case ftCurrency:
-    case ftBCD:
-      return {SQL_C_DOUBLE, SQL_DOUBLE};
-    case ftDate:
-      return {SQL_C_TYPE_DATE, SQL_TYPE_DATE};
-    case ftTime:
-      return {SQL_C_TYPE_TIME, SQL_TYPE_TIME};
-    case ftDateTime:
-      return {SQL_C_TYPE_TIMESTAMP, SQL_TYPE_TIMESTAMP};
-    case ftBlob:
-      return {SQL_C_BINARY, SQL_LONGVARBINARY};
-    default:
-      return {SQL_C_WCHAR, SQL_WVARCHAR};
+    case ftBCD: return {SQL_C_DOUBLE, SQL_DOUBLE};
+    case ftDate: return {SQL_C_TYPE_DATE, SQL_TYPE_DATE};
+    case ftTime: return {SQL_C_TYPE_TIME, SQL_TYPE_TIME};
+    case ftDateTime: return {SQL_C_TYPE_TIMESTAMP, SQL_TYPE_TIMESTAMP};
+    case ftBlob: return {SQL_C_BINARY, SQL_LONGVARBINARY};
+    default: return {SQL_C_WCHAR, SQL_WVARCHAR};
   }
 }
 
@@ -74,16 +62,11 @@ TTransport TransportOf(TFieldType dataType) {
 std::size_t FixedSize(SQLSMALLINT cType) {
   switch (cType) {
     case SQL_C_SBIGINT:
-    case SQL_C_DOUBLE:
-      return 8;
-    case SQL_C_TYPE_DATE:
-      return sizeof(SQL_DATE_STRUCT);
-    case SQL_C_TYPE_TIME:
-      return sizeof(SQL_TIME_STRUCT);
-    case SQL_C_TYPE_TIMESTAMP:
-      return sizeof(SQL_TIMESTAMP_STRUCT);
-    default:
-      return 0;
+    case SQL_C_DOUBLE: return 8;
+    case SQL_C_TYPE_DATE: return sizeof(SQL_DATE_STRUCT);
+    case SQL_C_TYPE_TIME: return sizeof(SQL_TIME_STRUCT);
+    case SQL_C_TYPE_TIMESTAMP: return sizeof(SQL_TIMESTAMP_STRUCT);
+    default: return 0;
   }
 }
 
@@ -99,8 +82,13 @@ SQL_TIMESTAMP_STRUCT TimestampOf(TDateTime value) {
   DecodeDate(value, year, month, day);
   DecodeTime(value, hour, minute, second, millisecond);
   const auto small = [](int number) { return static_cast<SQLUSMALLINT>(number); };
-  return {static_cast<SQLSMALLINT>(year), small(month),  small(day), small(hour),
-          small(minute),                  small(second), static_cast<SQLUINTEGER>(millisecond) * 1000000u};
+  return {static_cast<SQLSMALLINT>(year),
+          small(month),
+          small(day),
+          small(hour),
+          small(minute),
+          small(second),
+          static_cast<SQLUINTEGER>(millisecond) * 1000000u};
 }
 
 /// A date and time; what is none in any calendar is kept as the text of its numbers.
@@ -112,9 +100,11 @@ TFieldValue DateTimeOf(const SQL_TIMESTAMP_STRUCT& stamp, bool date, bool time) 
     return day < 0 ? day - part : day + part;
   }
   std::string text;
-  if (date) text = Concat(IntToStr(stamp.year), "-", IntToStr(stamp.month), "-", IntToStr(stamp.day));
+  if (date)
+    text = Concat(IntToStr(stamp.year), "-", IntToStr(stamp.month), "-", IntToStr(stamp.day));
   if (date && time) text += " ";
-  if (time) text += Concat(IntToStr(stamp.hour), ":", IntToStr(stamp.minute), ":", IntToStr(stamp.second));
+  if (time)
+    text += Concat(IntToStr(stamp.hour), ":", IntToStr(stamp.minute), ":", IntToStr(stamp.second));
   return text;
 }
 
@@ -142,8 +132,7 @@ void TStatement::Prepare() {
                                     reinterpret_cast<SQLPOINTER>(SQL_CURSOR_FORWARD_ONLY),
                                     SQL_IS_UINTEGER));
   const TWideText text = ToWide(FSql);
-  FStatement->Check(
-      SQLPrepareW(*FStatement, Argument(text), static_cast<SQLINTEGER>(text.size())));
+  FStatement->Check(SQLPrepareW(*FStatement, Argument(text), static_cast<SQLINTEGER>(text.size())));
 }
 
 void TStatement::Bind(SQLUSMALLINT number, const TArgument& argument, TBound& bound) {
@@ -178,23 +167,15 @@ void TStatement::Bind(SQLUSMALLINT number, const TArgument& argument, TBound& bo
     bound.Date = {stamp.year, stamp.month, stamp.day};
     bound.Time = {stamp.hour, stamp.minute, stamp.second};
     switch (cType) {
-      case SQL_C_TYPE_DATE:
-        data = &bound.Date, size = 10;
-        break;
-      case SQL_C_TYPE_TIME:
-        data = &bound.Time, size = 8;
-        break;
-      case SQL_C_TYPE_TIMESTAMP:
-        data = &bound.Stamp, size = 23, digits = 3;
-        break;
-      default:
-        data = &bound.Number, cType = SQL_C_DOUBLE, sqlType = SQL_DOUBLE;
+      case SQL_C_TYPE_DATE: data = &bound.Date, size = 10; break;
+      case SQL_C_TYPE_TIME: data = &bound.Time, size = 8; break;
+      case SQL_C_TYPE_TIMESTAMP: data = &bound.Stamp, size = 23, digits = 3; break;
+      default: data = &bound.Number, cType = SQL_C_DOUBLE, sqlType = SQL_DOUBLE;
     }
   }
   FStatement->Check(SQLBindParameter(*FStatement, number, SQL_PARAM_INPUT, cType, sqlType,
-                                    std::max<SQLULEN>(size, 1), digits, data,
-                                    std::max<SQLLEN>(bound.Length, 0),
-                                    &bound.Length));
+                                     std::max<SQLULEN>(size, 1), digits, data,
+                                     std::max<SQLLEN>(bound.Length, 0), &bound.Length));
 }
 
 void TStatement::Execute(const std::vector<TArgument>& arguments) {
@@ -233,8 +214,8 @@ TColumn TStatement::DescribeColumn(SQLUSMALLINT number) {
   SQLSMALLINT length = 0, type = 0, digits = 0, nullable = 0;
   SQLULEN size = 0;
   FStatement->Check(SQLDescribeColW(*FStatement, number, Argument(name),
-                                   static_cast<SQLSMALLINT>(name.size()), &length, &type, &size,
-                                   &digits, &nullable));
+                                    static_cast<SQLSMALLINT>(name.size()), &length, &type, &size,
+                                    &digits, &nullable));
   TColumn column{FromWide(TWideText(name.c_str())), Attribute(number, SQL_DESC_BASE_TABLE_NAME),
                  Attribute(number, SQL_DESC_BASE_COLUMN_NAME), FieldTypeOf(type)};
   // A text of so many characters is none that was declared with a limit.
@@ -261,8 +242,8 @@ void TStatement::BindColumns() {
     const std::size_t fixed = FixedSize(buffer.Type);
     buffer.Bytes.resize(fixed ? fixed : (LongestFetched + 1) * sizeof(char16_t));
     FStatement->Check(SQLBindCol(*FStatement, static_cast<SQLUSMALLINT>(i + 1), buffer.Type,
-                                buffer.Bytes.data(), static_cast<SQLLEN>(buffer.Bytes.size()),
-                                &buffer.Length));
+                                 buffer.Bytes.data(), static_cast<SQLLEN>(buffer.Bytes.size()),
+                                 &buffer.Length));
   }
 }
 
@@ -282,12 +263,8 @@ void TStatement::Read(std::size_t column, TFieldValue& value) {
     return;
   }
   switch (type) {
-    case SQL_C_SBIGINT:
-      value = Peek<std::int64_t>(bytes);
-      return;
-    case SQL_C_DOUBLE:
-      value = Peek<double>(bytes);
-      return;
+    case SQL_C_SBIGINT: value = Peek<std::int64_t>(bytes); return;
+    case SQL_C_DOUBLE: value = Peek<double>(bytes); return;
     case SQL_C_TYPE_DATE: {
       const auto date = Peek<SQL_DATE_STRUCT>(bytes);
       value = DateTimeOf({date.year, date.month, date.day, 0, 0, 0, 0}, true, false);
@@ -301,14 +278,14 @@ void TStatement::Read(std::size_t column, TFieldValue& value) {
     case SQL_C_TYPE_TIMESTAMP:
       value = DateTimeOf(Peek<SQL_TIMESTAMP_STRUCT>(bytes), true, true);
       return;
-    default:
-      break;
+    default: break;
   }
   // The text's own memory is used again from record to record.
   if (!std::holds_alternative<std::string>(value)) value = std::string();
   auto& text = std::get<std::string>(value);
   const std::size_t unit = type == SQL_C_WCHAR ? sizeof(char16_t) : 1;
-  if (length < 0 || static_cast<std::size_t>(length) > bytes.size() - (type == SQL_C_WCHAR ? unit : 0)) {
+  if (length < 0 ||
+      static_cast<std::size_t>(length) > bytes.size() - (type == SQL_C_WCHAR ? unit : 0)) {
     text = ReadLong(column);
   } else if (type == SQL_C_WCHAR) {
     FromWide(reinterpret_cast<const char16_t*>(bytes.data()),

@@ -8,7 +8,9 @@
 namespace vcl {
 namespace {
 
-bool IsWord(char c) { return c == '_' || (c & 0x80) || IsValidIdent(Concat("_", std::string(1, c))); }
+bool IsWord(char c) {
+  return c == '_' || (c & 0x80) || IsValidIdent(Concat("_", std::string(1, c)));
+}
 
 /// What begins and ends a part of an SQL text in which nothing is a parameter. Casts are such too.
 constexpr std::string_view Fences[][2] = {{"'", "'"},   {"\"", "\""}, {"`", "`"}, {"[", "]"},

@@ -20,33 +20,33 @@ bool IsNumber(TFieldType type) {
 struct TKeyCommand {
   int Key, Command;
 };
-constexpr TKeyCommand Keys[] = {{VK_UP, SB_LINEUP},     {VK_DOWN, SB_LINEDOWN},
-                                {VK_PRIOR, SB_PAGEUP},  {VK_NEXT, SB_PAGEDOWN},
-                                {VK_HOME, SB_TOP},      {VK_END, SB_BOTTOM}};
+constexpr TKeyCommand Keys[] = {{VK_UP, SB_LINEUP},    {VK_DOWN, SB_LINEDOWN},
+                                {VK_PRIOR, SB_PAGEUP}, {VK_NEXT, SB_PAGEDOWN},
+                                {VK_HOME, SB_TOP},     {VK_END, SB_BOTTOM}};
 
 }  // namespace
 
 const TClass& TDBGrid::Class() {
   using T = TDBGrid;
-  static const TClass info = Describe<T, TCustomControl>(
-      "TDBGrid", "dbgrids",
-      {
-          Inherit("Align"),
-          Inherit("Color"),
-          Property<&T::DataSource, &T::SetDataSource>("DataSource"),
-          Inherit("Enabled"),
-          Inherit("Font"),
-          Inherit("ParentColor"),
-          Inherit("ParentFont"),
-          Inherit("PopupMenu"),
-          Inherit("TabOrder"),
-          Inherit("TabStop"),
-          Inherit("Visible"),
-          Inherit("OnDblClick"),
-          Inherit("OnEnter"),
-          Inherit("OnExit"),
-          Inherit("OnKeyDown"),
-      });
+  static const TClass info =
+      Describe<T, TCustomControl>("TDBGrid", "dbgrids",
+                                  {
+                                      Inherit("Align"),
+                                      Inherit("Color"),
+                                      Property<&T::DataSource, &T::SetDataSource>("DataSource"),
+                                      Inherit("Enabled"),
+                                      Inherit("Font"),
+                                      Inherit("ParentColor"),
+                                      Inherit("ParentFont"),
+                                      Inherit("PopupMenu"),
+                                      Inherit("TabOrder"),
+                                      Inherit("TabStop"),
+                                      Inherit("Visible"),
+                                      Inherit("OnDblClick"),
+                                      Inherit("OnEnter"),
+                                      Inherit("OnExit"),
+                                      Inherit("OnKeyDown"),
+                                  });
   return info;
 }
 
@@ -97,8 +97,13 @@ void TDBGrid::ShowScrollPosition() {
   const int position = !data || data->Bof() || data->RecNo() == 1 ? ScrollBegin
                        : data->Eof()                              ? ScrollEnd
                                                                   : ScrollMiddle;
-  SCROLLINFO info{sizeof info, SIF_RANGE | SIF_POS | SIF_DISABLENOSCROLL, ScrollBegin, ScrollEnd,
-                  0,           position,                                  0};
+  SCROLLINFO info{sizeof info,
+                  SIF_RANGE | SIF_POS | SIF_DISABLENOSCROLL,
+                  ScrollBegin,
+                  ScrollEnd,
+                  0,
+                  position,
+                  0};
   ::SetScrollInfo(Handle(), SB_VERT, &info, TRUE);
 }
 
@@ -154,7 +159,8 @@ void TDBGrid::PaintCell(const TRect& rect, const std::string& text, bool right) 
   TCanvas& canvas = *Canvas();
   const int x = right ? std::max(rect.Left + Margin, rect.Right - Margin - canvas.TextWidth(text))
                       : rect.Left + Margin;
-  canvas.TextRect({rect.Left, rect.Top, rect.Right - 1, rect.Bottom - 1}, x, rect.Top + Margin, text);
+  canvas.TextRect({rect.Left, rect.Top, rect.Right - 1, rect.Bottom - 1}, x, rect.Top + Margin,
+                  text);
   canvas.Pen()->SetColor(clBtnShadow);
   canvas.MoveTo(rect.Right - 1, rect.Top);
   canvas.LineTo(rect.Right - 1, rect.Bottom - 1);
@@ -168,20 +174,13 @@ void TDBGrid::MoveBy(int distance) {
 void TDBGrid::Scroll(int command) {
   if (!FLink.Active()) return;
   switch (command) {
-    case SB_LINEUP:
-      return MoveBy(-1);
-    case SB_LINEDOWN:
-      return MoveBy(1);
-    case SB_PAGEUP:
-      return MoveBy(-FLink.BufferCount());
-    case SB_PAGEDOWN:
-      return MoveBy(FLink.BufferCount());
-    case SB_TOP:
-      return FLink.DataSet()->First();
-    case SB_BOTTOM:
-      return FLink.DataSet()->Last();
-    default:
-      return;
+    case SB_LINEUP: return MoveBy(-1);
+    case SB_LINEDOWN: return MoveBy(1);
+    case SB_PAGEUP: return MoveBy(-FLink.BufferCount());
+    case SB_PAGEDOWN: return MoveBy(FLink.BufferCount());
+    case SB_TOP: return FLink.DataSet()->First();
+    case SB_BOTTOM: return FLink.DataSet()->Last();
+    default: return;
   }
 }
 
@@ -208,13 +207,9 @@ void TDBGrid::Dispatch(TMessage& message) {
       if (place != ScrollMiddle) Scroll(place < ScrollMiddle ? SB_TOP : SB_BOTTOM);
       return;
     }
-    case WM_MOUSEWHEEL:
-      return MoveBy(-GET_WHEEL_DELTA_WPARAM(message.WParam) / WHEEL_DELTA);
-    case WM_GETDLGCODE:
-      message.Result = DLGC_WANTARROWS;
-      return;
-    default:
-      TCustomControl::Dispatch(message);
+    case WM_MOUSEWHEEL: return MoveBy(-GET_WHEEL_DELTA_WPARAM(message.WParam) / WHEEL_DELTA);
+    case WM_GETDLGCODE: message.Result = DLGC_WANTARROWS; return;
+    default: TCustomControl::Dispatch(message);
   }
 }
 

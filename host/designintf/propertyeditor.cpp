@@ -80,8 +80,9 @@ bool TPropertyEditor::IsDefault() const {
 
 bool TPropertyEditor::CanRevert() const {
   return Offers(paRevertable) && !ReadOnly() &&
-         std::ranges::all_of(
-             FEdited, [](const TEditedProperty& each) { return each.Property->DefaultValue.has_value(); });
+         std::ranges::all_of(FEdited, [](const TEditedProperty& each) {
+           return each.Property->DefaultValue.has_value();
+         });
 }
 
 void TPropertyEditor::Revert() {

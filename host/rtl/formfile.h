@@ -53,8 +53,8 @@ VCL_API void ObjectBinaryToText(TStream& binary, TStream& text);
 
 /// Reads the form file that the rest of the stream is, in either form, into `root`, or makes a
 /// root; see TReader::ReadRootComponent. Messages name the line of a text.
-/// They begin with `name`, when there is one, which says what is read. With a keeper nothing is lost
-/// (TReader::SetKeeper).
+/// They begin with `name`, when there is one, which says what is read. With a keeper nothing is
+/// lost (TReader::SetKeeper).
 VCL_API TComponent* ReadComponentFile(TStream& stream, TComponent* root,
                                       const std::string& name = {},
                                       TReaderKeeper* keeper = nullptr);

@@ -79,8 +79,8 @@ TComponent* TReader::TImpl::MakeOrStandIn(const TFormHeading& heading, TComponen
   } catch (const EPlacedReadError& error) {
     Keeper->Report(error.what());
   } catch (const std::exception& error) {
-    Keeper->Report(Concat(Input.Place(at), "no ", heading.ClassName, " can be made: ",
-                          error.what()));
+    Keeper->Report(
+        Concat(Input.Place(at), "no ", heading.ClassName, " can be made: ", error.what()));
   }
   TComponent* standIn = Keeper->MakeStandIn(owner, HasWidth());
   standIn->Keep().ClassName = heading.ClassName;

@@ -146,8 +146,7 @@ void TReader::TImpl::ReadObject(TObject& object, const TPropInfo& prop) {
     return prop.Set(object, static_cast<TObject*>(nullptr));
   }
   std::string target = Input.ReadIdent();
-  Fixups.push_back(
-      {Part, Steps, &prop, std::move(target), Input.Context, Input.Mark(), After});
+  Fixups.push_back({Part, Steps, &prop, std::move(target), Input.Context, Input.Mark(), After});
 }
 
 /// Reads a collection that no published property leads to.

@@ -73,8 +73,8 @@ class VCL_API TApplication : public TCustomApplication {
   /// Asks the message loop to end.
   void Terminate() override;
   /// True from the moment that the system asks whether the user's session may end until he decides
-  /// otherwise: OnCloseQuery should then keep what is unsaved rather than ask, as the process may be
-  /// ended without another word.
+  /// otherwise: OnCloseQuery should then keep what is unsaved rather than ask, as the process may
+  /// be ended without another word.
   bool SessionEnding() const { return FSessionEnding; }
   /// The code that Run returns.
   void SetExitCode(int code) { FExitCode = code; }

@@ -120,7 +120,9 @@ TEST(DataSet, RefusesWithAMessageAndStaysAsItWas) {
 TEST(DataSet, FiresItsEventsInOrder) {
   TPeople people;
   std::vector<std::string> log;
-  const auto note = [&](const char* what) { return [&log, what](TDataSet*) { log.push_back(what); }; };
+  const auto note = [&](const char* what) {
+    return [&log, what](TDataSet*) { log.push_back(what); };
+  };
   people.BeforeInsert = note("BeforeInsert"), people.AfterInsert = note("AfterInsert");
   people.BeforeEdit = note("BeforeEdit"), people.AfterEdit = note("AfterEdit");
   people.BeforePost = note("BeforePost"), people.AfterPost = note("AfterPost");
@@ -134,9 +136,9 @@ TEST(DataSet, FiresItsEventsInOrder) {
   people.Insert();
   EXPECT_FALSE(people.Modified()) << "what a new record begins with is no change of the user's";
   people.Cancel();
-  EXPECT_THAT(log, ElementsAre("BeforeInsert", "BeforeScroll", "OnNewRecord", "AfterInsert",
-                               "AfterScroll", "BeforeCancel", "BeforeScroll", "AfterCancel",
-                               "AfterScroll"));
+  EXPECT_THAT(
+      log, ElementsAre("BeforeInsert", "BeforeScroll", "OnNewRecord", "AfterInsert", "AfterScroll",
+                       "BeforeCancel", "BeforeScroll", "AfterCancel", "AfterScroll"));
   log.clear();
   people.Edit();
   people.SetFieldValues("Name", std::string("Eve"));

@@ -75,7 +75,8 @@ TEST_F(DBAscii, WritesALineForEachRecord) {
   Ascii->Fields()->GetItem(0)->SetIndex(2);
   Ascii->SetDelimiter(U'\u20ac');
   Ascii->DoExport();
-  EXPECT_TRUE(Contents(File).starts_with("(The City)(The Phone)(The Name)\r\na;b \"c\"\u20ac\u20acAnn\r\n"));
+  EXPECT_TRUE(Contents(File).starts_with(
+      "(The City)(The Phone)(The Name)\r\na;b \"c\"\u20ac\u20acAnn\r\n"));
   EXPECT_TRUE(Data.Eof());
 }
 

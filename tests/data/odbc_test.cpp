@@ -61,8 +61,8 @@ TEST_F(Odbc, EveryKindOfValueComesBack) {
   const std::string bytes{"\0\xff;'\"", 5};
   std::string memo;
   while (memo.size() < 300'000) memo += "\u00e4\u20ac\U0001F600 x";
-  for (const std::string& text : {memo, std::string(255, 'x'), std::string(256, 'x'),
-                                  std::string(257, 'x'), std::string()}) {
+  for (const std::string& text :
+       {memo, std::string(255, 'x'), std::string(256, 'x'), std::string(257, 'x'), std::string()}) {
     Open("SELECT * FROM people WHERE name = 'Bob'");
     Query.Edit();
     Field("memo")->SetAsString(text);
@@ -141,7 +141,8 @@ TEST_F(Odbc, ChangesOnlyWhatItCanFindAgain) {
   Field("name")->SetAsString("X");
   EXPECT_THAT(Message([&] { Query.Post(); }), HasSubstr("no primary key"));
   Query.Cancel();
-  for (const char* sql : {"SELECT count(*) FROM people", "SELECT a.id, b.name FROM people a, sqlite_master b"}) {
+  for (const char* sql :
+       {"SELECT count(*) FROM people", "SELECT a.id, b.name FROM people a, sqlite_master b"}) {
     Open(sql);
     EXPECT_FALSE(Query.CanModify()) << sql;
     EXPECT_THAT(Message([&] { Query.Edit(); }), HasSubstr("read-only"));

@@ -146,7 +146,8 @@ TEST_F(Designer, SelectsWithTheMouseAndTheKeyboard) {
   }
   Click(At(210, 210));
   EXPECT_THAT(SelectedNames(), ElementsAre("D"));
-  // The key goes down last: moving the mouse lets go of keys that are not down on the real keyboard.
+  // The key goes down last: moving the mouse lets go of keys that are not down on the real
+  // keyboard.
   MoveMouse(MiddleOf(Find("A")));
   SendKey(VK_SHIFT, true);
   LeftDown();
@@ -183,7 +184,8 @@ TEST_F(Designer, KeepsWhatItDoesNotKnowThroughUndo) {
       "  ClientWidth = 420\n  Foreign = 12\n  OnCreate = FormCreate\n"
       "  object Panel: TNoSuchPanel\n    Left = 16\n    Top = 16\n    Width = 160\n"
       "    Height = 80\n    Bevel = [a, b]\n    object Inner: TNoSuchEdit\n      Left = 4\n"
-      "    end\n  end\n  object Guard: TQELOnlyOne\n    Instances = 1\n    Left = 200\n    Top = 16\n  end\n"
+      "    end\n  end\n  object Guard: TQELOnlyOne\n    Instances = 1\n    Left = 200\n    Top = "
+      "16\n  end\n"
       "  object Guard2: TQELOnlyOne\n    Left = 240\n    Top = 16\n  end\nend\n";
   Write("foreign.dfm", text);
   ASSERT_TRUE(Window->Open(File("foreign.dfm")));
@@ -206,8 +208,8 @@ TEST_F(Designer, KeepsWhatItDoesNotKnowThroughUndo) {
 TEST_F(Designer, SurvivesDamagedFilesAndPackages) {
   const std::string before = Document().Text();
   for (const char* damaged :
-       {"", "object", "object F: TF\n  Left = \nend\n", "object F: TF\n  Left = 1\n",
-        "TPF0\x03", "object F: TF\n  object A: TButton\n"}) {
+       {"", "object", "object F: TF\n  Left = \nend\n", "object F: TF\n  Left = 1\n", "TPF0\x03",
+        "object F: TF\n  object A: TButton\n"}) {
     Write("damaged.dfm", damaged);
     Window->MessageList().Items()->Clear();
     EXPECT_FALSE(Window->Open(File("damaged.dfm"))) << damaged;
@@ -237,8 +239,9 @@ TEST_F(Designer, BringsBackWhatAKilledProgramLost) {
 TEST_F(Designer, OpensAFormOfManyComponents) {
   std::string text = "object F: TF\n  ClientHeight = 600\n  ClientWidth = 800\n";
   for (int i = 0; i < 500; ++i) {
-    text += Concat("  object Button", std::to_string(i), ": TQELButton\n    Left = ",
-                   std::to_string(i % 25 * 30), "\n    Top = ", std::to_string(i / 25 * 28),
+    text += Concat("  object Button", std::to_string(i),
+                   ": TQELButton\n    Left = ", std::to_string(i % 25 * 30),
+                   "\n    Top = ", std::to_string(i / 25 * 28),
                    "\n    Width = 28\n    Height = 25\n  end\n");
   }
   Write("many.dfm", text + "end\n");

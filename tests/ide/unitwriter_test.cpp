@@ -131,8 +131,8 @@ TEST(UnitWriter, NewUnitsGrowAndShrinkAgain) {
   EXPECT_THAT(WriteUnit(other, fresh.Header, fresh.Source).Header,
               HasSubstr(" private:\n  vcl::TEdit* One = nullptr;\n"));
   // Line breaks stay what they are.
-  const TUnitTexts crLf = WriteUnit(full, Replaced(empty.Header, "\n", "\r\n"),
-                                    Replaced(empty.Source, "\n", "\r\n"));
+  const TUnitTexts crLf =
+      WriteUnit(full, Replaced(empty.Header, "\n", "\r\n"), Replaced(empty.Source, "\n", "\r\n"));
   EXPECT_EQ(crLf.Header, Replaced(grown.Header, "\n", "\r\n"));
   EXPECT_EQ(crLf.Source, Replaced(grown.Source, "\n", "\r\n"));
 }
@@ -177,8 +177,8 @@ TEST(UnitWriter, WhatCannotBeWrittenIsRefusedOrTold) {
 
 /// The parameters without their names.
 std::string TypesOf(std::string_view parameters) {
-  const std::string types = std::regex_replace(std::string(parameters), std::regex(" \\w+(,|$)"),
-                                               "$1");
+  const std::string types =
+      std::regex_replace(std::string(parameters), std::regex(" \\w+(,|$)"), "$1");
   return Replaced(types, "const std::string&", "std::string const&");
 }
 

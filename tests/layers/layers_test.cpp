@@ -40,8 +40,7 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
        {"host/rtl", "host/net", "host/db", "host/vcl", "host/dbctrls", "core", "controls", "data",
         "mail", "services", "shell"}},
       {"tools", designer},
-      {"ide",
-       {"host/rtl", "host/net", "host/db", "host/vcl", "host/dbctrls", "host/designintf"}},
+      {"ide", {"host/rtl", "host/net", "host/db", "host/vcl", "host/dbctrls", "host/designintf"}},
   };
   return allowed;
 }

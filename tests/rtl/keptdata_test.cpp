@@ -20,8 +20,7 @@ class TKeptItem : public TCollectionItem {
   using TCollectionItem::TCollectionItem;
   static const TClass& Class() {
     static const TClass info = Describe<TKeptItem, TCollectionItem>(
-        "TKeptItem", "test",
-        {Property<&TKeptItem::Size, &TKeptItem::SetSize>("Size").Default(0)});
+        "TKeptItem", "test", {Property<&TKeptItem::Size, &TKeptItem::SetSize>("Size").Default(0)});
     return info;
   }
   const TClass& ClassType() const override { return Class(); }
@@ -114,12 +113,13 @@ TEST(KeptData, GoesBackToItsPlaceAndIsReportedWithItsLine) {
   TStringStream stream(Text);
   ReadComponentFile(stream, &root, {}, &keeper);
   EXPECT_EQ(TextOf(root), Text);
-  EXPECT_THAT(keeper.Messages,
-              ElementsAre(HasSubstr("Line 3: Root.Colours"), HasSubstr("Line 4: Root.More.Inside"),
-                          HasSubstr("Line 7: Root.Number: less than nothing"),
-                          HasSubstr("Line 12: Root.Items[0].Strange"),
-                          HasSubstr("Class TNoSuchPanel not found"),
-                          HasSubstr("Class TNoSuchTimer not found"), HasSubstr("Line 8: Root.Link")));
+  EXPECT_THAT(
+      keeper.Messages,
+      ElementsAre(HasSubstr("Line 3: Root.Colours"), HasSubstr("Line 4: Root.More.Inside"),
+                  HasSubstr("Line 7: Root.Number: less than nothing"),
+                  HasSubstr("Line 12: Root.Items[0].Strange"),
+                  HasSubstr("Class TNoSuchPanel not found"),
+                  HasSubstr("Class TNoSuchTimer not found"), HasSubstr("Line 8: Root.Link")));
   EXPECT_THAT(keeper.Visual, ElementsAre(true, false));
   EXPECT_EQ(root.FileClassName(), "TForeign");
   EXPECT_EQ(root.FindComponent("Panel")->FileClassName(), "TNoSuchPanel");

@@ -1,7 +1,7 @@
 #include <iostream>
 
-#include "qel.h"
 #include "host/vcl/vcl.h"
+#include "qel.h"
 
 class TMainForm : public vcl::TForm {
  public:
