@@ -3,6 +3,7 @@
 #include "core/arithmetic.h"
 #include "host/rtl/properties.h"
 #include "host/vcl/menus.h"
+#include "host/vcl/propertygroups.h"
 
 namespace qel {
 
@@ -48,17 +49,10 @@ const vcl::TClass& TQELButton::Class() {
           Inherit("TabOrder"),
           // The constructor sets it: a button in a form file always says that it is a tab stop.
           Inherit("TabStop"),
-          Inherit("OnDragDrop"),
-          Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),
-          Inherit("OnKeyDown"),
-          Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
-          Inherit("OnEnter"),
-          Inherit("OnExit"),
+          Inherit(DragEvents),
+          Inherit(KeyEvents),
+          Inherit(MouseEvents),
+          Inherit(FocusEvents),
           Inherit("OnStartDrag"),
       });
   return info;

@@ -7,6 +7,7 @@
 #include "core/Qelownedsettings.h"
 #include "core/arithmetic.h"
 #include "host/rtl/properties.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/wincontrol.h"
 
 namespace qel {
@@ -46,9 +47,7 @@ const vcl::TClass& TQELGauge::Class() {
           Property<&T::Glyph, &T::SetGlyph>("Glyph"),
           Inherit("OnClick"),
           Inherit("OnDblClick"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(MouseEvents),
           Inherit("Font"),
           Property<&T::Font3D, &T::SetFont3D>("Font3D"),
           Property<&T::Background, &T::SetBackground>("Background"),

@@ -2,6 +2,7 @@
 
 #include "core/Qelownedsettings.h"
 #include "host/rtl/properties.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/wincontrol.h"
 
 namespace qel {
@@ -32,9 +33,7 @@ const vcl::TClass& TQELLabel::Class() {
           Inherit("WordWrap"),
           Inherit("OnClick"),
           Inherit("OnDblClick"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(MouseEvents),
           Inherit("OnDragDrop"),
           Inherit("OnEndDrag"),
           Inherit("OnStartDrag"),

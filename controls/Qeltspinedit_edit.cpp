@@ -7,6 +7,7 @@
 #include "host/rtl/convert.h"
 #include "host/rtl/properties.h"
 #include "host/vcl/forms.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/windowmessages.h"
 
 namespace qel {
@@ -62,17 +63,10 @@ const vcl::TClass& TQELCustomSpinEdit::Class() {
           Inherit("OnChange"),
           Inherit("OnClick"),
           Inherit("OnDblClick"),
-          Inherit("OnDragDrop"),
-          Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),
-          Inherit("OnEnter"),
-          Inherit("OnExit"),
-          Inherit("OnKeyDown"),
-          Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(DragEvents),
+          Inherit(FocusEvents),
+          Inherit(KeyEvents),
+          Inherit(MouseEvents),
       });
   return info;
 }

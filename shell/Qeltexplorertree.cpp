@@ -7,6 +7,7 @@
 #include "host/rtl/exceptions.h"
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
+#include "host/vcl/propertygroups.h"
 #include "shell/folders.h"
 #include "shell/hourglass.h"
 
@@ -62,16 +63,11 @@ const vcl::TClass& TQELExplorerTree::Class() {
           Inherit("OnEdited"),
           Inherit("OnEditing"),
           Inherit("OnEndDrag"),
-          Inherit("OnEnter"),
-          Inherit("OnExit"),
+          Inherit(FocusEvents),
           Inherit("OnExpanded"),
           Inherit("OnExpanding"),
-          Inherit("OnKeyDown"),
-          Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(KeyEvents),
+          Inherit(MouseEvents),
           Inherit("OnStartDrag"),
       });
   return info;

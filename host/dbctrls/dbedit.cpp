@@ -1,6 +1,7 @@
 #include "host/dbctrls/dbedit.h"
 
 #include "host/rtl/properties.h"
+#include "host/vcl/propertygroups.h"
 
 namespace vcl {
 
@@ -34,11 +35,8 @@ const TClass& TDBEdit::Class() {
           Inherit("OnChange"),
           Inherit("OnClick"),
           Inherit("OnDblClick"),
-          Inherit("OnEnter"),
-          Inherit("OnExit"),
-          Inherit("OnKeyDown"),
-          Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),
+          Inherit(FocusEvents),
+          Inherit(KeyEvents),
       });
   return info;
 }

@@ -4,6 +4,7 @@
 
 #include "host/rtl/properties.h"
 #include "host/vcl/canvas.h"
+#include "host/vcl/propertygroups.h"
 
 namespace vcl {
 namespace {
@@ -43,8 +44,7 @@ const TClass& TDBGrid::Class() {
                                       Inherit("TabStop"),
                                       Inherit("Visible"),
                                       Inherit("OnDblClick"),
-                                      Inherit("OnEnter"),
-                                      Inherit("OnExit"),
+                                      Inherit(FocusEvents),
                                       Inherit("OnKeyDown"),
                                   });
   return info;

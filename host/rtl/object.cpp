@@ -67,6 +67,8 @@ void TClass::Add(TClassEntry entry) {
   using Sort = TClassEntry::TSort;
   if (entry.Sort == Sort::Field) return FFields.push_back(std::move(entry.Field));
   if (entry.Sort == Sort::Method) return FMethods.push_back(std::move(entry.Method));
+  for (const char* name : entry.Group) Add(Inherit(std::string(name)));
+  if (!entry.Group.empty()) return;
   if (entry.Sort == Sort::Inherit) {
     const TPropInfo* inherited = FParent ? FParent->FindDescribed(entry.Prop.Name) : nullptr;
     if (!inherited) {

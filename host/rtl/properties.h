@@ -13,6 +13,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -84,6 +85,9 @@ struct TMethodInfo {
   void (*Bind)(TObject& target, TEventBase& event);
 };
 
+/// Names of properties that classes publish together.
+using TPropertyGroup = std::span<const char* const>;
+
 /// One line of a class's table.
 class VCL_API TClassEntry {
  public:
@@ -110,6 +114,7 @@ class VCL_API TClassEntry {
 
   TSort Sort = TSort::Property;
   TPropInfo Prop;
+  TPropertyGroup Group;  // What an Inherit of several publishes.
   TFieldInfo Field{};
   TMethodInfo Method{};
   bool FUnpublished = false;
@@ -282,6 +287,14 @@ inline TClassEntry Inherit(std::string name) {
   TClassEntry entry;
   entry.Sort = TClassEntry::TSort::Inherit;
   entry.Prop.Name = std::move(name);
+  return entry;
+}
+
+/// Publishes all of a group, in its order, each as Inherit does.
+inline TClassEntry Inherit(TPropertyGroup group) {
+  TClassEntry entry;
+  entry.Sort = TClassEntry::TSort::Inherit;
+  entry.Group = group;
   return entry;
 }
 

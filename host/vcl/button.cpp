@@ -3,6 +3,7 @@
 #include "host/rtl/properties.h"
 #include "host/vcl/accelerators.h"
 #include "host/vcl/forms.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/windowmessages.h"
 
 namespace vcl {
@@ -55,17 +56,10 @@ const TClass& TButton::Class() {
           Inherit("TabStop").Default(true),
           Inherit("Visible"),
           Inherit("OnClick"),
-          Inherit("OnDragDrop"),
-          Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),
-          Inherit("OnEnter"),
-          Inherit("OnExit"),
-          Inherit("OnKeyDown"),
-          Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(DragEvents),
+          Inherit(FocusEvents),
+          Inherit(KeyEvents),
+          Inherit(MouseEvents),
           Inherit("OnStartDrag"),
       });
   return info;

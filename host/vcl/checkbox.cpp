@@ -2,6 +2,7 @@
 
 #include "host/rtl/properties.h"
 #include "host/vcl/narrowed.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/windowmessages.h"
 
 namespace vcl {
@@ -37,11 +38,8 @@ const TClass& TCheckBox::Class() {
           Inherit("ParentColor"), Inherit("ParentFont"),  Inherit("ParentShowHint"),
           Inherit("PopupMenu"),   Inherit("ShowHint"),    Inherit("State"),
           Inherit("TabOrder"),    Inherit("TabStop"),     Inherit("Visible"),
-          Inherit("OnClick"),     Inherit("OnDragDrop"),  Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),   Inherit("OnEnter"),     Inherit("OnExit"),
-          Inherit("OnKeyDown"),   Inherit("OnKeyPress"),  Inherit("OnKeyUp"),
-          Inherit("OnMouseDown"), Inherit("OnMouseMove"), Inherit("OnMouseUp"),
-          Inherit("OnStartDrag"),
+          Inherit("OnClick"),     Inherit(DragEvents),    Inherit(FocusEvents),
+          Inherit(KeyEvents),     Inherit(MouseEvents),   Inherit("OnStartDrag"),
       });
   return info;
 }
@@ -111,17 +109,10 @@ const TClass& TRadioButton::Class() {
           Inherit("Visible"),
           Inherit("OnClick"),
           Inherit("OnDblClick"),
-          Inherit("OnDragDrop"),
-          Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),
-          Inherit("OnEnter"),
-          Inherit("OnExit"),
-          Inherit("OnKeyDown"),
-          Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(DragEvents),
+          Inherit(FocusEvents),
+          Inherit(KeyEvents),
+          Inherit(MouseEvents),
           Inherit("OnStartDrag"),
       });
   return info;

@@ -8,6 +8,7 @@
 #include "host/rtl/text.h"
 #include "host/vcl/application.h"
 #include "host/vcl/listitems.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/windowmessages.h"
 #include "host/vcl/windowtext.h"
 
@@ -44,9 +45,8 @@ const TClass& TComboBox::Class() {
           Inherit("Text"),           Inherit("Visible"),     Inherit("OnChange"),
           Inherit("OnClick"),        Inherit("OnCloseUp"),   Inherit("OnDblClick"),
           Inherit("OnDragDrop"),     Inherit("OnDragOver"),  Inherit("OnDrawItem"),
-          Inherit("OnDropDown"),     Inherit("OnEndDrag"),   Inherit("OnEnter"),
-          Inherit("OnExit"),         Inherit("OnKeyDown"),   Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),        Inherit("OnStartDrag"), Inherit("Items"),
+          Inherit("OnDropDown"),     Inherit("OnEndDrag"),   Inherit(FocusEvents),
+          Inherit(KeyEvents),        Inherit("OnStartDrag"), Inherit("Items"),
           Inherit("ItemIndex"),
       });
   return info;

@@ -7,6 +7,7 @@
 #include "host/rtl/text.h"
 #include "host/vcl/fontmetrics.h"
 #include "host/vcl/narrowed.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/windowmessages.h"
 #include "host/vcl/windowtext.h"
 
@@ -56,11 +57,9 @@ const TClass& TEdit::Class() {
           Inherit("PasswordChar"), Inherit("PopupMenu"),     Inherit("ReadOnly"),
           Inherit("ShowHint"),     Inherit("TabOrder"),      Inherit("TabStop"),
           Inherit("Text"),         Inherit("Visible"),       Inherit("OnChange"),
-          Inherit("OnClick"),      Inherit("OnDblClick"),    Inherit("OnDragDrop"),
-          Inherit("OnDragOver"),   Inherit("OnEndDrag"),     Inherit("OnEnter"),
-          Inherit("OnExit"),       Inherit("OnKeyDown"),     Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),      Inherit("OnMouseDown"),   Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),    Inherit("OnStartDrag"),
+          Inherit("OnClick"),      Inherit("OnDblClick"),    Inherit(DragEvents),
+          Inherit(FocusEvents),    Inherit(KeyEvents),       Inherit(MouseEvents),
+          Inherit("OnStartDrag"),
       });
   return info;
 }

@@ -8,6 +8,7 @@
 #include "host/vcl/application.h"
 #include "host/vcl/controlcanvas.h"
 #include "host/vcl/menus.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/registration.h"
 #include "host/vcl/screen.h"
 
@@ -57,12 +58,8 @@ const TClass& TForm::Class() {
           Inherit("OnDragDrop"),
           Inherit("OnDragOver"),
           Event<&TForm::OnHide>("OnHide"),
-          Inherit("OnKeyDown"),
-          Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(KeyEvents),
+          Inherit(MouseEvents),
           Event<&TForm::OnPaint>("OnPaint"),
           Inherit("OnResize"),
           Event<&TForm::OnShow>("OnShow"),

@@ -4,6 +4,7 @@
 #include "host/vcl/accelerators.h"
 #include "host/vcl/canvas.h"
 #include "host/vcl/fontmetrics.h"
+#include "host/vcl/propertygroups.h"
 
 namespace vcl {
 
@@ -23,10 +24,8 @@ const TClass& TGroupBox::Class() {
           Inherit("ParentCtl3D"), Inherit("ParentFont"),  Inherit("ParentShowHint"),
           Inherit("PopupMenu"),   Inherit("ShowHint"),    Inherit("TabOrder"),
           Inherit("TabStop"),     Inherit("Visible"),     Inherit("OnClick"),
-          Inherit("OnDblClick"),  Inherit("OnDragDrop"),  Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),   Inherit("OnEnter"),     Inherit("OnExit"),
-          Inherit("OnMouseDown"), Inherit("OnMouseMove"), Inherit("OnMouseUp"),
-          Inherit("OnStartDrag"),
+          Inherit("OnDblClick"),  Inherit(DragEvents),    Inherit(FocusEvents),
+          Inherit(MouseEvents),   Inherit("OnStartDrag"),
       });
   return info;
 }

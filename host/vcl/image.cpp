@@ -2,6 +2,7 @@
 
 #include "host/rtl/properties.h"
 #include "host/vcl/canvas.h"
+#include "host/vcl/propertygroups.h"
 
 namespace vcl {
 
@@ -25,12 +26,8 @@ const TClass& TImage::Class() {
           Inherit("Visible"),
           Inherit("OnClick"),
           Inherit("OnDblClick"),
-          Inherit("OnDragDrop"),
-          Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(DragEvents),
+          Inherit(MouseEvents),
           Inherit("OnStartDrag"),
       });
   return info;

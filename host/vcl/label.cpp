@@ -5,6 +5,7 @@
 #include "host/vcl/canvas.h"
 #include "host/vcl/fontmetrics.h"
 #include "host/vcl/handles.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/wincontrol.h"
 
 namespace vcl {
@@ -48,9 +49,8 @@ const TClass& TLabel::Class() {
           Inherit("ParentShowHint"), Inherit("PopupMenu"),   Inherit("ShowAccelChar"),
           Inherit("ShowHint"),       Inherit("Transparent"), Inherit("Layout"),
           Inherit("Visible"),        Inherit("WordWrap"),    Inherit("OnClick"),
-          Inherit("OnDblClick"),     Inherit("OnDragDrop"),  Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),      Inherit("OnMouseDown"), Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),      Inherit("OnStartDrag"),
+          Inherit("OnDblClick"),     Inherit(DragEvents),    Inherit(MouseEvents),
+          Inherit("OnStartDrag"),
       });
   return info;
 }

@@ -4,6 +4,7 @@
 #include "host/rtl/properties.h"
 #include "host/vcl/listitems.h"
 #include "host/vcl/narrowed.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/windowmessages.h"
 
 namespace vcl {
@@ -42,10 +43,8 @@ const TClass& TListBox::Class() {
           Inherit("ShowHint"),    Inherit("Style"),          Inherit("TabOrder"),
           Inherit("TabStop"),     Inherit("Visible"),        Inherit("OnClick"),
           Inherit("OnDblClick"),  Inherit("OnDragDrop"),     Inherit("OnDragOver"),
-          Inherit("OnDrawItem"),  Inherit("OnEndDrag"),      Inherit("OnEnter"),
-          Inherit("OnExit"),      Inherit("OnKeyDown"),      Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),     Inherit("OnMouseDown"),    Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),   Inherit("OnStartDrag"),
+          Inherit("OnDrawItem"),  Inherit("OnEndDrag"),      Inherit(FocusEvents),
+          Inherit(KeyEvents),     Inherit(MouseEvents),      Inherit("OnStartDrag"),
       });
   return info;
 }

@@ -2,6 +2,7 @@
 
 #include "host/rtl/properties.h"
 #include "host/vcl/memolines.h"
+#include "host/vcl/propertygroups.h"
 
 namespace vcl {
 
@@ -36,11 +37,8 @@ const TClass& TMemo::Class() {
           Inherit("ShowHint"),      Inherit("TabOrder"),    Inherit("TabStop"),
           Inherit("Visible"),       Inherit("WantReturns"), Inherit("WantTabs"),
           Inherit("WordWrap"),      Inherit("OnChange"),    Inherit("OnClick"),
-          Inherit("OnDblClick"),    Inherit("OnDragDrop"),  Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),     Inherit("OnEnter"),     Inherit("OnExit"),
-          Inherit("OnKeyDown"),     Inherit("OnKeyPress"),  Inherit("OnKeyUp"),
-          Inherit("OnMouseDown"),   Inherit("OnMouseMove"), Inherit("OnMouseUp"),
-          Inherit("OnStartDrag"),
+          Inherit("OnDblClick"),    Inherit(DragEvents),    Inherit(FocusEvents),
+          Inherit(KeyEvents),       Inherit(MouseEvents),   Inherit("OnStartDrag"),
       });
   return info;
 }

@@ -8,6 +8,7 @@
 #include "host/vcl/accelerators.h"
 #include "host/vcl/commoncontrols.h"
 #include "host/vcl/forms.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/windowmessages.h"
 #include "host/vcl/windowtext.h"
 
@@ -34,14 +35,9 @@ const TClass& TPageControl::Class() {
           Inherit("Visible"),
           Event<&T::OnChange>("OnChange"),
           Event<&T::OnChanging>("OnChanging").Type("TTabChangingEvent"),
-          Inherit("OnDragDrop"),
-          Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),
-          Inherit("OnEnter"),
-          Inherit("OnExit"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(DragEvents),
+          Inherit(FocusEvents),
+          Inherit(MouseEvents),
           Inherit("OnResize"),
           Inherit("OnStartDrag"),
       });

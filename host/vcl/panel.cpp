@@ -6,6 +6,7 @@
 #include "host/vcl/canvas.h"
 #include "host/vcl/fontmetrics.h"
 #include "host/vcl/narrowed.h"
+#include "host/vcl/propertygroups.h"
 
 namespace vcl {
 namespace {
@@ -56,18 +57,16 @@ const TClass& TPanel::Class() {
   static const TClass info = Describe<TPanel, TCustomPanel>(
       "TPanel", "extctrls",
       {
-          Inherit("Align"),       Inherit("Alignment"),   Inherit("BevelInner"),
-          Inherit("BevelOuter"),  Inherit("BevelWidth"),  Inherit("BorderWidth"),
-          Inherit("BorderStyle"), Inherit("Caption"),     Inherit("Color"),
-          Inherit("Ctl3D"),       Inherit("DragCursor"),  Inherit("DragMode"),
-          Inherit("Enabled"),     Inherit("Font"),        Inherit("ParentColor"),
-          Inherit("ParentCtl3D"), Inherit("ParentFont"),  Inherit("ParentShowHint"),
-          Inherit("PopupMenu"),   Inherit("ShowHint"),    Inherit("TabOrder"),
-          Inherit("TabStop"),     Inherit("Visible"),     Inherit("OnClick"),
-          Inherit("OnDblClick"),  Inherit("OnDragDrop"),  Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),   Inherit("OnEnter"),     Inherit("OnExit"),
-          Inherit("OnMouseDown"), Inherit("OnMouseMove"), Inherit("OnMouseUp"),
-          Inherit("OnResize"),    Inherit("OnStartDrag"),
+          Inherit("Align"),       Inherit("Alignment"),  Inherit("BevelInner"),
+          Inherit("BevelOuter"),  Inherit("BevelWidth"), Inherit("BorderWidth"),
+          Inherit("BorderStyle"), Inherit("Caption"),    Inherit("Color"),
+          Inherit("Ctl3D"),       Inherit("DragCursor"), Inherit("DragMode"),
+          Inherit("Enabled"),     Inherit("Font"),       Inherit("ParentColor"),
+          Inherit("ParentCtl3D"), Inherit("ParentFont"), Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),   Inherit("ShowHint"),   Inherit("TabOrder"),
+          Inherit("TabStop"),     Inherit("Visible"),    Inherit("OnClick"),
+          Inherit("OnDblClick"),  Inherit(DragEvents),   Inherit(FocusEvents),
+          Inherit(MouseEvents),   Inherit("OnResize"),   Inherit("OnStartDrag"),
       });
   return info;
 }

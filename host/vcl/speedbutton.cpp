@@ -3,6 +3,7 @@
 #include "host/rtl/properties.h"
 #include "host/vcl/accelerators.h"
 #include "host/vcl/canvas.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/wincontrol.h"
 
 namespace vcl {
@@ -33,9 +34,7 @@ const TClass& TSpeedButton::Class() {
           Inherit("Visible"),
           Inherit("OnClick"),
           Inherit("OnDblClick"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(MouseEvents),
       });
   return info;
 }

@@ -5,6 +5,7 @@
 
 #include "host/rtl/properties.h"
 #include "host/vcl/commoncontrols.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/windowmessages.h"
 #include "host/vcl/windowtext.h"
 
@@ -83,12 +84,8 @@ const TClass& TStatusBar::Class() {
           Inherit("Visible"),
           Inherit("OnClick"),
           Inherit("OnDblClick"),
-          Inherit("OnDragDrop"),
-          Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(DragEvents),
+          Inherit(MouseEvents),
           Inherit("OnResize"),
           Inherit("OnStartDrag"),
       });

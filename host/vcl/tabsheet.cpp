@@ -4,6 +4,7 @@
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
 #include "host/vcl/pagecontrol.h"
+#include "host/vcl/propertygroups.h"
 
 namespace vcl {
 
@@ -26,15 +27,10 @@ const TClass& TTabSheet::Class() {
           Property<&T::TabVisible, &T::SetTabVisible>("TabVisible").Default(true),
           Inherit("Top").Stored(false),
           Inherit("Width").Stored(false),
-          Inherit("OnDragDrop"),
-          Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),
-          Inherit("OnEnter"),
-          Inherit("OnExit"),
+          Inherit(DragEvents),
+          Inherit(FocusEvents),
           Event<&T::OnHide>("OnHide"),
-          Inherit("OnMouseDown"),
-          Inherit("OnMouseMove"),
-          Inherit("OnMouseUp"),
+          Inherit(MouseEvents),
           Inherit("OnResize"),
           Event<&T::OnShow>("OnShow"),
           Inherit("OnStartDrag"),

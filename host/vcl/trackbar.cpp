@@ -6,6 +6,7 @@
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
 #include "host/vcl/commoncontrols.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/windowmessages.h"
 
 namespace vcl {
@@ -34,14 +35,9 @@ const TClass& TTrackBar::Class() {
           Property<&T::TickStyle, &T::SetTickStyle>("TickStyle").Default(tsAuto),
           Inherit("Visible"),
           Event<&T::OnChange>("OnChange"),
-          Inherit("OnDragDrop"),
-          Inherit("OnDragOver"),
-          Inherit("OnEndDrag"),
-          Inherit("OnEnter"),
-          Inherit("OnExit"),
-          Inherit("OnKeyDown"),
-          Inherit("OnKeyPress"),
-          Inherit("OnKeyUp"),
+          Inherit(DragEvents),
+          Inherit(FocusEvents),
+          Inherit(KeyEvents),
           Inherit("OnStartDrag"),
       });
   return info;

@@ -5,6 +5,7 @@
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
 #include "host/vcl/narrowed.h"
+#include "host/vcl/propertygroups.h"
 #include "host/vcl/windowmessages.h"
 #include "host/vcl/windowtext.h"
 
@@ -89,19 +90,14 @@ const TClass& TTreeView::Class() {
                                                Inherit("TabStop").Default(true),
                                                Inherit("Visible"),
                                                Inherit("OnClick"),
-                                               Inherit("OnEnter"),
-                                               Inherit("OnExit"),
+                                               Inherit(FocusEvents),
                                                Inherit("OnDragDrop"),
                                                Inherit("OnDragOver"),
                                                Inherit("OnStartDrag"),
                                                Inherit("OnEndDrag"),
-                                               Inherit("OnMouseDown"),
-                                               Inherit("OnMouseMove"),
-                                               Inherit("OnMouseUp"),
+                                               Inherit(MouseEvents),
                                                Inherit("OnDblClick"),
-                                               Inherit("OnKeyDown"),
-                                               Inherit("OnKeyPress"),
-                                               Inherit("OnKeyUp"),
+                                               Inherit(KeyEvents),
                                                Inherit("PopupMenu"),
                                                Inherit("ParentFont"),
                                                Inherit("ParentShowHint"),
