@@ -29,6 +29,11 @@ void TDesignSurface::SetShowGrid(bool show) {
   if (FRoot) FRoot->Invalidate();
 }
 
+void TDesignSurface::SetShowIcons(bool show) {
+  FShowIcons = show;
+  Refresh();
+}
+
 void TDesignSurface::PaintBehind(HDC dc) {
   if (!FShowGrid || !FRoot) return;
   const TRect inside = FRoot->ClientRect();

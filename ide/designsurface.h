@@ -58,12 +58,17 @@ class TDesignSurface : public vcl::TDesignerHook {
   void SetShowGrid(bool show);
   bool SnapToGrid() const { return FSnap; }
   void SetSnapToGrid(bool snap) { FSnap = snap; }
+  /// The icons of components that are no controls are there.
+  bool ShowIcons() const { return FShowIcons; }
+  void SetShowIcons(bool show);
 
   /// Where a component is in its parent (an icon: on the form), and putting it elsewhere.
   static vcl::TRect BoundsOf(const vcl::TComponent& component);
   static void SetBoundsOf(vcl::TComponent& component, const vcl::TRect& bounds);
   /// True for a component that is shown as an icon.
   static bool IsIcon(const vcl::TComponent& component);
+  /// True for a component that the user can see and select on the form.
+  bool Shows(const vcl::TComponent& component) const;
   /// Where a new component goes: into the selected container, or the one around what is selected.
   vcl::TWinControl& Container() const;
   /// Everything that can be selected inside the container; icons are inside the form.
@@ -151,6 +156,7 @@ class TDesignSurface : public vcl::TDesignerHook {
   bool FLocked = false;
   bool FShowGrid = true;
   bool FSnap = true;
+  bool FShowIcons = true;
   TMode FMode = TMode::Idle;
   TGrab FGrab{0, 0};
   vcl::TPoint FStart;

@@ -12,6 +12,10 @@ bool TDesignSurface::IsIcon(const TComponent& component) {
   return !dynamic_cast<const TControl*>(&component) && !component.HasParent();
 }
 
+bool TDesignSurface::Shows(const TComponent& component) const {
+  return dynamic_cast<const TControl*>(&component) || (FShowIcons && IsIcon(component));
+}
+
 TRect TDesignSurface::BoundsOf(const TComponent& component) {
   if (const auto* control = dynamic_cast<const TControl*>(&component)) return control->BoundsRect();
   return Bounds(component.DesignLeft(), component.DesignTop(), PictureSize, PictureSize);
@@ -71,8 +75,7 @@ std::vector<TComponent*> TDesignSurface::Inside(TWinControl& container) const {
   std::vector<TComponent*> inside;
   for (int i = 0; i < FRoot->ComponentCount(); ++i) {
     TComponent* each = FRoot->Components(i);
-    const bool shown = dynamic_cast<TControl*>(each) || IsIcon(*each);
-    if (shown && ParentOf(*each) == &container) inside.push_back(each);
+    if (Shows(*each) && ParentOf(*each) == &container) inside.push_back(each);
   }
   return inside;
 }

@@ -72,7 +72,7 @@ void TDesignSurface::Walk(bool forward) {
   std::vector<TComponent*> all;
   for (int i = 0; i < FRoot->ComponentCount(); ++i) {
     TComponent* each = FRoot->Components(i);
-    if (dynamic_cast<TControl*>(each) || IsIcon(*each)) all.push_back(each);
+    if (Shows(*each)) all.push_back(each);
   }
   if (all.empty()) return;
   if (!forward) std::ranges::reverse(all);

@@ -163,7 +163,7 @@ void TDesignSurface::PlaceIcon(TIcon& icon) {
 
 void TDesignSurface::PlaceIcons() {
   std::vector<TComponent*> shown;
-  for (int i = 0; i < FRoot->ComponentCount(); ++i) {
+  for (int i = 0; FShowIcons && i < FRoot->ComponentCount(); ++i) {
     if (IsIcon(*FRoot->Components(i))) shown.push_back(FRoot->Components(i));
   }
   std::erase_if(FIcons, [&](const TIcon& icon) {

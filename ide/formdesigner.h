@@ -81,6 +81,8 @@ class TFormDesigner : public vcl::TDesigner {
   std::string NameOf(const vcl::TComponent& component) const override;
   std::vector<vcl::TPersistent*> Selection() const override;
   void SetSelection(const std::vector<vcl::TPersistent*>& selection) override;
+  bool ShowNonVisual() const override { return FSurface.ShowIcons(); }
+  void SetShowNonVisual(bool show) override { FSurface.SetShowIcons(show); }
   void ShowCollection(vcl::TPersistent& owner, vcl::TCollection& collection,
                       const std::string& property) override;
 
@@ -94,6 +96,7 @@ class TFormDesigner : public vcl::TDesigner {
   bool IsNameTaken(const std::string& name) const;
   std::vector<vcl::TComponent*> SelectedOutermost() const;
   std::vector<vcl::TControl*> SelectedSiblings() const;
+  void ShowIconsOf(const std::vector<vcl::TComponent*>& made);
   void PlaceBeside(const std::vector<vcl::TComponent*>& pasted) const;
 
   TSelection FSelection;

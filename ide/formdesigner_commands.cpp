@@ -26,9 +26,16 @@ void TFormDesigner::Drop(const TClass& aClass, TWinControl& container, const TRe
     TDesignSurface::SetBoundsOf(
         *made, sized ? place : Bounds(place.Left, place.Top, own.Width(), own.Height()));
     made->SetParentComponent(&container);
+    ShowIconsOf({made.get()});
     FSelection.Only(made.release());
     Modified();
   });
+}
+
+/// What has just been made is seen.
+void TFormDesigner::ShowIconsOf(const std::vector<TComponent*>& made) {
+  const auto isIcon = [](const TComponent* each) { return TDesignSurface::IsIcon(*each); };
+  if (!ShowNonVisual() && std::ranges::any_of(made, isIcon)) SetShowNonVisual(true);
 }
 
 void TFormDesigner::Add(const TClass& aClass) {
@@ -106,6 +113,7 @@ void TFormDesigner::PasteText(const std::string& text) {
   std::vector<TComponent*> pasted;
   FDocument.Paste(text, FSurface.Container(),
                   [&](TComponent* component) { pasted.push_back(component); });
+  ShowIconsOf(pasted);
   PlaceBeside(pasted);
   FSelection.Set({pasted.begin(), pasted.end()});
   Modified();

@@ -29,7 +29,7 @@ struct TStart {
 
 /// The form of mainform.dfm. The sources hold a group of its work each: mainform.cpp the form and
 /// what its parts tell it, mainform_file.cpp files, mainform_commands.cpp the menu's commands.
-class TMainForm : public vcl::TForm, private vcl::TEnvironment {
+class TMainForm : public vcl::TForm, public vcl::TEnvironment {
  public:
   explicit TMainForm(vcl::TComponent* owner);
   ~TMainForm() override;
@@ -52,6 +52,13 @@ class TMainForm : public vcl::TForm, private vcl::TEnvironment {
   TComponentPalette& Palette() { return *FPalette; }
   TStructureTree& Structure() { return *FStructure; }
   TCollectionWindow& Items() { return *FItems; }
+
+  vcl::TMainMenu& MainMenu() override { return *MainMenuBar; }
+  vcl::TDesigner* ActiveDesigner() override { return FDesigner.get(); }
+  std::string FileName() const override { return FDesigner->Document().FileName(); }
+  void SaveFile() override;
+  std::vector<std::string> RememberedFiles() const override;
+  void ForgetFile(const std::string& fileName) override;
 
  private:
   // What the form file fills.
@@ -114,9 +121,6 @@ class TMainForm : public vcl::TForm, private vcl::TEnvironment {
   void PackagesClick(vcl::TObject* sender);
   void PreviewClick(vcl::TObject* sender);
   void AboutClick(vcl::TObject* sender);
-
-  vcl::TMainMenu& MainMenu() override { return *MainMenuBar; }
-  vcl::TDesigner* ActiveDesigner() override { return FDesigner.get(); }
 
   TPackages* FPackages = nullptr;
   std::unique_ptr<TSettings> FSettings;

@@ -62,6 +62,13 @@ bool TMainForm::SaveIn(const std::string& fileName) {
   return saved;
 }
 
+/// What is being typed into the inspector is not the form's yet and stays where it is.
+void TMainForm::SaveFile() {
+  TFormDocument& document = FDesigner->Document();
+  if (document.FileName().empty() || !document.Modified()) return;
+  FDesigner->Try([&] { document.Save(document.FileName()); });
+}
+
 /// Asks what is to be done with changes; false when the user wants to go on with them.
 bool TMainForm::MayLoseChanges() {
   if (!FPackages || !FDesigner->Document().Modified()) return true;
@@ -75,6 +82,17 @@ bool TMainForm::MayLoseChanges() {
 
 void TMainForm::Remember(const std::string& fileName) {
   FSettings->AddRecentFile(fileName);
+  ShowRecentFiles();
+}
+
+std::vector<std::string> TMainForm::RememberedFiles() const {
+  auto files = FSettings->RecentFiles();
+  for (const std::string& each : FSettings->Packages()) files.push_back(each);
+  return files;
+}
+
+void TMainForm::ForgetFile(const std::string& fileName) {
+  FSettings->Forget(fileName);
   ShowRecentFiles();
 }
 

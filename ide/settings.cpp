@@ -69,6 +69,13 @@ void TSettings::SetPackages(const std::vector<std::string>& packages) const {
 
 std::vector<std::string> TSettings::RecentFiles() const { return List("Recent files"); }
 
+void TSettings::Forget(const std::string& fileName) const {
+  for (const char* section : {"Packages", "Recent files"}) {
+    auto files = List(section);
+    if (std::erase(files, fileName) > 0) SetList(section, files);
+  }
+}
+
 void TSettings::AddRecentFile(const std::string& fileName) const {
   auto files = RecentFiles();
   std::erase_if(files, [&](const std::string& each) { return SameText(each, fileName); });

@@ -21,6 +21,8 @@ class TSettings {
   std::vector<std::string> RecentFiles() const;
   /// Puts the file in front.
   void AddRecentFile(const std::string& fileName) const;
+  /// Takes the name out of the lists above that hold it.
+  void Forget(const std::string& fileName) const;
 
  private:
   std::vector<std::string> List(const std::string& section) const;

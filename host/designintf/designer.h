@@ -49,6 +49,9 @@ class VCL_API TDesigner {
   /// What is selected: components, or items of a collection; the root when nothing else is.
   virtual std::vector<TPersistent*> Selection() const = 0;
   virtual void SetSelection(const std::vector<TPersistent*>& selection) = 0;
+  /// True when components that are no controls stand on the form, as icons.
+  virtual bool ShowNonVisual() const = 0;
+  virtual void SetShowNonVisual(bool show) = 0;
   /// Shows the items of a collection, to be added, removed, ordered and selected. `owner` is the
   /// object whose property the collection is.
   virtual void ShowCollection(TPersistent& owner, TCollection& collection,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -23,6 +24,15 @@ class VCL_API TEnvironment {
   virtual TMainMenu& MainMenu() = 0;
   /// The designer of the form in front; null when none is open.
   virtual TDesigner* ActiveDesigner() = 0;
+  /// The file of that form, with its folder; empty for a form that was never saved.
+  virtual std::string FileName() const = 0;
+  /// Saves that form in its file when it has one and was changed. Nobody is asked anything; what
+  /// goes wrong is among the application's messages.
+  virtual void SaveFile() = 0;
+  /// The files that the application remembers from one run to the next: forms that were open, and
+  /// its packages.
+  virtual std::vector<std::string> RememberedFiles() const = 0;
+  virtual void ForgetFile(const std::string& fileName) = 0;
 };
 
 /// An add-in. It adds what it has to the environment in its constructor and takes it away in its

@@ -16,6 +16,10 @@ class TPlainEnvironment : public TEnvironment {
  public:
   TMainMenu& MainMenu() override { return Menu; }
   TDesigner* ActiveDesigner() override { return nullptr; }
+  std::string FileName() const override { return {}; }
+  void SaveFile() override {}
+  std::vector<std::string> RememberedFiles() const override { return {}; }
+  void ForgetFile(const std::string&) override {}
   TMainMenu Menu{nullptr};
 };
 

@@ -20,8 +20,10 @@ namespace {
 
 using namespace testinput;
 using namespace vcl;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 using testing_support::TFolder;
 
 class Designer : public ::testing::Test {
@@ -128,6 +130,14 @@ TEST_F(Designer, FormsAreMadeByMouseAndComeBackFromTheirFile) {
   ASSERT_TRUE(Window->Open(File("made.dfm")));
   EXPECT_EQ(Document().Text(), last);
   EXPECT_THAT(Messages(), ElementsAre());
+
+  // As an add-in saves and forgets it.
+  Place("TButton", At(300, 200), At(300, 200));
+  Window->SaveFile();
+  EXPECT_EQ(Read("made.dfm"), Document().Text());
+  EXPECT_THAT(Window->RememberedFiles(), Contains(File("made.dfm")));
+  Window->ForgetFile(File("made.dfm"));
+  EXPECT_THAT(Window->RememberedFiles(), Not(Contains(File("made.dfm"))));
 }
 
 TEST_F(Designer, SelectsWithTheMouseAndTheKeyboard) {
@@ -160,6 +170,21 @@ TEST_F(Designer, SelectsWithTheMouseAndTheKeyboard) {
   EXPECT_EQ(Find("A")->Left(), Find("B")->Left());
   Click(MiddleOf(Find("C")));
   TypeKey(VK_TAB);
+  EXPECT_THAT(SelectedNames(), ElementsAre("D"));
+  // Hidden icons cannot be selected by either.
+  It().SetShowNonVisual(false);
+  Click(At(210, 210));
+  EXPECT_THAT(SelectedNames(), ElementsAre("F"));
+  Drag(At(190, 190), At(240, 240));
+  EXPECT_THAT(SelectedNames(), ElementsAre("F"));
+  Click(MiddleOf(Find("C")) + Point(-20, 0));
+  TypeKey(VK_TAB);
+  EXPECT_THAT(SelectedNames(), ElementsAre("A"));
+  // A new one shows itself, and the others with it.
+  Place("TTimer", At(240, 200), At(240, 200));
+  EXPECT_TRUE(It().ShowNonVisual());
+  It().Undo();
+  Click(At(210, 212));
   EXPECT_THAT(SelectedNames(), ElementsAre("D"));
   TypeKey(VK_ESCAPE);
   EXPECT_THAT(SelectedNames(), ElementsAre("F"));

@@ -50,6 +50,8 @@ class TPlainDesigner : public vcl::TDesigner {
   void SetSelection(const std::vector<vcl::TPersistent*>& selection) override {
     Selected = selection;
   }
+  bool ShowNonVisual() const override { return NonVisualShown; }
+  void SetShowNonVisual(bool show) override { NonVisualShown = show; }
   void ShowCollection(vcl::TPersistent&, vcl::TCollection&, const std::string& property) override {
     Shown = property;
   }
@@ -59,4 +61,5 @@ class TPlainDesigner : public vcl::TDesigner {
   std::map<std::string, std::type_index> Methods;
   std::string Shown;
   std::vector<vcl::TPersistent*> Selected;
+  bool NonVisualShown = true;
 };
