@@ -1,17 +1,14 @@
-// The editor of the colours between a gradient's first and last one, and its form.
+// The editor of the colours between a gradient's first and last one.
 #pragma once
 
-#include "host/designintf/standardeditors.h"
+#include "design/Qelpropertyeditors.h"
 
 namespace qel {
 
 /// A list of colours. The list is what the form shows when it closes, whichever way it is closed.
-class TQELColorInBetweenProperty : public vcl::TClassProperty {
+class TQELColorInBetweenProperty : public TQELDialogOnlyProperty<vcl::TStringsProperty> {
  public:
-  using TClassProperty::TClassProperty;
-  vcl::TPropertyAttributes GetAttributes() const override {
-    return {vcl::paDialog, vcl::paReadOnly};
-  }
+  using TQELDialogOnlyProperty::TQELDialogOnlyProperty;
   void Edit() override;
 };
 

@@ -17,6 +17,15 @@ void AddFieldNames(const vcl::TDataSet& data, vcl::TStrings& list) {
   for (int i = 0; i < definitions.Count(); ++i) list.Add(definitions.Items(i)->Name());
 }
 
+/// Those of the data set behind the holder's data source, if it has all that.
+void AddFieldNames(const vcl::TObject& holder, const std::string& sourceName, vcl::TStrings& list) {
+  const vcl::TPropInfo* property = holder.ClassType().FindPublished(sourceName);
+  if (!property || property->Kind() != vcl::TTypeKind::Component) return;
+  const auto* source =
+      dynamic_cast<const vcl::TDataSource*>(std::get<vcl::TObject*>(property->Get(holder)));
+  if (source && source->DataSet()) AddFieldNames(*source->DataSet(), list);
+}
+
 }  // namespace
 
 void TQELDBStringProperty::GetValues(const std::function<void(const std::string&)>& each) const {
@@ -26,20 +35,12 @@ void TQELDBStringProperty::GetValues(const std::function<void(const std::string&
 }
 
 void TQELDataFieldProperty::GetValueList(vcl::TStrings& list) const {
-  const vcl::TObject* const holder = Holder();
-  const vcl::TPropInfo* const property =
-      holder ? holder->ClassType().FindPublished(GetDataSourcePropName()) : nullptr;
-  if (!property || property->Kind() != vcl::TTypeKind::Component) return;
-  const auto* source =
-      dynamic_cast<const vcl::TDataSource*>(std::get<vcl::TObject*>(property->Get(*holder)));
-  if (source && source->DataSet()) AddFieldNames(*source->DataSet(), list);
+  AddFieldNames(*Edited().front().Object, GetDataSourcePropName(), list);
 }
 
-const vcl::TObject* TQELDataFieldProperty::Holder() const { return Edited().front().Object; }
-
-const vcl::TObject* TQELItemDataFieldProperty::Holder() const {
+void TQELItemDataFieldProperty::GetValueList(vcl::TStrings& list) const {
   const auto* field = dynamic_cast<const TQELADField*>(Edited().front().Object);
-  return field ? field->Owner() : nullptr;
+  if (field && field->Owner()) AddFieldNames(*field->Owner(), GetDataSourcePropName(), list);
 }
 
 }  // namespace qel

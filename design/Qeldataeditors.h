@@ -26,19 +26,14 @@ class QEL_API TQELDataFieldProperty : public TQELDBStringProperty {
   /// The property of the component that holds its data source.
   virtual std::string GetDataSourcePropName() const { return "DataSource"; }
   void GetValueList(vcl::TStrings& list) const override;
-
- protected:
-  /// The object whose data source it is; null for none.
-  virtual const vcl::TObject* Holder() const;
 };
 
 /// The same for an item of a component's collection of columns.
-class QEL_API TQELItemDataFieldProperty : public TQELDataFieldProperty {
+class QEL_API TQELItemDataFieldProperty : public TQELDBStringProperty {
  public:
-  using TQELDataFieldProperty::TQELDataFieldProperty;
-
- protected:
-  const vcl::TObject* Holder() const override;
+  using TQELDBStringProperty::TQELDBStringProperty;
+  virtual std::string GetDataSourcePropName() const { return "DataSource"; }
+  void GetValueList(vcl::TStrings& list) const override;
 };
 
 }  // namespace qel

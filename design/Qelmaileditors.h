@@ -6,42 +6,30 @@
 namespace qel {
 
 /// The attachments of a mail: a list of files, to which a dialog adds.
-class TQELAttachmentProperty : public vcl::TClassProperty {
+class TQELAttachmentProperty : public vcl::TCollectionProperty {
  public:
-  using TClassProperty::TClassProperty;
-  vcl::TPropertyAttributes GetAttributes() const override {
-    return {vcl::paDialog, vcl::paReadOnly};
-  }
+  using TCollectionProperty::TCollectionProperty;
   void Edit() override;
 };
 
 /// The mails of a component.
-class TQELInetProperty : public vcl::TClassProperty {
+class TQELInetProperty : public vcl::TCollectionProperty {
  public:
-  using TClassProperty::TClassProperty;
-  vcl::TPropertyAttributes GetAttributes() const override {
-    return {vcl::paDialog, vcl::paReadOnly};
-  }
+  using TCollectionProperty::TCollectionProperty;
   void Edit() override;
 };
 
 /// The files that a mail of the system's mail program takes along.
-class TQELMapiAttachmentProperty : public vcl::TClassProperty {
+class TQELMapiAttachmentProperty : public vcl::TCollectionProperty {
  public:
-  using TClassProperty::TClassProperty;
-  vcl::TPropertyAttributes GetAttributes() const override {
-    return {vcl::paDialog, vcl::paReadOnly};
-  }
+  using TCollectionProperty::TCollectionProperty;
   void Edit() override;
 };
 
 /// The mails for the system's mail program.
-class TQELMapiProperty : public vcl::TClassProperty {
+class TQELMapiProperty : public vcl::TCollectionProperty {
  public:
-  using TClassProperty::TClassProperty;
-  vcl::TPropertyAttributes GetAttributes() const override {
-    return {vcl::paDialog, vcl::paReadOnly};
-  }
+  using TCollectionProperty::TCollectionProperty;
   void Edit() override;
 };
 

@@ -17,35 +17,28 @@ class QEL_API TQELFilenameProperty : public vcl::TStringProperty {
   virtual std::string GetFilter() const;
 };
 
-class QEL_API TQELWaveFilenameProperty : public TQELFilenameProperty {
+/// The same with another filter.
+template <const char* Filter>
+class TQELFilteredProperty : public TQELFilenameProperty {
  public:
   using TQELFilenameProperty::TQELFilenameProperty;
-  std::string GetFilter() const override;
+  std::string GetFilter() const override { return Filter; }
 };
 
-class QEL_API TQELBitmapFilenameProperty : public TQELFilenameProperty {
- public:
-  using TQELFilenameProperty::TQELFilenameProperty;
-  std::string GetFilter() const override;
-};
+/// What the dialogs offer. The bar at the end belongs to them.
+namespace filters {
+inline constexpr char Wave[] = "Wave Files (*.wav)|*.wav|";
+inline constexpr char Bitmap[] = "Bitmaps (*.bmp)|*.bmp|";
+inline constexpr char Ini[] = "INI Files (*.ini)|*.ini|";
+inline constexpr char Avi[] = "Avi Files (*.avi)|*.avi|";
+inline constexpr char Log[] = "Log Files (*.log)|*.log|";
+}  // namespace filters
 
-class QEL_API TQELINIFilenameProperty : public TQELFilenameProperty {
- public:
-  using TQELFilenameProperty::TQELFilenameProperty;
-  std::string GetFilter() const override;
-};
-
-class QEL_API TQELAviFilenameProperty : public TQELFilenameProperty {
- public:
-  using TQELFilenameProperty::TQELFilenameProperty;
-  std::string GetFilter() const override;
-};
-
-class QEL_API TQELLogFilenameProperty : public TQELFilenameProperty {
- public:
-  using TQELFilenameProperty::TQELFilenameProperty;
-  std::string GetFilter() const override;
-};
+using TQELWaveFilenameProperty = TQELFilteredProperty<filters::Wave>;
+using TQELBitmapFilenameProperty = TQELFilteredProperty<filters::Bitmap>;
+using TQELINIFilenameProperty = TQELFilteredProperty<filters::Ini>;
+using TQELAviFilenameProperty = TQELFilteredProperty<filters::Avi>;
+using TQELLogFilenameProperty = TQELFilteredProperty<filters::Log>;
 
 /// An editor that shows and never edits: what Base offers, without typing.
 template <class Base>
@@ -61,40 +54,44 @@ using TQELROCaptionProperty = TQELShownProperty<vcl::TCaptionProperty>;
 using TQELROIntegerProperty = TQELShownProperty<vcl::TIntegerProperty>;
 using TQELROBooleanproperty = TQELShownProperty<vcl::TBooleanProperty>;
 
-/// "(Execute)": its button runs the component.
-class QEL_API TQELShowMeNowProperty : public vcl::TStringProperty {
+/// An editor of what only a dialog, or what its button does, changes.
+template <class Base>
+class TQELDialogOnlyProperty : public Base {
  public:
-  using TStringProperty::TStringProperty;
+  using Base::Base;
   vcl::TPropertyAttributes GetAttributes() const override {
     return {vcl::paDialog, vcl::paReadOnly};
   }
+};
+
+/// "(Execute)": its button runs the component.
+class QEL_API TQELShowMeNowProperty : public TQELDialogOnlyProperty<vcl::TStringProperty> {
+ public:
+  using TQELDialogOnlyProperty::TQELDialogOnlyProperty;
   void Edit() override;
 };
 
 /// The about box of a component.
-class QEL_API TQELAboutCompsProperty : public vcl::TClassProperty {
+class QEL_API TQELAboutCompsProperty : public TQELDialogOnlyProperty<vcl::TClassProperty> {
  public:
-  using TClassProperty::TClassProperty;
+  using TQELDialogOnlyProperty::TQELDialogOnlyProperty;
+  void Edit() override;
+};
+
+/// Edits a text in a dialog of many lines, which the text keeps as the system's texts do.
+QEL_API void EditInLines(vcl::TPropertyEditor& editor);
+
+/// A text of several lines.
+template <class Base>
+class TQELLinesProperty : public Base {
+ public:
+  using Base::Base;
   vcl::TPropertyAttributes GetAttributes() const override {
-    return {vcl::paDialog, vcl::paReadOnly};
+    return Base::GetAttributes() + vcl::TPropertyAttributes{vcl::paDialog};
   }
-  void Edit() override;
+  void Edit() override { EditInLines(*this); }
 };
-
-/// A caption of several lines.
-class QEL_API TQELCaptionProperty : public vcl::TCaptionProperty {
- public:
-  using TCaptionProperty::TCaptionProperty;
-  vcl::TPropertyAttributes GetAttributes() const override;
-  void Edit() override;
-};
-
-/// A hint of several lines.
-class QEL_API TQELHintProperty : public vcl::TStringProperty {
- public:
-  using TStringProperty::TStringProperty;
-  vcl::TPropertyAttributes GetAttributes() const override;
-  void Edit() override;
-};
+using TQELCaptionProperty = TQELLinesProperty<vcl::TCaptionProperty>;
+using TQELHintProperty = TQELLinesProperty<vcl::TStringProperty>;
 
 }  // namespace qel

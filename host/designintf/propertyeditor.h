@@ -131,7 +131,7 @@ struct TPropertyEditorEntry {
   std::string Property;
 
   /// True when the entry is for the property of an object of that class.
-  bool Fits(const TClass& aClass, const TPropInfo& property) const;
+  VCL_API bool Fits(const TClass& aClass, const TPropInfo& property) const;
 };
 
 /// Gives an editor to the properties of a type: of the objects of the class and its descendants

@@ -200,24 +200,29 @@ class VCL_API TCollectionProperty : public TPropertyEditor {
   bool CanRevert() const override { return false; }
 };
 
-/// A reference to a component: the names of those that fit.
-class VCL_API TComponentProperty : public TPropertyEditor {
+/// Base of the editors of what is chosen by its name, or is nothing: references and handlers.
+class VCL_API TChosenProperty : public TPropertyEditor {
  public:
   using TPropertyEditor::TPropertyEditor;
   TPropertyAttributes GetAttributes() const override;
+  bool CanRevert() const override { return true; }
+};
+
+/// A reference to a component: the names of those that fit.
+class VCL_API TComponentProperty : public TChosenProperty {
+ public:
+  using TChosenProperty::TChosenProperty;
   std::string GetValue() const override;
   /// An empty text is no component.
   void SetValue(const std::string& text) override;
   void GetValues(const std::function<void(const std::string&)>& each) const override;
-  bool CanRevert() const override { return true; }
   void Revert() override;
 };
 
 /// An event: the names of the handlers that fit.
-class VCL_API TMethodProperty : public TPropertyEditor {
+class VCL_API TMethodProperty : public TChosenProperty {
  public:
-  using TPropertyEditor::TPropertyEditor;
-  TPropertyAttributes GetAttributes() const override;
+  using TChosenProperty::TChosenProperty;
   std::string GetValue() const override;
   /// The name of a handler that exists is taken; another one renames the event's handler, or makes
   /// one when the event has none. An empty text leaves the event without a handler.
@@ -227,7 +232,6 @@ class VCL_API TMethodProperty : public TPropertyEditor {
   void Edit() override;
   bool AllEqual() const override;
   bool IsDefault() const override;
-  bool CanRevert() const override { return true; }
   void Revert() override;
   /// The name that a new handler gets: the object's name and the event's without "On".
   std::string NewHandlerName() const;

@@ -131,7 +131,7 @@ bool TCollectionProperty::IsDefault() const {
 
 // References.
 
-TPropertyAttributes TComponentProperty::GetAttributes() const {
+TPropertyAttributes TChosenProperty::GetAttributes() const {
   return {paMultiSelect, paValueList, paSortList, paRevertable};
 }
 
@@ -158,10 +158,6 @@ void TComponentProperty::GetValues(const std::function<void(const std::string&)>
 void TComponentProperty::Revert() { SetAll(static_cast<TObject*>(nullptr)); }
 
 // Events.
-
-TPropertyAttributes TMethodProperty::GetAttributes() const {
-  return {paMultiSelect, paValueList, paSortList, paRevertable};
-}
 
 std::string TMethodProperty::HandlerOf(const TEditedProperty& edited) const {
   return edited.Property->EventOf(*edited.Object).HandlerName();

@@ -18,37 +18,6 @@ namespace {
 using testing::HasSubstr;
 using testing::ThrowsMessage;
 
-std::vector<std::string> Names(const std::vector<const TClass*>& classes) {
-  std::vector<std::string> names;
-  for (const TClass* each : classes) names.push_back(each->Name());
-  return names;
-}
-
-TEST(Package, PutsItsComponentsOnTheirPages) {
-  const TPackage package("qel.dll");
-  const auto& pages = RegisteredComponents();
-  const struct {
-    const char* Page;
-    std::vector<std::string> Classes;
-  } expected[] = {
-      {"QEL Controls/1", {"TQELBackground", "TQELLabel", "TQELButton", "TQELGauge", "TQELHint"}},
-      {"QEL Controls/2", {"TQELSpinEdit"}},
-      {"QEL DBControls", {"TQELDBAscii"}},
-      {"QEL System/1",
-       {"TQELStoreData", "TQELQuickMail", "TQELSystemTray", "TQELFormSaver", "TQELMRUMenu"}},
-      {"QEL System/2",
-       {"TQELOnlyOne", "TQELTimer32", "TQELPOPMail", "TQELSMTPMail", "TQELMapiMail"}},
-      {"QEL Files", {"TQELExplorerTree"}},
-  };
-  ASSERT_EQ(pages.size(), std::size(expected));
-  for (std::size_t i = 0; i < pages.size(); ++i) {
-    EXPECT_EQ(pages[i].Page, expected[i].Page);
-    EXPECT_EQ(Names(pages[i].Classes), expected[i].Classes) << expected[i].Page;
-  }
-  EXPECT_EQ(PalettePageOf(*pages[0].Classes[0]), "QEL Controls/1");
-  EXPECT_EQ(PalettePageOf(TComponent::Class()), "");
-}
-
 TEST(Package, RegistersItsPersistentClassesByName) {
   const TPackage package("qel.dll");
   for (const char* name : {"TQELFont3D", "TQELGradient", "TQELTexture", "TQELFrame",

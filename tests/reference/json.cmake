@@ -55,6 +55,59 @@ function(expect_property class name kind type default stored)
   json_expect(${stored} classes ${at} published ${entry} stored)
 endfunction()
 
+# expect_rows(LIST "member,member" row...): the list's objects, each as its members with a bar
+# between them, are these rows in this order; a member that is a list has commas between its own.
+function(expect_rows list members)
+  string(REPLACE "," ";" members "${members}")
+  string(JSON count LENGTH "${json}" ${list})
+  math(EXPR last "${count} - 1")
+  set(rows)
+  foreach(i RANGE ${last})
+    set(row)
+    foreach(member IN LISTS members)
+      string(JSON value GET "${json}" ${list} ${i} ${member})
+      string(REGEX REPLACE "[][\"\n]" "" value "${value}")
+      string(REGEX REPLACE " *, *" "," value "${value}")
+      string(STRIP "${value}" value)
+      list(APPEND row "${value}")
+    endforeach()
+    string(REPLACE ";" "|" row "${row}")
+    list(APPEND rows "${row}")
+  endforeach()
+  if(NOT rows STREQUAL "${ARGN}")
+    message(SEND_ERROR "${list} are\n${rows}\ninstead of\n${ARGN}")
+  endif()
+endfunction()
+
+expect_rows(pages name,classes
+  "QEL Controls/1|TQELBackground,TQELLabel,TQELButton,TQELGauge,TQELHint"
+  "QEL Controls/2|TQELSpinEdit"
+  "QEL DBControls|TQELDBAscii"
+  "QEL System/1|TQELStoreData,TQELQuickMail,TQELSystemTray,TQELFormSaver,TQELMRUMenu"
+  "QEL System/2|TQELOnlyOne,TQELTimer32,TQELPOPMail,TQELSMTPMail,TQELMapiMail"
+  "QEL Files|TQELExplorerTree")
+set(dialog "dialog,read-only")
+set(list "value list,multi-select,sorted list")
+expect_rows(propertyEditors editor,type,class,property,attributes
+  "TQELAttachmentProperty|TQELAttachments|TQELMessage|Attachments|${dialog}"
+  "TQELInetProperty|TQELMessages|TQELSMTPMail|Messages|${dialog}"
+  "TQELInetProperty|TQELMessages|TQELPOPMail|Messages|${dialog}"
+  "TQELMapiAttachmentProperty|TQELMapiAttachments|TQELMapiMessage|Attachments|${dialog}"
+  "TQELMapiProperty|TQELMapiMessages|TQELMapiMail|Messages|${dialog}"
+  "TQELColorInBetweenProperty|TStrings|TQELGradient|ColorsInBetween|${dialog}"
+  "TQELItemDataFieldProperty|string|TCollectionItem|DataField|${list}"
+  "TQELShowMeNowProperty|string|TComponent|DesignExecute|${dialog}"
+  "TQELHintProperty|string|TComponent|Hint|dialog,multi-select,revertable"
+  "TQELCaptionProperty|TCaption|TControl|Caption|dialog,multi-select,auto-update,revertable"
+  "TQELAboutCompsProperty|TQELAbout|TPersistent||${dialog}"
+  "TQELDataFieldProperty|string|TComponent|DataUsername|${list}"
+  "TQELDataFieldProperty|string|TComponent|Datapassword|${list}"
+  "TQELINIFilenameProperty|string|TQELStoreData|Filename|dialog")
+expect_rows(componentEditors editor,class,verbs
+  "TQELDialogEditor|TQELExecComponent|Execute the Component,QEL component library,2026"
+  "TQELMailConfigEditor|TQELMailHost|Configure Mail ..."
+  "TQELMailConfigEditor|TQELMapiMail|Configure Mail ...")
+
 expect_class(TQELComponent TComponent "" Qelclasses About)
 expect_class(TQELExecComponent TQELComponent "" Qelclasses DesignExecute)
 expect_class(TQELCustomDialog TQELExecComponent "" Qelclasses Sound)

@@ -33,26 +33,43 @@ std::string EntryJson(const TEntry& entry) {
          ",\"stored\":" + (entry.Stored ? "true" : "false") + "}";
 }
 
-template <class Items, class ToText>
-std::string Joined(const Items& items, const char* separator, ToText toText) {
-  std::string joined;
-  for (const auto& item : items) {
-    if (!joined.empty()) joined += separator;
-    joined += toText(item);
-  }
-  return joined;
-}
-
 std::string ClassJson(const TClassReference& reference) {
   return "{\"name\":" + Quoted(reference.Name) + ",\"ancestor\":" + Quoted(reference.Ancestor) +
          ",\"page\":" + QuotedOrNull(reference.Page) + ",\"unit\":" + Quoted(reference.Unit) +
          ",\"published\":[\n    " + Joined(reference.Published, ",\n    ", EntryJson) + "]}";
 }
 
+std::string NamesJson(const std::vector<std::string>& names) {
+  return "[" + Joined(names, ",", Quoted) + "]";
+}
+
+std::string PageJson(const TPageReference& page) {
+  return "{\"name\":" + Quoted(page.Name) + ",\"classes\":" + NamesJson(page.Classes) + "}";
+}
+
+std::string PropertyEditorJson(const TPropertyEditorReference& each) {
+  return "{\"editor\":" + Quoted(each.Editor) + ",\"type\":" + Quoted(each.Type) +
+         ",\"class\":" + Quoted(each.Class) + ",\"property\":" + Quoted(each.Property) +
+         ",\"attributes\":" + NamesJson(each.Attributes) + "}";
+}
+
+std::string ComponentEditorJson(const TComponentEditorReference& each) {
+  return "{\"editor\":" + Quoted(each.Editor) + ",\"class\":" + Quoted(each.Class) +
+         ",\"verbs\":" + NamesJson(each.Verbs) + "}";
+}
+
+template <class Items, class ToText>
+std::string ListJson(const char* name, const Items& items, ToText toText) {
+  return Quoted(name) + ":[\n  " + Joined(items, ",\n  ", toText) + "]";
+}
+
 }  // namespace
 
-std::string ToJson(const std::vector<TClassReference>& classes) {
-  return "{\"classes\":[\n  " + Joined(classes, ",\n  ", ClassJson) + "]}\n";
+std::string ToJson(const TReference& reference) {
+  return "{" + ListJson("pages", reference.Pages, PageJson) + ",\n" +
+         ListJson("propertyEditors", reference.PropertyEditors, PropertyEditorJson) + ",\n" +
+         ListJson("componentEditors", reference.ComponentEditors, ComponentEditorJson) + ",\n" +
+         ListJson("classes", reference.Classes, ClassJson) + "}\n";
 }
 
 }  // namespace qelref

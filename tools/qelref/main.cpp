@@ -1,4 +1,4 @@
-// qelref: loads the package as a form designer does and prints the reference of its classes.
+// qelref: loads the package as a form designer does and prints the reference of what it has.
 #include <cstdio>
 #include <exception>
 #include <string>
@@ -27,9 +27,9 @@ int main(int argc, char** argv) {
   if ((format != "--json" && format != "--markdown") || argc > 3) return Usage();
   try {
     const vcl::TPackage package(argc > 2 ? argv[2] : PackageFile());
-    const auto classes = qelref::ReferenceOf(package);
+    const auto reference = qelref::ReferenceOf(package);
     const std::string text =
-        format == "--json" ? qelref::ToJson(classes) : qelref::ToMarkdown(classes);
+        format == "--json" ? qelref::ToJson(reference) : qelref::ToMarkdown(reference);
     if (std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0) return 1;
     return 0;
   } catch (const std::exception& error) {

@@ -30,15 +30,44 @@ std::string Section(const TClassReference& reference) {
   return text;
 }
 
+std::string Code(const std::string& text) { return text.empty() ? "" : "`" + text + "`"; }
+
+std::string PageRow(const TPageReference& page) {
+  return "| \"" + page.Name + "\" | " + Joined(page.Classes, ", ", Code) + " |\n";
+}
+
+std::string PropertyEditorRow(const TPropertyEditorReference& each) {
+  const auto plain = [](const std::string& text) { return text; };
+  return "| `" + each.Editor + "` | `" + each.Type + "` | `" + each.Class + "` | " +
+         Code(each.Property) + " | " + Joined(each.Attributes, ", ", plain) + " |\n";
+}
+
+std::string ComponentEditorRow(const TComponentEditorReference& each) {
+  const auto verb = [](const std::string& text) { return "\"" + text + "\""; };
+  return "| `" + each.Editor + "` | `" + each.Class + "` | " + Joined(each.Verbs, ", ", verb) +
+         " |\n";
+}
+
 }  // namespace
 
-std::string ToMarkdown(const std::vector<TClassReference>& classes) {
+std::string ToMarkdown(const TReference& reference) {
   std::string text =
-      "# Reference\n\nThe classes of the package and what each of them declares or publishes, in "
-      "declared order. A value equal to its default is not written to form files; one without a "
-      "default always is. Printed by `./run qelref --markdown`.\n";
-  for (const TClassReference& reference : classes) text += Section(reference);
-  return text;
+      "# Reference\n\nWhat the package brings into a form designer, and its classes. Printed by "
+      "`./run qelref --markdown`.\n\n## Palette\n\n| Page | Components, in order |\n|---|---|\n";
+  text += Joined(reference.Pages, "", PageRow);
+  text +=
+      "\n## Property editors\n\nIn the order of their registration. An editor is for the property "
+      "of that type and name, or without a name for all of that type, of the class and its "
+      "descendants.\n\n| Editor | Type | Class | Property | Attributes |\n|---|---|---|---|---|\n";
+  text += Joined(reference.PropertyEditors, "", PropertyEditorRow);
+  text +=
+      "\n## Component editors\n\nA double click on a component does what the first command "
+      "does.\n\n| Editor | Class | Commands |\n|---|---|---|\n";
+  text += Joined(reference.ComponentEditors, "", ComponentEditorRow);
+  text +=
+      "\n# Classes\n\nWhat each of them declares or publishes, in declared order. A value equal to "
+      "its default is not written to form files; one without a default always is.\n";
+  return text + Joined(reference.Classes, "", Section);
 }
 
 }  // namespace qelref

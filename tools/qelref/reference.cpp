@@ -34,10 +34,17 @@ TClassReference ReferenceOf(const vcl::TClass& aClass) {
 
 }  // namespace
 
-std::vector<TClassReference> ReferenceOf(const vcl::TPackage& package) {
-  std::vector<TClassReference> references;
-  for (const vcl::TClass* aClass : package.Classes()) references.push_back(ReferenceOf(*aClass));
-  return references;
+TReference ReferenceOf(const vcl::TPackage& package) {
+  TReference reference;
+  for (const auto& [page, classes] : vcl::RegisteredComponents()) {
+    reference.Pages.push_back({page, {}});
+    for (const vcl::TClass* each : classes) reference.Pages.back().Classes.push_back(each->Name());
+  }
+  AddEditors(reference, package);
+  for (const vcl::TClass* each : package.Classes()) {
+    reference.Classes.push_back(ReferenceOf(*each));
+  }
+  return reference;
 }
 
 }  // namespace qelref

@@ -1,4 +1,4 @@
-// The reference of a package's classes: what is printed, whatever the format.
+// The reference of a package: what is printed, whatever the format.
 #pragma once
 
 #include <optional>
@@ -31,10 +31,52 @@ struct TClassReference {
   std::vector<TEntry> Published;
 };
 
-/// The classes in the order in which the package lists them.
-std::vector<TClassReference> ReferenceOf(const vcl::TPackage& package);
+/// A page of the palette and the classes that the package has put on it, in order.
+struct TPageReference {
+  std::string Name;
+  std::vector<std::string> Classes;
+};
 
-std::string ToJson(const std::vector<TClassReference>& classes);
-std::string ToMarkdown(const std::vector<TClassReference>& classes);
+/// Which properties an editor is for (an empty name: all of the type), and what it offers.
+struct TPropertyEditorReference {
+  std::string Editor;
+  std::string Type;
+  std::string Class;
+  std::string Property;
+  std::vector<std::string> Attributes;
+};
+
+/// Which components an editor is for, and its commands.
+struct TComponentEditorReference {
+  std::string Editor;
+  std::string Class;
+  std::vector<std::string> Verbs;
+};
+
+/// Pages and editors in the order of their registration, classes in that of the package's list.
+struct TReference {
+  std::vector<TPageReference> Pages;
+  std::vector<TPropertyEditorReference> PropertyEditors;
+  std::vector<TComponentEditorReference> ComponentEditors;
+  std::vector<TClassReference> Classes;
+};
+
+TReference ReferenceOf(const vcl::TPackage& package);
+/// The two lists of editors, which are asked what they offer.
+void AddEditors(TReference& reference, const vcl::TPackage& package);
+
+std::string ToJson(const TReference& reference);
+std::string ToMarkdown(const TReference& reference);
+
+/// The items as texts, with the separator between them.
+template <class Items, class ToText>
+std::string Joined(const Items& items, const char* separator, ToText toText) {
+  std::string joined;
+  for (const auto& item : items) {
+    if (&item != &*items.begin()) joined += separator;
+    joined += toText(item);
+  }
+  return joined;
+}
 
 }  // namespace qelref
