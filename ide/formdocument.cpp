@@ -116,6 +116,10 @@ void TFormDocument::Paste(const std::string& text, TWinControl& parent,
 
 // Former states.
 
+bool TFormDocument::IsFresh() const {
+  return FFileName.empty() && !Modified() && !CanUndo() && !CanRedo();
+}
+
 void TFormDocument::Changed(const std::string& key) {
   FHistory.Add(State(), key);
   Tell(OnChange);

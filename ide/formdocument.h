@@ -26,6 +26,7 @@ class TFormDocument {
 
   /// The form; only after New, Load or Restore.
   vcl::TForm& Root() const { return *FRoot; }
+  bool HasRoot() const { return FRoot != nullptr; }
   /// The file's name with its folder; empty for a form that was never saved.
   const std::string& FileName() const { return FFileName; }
 
@@ -44,6 +45,8 @@ class TFormDocument {
   /// To be called after every change; see TUndoHistory::Add.
   void Changed(const std::string& key = {});
   bool Modified() const { return FRoot && !FHistory.Clean(); }
+  /// True for a form that nothing was done with yet, nor one is there.
+  bool IsFresh() const;
   bool CanUndo() const { return FHistory.CanUndo(); }
   bool CanRedo() const { return FHistory.CanRedo(); }
   void Undo();

@@ -33,6 +33,7 @@ const TClass& TMainForm::Class() {
                              Field<&T::SaveDialog>("SaveDialog"),
                              Field<&T::AutosaveTimer>("AutosaveTimer"),
                              Field<&T::DesignMenu>("DesignMenu"),
+                             Field<&T::WindowMenu>("WindowMenu"),
                              Method<&T::FormShow>("FormShow"),
                              Method<&T::FormCloseQuery>("FormCloseQuery"),
                              Method<&T::MenuClick>("MenuClick"),
@@ -43,6 +44,10 @@ const TClass& TMainForm::Class() {
                              Method<&T::SaveAsClick>("SaveAsClick"),
                              Method<&T::WriteUnitClick>("WriteUnitClick"),
                              Method<&T::ExitClick>("ExitClick"),
+                             Method<&T::CloseFormClick>("CloseFormClick"),
+                             Method<&T::NextFormClick>("NextFormClick"),
+                             Method<&T::PreviousFormClick>("PreviousFormClick"),
+                             Method<&T::WindowMenuClick>("WindowMenuClick"),
                              Method<&T::CommandClick>("CommandClick"),
                              Method<&T::TabOrderClick>("TabOrderClick"),
                              Method<&T::CreationClick>("CreationClick"),
@@ -56,7 +61,6 @@ const TClass& TMainForm::Class() {
 
 TMainForm::TMainForm(TComponent* owner)
     : TForm(owner),
-      FWorkspace(new TWorkspace(this)),
       FInspector(new TObjectInspector(this)),
       FPalette(new TComponentPalette(this)),
       FStructure(new TStructureTree(this)),
@@ -66,15 +70,15 @@ TMainForm::TMainForm(TComponent* owner)
   FStructure->SetHeight(structureHeight);
   FStructure->SetParent(SidePanel);
   FStructure->SetAlign(alTop);
-  FWorkspace->SetParent(this);
-  FWorkspace->SetAlign(alClient);
   FInspector->SetParent(SidePanel);
   FInspector->SetAlign(alClient);
   FPalette->SetParent(PalettePanel);
   FPalette->SetAlign(alClient);
   FPalette->OnSelect = TNotifyEvent([this](TObject*) { TakeTool(); });
   FPalette->OnAdd = [this](const TClass& aClass) { FDesigner->Add(aClass); };
-  MakeDesigner();
+  FForms = std::make_unique<TOpenForms>(*this);
+  FForms->OnWanted = [this](TFormDesigner& designer) { WorkOn(designer); };
+  FDesigner = &AddForm();
   Application()->OnHint = TNotifyEvent(
       [this](TObject*) { StatusBar->Panels()->Items(2)->SetText(Application()->Hint()); });
   Application()->OnMessage = TMessageEvent(this, &TMainForm::ApplicationMessage);
@@ -85,29 +89,8 @@ TMainForm::~TMainForm() {
   Application()->OnHint.Clear();
   Application()->OnMessage.Clear();
   FExperts.clear();
-  FDesigner.reset();
-}
-
-void TMainForm::MakeDesigner() {
-  FDesigner = std::make_unique<TFormDesigner>(FWorkspace->Desktop());
-  FDesigner->Events.Changed = [this] { FormChanged(); };
-  FDesigner->Events.SelectionChanged = [this] { SelectionChanged(); };
-  FDesigner->Events.RootGoing = [this] { RootGoing(); };
-  FDesigner->Events.ShowCollection = [this](TPersistent&, TCollection& items, const std::string&) {
-    FItems->ShowItems(*FDesigner, items);
-  };
-  FDesigner->Events.Placed = [this] {
-    FPalette->Placed();
-    TakeTool();
-  };
-  FDesigner->Events.Problem = [this](const std::string& message) { Tell(message); };
-  FDesigner->Events.ShowMethod = [this](const std::string& name) {
-    Tell(Concat("The handler ", name, " is written into the form's unit (File, Write C++ unit)"));
-  };
-  FDesigner->Surface().Events.ContextMenu = [this](TPoint at) { ShowDesignMenu(at); };
-  FDesigner->Surface().Events.Key = [this](WPARAM key) { return DesignKey(key); };
-  FDesigner->Surface().Events.PlacingEnded = [this] { FPalette->SelectTool(nullptr); };
-  FDesigner->Surface().Events.Close = [this] { NewClick(this); };
+  TakeDesigner(nullptr);
+  FForms.reset();
 }
 
 void TMainForm::Begin(const TStart& start, TPackages& packages) {
@@ -116,7 +99,7 @@ void TMainForm::Begin(const TStart& start, TPackages& packages) {
                                                                      : start.SettingsFile);
   LoadPackages(start);
   ShowRecentFiles();
-  if (start.FileName.empty() || !Open(start.FileName)) NewClick(this);
+  if (start.FileName.empty() || !Open(start.FileName)) NewForm("Form1");
 }
 
 void TMainForm::LoadPackages(const TStart& start) {
@@ -149,23 +132,25 @@ void TMainForm::ShowTitle() {
   StatusBar->Panels()->Items(1)->SetText(document.Modified() ? "Modified" : "");
 }
 
-void TMainForm::FormChanged() {
+void TMainForm::FormChanged(TFormDesigner& designer) {
+  FForms->ShowChanged(designer);
+  if (&designer != FDesigner) return;
   ShowTitle();
-  const TForm& root = FDesigner->Document().Root();
-  constexpr int margin = 40;
-  FWorkspace->SetExtent({root.Left() + root.Width() + margin, root.Top() + root.Height() + margin});
   FInspector->Refresh();
   FStructure->Refresh();
   FItems->Refresh();
   ShowSelected();
 }
 
-/// The form will be made anew; the parts take it when something on it is selected.
-void TMainForm::RootGoing() {
-  FInspector->SetDesigner(nullptr);
-  FStructure->SetDesigner(nullptr);
-  FItems->SetDesigner(nullptr);
+/// Has the parts show the designer's form; null for none.
+void TMainForm::TakeDesigner(TFormDesigner* designer) {
+  FInspector->SetDesigner(designer);
+  FStructure->SetDesigner(designer);
+  FItems->SetDesigner(designer);
 }
+
+/// The form will be made anew; the parts take it when something on it is selected.
+void TMainForm::RootGoing() { TakeDesigner(nullptr); }
 
 void TMainForm::SelectionChanged() {
   if (FInspector->Designer()) {
@@ -173,9 +158,7 @@ void TMainForm::SelectionChanged() {
     FStructure->SelectionChanged();
     FItems->SelectionChanged();
   } else {
-    FInspector->SetDesigner(FDesigner.get());
-    FStructure->SetDesigner(FDesigner.get());
-    FItems->SetDesigner(FDesigner.get());
+    TakeDesigner(FDesigner);
   }
   ShowSelected();
 }
@@ -192,23 +175,13 @@ void TMainForm::ShowSelected() {
   StatusBar->Panels()->Items(0)->SetText(text);
 }
 
-void TMainForm::FormShow(TObject*) { ShowWhole(); }
+void TMainForm::FormShow(TObject*) { FForms->ShowWhole(); }
 
-/// Brings the form's upper left corner into view.
-void TMainForm::ShowWhole() {
-  if (!FDesigner || !FPackages) return;
-  constexpr int margin = 8;
-  const TForm& root = FDesigner->Document().Root();
-  FWorkspace->ScrollTo(root.Left() - margin, root.Top() - margin);
-}
-
-void TMainForm::FormCloseQuery(TObject*, bool& canClose) {
-  canClose = MayLoseChanges();
-  if (canClose) FDesigner->Document().DiscardAutosave();
-}
+void TMainForm::FormCloseQuery(TObject*, bool& canClose) { canClose = MayEnd(); }
 
 void TMainForm::AutosaveTimerTick(TObject*) {
-  if (FPackages) FDesigner->Try([this] { FDesigner->Document().Autosave(); });
+  if (!FPackages) return;
+  for (TFormDesigner* each : FForms->All()) each->Try([each] { each->Document().Autosave(); });
 }
 
 // The designer's own keys and menu.

@@ -94,6 +94,12 @@ object MainForm: TMainForm
         ShortCut = 16469
         OnClick = WriteUnitClick
       end
+      object CloseFormItem: TMenuItem
+        Caption = '&Close form'
+        Hint = 'Closes the form that is worked on'
+        ShortCut = 16499
+        OnClick = CloseFormClick
+      end
       object Line2: TMenuItem
         Caption = '-'
       end
@@ -316,6 +322,25 @@ object MainForm: TMainForm
         Hint = 'Opens the editor of the selected component'
         ShortCut = 122
         OnClick = CommandClick
+      end
+    end
+    object WindowMenu: TMenuItem
+      Caption = '&Window'
+      OnClick = WindowMenuClick
+      object NextFormItem: TMenuItem
+        Caption = '&Next form'
+        Hint = 'Works on the next form that is open'
+        ShortCut = 16501
+        OnClick = NextFormClick
+      end
+      object PreviousFormItem: TMenuItem
+        Caption = '&Previous form'
+        Hint = 'Works on the form before this one'
+        ShortCut = 24693
+        OnClick = PreviousFormClick
+      end
+      object Line7: TMenuItem
+        Caption = '-'
       end
     end
     object HelpMenu: TMenuItem

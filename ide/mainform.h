@@ -9,12 +9,12 @@
 #include "host/vcl/vcl.h"
 #include "ide/formdesigner.h"
 #include "ide/inspector.h"
+#include "ide/openforms.h"
 #include "ide/packages.h"
 #include "ide/palette.h"
 #include "ide/settings.h"
 #include "ide/structure.h"
 #include "ide/structurecollection.h"
-#include "ide/workspace.h"
 
 namespace ide {
 
@@ -28,7 +28,8 @@ struct TStart {
 };
 
 /// The form of mainform.dfm. The sources hold a group of its work each: mainform.cpp the form and
-/// what its parts tell it, mainform_file.cpp files, mainform_commands.cpp the menu's commands.
+/// what its parts tell it, mainform_file.cpp files, mainform_forms.cpp which form is worked on,
+/// mainform_commands.cpp the menu's commands.
 class TMainForm : public vcl::TForm, public vcl::TEnvironment {
  public:
   explicit TMainForm(vcl::TComponent* owner);
@@ -38,14 +39,16 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
 
   /// Loads the packages and opens the form.
   void Begin(const TStart& start, TPackages& packages);
-  /// Opens a form file in place of the present form. What is wrong with it is among the messages;
-  /// false when it could not be opened.
+  /// Opens a form file and works on it from now on; a file that is open is shown. What is wrong
+  /// with it is among the messages; false when it could not be opened.
   bool Open(const std::string& fileName);
   /// Writes or updates the C++ unit beside the form file. What there is to know is among the
   /// messages; false when it could not be written.
   bool WriteUnit();
 
+  /// Of the form that is worked on.
   TFormDesigner& FormDesigner() { return *FDesigner; }
+  TOpenForms& Forms() { return *FForms; }
   const TPackages& Packages() const { return *FPackages; }
   vcl::TListBox& MessageList() { return *Messages; }
   TObjectInspector& Inspector() { return *FInspector; }
@@ -54,7 +57,7 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   TCollectionWindow& Items() { return *FItems; }
 
   vcl::TMainMenu& MainMenu() override { return *MainMenuBar; }
-  vcl::TDesigner* ActiveDesigner() override { return FDesigner.get(); }
+  vcl::TDesigner* ActiveDesigner() override { return FDesigner; }
   std::string FileName() const override { return FDesigner->Document().FileName(); }
   void SaveFile() override;
   std::vector<std::string> RememberedFiles() const override;
@@ -77,17 +80,18 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   vcl::TSaveDialog* SaveDialog = nullptr;
   vcl::TTimer* AutosaveTimer = nullptr;
   vcl::TPopupMenu* DesignMenu = nullptr;
+  vcl::TMenuItem* WindowMenu = nullptr;
 
   // The form and its parts.
   void FormShow(vcl::TObject* sender);
   void FormCloseQuery(vcl::TObject* sender, bool& canClose);
   void MenuClick(vcl::TObject* sender);
   void AutosaveTimerTick(vcl::TObject* sender);
-  void MakeDesigner();
   void LoadPackages(const TStart& start);
-  void FormChanged();
+  void FormChanged(TFormDesigner& designer);
   void RootGoing();
   void SelectionChanged();
+  void TakeDesigner(TFormDesigner* designer);
   void ShowSelected();
   void ShowTitle();
   void TakeTool();
@@ -96,6 +100,18 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   void AddVerbs();
   bool DesignKey(WPARAM key);
   void ApplicationMessage(MSG& message, bool& handled);
+
+  // Which form is worked on.
+  TFormDesigner& AddForm();
+  void ListenTo(TFormDesigner& designer);
+  void WorkOn(TFormDesigner& designer);
+  void NewForm(const std::string& name);
+  bool CloseForm();
+  bool MayEnd();
+  void CloseFormClick(vcl::TObject* sender);
+  void NextFormClick(vcl::TObject* sender);
+  void PreviousFormClick(vcl::TObject* sender);
+  void WindowMenuClick(vcl::TObject* sender);
 
   // Files.
   void NewClick(vcl::TObject* sender);
@@ -111,7 +127,6 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   bool MayLoseChanges();
   void Remember(const std::string& fileName);
   void ShowRecentFiles();
-  void ShowWhole();
 
   // Commands.
   void CommandClick(vcl::TObject* sender);
@@ -122,14 +137,16 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   void PreviewClick(vcl::TObject* sender);
   void AboutClick(vcl::TObject* sender);
 
+  void Dispatch(vcl::TMessage& message) override;
+
   TPackages* FPackages = nullptr;
   std::unique_ptr<TSettings> FSettings;
-  TWorkspace* FWorkspace;
   TObjectInspector* FInspector;
   TComponentPalette* FPalette;
   TStructureTree* FStructure;
   TCollectionWindow* FItems;
-  std::unique_ptr<TFormDesigner> FDesigner;
+  std::unique_ptr<TOpenForms> FForms;
+  TFormDesigner* FDesigner = nullptr;  // The active one of them.
   std::vector<std::unique_ptr<vcl::TExpert>> FExperts;
 };
 

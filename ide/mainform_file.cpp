@@ -1,26 +1,40 @@
 // TMainForm: files.
+#include <filesystem>
+
 #include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
+#include "host/vcl/windowtext.h"
 #include "ide/mainform.h"
 
 namespace ide {
 
 using namespace vcl;
 
-void TMainForm::NewClick(TObject*) {
-  if (!MayLoseChanges()) return;
-  FDesigner->Try([this] { FDesigner->Document().New("Form1"); });
-  ShowWhole();
-}
+void TMainForm::NewClick(TObject*) { NewForm(FForms->UniqueFormName()); }
 
 void TMainForm::OpenClick(TObject*) {
-  if (OpenDialog->Execute() && MayLoseChanges()) Open(OpenDialog->FileName());
+  if (OpenDialog->Execute()) Open(OpenDialog->FileName());
 }
 
-bool TMainForm::Open(const std::string& fileName) {
+namespace {
+
+/// The same wherever the current folder is later.
+std::string FullName(const std::string& fileName) {
+  return ToUtf8(std::filesystem::absolute(ToUtf16(fileName)).wstring());
+}
+
+}  // namespace
+
+bool TMainForm::Open(const std::string& name) {
+  const std::string fileName = FullName(name);
+  if (TFormDesigner* open = FForms->OfFile(fileName)) {
+    WorkOn(*open);
+    return true;
+  }
   bool opened = false;
-  TFormDocument& document = FDesigner->Document();
-  FDesigner->Try([&] {
+  TFormDesigner& designer = FDesigner->Document().IsFresh() ? *FDesigner : AddForm();
+  TFormDocument& document = designer.Document();
+  designer.Try([&] {
     const bool saved =
         TFormDocument::HasAutosave(fileName) &&
         Application()->MessageBox(Concat(fileName,
@@ -31,7 +45,11 @@ bool TMainForm::Open(const std::string& fileName) {
     opened = true;
     Remember(fileName);
   });
-  if (opened) ShowWhole();
+  if (opened) {
+    WorkOn(designer);
+  } else if (&designer != FDesigner) {
+    FForms->Remove(designer);
+  }
   return opened;
 }
 
@@ -71,7 +89,7 @@ void TMainForm::SaveFile() {
 
 /// Asks what is to be done with changes; false when the user wants to go on with them.
 bool TMainForm::MayLoseChanges() {
-  if (!FPackages || !FDesigner->Document().Modified()) return true;
+  if (!FDesigner->Document().Modified()) return true;
   const int answer = Application()->MessageBox(
       Concat("Save the changes of ", FDesigner->Document().Root().Name(), "?"), "Designer",
       MB_YESNOCANCEL | MB_ICONQUESTION);
@@ -109,7 +127,7 @@ void TMainForm::ShowRecentFiles() {
 
 void TMainForm::RecentFileClick(TObject* sender) {
   const std::string name = dynamic_cast<TMenuItem&>(*sender).Caption();
-  if (MayLoseChanges()) Open(name);
+  Open(name);
 }
 
 }  // namespace ide

@@ -1,0 +1,132 @@
+#include "ide/openforms.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "host/rtl/convert.h"
+#include "host/rtl/text.h"
+#include "host/vcl/windowtext.h"
+
+namespace ide {
+
+using namespace vcl;
+
+TOpenForms::TOpenForms(TWinControl& window) : FPages(new TPageControl(&window)) {
+  FPages->SetParent(&window);
+  FPages->SetAlign(alClient);
+  FPages->SetTabStop(false);
+  FPages->OnChange = TNotifyEvent([this](TObject*) { TabChanged(); });
+}
+
+TOpenForms::~TOpenForms() { FPages->OnChange.Clear(); }
+
+std::vector<TFormDesigner*> TOpenForms::All() const {
+  std::vector<TFormDesigner*> all;
+  for (const TPage& each : FOpen) all.push_back(each.Designer.get());
+  return all;
+}
+
+TOpenForms::TPage& TOpenForms::PageOf(const TFormDesigner& designer) {
+  return *std::ranges::find(FOpen, &designer,
+                            [](const TPage& each) { return each.Designer.get(); });
+}
+
+// Coming and going.
+
+TFormDesigner& TOpenForms::Add() {
+  auto* sheet = new TTabSheet(FPages->Owner());
+  auto* workspace = new TWorkspace(sheet);
+  workspace->SetParent(sheet);
+  workspace->SetAlign(alClient);
+  sheet->SetPageControl(FPages);
+  FOpen.push_back({sheet, workspace, std::make_unique<TFormDesigner>(workspace->Desktop())});
+  return *FOpen.back().Designer;
+}
+
+void TOpenForms::Remove(TFormDesigner& designer) {
+  TPage& page = PageOf(designer);
+  TTabSheet* sheet = page.Sheet;
+  if (FActive == &designer) FActive = nullptr;
+  FOpen.erase(FOpen.begin() + (&page - FOpen.data()));
+  delete sheet;
+}
+
+// Which one is worked on.
+
+void TOpenForms::Activate(TFormDesigner& designer) {
+  TDesignSurface& surface = designer.Surface();
+  if (FActive) {
+    TDesignSurface& former = FActive->Surface();
+    former.SetPlacing(nullptr);
+    surface.SetShowGrid(former.ShowGrid());
+    surface.SetSnapToGrid(former.SnapToGrid());
+  }
+  FActive = &designer;
+  FPages->SetActivePage(PageOf(designer).Sheet);
+  if (FPages->Showing()) ::SetFocus(designer.Document().Root().Handle());
+}
+
+TFormDesigner& TOpenForms::Next(bool forward) const {
+  const auto all = All();
+  const std::size_t at = static_cast<std::size_t>(std::ranges::find(all, FActive) - all.begin());
+  return *all[(at + (forward ? 1 : all.size() - 1)) % all.size()];
+}
+
+void TOpenForms::TabChanged() {
+  const auto wanted = std::ranges::find(FOpen, FPages->ActivePage(), &TPage::Sheet);
+  if (wanted != FOpen.end() && OnWanted) OnWanted(*wanted->Designer);
+}
+
+// Names.
+
+TFormDesigner* TOpenForms::OfFile(const std::string& fileName) const {
+  const std::filesystem::path wanted(ToUtf16(fileName));
+  for (const TPage& each : FOpen) {
+    const std::string& name = each.Designer->Document().FileName();
+    std::error_code missing;  // Two names of no file are none of the same.
+    const bool same =
+        !name.empty() &&
+        (SameText(name, fileName) || std::filesystem::equivalent(wanted, ToUtf16(name), missing));
+    if (same) return each.Designer.get();
+  }
+  return nullptr;
+}
+
+std::string TOpenForms::UniqueFormName() const {
+  for (int i = 1;; ++i) {
+    std::string name = "Form" + IntToStr(i);
+    const bool taken = std::ranges::any_of(FOpen, [&](const TPage& each) {
+      const TFormDocument& document = each.Designer->Document();
+      return document.HasRoot() && SameText(document.Root().Name(), name);
+    });
+    if (!taken) return name;
+  }
+}
+
+std::string ShortName(TFormDesigner& designer) {
+  const TFormDocument& document = designer.Document();
+  const std::string& name = document.FileName();
+  if (name.empty()) return document.Root().Name();
+  return name.substr(name.find_last_of("\\/") + 1);  // npos + 1 is 0.
+}
+
+// What is shown.
+
+void TOpenForms::ShowChanged(const TFormDesigner& designer) {
+  TPage& page = PageOf(designer);
+  const TFormDocument& document = page.Designer->Document();
+  constexpr int margin = 40;
+  const TForm& root = document.Root();
+  page.Workspace->SetExtent(
+      {root.Left() + root.Width() + margin, root.Top() + root.Height() + margin});
+  page.Sheet->SetCaption(Concat(ShortName(*page.Designer), document.Modified() ? " *" : ""));
+}
+
+void TOpenForms::ShowWhole() {
+  if (!FActive) return;
+  constexpr int margin = 8;
+  const TForm& root = FActive->Document().Root();
+  PageOf(*FActive).Workspace->ScrollTo(root.Left() - margin, root.Top() - margin);
+}
+
+}  // namespace ide
