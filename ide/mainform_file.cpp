@@ -20,7 +20,9 @@ namespace {
 
 /// The same wherever the current folder is later.
 std::string FullName(const std::string& fileName) {
-  return ToUtf8(std::filesystem::absolute(ToUtf16(fileName)).wstring());
+  std::error_code error;
+  const std::filesystem::path full = std::filesystem::absolute(ToUtf16(fileName), error);
+  return error ? fileName : ToUtf8(full.wstring());
 }
 
 }  // namespace
@@ -47,6 +49,7 @@ bool TMainForm::Open(const std::string& name) {
   });
   if (opened) {
     WorkOn(designer);
+    FForms->ShowWhole();
   } else if (&designer != FDesigner) {
     FForms->Remove(designer);
   }
@@ -73,6 +76,10 @@ bool TMainForm::SaveIn(const std::string& fileName) {
   bool saved = false;
   if (!FInspector->Apply()) return false;
   FDesigner->Try([&] {
+    const TFormDesigner* open = FForms->OfFile(fileName);
+    if (open && open != FDesigner) {
+      throw EInOutError(Concat("The file ", fileName, " is open as another form"));
+    }
     FDesigner->Document().Save(fileName);
     saved = true;
     Remember(fileName);

@@ -66,7 +66,6 @@ void TMainForm::WorkOn(TFormDesigner& designer) {
   if (!other) return;
   TakeDesigner(FDesigner);
   TakeTool();
-  FForms->ShowWhole();
   FormChanged(designer);
 }
 
@@ -74,6 +73,7 @@ void TMainForm::NewForm(const std::string& name) {
   TFormDesigner& designer = FDesigner->Document().HasRoot() ? AddForm() : *FDesigner;
   designer.Document().New(name);
   WorkOn(designer);
+  FForms->ShowWhole();
 }
 
 /// Asks what is to be done with changes; false when the user wants to go on with the form.
