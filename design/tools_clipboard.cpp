@@ -2,21 +2,14 @@
 #include "design/toollist.h"
 #include "design/tools.h"
 #include "host/rtl/convert.h"
-#include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
-#include "host/vcl/application.h"
+#include "host/vcl/clipboardtext.h"
 #include "host/vcl/windowtext.h"
 
 namespace qel {
 namespace {
 
 using namespace vcl;
-
-/// One kind of data on the clipboard.
-struct TContent {
-  std::string Name;
-  std::string Details;
-};
 
 constexpr struct {
   UINT Format;
@@ -46,51 +39,28 @@ std::string FormatName(UINT format) {
   return Concat("Format ", IntToStr(format));
 }
 
-class TOpenClipboard {
- public:
-  TOpenClipboard() {
-    if (::OpenClipboard(Application()->Handle())) return;
-    throw EOutOfResources("The clipboard cannot be opened: another program has it open");
-  }
-  ~TOpenClipboard() { ::CloseClipboard(); }
-  TOpenClipboard(const TOpenClipboard&) = delete;
-  TOpenClipboard& operator=(const TOpenClipboard&) = delete;
-};
-
-/// The text without what follows its NUL, or as much as the block holds.
-std::string TextOf(HGLOBAL block) {
-  const auto* text = static_cast<const wchar_t*>(::GlobalLock(block));
-  if (!text) return {};
-  const std::wstring_view whole(text, ::GlobalSize(block) / sizeof *text);
-  std::string result = ToUtf8(whole.substr(0, whole.find(L'\0')));
-  ::GlobalUnlock(block);
-  return result;
-}
-
-/// Only text can be shown; pictures on the clipboard are no blocks of memory.
-std::string DetailsOf(UINT format) {
-  if (format != CF_UNICODETEXT) return Concat("Data of the format \"", FormatName(format), "\"");
-  const HANDLE data = ::GetClipboardData(format);
-  return data ? TextOf(data) : std::string();
-}
-
-std::vector<TContent> ReadClipboard() {
-  std::vector<TContent> contents;
-  const TOpenClipboard opened;
+std::vector<UINT> FormatsOnClipboard() {
+  std::vector<UINT> formats;
+  const TClipboardTurn turn;
   for (UINT format = ::EnumClipboardFormats(0); format; format = ::EnumClipboardFormats(format)) {
-    contents.push_back({FormatName(format), DetailsOf(format)});
+    formats.push_back(format);
   }
-  return contents;
+  return formats;
 }
 
 }  // namespace
 
+// Of the formats only text can be shown.
 void ViewClipboard(TEnvironment&) {
-  const auto contents = ReadClipboard();
+  const auto formats = FormatsOnClipboard();
+  const std::string text = ClipboardText();
   TQELToolList list{"Clipboard Contents", {}, [&](int index) {
-                      return contents[static_cast<std::size_t>(index)].Details;
+                      const UINT format = formats[static_cast<std::size_t>(index)];
+                      return format == CF_UNICODETEXT
+                                 ? text
+                                 : Concat("Data of the format \"", FormatName(format), "\"");
                     }};
-  for (const TContent& content : contents) list.Lines.push_back(content.Name);
+  for (const UINT format : formats) list.Lines.push_back(FormatName(format));
   ShowToolList(list);
 }
 

@@ -6,6 +6,7 @@
 #include "host/rtl/convert.h"
 #include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
+#include "ide/cppnames.h"
 #include "ide/standins.h"
 
 namespace ide {
@@ -103,6 +104,14 @@ std::string TFormDesigner::UniqueName(const std::string& className) const {
     std::string name = stem + IntToStr(i);
     if (!IsNameTaken(name)) return name;
   }
+}
+
+std::string TFormDesigner::NameProblem(const TComponent& component) const {
+  const std::string& name = component.Name();
+  if (name.empty()) return "It has no name, so that no handler can reach it";
+  if (IsCppKeyword(name)) return Concat(name, " is a word of C++ itself");
+  if (MethodExists(name)) return Concat(name, " is the name of a handler, too");
+  return {};
 }
 
 std::vector<std::string> TFormDesigner::ComponentNames(const TClass& aClass) const {

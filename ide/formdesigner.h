@@ -71,6 +71,7 @@ class TFormDesigner : public vcl::TDesigner {
   void Modified() override;
   vcl::TComponent& Root() const override { return FDocument.Root(); }
   std::string UniqueName(const std::string& className) const override;
+  std::string NameProblem(const vcl::TComponent& component) const override;
   std::vector<std::string> MethodNames(const vcl::TPropInfo& event) const override;
   bool MethodExists(const std::string& name) const override;
   void CreateMethod(const std::string& name, const vcl::TPropInfo& event) override;

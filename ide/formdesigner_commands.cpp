@@ -6,7 +6,7 @@
 #include "host/rtl/streams.h"
 #include "host/rtl/text.h"
 #include "host/vcl/application.h"
-#include "ide/clipboardtext.h"
+#include "host/vcl/clipboardtext.h"
 #include "ide/formdesigner.h"
 
 namespace ide {

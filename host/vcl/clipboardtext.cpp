@@ -1,4 +1,4 @@
-#include "ide/clipboardtext.h"
+#include "host/vcl/clipboardtext.h"
 
 #include <algorithm>
 #include <cstring>
@@ -7,29 +7,19 @@
 #include "host/vcl/application.h"
 #include "host/vcl/windowtext.h"
 
-namespace ide {
+namespace vcl {
 
-using namespace vcl;
-
-namespace {
-
-class TClipboardTurn {
- public:
-  TClipboardTurn() {
-    constexpr int attempts = 10;
-    constexpr DWORD pause = 20;  // Milliseconds; others hold it for a moment only.
-    for (int i = 0; i < attempts; ++i) {
-      if (::OpenClipboard(Application()->Handle())) return;
-      ::Sleep(pause);
-    }
-    throw EInOutError("The clipboard is in use by another program");
+TClipboardTurn::TClipboardTurn() {
+  constexpr int attempts = 10;
+  constexpr DWORD pause = 20;  // Milliseconds; others hold it for a moment only.
+  for (int i = 0; i < attempts; ++i) {
+    if (::OpenClipboard(Application()->Handle())) return;
+    ::Sleep(pause);
   }
-  ~TClipboardTurn() { ::CloseClipboard(); }
-  TClipboardTurn(const TClipboardTurn&) = delete;
-  TClipboardTurn& operator=(const TClipboardTurn&) = delete;
-};
+  throw EInOutError("The clipboard is in use by another program");
+}
 
-}  // namespace
+TClipboardTurn::~TClipboardTurn() { ::CloseClipboard(); }
 
 void SetClipboardText(const std::string& text) {
   std::string lines;
@@ -64,4 +54,4 @@ std::string ClipboardText() {
   return text;
 }
 
-}  // namespace ide
+}  // namespace vcl
