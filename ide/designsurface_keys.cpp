@@ -1,6 +1,8 @@
 // TDesignSurface: the keyboard.
 #include <algorithm>
 
+#include "host/rtl/convert.h"
+#include "host/rtl/text.h"
 #include "ide/designsurface.h"
 
 namespace ide {
@@ -63,7 +65,9 @@ bool TDesignSurface::Arrow(WPARAM key) {
     SetBoundsOf(*each.Component, bounds);
   }
   Refresh();
-  if (Events.Changed) Events.Changed(ctrl ? "move by key" : "size by key");
+  // One step of undo, as long as the same components are moved.
+  const std::string which = IntToStr(FSelection.Changes());
+  if (Events.Changed) Events.Changed(Concat(ctrl ? "move by key " : "size by key ", which));
   return true;
 }
 

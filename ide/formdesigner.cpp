@@ -43,7 +43,7 @@ void TFormDesigner::Changed(const std::string& key) {
   FDocument.Changed(key);
 }
 
-void TFormDesigner::Modified() { Changed({}); }
+void TFormDesigner::Modified() { Changed(Events.ChangeKey ? Events.ChangeKey() : std::string()); }
 
 void TFormDesigner::Report(const std::string& message) const {
   if (Events.Problem) Events.Problem(message);

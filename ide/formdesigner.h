@@ -28,6 +28,8 @@ struct TDesignerEvents {
   std::function<void(vcl::TPersistent& owner, vcl::TCollection& collection,
                      const std::string& property)>
       ShowCollection;
+  /// Says with what a change that an editor makes now belongs together; see TUndoHistory::Add.
+  std::function<std::string()> ChangeKey;
   /// A component was made of the palette's class.
   std::function<void()> Placed;
 };

@@ -104,6 +104,8 @@ void TObjectInspector::Refresh() {
 
 bool TObjectInspector::Apply() { return ActiveGrid().Apply(); }
 
+std::string TObjectInspector::ChangeKey() const { return ActiveGrid().ChangeKey(); }
+
 void TObjectInspector::Notification(vcl::TComponent* component, vcl::TOperation operation) {
   TWinControl::Notification(component, operation);
   if (operation != vcl::opRemove || Destroying()) return;

@@ -33,6 +33,10 @@ class TObjectInspector : public vcl::TWinControl {
   /// Makes what is typed hold, as before a file is saved. False when it is refused.
   bool Apply();
 
+  /// The same for all changes that one stretch of typing makes, so that they can be undone
+  /// together; empty while nothing is typed.
+  std::string ChangeKey() const;
+
   /// The component list.
   vcl::TComboBox& Components() const { return *FComponents; }
   TInspectorGrid& Properties() const { return *FProperties; }

@@ -57,6 +57,7 @@ void TInspectorGrid::CreateWnd() {
 void TInspectorGrid::SetObjects(vcl::TDesigner* designer, std::vector<vcl::TObject*> objects) {
   FList->CloseUp();
   FTyped = false;
+  EndStretch();
   FRows.SetObjects(designer, std::move(objects));
   RowsReplaced(FSelectedPath);
 }

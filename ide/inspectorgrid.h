@@ -17,7 +17,8 @@ class TInspectorEdit;
 class TInspectorList;
 
 /// The grid of one page of an object inspector. The value of the selected line is edited; what is
-/// typed holds when Enter is pressed, another line is selected, or the keyboard goes elsewhere. A
+/// typed holds when Enter is pressed, another line is selected, or the keyboard goes elsewhere;
+/// some properties take every character at once. What is typed of a listed value is completed. A
 /// value that is refused is shown by the application, and the old one is back.
 ///
 /// Keys: Up, Down, PgUp and PgDn select lines; F4 or Alt+Down drops the list of values down;
@@ -36,6 +37,9 @@ class TInspectorGrid : public vcl::TCustomControl {
   void Refresh();
   /// Makes what is typed hold. False when it is refused; the old value is back then.
   bool Apply();
+
+  /// See TObjectInspector::ChangeKey.
+  std::string ChangeKey() const;
 
   int RowCount() const { return FRows.Count(); }
   const TInspectorRow& Row(int row) const { return FRows[row]; }
@@ -104,6 +108,11 @@ class TInspectorGrid : public vcl::TCustomControl {
   /// Calls the editor of the selected line; false when it raises, which the application shows.
   bool Call(const TEditorCall& call);
   bool SetValue(const std::string& text);
+  std::vector<std::string> ListedValues() const;
+  void Complete();
+  void TakeBack();
+  void KeepValues();
+  void EndStretch();
   void DropDown();
   void PressButton();
   void ListChosen(vcl::TObject* sender);
@@ -131,9 +140,12 @@ class TInspectorGrid : public vcl::TCustomControl {
   TInspectorEdit* FEdit;
   TInspectorList* FList;
   vcl::TPopupMenu* FMenu;
-  bool FTyped = false;    // The edit holds what the user has typed.
-  bool FShowing = false;  // The edit's text is being changed by the grid.
-  DWORD FPressTime = 0;   // When the press that brought the edit here came.
+  bool FTyped = false;               // The edit holds what the user has typed.
+  bool FCompletes = false;           // A character has been typed, not one deleted.
+  std::vector<vcl::TValue> FBefore;  // The objects' values, while another is typed and holds.
+  int FStretch = 0;                  // Of typing, counted.
+  bool FShowing = false;             // The edit's text is being changed by the grid.
+  DWORD FPressTime = 0;              // When the press that brought the edit here came.
   std::string FSearch;
   DWORD FSearchTime = 0;
   std::exception_ptr FError;

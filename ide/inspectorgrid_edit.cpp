@@ -1,8 +1,10 @@
 // TInspectorGrid: the value of the selected line: its edit, its button, its list.
 #include <algorithm>
 
+#include "host/rtl/convert.h"
 #include "host/rtl/text.h"
 #include "host/vcl/fontmetrics.h"
+#include "host/vcl/windowtext.h"
 #include "ide/inspectoredit.h"
 #include "ide/inspectorgrid.h"
 #include "ide/inspectorlayout.h"
@@ -83,6 +85,7 @@ bool TInspectorGrid::SetValue(const std::string& text) {
 }
 
 bool TInspectorGrid::Apply() {
+  EndStretch();
   if (!FTyped) return true;
   FTyped = false;
   return SetValue(FEdit->Text());
@@ -91,15 +94,68 @@ bool TInspectorGrid::Apply() {
 void TInspectorGrid::EditChanged(vcl::TObject* /*sender*/) {
   if (FShowing || FSelected < 0) return;
   FTyped = true;
+  Complete();
   if (!Row(FSelected).Editor->Offers(vcl::paAutoUpdate)) return;
+  KeepValues();
   // The text itself stays as it is typed.
   const std::string text = FEdit->Text();
   if (SetValue(text)) FTyped = false;
 }
 
+void TInspectorGrid::KeepValues() {
+  if (!FBefore.empty()) return;
+  for (const vcl::TEditedProperty& each : Row(FSelected).Editor->Edited()) {
+    FBefore.push_back(each.Property->Get(*each.Object));
+  }
+}
+
+void TInspectorGrid::EndStretch() {
+  FBefore.clear();
+  ++FStretch;
+}
+
+std::string TInspectorGrid::ChangeKey() const {
+  return FBefore.empty() ? std::string() : vcl::Concat("type ", vcl::IntToStr(FStretch));
+}
+
+// Adds to what has been typed of a listed value the rest, selected so that typing goes on over it.
+void TInspectorGrid::Complete() {
+  if (!std::exchange(FCompletes, false) || ButtonKind() != bkList) return;
+  const int length = FEdit->SelStart();
+  const std::string typed = FEdit->Text();
+  if (length != static_cast<int>(vcl::ToUtf16(typed).size())) return;
+  const auto values = ListedValues();
+  const auto found = std::ranges::find_if(values, [&](const std::string& value) {
+    return vcl::SameText(value.substr(0, typed.size()), typed);
+  });
+  if (found == values.end()) return;
+  FShowing = true;
+  FEdit->SetText(*found);
+  FShowing = false;
+  FEdit->SetSelStart(length);
+  FEdit->SetSelLength(static_cast<int>(vcl::ToUtf16(*found).size()) - length);
+  if (FList->DroppedDown()) FList->Choose(*found);
+}
+
+// Gives the objects the values back that they had before the user typed.
+void TInspectorGrid::TakeBack() {
+  FTyped = false;
+  const auto before = FBefore;
+  Call([&](vcl::TPropertyEditor& editor) {
+    for (std::size_t i = 0; i < std::min(before.size(), editor.Edited().size()); ++i) {
+      const vcl::TEditedProperty& each = editor.Edited()[i];
+      each.Property->Set(*each.Object, before[i]);
+    }
+    if (!before.empty()) editor.Designer().Modified();
+  });
+  EndStretch();
+  ShowValue();
+}
+
 void TInspectorGrid::EditLeft(vcl::TObject* /*sender*/) {
   FList->CloseUp();
   Apply();
+  EndStretch();
 }
 
 void TInspectorGrid::EditValue() {
@@ -109,6 +165,7 @@ void TInspectorGrid::EditValue() {
 
 void TInspectorGrid::Revert() {
   FTyped = false;
+  EndStretch();
   Call([](vcl::TPropertyEditor& editor) { editor.Revert(); });
 }
 
@@ -119,16 +176,21 @@ void TInspectorGrid::MenuPopup(vcl::TObject* /*sender*/) {
 
 // Its list and its button.
 
-void TInspectorGrid::DropDown() {
-  if (ButtonKind() != bkList) return;
+std::vector<std::string> TInspectorGrid::ListedValues() const {
   const auto editor = Row(FSelected).Editor;
   std::vector<std::string> values;
   editor->GetValues([&](const std::string& value) { values.push_back(value); });
-  if (values.empty()) return;
   if (editor->Offers(vcl::paSortList)) {
     std::ranges::sort(values,
                       [](const auto& a, const auto& b) { return vcl::CompareText(a, b) < 0; });
   }
+  return values;
+}
+
+void TInspectorGrid::DropDown() {
+  if (ButtonKind() != bkList) return;
+  const auto values = ListedValues();
+  if (values.empty()) return;
   const TRect row = RowRect(FSelected);
   const vcl::TPoint from = ClientToScreen({Splitter() + 1, row.Top});
   const vcl::TPoint to = ClientToScreen({row.Right, row.Bottom});

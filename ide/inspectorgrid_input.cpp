@@ -80,6 +80,7 @@ void TInspectorGrid::EditKeyDown(vcl::TObject* /*sender*/, std::uint16_t& key, T
 // What has been handled as a key makes no sound and no text as a character.
 void TInspectorGrid::EditKeyPress(vcl::TObject* /*sender*/, char32_t& key) {
   if (key == U'\r' || key == U'\n' || key == U'\t' || key == VK_ESCAPE) key = 0;
+  FCompletes = key >= U' ';
 }
 
 bool TInspectorGrid::ListKey(std::uint16_t key) {
@@ -107,10 +108,7 @@ bool TInspectorGrid::ValueKey(std::uint16_t key, TShiftState shift) {
     case VK_RETURN:
       shift.Has(vcl::ssCtrl) ? EditValue() : void(Apply());
       return FEdit->SelectAll(), true;
-    case VK_ESCAPE:
-      FTyped = false;
-      ShowValue();
-      return FEdit->SelectAll(), true;
+    case VK_ESCAPE: return TakeBack(), FEdit->SelectAll(), true;
     case VK_TAB: return SetFocus(), true;
     default: return false;
   }

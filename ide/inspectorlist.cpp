@@ -35,7 +35,7 @@ void TInspectorList::DropDown(const vcl::TRect& below, const std::vector<std::st
   Items()->Clear();
   for (const std::string& value : values) Items()->Add(value);
   Items()->EndUpdate();
-  SetItemIndex(Items()->IndexOf(current));
+  Choose(current);
   const int count = std::clamp(Items()->Count(), 1, MostItems);
   const int item = ItemRect(0).Height() > 0 ? ItemRect(0).Height() : vcl::FontHeight(*Font());
   const int height = count * item + 2 * Border;

@@ -22,6 +22,7 @@ class TInspectorList : public vcl::TCustomListBox {
   bool DroppedDown() const { return FDown; }
   /// The selected item's text; empty for none.
   std::string Chosen() const;
+  void Choose(const std::string& value) { SetItemIndex(Items()->IndexOf(value)); }
   /// Moves the selection by so many items, as far as there are some.
   void Step(int by);
   /// The number of items that are seen at once.

@@ -42,7 +42,7 @@ object MainForm: TMainForm
     Height = 20
     Panels = <
       item
-        Width = 120
+        Width = 240
       end
       item
         Width = 90
@@ -269,7 +269,7 @@ object MainForm: TMainForm
         OnClick = TabOrderClick
       end
       object CreationItem: TMenuItem
-        Caption = 'Creation orde&r...'
+        Caption = 'Cr&eation order...'
         Hint = 'Says in which order the other components are made'
         OnClick = CreationClick
       end

@@ -30,6 +30,7 @@ void TMainForm::ListenTo(TFormDesigner& designer) {
   it->Events.RootGoing = [this, it] {
     if (it == FDesigner) RootGoing();
   };
+  it->Events.ChangeKey = [this] { return FInspector->ChangeKey(); };
   it->Events.ShowCollection = [this, it](TPersistent&, TCollection& items, const std::string&) {
     FItems->ShowItems(*it, items);
   };

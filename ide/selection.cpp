@@ -26,6 +26,7 @@ void TSelection::Set(const std::vector<TPersistent*>& objects) {
   if (once == FAll) return;
   for (TComponent* each : Components()) each->RemoveFreeNotification(this);
   FAll = std::move(once);
+  ++FChanges;
   for (TComponent* each : Components()) each->FreeNotification(this);
   if (OnChange) OnChange();
 }

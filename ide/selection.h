@@ -25,6 +25,8 @@ class TSelection : private vcl::TComponent {
   void Only(vcl::TPersistent* object) { Set({object}); }
   void Toggle(vcl::TPersistent* object);
   void Clear() { Set({}); }
+  /// How often something else has been selected.
+  int Changes() const { return FChanges; }
 
   std::function<void()> OnChange;
 
@@ -32,6 +34,7 @@ class TSelection : private vcl::TComponent {
   void Notification(vcl::TComponent* component, vcl::TOperation operation) override;
 
   std::vector<vcl::TPersistent*> FAll;
+  int FChanges = 0;
 };
 
 }  // namespace ide

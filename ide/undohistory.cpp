@@ -17,10 +17,15 @@ void TUndoHistory::Add(std::string state, const std::string& key) {
   if (state == FPresent) return;
   const bool together = !key.empty() && key == FKey && FRedo.empty() && CanUndo();
   std::string former = std::exchange(FPresent, std::move(state));
-  if (!together) FUndo.push_back(std::move(former));
   FRedo.clear();
   FKey = key;
-  Trim();
+  if (!together) {
+    FUndo.push_back(std::move(former));
+    Trim();
+  } else if (FUndo.back() == FPresent) {
+    FUndo.pop_back();
+    FKey.clear();
+  }
 }
 
 void TUndoHistory::Trim() {

@@ -16,7 +16,8 @@ class TUndoHistory {
   /// Begins anew with a state, which is clean.
   void Reset(std::string state);
   /// The document has come into a state. Nothing happens when it is the present one. Changes with
-  /// the same key, which is not empty, one directly behind another are undone together.
+  /// the same key, which is not empty, one directly behind another are undone together; when they
+  /// end where they began there is nothing to undo.
   void Add(std::string state, const std::string& key = {});
 
   bool CanUndo() const { return !FUndo.empty(); }

@@ -122,8 +122,9 @@ void TApplication::SetMouseControl(TControl* control) {
   if (former) former->Perform(CM_MOUSELEAVE);
   // FMouseControl is null by now when the handler has freed the control.
   if (FMouseControl) FMouseControl->Perform(CM_MOUSEENTER);
+  // What is designed has its hint for the finished application.
   const TControl* hinted = FMouseControl;
-  while (hinted && hinted->Hint().empty()) hinted = hinted->Parent();
+  while (hinted && (hinted->Hint().empty() || hinted->Designing())) hinted = hinted->Parent();
   SetHint(hinted ? GetLongHint(hinted->Hint()) : std::string());
 }
 

@@ -1,12 +1,8 @@
 // The designer's window, by mouse and keyboard.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <chrono>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
-#include "ide/inspectorgrid.h"
 #include "tests/ide/designerfixture.h"
 
 namespace ide {
@@ -100,8 +96,6 @@ TEST_F(Designer, SelectsWithTheMouseAndTheKeyboard) {
   EXPECT_THAT(SelectedNames(), ElementsAre("D", "A"));
   Drag(At(8, 8), At(120, 30));
   EXPECT_THAT(SelectedNames(), testing::UnorderedElementsAre("A", "B"));
-  It().Arrange(TArrangement::Low, TArrangement::None);
-  EXPECT_EQ(Find("A")->Left(), Find("B")->Left());
   Click(MiddleOf(Find("C")));
   TypeKey(VK_TAB);
   EXPECT_THAT(SelectedNames(), ElementsAre("D"));
@@ -234,14 +228,30 @@ TEST_F(Designer, PartsFollowTheForm) {
 
 TEST_F(Designer, AnEditKeepsItsKeys) {
   Place("TButton", At(16, 16), At(16, 16));
-  TInspectorGrid& grid = Window->Inspector().Properties();
-  const TRect row = grid.RowRect(grid.IndexOf("Hint"));
-  Click(grid.ClientToScreen({grid.Splitter() + 10, row.Top + 5}));
+  ClickValue("Hint");
   TypeKey('A');
   TypeKey('Z', {VK_CONTROL});
   EXPECT_NE(Find("Button1"), nullptr) << "not the form's last change is taken back";
   TypeKey(VK_RETURN);
   EXPECT_EQ(Find("Button1")->Hint(), "");
+}
+
+TEST_F(Designer, TypingIsOneStepAndEscapeTakesItBack) {
+  OpenForm(" object A: TButton\n Caption = 'Before'\n end\n");
+  It().SetSelection({Find("A")});
+  ClickValue("Caption");
+  Keys("A B C");
+  EXPECT_EQ(Find<TButton>("A")->Caption(), "abc") << "shown while it is typed";
+  EXPECT_TRUE(Document().Modified());
+  Keys("Esc");
+  EXPECT_EQ(Find<TButton>("A")->Caption(), "Before");
+  EXPECT_FALSE(Document().Modified() || Document().CanUndo());
+  Keys("A B Enter C D");
+  EXPECT_EQ(Find<TButton>("A")->Caption(), "cd");
+  It().Undo();
+  EXPECT_EQ(Find<TButton>("A")->Caption(), "ab") << "Enter ends what belongs together";
+  It().Undo();
+  EXPECT_FALSE(Document().Modified() || Document().CanUndo());
 }
 
 }  // namespace

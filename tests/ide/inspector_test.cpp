@@ -155,6 +155,36 @@ TEST_F(Inspector, ListsAreChosenFromByMouseAndKeyboard) {
   EXPECT_TRUE(Button->Default());
 }
 
+TEST_F(Inspector, WhatIsTypedOfAListedValueIsCompleted) {
+  auto* edit = Add<vcl::TEdit>("Edit1");
+  Select({edit});
+  TypeValue("Color", "CLR");
+  Key(VK_RETURN);
+  EXPECT_EQ(edit->Color(), vcl::clRed);
+  TypeValue("Color", "cly");
+  Key(VK_BACK);  // Removes what was added, and it stays removed.
+  Key(VK_BACK);
+  Type("n");
+  Key(VK_DOWN);
+  EXPECT_EQ(edit->Color(), vcl::clNavy);
+  TypeValue("Cursor", "12");  // Not in the list.
+  Key(VK_RETURN);
+  EXPECT_EQ(edit->Cursor(), 12);
+  // The list that is down follows.
+  ClickLine("Visible");
+  Key(VK_F4);
+  Type("f");
+  Key(VK_RETURN);
+  EXPECT_FALSE(edit->Visible());
+  // Several objects get back what each of them had.
+  auto* other = Add<vcl::TButton>("Button2");
+  Select({Button, other});
+  TypeValue("Caption", "xy");
+  EXPECT_EQ(other->Caption(), "xy");
+  Key(VK_ESCAPE);
+  EXPECT_EQ(Button->Caption() + other->Caption(), "Button1Button2");
+}
+
 TEST_F(Inspector, PropertiesUnfoldAndTheirLinesAreKeptByName) {
   auto* edit = Add<vcl::TEdit>("Edit1");
   Select({Button});
