@@ -1,7 +1,8 @@
 // The texts of dates and times.
 #include <algorithm>
+#include <charconv>
+#include <iterator>
 
-#include "host/rtl/convert.h"
 #include "host/rtl/datetime.h"
 #include "host/rtl/text.h"
 
@@ -42,51 +43,50 @@ bool AsksForHalfDay(std::string_view format) {
   return false;
 }
 
+/// Appends the parts of a date and time to one text.
 class TDatePrinter {
  public:
-  TDatePrinter(TDateTime value, const TFormatSettings& settings)
-      : FSettings(settings), FDayOfWeek(DayOfWeek(value)) {
+  TDatePrinter(TDateTime value, const TFormatSettings& settings, std::string& text)
+      : FSettings(settings), FText(text), FDayOfWeek(DayOfWeek(value)) {
     DecodeDate(value, FYear, FMonth, FDay);
     DecodeTime(value, FHour, FMinute, FSecond, FMillisecond);
   }
 
-  std::string Print(std::string_view format, bool nested = false) {
-    // A setting that asks for itself says nothing.
-    if (nested && FNested) return {};
-    FNested = nested;
-    FHalfDays = AsksForHalfDay(format);
+  void Print(std::string_view format) {
+    FFormat = format;
     FBehindHour = false;
-    std::string text;
-    while (!format.empty()) text += Take(format);
-    return text;
+    while (!format.empty()) Take(format);
   }
 
  private:
-  std::string Take(std::string_view& format) {
-    std::string_view part = HalfDay(format);
-    if (!part.empty()) return format.remove_prefix(part.size()), HalfDayText(part);
+  void Take(std::string_view& format) {
+    const std::string_view halfDay = HalfDay(format);
     const char letter = Lower(format.front());
-    part = IsQuote(letter) ? Quoted(format) : Run(format);
+    const std::string_view part = !halfDay.empty()  ? halfDay
+                                  : IsQuote(letter) ? Quoted(format)
+                                                    : Run(format);
     format.remove_prefix(part.size());
+    if (!halfDay.empty()) return HalfDayText(part);
     if (IsQuote(letter)) return Unquoted(part);
-    return Specified(letter, part);
+    Specified(letter, part);
   }
 
   /// The same letter several times.
   static std::string_view Run(std::string_view format) {
-    const auto end =
-        std::ranges::find_if_not(format, [&](char c) { return Lower(c) == Lower(format.front()); });
-    return format.substr(0, static_cast<std::size_t>(end - format.begin()));
+    const char letter = Lower(format.front());
+    std::size_t length = 1;
+    while (length < format.size() && Lower(format[length]) == letter) ++length;
+    return format.substr(0, length);
   }
 
-  static std::string Unquoted(std::string_view part) {
+  void Unquoted(std::string_view part) {
     const char quote = part.front();
     part.remove_prefix(1);
     if (part.ends_with(quote)) part.remove_suffix(1);
-    return std::string(part);
+    FText += part;
   }
 
-  std::string Specified(char letter, std::string_view run) {
+  void Specified(char letter, std::string_view run) {
     const int count = static_cast<int>(run.size());
     const bool minutes = FBehindHour && letter == 'm' && count <= 2;
     if (letter >= 'a' && letter <= 'z') FBehindHour = letter == 'h';
@@ -94,7 +94,7 @@ class TDatePrinter {
       case 'd': return Day(count);
       case 'm': return Month(count);
       case 'y': return count > 2 ? Number(FYear, 4) : Number(FYear % 100, 2);
-      case 'h': return Number(FHalfDays ? (FHour + 11) % 12 + 1 : FHour, std::min(count, 2));
+      case 'h': return Number(HourOfFormat(), std::min(count, 2));
       case 'n': return Number(FMinute, std::min(count, 2));
       case 's': return Number(FSecond, std::min(count, 2));
       case 'z': return Number(FMillisecond, count < 3 ? 1 : 3);
@@ -102,28 +102,30 @@ class TDatePrinter {
       case 'c': return DateAndTime();
       case '/': return Repeated(FSettings.DateSeparator, count);
       case ':': return Repeated(FSettings.TimeSeparator, count);
-      default: return std::string(run);
+      default: FText += run;
     }
   }
 
-  static std::string Number(int value, int digits) {
-    std::string text = IntToStr(value);
-    const auto missing = std::max(0, digits - static_cast<int>(text.size()));
-    return std::string(static_cast<std::size_t>(missing), '0') + text;
+  /// Of twelve where the format asks for the half of the day too.
+  int HourOfFormat() const { return AsksForHalfDay(FFormat) ? (FHour + 11) % 12 + 1 : FHour; }
+
+  void Number(int value, int digits) {
+    char text[16];
+    const char* end = std::to_chars(std::begin(text), std::end(text), value).ptr;
+    const auto size = static_cast<std::size_t>(end - text);
+    FText.append(std::max(static_cast<std::size_t>(digits), size) - size, '0').append(text, size);
   }
 
-  static std::string Repeated(const std::string& piece, int count) {
-    std::string text;
-    while (count-- > 0) text += piece;
-    return text;
+  void Repeated(const std::string& piece, int count) {
+    while (count-- > 0) FText += piece;
   }
 
   template <class Names>
-  static std::string Name(const Names& names, int number) {
-    return names[static_cast<std::size_t>(number - 1)];
+  void Name(const Names& names, int number) {
+    FText += names[static_cast<std::size_t>(number - 1)];
   }
 
-  std::string Day(int count) {
+  void Day(int count) {
     switch (count) {
       case 1:
       case 2: return Number(FDay, count);
@@ -134,37 +136,43 @@ class TDatePrinter {
     }
   }
 
-  std::string Month(int count) const {
+  void Month(int count) {
     if (count <= 2) return Number(FMonth, count);
-    return Name(count == 3 ? FSettings.ShortMonthNames : FSettings.LongMonthNames, FMonth);
+    Name(count == 3 ? FSettings.ShortMonthNames : FSettings.LongMonthNames, FMonth);
   }
 
-  std::string HalfDayText(std::string_view specifier) const {
+  void HalfDayText(std::string_view specifier) {
     const bool morning = FHour < 12;
     if (SameText(specifier, "ampm")) {
-      return morning ? FSettings.TimeAMString : FSettings.TimePMString;
+      FText += morning ? FSettings.TimeAMString : FSettings.TimePMString;
+    } else {
+      const std::size_t slash = specifier.find('/');
+      FText += morning ? specifier.substr(0, slash) : specifier.substr(slash + 1);
     }
-    const std::size_t slash = specifier.find('/');
-    return std::string(morning ? specifier.substr(0, slash) : specifier.substr(slash + 1));
   }
 
-  std::string DateAndTime() {
-    const std::string date = Setting(FSettings.ShortDateFormat);
-    const bool midnight = FHour + FMinute + FSecond + FMillisecond == 0;
-    return midnight ? date : Concat(date, " ", Setting(FSettings.LongTimeFormat));
+  void DateAndTime() {
+    Setting(FSettings.ShortDateFormat);
+    if (FHour + FMinute + FSecond + FMillisecond == 0) return;
+    FText += ' ';
+    Setting(FSettings.LongTimeFormat);
   }
 
-  std::string Setting(const std::string& format) {
+  void Setting(const std::string& format) {
+    // A setting that asks for another one says nothing: it might be itself.
+    if (FNested) return;
     TDatePrinter other(*this);
-    return other.Print(format, true);
+    other.FNested = true;
+    other.Print(format);
   }
 
   const TFormatSettings& FSettings;
+  std::string& FText;
+  std::string_view FFormat;
   int FDayOfWeek;
   int FYear = 0, FMonth = 0, FDay = 0;
   int FHour = 0, FMinute = 0, FSecond = 0, FMillisecond = 0;
   bool FNested = false;
-  bool FHalfDays = false;
   bool FBehindHour = false;
 };
 
@@ -172,7 +180,9 @@ class TDatePrinter {
 
 std::string FormatDateTime(std::string_view format, TDateTime value,
                            const TFormatSettings& settings) {
-  return TDatePrinter(value, settings).Print(format.empty() ? "c" : format);
+  std::string text;
+  TDatePrinter(value, settings, text).Print(format.empty() ? "c" : format);
+  return text;
 }
 
 std::string DateToStr(TDateTime value, const TFormatSettings& settings) {
