@@ -145,7 +145,7 @@ void TQELDBAscii::DoExport() {
   vcl::TWatch watch(this);
   if (vcl::TDataSet* data = FDataLink->DataSet()) {
     TRun run(this, data);
-    WriteRecords(run);
+    if (!run.Ended()) WriteRecords(run);
     if (run.Ended()) return;
     run.Finish();
   }
@@ -154,6 +154,7 @@ void TQELDBAscii::DoExport() {
 
 void TQELDBAscii::WriteRecords(TRun& run) {
   run.Data.First();
+  if (run.Ended()) return;
   run.File.Rewrite(FFilename);
   if (FPrintHeader) run.File.WriteLn(HeaderLine());
   std::string line;
@@ -162,6 +163,7 @@ void TQELDBAscii::WriteRecords(TRun& run) {
     if (!run.Fire(ExportBeforeWrite, line, this)) return;
     run.File.WriteLn(line);
     run.Data.Next();
+    if (run.Ended()) return;
   }
 }
 
@@ -169,7 +171,7 @@ void TQELDBAscii::DoImport() {
   vcl::TDataSet* data = FDataLink->DataSet();
   if (!data) return;
   TRun run(this, data);
-  ReadRecords(run);
+  if (!run.Ended()) ReadRecords(run);
   if (!run.Ended()) run.Finish();
 }
 
@@ -188,7 +190,8 @@ void TQELDBAscii::ReadRecords(TRun& run) {
 void TQELDBAscii::ImportRecord(TRun& run, const std::string& record) {
   if (!run.Fire(ImportBeforeInsert, record, this)) return;
   run.Data.Insert();
-  SetValues(run.Data, record);
+  if (!run.Ended()) SetValues(run, record);
+  if (run.Ended()) return;
   // ImportBeforePost only says that somebody wants to know: the handler that is called is that of
   // ExportBeforeWrite, which must then be assigned as well. Programs rely on the pair.
   if (ImportBeforePost && !run.Fire(ExportBeforeWrite, record, this)) return;
@@ -197,9 +200,9 @@ void TQELDBAscii::ImportRecord(TRun& run, const std::string& record) {
   if (!run.Ended()) OnImportSuccess(this, record);
 }
 
-void TQELDBAscii::SetValues(const vcl::TDataSet& data, std::string_view rest) const {
+void TQELDBAscii::SetValues(const TRun& run, std::string_view rest) const {
   const std::string delimiter = vcl::Utf8(FDelimiter);
-  for (int i = 0; i < FFields->Count(); ++i) {
+  for (int i = 0; !run.Ended() && i < FFields->Count(); ++i) {
     const std::size_t end = rest.find(delimiter);
     const bool last = i == FFields->Count() - 1;
     // A column before the last one is empty where no delimiter follows, and the rest is still to
@@ -207,7 +210,7 @@ void TQELDBAscii::SetValues(const vcl::TDataSet& data, std::string_view rest) co
     const std::string_view value = last               ? rest
                                    : end == rest.npos ? std::string_view()
                                                       : rest.substr(0, end);
-    data.FieldByName(FFields->GetItem(i)->DataField())->SetAsString(std::string(value));
+    run.Data.FieldByName(FFields->GetItem(i)->DataField())->SetAsString(std::string(value));
     if (end != rest.npos) rest.remove_prefix(end + delimiter.size());
   }
 }

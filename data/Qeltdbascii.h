@@ -65,7 +65,8 @@ class QEL_API TQELADFields : public vcl::TCollection {
 /// file holds the fields' texts as they are, in UTF-8. Imported lines may end with LF or CR alone.
 ///
 /// With a data set that can only move forward, the memory that is needed does not depend on the
-/// number of records. A handler may free the component or the data set: that ends the run.
+/// number of records. A handler, of the data set too, may free the component or the data set: that
+/// ends the run.
 class QEL_API TQELDBAscii : public TQELComponent {
  public:
   explicit TQELDBAscii(vcl::TComponent* owner);
@@ -116,7 +117,7 @@ class QEL_API TQELDBAscii : public TQELComponent {
   void WriteRecords(TRun& run);
   void ReadRecords(TRun& run);
   void ImportRecord(TRun& run, const std::string& record);
-  void SetValues(const vcl::TDataSet& data, std::string_view rest) const;
+  void SetValues(const TRun& run, std::string_view rest) const;
   void PostRecord(TRun& run, const std::string& record);
 
   std::unique_ptr<vcl::TFieldDataLink> FDataLink;
