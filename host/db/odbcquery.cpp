@@ -88,7 +88,13 @@ void TOdbcQuery::Prepare() {
   FStatement = std::make_unique<odbc::TStatement>(*FConnection, FPrepared);
 }
 
+/// Makes the connection free where the query is being read ahead.
+void TOdbcQuery::Pause() {
+  if (FRows && FUniDirectional) static_cast<odbc::TForwardRows&>(*FRows).Pause();
+}
+
 void TOdbcQuery::Execute() {
+  Pause();
   std::vector<odbc::TArgument> arguments;
   for (const std::string& name : FParams->Places()) {
     const TParam& param = *FParams->ParamByName(name);
@@ -140,8 +146,8 @@ void TOdbcQuery::DefineFields() {
 }
 
 void TOdbcQuery::InternalClose() {
-  FLive.reset();
   FRows.reset();
+  FLive.reset();
   FStatement.reset();
 }
 
@@ -160,28 +166,35 @@ void TOdbcQuery::InternalRefresh() {
 
 void TOdbcQuery::InternalInsert(TRecord& record) {
   // A query that is still running might come to meet the new record again.
-  if (!FUniDirectional) FRows->Count();
+  FUniDirectional ? Pause() : static_cast<void>(FRows->Count());
   FLive->Insert(record, FIdentityQuery);
 }
 
 void TOdbcQuery::InternalUpdate(const TRecord& before, TRecord& record) {
+  Pause();
   FLive->Update(before, record);
 }
 
-void TOdbcQuery::InternalDelete(const TRecord& record) { FLive->Delete(record); }
+void TOdbcQuery::InternalDelete(const TRecord& record) {
+  Pause();
+  FLive->Delete(record);
+}
 
 void TOdbcQuery::StartTransaction() {
   SetConnected(true);
+  Pause();
   FConnection->StartTransaction();
 }
 
 void TOdbcQuery::Commit() {
   SetConnected(true);
+  Pause();
   FConnection->EndTransaction(true);
 }
 
 void TOdbcQuery::Rollback() {
   SetConnected(true);
+  Pause();
   FConnection->EndTransaction(false);
 }
 

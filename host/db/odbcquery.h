@@ -21,9 +21,10 @@ struct TArgument;
 /// Executes an SQL text over ODBC and, where it is a query, moves through its records.
 ///
 /// Records are read as they are asked for. All that were read stay in memory, so that one can move
-/// back; a unidirectional query keeps only the current one and needs no more memory for millions of
-/// records than for ten. (A driver may collect them on its own; SQLite's does not with "StepAPI=1"
-/// in the connection string.)
+/// back; a unidirectional query keeps only the current one and, once it has turned out to be long,
+/// some hundreds that a thread reads ahead, so that millions of records need no more memory than a
+/// thousand. (A driver may collect them on its own; SQLite's does not with "StepAPI=1" in the
+/// connection string.)
 ///
 /// A query that has not been read to its end may keep others from writing, as it does with SQLite;
 /// RecordCount reads all of one that is not unidirectional.
@@ -86,6 +87,7 @@ class VCL_API TOdbcQuery : public TDataSet {
  private:
   void SQLChanged();
   void Prepare();
+  void Pause();
   void Execute();
   void DefineFields();
   std::string FreeName(const std::string& name) const;

@@ -30,7 +30,7 @@ const TRecord* TForwardRows::At(int index) {
   if (index == FInsertedAt) return &FInserted;
   const int row = index - FShift;
   for (; FRow < row; ++FRow) {
-    if (FEnd || !FStatement.Fetch(FCurrent)) {
+    if (FEnd || !FAhead.Fetch(FCurrent)) {
       FEnd = true;
       return nullptr;
     }
@@ -39,6 +39,7 @@ const TRecord* TForwardRows::At(int index) {
 }
 
 void TForwardRows::Restart() {
+  FAhead.Restart();
   FRow = FInsertedAt = -1;
   FShift = 0;
   FEnd = false;

@@ -1,7 +1,7 @@
 // The records of a query: kept once they have been read, or read and forgotten.
 #pragma once
 
-#include "host/db/odbcstatement.h"
+#include "host/db/odbcahead.h"
 #include "host/db/recordstore.h"
 
 namespace vcl::odbc {
@@ -28,7 +28,7 @@ class TCachedRows : public TRecordList {
 /// as is seen by who only moves forward.
 class TForwardRows : public TRecordStore {
  public:
-  explicit TForwardRows(TStatement& statement) : FStatement(statement) {}
+  explicit TForwardRows(TStatement& statement) : FAhead(statement) {}
   const TRecord* At(int index) override;
   int Count() override { return -1; }
   void Insert(int index, const TRecord& record) override;
@@ -38,11 +38,13 @@ class TForwardRows : public TRecordStore {
   int IndexOf(TBookmark) override { return -1; }
   /// True while nothing but the first record has been read.
   bool AtBeginning() const { return FRow <= 0 && FShift == 0 && FInsertedAt < 0; }
+  /// Nothing is read until the next record is asked for, so that the connection is free.
+  void Pause() { FAhead.Pause(); }
   /// The statement has been executed again.
   void Restart();
 
  private:
-  TStatement& FStatement;
+  TReadAhead FAhead;
   TRecord FCurrent, FInserted;
   int FRow = -1;
   int FInsertedAt = -1;

@@ -217,6 +217,45 @@ TEST_F(Odbc, AUnidirectionalQueryMovesForwardOnly) {
   EXPECT_EQ(Field("name")->AsString(), "Ben");
 }
 
+/// A query long enough to be read ahead: 0, 1, 2 … with an error in the place of number `bad`.
+std::string Numbers(int bad) {
+  return "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n LIMIT 6000)"
+         " SELECT CASE i WHEN " +
+         std::to_string(bad) + " THEN abs(-9223372036854775807 - 1) ELSE i END AS i FROM n";
+}
+
+TEST_F(Odbc, ALongQueryIsReadWholeAndInOrderWhateverHappensMeanwhile) {
+  const auto walk = [&](int end, int number = 0) {
+    for (; !Query.Eof() && number < end; Query.Next()) {
+      ASSERT_EQ(Query.Fields()[0]->AsInteger(), number++);
+    }
+    EXPECT_EQ(number, end);
+  };
+  Open(Numbers(-1), false, true);
+  walk(3000);
+  Query.First();
+  walk(6000);
+  EXPECT_TRUE(Query.Eof());
+  Open(Numbers(4000), false, true);
+  EXPECT_THAT(Message([&] { walk(6000); }), HasSubstr("overflow"));
+  EXPECT_EQ(Query.Fields()[0]->AsInteger(), 3999);
+  Database.Execute("CREATE TABLE numbers (i INTEGER PRIMARY KEY)");
+  Database.Execute("INSERT INTO numbers " + Numbers(-1));
+  Open("SELECT i FROM numbers ORDER BY i", true, true);
+  walk(2000);
+  Query.InsertRecord({std::int64_t{-1}});
+  Query.Next();
+  walk(5000, 2000);
+  Query.Delete();
+  walk(5998, 5001);
+  Query.StartTransaction();
+  Query.Edit();
+  Field("i")->SetAsInteger(7000);
+  Query.Post();
+  Query.Commit();
+  EXPECT_EQ(Database.Ask("SELECT count(*), min(i), max(i) FROM numbers"), "6000|-1|7000");
+}
+
 TEST_F(Odbc, FilesGoOutAndComeBackThoughEveryLineIsBroken) {
   Database.Execute("CREATE TABLE copies (id INTEGER PRIMARY KEY, name TEXT NOT NULL UNIQUE)");
   Open("SELECT id, name FROM copies", true, true);
