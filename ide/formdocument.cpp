@@ -59,6 +59,7 @@ std::unique_ptr<TForm> TFormDocument::Read(const std::string& bytes, const std::
 void TFormDocument::Show(std::unique_ptr<TForm> root) {
   if (FRoot) Tell(OnRootGoing);
   FRoot = std::move(root);
+  FRootName = FRoot->Name();
   Tell(OnRootMade);
 }
 
@@ -120,7 +121,15 @@ bool TFormDocument::IsFresh() const {
   return FFileName.empty() && !Modified() && !CanUndo() && !CanRedo();
 }
 
+void TFormDocument::NameClass() {
+  const std::string& name = FRoot->Name();
+  std::string& className = FRoot->Keep().ClassName;
+  if (!FRootName.empty() && !name.empty() && className == "T" + FRootName) className = "T" + name;
+  FRootName = name;
+}
+
 void TFormDocument::Changed(const std::string& key) {
+  NameClass();
   FHistory.Add(State(), key);
   Tell(OnChange);
 }
@@ -137,6 +146,7 @@ void TFormDocument::Restore(const std::string& state) {
     throw;
   }
   FQuiet = false;
+  FRootName = FRoot->Name();
   Tell(OnRootMade);
   Tell(OnChange);
 }

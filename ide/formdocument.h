@@ -42,7 +42,8 @@ class TFormDocument {
   /// The form as a form file's text.
   std::string Text() const;
 
-  /// To be called after every change; see TUndoHistory::Add.
+  /// To be called after every change; see TUndoHistory::Add. A form that got another name gets
+  /// another class too, as long as that was the name with a T in front.
   void Changed(const std::string& key = {});
   bool Modified() const { return FRoot && !FHistory.Clean(); }
   /// True for a form that nothing was done with yet, nor one is there.
@@ -75,6 +76,7 @@ class TFormDocument {
  private:
   std::unique_ptr<vcl::TForm> Read(const std::string& bytes, const std::string& name);
   void Show(std::unique_ptr<vcl::TForm> root);
+  void NameClass();
   void Restore(const std::string& state);
   std::string State() const;
   void Tell(const std::function<void()>& event) const {
@@ -83,6 +85,7 @@ class TFormDocument {
 
   vcl::TDesignerHook& FHook;
   std::unique_ptr<vcl::TForm> FRoot;
+  std::string FRootName;
   std::string FFileName;
   std::string FAutosaved;
   TFormKeeper FKeeper;
