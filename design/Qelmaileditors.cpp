@@ -2,7 +2,7 @@
 
 #include "design/itemsform.h"
 #include "host/vcl/dialogs.h"
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_message.h"
 #include "mail/Qeltmapimail.h"
 
 namespace qel {

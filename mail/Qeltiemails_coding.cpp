@@ -3,7 +3,7 @@
 #include <limits>
 #include <vector>
 
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_smtp.h"
 #include "mail/base64.h"
 #include "mail/living.h"
 

@@ -4,7 +4,7 @@
 #include "host/rtl/customapplication.h"
 #include "host/rtl/datetime.h"
 #include "host/rtl/text.h"
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_smtp.h"
 #include "mail/living.h"
 
 namespace qel {

@@ -1,6 +1,7 @@
 #include "host/rtl/customapplication.h"
 #include "host/rtl/properties.h"
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_message.h"
+#include "mail/Qeltiemails_smtp.h"
 #include "mail/filenames.h"
 #include "mail/living.h"
 #include "mail/mimetypes.h"

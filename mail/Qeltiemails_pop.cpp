@@ -6,7 +6,7 @@
 #include "host/rtl/customapplication.h"
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_pop.h"
 #include "mail/mailerror.h"
 
 namespace qel {

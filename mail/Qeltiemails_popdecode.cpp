@@ -6,7 +6,7 @@
 // tell the two apart, and decoding takes a twentieth of the time.
 #include <algorithm>
 
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_pop.h"
 #include "mail/base64decoder.h"
 #include "mail/headerfields.h"
 #include "mail/living.h"

@@ -2,7 +2,7 @@
 #include <cstring>
 
 #include "host/rtl/text.h"
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_pop.h"
 #include "mail/headerfields.h"
 #include "mail/living.h"
 #include "mail/multipart.h"

@@ -3,7 +3,7 @@
 #include <cctype>
 
 #include "host/rtl/text.h"
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_smtp.h"
 
 namespace qel {
 namespace {

@@ -6,7 +6,7 @@
 #include "host/rtl/datetime.h"
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_smtp.h"
 #include "mail/living.h"
 
 namespace qel {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "demos/mailer/account.h"
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_message.h"
 
 namespace mailer {
 

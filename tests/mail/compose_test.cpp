@@ -8,7 +8,7 @@
 #include "host/rtl/registry.h"
 #include "host/vcl/win32.h"
 #endif
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_smtp.h"
 #include "mail/base64.h"
 #include "tests/mail/mailtest.h"
 

@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_pop.h"
 #include "tests/mail/mailtest.h"
 #include "tests/support/server.h"
 

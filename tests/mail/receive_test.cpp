@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_pop.h"
 #include "mail/base64.h"
 #include "mail/mailerror.h"
 #include "tests/mail/mailtest.h"

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <map>
 
-#include "mail/Qeltiemails.h"
+#include "mail/Qeltiemails_smtp.h"
 #include "tests/mail/mailtest.h"
 #include "tests/support/server.h"
 
