@@ -1,6 +1,6 @@
+#include "mail/Qeltiemails_message.h"
 #include "host/rtl/customapplication.h"
 #include "host/rtl/properties.h"
-#include "mail/Qeltiemails_message.h"
 #include "mail/Qeltiemails_smtp.h"
 #include "mail/filenames.h"
 #include "mail/living.h"

@@ -17,7 +17,6 @@ namespace {
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::StartsWith;
 
 std::vector<std::string> Lines(const vcl::TStrings& lines) {
@@ -170,19 +169,6 @@ TEST(MimeType, IsTheGeneralOneWhereNoneIsRegistered) {
 #endif
   for (const char* path : {"a.qel-test", "a", "", ".", "C:\\a.txt\\b"}) {
     EXPECT_EQ(qel::TQELAttachments::GetMimeType(path), "application/octet-stream") << path;
-  }
-}
-
-TEST(Base64, ComesBackFromItsLetters) {
-  for (std::size_t size = 0; size < 200; ++size) {
-    const std::string bytes = Noise(size);
-    std::string letters(qel::Base64Size(size), '\0'), back(size + 3, '\0');
-    qel::EncodeBase64(reinterpret_cast<const unsigned char*>(bytes.data()), size, letters.data());
-    EXPECT_EQ(letters.find_last_not_of('='), letters.size() - 1 - (3 - size % 3) % 3);
-    const std::size_t groups = qel::DecodeBase64Groups(
-        letters.data(), letters.size(), reinterpret_cast<unsigned char*>(back.data()));
-    EXPECT_EQ(groups, size / 3) << "padding is left to the caller";
-    EXPECT_EQ(back.substr(0, groups * 3), bytes.substr(0, groups * 3));
   }
 }
 

@@ -267,13 +267,7 @@ TEST_F(Decoding, TellsOfProgressGroupByGroup) {
   // The line that completes the group counts, from 0; the second has three groups, the last one
   // completes two steps late.
   EXPECT_THAT(Events, ElementsAre("start a 4", "25", "50", "75", "100", "end"));
-  Events.clear();
   Mail.SetProgressStep(qel::TQELPStep{10});
-  Decode({"YWJj", "YWJjYWJjYWJj", "YWJj"});
-  EXPECT_THAT(Events, ElementsAre("start a 3", "33", "33", "33", "67", "100", "end"));
-  Events.clear();
-  Decode({});
-  EXPECT_THAT(Events, ElementsAre("start a 0", "100", "end"));  // 67 was the last.
   Events.clear();
   Decode(std::vector<std::string>(300, "YWJj"));
   EXPECT_THAT(Events, ElementsAre("start a 300", "10", "20", "30", "40", "50", "60", "70", "80",

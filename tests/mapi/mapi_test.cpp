@@ -1,6 +1,8 @@
 // Mail as the mail library gets it: each call with its records, and the events between the calls.
 #include "host/rtl/exceptions.h"
+#include "host/rtl/formfile.h"
 #include "host/rtl/registry.h"
+#include "host/rtl/streams.h"
 #include "mail/Qeltmapimail.h"
 #include "tests/mapi/mapitest.h"
 
@@ -280,6 +282,56 @@ TEST_F(MapiMail, NeedsAllOfTheInterface) {
     EXPECT_TRUE(mail.GetMAPIAvail());
   }
   EXPECT_THAT(Calls(), IsEmpty());
+}
+
+TEST_F(MapiMail, ComesBackFromAFormFileAndSendsWhatItHolds) {
+  const std::string text = R"(object Mail: TQELMapiMail
+  NewSession = True
+  Messages = <
+    item
+      Message.Strings = (
+        'one'
+        '')
+      Attachments = <
+        item
+          Filename = 'C:\ä b.txt'
+        end
+        item
+          Filename = ''
+        end>
+      Subject = 'It''s'
+      RecipientsTo.Strings = (
+        'Ann'
+        '[smtp:b@x.test]')
+      RecipientsCC.Strings = (
+        'Cy')
+      RecipientsBC.Strings = (
+        'Di')
+      Receipt = True
+      Dialog = True
+    end
+    item
+      Subject = ''
+    end>
+  Password = 'pass'
+  Profile = 'Ann'
+  DefaultProfile = False
+  Signature.Strings = (
+    '-- '
+    'Ann')
+  DeleteAfterSend = False
+end
+)";
+  TQELMapiMail read(nullptr);
+  vcl::TMemoryStream file, written;
+  file.WriteText(text);
+  file.SetPosition(0);
+  vcl::ReadComponentFile(file, &read);
+  vcl::WriteComponentText(written, &read);
+  written.SetPosition(0);
+  EXPECT_EQ(written.ReadRest(), text);
+  EXPECT_TRUE(read.Execute());
+  EXPECT_EQ(Only("Send 7 0 8 0 {0 'It's' '  \rone\r\n\r\n-- \r\nAnn\r\n' - - - 2 - 4").size(), 1u);
 }
 
 /// What a system says of itself: its version, the registry's value and its settings file's, and
