@@ -1,5 +1,6 @@
 #include "design/Qeltools.h"
 
+#include "design/autosave.h"
 #include "design/tools.h"
 #include "design/toolsettings.h"
 #include "host/rtl/exceptions.h"
@@ -14,38 +15,35 @@ namespace {
 
 using namespace vcl;
 
-constexpr const char* NoSourceEditor = "Works on source files, which this designer does not edit";
-
-/// An item of the menu. One without a procedure is filled by the add-in, or disabled when it has a
-/// hint, which says why.
+/// An item of the menu. Those without a procedure are the add-in's own.
 struct TTool {
   const char* Caption;
   void (*Run)(TEnvironment&);
-  const char* Hint;
 };
 
+constexpr const char* AutoSaveCaption = "Auto Save Files";
 constexpr const char* FilesCaption = "My Personal Files";
 constexpr const char* LinksCaption = "My Personal Links";
 constexpr const char* PropertiesCaption = "Properties...";
 constexpr const char* ContactCaption = "Contact QEL";
 
 constexpr TTool Tools[] = {
-    {"Activate Screensaver", &ActivateScreenSaver, ""},
-    {"Non-Visual Components", &ShowNonVisualComponents, ""},
-    {"Paste Comments...", nullptr, NoSourceEditor},
-    {"Auto Save Files", nullptr, NoSourceEditor},
-    {"Clean Project Paths", nullptr, "Works on projects, which this designer does not have"},
-    {"Search && Replace Text", nullptr, NoSourceEditor},
-    {"Repair Component Names", &RepairComponentNames, ""},
-    {"Ini File Explorer", &ExploreIniFile, ""},
-    {"View Clipboard Contents", &ViewClipboard, ""},
-    {"View Ascii Table", &ViewAsciiTable, ""},
-    {"Generate Table Source", nullptr, NoSourceEditor},
-    {FilesCaption, nullptr, ""},
-    {LinksCaption, nullptr, ""},
-    {PropertiesCaption, nullptr, ""},
-    {ContactCaption, nullptr, ""},
-    {"About QEL", &ShowToolsAbout, ""},
+    {"Activate Screensaver", &ActivateScreenSaver},
+    {"Non-Visual Components", &ShowNonVisualComponents},
+    {"Paste Comments...", &PasteComments},
+    {AutoSaveCaption, nullptr},
+    {"Clean Project Paths", &CleanProjectPaths},
+    {"Search && Replace Text", &SearchAndReplace},
+    {"Repair Component Names", &RepairComponentNames},
+    {"Ini File Explorer", &ExploreIniFile},
+    {"View Clipboard Contents", &ViewClipboard},
+    {"View Ascii Table", &ViewAsciiTable},
+    {"Generate Table Source", &GenerateTableSource},
+    {FilesCaption, nullptr},
+    {LinksCaption, nullptr},
+    {PropertiesCaption, nullptr},
+    {ContactCaption, nullptr},
+    {"About QEL", &ShowToolsAbout},
 };
 
 /// The ways to contact, and what goes in front of an address that says no protocol.
@@ -85,9 +83,15 @@ void Disable(TMenuItem& item, const std::string& reason) {
 class TQELTools : public TExpert {
  public:
   explicit TQELTools(TEnvironment& environment)
-      : FEnvironment(environment), FSettings(LoadToolSettings()), FMenu(nullptr) {
+      : FEnvironment(environment),
+        FSettings(LoadToolSettings()),
+        FAutoSave(environment),
+        FMenu(nullptr) {
     FMenu.SetCaption("QEL &Tools");
     for (const TTool& tool : Tools) AddTool(tool);
+    Item(AutoSaveCaption).OnClick = {this, &TQELTools::ChooseAutoSave};
+    Item(PropertiesCaption).OnClick = {this, &TQELTools::EditProperties};
+    FAutoSave.SetMinutes(FSettings.AutoSave);
     FillLists();
     environment.MainMenu().Items()->Add(&FMenu);
   }
@@ -96,8 +100,6 @@ class TQELTools : public TExpert {
   void AddTool(const TTool& tool) {
     TMenuItem* item = AddItem(FMenu, tool.Caption, nullptr);
     if (tool.Run) item->OnClick = [this, run = tool.Run](TObject*) { run(FEnvironment); };
-    if (*tool.Hint) Disable(*item, tool.Hint);
-    if (tool.Caption == PropertiesCaption) item->OnClick = {this, &TQELTools::EditProperties};
   }
 
   TMenuItem& Item(const std::string& caption) {
@@ -135,13 +137,25 @@ class TQELTools : public TExpert {
   void EditProperties(TObject*) {
     TQELToolSettings settings = FSettings;
     if (!EditToolSettings(settings)) return;
-    SaveToolSettings(settings);
-    FSettings = std::move(settings);
+    Keep(settings);
     FillLists();
+  }
+
+  void ChooseAutoSave(TObject*) {
+    if (!FAutoSave.Choose()) return;
+    TQELToolSettings settings = FSettings;
+    settings.AutoSave = FAutoSave.Minutes();
+    Keep(settings);
+  }
+
+  void Keep(const TQELToolSettings& settings) {
+    SaveToolSettings(settings);
+    FSettings = settings;
   }
 
   TEnvironment& FEnvironment;
   TQELToolSettings FSettings;
+  TQELAutoSave FAutoSave;
   TMenuItem FMenu;
 };
 

@@ -2,6 +2,7 @@
 
 #include "host/rtl/properties.h"
 #include "host/vcl/button.h"
+#include "host/vcl/checkbox.h"
 #include "host/vcl/forms.h"
 #include "host/vcl/listbox.h"
 #include "host/vcl/memo.h"
@@ -21,7 +22,11 @@ class TQELToolListForm : public TForm {
     for (const std::string& line : list.Lines) Lines->Items()->Add(line);
     ActionButton->SetCaption(list.Action);
     ActionButton->SetVisible(!list.Action.empty());
-    Lines->SetItemIndex(list.Lines.empty() ? -1 : 0);
+    SwitchBox->SetCaption(list.Switch);
+    SwitchBox->SetVisible(!list.Switch.empty());
+    SwitchBox->SetChecked(list.Switched);
+    SwitchBox->OnClick = {this, &TQELToolListForm::SwitchClick};
+    Lines->SetItemIndex(list.Lines.empty() ? -1 : list.Chosen);
     LineClick(this);
   }
   static const TClass& Class();
@@ -38,10 +43,13 @@ class TQELToolListForm : public TForm {
     SetModalResult(mrOk);
   }
 
+  void SwitchClick(TObject*) { FList.OnSwitch(SwitchBox->Checked()); }
+
   const TQELToolList& FList;
   TListBox* Lines = nullptr;
   TMemo* Details = nullptr;
   TButton* ActionButton = nullptr;
+  TCheckBox* SwitchBox = nullptr;
 };
 
 const TClass& TQELToolListForm::Class() {
@@ -51,6 +59,7 @@ const TClass& TQELToolListForm::Class() {
                                                     Field<&T::Lines>("Lines"),
                                                     Field<&T::Details>("Details"),
                                                     Field<&T::ActionButton>("ActionButton"),
+                                                    Field<&T::SwitchBox>("SwitchBox"),
                                                     Method<&T::LineClick>("LineClick"),
                                                     Method<&T::ActionClick>("ActionClick"),
                                                 });

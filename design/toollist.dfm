@@ -23,6 +23,13 @@ object ToolListForm: TQELToolListForm
       OnClick = ActionClick
       TabOrder = 0
     end
+    object SwitchBox: TCheckBox
+      Left = 140
+      Top = 12
+      Width = 220
+      Height = 17
+      TabOrder = 1
+    end
     object ButtonPanel: TPanel
       Left = 380
       Top = 0
@@ -30,7 +37,7 @@ object ToolListForm: TQELToolListForm
       Height = 41
       Align = alRight
       BevelOuter = bvNone
-      TabOrder = 1
+      TabOrder = 2
       object CloseButton: TButton
         Left = 13
         Top = 8

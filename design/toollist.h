@@ -15,6 +15,13 @@ struct TQELToolList {
   /// The caption of a button that acts on the chosen line and closes the form; none when empty.
   std::string Action = {};
   std::function<void(int)> Act = {};
+  /// The line that is chosen first.
+  int Chosen = 0;
+  /// The caption of a check box, its state, and what is told of the user's changes; none when
+  /// empty.
+  std::string Switch = {};
+  bool Switched = false;
+  std::function<void(bool)> OnSwitch = {};
 };
 
 /// Shows the form and waits until it is closed.

@@ -1,5 +1,7 @@
 #include "design/tools.h"
 
+#include <filesystem>
+
 #include "core/Qelcomponent.h"
 #include "design/toollist.h"
 #include "host/rtl/convert.h"
@@ -10,20 +12,21 @@
 #include "host/vcl/application.h"
 #include "host/vcl/control.h"
 #include "host/vcl/dialogs.h"
+#include "host/vcl/windowtext.h"
 
 namespace qel {
 
 using namespace vcl;
 
-namespace {
-
-TDesigner& ActiveDesigner(TEnvironment& environment) {
+vcl::TDesigner& DesignerInFront(TEnvironment& environment) {
   if (TDesigner* designer = environment.ActiveDesigner()) return *designer;
   throw EInvalidOperation("No form is open in the designer");
 }
 
-std::vector<TComponent*> ComponentsOf(const TDesigner& designer,
-                                      bool (*wanted)(const TComponent& component)) {
+namespace {
+
+template <class Wanted>
+std::vector<TComponent*> ComponentsOf(const TDesigner& designer, const Wanted& wanted) {
   std::vector<TComponent*> components;
   const TComponent& root = designer.Root();
   for (int i = 0; i < root.ComponentCount(); ++i) {
@@ -39,8 +42,8 @@ std::vector<std::string> LinesOf(const TStrings& list) {
 }
 
 std::string Describe(const TComponent& component) {
-  return Concat("Name: ", component.Name(), "\r\nClass: ", component.ClassName(),
-                "\r\nUnit: ", component.ClassType().Unit());
+  return Concat("Name: ", component.Name(), "\nClass: ", component.ClassName(),
+                "\nUnit: ", component.ClassType().Unit());
 }
 
 }  // namespace
@@ -50,32 +53,63 @@ void ActivateScreenSaver(TEnvironment&) {
 }
 
 void ShowNonVisualComponents(TEnvironment& environment) {
-  TDesigner& designer = ActiveDesigner(environment);
+  TDesigner& designer = DesignerInFront(environment);
   const auto found = ComponentsOf(designer, [](const TComponent& component) {
-    return dynamic_cast<const TControl*>(&component) == nullptr;
+    return !dynamic_cast<const TControl*>(&component) && !component.HasParent();
   });
-  TQELToolList list{"Non-Visual Components", {}, [&](int index) {
-                      return Describe(*found[static_cast<std::size_t>(index)]);
-                    }};
+  const auto at = [&](int index) { return found[static_cast<std::size_t>(index)]; };
+  TQELToolList list{"Non-Visual Components", {}, [&](int index) { return Describe(*at(index)); }};
   for (const TComponent* each : found) list.Lines.push_back(each->Name());
   list.Action = "&Select";
-  list.Act = [&](int index) { designer.SetSelection({found[static_cast<std::size_t>(index)]}); };
+  list.Act = [&](int index) { designer.SetSelection({at(index)}); };
+  list.Switch = "S&how their icons on the form";
+  list.Switched = designer.ShowNonVisual();
+  list.OnSwitch = [&](bool show) { designer.SetShowNonVisual(show); };
   ShowToolList(list);
 }
 
 void RepairComponentNames(TEnvironment& environment) {
-  TDesigner& designer = ActiveDesigner(environment);
-  const auto unnamed =
-      ComponentsOf(designer, [](const TComponent& component) { return component.Name().empty(); });
+  TDesigner& designer = DesignerInFront(environment);
+  const auto wrong = ComponentsOf(designer, [&](const TComponent& component) {
+    return !designer.NameProblem(component).empty();
+  });
   TQELToolList list{"Repair Component Names", {}, [&](int index) {
-                      return Concat("It has no name, so that no handler can reach it.\r\n",
-                                    Describe(*unnamed[static_cast<std::size_t>(index)]));
+                      const TComponent& component = *wrong[static_cast<std::size_t>(index)];
+                      return Concat(designer.NameProblem(component), ".\n", Describe(component));
                     }};
-  for (const TComponent* each : unnamed) list.Lines.push_back(each->ClassName());
-  list.Action = "&Name them all";
+  for (const TComponent* each : wrong) {
+    list.Lines.push_back(Concat(each->Name(), ": ", each->ClassName()));
+  }
+  list.Action = "&Rename them all";
   list.Act = [&](int) {
-    for (TComponent* each : unnamed) each->SetName(designer.UniqueName(each->ClassName()));
+    for (TComponent* each : wrong) each->SetName(designer.UniqueName(each->ClassName()));
     designer.Modified();
+  };
+  ShowToolList(list);
+}
+
+namespace {
+
+/// A name without a folder may be found wherever the program looks for it.
+bool IsGone(const std::string& fileName) {
+  const std::filesystem::path path(ToUtf16(fileName));
+  std::error_code error;
+  return path.is_absolute() &&
+         std::filesystem::status(path, error).type() == std::filesystem::file_type::not_found;
+}
+
+}  // namespace
+
+void CleanProjectPaths(TEnvironment& environment) {
+  std::vector<std::string> gone = environment.RememberedFiles();
+  std::erase_if(gone, [](const std::string& each) { return !IsGone(each); });
+  TQELToolList list{"Clean Project Paths", gone, [&](int index) {
+                      return Concat("The designer remembers a file that is no longer there:\n",
+                                    gone[static_cast<std::size_t>(index)]);
+                    }};
+  list.Action = "&Forget them all";
+  list.Act = [&](int) {
+    for (const std::string& each : gone) environment.ForgetFile(each);
   };
   ShowToolList(list);
 }
@@ -116,9 +150,9 @@ std::string AsciiName(int code) {
 
 void ViewAsciiTable(TEnvironment&) {
   TQELToolList list{"Ascii Table", {}, [](int code) {
-                      return Concat("Character: ", AsciiName(code), "\r\nDecimal: ", IntToStr(code),
-                                    "\r\nHexadecimal: $", IntToHex(static_cast<unsigned>(code), 2),
-                                    "\r\nIn a form file: #", IntToStr(code));
+                      return Concat("Character: ", AsciiName(code), "\nDecimal: ", IntToStr(code),
+                                    "\nHexadecimal: $", IntToHex(static_cast<unsigned>(code), 2),
+                                    "\nIn a form file: #", IntToStr(code));
                     }};
   for (int code = 0; code < AsciiCharacters; ++code) {
     const std::string number = IntToStr(code);

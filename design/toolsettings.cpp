@@ -30,6 +30,8 @@ constexpr struct {
     {&TQELToolSettings::Pager, "Pager"},
 };
 
+constexpr const char* AutoSaveIdent = "AutoSave";
+
 /// A count beyond this is no list that somebody has typed.
 constexpr int MaxEntries = 1000;
 
@@ -52,6 +54,7 @@ TQELToolSettings LoadToolSettings() {
   TSettingsStore store;
   TQELToolSettings settings;
   for (const auto& [text, ident] : Texts) settings.*text = store.ReadStr(ident);
+  settings.AutoSave = store.ReadInt(AutoSaveIdent);
   for (const TListPlace& place : Lists) {
     const int count = std::min(store.ReadInt(place.Count), MaxEntries);
     for (int i = 0; i < count; ++i) {
@@ -68,6 +71,7 @@ void SaveToolSettings(const TQELToolSettings& settings) {
   TSettingsStore store;
   store.Erase();
   for (const auto& [text, ident] : Texts) store.WriteStr(ident, settings.*text);
+  store.WriteInt(AutoSaveIdent, settings.AutoSave);
   for (const TListPlace& place : Lists) {
     const auto& list = settings.*place.List;
     for (std::size_t i = 0; i < list.size(); ++i) {

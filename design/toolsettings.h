@@ -18,6 +18,8 @@ struct TQELToolSettings {
   std::string HomePage;
   std::string Mail;
   std::string Pager;
+  /// How often open forms are saved, in minutes; 0 for never.
+  int AutoSave = 0;
 };
 
 /// Reads them from, and writes them to, the user's part of the registry. Raise ERegistryException

@@ -69,7 +69,8 @@ bool EditToolSettings(TQELToolSettings& settings) {
   form.PagerEdit->SetText(settings.Pager);
   if (form.ShowModal() != mrOk) return false;
   settings = {Read(*form.FilesMemo->Lines()), Read(*form.LinksMemo->Lines()),
-              form.HomePageEdit->Text(), form.MailEdit->Text(), form.PagerEdit->Text()};
+              form.HomePageEdit->Text(),      form.MailEdit->Text(),
+              form.PagerEdit->Text(),         settings.AutoSave};
   return true;
 }
 

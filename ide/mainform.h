@@ -58,8 +58,7 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
 
   vcl::TMainMenu& MainMenu() override { return *MainMenuBar; }
   vcl::TDesigner* ActiveDesigner() override { return FDesigner; }
-  std::string FileName() const override { return FDesigner->Document().FileName(); }
-  void SaveFile() override;
+  void SaveFiles() override;
   std::vector<std::string> RememberedFiles() const override;
   void ForgetFile(const std::string& fileName) override;
 

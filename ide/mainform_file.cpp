@@ -88,10 +88,12 @@ bool TMainForm::SaveIn(const std::string& fileName) {
 }
 
 /// What is being typed into the inspector is not the form's yet and stays where it is.
-void TMainForm::SaveFile() {
-  TFormDocument& document = FDesigner->Document();
-  if (document.FileName().empty() || !document.Modified()) return;
-  FDesigner->Try([&] { document.Save(document.FileName()); });
+void TMainForm::SaveFiles() {
+  for (TFormDesigner* each : FForms->All()) {
+    TFormDocument& document = each->Document();
+    if (document.FileName().empty() || !document.Modified()) continue;
+    each->Try([&] { document.Save(document.FileName()); });
+  }
 }
 
 /// Asks what is to be done with changes; false when the user wants to go on with them.

@@ -24,11 +24,9 @@ class VCL_API TEnvironment {
   virtual TMainMenu& MainMenu() = 0;
   /// The designer of the form in front; null when none is open.
   virtual TDesigner* ActiveDesigner() = 0;
-  /// The file of that form, with its folder; empty for a form that was never saved.
-  virtual std::string FileName() const = 0;
-  /// Saves that form in its file when it has one and was changed. Nobody is asked anything; what
-  /// goes wrong is among the application's messages.
-  virtual void SaveFile() = 0;
+  /// Saves every open form that has a file and was changed. Nobody is asked anything; what goes
+  /// wrong is among the application's messages.
+  virtual void SaveFiles() = 0;
   /// The files that the application remembers from one run to the next: forms that were open, and
   /// its packages.
   virtual std::vector<std::string> RememberedFiles() const = 0;

@@ -12,12 +12,14 @@
 #include "host/vcl/vcl.h"
 #include "mail/Qeltiemails.h"
 #include "mail/Qeltmapimail.h"
+#include "tests/design/dialogs.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plaindesigner.h"
 
 namespace qel {
 namespace {
 
+using namespace dialogs;
 using namespace vcl;
 using testing::ElementsAre;
 
@@ -150,26 +152,13 @@ TEST_F(Editors, ColorsKeepWhatWasEditedHoweverTheFormIsClosed) {
   ASSERT_NE(colors, nullptr);
   colors->SetCommaText("clRed,nonsense,$00FF00");
   EXPECT_FALSE(MakePropertyEditor(Designer, edited)->IsDefault());
-  TTimer timer(nullptr);
-  timer.SetInterval(20);
-  timer.OnTimer = [](TObject*) {
-    const HWND form = ::FindWindowW(nullptr, L"Colors in between");
-    HWND list = ::GetWindow(form, GW_CHILD);
-    while (list && ::SendMessageW(list, LB_GETCOUNT, 0, 0) != 3) {
-      list = ::GetWindow(list, GW_HWNDNEXT);
-    }
-    ::SendMessageW(list, WM_KEYDOWN, VK_HOME, 0);  // Selects the first line.
-    ::SendMessageW(::FindWindowExW(form, nullptr, nullptr, L"&Delete"), BM_CLICK, 0, 0);
-    ::PostMessageW(form, WM_CLOSE, 0, 0);
-  };
-  timer.SetEnabled(true);
+  const TOnForm onForm(L"Colors in between", [](HWND form) {
+    Choose(form, 0);
+    Press(form, "&Delete");
+  });
   MakePropertyEditor(Designer, edited)->Edit();
   EXPECT_EQ(colors->CommaText(), "nonsense,$00FF00");
   EXPECT_EQ(Designer.Modifications, 1);
-}
-
-void Press(HWND form, const wchar_t* button) {
-  ::SendMessageW(::FindWindowExW(form, nullptr, nullptr, button), BM_CLICK, 0, 0);
 }
 
 /// Where the selected item's property of that place in its list is edited.
@@ -185,22 +174,16 @@ TEST_F(Editors, MailsAreConfiguredInAForm) {
   const auto editor = MakeComponentEditor(Designer, mail);
   ASSERT_EQ(editor->GetVerbCount(), 1);
   EXPECT_EQ(editor->GetVerb(0), "Configure Mail ...");
-  for (const wchar_t* end : {L"Cancel", L"OK"}) {
-    TTimer timer(nullptr);
-    timer.SetInterval(20);
-    timer.OnTimer = [&](TObject*) {
-      const HWND form = ::FindWindowW(nullptr, L"Messages");
-      timer.SetEnabled(form == nullptr);
-      if (!form) return;
-      Press(form, L"&Delete");
-      Press(form, L"&Add");
+  for (const std::string end : {"Cancel", "OK"}) {
+    const TOnForm onForm(L"Messages", [&](HWND form) {
+      Press(form, "&Delete");
+      Press(form, "&Add");
       ::SetWindowTextW(EditOf(form, 3), L"new");
-      Press(form, end);
-    };
-    timer.SetEnabled(true);
+      Press(form, end.c_str());
+    });
     editor->ExecuteVerb(0);
     ASSERT_EQ(mail.Messages()->Count(), 2);
-    const bool agreed = std::wcscmp(end, L"OK") == 0;
+    const bool agreed = end == "OK";
     EXPECT_EQ(mail.Messages()->GetQELMessage(0)->Subject(), agreed ? "second" : "first");
     EXPECT_EQ(mail.Messages()->GetQELMessage(1)->Subject(), agreed ? "new" : "second");
   }
@@ -212,18 +195,12 @@ TEST_F(Editors, FilesAreAttachedUnderTheirFullNames) {
   TQELSMTPMail mail(nullptr);
   TQELMessage& message = *mail.Messages()->Add();
   asked.Answer = L"C:\\folder\\file.txt";
-  TTimer timer(nullptr);
-  timer.SetInterval(20);
-  timer.OnTimer = [&](TObject*) {
-    const HWND form = ::FindWindowW(nullptr, L"Attachments");
-    timer.SetEnabled(form == nullptr);
-    if (!form) return;
-    Press(form, L"&Add");
+  const TOnForm onForm(L"Attachments", [&](HWND form) {
+    Press(form, "&Add");
     asked.Answer = nullptr;
-    Press(form, L"&Add");
-    Press(form, L"OK");
-  };
-  timer.SetEnabled(true);
+    Press(form, "&Add");
+    Press(form, "OK");
+  });
   MakePropertyEditor(Designer, Edited(message, "Attachments"))->Edit();
   ASSERT_EQ(message.Attachments()->Count(), 1);
   EXPECT_EQ(message.Attachments()->GeTQELAttachment(0)->FileName(), "C:\\folder\\file.txt");

@@ -63,7 +63,7 @@ TEST_F(Designer, FormsAreMadeByMouseAndComeBackFromTheirFile) {
 
   // As an add-in saves and forgets it.
   Place("TButton", At(300, 200), At(300, 200));
-  Window->SaveFile();
+  Window->SaveFiles();
   EXPECT_EQ(Read("made.dfm"), Document().Text());
   EXPECT_THAT(Window->RememberedFiles(), Contains(File("made.dfm")));
   Window->ForgetFile(File("made.dfm"));
