@@ -14,7 +14,7 @@ struct TCppClass {
   std::string Header;  // What code includes for it.
 };
 
-/// Of a class of the library or of the package; empty names for one that is not known.
+/// Of a class of the library or of its package of components; empty names for any other.
 TCppClass CppClassOf(const vcl::TClass& type);
 
 /// The parameters of the handlers of an event type, as a declaration has them; empty for a type

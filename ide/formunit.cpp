@@ -21,12 +21,10 @@ bool IsKnown(const TComponent& component) {
   return !IsStandIn(component) && (!kept || (kept->Properties.empty() && kept->Children.empty()));
 }
 
-void AddField(TComponent& component, TUnitForm& form, std::vector<std::string>& notes) {
+void AddField(TComponent& component, TUnitForm& form) {
   const TCppClass type = CppClassOf(component.ClassType());
   if (type.Name.empty()) {
-    notes.push_back(Concat(component.Name(), " is of the class ", component.ClassName(),
-                           ", whose header is not known; declare it by hand"));
-    form.Incomplete = true;
+    form.Fields.push_back({component.Name(), {}, {}});
     return;
   }
   TUnitField field{component.Name(), {type.Name}, type.Header};
@@ -63,7 +61,7 @@ TUnitForm UnitFormOf(TComponent& root, const THandlers& handlers, const std::str
       throw EUnitError(Concat("The component ", component.Name(),
                               " would hide the form's property of that name"));
     }
-    AddField(component, form, notes);
+    AddField(component, form);
   }
   if (form.Incomplete) {
     notes.push_back("The form holds what the designer doesn't know; nothing is removed");

@@ -174,6 +174,19 @@ TMethodBody FindBody(const TCppText& text, std::string_view className, std::stri
   return {};
 }
 
+std::vector<TMethod> FindMethods(const TCppText& text, std::string_view className) {
+  std::vector<TMethod> methods;
+  for (std::size_t i = 1; i + 3 < text.Count(); ++i) {
+    const bool defined = text.Is(i - 1, "void") && text.Is(i, className) && text.Is(i + 1, "::") &&
+                         text.Is(i + 3, "(") && text.Is(text[i + 3].Mate + 1, "{");
+    if (!defined) continue;
+    const std::size_t open = text[i + 3].Begin, close = text[text[i + 3].Mate].End;
+    methods.push_back(
+        {std::string(text[i + 2].Text), std::string(text.Text().substr(open, close - open))});
+  }
+  return methods;
+}
+
 std::size_t EndOfNamespace(const TCppText& text, std::size_t token) {
   std::size_t end = text.Count();
   for (std::size_t i = 0; i < token; ++i) {

@@ -55,6 +55,14 @@ struct TMethodBody {
 };
 TMethodBody FindBody(const TCppText& text, std::string_view className, std::string_view method);
 
+/// A method without a result, as its definition has it.
+struct TMethod {
+  std::string Name;
+  std::string Parameters;  // With the parentheses.
+};
+/// All of the class that the text defines outside of it.
+std::vector<TMethod> FindMethods(const TCppText& text, std::string_view className);
+
 /// The closing brace of the innermost namespace that the token is in; Count() for none.
 std::size_t EndOfNamespace(const TCppText& text, std::size_t token);
 

@@ -73,7 +73,9 @@ class TUnitUpdate {
  public:
   TUnitUpdate(const TUnitForm& form, const std::string& header, const std::string& source)
       : FForm(form),
-        FHeader(form.UnitName + ".h", header),
+        FNewHeader(header.empty()),
+        FHeaderText(FNewHeader ? NewHeader(form) : header),
+        FHeader(form.UnitName + ".h", FHeaderText),
         FSource(form.UnitName + ".cpp", source),
         FClass(FindClass(FHeader, form.ClassName)),
         FTable(FindTable(FSource, form.ClassName)) {
@@ -87,6 +89,7 @@ class TUnitUpdate {
     for (const TTableEntry& entry : FTable.Entries) RemoveGone(entry);
     for (const TUnitField& field : FForm.Fields) Update(field);
     for (const TUnitHandler& handler : FForm.Handlers) Update(handler);
+    if (FNewHeader) DeclareOthers();
     InsertDeclarations();
     InsertLines();
     InsertStubs();
@@ -164,9 +167,13 @@ class TUnitUpdate {
 
   // What is there or comes.
   void Update(const TUnitField& field) {
-    if (!EntryOf(field.Name)) FNewFieldLines.push_back(TableLine(FForm, "Field", field.Name));
     const TClassMember* member = MemberOf(field.Name, TSort::Field);
-    if (member && Accepts(field, *member)) return;
+    if (field.Classes.empty() && !member) {
+      Note(Concat("The header of the class of ", field.Name, " is not known; declare it by hand"));
+      return;
+    }
+    if (!EntryOf(field.Name)) FNewFieldLines.push_back(TableLine(FForm, "Field", field.Name));
+    if (member && (field.Classes.empty() || Accepts(field, *member))) return;
     FHeaders.insert(field.Header);
     if (!member) {
       FNewFields += FieldLine(field);
@@ -193,6 +200,16 @@ class TUnitUpdate {
     if (MemberOf(handler.Name, TSort::Method)) return;
     FNewHandlers += HandlerLine(handler);
     if (!FindBody(FSource, FForm.ClassName, handler.Name)) FStubs.push_back(Stub(FForm, handler));
+  }
+
+  /// What the source holds and the form doesn't name.
+  void DeclareOthers() {
+    for (const TMethod& each : FindMethods(FSource, FForm.ClassName)) {
+      const bool handler = std::ranges::any_of(FForm.Handlers, [&](const TUnitHandler& other) {
+        return SameText(other.Name, each.Name);
+      });
+      if (!handler) FNewHandlers += Concat("  void ", each.Name, each.Parameters, ";\n");
+    }
   }
 
   // Places of what comes.
@@ -291,6 +308,8 @@ class TUnitUpdate {
   void Note(std::string note) { FNotes.push_back(std::move(note)); }
 
   const TUnitForm& FForm;
+  const bool FNewHeader;
+  const std::string FHeaderText;
   TCppText FHeader, FSource;
   TClassPart FClass;
   TTablePart FTable;
@@ -308,9 +327,7 @@ TUnitTexts WriteUnit(const TUnitForm& form, const std::string& header, const std
   if (source.empty() && !header.empty()) {
     throw EUnitError(Concat(form.UnitName, ".h is there, and ", form.UnitName, ".cpp is not"));
   }
-  return TUnitUpdate(form, header.empty() ? NewHeader(form) : header,
-                     source.empty() ? NewSource(form) : source)
-      .Run();
+  return TUnitUpdate(form, header, source.empty() ? NewSource(form) : source).Run();
 }
 
 }  // namespace ide

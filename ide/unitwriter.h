@@ -10,7 +10,8 @@ namespace ide {
 struct TUnitField {
   std::string Name;
   /// Its class and the class's ancestors, as C++ names them. A field that is declared as one of
-  /// these stays as it is.
+  /// these stays as it is. Empty for a class that C++ names in a way that is not known: its field
+  /// is declared by hand.
   std::vector<std::string> Classes;
   std::string Header;
 };
@@ -43,7 +44,8 @@ struct TUnitTexts {
 /// The class's published table says what the form had before: of the table, the fields and the
 /// declarations of handlers, those are added that the form has, and removed that it has no more;
 /// nothing else is touched. A new handler gets an empty body at the end of the source. The body of
-/// a handler that is gone stays, with its declaration, unless it is empty and nobody calls it.
+/// a handler that is gone stays, with its declaration, unless it is empty and nobody calls it; a
+/// header that is written anew beside a source declares the methods without a result there.
 /// Everything keeps its place, its layout and its line breaks. A handler without parameters is of
 /// an event type that is not known; it is only told of.
 ///

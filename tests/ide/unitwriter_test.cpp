@@ -6,14 +6,19 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <memory>
 #include <regex>
+#include <set>
 
+#include "host/designintf/package.h"
+#include "host/designintf/registration.h"
+#include "host/rtl/collection.h"
 #include "host/rtl/text.h"
-#include "host/vcl/buttons.h"
 #include "host/vcl/vcl.h"
 #include "ide/cppnames.h"
 #include "ide/cpptext.h"
+#include "ide/palette.h"
 
 namespace ide {
 namespace {
@@ -104,6 +109,11 @@ TEST(UnitWriter, ChangesOnlyWhatTheFormChangesAndWritingTwiceChangesNothing) {
   EXPECT_EQ(again.Source, texts.Source);
   EXPECT_THAT(again.Notes, ElementsAre());
 
+  // A header that is lost is written anew, with what the source still defines.
+  const TUnitTexts anew = WriteUnit(form, "", texts.Source);
+  EXPECT_THAT(anew.Header, HasSubstr("  void TwoClick(vcl::TObject* sender);\n"));
+  EXPECT_THAT(anew.Header, HasSubstr("  void Mine();\n  void Calls();\n"));
+
   // What doesn't know the form whole removes nothing.
   TUnitForm incomplete = Form({}, {});
   incomplete.Incomplete = true;
@@ -170,6 +180,15 @@ TEST(UnitWriter, WhatCannotBeWrittenIsRefusedOrTold) {
   for (const auto& each : cases) {
     EXPECT_THAT(refusal(each.Form, each.Header, each.Source), HasSubstr(each.Message));
   }
+  // What is of a foreign class is declared by hand, and then like others.
+  const TUnitForm foreign = Form({{"Odd", {}, {}}}, {});
+  const TUnitTexts undeclared = WriteUnit(foreign, "", "");
+  EXPECT_THAT(undeclared.Notes, ElementsAre(HasSubstr("Odd")));
+  const TUnitTexts declared = WriteUnit(
+      foreign, Replaced(undeclared.Header, " private:\n", " private:\n  odd::TOdd* Odd;\n"),
+      undeclared.Source);
+  EXPECT_THAT(declared.Source, HasSubstr("Field<&TMain::Odd>(\"Odd\")"));
+  EXPECT_THAT(declared.Notes, ElementsAre());
   const TUnitTexts odd = WriteUnit(Form({}, {{"Odd", "TOddEvent", ""}}), "", "");
   EXPECT_THAT(odd.Notes, ElementsAre(HasSubstr("TOddEvent")));
   EXPECT_THAT(odd.Source, Not(HasSubstr("Odd")));
@@ -177,32 +196,63 @@ TEST(UnitWriter, WhatCannotBeWrittenIsRefusedOrTold) {
 
 /// The parameters without their names.
 std::string TypesOf(std::string_view parameters) {
-  const std::string types =
-      std::regex_replace(std::string(parameters), std::regex(" \\w+(,|$)"), "$1");
-  return Replaced(types, "const std::string&", "std::string const&");
+  return Replaced(std::regex_replace(std::string(parameters), std::regex(" \\w+(,|$)"), "$1"),
+                  "const ", "");
 }
 
-TEST(UnitWriter, HandlersAreDeclaredAsTheirEventsCallThem) {
+/// An event's parameters as the compiler knows them, spelled as the unit writer does.
+std::string TypesOf(const vcl::TPropInfo& event) {
+  const std::unique_ptr<char, decltype(&std::free)> name(
+      abi::__cxa_demangle(event.Signature->name(), nullptr, nullptr, nullptr), &std::free);
+  std::string called = Replaced(name.get(), " const&", "&");
+  for (const auto& [is, as] : {std::pair(" >", ">"),
+                               {"std::__cxx11::basic_string<char, std::char_traits<char>, "
+                                "std::allocator<char>>",
+                                "std::string"},
+                               {"unsigned short", "std::uint16_t"}}) {
+    called = Replaced(called, is, as);
+  }
+  return std::regex_replace(called, std::regex("vcl::TSet<(vcl::T\\w+)Value>"), "$1");
+}
+
+/// The class and those of the items of its collections.
+std::set<const vcl::TClass*> WithItems(const vcl::TClass& type) {
+  std::set<const vcl::TClass*> types{&type};
+  vcl::TForm owner(nullptr);
+  const std::unique_ptr<vcl::TComponent> made(type.Maker().Component(&owner));
+  for (const vcl::TPropInfo* each : type.Published()) {
+    if (each->IsEvent() || !each->Type->ClassOf) continue;
+    const auto* items = dynamic_cast<vcl::TCollection*>(std::get<vcl::TObject*>(each->Get(*made)));
+    if (items) types.insert(&items->ItemClass());
+  }
+  return types;
+}
+
+TEST(UnitWriter, EveryClassOfThePaletteHasItsHeaderAndItsEventsParameters) {
+  if (vcl::RegisteredComponents().empty()) RegisterStandardPages();
+  const vcl::TPackage package("qel.dll");
+  std::set<const vcl::TClass*> types{&vcl::TForm::Class()};
+  for (const auto& [page, classes] : vcl::RegisteredComponents()) {
+    for (const vcl::TClass* type : classes) types.merge(WithItems(*type));
+    for (const vcl::TClass* type : classes) {
+      const TCppClass names = CppClassOf(*type);
+      std::ifstream file(std::string(DOCS_FOLDER "/../") + names.Header);
+      EXPECT_TRUE(file.is_open()) << type->Name() << ": " << names.Header;
+      EXPECT_THAT(names.Name, HasSubstr("::" + type->Name()));
+    }
+  }
   int checked = 0;
-  for (const vcl::TClass* type :
-       {&vcl::TForm::Class(), &vcl::TEdit::Class(), &vcl::TListBox::Class(),
-        &vcl::TPageControl::Class(), &vcl::TTreeView::Class(), &vcl::TBitBtn::Class()}) {
+  for (const vcl::TClass* type : types) {
     for (const vcl::TPropInfo* event : type->Published()) {
       if (!event->IsEvent()) continue;
-      const std::unique_ptr<char, decltype(&std::free)> name(
-          abi::__cxa_demangle(event->Signature->name(), nullptr, nullptr, nullptr), &std::free);
-      std::string called = Replaced(name.get(), " const&", "&");
-      called = std::regex_replace(called, std::regex("std::__cxx11::basic_string<[^&]*> ?>"),
-                                  "std::string");
-      called = std::regex_replace(called, std::regex("vcl::TSet<(vcl::T\\w+)Value>"), "$1");
-      called = std::regex_replace(called, std::regex("unsigned short"), "std::uint16_t");
-      const std::string written = Replaced(TypesOf(ParametersOf(event->TypeName())), "const ", "");
-      EXPECT_THAT(called, HasSubstr("<" + written)) << event->Name << " " << event->TypeName();
+      const std::string written = TypesOf(ParametersOf(event->TypeName()));
       EXPECT_FALSE(written.empty()) << event->TypeName();
+      EXPECT_THAT(TypesOf(*event), HasSubstr("<" + written + ">"))
+          << type->Name() << "." << event->Name << " " << event->TypeName();
       ++checked;
     }
   }
-  EXPECT_GT(checked, 40);
+  EXPECT_GT(checked, 300);
 }
 
 }  // namespace
