@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/designintf/designer.h"
+#include "host/vcl/menus.h"
 #include "ide/arrange.h"
 #include "ide/designsurface.h"
 #include "ide/formdocument.h"
@@ -28,6 +29,7 @@ struct TDesignerEvents {
   std::function<void(vcl::TPersistent& owner, vcl::TCollection& collection,
                      const std::string& property)>
       ShowCollection;
+  std::function<void(vcl::TMenu& menu)> ShowMenu;
   /// Says with what a change that an editor makes now belongs together; see TUndoHistory::Add.
   std::function<std::string()> ChangeKey;
   /// A component was made of the palette's class.

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "host/designintf/designer.h"
 #include "host/vcl/comctrls.h"
 #include "host/vcl/stdctrls.h"
+#include "ide/designerpart.h"
 
 namespace ide {
 
@@ -18,18 +18,18 @@ class TInspectorGrid;
 ///
 /// Who selects, changes or frees objects of the form tells the inspector. It forgets components
 /// that are freed by itself, but not items of collections.
-class TObjectInspector : public vcl::TWinControl {
+class TObjectInspector : public vcl::TWinControl, public TDesignerPart {
  public:
   explicit TObjectInspector(vcl::TComponent* owner);
   ~TObjectInspector() override;
 
   vcl::TDesigner* Designer() const { return FDesigner; }
   /// Shows another form's designer, with its selection; null for none.
-  void SetDesigner(vcl::TDesigner* designer);
+  void SetDesigner(vcl::TDesigner* designer) override;
   /// The designer has selected something else. What is typed and does not hold yet is dropped.
-  void SelectionChanged();
+  void SelectionChanged() override;
   /// Something on the form has changed, or its components have: shows what looks different now.
-  void Refresh();
+  void Refresh() override;
   /// Makes what is typed hold, as before a file is saved. False when it is refused.
   bool Apply();
 

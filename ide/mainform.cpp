@@ -64,7 +64,9 @@ TMainForm::TMainForm(TComponent* owner)
       FInspector(new TObjectInspector(this)),
       FPalette(new TComponentPalette(this)),
       FStructure(new TStructureTree(this)),
-      FItems(new TCollectionWindow(this)) {
+      FItems(new TCollectionWindow(this)),
+      FMenus(new TMenuWindow(this)),
+      FParts{FInspector, FStructure, FItems, FMenus} {
   constexpr int structureHeight = 150;
   LoadForm();
   FStructure->SetHeight(structureHeight);
@@ -136,17 +138,13 @@ void TMainForm::FormChanged(TFormDesigner& designer) {
   FForms->ShowChanged(designer);
   if (&designer != FDesigner) return;
   ShowTitle();
-  FInspector->Refresh();
-  FStructure->Refresh();
-  FItems->Refresh();
+  for (TDesignerPart* each : FParts) each->Refresh();
   ShowSelected();
 }
 
 /// Has the parts show the designer's form; null for none.
 void TMainForm::TakeDesigner(TFormDesigner* designer) {
-  FInspector->SetDesigner(designer);
-  FStructure->SetDesigner(designer);
-  FItems->SetDesigner(designer);
+  for (TDesignerPart* each : FParts) each->SetDesigner(designer);
 }
 
 /// The form will be made anew; the parts take it when something on it is selected.
@@ -154,9 +152,7 @@ void TMainForm::RootGoing() { TakeDesigner(nullptr); }
 
 void TMainForm::SelectionChanged() {
   if (FInspector->Designer()) {
-    FInspector->SelectionChanged();
-    FStructure->SelectionChanged();
-    FItems->SelectionChanged();
+    for (TDesignerPart* each : FParts) each->SelectionChanged();
   } else {
     TakeDesigner(FDesigner);
   }

@@ -9,6 +9,7 @@
 #include "host/vcl/vcl.h"
 #include "ide/formdesigner.h"
 #include "ide/inspector.h"
+#include "ide/menuwindow.h"
 #include "ide/openforms.h"
 #include "ide/packages.h"
 #include "ide/palette.h"
@@ -55,6 +56,7 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   TComponentPalette& Palette() { return *FPalette; }
   TStructureTree& Structure() { return *FStructure; }
   TCollectionWindow& Items() { return *FItems; }
+  TMenuWindow& MenuWindow() { return *FMenus; }
 
   vcl::TMainMenu& MainMenu() override { return *MainMenuBar; }
   vcl::TDesigner* ActiveDesigner() override { return FDesigner; }
@@ -144,6 +146,8 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   TComponentPalette* FPalette;
   TStructureTree* FStructure;
   TCollectionWindow* FItems;
+  TMenuWindow* FMenus;
+  std::vector<TDesignerPart*> FParts;  // All four of them.
   std::unique_ptr<TOpenForms> FForms;
   TFormDesigner* FDesigner = nullptr;  // The active one of them.
   std::vector<std::unique_ptr<vcl::TExpert>> FExperts;

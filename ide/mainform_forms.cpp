@@ -34,6 +34,7 @@ void TMainForm::ListenTo(TFormDesigner& designer) {
   it->Events.ShowCollection = [this, it](TPersistent&, TCollection& items, const std::string&) {
     FItems->ShowItems(*it, items);
   };
+  it->Events.ShowMenu = [this, it](TMenu& menu) { FMenus->ShowMenu(*it, menu); };
   it->Events.Placed = [this] {
     FPalette->Placed();
     TakeTool();

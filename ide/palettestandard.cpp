@@ -1,4 +1,5 @@
-// Which of the class library's components stand on which page of the palette.
+// Which of the class library's components stand on which page of the palette, and which have an
+// editor of the designer's own.
 #include "host/db/datasource.h"
 #include "host/db/memorydataset.h"
 #include "host/db/odbcquery.h"
@@ -7,6 +8,7 @@
 #include "host/net/sockets.h"
 #include "host/vcl/buttons.h"
 #include "host/vcl/vcl.h"
+#include "ide/menuwindow.h"
 #include "ide/palette.h"
 
 namespace ide {
@@ -32,6 +34,7 @@ void RegisterStandardPages() {
       {"Internet", {&TClientSocket::Class()}},
   };
   for (const auto& [page, classes] : pages) RegisterComponents(page, classes);
+  RegisterMenuEditor();
 }
 
 }  // namespace ide

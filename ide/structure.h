@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "host/designintf/designer.h"
 #include "host/vcl/treeview.h"
+#include "ide/designerpart.h"
 #include "ide/structurelines.h"
 
 namespace ide {
@@ -16,16 +16,16 @@ namespace ide {
 /// control that is dragged to a container goes into it.
 ///
 /// Who selects or changes objects of the form tells the tree.
-class TStructureTree : public vcl::TCustomTreeView {
+class TStructureTree : public vcl::TCustomTreeView, public TDesignerPart {
  public:
   explicit TStructureTree(vcl::TComponent* owner);
   ~TStructureTree() override;
 
   /// Shows another form's designer; null for none.
-  void SetDesigner(vcl::TDesigner* designer);
-  void SelectionChanged();
+  void SetDesigner(vcl::TDesigner* designer) override;
+  void SelectionChanged() override;
   /// The form has changed: shows what has.
-  void Refresh();
+  void Refresh() override;
   /// The node of that line (TStructureLine::Path); null when there is none.
   vcl::TTreeNode* NodeOf(const std::string& path) const;
 

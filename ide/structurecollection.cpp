@@ -11,49 +11,23 @@ namespace ide {
 
 namespace {
 
-constexpr int ButtonWidth = 70;
-constexpr int ButtonHeight = 25;
-constexpr int Gap = 6;
-
 enum TButtons { buAdd, buDelete, buUp, buDown };
 
 }  // namespace
 
-TCollectionWindow::TCollectionWindow(vcl::TComponent* owner)
-    : TForm(owner), FList(new vcl::TListBox(this)) {
+TCollectionWindow::TCollectionWindow(vcl::TComponent* owner) : TListWindow(owner) {
   using T = TCollectionWindow;
-  SetBorderStyle(vcl::bsSizeToolWin);
   SetBounds(200, 200, 280, 260);
-  FList->SetMultiSelect(true);
-  FList->SetParent(this);
-  FList->OnClick = vcl::TNotifyEvent(this, &T::ListClicked);
-  FList->OnKeyDown = vcl::TKeyEvent(this, &T::ListKey);
-  FButtons = {MakeButton("&Add", &T::AddPressed), MakeButton("&Delete", &T::DeletePressed),
-              MakeButton("&Up", &T::UpPressed), MakeButton("Do&wn", &T::DownPressed)};
+  List().SetMultiSelect(true);
+  List().OnClick = vcl::TNotifyEvent(this, &T::ListClicked);
+  List().OnKeyDown = vcl::TKeyEvent(this, &T::ListKey);
+  FButtons = {
+      AddButton("&Add", [this] { AddItem(); }), AddButton("&Delete", [this] { DeleteItems(); }),
+      AddButton("&Up", [this] { MoveItem(-1); }), AddButton("Do&wn", [this] { MoveItem(1); })};
   Enable();
 }
 
 TCollectionWindow::~TCollectionWindow() { AnnounceEnd(); }
-
-vcl::TButton* TCollectionWindow::MakeButton(const char* caption,
-                                            void (TCollectionWindow::*press)()) {
-  auto* button = new vcl::TButton(this);
-  button->SetCaption(caption);
-  button->SetParent(this);
-  button->OnClick = [this, press](vcl::TObject*) { (this->*press)(); };
-  return button;
-}
-
-void TCollectionWindow::Resize() {
-  TForm::Resize();
-  const int left = ClientWidth() - ButtonWidth - Gap;
-  FList->SetBounds(Gap, Gap, std::max(left - 2 * Gap, 0), std::max(ClientHeight() - 2 * Gap, 0));
-  int top = Gap;
-  for (vcl::TButton* button : FButtons) {
-    button->SetBounds(left, top, ButtonWidth, ButtonHeight);
-    top += ButtonHeight + Gap;
-  }
-}
 
 // What is shown.
 
@@ -106,23 +80,23 @@ void TCollectionWindow::ListItems() {
   for (int i = 0; i < FCollection->Count(); ++i) {
     lines.Add(vcl::Concat(vcl::IntToStr(i), " - ", FCollection->Items(i)->DisplayName()));
   }
-  if (!lines.Equals(*FList->Items())) FList->SetItems(&lines);
+  if (!lines.Equals(*List().Items())) List().SetItems(&lines);
 }
 
 void TCollectionWindow::SelectionChanged() {
   if (!FDesigner || !FCollection) return;
   const auto selected = FDesigner->Selection();
-  const int count = std::min(FList->Items()->Count(), FCollection->Count());
+  const int count = std::min(List().Items()->Count(), FCollection->Count());
   for (int i = 0; i < count; ++i) {
     const auto* item = static_cast<const vcl::TPersistent*>(FCollection->Items(i));
     const bool isSelected = std::ranges::find(selected, item) != selected.end();
-    if (FList->Selected(i) != isSelected) FList->SetSelected(i, isSelected);
+    if (List().Selected(i) != isSelected) List().SetSelected(i, isSelected);
   }
   Enable();
 }
 
 void TCollectionWindow::Enable() {
-  const int selected = FList->SelCount();
+  const int selected = List().SelCount();
   FButtons[buAdd]->SetEnabled(FCollection != nullptr);
   FButtons[buDelete]->SetEnabled(selected > 0);
   for (TButtons each : {buUp, buDown}) FButtons[each]->SetEnabled(selected == 1);
@@ -132,9 +106,9 @@ void TCollectionWindow::Enable() {
 
 std::vector<vcl::TPersistent*> TCollectionWindow::SelectedItems() const {
   std::vector<vcl::TPersistent*> items;
-  const int count = FCollection ? std::min(FList->Items()->Count(), FCollection->Count()) : 0;
+  const int count = FCollection ? std::min(List().Items()->Count(), FCollection->Count()) : 0;
   for (int i = 0; i < count; ++i) {
-    if (FList->Selected(i)) items.push_back(FCollection->Items(i));
+    if (List().Selected(i)) items.push_back(FCollection->Items(i));
   }
   return items;
 }

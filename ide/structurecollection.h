@@ -4,9 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "host/designintf/designer.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/stdctrls.h"
+#include "ide/designerpart.h"
+#include "ide/listwindow.h"
 
 namespace ide {
 
@@ -15,7 +14,7 @@ namespace ide {
 /// is gone, the window closes.
 ///
 /// Who selects or changes objects of the form tells the window.
-class TCollectionWindow : public vcl::TForm {
+class TCollectionWindow : public TListWindow, public TDesignerPart {
  public:
   explicit TCollectionWindow(vcl::TComponent* owner);
   ~TCollectionWindow() override;
@@ -24,28 +23,19 @@ class TCollectionWindow : public vcl::TForm {
   /// property on it.
   void ShowItems(vcl::TDesigner& designer, vcl::TCollection& collection);
   /// Another form's designer is in front; null for none, and before a form is made anew.
-  void SetDesigner(vcl::TDesigner* designer);
-  void SelectionChanged();
+  void SetDesigner(vcl::TDesigner* designer) override;
+  void SelectionChanged() override;
   /// The form has changed: shows what has.
-  void Refresh();
+  void Refresh() override;
 
   /// The collection that is shown; null for none.
   vcl::TCollection* Collection() const { return FCollection; }
-  vcl::TListBox& List() const { return *FList; }
   void AddItem();
   void DeleteItems();
   /// Moves the selected item up (-1) or down (1).
   void MoveItem(int by);
 
- protected:
-  void Resize() override;
-
  private:
-  vcl::TButton* MakeButton(const char* caption, void (TCollectionWindow::*press)());
-  void AddPressed() { AddItem(); }
-  void DeletePressed() { DeleteItems(); }
-  void UpPressed() { MoveItem(-1); }
-  void DownPressed() { MoveItem(1); }
   bool Find();
   void ListItems();
   void Enable();
@@ -57,7 +47,6 @@ class TCollectionWindow : public vcl::TForm {
   vcl::TPersistent* FOwner = nullptr;  // The object whose property the collection is.
   vcl::TCollection* FCollection = nullptr;
   std::string FPath;
-  vcl::TListBox* FList;
   std::vector<vcl::TButton*> FButtons;
 };
 

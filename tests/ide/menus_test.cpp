@@ -1,0 +1,70 @@
+// Menus of a form that is designed.
+#include <gmock/gmock.h>
+
+#include "tests/ide/designerfixture.h"
+
+namespace ide {
+namespace {
+
+using testing::ElementsAre;
+
+class DesignedMenus : public Designer {
+ protected:
+  DesignedMenus() {
+    OpenForm(
+        " Menu = Bar\n object Bar: TMainMenu\n Left = 16\n Top = 200\n"
+        " object FileMenu: TMenuItem\n Caption = '&File'\n"
+        " object OpenItem: TMenuItem\n Caption = '&Open'\n ShortCut = 16463\n end\n end\n end\n");
+  }
+  std::vector<std::string> Lines() {
+    std::vector<std::string> lines;
+    const TStrings& items = *Window->MenuWindow().List().Items();
+    for (int i = 0; i < items.Count(); ++i) lines.push_back(items.Strings(i));
+    return lines;
+  }
+};
+
+TEST_F(DesignedMenus, ItemsAreMadeMovedAndDeleted) {
+  Click(At(30, 214));
+  const std::string before = Document().Text();
+  TypeKey(VK_F11);
+  TForm& window = Window->MenuWindow();
+  ASSERT_TRUE(PumpUntil([&] { return ::GetForegroundWindow() == window.Handle(); }));
+  EXPECT_THAT(Lines(), ElementsAre("&File", "    &Open   Ctrl+O"));
+  Keys("Down Down Ins");
+  EXPECT_THAT(SelectedNames(), ElementsAre("MenuItem1"));
+  EXPECT_THAT(Lines(), ElementsAre("&File", "    MenuItem1", "    &Open   Ctrl+O"));
+  Keys("Alt+A Alt+S");
+  EXPECT_THAT(Lines(), ElementsAre("&File", "    MenuItem1", "    MenuItem2", "        MenuItem3",
+                                   "    &Open   Ctrl+O"));
+  Click(&Window->MenuWindow().List());
+  Keys("Home Down Down Ctrl+Down Ctrl+Left");
+  EXPECT_THAT(Lines(), ElementsAre("&File", "    MenuItem1", "    &Open   Ctrl+O", "MenuItem2",
+                                   "    MenuItem3"));
+  Keys("Ctrl+Right Ctrl+Up Del");
+  EXPECT_THAT(Lines(), ElementsAre("&File", "    MenuItem1", "    &Open   Ctrl+O"));
+  EXPECT_THAT(SelectedNames(), ElementsAre("OpenItem"));
+  // Its properties are the inspector's, its handler a double click away.
+  TypeKey(VK_HOME);
+  It().SetSelection({Find<TComponent>("MenuItem1")});
+  ClickValue("Caption");
+  Keys("S U B");
+  EXPECT_EQ(Lines().at(1), "    sub");
+  window.BringToFront();  // Which is the work of a window manager, where there is one.
+  const TRect line = Window->MenuWindow().List().ItemRect(1);
+  for (int i = 0; i < 2; ++i) {
+    Click(Window->MenuWindow().List().ClientToScreen({line.Left + 30, line.Top + 5}));
+  }
+  EXPECT_EQ(Find<TMenuItem>("MenuItem1")->OnClick.HandlerName(), "MenuItem1Click");
+  // All of it is undone, step by step, and the window follows.
+  while (Document().CanUndo()) It().Undo();
+  EXPECT_EQ(Document().Text(), before);
+  EXPECT_THAT(Lines(), ElementsAre("&File", "    &Open   Ctrl+O"));
+  EXPECT_TRUE(window.Visible());
+  It().SetSelection({Find<TComponent>("Bar")});
+  It().DeleteSelected();
+  EXPECT_FALSE(window.Visible());
+}
+
+}  // namespace
+}  // namespace ide
