@@ -119,7 +119,9 @@ void TQELItemsForm::ShowRows() {
     FRows.push_back(std::make_unique<TRow>(std::move(editor), *RowPanel, top));
     TRow& row = *FRows.back();
     row.Edit.OnExit = [this, &row](TObject*) { Apply(row); };
-    row.Button.OnClick = [&row](TObject*) {
+    // As in an inspector: the dialog, or the next one of the values to choose from.
+    row.Edit.OnDblClick = row.Button.OnClick = [this, &row](TObject*) {
+      Apply(row);
       row.Editor->Edit();
       row.ShowValue();
     };

@@ -78,7 +78,8 @@ void RepairComponentNames(TEnvironment& environment) {
                       return Concat(designer.NameProblem(component), ".\n", Describe(component));
                     }};
   for (const TComponent* each : wrong) {
-    list.Lines.push_back(Concat(each->Name(), ": ", each->ClassName()));
+    list.Lines.push_back(
+        Concat(each->Name().empty() ? "(no name)" : each->Name(), ": ", each->ClassName()));
   }
   list.Action = "&Rename them all";
   list.Act = [&](int) {

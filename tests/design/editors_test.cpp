@@ -76,7 +76,7 @@ BOOL WINAPI AskForFile(OPENFILENAMEW* data) {
 }
 
 template <class Editor>
-void ExpectFilter(TPlainDesigner& designer, const char* filter, const std::wstring& split) {
+void ExpectFilter(TPlainDesigner& designer, const std::string& filter) {
   TButton button(nullptr);
   button.SetHint("C:\\old.txt");
   Editor editor(designer, {{&button, button.ClassType().FindPublished("Hint")}});
@@ -84,7 +84,9 @@ void ExpectFilter(TPlainDesigner& designer, const char* filter, const std::wstri
   EXPECT_EQ(editor.GetAttributes(), TPropertyAttributes{paDialog});
   asked = {};
   editor.Edit();
-  EXPECT_EQ(asked.Filter, split);
+  std::wstring parts = ToUtf16(filter);
+  std::ranges::replace(parts, L'|', L'\0');
+  EXPECT_EQ(asked.Filter, parts);
   EXPECT_EQ(asked.Name, L"C:\\old.txt");
   EXPECT_EQ(button.Hint(), "C:\\old.txt") << "cancelled";
   asked.Answer = L"C:\\new.txt";
@@ -94,18 +96,12 @@ void ExpectFilter(TPlainDesigner& designer, const char* filter, const std::wstri
 
 TEST_F(Editors, FileNamesAreChosenInADialog) {
   const TImportPatch patch("qelhost.dll", "GetOpenFileNameW", &AskForFile);
-  using std::literals::string_literals::operator""s;
-  ExpectFilter<TQELFilenameProperty>(Designer, "All Files (*.*)|*.*|", L"All Files (*.*)\0*.*\0"s);
-  ExpectFilter<TQELWaveFilenameProperty>(Designer, "Wave Files (*.wav)|*.wav|",
-                                         L"Wave Files (*.wav)\0*.wav\0"s);
-  ExpectFilter<TQELBitmapFilenameProperty>(Designer, "Bitmaps (*.bmp)|*.bmp|",
-                                           L"Bitmaps (*.bmp)\0*.bmp\0"s);
-  ExpectFilter<TQELINIFilenameProperty>(Designer, "INI Files (*.ini)|*.ini|",
-                                        L"INI Files (*.ini)\0*.ini\0"s);
-  ExpectFilter<TQELAviFilenameProperty>(Designer, "Avi Files (*.avi)|*.avi|",
-                                        L"Avi Files (*.avi)\0*.avi\0"s);
-  ExpectFilter<TQELLogFilenameProperty>(Designer, "Log Files (*.log)|*.log|",
-                                        L"Log Files (*.log)\0*.log\0"s);
+  ExpectFilter<TQELFilenameProperty>(Designer, "All Files (*.*)|*.*|");
+  ExpectFilter<TQELWaveFilenameProperty>(Designer, "Wave Files (*.wav)|*.wav|");
+  ExpectFilter<TQELBitmapFilenameProperty>(Designer, "Bitmaps (*.bmp)|*.bmp|");
+  ExpectFilter<TQELINIFilenameProperty>(Designer, "INI Files (*.ini)|*.ini|");
+  ExpectFilter<TQELAviFilenameProperty>(Designer, "Avi Files (*.avi)|*.avi|");
+  ExpectFilter<TQELLogFilenameProperty>(Designer, "Log Files (*.log)|*.log|");
 }
 
 TEST_F(Editors, OfferWhatTheyCanDo) {
@@ -138,8 +134,6 @@ TEST_F(Editors, RunComponents) {
   EXPECT_EQ(counter.Runs, 1);
   const auto editor = MakeComponentEditor(Designer, counter);
   editor->Edit();
-  ASSERT_EQ(editor->GetVerbCount(), 2);
-  EXPECT_EQ(editor->GetVerb(0), "Execute the Component");
   editor->ExecuteVerb(0);
   EXPECT_EQ(counter.Runs, 3);
   EXPECT_THROW(editor->ExecuteVerb(2), EListError);
@@ -172,8 +166,6 @@ TEST_F(Editors, MailsAreConfiguredInAForm) {
   mail.Messages()->Add()->SetSubject("first");
   mail.Messages()->Add()->SetSubject("second");
   const auto editor = MakeComponentEditor(Designer, mail);
-  ASSERT_EQ(editor->GetVerbCount(), 1);
-  EXPECT_EQ(editor->GetVerb(0), "Configure Mail ...");
   for (const std::string end : {"Cancel", "OK"}) {
     const TOnForm onForm(L"Messages", [&](HWND form) {
       Press(form, "&Delete");

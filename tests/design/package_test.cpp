@@ -33,11 +33,12 @@ TEST(Package, RegistersItsPersistentClassesByName) {
 TEST(Package, MakesItsComponentsByName) {
   const TPackage package("qel.dll");
   TComponent owner(nullptr);
-  for (const char* name : {"TQELBackground", "TQELLabel", "TQELButton", "TQELGauge", "TQELHint",
-                           "TQELSpinEdit", "TQELTimer32"}) {
-    TComponent* made = FindClass(name).Maker().Component(&owner);
-    EXPECT_EQ(made->ClassName(), name);
-    EXPECT_EQ(made->Owner(), &owner);
+  for (const auto& [page, classes] : RegisteredComponents()) {
+    for (const TClass* each : classes) {
+      TComponent* made = FindClass(each->Name()).Maker().Component(&owner);
+      EXPECT_EQ(&made->ClassType(), each);
+      EXPECT_EQ(made->Owner(), &owner);
+    }
   }
 }
 

@@ -119,8 +119,9 @@ TEST_F(Tools, PersonalEntriesAreKept) {
 TEST_F(Tools, NonVisualComponentsAreSelectedAndHidden) {
   Add<TButton>("Button1");
   Add<TTimer>("Timer1");
+  Add<TMainMenu>("Menu1")->Items()->Add(Add<TMenuItem>("Item1"));
   Run("Non-Visual Components", L"Non-Visual Components", [](HWND form) {
-    EXPECT_EQ(Child<TListBox>(form).Items()->CommaText(), "Timer1");
+    EXPECT_EQ(Child<TListBox>(form).Items()->CommaText(), "Timer1,Menu1");
     Press(form, "S&how their icons on the form");
     Press(form, "&Select");
   });
