@@ -55,8 +55,7 @@ class TCollector {
   }
 
   void AddText(TObject& object, const TPropInfo& property, const std::string& path) {
-    const bool isName = SameText(property.TypeName(), "TComponentName");
-    if (isName || property.ReadOnly() || !property.IsStored(object)) return;
+    if (property.ReadOnly() || !property.IsStored(object)) return;
     FPlaces.push_back({&FComponent, path,
                        [&] { return std::get<std::string>(property.Get(object)); },
                        [&](const std::string& text) { property.Set(object, text); }});

@@ -25,8 +25,8 @@ struct TQELReplacement {
   bool MatchCase = false;
 };
 
-/// Those of the root and its components that hold what is looked for. Names are no texts, nor is
-/// what a form file does not hold.
+/// Those of the root and its components that hold what is looked for. What a form
+/// file does not hold as a property, such as names, is no text.
 std::vector<TQELTextPlace> PlacesOf(vcl::TComponent& root, const TQELReplacement& replacement);
 /// Replaces it in all of them. When one refuses, the others get back what they had and the error
 /// leaves.

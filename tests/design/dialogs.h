@@ -55,4 +55,14 @@ inline void Choose(HWND form, int line) {
   while (line-- > 0) ::SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
 }
 
+/// The item of the menu, or of one inside it; null when there is none.
+inline vcl::TMenuItem* ItemOf(const vcl::TMenuItem& menu, const std::string& caption) {
+  for (int i = 0; i < menu.Count(); ++i) {
+    vcl::TMenuItem& item = *menu.Items(i);
+    if (item.Caption() == caption) return &item;
+    if (vcl::TMenuItem* inside = ItemOf(item, caption)) return inside;
+  }
+  return nullptr;
+}
+
 }  // namespace dialogs

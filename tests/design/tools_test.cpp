@@ -53,12 +53,7 @@ class Tools : public testing::Test {
     Expert = RegisteredExperts().at(0).Make(Environment);
   }
   TMenuItem& Menu() { return *Environment.Menu.Items()->Items(0); }
-  TMenuItem& Item(const std::string& caption) {
-    for (int i = 0; i < Menu().Count(); ++i) {
-      if (Menu().Items(i)->Caption() == caption) return *Menu().Items(i);
-    }
-    throw EListError(caption);
-  }
+  TMenuItem& Item(const std::string& caption) { return *ItemOf(Menu(), caption); }
   /// Clicks the item, whose form has that caption.
   void Run(const char* item, const wchar_t* form, const std::function<void(HWND)>& act) {
     const TOnForm onForm(form, act);

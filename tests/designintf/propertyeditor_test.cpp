@@ -201,6 +201,9 @@ TEST_F(PropertyEditor, EventsMakeRenameAndShareHandlers) {
   const auto key = Editor("OnKeyDown", {first});
   EXPECT_THAT([&] { key->SetValue("Go"); }, ThrowsMessage<EPropertyError>(HasSubstr("Go")));
   EXPECT_TRUE(key->IsDefault());
+  Designer.CreateMethod("Button1KeyDown", *first->ClassType().FindPublished("OnClick"));
+  key->Edit();
+  EXPECT_EQ(key->GetValue(), "Button1KeyDown2") << "the name is taken by another sort of handler";
   Editor("OnCreate", {&Designer.Form})->Edit();
   EXPECT_EQ(Designer.Shown, "FormCreate");
   both->SetValue("");

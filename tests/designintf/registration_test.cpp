@@ -78,7 +78,7 @@ TEST(EditorChoice, TheNarrowestWinsAndOfEqualsTheNewest) {
   EXPECT_EQ(EditorOf(TPanel::Class(), "Caption"), "TCaptionProperty") << "an alias is no string";
 }
 
-TEST(ComponentEditorChoice, TheNearestClassWins) {
+TEST(ComponentEditorChoice, TheNearestClassWinsAndOfEqualsTheNewest) {
   class TNamed : public TComponentEditor {
    public:
     using TComponentEditor::TComponentEditor;
@@ -87,6 +87,7 @@ TEST(ComponentEditorChoice, TheNearestClassWins) {
   };
   TPlainDesigner designer;
   TTimer timer(nullptr);
+  RegisterComponentEditor(TTimer::Class(), ComponentEditorClass<TDefaultEditor>("older"));
   RegisterComponentEditor(TTimer::Class(), ComponentEditorClass<TNamed>("near"));
   RegisterComponentEditor(TComponent::Class(), ComponentEditorClass<TDefaultEditor>("far"));
   MakeComponentEditor(designer, timer)->Edit();

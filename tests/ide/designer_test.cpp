@@ -3,6 +3,7 @@
 
 #include <chrono>
 
+#include "tests/design/dialogs.h"
 #include "tests/ide/designerfixture.h"
 
 namespace ide {
@@ -252,6 +253,34 @@ TEST_F(Designer, TypingIsOneStepAndEscapeTakesItBack) {
   EXPECT_EQ(Find<TButton>("A")->Caption(), "ab") << "Enter ends what belongs together";
   It().Undo();
   EXPECT_FALSE(Document().Modified() || Document().CanUndo());
+}
+
+TEST_F(Designer, ToolsOfThePackageWorkOnTheForm) {
+  OpenForm(
+      " object class: TButton\n  Left = 16\n  Top = 16\n  Caption = 'Hello'\n end\n"
+      " object TTimer\n  Left = 200\n  Top = 200\n end\n"
+      " object Memo1: TMemo\n  Left = 16\n  Top = 60\n  Lines.Strings = (\n   'hello' 'you')\n "
+      "end\n");
+  const std::string before = Document().Text();
+  const auto run = [&](const char* caption, const wchar_t* form,
+                       const std::function<void(HWND)>& act) {
+    const dialogs::TOnForm onForm(form, act);
+    dialogs::ItemOf(*Window->MainMenu().Items(), caption)->Click();
+  };
+  run("Repair Component Names", L"Repair Component Names", [](HWND form) {
+    EXPECT_EQ(dialogs::Child<TListBox>(form).Items()->Count(), 2);
+    dialogs::Press(form, "&Rename them all");
+  });
+  EXPECT_TRUE(Find("Button1") && Find<TComponent>("Timer1"));
+  run("Search && Replace Text", L"Search and Replace Text", [](HWND form) {
+    dialogs::Child<TEdit>(form, 0).SetText("hello");
+    dialogs::Child<TEdit>(form, 1).SetText("bye");
+    dialogs::Press(form, "&Replace all");
+  });
+  EXPECT_EQ(Find<TButton>("Button1")->Caption(), "bye");
+  EXPECT_EQ(Find<TMemo>("Memo1")->Lines()->CommaText(), "bye,you");
+  for (int i = 0; i < 2; ++i) It().Undo();
+  EXPECT_EQ(Document().Text(), before) << "a step each";
 }
 
 }  // namespace
