@@ -19,6 +19,7 @@ using namespace vcl;
 struct TTool {
   const char* Caption;
   void (*Run)(TEnvironment&);
+  const char* Hint;
 };
 
 constexpr const char* AutoSaveCaption = "Auto Save Files";
@@ -28,22 +29,25 @@ constexpr const char* PropertiesCaption = "Properties...";
 constexpr const char* ContactCaption = "Contact QEL";
 
 constexpr TTool Tools[] = {
-    {"Activate Screensaver", &ActivateScreenSaver},
-    {"Non-Visual Components", &ShowNonVisualComponents},
-    {"Paste Comments...", &PasteComments},
-    {AutoSaveCaption, nullptr},
-    {"Clean Project Paths", &CleanProjectPaths},
-    {"Search && Replace Text", &SearchAndReplace},
-    {"Repair Component Names", &RepairComponentNames},
-    {"Ini File Explorer", &ExploreIniFile},
-    {"View Clipboard Contents", &ViewClipboard},
-    {"View Ascii Table", &ViewAsciiTable},
-    {"Generate Table Source", &GenerateTableSource},
-    {FilesCaption, nullptr},
-    {LinksCaption, nullptr},
-    {PropertiesCaption, nullptr},
-    {ContactCaption, nullptr},
-    {"About QEL", &ShowToolsAbout},
+    {"Activate Screensaver", &ActivateScreenSaver, "Starts the screen saver"},
+    {"Non-Visual Components", &ShowNonVisualComponents,
+     "Lists the components that are no controls, and hides their icons"},
+    {"Paste Comments...", &PasteComments, "Makes C++ comments of the text on the clipboard"},
+    {AutoSaveCaption, nullptr, "Saves the open forms every few minutes"},
+    {"Clean Project Paths", &CleanProjectPaths, "Forgets files that are no longer there"},
+    {"Search && Replace Text", &SearchAndReplace, "Replaces a text in all components of the form"},
+    {"Repair Component Names", &RepairComponentNames,
+     "Renames components whose names no C++ class can have"},
+    {"Ini File Explorer", &ExploreIniFile, "Shows the sections and values of an INI file"},
+    {"View Clipboard Contents", &ViewClipboard, "Shows what is on the clipboard"},
+    {"View Ascii Table", &ViewAsciiTable, "Shows the characters and their numbers"},
+    {"Generate Table Source", &GenerateTableSource,
+     "Writes the C++ source that defines the fields of a data set"},
+    {FilesCaption, nullptr, "Opens one of your files"},
+    {LinksCaption, nullptr, "Opens one of your links"},
+    {PropertiesCaption, nullptr, "Sets your files, links and addresses"},
+    {ContactCaption, nullptr, ""},
+    {"About QEL", &ShowToolsAbout, "Says what the library is"},
 };
 
 /// The ways to contact, and what goes in front of an address that says no protocol.
@@ -99,6 +103,7 @@ class TQELTools : public TExpert {
  private:
   void AddTool(const TTool& tool) {
     TMenuItem* item = AddItem(FMenu, tool.Caption, nullptr);
+    item->SetHint(tool.Hint);
     if (tool.Run) item->OnClick = [this, run = tool.Run](TObject*) { run(FEnvironment); };
   }
 

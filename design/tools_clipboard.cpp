@@ -6,6 +6,8 @@
 #include "host/vcl/clipboardtext.h"
 #include "host/vcl/windowtext.h"
 
+#include <shellapi.h>
+
 namespace qel {
 namespace {
 
@@ -39,28 +41,57 @@ std::string FormatName(UINT format) {
   return Concat("Format ", IntToStr(format));
 }
 
-std::vector<UINT> FormatsOnClipboard() {
-  std::vector<UINT> formats;
+std::string FileNames(HANDLE data) {
+  const auto drop = static_cast<HDROP>(data);
+  std::string names;
+  for (UINT i = 0, count = ::DragQueryFileW(drop, ~0U, nullptr, 0); i < count; ++i) {
+    std::wstring name(::DragQueryFileW(drop, i, nullptr, 0), L'\0');
+    ::DragQueryFileW(drop, i, name.data(), static_cast<UINT>(name.size()) + 1);
+    names += ToUtf8(name) + '\n';
+  }
+  return names;
+}
+
+std::string PictureSize(HANDLE data) {
+  BITMAP bitmap{};
+  ::GetObjectW(data, sizeof bitmap, &bitmap);
+  return Concat("A picture of ", IntToStr(bitmap.bmWidth), " by ", IntToStr(bitmap.bmHeight),
+                " pixels");
+}
+
+/// One kind of data on the clipboard, and what there is to see of it.
+struct TContent {
+  UINT Format;
+  std::string Details;
+};
+
+TContent Read(UINT format) {
+  const HANDLE data =
+      format == CF_HDROP || format == CF_BITMAP ? ::GetClipboardData(format) : nullptr;
+  if (!data) return {format, Concat("Data of the format \"", FormatName(format), "\"")};
+  return {format, format == CF_HDROP ? FileNames(data) : PictureSize(data)};
+}
+
+std::vector<TContent> ReadClipboard() {
+  std::vector<TContent> contents;
   const TClipboardTurn turn;
   for (UINT format = ::EnumClipboardFormats(0); format; format = ::EnumClipboardFormats(format)) {
-    formats.push_back(format);
+    contents.push_back(Read(format));
   }
-  return formats;
+  return contents;
 }
 
 }  // namespace
 
-// Of the formats only text can be shown.
 void ViewClipboard(TEnvironment&) {
-  const auto formats = FormatsOnClipboard();
-  const std::string text = ClipboardText();
+  auto contents = ReadClipboard();
+  for (TContent& each : contents) {
+    if (each.Format == CF_UNICODETEXT) each.Details = ClipboardText();
+  }
   TQELToolList list{"Clipboard Contents", {}, [&](int index) {
-                      const UINT format = formats[static_cast<std::size_t>(index)];
-                      return format == CF_UNICODETEXT
-                                 ? text
-                                 : Concat("Data of the format \"", FormatName(format), "\"");
+                      return contents[static_cast<std::size_t>(index)].Details;
                     }};
-  for (const UINT format : formats) list.Lines.push_back(FormatName(format));
+  for (const TContent& each : contents) list.Lines.push_back(FormatName(each.Format));
   ShowToolList(list);
 }
 

@@ -15,6 +15,7 @@
 #include "tests/design/dialogs.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plaindesigner.h"
+#include "tests/vcl/testinput.h"
 
 namespace qel {
 namespace {
@@ -136,6 +137,10 @@ TEST_F(Editors, RunComponents) {
   editor->Edit();
   editor->ExecuteVerb(0);
   EXPECT_EQ(counter.Runs, 3);
+  testinput::TBoxAnswer answer(IDOK);
+  editor->ExecuteVerb(1);
+  EXPECT_TRUE(answer.Wait());
+  EXPECT_THAT(answer.Text(), testing::HasSubstr("About"));
   EXPECT_THROW(editor->ExecuteVerb(2), EListError);
 }
 

@@ -2,6 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cwchar>
+#include <fstream>
+
 #include "host/db/memorydataset.h"
 #include "host/designintf/environment.h"
 #include "host/designintf/package.h"
@@ -11,6 +14,7 @@
 #include "tests/design/dialogs.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plaindesigner.h"
+#include "tests/support/program.h"
 
 namespace vcl {
 namespace {
@@ -147,6 +151,38 @@ TEST_F(Tools, WriteSources) {
             "  fields.Add(\"Town \\\"T\\\"\", vcl::ftString, 20);\n"
             "  fields.Add(\"Area\", vcl::ftFloat);\n"
             "  fields.Add(\"Since\", vcl::ftDate, 0, true);\n}\n");
+}
+
+std::wstring chosenFile;
+BOOL WINAPI ChooseFile(OPENFILENAMEW* data) {
+  std::wcscpy(data->lpstrFile, chosenFile.c_str());
+  return TRUE;
+}
+
+TEST_F(Tools, ShowTheDetailsOfALine) {
+  const testing_support::TFolder folder;
+  const auto file = folder.Path / "view.ini";
+  std::ofstream(file) << "[First]\nx=1\n[Second]\ny=2\nz=\n";
+  chosenFile = file.wstring();
+  const TImportPatch patch("qelhost.dll", "GetOpenFileNameW", &ChooseFile);
+  SetClipboardText("copied");
+  const struct {
+    const char* Item;
+    std::wstring Form;
+    int Line;
+    const char* Details;
+  } cases[] = {
+      {"Ini File Explorer", L"Ini File Explorer - " + chosenFile, 1, "y=2,z="},
+      {"View Ascii Table", L"Ascii Table", 10,
+       "\"Character: LF\",\"Decimal: 10\",\"Hexadecimal: $0A\",\"In a form file: #10\""},
+      {"View Clipboard Contents", L"Clipboard Contents", 0, "copied"},
+  };
+  for (const auto& [item, caption, line, details] : cases) {
+    Run(item, caption.c_str(), [&](HWND form) {
+      Choose(form, line);
+      EXPECT_EQ(Child<TMemo>(form).Lines()->CommaText(), details) << item;
+    });
+  }
 }
 
 /// The interval and the procedure of the timer that was started last.
