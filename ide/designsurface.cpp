@@ -8,7 +8,12 @@ namespace ide {
 using namespace vcl;
 
 TDesignSurface::TDesignSurface(TWinControl& host, TSelection& selection)
-    : FHost(host), FSelection(selection) {}
+    : FHost(host), FSelection(selection) {
+  FMenuBar.OnSelect = [this](TComponent& item) { FSelection.Only(&item); };
+  FMenuBar.OnDoubleClick = [this](TComponent& item) {
+    if (Events.DoubleClick) Events.DoubleClick(item);
+  };
+}
 
 TDesignSurface::~TDesignSurface() = default;
 
@@ -18,6 +23,7 @@ void TDesignSurface::SetRoot(TForm* root) {
   FIcons.clear();
   FBandSides.clear();
   FRoot = root;
+  FMenuBar.SetForm(root);
   if (!root) return;
   // Windows inside the host are shown as active by no one else.
   ::SendMessageW(root->Handle(), WM_NCACTIVATE, TRUE, 0);
@@ -77,6 +83,7 @@ bool TDesignSurface::IsDesignMessage(TWinControl& sender, TMessage& message) {
 
 /// What the form's own frame asks for.
 bool TDesignSurface::IsFormMessage(TMessage& message) {
+  if (FMenuBar.Handle(message)) return true;
   switch (message.Msg) {
     case WM_CLOSE:
       if (Events.Close) Events.Close();

@@ -9,6 +9,7 @@
 
 #include "host/designintf/designer.h"
 #include "host/vcl/forms.h"
+#include "ide/designmenubar.h"
 #include "ide/overlay.h"
 #include "ide/selection.h"
 
@@ -152,6 +153,7 @@ class TDesignSurface : public vcl::TDesignerHook {
   vcl::TWinControl& FHost;
   TSelection& FSelection;
   vcl::TForm* FRoot = nullptr;
+  TDesignMenuBar FMenuBar;
   const vcl::TClass* FPlacing = nullptr;
   bool FLocked = false;
   bool FShowGrid = true;

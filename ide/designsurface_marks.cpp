@@ -60,6 +60,7 @@ int CaptionWidth(const std::string& text) {
 
 void TDesignSurface::Refresh() {
   if (!FRoot) return;
+  FMenuBar.Refresh();
   PlaceIcons();
   PlaceGrabbers();
   QuietForeignWindows();

@@ -93,29 +93,18 @@ TEST_F(Designer, OrderDialogsOrderWhatTheySay) {
   EXPECT_EQ(Document().Text(), before);
 }
 
-/// Presses the right button, and then the keys in the menu that comes up.
-void RightClick(TPoint at, const std::function<void()>& keys) {
-  MoveMouse(at);
-  RightDown();
-  INPUT up{};
-  up.type = INPUT_MOUSE;
-  up.mi.dwFlags = MOUSEEVENTF_RIGHTUP;
-  ::SendInput(1, &up, sizeof up);
-  keys();
-}
-
 TEST_F(Designer, TheContextMenuIsAboutWhatIsUnderTheMouse) {
   OpenForm(Three);
   Click(MiddleOf(Find("A")));
-  RightClick(MiddleOf(Find("C")), [] { Keys("D"); });
+  KeysInMenuAt(MiddleOf(Find("C")), "D");
   EXPECT_FALSE(Find("C"));
   EXPECT_TRUE(Find("A"));
   Drag(At(8, 8), At(190, 90));
-  RightClick(MiddleOf(Find("A")), [] { Keys("T"); });
+  KeysInMenuAt(MiddleOf(Find("A")), "T");
   EXPECT_FALSE(Find("A") || Find("B")) << "cut, for both are selected";
-  RightClick(At(310, 210), [] { Keys("Esc"); });
+  KeysInMenuAt(At(310, 210), "Esc");
   EXPECT_THAT(SelectedNames(), ElementsAre("D"));
-  RightClick(At(20, 250), [] { Keys("P"); });
+  KeysInMenuAt(At(20, 250), "P");
   EXPECT_TRUE(Find("A") && Find("B"));
 }
 

@@ -76,6 +76,13 @@ class Designer : public ::testing::Test {
     SendKeys(keys);
     Pump();
   }
+  /// Presses or releases a button of the mouse for what keys that follow at once are meant for.
+  static void QueueMouse(DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    ::SendInput(1, &input, sizeof input);
+  }
   static void SendKeys(const std::string& keys) {
     std::istringstream words(keys);
     for (std::string word; words >> word;) {
@@ -112,6 +119,12 @@ class Designer : public ::testing::Test {
     Keys(keys);
     user.join();
     EXPECT_TRUE(PumpUntil([&] { return ::GetForegroundWindow() == Window->Handle(); }));
+  }
+  void KeysInMenuAt(TPoint screen, const std::string& keys) {
+    MoveMouse(screen);
+    RightDown();
+    QueueMouse(MOUSEEVENTF_RIGHTUP);
+    Keys(keys);
   }
   template <class T = TControl>
   T* Find(const char* name) {

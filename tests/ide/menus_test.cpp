@@ -66,5 +66,46 @@ TEST_F(DesignedMenus, ItemsAreMadeMovedAndDeleted) {
   EXPECT_FALSE(window.Visible());
 }
 
+TEST_F(DesignedMenus, TheFormShowsItsBarAndThePressedItemIsSelected) {
+  const int height = ::GetSystemMetrics(SM_CYMENU);
+  const std::string before = Document().Text();
+  EXPECT_EQ(Root().ClientHeight(), 300);
+  MoveMouse(At(15, -height / 2));
+  QueueMouse(MOUSEEVENTF_LEFTDOWN);
+  QueueMouse(MOUSEEVENTF_LEFTUP);
+  Keys("Esc");  // The menu that came down.
+  EXPECT_THAT(SelectedNames(), ElementsAre("FileMenu"));
+  MoveMouse(At(20, -height / 2));
+  QueueMouse(MOUSEEVENTF_LEFTDOWN);
+  QueueMouse(MOUSEEVENTF_LEFTUP);
+  Keys("O");
+  EXPECT_THAT(SelectedNames(), ElementsAre("OpenItem"));
+  Click(At(300, -height / 2));
+  EXPECT_THAT(SelectedNames(), ElementsAre("Bar"));
+  const HDC screen = ::GetDC(nullptr);
+  const auto dark = [&] {
+    int count = 0;
+    for (int x = 0; x < 40; ++x) {
+      for (int y = 1 - height; y < 0; ++y) {
+        const TPoint at = At(x, y);
+        if (GetRValue(::GetPixel(screen, at.X, at.Y)) < 100) ++count;
+      }
+    }
+    return count;
+  };
+  EXPECT_GT(dark(), 20) << "the item's text";
+  Find<TMenuItem>("FileMenu")->SetCaption("");
+  It().Modified();
+  EXPECT_EQ(dark(), 0);
+  ::ReleaseDC(nullptr, screen);
+  It().Undo();
+  // Without the menu the form's inside is as large as before.
+  Root().SetMenu(nullptr);
+  It().Modified();
+  EXPECT_EQ(Root().ClientHeight(), 300);
+  It().Undo();
+  EXPECT_EQ(Document().Text(), before);
+}
+
 }  // namespace
 }  // namespace ide
