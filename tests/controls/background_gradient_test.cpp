@@ -1,7 +1,5 @@
 // Gradients, pixel by pixel against the plain sequence of GDI calls.
-#include <gtest/gtest.h>
-
-#include <algorithm>
+#include <gmock/gmock.h>
 
 #include "controls/Qeltbackground.h"
 #include "tests/support/plainfill.h"

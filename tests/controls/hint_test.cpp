@@ -1,10 +1,7 @@
 // The hint component: what it changes of the application's hints, when, and what it leaves alone.
-#include "host/rtl/classregistry.h"
-#include "host/rtl/formfile.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/streams.h"
 #include "tests/controls/hintform.h"
 #include "tests/support/handles.h"
+#include "tests/support/texts.h"
 
 namespace {
 
@@ -12,10 +9,7 @@ using namespace hintform;
 using namespace qel;
 using vcl::Application;
 
-class Hint : public HintTest {
- protected:
-  bool Shown() { return Application()->Hints().Shown() != nullptr; }
-};
+class Hint : public HintTest {};
 
 TEST_F(Hint, PutsItsWindowInThePlaceOfTheApplications) {
   EXPECT_EQ(&vcl::HintWindowClass(), &TQELNewHint::Class());
@@ -33,31 +27,12 @@ TEST_F(Hint, PutsItsWindowInThePlaceOfTheApplications) {
   EXPECT_TRUE(::GetWindowLongA(Window()->Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST);
 }
 
-TEST_F(Hint, ComesWithTheMouseAndTakesNoFocus) {
-  HintTest::Hint->SetHintPauseTime(30);
-  HintTest::Hint->SetSpeechbubble(true);
-  ShowForm();
-  Pattern->SetHint("A hint of several words");
-  testinput::MoveMouse(testinput::MiddleOf(Pattern));
-  ASSERT_TRUE(testinput::PumpUntil([&] { return Shown(); }));
-  EXPECT_TRUE(::IsWindowVisible(Window()->Handle()));
-  EXPECT_EQ(Window()->Caption(), "A hint of several words");
-  EXPECT_TRUE(Form->Active());
-  testinput::MoveMouse({5, 5});
-  EXPECT_TRUE(testinput::PumpUntil([&] { return !Shown(); }));
-  EXPECT_FALSE(Window()->HandleAllocated());
-}
-
 TEST_F(Hint, ThereIsOneOnly) {
   const int components = Form->ComponentCount();
-  try {
-    TQELHint second(Form);
-    FAIL() << "A second one was made";
-  } catch (const Qelthint::TQELDuplicateError& error) {
-    EXPECT_EQ(error.Message(),
-              "You can have one and ONLY ONE\r\n\nTQELHint Component\r\n, in a project and it must "
-              "be on the Mainform");
-  }
+  EXPECT_THAT([&] { TQELHint second(Form); },
+              testing::ThrowsMessage<Qelthint::TQELDuplicateError>(
+                  "You can have one and ONLY ONE\r\n\nTQELHint Component\r\n, in a project and it "
+                  "must be on the Mainform"));
   EXPECT_EQ(Form->ComponentCount(), components);
   EXPECT_EQ(Window()->FindHintQEL(), HintTest::Hint);
   EXPECT_THROW(TQELHint(nullptr), Qelthint::TQELDuplicateError);
@@ -116,6 +91,7 @@ TEST_F(Hint, WithoutAMainFormOrAHintItsWindowIsAPlainOne) {
 TEST_F(Hint, FreedWhileItIsShownItLeavesThePicture) {
   ShowForm();
   ShowHint();
+  EXPECT_TRUE(Form->Active()) << "the hint takes no focus";
   delete HintTest::Hint;  // Before it has been painted, ...
   Window()->Update();
   HintTest::Hint = new TQELHint(Form);
@@ -148,61 +124,16 @@ TEST_F(Hint, TextIsMeasuredInItsFont) {
   EXPECT_LT(width(), large);
 }
 
-TEST_F(Hint, TakesFont3DOverAndLetsABackgroundGo) {
-  auto* font3D = new TQELFont3D;
-  HintTest::Hint->SetFont3D(font3D);
-  EXPECT_EQ(HintTest::Hint->Font3D(), font3D);
-  HintTest::Hint->SetFont3D(nullptr);
-  EXPECT_EQ(HintTest::Hint->Font3D(), font3D);
-  vcl::TComponent elsewhere(nullptr);
-  auto* back = new TQELBackground(&elsewhere);
-  HintTest::Hint->SetBackground(back);
-  EXPECT_EQ(back->ClientCount(), 0);
-  delete back;
-  EXPECT_EQ(HintTest::Hint->Background(), nullptr);
-}
-
-TEST_F(Hint, AFormFileKeepsAllButTheDeclaredColours) {
-  TQELHint* hint = HintTest::Hint;
-  const auto declared = [&](const char* name) {
-    return *hint->ClassType().FindPublished(name)->DefaultValue;
-  };
-  EXPECT_EQ(declared("UnUsedHintColor"), vcl::TValue(0x00FFFF));
-  EXPECT_EQ(declared("HintShadowColor"), vcl::TValue(0x800080));
-  EXPECT_EQ(hint->UnUsedHintColor(), 0x00FF00);
-  EXPECT_EQ(hint->HintShadowColor(), 0);
-  const auto written = [&](const char* name) {
-    return hint->ClassType().FindPublished(name)->NeedsWriting(*hint);
-  };
-  EXPECT_TRUE(written("UnUsedHintColor"));
-  EXPECT_TRUE(written("Speechbubble"));
-  EXPECT_TRUE(written("Shadow"));
-  EXPECT_FALSE(written("HintDirection"));
-  EXPECT_FALSE(written("HintPauseTime"));
-  hint->SetUnUsedHintColor(vcl::clYellow);
-  hint->SetHintShadowColor(vcl::clPurple);
-  EXPECT_FALSE(written("UnUsedHintColor"));
-  EXPECT_FALSE(written("HintShadowColor"));
-}
-
 TEST_F(Hint, AFormFileMayHoldOne) {
   delete HintTest::Hint;
   vcl::RegisterClasses({&TQELHint::Class(), &TQELBackground::Class()});
   const std::string text =
-      "object Second: TForm\n"
-      "  object Hint1: TQELHint\n"
-      "    Speechbubble = True\n"
-      "    Font3D.Style3D = fontRaised\n"
-      "    HintFont.Height = -30\n"
-      "    HintPauseTime = 40\n"
-      "    Background = Back1\n"
-      "  end\n"
-      "  object Back1: TQELBackground\n"
-      "  end\n"
-      "end\n";
-  vcl::TStringStream file(text);
+      "object Second: TForm"
+      " object Hint1: TQELHint Speechbubble = True Font3D.Style3D = fontRaised"
+      "  HintFont.Height = -30 HintPauseTime = 40 Background = Back1 end"
+      " object Back1: TQELBackground end end";
   vcl::TForm second(nullptr);
-  vcl::ReadComponentFile(file, &second);
+  ReadForm(text, &second);
   HintTest::Hint = Window()->FindHintQEL();  // The main form owns it.
   ASSERT_TRUE(HintTest::Hint);
   EXPECT_TRUE(HintTest::Hint->Speechbubble());
@@ -211,9 +142,8 @@ TEST_F(Hint, AFormFileMayHoldOne) {
   EXPECT_EQ(Application()->HintPause(), 40);
   EXPECT_GT(Window()->CalcHintRect(1000, "x").Height(), 30);
   // A form with another one is not made at all.
-  vcl::TStringStream again(text);
   vcl::TForm third(nullptr);
-  EXPECT_THROW(vcl::ReadComponentFile(again, &third), vcl::Exception);
+  EXPECT_THROW(ReadForm(text, &third), vcl::Exception);
   EXPECT_EQ(third.ComponentCount(), 0);
   EXPECT_EQ(Window()->FindHintQEL(), HintTest::Hint);
 }

@@ -2,16 +2,11 @@
 // application's hints as they were, afterwards.
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include <memory>
 #include <stdexcept>
-#include <string>
 
-#include "controls/Qelthint.h"
-#include "host/vcl/application.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/screen.h"
+#include "qel.h"
 #include "tests/support/plainfill.h"
 #include "tests/vcl/testinput.h"
 

@@ -1,13 +1,7 @@
 // The label: what is painted where, and the objects that it takes over.
-#include "controls/Qeltlabel.h"
+#include <gmock/gmock.h>
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <vector>
-
-#include "controls/Qeltbutton.h"
-#include "host/vcl/forms.h"
+#include "qel.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plainfill.h"
 
@@ -140,45 +134,13 @@ TEST_F(Label, TheFrameIsDrawnOverTheText) {
   }
 }
 
-TEST_F(Label, TakesOverTheObjectsItIsGiven) {
-  auto* font3D = new qel::TQELFont3D;
-  auto* frame = new qel::TQELFrame;
-  It->Set3D(font3D);
-  It->Set3D(font3D);
-  It->SetFrm(frame);
-  EXPECT_EQ(It->Font3D(), font3D);
-  EXPECT_EQ(It->Frame(), frame);
-  EXPECT_EQ(font3D->Owner(), It);
-  It->Set3D(nullptr);
-  It->SetFrm(nullptr);
-  EXPECT_EQ(It->Font3D(), font3D);
-  EXPECT_EQ(It->Frame(), frame);
-}
-
-TEST_F(Label, CopiesWhatAnotherControlHolds) {
-  auto* button = new qel::TQELButton(&Form);
-  button->Font3D()->SetOffset(5);
-  It->Set3D(button->Font3D());
-  EXPECT_NE(It->Font3D(), button->Font3D());
-  EXPECT_EQ(It->Font3D()->Offset(), 5);
-  TLabel other(nullptr);
-  other.SetFrm(It->Frame());
-  EXPECT_NE(other.Frame(), It->Frame());
-}
-
-TEST_F(Label, LeavesItsBackgroundsAndTheyLeaveIt) {
-  auto background = std::make_unique<TQELBackground>(nullptr);
-  It->SetBack(background.get());
-  It->SetBack2(background.get());
-  EXPECT_EQ(background->ClientCount(), 2);
-  It->SetBack(nullptr);
-  EXPECT_EQ(background->ClientCount(), 1);
-  It->SetBack(background.get());
-  background.reset();
-  EXPECT_EQ(It->Background(), nullptr);
-  EXPECT_EQ(It->FontBackground(), nullptr);
+TEST_F(Label, IsAClientOfABackgroundTwiceForItselfAndItsLetters) {
   It->SetBack(&Back);
   It->SetBack2(&Back);
+  EXPECT_EQ(Back.ClientCount(), 2);
+  It->SetBack(nullptr);
+  EXPECT_EQ(Back.ClientCount(), 1);
+  It->SetBack(&Back);
   delete It;
   EXPECT_EQ(Back.ClientCount(), 0);
 }

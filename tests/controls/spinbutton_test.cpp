@@ -37,11 +37,7 @@ class SpinButton : public TSpinForm {
       if (Dib.Pixel(x, y) == color) found += std::to_string(x) + " ";
     return found;
   }
-  static std::uint32_t System(int index) {
-    const COLORREF color = ::GetSysColor(index);
-    return static_cast<std::uint32_t>(GetRValue(color) << 16 | GetGValue(color) << 8 |
-                                      GetBValue(color));
-  }
+  static std::uint32_t System(int index) { return plain::PixelOf(::GetSysColor(index)); }
 
   TQELSpinButton* Button;
   std::string Clicks;
@@ -140,14 +136,11 @@ TEST_F(SpinButton, FiresForTheHalfThatIsPressedWhenItIsReleased) {
 TEST_F(SpinButton, TheLookFollowsThePressedHalfOnly) {
   MoveTo(16, 16);
   testinput::LeftDown();
-  const struct {
-    int X;
-    int Y;
-    TQELButtonState Look;
-  } moves[] = {{4, 4, bsUp}, {15, 14, bsBottomDown}, {30, 30, bsUp}, {12, 17, bsBottomDown}};
-  for (const auto& each : moves) {
-    MoveTo(each.X, each.Y);
-    EXPECT_EQ(Button->Down(), each.Look) << each.X << ", " << each.Y;
+  const std::tuple<int, int, TQELButtonState> moves[] = {
+      {4, 4, bsUp}, {15, 14, bsBottomDown}, {30, 30, bsUp}, {12, 17, bsBottomDown}};
+  for (const auto& [x, y, look] : moves) {
+    MoveTo(x, y);
+    EXPECT_EQ(Button->Down(), look) << x << ", " << y;
   }
   MoveTo(40, 40);
   // With no half pressed, a release counts as a click of the upper one, even here.
@@ -180,16 +173,13 @@ TEST_F(SpinButton, ReleasingTheRightButtonIsAClickOfTheUpperHalf) {
 TEST_F(SpinButton, TheHalvesAreDividedByHeightAndNotByWidth) {
   // 40 wide and 20 high: the line falls twice as fast, from (0, 20) to (10, 0).
   Button->SetBounds(200, 20, 40, 20);
-  const struct {
-    int X;
-    int Y;
-    TQELButtonState Half;
-  } cases[] = {{0, 19, bsTopDown}, {5, 10, bsTopDown},    {5, 11, bsBottomDown},
-               {10, 0, bsTopDown}, {11, 0, bsBottomDown}, {30, 2, bsBottomDown}};
-  for (const auto& each : cases) {
-    MoveTo(each.X, each.Y);
+  const std::tuple<int, int, TQELButtonState> cases[] = {
+      {0, 19, bsTopDown}, {5, 10, bsTopDown},    {5, 11, bsBottomDown},
+      {10, 0, bsTopDown}, {11, 0, bsBottomDown}, {30, 2, bsBottomDown}};
+  for (const auto& [x, y, half] : cases) {
+    MoveTo(x, y);
     testinput::LeftDown();
-    EXPECT_EQ(Button->Down(), each.Half) << each.X << ", " << each.Y;
+    EXPECT_EQ(Button->Down(), half) << x << ", " << y;
     testinput::LeftUp();
   }
 }

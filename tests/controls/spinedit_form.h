@@ -1,13 +1,7 @@
 // A form on the screen with a spin edit and another edit, for tests by mouse and keyboard.
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <string>
-
-#include "controls/Qeltspinedit.h"
-#include "host/vcl/stdctrls.h"
+#include "qel.h"
 #include "tests/support/importpatch.h"
 #include "tests/vcl/standardform.h"
 

@@ -54,20 +54,16 @@ TEST_F(SpinEdit, WithoutCutandPasteNothingIsTyped) {
 }
 
 TEST_F(SpinEdit, KeysStep) {
-  const struct {
-    WORD Key;
-    int From;
-    int Value;
-  } cases[] = {
+  const std::tuple<WORD, int, int> cases[] = {
       {VK_UP, 5, 8},    {VK_DOWN, 5, 2}, {VK_PRIOR, 5, 25},   {VK_NEXT, 45, 25},
       {VK_UP, 99, 100}, {VK_DOWN, 1, 0}, {VK_PRIOR, 90, 100}, {VK_NEXT, 10, 0},
   };
   Spin->SetLineSize(3);
   Spin->SetMultipleLineSize(20);
-  for (const auto& each : cases) {
-    Spin->SetValue(each.From);
-    Key(each.Key);
-    EXPECT_EQ(Spin->Text(), std::to_string(each.Value)) << each.Key << " from " << each.From;
+  for (const auto& [key, from, value] : cases) {
+    Spin->SetValue(from);
+    Key(key);
+    EXPECT_EQ(Spin->Text(), std::to_string(value)) << key << " from " << from;
   }
   Spin->SetLineSize(-7);
   Spin->SetValue(50);
@@ -77,21 +73,16 @@ TEST_F(SpinEdit, KeysStep) {
 }
 
 TEST_F(SpinEdit, StepsEndAtTheIntegersLimits) {
-  const struct {
-    int From;
-    int LineSize;
-    WORD Key;
-    int Value;
-  } cases[] = {
+  const std::tuple<int, int, WORD, int> cases[] = {
       {Most, 1, VK_UP, Most},    {Most - 2, 10, VK_UP, Most}, {Least, 1, VK_DOWN, Least},
       {0, Least, VK_DOWN, Most}, {-1, Least, VK_UP, Least},   {Least, Most, VK_DOWN, Least},
   };
   SetBounds(Least, Most);
-  for (const auto& each : cases) {
-    Spin->SetLineSize(each.LineSize);
-    Spin->SetValue(each.From);
-    Key(each.Key);
-    EXPECT_EQ(Spin->GetValue(), each.Value) << each.From << " by " << each.LineSize;
+  for (const auto& [from, lineSize, key, value] : cases) {
+    Spin->SetLineSize(lineSize);
+    Spin->SetValue(from);
+    Key(key);
+    EXPECT_EQ(Spin->GetValue(), value) << from << " by " << lineSize;
   }
 }
 
@@ -111,25 +102,21 @@ TEST_F(SpinEdit, AReadOnlyOneBeepsAtArrowsAndButtonAndIgnoresPageKeys) {
 }
 
 TEST_F(SpinEdit, WhatIsTypedIsKeptWithinTheBoundsWhenTheFocusLeaves) {
-  const struct {
-    const char* Text;
-    const char* Left;
-    int Value;
-  } cases[] = {
+  const std::tuple<const char*, const char*, int> cases[] = {
       {"500", "100", 100}, {"-5", "0", 0},    {"42", "42", 42},
       {"", "0", 0},        {"+7", "+7", 7},   {"+-", "+-", 0},
       {"12a", "12a", 0},   {"$1F", "$1F", 0}, {"99999999999", "99999999999", 0},
   };
-  for (const auto& each : cases) {
+  for (const auto& [text, left, value] : cases) {
     Spin->SetFocus();
-    Spin->SetText(each.Text);
+    Spin->SetText(text);
     int atExit = -1;
     Spin->OnExit = [&](vcl::TObject*) { atExit = Spin->GetValue(); };
     Key(VK_TAB);
     EXPECT_TRUE(Other->Focused());
-    EXPECT_EQ(Spin->Text(), each.Left);
-    EXPECT_EQ(Spin->GetValue(), each.Value) << each.Text;
-    EXPECT_EQ(atExit, each.Value) << each.Text;
+    EXPECT_EQ(Spin->Text(), left);
+    EXPECT_EQ(Spin->GetValue(), value) << text;
+    EXPECT_EQ(atExit, value) << text;
   }
 }
 
@@ -152,28 +139,24 @@ TEST_F(SpinEdit, EnteringSelectsAllUnlessByClick) {
 }
 
 TEST_F(SpinEdit, CutsAndPastesWhileItMay) {
-  const struct {
-    bool CutandPaste;
-    bool Readonly;
-    const char* Pasted;
-    const char* Cut;
-  } cases[] = {{true, false, "55x", ""}, {false, false, "12", "12"}, {true, true, "12", "12"}};
-  for (const auto& each : cases) {
+  const std::tuple<bool, bool, const char*, const char*> cases[] = {
+      {true, false, "55x", ""}, {false, false, "12", "12"}, {true, true, "12", "12"}};
+  for (const auto& [cutandPaste, readonly, pasted, cut] : cases) {
     CopyToClipboard("55x");
-    Spin->SetReadonly(each.Readonly);
-    Spin->SetCutandPaste(each.CutandPaste);
+    Spin->SetReadonly(readonly);
+    Spin->SetCutandPaste(cutandPaste);
     Spin->SetText("12");
     Spin->SetFocus();
     Spin->SelectAll();
     KeyWith(VK_CONTROL, 'V');
-    EXPECT_EQ(Spin->Text(), each.Pasted);
+    EXPECT_EQ(Spin->Text(), pasted);
     Spin->SelectAll();
     KeyWith(VK_CONTROL, 'X');
-    EXPECT_EQ(Spin->Text(), each.Cut);
+    EXPECT_EQ(Spin->Text(), cut);
     Spin->SetText("12");
     Spin->SelectAll();
     Spin->PasteFromClipboard();
-    EXPECT_EQ(Spin->Text(), each.Pasted);
+    EXPECT_EQ(Spin->Text(), pasted);
   }
   EXPECT_EQ(beeps, 0);
 }

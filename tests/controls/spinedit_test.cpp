@@ -1,9 +1,4 @@
-// The spin edit: its value and bounds, its size and window, its properties and form files.
-#include <gtest/gtest.h>
-
-#include "host/rtl/classregistry.h"
-#include "host/rtl/formfile.h"
-#include "host/rtl/streams.h"
+// The spin edit: its value and bounds, its size and window.
 #include "tests/controls/spinedit_form.h"
 
 namespace qel {
@@ -15,15 +10,13 @@ class SpinEditValue : public TSpinForm {};
 
 TEST_F(SpinEditValue, ReadsWhatTheTextSays) {
   Spin->SetMinValue(-3);
-  const struct {
-    const char* Text;
-    int Value;
-  } cases[] = {{"7", 7},   {"-2", -2}, {"+9", 9},   {"4000", 4000}, {"1x", -3},
-               {"1-", -3}, {"e", -3},  {"0x5", -3}, {"1\r\n2", -3}, {"2147483648", -3}};
-  for (const auto& each : cases) {
-    Spin->SetText(each.Text);
-    EXPECT_EQ(Spin->GetValue(), each.Value) << each.Text;
-    EXPECT_EQ(Spin->Text(), each.Text);
+  const std::pair<const char*, int> cases[] = {
+      {"7", 7},   {"-2", -2}, {"+9", 9},   {"4000", 4000}, {"1x", -3},
+      {"1-", -3}, {"e", -3},  {"0x5", -3}, {"1\r\n2", -3}, {"2147483648", -3}};
+  for (const auto& [text, value] : cases) {
+    Spin->SetText(text);
+    EXPECT_EQ(Spin->GetValue(), value) << text;
+    EXPECT_EQ(Spin->Text(), text);
   }
 }
 
@@ -55,74 +48,6 @@ TEST_F(SpinEditValue, BoundsRefuseEachOtherAndTakeTheValueAlong) {
   EXPECT_EQ(Spin->GetValue(), 90);
   Spin->SetValue(-500);
   EXPECT_EQ(Spin->GetValue(), 70);
-}
-
-/// A spin edit that is read from a form file with these lines.
-std::unique_ptr<vcl::TForm> Read(const std::string& lines) {
-  vcl::RegisterClasses({&TQELSpinEdit::Class(), &TQELSpinButton::Class()});
-  vcl::TStringStream file("object Form1: TForm\n  object Spin: TQELSpinEdit\n" + lines +
-                          "  end\nend\n");
-  auto form = std::make_unique<vcl::TForm>(nullptr);
-  vcl::ReadComponentFile(file, form.get());
-  return form;
-}
-TQELSpinEdit* SpinOn(vcl::TForm& form) {
-  return dynamic_cast<TQELSpinEdit*>(form.FindComponent("Spin"));
-}
-
-TEST(SpinEditFormFile, TakesBothBoundsTogether) {
-  const struct {
-    const char* Lines;
-    int MinValue;
-    int MaxValue;
-    int Value;
-  } cases[] = {
-      {"", 0, 100, 0},
-      {"MaxValue = -5\nMinValue = -10\nValue = -7\n", -10, -5, -7},
-      {"MaxValue = -5\nMinValue = -10\n", -10, -5, -5},
-      {"Value = 700\nMinValue = 500\nMaxValue = 900\n", 500, 900, 700},
-      {"MaxValue = 900\nMinValue = 500\n", 500, 900, 500},
-      {"Value = 700\n", 0, 100, 100},
-      // No bounds.
-      {"MaxValue = 7\nMinValue = 7\nValue = 5000\n", 7, 7, 5000},
-      // What can't stand together is taken or refused one by one.
-      {"MaxValue = -5\nMinValue = 10\n", 10, 100, 10},
-      {"MaxValue = 50\nMinValue = 80\n", 0, 50, 0},
-  };
-  for (const auto& each : cases) {
-    const auto form = Read(each.Lines);
-    const TQELSpinEdit* spin = SpinOn(*form);
-    EXPECT_EQ(spin->MinValue(), each.MinValue) << each.Lines;
-    EXPECT_EQ(spin->MaxValue(), each.MaxValue) << each.Lines;
-    EXPECT_EQ(spin->GetValue(), each.Value) << each.Lines;
-  }
-}
-
-TEST(SpinEditFormFile, HoldsWhatDiffersAndNothingOfTheButton) {
-  const auto form = Read(
-      "Left = 4\nWidth = 90\nHeight = 30\nAutoSize = False\nArrowColor = clRed\n"
-      "MaxValue = -5\nMinValue = -10\nReadonly = True\nValue = -7\n");
-  EXPECT_EQ(SpinOn(*form)->Height(), 30);
-  vcl::TStringStream file;
-  vcl::WriteComponentText(file, form.get());
-  const std::string text = file.DataString();
-  const std::string spin = text.substr(text.find("object Spin"));
-  const char* const order[] = {"AutoSize = False",
-                               "ArrowColor = clRed",
-                               "MaxValue = -5",
-                               "MinValue = -10",
-                               "Readonly = True",
-                               "Value = -7",
-                               "end"};
-  std::size_t at = 0;
-  for (const char* line : order) {
-    const std::size_t found = spin.find(line, at);
-    ASSERT_NE(found, std::string::npos) << line << " in " << text;
-    at = found;
-  }
-  for (const char* unwanted : {"ButtonColor", "LineSize", "Ctl3D", "ImeName", "object TWin"}) {
-    EXPECT_EQ(spin.find(unwanted), std::string::npos) << unwanted;
-  }
 }
 
 class SpinEditWindow : public TSpinForm {

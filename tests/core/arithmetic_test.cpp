@@ -1,10 +1,9 @@
 // Rounding and MulDiv, the latter against the system's.
-#include "core/arithmetic.h"
-
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <climits>
 
+#include "core/arithmetic.h"
 #include "host/vcl/win32.h"
 
 namespace {

@@ -1,30 +1,17 @@
 // Pieces of texts, centred controls and the drawing helpers.
-#include "core/Qelclasses2.h"
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
-#include "core/Qelcontrols.h"
-#include "host/rtl/exceptions.h"
-#include "host/vcl/application.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/graphics.h"
-#include "host/vcl/screen.h"
+#include "host/vcl/vcl.h"
+#include "qel.h"
 #include "tests/support/handles.h"
+#include "tests/support/texts.h"
 
 using namespace qel;
 
 namespace {
 
 TEST(StringIntoPieces, SplitsAtTheSeparator) {
-  const struct {
-    const char* Text;
-    const char* Separator;
-    std::vector<std::string> Pieces;
-  } cases[] = {
+  const std::tuple<const char*, const char*, std::vector<std::string>> cases[] = {
       {"a,b,c", ",", {"a", "b", "c"}},
       {"", ",", {""}},
       {"abc", ",", {"abc"}},
@@ -35,12 +22,10 @@ TEST(StringIntoPieces, SplitsAtTheSeparator) {
       {"a,b", "", {"a,b"}},
       {"a,b", "a,b,", {"a,b"}},
   };
-  for (const auto& each : cases) {
+  for (const auto& [text, separator, pieces] : cases) {
     vcl::TStringList list;
-    EXPECT_EQ(QELStringIntoPieces(each.Text, each.Separator, &list), &list);
-    std::vector<std::string> pieces;
-    for (int i = 0; i < list.Count(); ++i) pieces.push_back(list.Strings(i));
-    EXPECT_EQ(pieces, each.Pieces) << each.Text;
+    EXPECT_EQ(QELStringIntoPieces(text, separator, &list), &list);
+    EXPECT_EQ(Lines(list), pieces) << text;
   }
 }
 
@@ -95,6 +80,8 @@ TEST_F(CenterControl, CentersAFormInsideTheMainFormInIt) {
 }
 
 TEST_F(CenterControl, CentersAControlInItsParent) {
+  QELCenterControl(Child);
+  EXPECT_EQ(Child->BoundsRect(), vcl::Bounds(0, 0, 20, 11)) << "without a parent";
   Child->SetParent(Panel);
   QELCenterControl(Child);
   EXPECT_TRUE(Panel->HandleAllocated());
@@ -102,14 +89,6 @@ TEST_F(CenterControl, CentersAControlInItsParent) {
   Child->SetBounds(9, 9, 300, 11);
   QELCenterControl(Child);
   EXPECT_EQ(Child->BoundsRect(), vcl::Bounds(0, 19, 300, 11)) << "larger than its parent";
-}
-
-TEST_F(CenterControl, LeavesAControlWithoutAParent) {
-  QELCenterControl(Child);
-  EXPECT_EQ(Child->BoundsRect(), vcl::Bounds(0, 0, 20, 11));
-  Child->SetBounds(5, -6, 20, 11);
-  QELCenterControl(Child);
-  EXPECT_EQ(Child->BoundsRect(), vcl::Bounds(5, 0, 20, 11));
 }
 
 constexpr vcl::TColor Ground = vcl::TColor(0x123456);

@@ -1,15 +1,10 @@
-// The base classes without a window: about box, actions, sounds; and the shared enumerations.
+// The base classes without a window: about box, actions, sounds.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <regex>
-#include <string>
-#include <vector>
 
-#include "core/Qelclasses.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/properties.h"
-#include "host/vcl/application.h"
+#include "host/vcl/vcl.h"
+#include "qel.h"
 #include "tests/support/importpatch.h"
 
 namespace {
@@ -27,13 +22,9 @@ struct TAction : qel::TQELExecComponent {
   bool Fails = false;
 };
 
-const vcl::TPropInfo& PropertyOf(const vcl::TObject& object, const char* name) {
-  return *object.ClassType().FindPublished(name);
-}
-
 TEST(ExecComponent, RunsWhenToldThatItIsBusy) {
   TAction action(nullptr);
-  const vcl::TPropInfo& execute = PropertyOf(action, "DesignExecute");
+  const vcl::TPropInfo& execute = *action.ClassType().FindPublished("DesignExecute");
   for (const char* text : {"", "(Execute)", "(busy...)", "(Busy...) ", "anything"}) {
     execute.Set(action, std::string(text));
     EXPECT_EQ(action.Runs, 0) << text;
@@ -86,31 +77,6 @@ TEST(About, NamesItsComponent) {
   const std::regex lines("([^\r]+\r){4}\r([^\r]+\r){3}\r[^\r]+\r[^\r]+");
   EXPECT_TRUE(std::regex_match(BoxText, lines)) << BoxText;
   EXPECT_EQ(BoxFlags & ~(MB_TASKMODAL | MB_TOPMOST | MB_SETFOREGROUND), 0u);
-}
-
-template <class E>
-void ExpectValues(E last, const char* lastName) {
-  const vcl::TTypeInfo& info = vcl::TypeInfoOf<E>();
-  EXPECT_EQ(info.Max, last);
-  EXPECT_EQ(info.EnumName(last).value_or("none"), lastName);
-}
-
-TEST(Enumerations, EveryValueHasItsName) {
-  ExpectValues(qel::onHide, "onHide");
-  ExpectValues(qel::wsCustompoint, "wsCustompoint");
-  ExpectValues(qel::FadeOut, "FadeOut");
-  ExpectValues(qel::dDownLeft, "dDownLeft");
-  ExpectValues(qel::runEVENT, "runEVENT");
-  ExpectValues(qel::btInset, "btInset");
-  ExpectValues(qel::bsDisabled, "bsDisabled");
-  ExpectValues(qel::kHorizontal, "kHorizontal");
-  ExpectValues(qel::bCriticalStop, "bCriticalStop");
-  ExpectValues(qel::appNone, "appNone");
-  ExpectValues(qel::ccFax, "ccFax");
-  ExpectValues(qel::pBottom, "pBottom");
-  ExpectValues(qel::fontOutLineShadow, "fontOutLineShadow");
-  ExpectValues(qel::repeatNone, "repeatNone");
-  ExpectValues(qel::frameLightBordered, "frameLightBordered");
 }
 
 }  // namespace

@@ -1,14 +1,9 @@
-// Every class that can be made by name begins with the defaults that it declares.
-#include <gtest/gtest.h>
+// What holds for all classes by their tables: they begin with the defaults that they declare, and
+// settings are copied whole.
+#include <gmock/gmock.h>
 
-#include <memory>
 #include <set>
-#include <string>
 
-#include "core/Qelclasses.h"
-#include "host/rtl/classregistry.h"
-#include "host/rtl/properties.h"
-#include "host/vcl/forms.h"
 #include "host/vcl/registration.h"
 #include "tests/support/registered.h"
 
@@ -50,6 +45,33 @@ TEST(DeclaredDefaults, AreWhatTheConstructorsSet) {
     }
   }
   EXPECT_GT(checked, 170);
+}
+
+template <class T>
+class Settings : public testing::Test {};
+using TCopied = testing::Types<qel::TQELFont3D, qel::TQELFrame, qel::TQELGlyph, qel::TQELGradient,
+                               qel::TQELTexture, qel::TQELBrushFill>;
+TYPED_TEST_SUITE(Settings, TCopied);
+
+TYPED_TEST(Settings, AreCopiedWithOneNotice) {
+  TypeParam from, to;
+  for (const vcl::TPropInfo& property : TypeParam::Class().Own()) {
+    vcl::TValue value = property.Get(from);
+    if (auto* ordinal = std::get_if<std::int64_t>(&value); ordinal && !property.ReadOnly()) {
+      *ordinal += *ordinal < property.Type->Max ? 1 : -1;
+      property.Set(from, value);
+    }
+    EXPECT_NE(property.Get(from), property.Get(to)) << property.Name;
+  }
+  int changes = 0;
+  to.OnChange = [&](vcl::TObject*) { ++changes; };
+  to.Assign(&from);
+  EXPECT_EQ(changes, 1);
+  for (const vcl::TPropInfo& property : TypeParam::Class().Own()) {
+    if (property.Kind() == vcl::TTypeKind::Class) continue;
+    EXPECT_EQ(property.Get(to), property.Get(from)) << property.Name;
+  }
+  EXPECT_THROW(to.Assign(nullptr), vcl::EConvertError);
 }
 
 }  // namespace

@@ -1,16 +1,10 @@
 // Three-dimensional text, against the layers that it is made of, drawn one by one.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <cstring>
-#include <memory>
 
-#include <string>
-#include <vector>
-
-#include "core/Qelclasses.h"
-#include "host/rtl/exceptions.h"
 #include "host/rtl/properties.h"
+#include "qel.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plainfill.h"
 
@@ -51,7 +45,7 @@ void DrawLayers(HDC dc, const vcl::TFont& font, const std::vector<TLayer>& layer
     RECT rect = Area;
     ::OffsetRect(&rect, layer.Dx, layer.Dy);
     ::SetTextColor(dc, vcl::ColorToRGB(layer.Color));
-    wchar_t text[] = L"Layers";
+    wchar_t text[] = L"Schrift Größe";
     ::DrawTextExW(dc, text, -1, &rect, DT_LEFT | DT_NOCLIP, nullptr);
   }
   ::RestoreDC(dc, saved);
@@ -74,7 +68,7 @@ TEST_P(Font3D, DrawsItsLayersInOrder) {
   font3D.SetThreeDimensional(GetParam().ThreeDimensional);
   const plain::TDib painted(Width, Height), expected(Width, Height), empty(Width, Height);
   for (const plain::TDib* dib : {&painted, &expected, &empty}) dib->Fill(RGB(9, 9, 9));
-  font3D.Write(&font, painted.DC(), Area, "Layers", DT_LEFT, GetParam().Enabled);
+  font3D.Write(&font, painted.DC(), Area, "Schrift Größe", DT_LEFT, GetParam().Enabled);
   DrawLayers(expected.DC(), font, GetParam().Layers);
   EXPECT_EQ("", painted.Difference(expected));
   EXPECT_NE("", painted.Difference(empty));
@@ -140,27 +134,6 @@ TEST(Font3DWrite, AddsItsFlagToTheOthers) {
   EXPECT_THAT(Flags, testing::ElementsAre(0x100u, 0x8125u, 0x200u, 0x115u));
 }
 
-TEST(Font3DWrite, DrawsUtf8) {
-  const plain::TDib written(Width, Height);
-  const plain::TDib expected(Width, Height);
-  vcl::TFont font;
-  TQELFont3D font3D;
-  font3D.SetThreeDimensional(false);
-  font3D.Write(&font, written.DC(), Area,
-               "Gr\xC3\xB6\xC3\x9F"
-               "e",
-               DT_LEFT, true);
-  ::SelectObject(expected.DC(), font.Handle());
-  ::SetBkMode(expected.DC(), TRANSPARENT);
-  ::SetTextColor(expected.DC(), vcl::ColorToRGB(font.Color()));
-  RECT rect = Area;
-  ::DrawTextExW(expected.DC(), const_cast<wchar_t*>(L"Gr\u00F6\u00DFe"), -1, &rect,
-                DT_LEFT | DT_NOCLIP, nullptr);
-  ::SelectObject(expected.DC(), ::GetStockObject(SYSTEM_FONT));
-  ::GdiFlush();
-  EXPECT_EQ(std::memcmp(written.Bits(), expected.Bits(), written.Bytes()), 0);
-}
-
 TEST(Font3DWrite, TakesAnyText) {
   const plain::TDib dib(Width, Height);
   vcl::TFont font;
@@ -214,27 +187,6 @@ TEST(Font3DSettings, RefusedValuesAreToldAllTheSame) {
   font3D.SetMaskFont(font3D.MaskFont());
   EXPECT_EQ(changes, 6);
   EXPECT_EQ(font3D.GetDrawingwidth(), 14);
-}
-
-TEST(Font3DSettings, AreCopiedWithOneNotice) {
-  TQELFont3D from, to;
-  from.SetThreeDimensional(false);
-  from.SetStyle3D(qel::fontInset);
-  from.SetOffset(9);
-  from.SetRepetition(qel::repeatOnShadow);
-  from.SetRepetitionColor(vcl::clRed);
-  from.SetRepetitionwidth(8);
-  from.SetMaskFont(false);
-  from.SetShadow(vcl::clLime);
-  from.SetHighlight(vcl::clBlue);
-  int changes = 0;
-  to.OnChange = [&](vcl::TObject*) { ++changes; };
-  to.Assign(&from);
-  EXPECT_EQ(changes, 1);
-  for (const vcl::TPropInfo& property : TQELFont3D::Class().Own()) {
-    EXPECT_EQ(property.Get(to), property.Get(from)) << property.Name;
-  }
-  EXPECT_THROW(to.Assign(nullptr), vcl::EConvertError);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 // Frames, pixel by pixel.
-#include <gtest/gtest.h>
-
-#include <algorithm>
+#include <gmock/gmock.h>
 
 #include "core/Qelclasses.h"
 #include "tests/support/plainfill.h"
@@ -25,10 +23,6 @@ struct TBorder {
   TColor BottomRight;
 };
 
-std::uint32_t Pixel(TColor color) {
-  return std::uint32_t{GetRValue(color)} << 16 | GetGValue(color) << 8 | GetBValue(color);
-}
-
 /// What the frame's pixel is to be, from its distance to the four sides.
 std::uint32_t Expected(int x, int y, int rings, const std::vector<TBorder>& borders) {
   const int left = x - Around.Left, top = y - Around.Top;
@@ -40,9 +34,9 @@ std::uint32_t Expected(int x, int y, int rings, const std::vector<TBorder>& bord
     // lower left corner is drawn by both, last by this one.
     const bool lower = right == depth || bottom == depth;
     const bool upper = (left == depth || top == depth) && right != depth;
-    if (lower && border.BottomRight != None) return Pixel(border.BottomRight);
+    if (lower && border.BottomRight != None) return plain::PixelOf(border.BottomRight);
     if (upper && (left == depth || bottom != depth) && border.TopLeft != None) {
-      return Pixel(border.TopLeft);
+      return plain::PixelOf(border.TopLeft);
     }
   }
   return Ground;
@@ -128,22 +122,8 @@ TEST(Frame, WidthsBeyondTheAreaCostNothing) {
                         Around.Right - 1'000'000'000, Around.Bottom - 1'000'000'000));
   // Past their middle the rings grow again, until they leave what can be seen.
   for (int x : {0, Around.Left, Width / 2, Width - 1}) {
-    EXPECT_EQ(dib.Pixel(x, Height / 2), Pixel(Solid)) << x;
+    EXPECT_EQ(dib.Pixel(x, Height / 2), plain::PixelOf(Solid)) << x;
   }
-}
-
-TEST(Frame, CopiesWithOneNotice) {
-  TQELFrame from, to;
-  from.SetFrameStyle(qel::frameFramedUp);
-  from.SetFrameWidth(2);
-  from.SetOffset(3);
-  from.SetSolid(Solid);
-  int changes = 0;
-  to.OnChange = [&](vcl::TObject*) { ++changes; };
-  to.Assign(&from);
-  EXPECT_EQ(changes, 1);
-  EXPECT_EQ(to.BorderWidth(), 7);
-  EXPECT_EQ(to.Solid(), Solid);
 }
 
 TEST(Frame, TwoRingsMakeAButton) {

@@ -1,20 +1,16 @@
 // The shared functions that need Windows: what it says of itself, the user's date formats, and
 // small drawing aids.
-#include "core/Qelfunctions.h"
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <climits>
 #include <regex>
-#include <string>
-#include <vector>
 
 #include "host/rtl/convert.h"
-#include "host/vcl/graphics.h"
 #include "host/vcl/windowtext.h"
+#include "qel.h"
 #include "tests/support/handles.h"
 #include "tests/support/importpatch.h"
+#include "tests/vcl/graphics_pixels.h"
 
 using namespace qel;
 
@@ -36,10 +32,7 @@ TEST(SystemInformation, NamesUserAndComputer) {
 }
 
 TEST(SystemInformation, IsTheSystems) {
-  const struct {
-    int Item;
-    const char* Form;
-  } cases[] = {
+  const std::pair<int, const char*> cases[] = {
       {inProcessor, "Intel (386|486|Pentium)"},
       {inPlatform, "Windows NT"},
       {inVersion, "[0-9]+\\.[0-9]+"},
@@ -50,9 +43,9 @@ TEST(SystemInformation, IsTheSystems) {
       {inDiskFree, "[0-9]+ MB"},
       {inDiskLoad, "[0-9]+ %"},
   };
-  for (const auto& each : cases) {
-    const std::string text = QELGetInformationNo(each.Item);
-    EXPECT_TRUE(std::regex_match(text, std::regex(each.Form))) << each.Item << ": " << text;
+  for (const auto& [item, form] : cases) {
+    const std::string text = QELGetInformationNo(item);
+    EXPECT_TRUE(std::regex_match(text, std::regex(form))) << item << ": " << text;
   }
   EXPECT_EQ(QELGetInformationNo(inProgramFiles), EnvironmentText(L"ProgramFiles"));
   EXPECT_TRUE(::lstrcmpiA(QELGetInformationNo(inSystemRoot).c_str(),
@@ -158,20 +151,10 @@ std::vector<std::string> Triangle(bool enabled, bool down, int size, int width, 
   bitmap.Canvas()->Brush()->SetColor(vcl::clAqua);
   bitmap.Canvas()->FillRect({0, 0, width, height});
   QELGetTriangle(bitmap.Canvas(), 2, 1, enabled, down, vcl::clRed, size);
-  std::vector<std::string> rows;
-  for (int y = 0; y < height; ++y) {
-    std::string row;
-    for (int x = 0; x < width; ++x) {
-      const auto color = static_cast<COLORREF>(bitmap.Canvas()->Pixels(x, y));
-      row += color == RGB(255, 0, 0)                       ? 'r'
-             : color == ::GetSysColor(COLOR_GRAYTEXT)      ? 'g'
-             : color == ::GetSysColor(COLOR_HIGHLIGHTTEXT) ? 'h'
-             : color == RGB(0, 255, 255)                   ? '.'
-                                                           : '?';
-    }
-    rows.push_back(row);
-  }
-  return rows;
+  return vcl::test::Letters(bitmap, {{vcl::clRed, 'r'},
+                                     {vcl::TColor(::GetSysColor(COLOR_GRAYTEXT)), 'g'},
+                                     {vcl::TColor(::GetSysColor(COLOR_HIGHLIGHTTEXT)), 'h'},
+                                     {vcl::clAqua, '.'}});
 }
 
 TEST(GetTriangle, PointsUpOrDown) {

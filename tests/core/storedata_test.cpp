@@ -1,20 +1,11 @@
 // The data store: what its operations do in the real registry and in real INI files.
-#include "core/Qeltstoredata.h"
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
-#include <memory>
-#include <string>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/formfile.h"
-#include "host/rtl/streams.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/win32.h"
-#include "tests/support/registered.h"
+#include "qel.h"
+#include "tests/support/texts.h"
 
 namespace {
 
@@ -25,12 +16,6 @@ constexpr const char* TestKey = "Software\\QEL test of the data store";
 constexpr const char* OtherRootSection = "QEL test of another root";
 const std::string FileName =
     (std::filesystem::temp_directory_path() / "qel storedata.ini").string();
-
-std::vector<std::string> Lines(const vcl::TStrings& list) {
-  std::vector<std::string> lines;
-  for (int i = 0; i < list.Count(); ++i) lines.push_back(list.Strings(i));
-  return lines;
-}
 
 bool KeyExists(HKEY root, const std::string& path) {
   HKEY key = nullptr;
@@ -63,17 +48,21 @@ class DataStore : public testing::TestWithParam<qel::TQELDatatype> {
     Store.Inifile()->SetSection(section);
     return true;
   }
-  /// Every operation but Erase and the reads of texts and integers.
-  void Others() {
-    Store.WriteStr("a", "x");
-    Store.WriteInt("b", 1);
-    Store.WriteBool("c", true);
-    Store.DeleteKey("a");
-    vcl::TStringList list;
-    list.Add("kept");
-    Store.ReadStrs(list);
-    EXPECT_EQ(list.Count(), 1);
-    EXPECT_FALSE(Store.ReadBool("c"));
+  /// Every operation but Erase, on a store that does nothing.
+  std::vector<std::function<void()>> Operations() {
+    return {[this] { EXPECT_EQ(Store.ReadStr("a"), "Error"); },
+            [this] { EXPECT_EQ(Store.ReadInt("b"), 0); },
+            [this] { EXPECT_FALSE(Store.ReadBool("c")); },
+            [this] { Store.WriteStr("a", "x"); },
+            [this] { Store.WriteInt("b", 1); },
+            [this] { Store.WriteBool("c", true); },
+            [this] { Store.DeleteKey("a"); },
+            [this] {
+              vcl::TStringList list;
+              list.Add("kept");
+              Store.ReadStrs(list);
+              EXPECT_EQ(list.Count(), 1);
+            }};
   }
   void ExpectNothingThere() {
     EXPECT_FALSE(KeyExists(HKEY_CURRENT_USER, TestKey));
@@ -134,10 +123,8 @@ TEST_P(DataStore, ValuesEqualToTheErrorValueAreErrorsLikeMissingOnes) {
 TEST_P(DataStore, NothingIsDoneWhileDisabledOrWithoutAPlace) {
   const auto expectNothing = [&](int errors, const char* when) {
     SCOPED_TRACE(when);
-    EXPECT_EQ(Store.ReadStr("a"), "Error");
-    EXPECT_EQ(Store.ReadInt("b"), 0);
     Store.Erase();
-    Others();
+    for (const auto& operation : Operations()) operation();
     EXPECT_EQ(TakeErrors(), 9 * errors);
     ExpectNothingThere();
   };
@@ -156,18 +143,7 @@ TEST_P(DataStore, EveryOperationButEraseCorrectsThePath) {
   const std::string wrong = "Software/QEL test of the data store/x";
   const std::string right = std::string(TestKey) + "\\x";
   Store.SetEnabled(false);  // Even then.
-  const std::function<void()> operations[] = {[&] { Store.ReadStr("a"); },
-                                              [&] { Store.ReadInt("a"); },
-                                              [&] { Store.ReadBool("a"); },
-                                              [&] { Store.WriteStr("a", ""); },
-                                              [&] { Store.WriteInt("a", 1); },
-                                              [&] { Store.WriteBool("a", true); },
-                                              [&] { Store.DeleteKey("a"); },
-                                              [&] {
-                                                vcl::TStringList l;
-                                                Store.ReadStrs(l);
-                                              }};
-  for (const auto& operation : operations) {
+  for (const auto& operation : Operations()) {
     Store.Registry()->SetPath(wrong);
     operation();
     EXPECT_EQ(Store.Registry()->Path(), right);
@@ -213,29 +189,12 @@ TEST(DataStoreRegistry, AnotherRootHasTheSectionDirectlyBelowIt) {
   ::RegDeleteTreeA(HKEY_CURRENT_USER, TestKey);
 }
 
-TEST(StoreData, IsKeptInAFormFileWithItsStore) {
-  RegisterAll();
-  vcl::TForm form(nullptr);
-  auto* data = new qel::TQELStoreData(&form);
-  data->SetName("Data");
-  data->DataStore()->SetErrorStr("");
-  data->DataStore()->SetDatatype(qel::sIniFile);
-  data->DataStore()->Registry()->SetRootkey(qel::hkeyUsers);
-  data->DataStore()->Inifile()->SetSection("S");
-  vcl::TStringStream file;
-  vcl::WriteComponentText(file, data);
-  qel::TQELStoreData copy(nullptr);
-  file.SetPosition(0);
-  vcl::ReadComponentFile(file, &copy);
-  EXPECT_EQ(copy.DataStore()->ErrorStr(), "");
-  EXPECT_EQ(copy.DataStore()->Datatype(), qel::sIniFile);
-  EXPECT_EQ(copy.DataStore()->Registry()->Rootkey(), qel::hkeyUsers);
-  EXPECT_EQ(copy.DataStore()->Registry()->Path(), "Software\\Company\\Product");
-  EXPECT_EQ(copy.DataStore()->Inifile()->Section(), "S");
+TEST(StoreData, TakesOverAnotherPlace) {
+  qel::TQELStoreData data(nullptr);
   auto* other = new qel::TQELRegistry;
-  copy.DataStore()->SetRegistry(other);
-  EXPECT_EQ(copy.DataStore()->Registry(), other);
-  EXPECT_THROW(copy.DataStore()->SetRegistry(nullptr), vcl::EArgumentOutOfRangeException);
+  data.DataStore()->SetRegistry(other);
+  EXPECT_EQ(data.DataStore()->Registry(), other);
+  EXPECT_THROW(data.DataStore()->SetRegistry(nullptr), vcl::EArgumentOutOfRangeException);
 }
 
 }  // namespace

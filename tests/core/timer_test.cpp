@@ -1,15 +1,10 @@
 // The timer on a thread: when it runs, where its event is handled, how it rests and goes.
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
-#include <vector>
+#include <gmock/gmock.h>
 
 #include "core/Qelclasses2.h"
-#include "host/rtl/classes.h"
-#include "host/vcl/forms.h"
 #include "tests/support/handles.h"
 #include "tests/support/importpatch.h"
+#include "tests/support/texts.h"
 #include "tests/vcl/testinput.h"
 
 #include <tlhelp32.h>  // Needs what stands above.
@@ -228,10 +223,7 @@ class TTimedForm : public vcl::TForm {
 };
 
 TEST(Timer32, ReadFromAFormItStartsWithItsPriority) {
-  const struct {
-    const char* Properties;
-    bool Runs;
-  } cases[] = {
+  const std::pair<const char*, bool> cases[] = {
       {"Interval = 1 OnTimer = Tick Priority = tpTimeCritical", true},
       {"Interval = 1 OnTimer = Tick Priority = tpIdle", true},
       {"Interval = 1 OnTimer = Tick", false},
@@ -239,18 +231,18 @@ TEST(Timer32, ReadFromAFormItStartsWithItsPriority) {
       {"Interval = 0 OnTimer = Tick Priority = tpTimeCritical", false},
       {"Interval = 1 Priority = tpTimeCritical", false},
   };
-  for (const auto& each : cases) {
+  for (const auto& [properties, runs] : cases) {
     TTimedForm form(nullptr);
-    vcl::TStringStream text(std::string("object Form: TTimedForm\nobject Timer: TQELTimer32\n") +
-                            each.Properties + "\nend\nend\n");
-    vcl::ReadComponentFile(text, &form);
-    PumpUntil([&] { return form.Events > 0; }, each.Runs ? Patience : 50);
-    EXPECT_EQ(form.Events > 0, each.Runs) << each.Properties;
+    ReadForm(
+        std::string("object F: TTimedForm object Timer: TQELTimer32 ") + properties + " end end",
+        &form);
+    PumpUntil([&] { return form.Events > 0; }, runs ? Patience : 50);
+    EXPECT_EQ(form.Events > 0, runs) << properties;
     form.Timer->SetEnabled(form.Timer->Enabled());
     const bool starts = form.Timer->Enabled() && form.Timer->Interval() && form.Timer->OnTimer;
     form.Events = 0;
     PumpUntil([&] { return form.Events > 0; }, starts ? Patience : 50);
-    EXPECT_EQ(form.Events > 0, starts) << each.Properties;
+    EXPECT_EQ(form.Events > 0, starts) << properties;
   }
 }
 
@@ -275,7 +267,7 @@ DWORD HandleCount() {
 }
 
 constexpr int Crowd = 50;
-constexpr int LoadTime = 10000;
+constexpr int LoadTime = 3000;
 
 void RunCrowd(int milliseconds) {
   std::vector<std::unique_ptr<TCounted>> crowd;

@@ -1,14 +1,7 @@
 // The gallery's window under real mouse and keyboard: pages, events, settings, drag and drop, the
 // menu.
-#include <gtest/gtest.h>
-
-#include <thread>
 
 #include "demos/gallery/galleryform.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
-#include "host/vcl/handles.h"
-#include "host/vcl/screen.h"
 #include "tests/support/kepthandles.h"
 #include "tests/vcl/testinput.h"
 
@@ -83,15 +76,6 @@ std::vector<COLORREF> ScreenPixels(const TControl* control) {
   return pixels;
 }
 
-TEST_F(Gallery, ItsTabsShowItsPages) {
-  EXPECT_EQ(Form.Pages->ActivePageIndex(), 0);
-  GoTo(2);
-  EXPECT_TRUE(Find<TTabSheet>("BackgroundsPage")->Visible());
-  GoTo(1);
-  EXPECT_TRUE(::IsWindowVisible(Find<TWinControl>("LabelSettings")->Handle()));
-  EXPECT_FALSE(::IsWindowVisible(Find<TWinControl>("BackSettings")->Handle()));
-}
-
 TEST_F(Gallery, AButtonLogsItsEventsAndShowsItsSettings) {
   Click(Find("RaisedButton"));
   ExpectLogged({"RaisedButton.OnClick"});
@@ -110,13 +94,6 @@ TEST_F(Gallery, TheKeyboardReachesAButton) {
   ExpectLogged({"EventsButton.OnEnter", "EventsButton.OnKeyDown  32",
                 "EventsButton.OnKeyPress  ' '", "EventsButton.OnKeyUp  32", "EventsButton.OnClick",
                 "EventsButton.OnExit"});
-}
-
-TEST_F(Gallery, ADisabledButtonLogsNothing) {
-  Click(Find("OneImageDisabledButton"));
-  Click(Find("OneImageButton"));
-  ExpectLogged({"OneImageButton.OnClick"});
-  EXPECT_FALSE(Logged("OneImageDisabledButton"));
 }
 
 TEST_F(Gallery, SettingsChangeTheButtonAtOnce) {
@@ -294,33 +271,16 @@ TEST_F(Gallery, StonesAreDroppedOnTheLabelTheListAndTheBin) {
   EXPECT_TRUE(PumpUntil([&] { return list->Items()->Count() == 0; }));
 }
 
-/// Presses a key as soon as a menu is up, which holds up this thread.
-class TMenuKey {
- public:
-  explicit TMenuKey(WORD key)
-      : FThread([key] {
-          const ULONGLONG end = ::GetTickCount64() + Patience;
-          while (!MenuIsUp() && ::GetTickCount64() < end) ::Sleep(10);
-          SendKey(MenuIsUp() ? key : static_cast<WORD>(VK_ESCAPE), true);
-          SendKey(MenuIsUp() ? key : static_cast<WORD>(VK_ESCAPE), false);
-        }) {}
-  ~TMenuKey() { FThread.join(); }
-  TMenuKey(const TMenuKey&) = delete;
-  TMenuKey& operator=(const TMenuKey&) = delete;
-
- private:
-  static bool MenuIsUp() {
-    const HWND menu = ::FindWindowW(L"#32768", nullptr);
-    return menu && ::IsWindowVisible(menu);
-  }
-  std::thread FThread;
-};
+bool MenuIsUp() {
+  const HWND menu = ::FindWindowW(L"#32768", nullptr);
+  return menu && ::IsWindowVisible(menu);
+}
 
 TEST_F(Gallery, ThePopupMenuChangesItsButton) {
   auto* button = Find<TQELButton>("FlatButton");
   ASSERT_FALSE(button->WordWrap());
   {
-    const TMenuKey key('W');
+    const TKeysWhen key(&MenuIsUp, {'W'});
     MoveMouse(MiddleOf(button));
     RightDown();
     RightUp();

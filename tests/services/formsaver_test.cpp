@@ -1,21 +1,13 @@
 // TQELFormSaver on real forms that are closed and shown again; the values stand in an INI file.
-#include "services/Qeltformsaver.h"
-
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <filesystem>
 #include <fstream>
-#include <memory>
-#include <string>
-#include <utility>
 
-#include "host/rtl/formfile.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/streams.h"
-#include "host/vcl/application.h"
-#include "host/vcl/screen.h"
-#include "host/vcl/stdctrls.h"
+#include "host/vcl/vcl.h"
+#include "qel.h"
 #include "tests/support/importpatch.h"
+#include "tests/support/texts.h"
 
 namespace qel {
 namespace {
@@ -24,15 +16,15 @@ namespace {
 class TSavedForm : public vcl::TForm {
  public:
   explicit TSavedForm(vcl::TComponent* owner) : TForm(owner) {
-    vcl::TStringStream file(
+    ReadForm(
         "object SavedForm: TSavedForm Left = 50 Top = 60 Width = 400 Height = 300\n"
         " OnShow = FormShow OnClose = FormClose\n"
         " object Box: TGroupBox Left = 5 Top = 6 Width = 200 Height = 100\n"
         "  object Button1: TButton Left = 7 Top = 8 Width = 75 Height = 25 end end\n"
         " object Saver: TQELFormSaver FormStore.Datatype = sIniFile\n"
         "  FormStore.Inifile.Filename = '" +
-        IniName() + "' end end");
-    vcl::ReadComponentFile(file, this);
+            IniName() + "' end end",
+        this);
   }
   static const vcl::TClass& Class() {
     using namespace vcl;
@@ -206,20 +198,19 @@ TEST_F(FormSaver, HandlersAreCalledInOrderAndTheFormsOwnAlways) {
 
 TEST_F(FormSaver, KeepOnScreenMovesWhatIsOutOfReach) {
   const vcl::TRect area = vcl::Screen()->WorkAreaRect();
-  const struct {
-    vcl::TPoint Stored, Kept;
-  } cases[] = {{{9000, 9000}, {area.Right - 400, area.Bottom - 300}},
-               {{-5000, 70}, {area.Left, 70}},
-               {{90, area.Top - 50}, {90, area.Top}},
-               {{-300, 80}, {-300, 80}},
-               {{90, area.Bottom - 40}, {90, area.Bottom - 40}}};
+  const std::pair<vcl::TPoint, vcl::TPoint> cases[] = {
+      {{9000, 9000}, {area.Right - 400, area.Bottom - 300}},
+      {{-5000, 70}, {area.Left, 70}},
+      {{90, area.Top - 50}, {90, area.Top}},
+      {{-300, 80}, {-300, 80}},
+      {{90, area.Bottom - 40}, {90, area.Bottom - 40}}};
   for (const bool keep : {false, true}) {
     Form->Saver->SetKeepOnScreen(keep);
-    for (const auto& each : cases) {
-      Write("TSavedForm_Left=" + std::to_string(each.Stored.X) +
-            "\nTSavedForm_Top=" + std::to_string(each.Stored.Y) + "\n");
+    for (const auto& [stored, kept] : cases) {
+      Write("TSavedForm_Left=" + std::to_string(stored.X) +
+            "\nTSavedForm_Top=" + std::to_string(stored.Y) + "\n");
       Form->Show();
-      EXPECT_EQ(Form->BoundsRect().TopLeft(), keep ? each.Kept : each.Stored);
+      EXPECT_EQ(Form->BoundsRect().TopLeft(), keep ? kept : stored);
       Form->Hide();
     }
   }

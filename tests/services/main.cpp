@@ -3,13 +3,8 @@
 
 #include <cstring>
 
-#include "host/rtl/classregistry.h"
-#include "host/rtl/formfile.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/streams.h"
-#include "host/vcl/application.h"
-#include "host/vcl/forms.h"
-#include "services/Qeltonlyone.h"
+#include "qel.h"
+#include "tests/support/texts.h"
 
 namespace {
 
@@ -17,10 +12,7 @@ constexpr int ShownCode = 100;
 
 class TCopyForm : public vcl::TForm {
  public:
-  explicit TCopyForm(vcl::TComponent* owner) : TForm(owner) {
-    vcl::TStringStream file(FormFile);
-    vcl::ReadComponentFile(file, this);
-  }
+  explicit TCopyForm(vcl::TComponent* owner) : TForm(owner) { ReadForm(FormFile, this); }
   static const vcl::TClass& Class() {
     static const vcl::TClass info = vcl::Describe<TCopyForm, TForm>(
         "TCopyForm", "main", {vcl::Method<&TCopyForm::GuardExceeded>("GuardExceeded")});

@@ -1,14 +1,9 @@
 // TQELMRUMenu: what stands in the menu and in the store.
 #include <gmock/gmock.h>
 
-#include <functional>
-#include <memory>
-#include <string>
-#include <vector>
-
-#include "host/rtl/exceptions.h"
 #include "host/vcl/application.h"
-#include "services/Qeltmrumenu.h"
+#include "qel.h"
+#include "tests/support/texts.h"
 
 namespace qel {
 namespace {
@@ -52,9 +47,7 @@ class MRUMenu : public testing::Test {
   TLines Stored() {
     vcl::TStringList lines;
     MRU->MRUStore()->ReadStrs(lines);
-    TLines stored;
-    for (int i = 0; i < lines.Count(); ++i) stored.push_back(lines.Strings(i));
-    return stored;
+    return Lines(lines);
   }
   std::unique_ptr<vcl::TMainMenu> Menu;
   vcl::TMenuItem *File, *Open, *Exit;

@@ -1,10 +1,6 @@
 // TQELOnlyOne: this test is the first copy, or another program, and starts further ones.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include <memory>
-#include <string>
-
-#include "host/vcl/forms.h"
 #include "services/Qeltonlyone.h"
 #include "tests/services/copy.h"
 
@@ -28,37 +24,28 @@ class OnlyOne : public testing::Test {
 };
 
 TEST_F(OnlyOne, CountsWindowsOfTheSameClassAndCaption) {
-  const struct {
-    std::string Title;
-    int Instances;
-    const char* OnExceed;
-    DWORD Code;
-  } cases[] = {
+  const std::tuple<std::string, int, const char*, DWORD> cases[] = {
       {Title, 1, "aNone", 102},       {Title, 2, "aRestoreAndExit", 100},
       {Title, 0, "aNone", 102},       {"über" + Title.substr(5), 1, "aNone", 100},
       {Title + "!", 1, "aExit", 100}, {Title + "!", 0, "aNone", 101},
       {Title + "!", 0, "aExit", 0},   {Title + "!", 0, "aRestoreAndExit", 0},
   };
-  for (const auto& each : cases) {
-    EXPECT_EQ(TCopy(each.Title, each.Instances, each.OnExceed).ExitCode(), each.Code)
-        << each.Title << " " << each.Instances << " " << each.OnExceed;
+  for (const auto& [title, instances, onExceed, code] : cases) {
+    EXPECT_EQ(TCopy(title, instances, onExceed).ExitCode(), code)
+        << title << " " << instances << " " << onExceed;
   }
 }
 
 TEST_F(OnlyOne, BringsTheOtherToTheFrontOrEndsItself) {
-  const struct {
-    const char* OnExceed;
-    DWORD Code;
-    bool Restores;
-  } cases[] = {{"aRestoreAndExit", 0, true},
-               {"aRestore", 102, true},
-               {"aExit", 0, false},
-               {"aNone", 102, false}};
-  for (const auto& each : cases) {
+  const std::tuple<const char*, DWORD, bool> cases[] = {{"aRestoreAndExit", 0, true},
+                                                        {"aRestore", 102, true},
+                                                        {"aExit", 0, false},
+                                                        {"aNone", 102, false}};
+  for (const auto& [onExceed, code, restores] : cases) {
     Application()->Minimize();
     ASSERT_TRUE(PumpUntil([this] { return !::IsWindowVisible(Form.Handle()); }));
-    EXPECT_EQ(TCopy(Title, 1, each.OnExceed).ExitCode(), each.Code) << each.OnExceed;
-    EXPECT_EQ(::IsWindowVisible(Form.Handle()) != FALSE, each.Restores) << each.OnExceed;
+    EXPECT_EQ(TCopy(Title, 1, onExceed).ExitCode(), code) << onExceed;
+    EXPECT_EQ(::IsWindowVisible(Form.Handle()) != FALSE, restores) << onExceed;
     Application()->Restore();
     ASSERT_TRUE(PumpUntil([this] { return Form.Active(); }));
   }
@@ -75,14 +62,11 @@ TEST_F(OnlyOne, ActivatesTheFormThatWasActiveLast) {
 
 TEST_F(OnlyOne, ThereIsOneGuardOnly) {
   auto guard = std::make_unique<TQELOnlyOne>(&Form);
-  try {
-    TQELOnlyOne second(&Form);
-    FAIL() << "A second one was made";
-  } catch (const Qeltonlyone::TQELDuplicateError& error) {
-    EXPECT_EQ(error.Message(),
-              "You can have only one class of type\r\nTQELOnlyOne\r\n, in a "
-              "project and it must be on the Mainform");
-  }
+  EXPECT_THAT(
+      [&] { TQELOnlyOne second(&Form); },
+      testing::ThrowsMessage<Qeltonlyone::TQELDuplicateError>(
+          "You can have only one class of type\r\nTQELOnlyOne\r\n, in a project and it must "
+          "be on the Mainform"));
   EXPECT_EQ(Form.ComponentCount(), 1);
   guard.reset();
   TQELOnlyOne another(&Form);

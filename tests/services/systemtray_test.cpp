@@ -1,13 +1,6 @@
 // TQELSystemTray: every record that the shell gets, its messages, minimising for real.
 #include <gmock/gmock.h>
 
-#include <functional>
-#include <memory>
-#include <string>
-#include <vector>
-
-#include "host/rtl/exceptions.h"
-#include "host/vcl/forms.h"
 #include "services/Qeltsystemtray.h"
 #include "tests/support/importpatch.h"
 #include "tests/vcl/testinput.h"
@@ -125,12 +118,11 @@ TEST_F(SystemTray, TheRecordSaysWhatIsShown) {
   EXPECT_STREQ(record.szTip, "Über") << "the title, until there is a hint";
   std::string umlauts;
   for (int i = 0; i < 40; ++i) umlauts += "ü";
-  const struct {
-    std::string Hint, Tip;
-  } hints[] = {{std::string(100, 'x'), std::string(63, 'x')},
-               {"x" + umlauts, "x" + umlauts.substr(0, 62)},
-               {umlauts, umlauts.substr(0, 62)},
-               {"", ""}};
+  const std::pair<std::string, std::string> hints[] = {
+      {std::string(100, 'x'), std::string(63, 'x')},
+      {"x" + umlauts, "x" + umlauts.substr(0, 62)},
+      {umlauts, umlauts.substr(0, 62)},
+      {"", ""}};
   for (const auto& [hint, tip] : hints) {
     Commands();
     Tray->SetHint(hint);
@@ -186,12 +178,8 @@ TEST_F(SystemTray, ARefusedIconIsTriedAgainWhenTheShellComes) {
   EXPECT_THROW(Application()->Minimize(), vcl::EOutOfResources);
   EXPECT_TRUE(ButtonShown()) << "or the user could not come back";
   Application()->Restore();
-  try {
-    Tray->SetNormalIcon(true);
-    ADD_FAILURE() << "no exception";
-  } catch (const vcl::EOutOfResources& error) {
-    EXPECT_STREQ(error.what(), "Cannot create shell notification icon");
-  }
+  EXPECT_THAT([&] { Tray->SetNormalIcon(true); }, testing::ThrowsMessage<vcl::EOutOfResources>(
+                                                      "Cannot create shell notification icon"));
   int errors = 0;
   Application()->OnException = [&](vcl::TObject*, const std::exception&) { ++errors; };
   Commands();

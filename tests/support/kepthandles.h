@@ -1,7 +1,7 @@
 // That work done again and again keeps none of the system's objects.
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <utility>
 

@@ -73,6 +73,11 @@ class TDib {
   void* FBits = nullptr;
 };
 
+/// The colour as a pixel of a TDib.
+inline std::uint32_t PixelOf(COLORREF color) {
+  return std::uint32_t{GetRValue(color)} << 16 | GetGValue(color) << 8 | GetBValue(color);
+}
+
 inline int Rounded(double value) { return static_cast<int>(std::nearbyint(value)); }
 
 /// A pen and a brush of one colour, selected while it lives.

@@ -1,25 +1,8 @@
 // The package's classes, registered as its registration entry does.
 #pragma once
 
-#include "controls/Qeltbackground.h"
-#include "controls/Qeltbutton.h"
-#include "controls/Qeltgauge.h"
-#include "controls/Qelthint.h"
-#include "controls/Qeltlabel.h"
-#include "controls/Qeltspinedit.h"
-#include "core/Qelclasses.h"
-#include "core/Qelclasses2.h"
-#include "core/Qeltstoredata.h"
-#include "data/Qeltdbascii.h"
-#include "host/rtl/classregistry.h"
-#include "mail/Qeltiemails.h"
-#include "mail/Qeltmapimail.h"
-#include "mail/Qeltquickmail.h"
-#include "services/Qeltformsaver.h"
-#include "services/Qeltmrumenu.h"
-#include "services/Qeltonlyone.h"
-#include "services/Qeltsystemtray.h"
-#include "shell/Qeltexplorertree.h"
+#include "host/vcl/vcl.h"
+#include "qel.h"
 
 inline void RegisterAll() {
   vcl::RegisterClasses({&qel::TQELFont3D::Class(),     &qel::TQELGradient::Class(),

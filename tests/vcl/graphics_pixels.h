@@ -2,21 +2,23 @@
 // handles.
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <map>
 #include <string>
 #include <vector>
 
-#include "host/vcl/graphics.h"
+#include "host/vcl/vcl.h"
 
 namespace vcl::test {
 
+inline const std::map<TColor, char> LettersOfColors = {
+    {clWhite, '.'}, {clBlack, 'K'},  {clRed, 'R'},    {clLime, 'G'},
+    {clBlue, 'B'},  {clYellow, 'Y'}, {clFuchsia, 'F'}};
+
 /// One line per row, one letter per pixel; "?" for a colour without a letter.
-inline std::vector<std::string> Letters(TBitmap& bitmap) {
-  static const std::map<TColor, char> letters = {{clWhite, '.'},  {clBlack, 'K'}, {clRed, 'R'},
-                                                 {clLime, 'G'},   {clBlue, 'B'},  {clYellow, 'Y'},
-                                                 {clFuchsia, 'F'}};
+inline std::vector<std::string> Letters(TBitmap& bitmap,
+                                        const std::map<TColor, char>& letters = LettersOfColors) {
   std::vector<std::string> rows;
   for (int y = 0; y < bitmap.Height(); ++y) {
     std::string row;
@@ -31,9 +33,8 @@ inline std::vector<std::string> Letters(TBitmap& bitmap) {
 
 /// Paints rows of the same letters on a bitmap.
 inline void Paint(TBitmap& bitmap, const std::vector<std::string>& rows) {
-  static const std::map<char, TColor> colors = {{'.', clWhite},  {'K', clBlack}, {'R', clRed},
-                                                {'G', clLime},   {'B', clBlue},  {'Y', clYellow},
-                                                {'F', clFuchsia}};
+  std::map<char, TColor> colors;
+  for (const auto& [color, letter] : LettersOfColors) colors[letter] = color;
   bitmap.SetSize(static_cast<int>(rows[0].size()), static_cast<int>(rows.size()));
   for (int y = 0; y < bitmap.Height(); ++y) {
     for (int x = 0; x < bitmap.Width(); ++x) {

@@ -1,18 +1,11 @@
 // A form on the screen for tests of the standard controls.
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <string>
 #include <type_traits>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/properties.h"
-#include "host/vcl/application.h"
-#include "host/vcl/comctrls.h"
-#include "host/vcl/extctrls.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/stdctrls.h"
 #include "tests/vcl/testinput.h"
 
 namespace vcl {
@@ -62,6 +55,23 @@ class TStandardForm : public ::testing::Test {
       const auto code = static_cast<WORD>(LOBYTE(key));
       HIBYTE(key) & 1 ? testinput::TypeKey(code, {VK_SHIFT}) : testinput::TypeKey(code);
     }
+  }
+  /// The rectangle around the colour's pixels in the form's picture; empty without any.
+  TRect Find(TColor color) {
+    const auto shot = Form.GetFormImage();
+    shot->SetPixelFormat(pf32bit);
+    const COLORREF rgb = ColorToRGB(color);
+    const auto wanted = static_cast<DWORD>(RGB(GetBValue(rgb), GetGValue(rgb), GetRValue(rgb)));
+    TRect found(shot->Width(), shot->Height(), 0, 0);
+    for (int y = 0; y < shot->Height(); ++y) {
+      const auto* row = static_cast<const DWORD*>(std::as_const(*shot).ScanLine(y));
+      for (int x = 0; x < shot->Width(); ++x) {
+        if ((row[x] & 0xFFFFFF) != wanted) continue;
+        found = {std::min(found.Left, x), std::min(found.Top, y), std::max(found.Right, x + 1),
+                 std::max(found.Bottom, y + 1)};
+      }
+    }
+    return found.Empty() ? TRect() : found;
   }
   void Click(TControl& control) { testinput::Click(&control); }
   void Click(TControl& control, int x, int y) { testinput::Click(control.ClientToScreen({x, y})); }

@@ -9,9 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/vcl/application.h"
-#include "host/vcl/control.h"
-#include "host/vcl/wincontrol.h"
+#include "host/vcl/vcl.h"
 
 namespace testinput {
 
@@ -83,6 +81,29 @@ inline void TypeKey(WORD key, std::initializer_list<WORD> held = {}) {
   for (WORD each : held) SendKey(each, false);
   Pump();
 }
+
+/// Presses keys as soon as the condition holds, from a thread of its own; Escape when it does not
+/// in time.
+class TKeysWhen {
+ public:
+  TKeysWhen(std::function<bool()> condition, std::vector<WORD> keys)
+      : FThread([condition = std::move(condition), keys = std::move(keys)] {
+          const ULONGLONG end = ::GetTickCount64() + Patience;
+          bool holds = false;
+          while (!(holds = condition()) && ::GetTickCount64() < end) ::Sleep(10);
+          ::Sleep(50);
+          for (const WORD key : holds ? keys : std::vector<WORD>{VK_ESCAPE}) {
+            SendKey(key, true);
+            SendKey(key, false);
+          }
+        }) {}
+  ~TKeysWhen() { FThread.join(); }
+  TKeysWhen(const TKeysWhen&) = delete;
+  TKeysWhen& operator=(const TKeysWhen&) = delete;
+
+ private:
+  std::thread FThread;
+};
 
 /// Answers the next system boxes (#32770) of this process, one after another, from a thread of its
 /// own, by the number of a button, and keeps what they said. `ready` holds the first answer back.

@@ -1,0 +1,85 @@
+// What holds for every component: the backgrounds that it is linked to, and the objects with
+// settings that it is given.
+#include <gmock/gmock.h>
+
+#include "tests/support/registered.h"
+
+namespace qel {
+namespace {
+
+/// A published property of a component.
+struct TUse {
+  vcl::TObject* Value() const { return std::get<vcl::TObject*>(Property.Get(*It)); }
+  void Set(vcl::TObject* value) const { Property.Set(*It, value); }
+  std::unique_ptr<vcl::TComponent> It;
+  const vcl::TPropInfo& Property;
+};
+
+/// Every such property of the type in turn; says how many there are.
+int ForEachUse(std::string_view type, const std::function<void(TUse&)>& act) {
+  RegisterAll();
+  int count = 0;
+  for (const vcl::TClass* info : vcl::RegisteredClasses()) {
+    for (const vcl::TPropInfo* property : info->Published()) {
+      if (!info->Maker().Component || property->TypeName() != type) continue;
+      SCOPED_TRACE(info->Name() + "." + property->Name);
+      TUse use{std::unique_ptr<vcl::TComponent>(info->Maker().Component(nullptr)), *property};
+      act(use);
+      ++count;
+    }
+  }
+  return count;
+}
+
+TEST(Links, EndWithTheComponentOrItsBackground) {
+  const int links = ForEachUse("TQELBackground", [](TUse& use) {
+    // A hint asks when it is shown, and so need not be told of changes.
+    const int clients = dynamic_cast<TQELHint*>(use.It.get()) ? 0 : 1;
+    TQELBackground first(nullptr);
+    auto second = std::make_unique<TQELBackground>(nullptr);
+    use.Set(&first);
+    use.Set(&first);
+    EXPECT_EQ(first.ClientCount(), clients);
+    use.Set(second.get());
+    EXPECT_EQ(first.ClientCount(), 0);
+    EXPECT_EQ(second->ClientCount(), clients);
+    second.reset();
+    EXPECT_EQ(use.Value(), nullptr);
+    use.Set(&first);
+    use.It.reset();
+    EXPECT_EQ(first.ClientCount(), 0);
+  });
+  EXPECT_EQ(links, 5);
+}
+
+/// What nobody frees yet is taken over, by those that may; else, and of another's, there is a copy.
+TEST(Settings, AreTakenOverOrCopied) {
+  TQELLabel label(nullptr);
+  TQELButton button(nullptr);
+  label.Frame()->SetOffset(7);
+  button.Font3D()->SetOffset(7);
+  button.Glyph()->SetVisible(false);
+  const std::tuple<vcl::TPersistent*, const char*, int> cases[] = {
+      {label.Frame(), "Offset", 3}, {button.Font3D(), "Offset", 4}, {button.Glyph(), "Visible", 2}};
+  for (const auto& [ofAnother, changed, uses] : cases) {
+    const vcl::TClass& type = ofAnother->ClassType();
+    const vcl::TPropInfo& mark = *type.FindPublished(changed);
+    EXPECT_EQ(uses, ForEachUse(type.Name(), [&](TUse& use) {
+                use.Set(ofAnother);
+                EXPECT_NE(use.Value(), ofAnother);
+                EXPECT_EQ(mark.Get(*use.Value()), mark.Get(*ofAnother));
+                const bool copies =
+                    use.It->ClassName() == "TQELButton" || &type == &TQELGlyph::Class();
+                std::unique_ptr<vcl::TObject> given(type.Maker().Plain());
+                vcl::TObject* const former = use.Value();
+                use.Set(given.get());
+                EXPECT_EQ(use.Value(), copies ? former : given.release());
+                vcl::TObject* const kept = use.Value();
+                if (!copies) use.Set(nullptr);
+                EXPECT_EQ(use.Value(), kept);
+              }));
+  }
+}
+
+}  // namespace
+}  // namespace qel
