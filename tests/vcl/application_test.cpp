@@ -1,16 +1,9 @@
 // The application: running and ending, errors, boxes, its window; the screen.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <atomic>
 #include <cstdio>
-#include <string>
-#include <vector>
 
-#include "host/rtl/classregistry.h"
-#include "host/rtl/exceptions.h"
-#include "host/vcl/application.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/screen.h"
 #include "tests/vcl/testinput.h"
 
 namespace vcl {
@@ -18,18 +11,6 @@ namespace {
 
 using namespace testinput;
 using TLog = std::vector<std::string>;
-
-TEST(Application, IsTheBaseApplicationToo) {
-  EXPECT_EQ(&BaseApplication(), Application());
-  EXPECT_TRUE(HasApplication());
-  char name[40] = "";
-  ::GetClassNameA(Application()->Handle(), name, sizeof name);
-  EXPECT_STREQ(name, "TApplication");
-  Application()->SetTitle("Täst");
-  char title[40] = "";
-  ::GetWindowTextA(Application()->Handle(), title, sizeof title);
-  EXPECT_STREQ(title, "Täst");
-}
 
 TEST(Application, RunShowsTheMainFormAndFreesTheFormsWhole) {
   TLog log;
@@ -99,21 +80,16 @@ TEST(Application, AnErrorIsShownInABoxAndTheProgramGoesOn) {
   EXPECT_EQ(box.Text(), "Grüße.");
   EXPECT_TRUE(::IsWindowEnabled(form.Handle()));
   EXPECT_TRUE(PumpUntil([&] { return form.Active(); }));
+  TBoxAnswer message(IDOK);
+  ShowMessage("Grüße");
+  EXPECT_TRUE(message.Wait());
+  EXPECT_EQ(message.Caption() + message.Text(), "The titleGrüße");
 }
 
 std::atomic<int> raised = 0;
 void CALLBACK Raise(HWND, UINT, UINT_PTR id, DWORD) {
   if (++raised == 3) ::KillTimer(nullptr, id);
   Application()->ShowException(Exception("from the timer"));
-}
-
-TEST(Application, AMessageIsShownUnderTheTitle) {
-  Application()->SetTitle("The title");
-  TBoxAnswer box(IDOK);
-  ShowMessage("Grüße");
-  EXPECT_TRUE(box.Wait());
-  EXPECT_EQ(box.Caption(), "The title");
-  EXPECT_EQ(box.Text(), "Grüße");
 }
 
 TEST(Application, ErrorsWhileABoxIsUpWaitAndAreShownOnce) {
@@ -139,39 +115,6 @@ TEST(Application, MessagesAndIdleTimeReachTheHandlers) {
   Application()->OnIdle = nullptr;
   Application()->OnMessage = nullptr;
   EXPECT_EQ(seen, 1);
-}
-
-TEST(Application, MinimisingItTakesItsFormsOffTheScreen) {
-  TForm form(nullptr);
-  form.SetBounds(200, 200, 200, 200);
-  form.Show();
-  ASSERT_TRUE(PumpUntil([&] { return form.Active(); }));
-  EXPECT_TRUE(::IsWindowVisible(Application()->Handle()));
-  TLog log;
-  Application()->OnMinimize = [&](TObject*) { log.push_back("minimize"); };
-  Application()->OnRestore = [&](TObject*) { log.push_back("restore"); };
-  Application()->Minimize();
-  Pump();
-  EXPECT_TRUE(::IsIconic(Application()->Handle()));
-  EXPECT_FALSE(::IsWindowVisible(form.Handle()));
-  Application()->Restore();
-  EXPECT_TRUE(PumpUntil([&] { return ::IsWindowVisible(form.Handle()) && form.Active(); }));
-  Application()->OnMinimize = Application()->OnRestore = nullptr;
-  EXPECT_EQ(log, (TLog{"minimize", "restore"}));
-  form.Hide();
-  EXPECT_FALSE(::IsWindowVisible(Application()->Handle()));
-}
-
-TEST(Screen, KnowsItsSizeAndTheForms) {
-  EXPECT_EQ(Screen()->Width(), ::GetSystemMetrics(SM_CXSCREEN));
-  EXPECT_EQ(Screen()->PixelsPerInch(), 96);
-  const int count = Screen()->FormCount();
-  {
-    TForm form(nullptr);
-    EXPECT_EQ(Screen()->FormCount(), count + 1);
-    EXPECT_EQ(Screen()->Forms(count), &form);
-  }
-  EXPECT_THROW(Screen()->Forms(count), EListError);
 }
 
 TEST(Screen, EveryPointerHasAHandle) {

@@ -1,15 +1,7 @@
 // Controls without and with windows: parents, text, alignment, following the parent, the mouse.
-#include <gtest/gtest.h>
-
 #include <array>
-#include <string>
-#include <vector>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/properties.h"
-#include "host/vcl/application.h"
-#include "host/vcl/controlcanvas.h"
-#include "host/vcl/forms.h"
+#include "host/vcl/vcl.h"
 #include "host/vcl/windowtext.h"
 #include "tests/support/kepthandles.h"
 
@@ -72,6 +64,9 @@ TEST_F(Controls, AControlCannotStandInsideItself) {
   EXPECT_EQ(outer->Parent(), &Form);
   EXPECT_EQ(inner->ParentForm(), &Form);
   EXPECT_TRUE(Form.ContainsControl(inner));
+  TBox lost(nullptr);
+  EXPECT_THROW(lost.Handle(), EInvalidOperation) << "a window needs a parent";
+  EXPECT_THROW(TProbe(nullptr).ClientToScreen({0, 0}), EInvalidOperation);
 }
 
 TEST_F(Controls, WindowsLieAboveControlsWithoutWindows) {
@@ -287,38 +282,6 @@ TEST_F(Controls, AHandlerOfShowingMayFreeTheForm) {
   EXPECT_TRUE(gone);
 }
 
-TEST_F(Controls, AHandlerMayFreeItsSender) {
-  Form.Show();
-  const auto clickFrees = [&](TControl* control, HWND window) {
-    TWatch watch(control);
-    control->OnClick = [](TObject* sender) { delete sender; };
-    ::SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-    ::SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    EXPECT_TRUE(watch.Gone());
-  };
-  clickFrees(Make<TProbe>(&Form, 0, 0, 40, 40), Form.Handle());
-  auto* box = Make<TBox>(&Form, 0, 0, 40, 40);
-  clickFrees(box, box->Handle());
-  EXPECT_EQ(Form.ControlCount(), 0);
-}
-
-TEST_F(Controls, AnErrorInAHandlerGoesToTheApplication) {
-  auto* box = Make<TBox>(&Form, 0, 0, 40, 40);
-  Form.Show();
-  std::string shown;
-  TObject* sender = nullptr;
-  Application()->OnException = [&](TObject* from, const std::exception& error) {
-    sender = from;
-    shown = error.what();
-  };
-  box->OnClick = [](TObject*) { throw EConvertError("'x' is no number"); };
-  Send(*box, WM_LBUTTONDOWN, 5, 5, MK_LBUTTON);
-  Send(*box, WM_LBUTTONUP, 5, 5);
-  Application()->OnException = nullptr;
-  EXPECT_EQ(shown, "'x' is no number");
-  EXPECT_EQ(sender, box);
-}
-
 TEST_F(Controls, PaintingIsClippedToTheControl) {
   auto* box = Make<TBox>(&Form, 0, 0, 100, 100);
   Make<TProbe>(box, 90, 90, 40, 40);
@@ -360,25 +323,6 @@ TEST_F(Controls, KeysGoToTheFormFirstWhenItAsksForThem) {
   ::SendMessageW(box->Handle(), WM_CHAR, 0xD83D, 0);
   ::SendMessageW(box->Handle(), WM_CHAR, 0xDE00, 0);
   EXPECT_EQ(log, "box128512 ");
-}
-
-TEST_F(Controls, MakingAndFreeingWindowsLeavesNoHandles) {
-  Form.Show();
-  handles::ExpectNoneKept(200, 1, [&](int) {
-    auto* box = Make<TBox>(&Form, 0, 0, 100, 100);
-    Make<TBox>(box, 0, 0, 10, 10)->Font()->SetSize(31);
-    Make<TProbe>(box, 0, 0, 10, 10);
-    box->Repaint();
-    delete box;
-  });
-}
-
-TEST_F(Controls, AWindowNeedsAParent) {
-  TBox box(nullptr);
-  box.SetName("Lost");
-  EXPECT_THROW(box.Handle(), EInvalidOperation);
-  TProbe probe(nullptr);
-  EXPECT_THROW(probe.ClientToScreen({0, 0}), EInvalidOperation);
 }
 
 }  // namespace

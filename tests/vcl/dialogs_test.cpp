@@ -1,16 +1,11 @@
 // The system's dialogs, messages and questions, and the controls of an application's frame.
-#include "tests/vcl/standardform.h"
-
 #include <filesystem>
 #include <fstream>
-#include <memory>
-#include <thread>
 
-#include "host/rtl/formfile.h"
-#include "host/rtl/streams.h"
-#include "host/vcl/dialogs.h"
 #include "host/vcl/standardcontrols.h"
 #include "host/vcl/windowtext.h"
+#include "tests/support/texts.h"
+#include "tests/vcl/standardform.h"
 
 namespace vcl {
 namespace {
@@ -116,49 +111,33 @@ TEST_F(Dialogs, ColoursAndFontsComeBackAsChosen) {
   EXPECT_FALSE(Execute(font, IDCANCEL));
 }
 
-/// Presses keys once a form with the caption is in front, from a thread of its own.
-std::thread TypeInto(const wchar_t* caption, std::initializer_list<WORD> keys) {
-  return std::thread([caption, keys = std::vector<WORD>(keys)] {
-    const ULONGLONG end = ::GetTickCount64() + testinput::Patience;
-    HWND form = nullptr;
-    while (::GetTickCount64() < end) {
-      form = ::FindWindowW(nullptr, caption);
-      if (form && form == ::GetForegroundWindow()) break;
-      ::Sleep(10);
-    }
-    ::Sleep(50);
-    for (const WORD key : keys) {
-      testinput::SendKey(key, true);
-      testinput::SendKey(key, false);
-    }
-  });
+/// Whether a form with the caption is in front.
+std::function<bool()> InFront(const wchar_t* caption) {
+  return [caption] {
+    const HWND form = ::FindWindowW(nullptr, caption);
+    return form && form == ::GetForegroundWindow();
+  };
 }
 
 TEST_F(Dialogs, MessagesAndQuestionsAreAnsweredByKeys) {
-  const struct {
-    TMsgDlgType Type;
-    TMsgDlgButtons Buttons;
-    const wchar_t* Caption;
-    WORD Key;
-    TModalResult Result;
-  } cases[] = {
+  const std::tuple<TMsgDlgType, TMsgDlgButtons, const wchar_t*, WORD, TModalResult> cases[] = {
       {mtWarning, {mbYes, mbNo, mbCancel}, L"Warning", VK_RETURN, mrYes},
       {mtConfirmation, {mbYes, mbNo, mbCancel}, L"Confirm", 'N', mrNo},
       {mtConfirmation, {mbYes, mbNo}, L"Confirm", VK_ESCAPE, mrNo},
       {mtError, {mbAbort, mbRetry, mbIgnore}, L"Error", 'I', mrIgnore},
       {mtInformation, {}, L"Information", VK_ESCAPE, mrOk},
   };
-  for (const auto& each : cases) {
-    std::thread keys = TypeInto(each.Caption, {each.Key});
-    EXPECT_EQ(MessageDlg(std::string(3000, 'w') + " & ü", each.Type, each.Buttons), each.Result);
-    keys.join();
+  std::string text(3000, 'w');
+  text += " & ü";
+  for (const auto& [type, buttons, caption, key, result] : cases) {
+    const testinput::TKeysWhen keys(InFront(caption), {key});
+    EXPECT_EQ(MessageDlg(text, type, buttons), result);
   }
   std::string value = "former";
   for (const bool agreed : {true, false}) {
-    std::thread keys =
-        TypeInto(L"Frage", {'A', 'B', static_cast<WORD>(agreed ? VK_RETURN : VK_ESCAPE)});
+    const WORD last = agreed ? VK_RETURN : VK_ESCAPE;
+    const testinput::TKeysWhen keys(InFront(L"Frage"), {'A', 'B', last});
     EXPECT_EQ(InputQuery("Frage", "Was?", value), agreed);
-    keys.join();
     EXPECT_EQ(value, "ab");
   }
 }
@@ -199,29 +178,19 @@ TEST_F(Dialogs, AnImageIsPlacedStretchedAndKept) {
   bitmap->SetSize(20, 10);
   bitmap->Canvas()->Brush()->SetColor(clRed);
   bitmap->Canvas()->FillRect({0, 0, 20, 10});
-  const auto red = [&] {  // How many pixels of the form's picture are.
-    testinput::Pump();
-    const auto picture = Form.GetFormImage();
-    int count = 0;
-    for (int y = 0; y < picture->Height(); ++y)
-      for (int x = 0; x < picture->Width(); ++x) count += picture->Canvas()->Pixels(x, y) == clRed;
-    return count;
-  };
-  EXPECT_EQ(red(), 20 * 10);
+  testinput::Pump();
+  EXPECT_EQ(Find(clRed), Bounds(10, 10, 20, 10));
   image->SetCenter(true);
-  EXPECT_EQ(Form.GetFormImage()->Canvas()->Pixels(10 + 10, 10 + 15), clRed);
+  EXPECT_EQ(Find(clRed), Bounds(20, 25, 20, 10));
   image->SetStretch(true);
-  EXPECT_EQ(red(), 40 * 40);
+  EXPECT_EQ(Find(clRed), Bounds(10, 10, 40, 40));
   image->SetAutoSize(true);
   EXPECT_EQ(image->Width(), 20);
   image->SetTransparent(true);
-  EXPECT_EQ(red(), 0) << "red is the transparent colour";
+  EXPECT_EQ(Find(clRed), TRect()) << "red is the transparent colour";
 
-  TStringStream text;
-  WriteComponentText(text, image);
   TImage copy(nullptr);
-  text.SetPosition(0);
-  ReadComponentFile(text, &copy);
+  ReadForm(FormText(image), &copy);
   EXPECT_EQ(copy.Picture()->Width(), 20);
   EXPECT_EQ(copy.Picture()->Bitmap()->Canvas()->Pixels(3, 3), clRed);
   copy.Picture()->Icon();

@@ -1,14 +1,6 @@
 // Drag and drop with the real mouse.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include <string>
-#include <vector>
-
-#include "host/rtl/exceptions.h"
-#include "host/vcl/controlcanvas.h"
-#include "host/vcl/drag.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/listbox.h"
 #include "tests/vcl/testinput.h"
 
 namespace vcl {

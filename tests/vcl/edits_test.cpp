@@ -141,11 +141,7 @@ TEST_F(Edits, TheBorderHasDepthAsTheParentHas) {
 
 /// The operations on lines, with the text that they leave in a memo.
 TEST_F(Edits, LinesAreTheTextOfAMemo) {
-  const struct {
-    const char* Before;
-    std::function<void(TStrings&)> Do;
-    const char* After;
-  } cases[] = {
+  const std::tuple<const char*, std::function<void(TStrings&)>, const char*> cases[] = {
       {"", [](TStrings& lines) { lines.Add("a"); }, "a\r\n"},
       {"a", [](TStrings& lines) { lines.Add("b"); }, "a\r\nb\r\n"},
       {"a\r\n", [](TStrings& lines) { lines.Add("ü"); }, "a\r\nü\r\n"},
@@ -158,12 +154,12 @@ TEST_F(Edits, LinesAreTheTextOfAMemo) {
       {"a", [](TStrings& lines) { lines.SetCommaText("x,y"); }, "x\r\ny\r\n"},
   };
   for (bool window : {false, true}) {
-    for (const auto& each : cases) {
+    for (const auto& [before, act, after] : cases) {
       auto* memo = Make<TMemo>(10, 10);
       if (window) memo->HandleNeeded();
-      memo->SetText(each.Before);
-      each.Do(*memo->Lines());
-      EXPECT_EQ(memo->Text(), each.After) << "from " << each.Before << ", window: " << window;
+      memo->SetText(before);
+      act(*memo->Lines());
+      EXPECT_EQ(memo->Text(), after) << "from " << before << ", window: " << window;
       delete memo;
     }
   }

@@ -1,13 +1,9 @@
 // The buttons with a glyph: how they look, their kinds, their groups.
-#include "tests/vcl/standardform.h"
-
-#include <functional>
-#include <utility>
-
-#include "host/rtl/classes.h"
 #include "host/vcl/buttons.h"
 #include "host/vcl/standardcontrols.h"
-#include "tests/support/handles.h"
+#include "tests/support/kepthandles.h"
+#include "tests/support/texts.h"
+#include "tests/vcl/standardform.h"
 
 namespace vcl {
 namespace {
@@ -28,30 +24,6 @@ class GlyphButtons : public TStandardForm {
     }
     return strip;
   }
-
-  std::unique_ptr<TBitmap> Shot() {
-    auto shot = std::make_unique<TBitmap>(400, 300);
-    Form.PaintTo(shot->Canvas()->Handle(), 0, 0);
-    return shot;
-  }
-
-  /// The rectangle around the colour's pixels; empty without any.
-  TRect Find(TColor color) {
-    const auto shot = Shot();
-    shot->SetPixelFormat(pf32bit);
-    const COLORREF rgb = ColorToRGB(color);
-    const auto wanted = static_cast<DWORD>(RGB(GetBValue(rgb), GetGValue(rgb), GetRValue(rgb)));
-    TRect found(400, 300, 0, 0);
-    for (int y = 0; y < 300; ++y) {
-      const auto* row = static_cast<const DWORD*>(std::as_const(*shot).ScanLine(y));
-      for (int x = 0; x < 400; ++x) {
-        if ((row[x] & 0xFFFFFF) != wanted) continue;
-        found = {std::min(found.Left, x), std::min(found.Top, y), std::max(found.Right, x + 1),
-                 std::max(found.Bottom, y + 1)};
-      }
-    }
-    return found.Empty() ? TRect() : found;
-  }
 };
 
 TEST_F(GlyphButtons, LayoutMarginAndSpacingPlaceTheGlyph) {
@@ -63,18 +35,15 @@ TEST_F(GlyphButtons, LayoutMarginAndSpacingPlaceTheGlyph) {
   testinput::MoveMouse({1, 1});
   EXPECT_EQ(Find(clRed), (TRect{46, 26, 56, 35}));  // The tenth row is see-through.
   button->SetMargin(5);
-  const struct {
-    TButtonLayout Layout;
-    TRect Glyph;
-  } cases[] = {
+  const std::pair<TButtonLayout, TRect> cases[] = {
       {blGlyphLeft, {6, 26, 16, 35}},
       {blGlyphRight, {86, 26, 96, 35}},
       {blGlyphTop, {46, 6, 56, 15}},
       {blGlyphBottom, {46, 46, 56, 55}},
   };
-  for (const auto& each : cases) {
-    button->SetLayout(each.Layout);
-    EXPECT_EQ(Find(clRed), each.Glyph) << each.Layout;
+  for (const auto& [layout, glyph] : cases) {
+    button->SetLayout(layout);
+    EXPECT_EQ(Find(clRed), glyph) << layout;
   }
   // A caption takes the glyph's side apart: the two stay together, with the spacing between them.
   button->SetLayout(blGlyphLeft);
@@ -155,16 +124,10 @@ TYPED_TEST(EachGlyphButton, PaintsWithoutKeepingHandles) {
   button->SetGlyph(this->Strip({clRed}).get());
   this->ShowForm();
   TBitmap shot(200, 200);
-  const auto paint = [&](int times) {
-    for (int i = 0; i < times; ++i) {
-      button->SetEnabled(i % 2);
-      this->Form.PaintTo(shot.Canvas()->Handle(), 0, 0);
-    }
-  };
-  paint(4);
-  const int before = handles::GdiObjects();
-  paint(200);
-  EXPECT_LE(handles::GdiObjects(), before);
+  handles::ExpectNoneKept(200, 4, [&](int i) {
+    button->SetEnabled(i % 2);
+    this->Form.PaintTo(shot.Canvas()->Handle(), 0, 0);
+  });
 }
 
 TEST_F(GlyphButtons, KindsSetAnswerKeysCaptionAndGlyph) {
@@ -219,27 +182,20 @@ TEST_F(GlyphButtons, AClosingOneClosesItsForm) {
   EXPECT_TRUE(testinput::PumpUntil([&] { return !Form.Visible(); }));
 }
 
-std::string Written(TForm& form) {
-  TStringStream text;
-  WriteComponentText(text, &form);
-  return text.DataString();
-}
-
 TEST_F(GlyphButtons, FormFilesKeepWhatAKindDoesNotSay) {
   RegisterStandardControls();
   auto* button = new TBitBtn(&Form);
   button->SetName("Ok");
   button->SetParent(&Form);
   button->SetKind(bkOK);
-  const std::string plain = Written(Form);
+  const std::string plain = FormText(&Form);
   for (const char* word : {"Caption = 'OK'", "Default", "ModalResult", "Glyph", "NumGlyphs"}) {
     EXPECT_EQ(plain.find(word), std::string::npos) << word;
   }
   EXPECT_NE(plain.find("Kind = bkOK"), std::string::npos);
   button->SetCaption("Go on");
-  TStringStream text(Written(Form));
   TForm copy(nullptr);
-  ReadComponentFile(text, &copy);
+  ReadForm(FormText(&Form), &copy);
   const auto* read = dynamic_cast<TBitBtn*>(copy.FindComponent("Ok"));
   ASSERT_NE(read, nullptr);
   EXPECT_EQ(read->Caption(), "Go on");
@@ -286,7 +242,7 @@ TEST_F(GlyphButtons, AFlatOneHasAnEdgeUnderTheMouseOnly) {
   auto* button = Make<TSpeedButton>(20, 20);
   button->SetFlat(true);
   ShowForm();
-  const auto edge = [&] { return Shot()->Canvas()->Pixels(20, 30); };
+  const auto edge = [&] { return Form.GetFormImage()->Canvas()->Pixels(20, 30); };
   testinput::MoveMouse(Form.ClientToScreen({200, 200}));
   const TColor plain = edge();
   testinput::MoveMouse(testinput::MiddleOf(button));

@@ -1,9 +1,4 @@
 // Image lists and icons.
-#include "host/rtl/exceptions.h"
-#include "host/rtl/reader.h"
-#include "host/rtl/streams.h"
-#include "host/rtl/writer.h"
-#include "host/vcl/imagelist.h"
 #include "tests/support/kepthandles.h"
 #include "tests/vcl/graphics_pixels.h"
 

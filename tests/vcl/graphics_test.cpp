@@ -2,7 +2,6 @@
 #include <array>
 #include <cstring>
 
-#include "host/rtl/exceptions.h"
 #include "tests/support/kepthandles.h"
 #include "tests/vcl/graphics_pixels.h"
 
@@ -84,13 +83,6 @@ TEST(Font, CopiesShareTheHandleUntilOneChanges) {
   EXPECT_EQ(dense.Height(), 2 * a.Height());
   const TPen pen;
   EXPECT_THROW(b.Assign(&pen), EConvertError);
-}
-
-TEST(Font, CharsetsHaveNames) {
-  EXPECT_EQ(CharsetToIdent(DEFAULT_CHARSET), "DEFAULT_CHARSET");
-  EXPECT_EQ(IdentToCharset("oem_charset"), OEM_CHARSET);
-  EXPECT_FALSE(CharsetToIdent(99));
-  EXPECT_FALSE(IdentToCharset("NO_CHARSET"));
 }
 
 TEST(Brush, ColorMakesAClearBrushSolidAndHatchesTakeTheComplementBehindThem) {

@@ -1,15 +1,6 @@
 // Hints: their texts, when they come and go, where they stand.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include <functional>
-#include <string>
-
-#include "host/rtl/exceptions.h"
-#include "host/rtl/properties.h"
-#include "host/vcl/controlcanvas.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/hints.h"
-#include "host/vcl/screen.h"
 #include "tests/vcl/testinput.h"
 
 namespace vcl {
@@ -236,31 +227,6 @@ TEST_F(OtherHints, AHintEndedWhileItsWindowShowsItIsNotSeen) {
   EXPECT_EQ(Component(), nullptr);
   Renew();
   EXPECT_TRUE(Component());
-}
-
-TEST_F(Hints, EnterAndLeaveReachControlsWithoutWindows) {
-  std::vector<std::string> log;
-  class TNoter : public TPlate {
-   public:
-    TNoter(TForm* form, std::vector<std::string>& log) : TPlate(form, 10, ""), FLog(log) {}
-
-   protected:
-    void Dispatch(TMessage& message) override {
-      if (message.Msg == CM_MOUSEENTER) FLog.push_back("enter");
-      if (message.Msg == CM_MOUSELEAVE) FLog.push_back("leave");
-      TPlate::Dispatch(message);
-    }
-
-   private:
-    std::vector<std::string>& FLog;
-  };
-  auto* noter = new TNoter(&Form, log);
-  noter->BringToFront();
-  MoveMouse(MiddleOf(noter));
-  EXPECT_TRUE(PumpUntil([&] { return log.size() == 1; }));
-  MoveMouse({5, 5});
-  EXPECT_TRUE(PumpUntil([&] { return log.size() == 2; }));
-  EXPECT_EQ(log, (std::vector<std::string>{"enter", "leave"}));
 }
 
 }  // namespace

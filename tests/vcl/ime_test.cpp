@@ -1,7 +1,5 @@
 // What a control with the focus asks of the keyboard's input method. The system's answers are made
 // up: a test machine has no Far Eastern keyboard.
-#include <gmock/gmock.h>
-
 #include "tests/support/importpatch.h"
 #include "tests/vcl/standardform.h"
 
@@ -82,10 +80,7 @@ class Ime : public TStandardForm {
 
 TEST_F(Ime, ItsStateFollowsTheModeOfTheFocusedControl) {
   EXPECT_THAT(Visit(), IsEmpty());
-  const struct {
-    TImeMode Mode;
-    std::vector<std::string> Calls;
-  } cases[] = {
+  const std::pair<TImeMode, std::vector<std::string>> cases[] = {
       {imClose, {"open 0"}},
       {imOpen, {"open 1"}},
       {imSAlpha, {"open 1", "convert 10"}},
@@ -99,9 +94,9 @@ TEST_F(Ime, ItsStateFollowsTheModeOfTheFocusedControl) {
       {imDontCare, {}},
       {imDisable, {"associate 0"}},
   };
-  for (const auto& each : cases) {
-    Edit->SetImeMode(each.Mode);
-    EXPECT_EQ(Visit(), each.Calls) << each.Mode;
+  for (const auto& [mode, expected] : cases) {
+    Edit->SetImeMode(mode);
+    EXPECT_EQ(Visit(), expected) << mode;
   }
   calls.clear();
   Edit->SetImeMode(imOpen);

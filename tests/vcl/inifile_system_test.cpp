@@ -1,19 +1,17 @@
 // INI files under the system that has functions for them: the same is done by TIniFile and by the
 // private profile functions, each to a file of its own. And what happens to a file when several
 // programs write to it, or one is ended while it does.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <string>
-#include <vector>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/inifile.h"
-#include "host/rtl/strings.h"
-#include "host/vcl/win32.h"
+#include "host/vcl/vcl.h"
 #include "tests/support/importpatch.h"
+#include "tests/support/program.h"
+#include "tests/support/texts.h"
+#include "tests/vcl/iniwriter.h"
 
 namespace {
 
@@ -59,7 +57,7 @@ std::string SystemsValue(const std::string& file, const char* section, const cha
 
 std::string Joined(const vcl::TStrings& list) {
   std::string text;
-  for (int i = 0; i < list.Count(); ++i) text += list.Strings(i) + '\0';
+  for (const std::string& line : Lines(list)) text += line + '\0';
   return text;
 }
 
@@ -147,9 +145,7 @@ TEST(IniFileAndSystem, ReadTheSame) {
 }
 
 TEST(IniFileAndSystem, LeaveFilesThatSayTheSame) {
-  struct {
-    const char *Section, *Ident, *Value;
-  } const changes[] = {
+  const std::tuple<const char*, const char*, const char*> changes[] = {
       {"One", "a", "new"},        {"ONE", "B", "\"q\""},    {"one", "new", "x y"},
       {"New", "n", "1"},          {"three", "y", ""},       {"Two", "f", "v"},
       {"", "lost", "found"},      {"", "none", "2"},        {"One", "f", "v"},
@@ -231,61 +227,28 @@ TEST(IniFile, ChangesThatTheSystemRefusesLeaveTheFile) {
   EXPECT_EQ(ini.ReadString("S", "a", ""), "1");
 }
 
-// These two are what other programs do; the tests below start them.
+using testing_support::TProgram;
 
-constexpr int Entries = 60;
-
-std::string Argument() {
-  char text[64] = "";
-  ::GetEnvironmentVariableA("QEL_TEST_WRITER", text, sizeof text);
-  return text;
-}
-
-TEST(DISABLED_IniFileWriter, WritesItsEntries) {
-  TIniFile ini((Folder / "shared.ini").string());
-  for (int i = 0; i < Entries; ++i) {
-    ini.WriteInteger("Section " + std::to_string(i % 3), Argument() + std::to_string(i), i);
-  }
-}
-
-TEST(DISABLED_IniFileWriter, WritesUntilItIsEnded) {
-  TIniFile ini((Folder / "shared.ini").string());
-  for (int i = 1;; ++i) ini.WriteInteger("S", "last", i);
-}
-
-HANDLE Start(const char* role, const char* argument) {
-  char self[MAX_PATH];
-  ::GetModuleFileNameA(nullptr, self, MAX_PATH);
-  ::SetEnvironmentVariableA("QEL_TEST_WRITER", argument);
-  std::string command = "\"" + std::string(self) + "\" --gtest_also_run_disabled_tests " +
-                        "--gtest_brief=1 --gtest_filter=DISABLED_IniFileWriter." + role;
-  STARTUPINFOA startup{};
-  startup.cb = sizeof startup;
-  PROCESS_INFORMATION process{};
-  if (!::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &startup, &process))
-    return nullptr;
-  ::CloseHandle(process.hThread);
-  return process.hProcess;
+/// Another program that writes to the file: see writer::Run.
+std::unique_ptr<TProgram> StartWriter(const std::string& file, const std::string& name) {
+  return std::make_unique<TProgram>(L"test_vcl",
+                                    vcl::ToUtf16("--ini-writer \"" + file + "\" \"" + name + "\""));
 }
 
 TEST(IniFile, WritersOfDifferentEntriesLoseNothing) {
   const TFile file("shared.ini", "; kept\r\n[Section 1]\r\nfirst=1\r\n");
   constexpr const char* writers[] = {"a", "b", "c", "d"};
-  std::vector<HANDLE> running;
-  for (const char* each : writers) running.push_back(Start("WritesItsEntries", each));
+  std::vector<std::unique_ptr<TProgram>> running;
+  for (const char* each : writers) running.push_back(StartWriter(file.Name(), each));
   const TIniFile ini(file.Name());
-  for (const HANDLE process : running) {
+  for (const auto& program : running) {
     // Readers in between see a whole file, and do not stop the writers.
-    while (::WaitForSingleObject(process, 1) == WAIT_TIMEOUT) {
+    while (program->ExitCode(1) == STILL_ACTIVE) {
       ASSERT_EQ(ini.ReadInteger("Section 1", "first", 0), 1);
     }
-    DWORD code = 1;
-    ::GetExitCodeProcess(process, &code);
-    EXPECT_EQ(code, 0u);
-    ::CloseHandle(process);
+    EXPECT_EQ(program->ExitCode(), 0u);
   }
-  for (int i = 0; i < Entries; ++i) {
+  for (int i = 0; i < writer::Entries; ++i) {
     for (const std::string each : writers) {
       EXPECT_EQ(ini.ReadInteger("Section " + std::to_string(i % 3), each + std::to_string(i), -1),
                 i)
@@ -302,13 +265,12 @@ TEST(IniFile, AWriterThatIsEndedLeavesAWholeFile) {
   TIniFile ini(file.Name());
   for (int round = 0; round < 6; ++round) {
     ini.WriteInteger("S", "last", 0);  // In one's turn at once, though the other ended in its own.
-    const HANDLE process = Start("WritesUntilItIsEnded", "");
+    const auto program = StartWriter(file.Name(), "");
     const ULONGLONG end = ::GetTickCount64() + 20000;
     while (ini.ReadInteger("S", "last", -1) <= 0 && ::GetTickCount64() < end) ::Sleep(1);
     ::Sleep(static_cast<DWORD>(round * 3));
-    ::TerminateProcess(process, 1);
-    ::WaitForSingleObject(process, 10000);
-    ::CloseHandle(process);
+    program->End();
+    program->ExitCode();
     const std::string text = file.Text();
     EXPECT_GT(ini.ReadInteger("S", "last", -1), 0);
     ASSERT_TRUE(text.starts_with("[S]\r\nlast=") && text.ends_with("\r\n" + rest)) << round;

@@ -1,7 +1,6 @@
 // List boxes and combo boxes: items, selection, keys, drawing.
-#include "tests/vcl/standardform.h"
-
 #include "host/vcl/windowtext.h"
+#include "tests/vcl/standardform.h"
 
 namespace vcl {
 namespace {

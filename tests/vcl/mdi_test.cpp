@@ -1,11 +1,6 @@
 // Forms inside the main form: where they stand, which one is in front, how they go.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include "host/rtl/exceptions.h"
-#include "host/vcl/application.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/panel.h"
-#include "host/vcl/stdctrls.h"
 #include "tests/vcl/testinput.h"
 
 namespace {

@@ -1,12 +1,6 @@
 // Menus: items and their handles, shortcuts, choosing by mouse, key and command.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include <string>
-#include <vector>
-
-#include "host/rtl/exceptions.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/menus.h"
 #include "tests/support/importpatch.h"
 #include "tests/vcl/testinput.h"
 
@@ -42,11 +36,7 @@ class Menus : public ::testing::Test {
 };
 
 TEST(ShortCuts, TextsGoBothWays) {
-  struct {
-    std::uint16_t Key;
-    TShiftState Shift;
-    const char* Text;
-  } const cases[] = {
+  const std::tuple<std::uint16_t, TShiftState, const char*> cases[] = {
       {'S', {ssCtrl}, "Ctrl+S"},
       {'Z', {ssCtrl, ssShift}, "Ctrl+Shift+Z"},
       {VK_F4, {ssAlt}, "Alt+F4"},
@@ -162,20 +152,6 @@ TEST_F(OnAForm, AKeyChoosesFromAPopup) {
       << "a submenu opens with a click";
   EXPECT_EQ(chosen({VK_ESCAPE}), TLog{});
   EXPECT_EQ(popups, 3);
-}
-
-TEST_F(OnAForm, ARightClickBringsThePopupUp) {
-  Add("Only");
-  MoveMouse(MiddleOf(&Form));
-  bool up = false;
-  Menu.OnPopup = [&](TObject*) {
-    up = true;
-    EXPECT_EQ(Menu.PopupComponent(), &Form);
-    Keys({VK_DOWN, VK_RETURN});
-  };
-  RightDown();
-  RightUp();
-  EXPECT_TRUE(PumpUntil([&] { return up && !Clicked.empty(); }));
 }
 
 TLog Calls;

@@ -1,11 +1,8 @@
 // Page controls, panels, track bars, timers, and all standard controls in a form file.
-#include "tests/vcl/standardform.h"
-
-#include "host/rtl/formfile.h"
-#include "host/rtl/streams.h"
-#include "host/vcl/bitmap.h"
 #include "host/vcl/standardcontrols.h"
 #include "host/vcl/windowtext.h"
+#include "tests/support/texts.h"
+#include "tests/vcl/standardform.h"
 
 namespace vcl {
 namespace {
@@ -208,7 +205,7 @@ TEST_F(Pages, ATimerTicksUntilItIsStoppedOrFreed) {
   EXPECT_EQ(others, 1);
 }
 
-constexpr const char* FormText = R"(object Form1: TForm Width = 400 Height = 300
+constexpr const char* StandardForm = R"(object Form1: TForm Width = 400 Height = 300
   object PageControl1: TPageControl
     Left = 8 Top = 8 Width = 380 Height = 200 ActivePage = TabSheet2
     object TabSheet1: TTabSheet Caption = 'First'
@@ -233,24 +230,16 @@ end
 
 class TReadForm : public TForm {
  public:
-  explicit TReadForm(const std::string& text) : TForm(nullptr) {
-    TStringStream stream(text);
-    ReadComponentFile(stream, this);
-  }
+  explicit TReadForm(const std::string& text) : TForm(nullptr) { ReadForm(text, this); }
   template <class T>
   T* Get(const char* name) {
     return dynamic_cast<T*>(FindComponent(name));
-  }
-  std::string Written() {
-    TStringStream text;
-    WriteComponentText(text, this);
-    return text.DataString();
   }
 };
 
 TEST_F(Pages, AFormFileHoldsTheStandardControls) {
   RegisterStandardControls();
-  TReadForm form(FormText);
+  TReadForm form(StandardForm);
   auto* pages = form.Get<TPageControl>("PageControl1");
   ASSERT_NE(pages, nullptr);
   EXPECT_EQ(pages->PageCount(), 2);
@@ -264,7 +253,8 @@ TEST_F(Pages, AFormFileHoldsTheStandardControls) {
   EXPECT_EQ(form.Get<TEdit>("Edit1")->Text(), "secret");
   EXPECT_EQ(form.Get<TLabel>("Label1")->FocusControl(), form.Get<TEdit>("Edit1"));
 
-  EXPECT_EQ(TReadForm(form.Written()).Written(), form.Written());
+  TReadForm again(FormText(&form));
+  EXPECT_EQ(FormText(&again), FormText(&form));
   form.Show();
   testinput::Pump();
   EXPECT_TRUE(::IsWindowVisible(form.Get<TMemo>("Memo1")->Handle()));

@@ -1,13 +1,8 @@
 // The real registry, under a key of the test's own.
+#include <gmock/gmock.h>
+
 #include "host/rtl/registry.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
-
-#include "host/rtl/exceptions.h"
-#include "host/rtl/strings.h"
-#include "host/vcl/win32.h"
+#include "host/vcl/vcl.h"
 #include "tests/support/importpatch.h"
 
 namespace {
@@ -66,18 +61,14 @@ TEST_F(Registry, ValuesHaveTypes) {
   EXPECT_EQ(registry.ReadInteger("i"), -3);
   EXPECT_EQ(registry.ReadFloat("f"), 0.5);
   EXPECT_TRUE(registry.ReadBool("b"));
-  const struct {
-    const char* Name;
-    vcl::TRegDataType Type;
-    int Size;
-  } types[] = {{"s", vcl::rdString, 10002},
-               {"e", vcl::rdExpandString, 14},
-               {"i", vcl::rdInteger, 4},
-               {"f", vcl::rdBinary, 8},
-               {"missing", vcl::rdUnknown, -1}};
-  for (const auto& each : types) {
-    EXPECT_EQ(registry.GetDataType(each.Name), each.Type) << each.Name;
-    EXPECT_EQ(registry.GetDataSize(each.Name), each.Size) << each.Name;
+  const std::tuple<const char*, vcl::TRegDataType, int> types[] = {{"s", vcl::rdString, 10002},
+                                                                   {"e", vcl::rdExpandString, 14},
+                                                                   {"i", vcl::rdInteger, 4},
+                                                                   {"f", vcl::rdBinary, 8},
+                                                                   {"missing", vcl::rdUnknown, -1}};
+  for (const auto& [name, type, size] : types) {
+    EXPECT_EQ(registry.GetDataType(name), type) << name;
+    EXPECT_EQ(registry.GetDataSize(name), size) << name;
   }
   char small[4];
   EXPECT_THROW(registry.ReadBinaryData("f", small, sizeof small), ERegistryException);

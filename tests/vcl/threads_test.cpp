@@ -1,13 +1,8 @@
 // Threads' calls reach the main thread in every message loop.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <atomic>
-#include <functional>
-#include <memory>
 
-#include "host/rtl/thread.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/menus.h"
 #include "tests/vcl/testinput.h"
 
 namespace vcl {
@@ -56,37 +51,29 @@ class ThreadCalls : public ::testing::Test {
   TForm Form;
 };
 
-TEST_F(ThreadCalls, ComeWhileAFormIsModal) {
+TEST_F(ThreadCalls, ComeInsideEveryMessageLoop) {
   TForm modal(nullptr);
-  EXPECT_GE(CallsInside([&] { modal.ShowModal(); }, [&] { modal.SetModalResult(mrOk); }), 5);
-}
-
-TEST_F(ThreadCalls, ComeWhileABoxIsUp) {
-  EXPECT_GE(CallsInside([] { Application()->MessageBox("text", "calls", 0); },
-                        [] { ::PostMessageW(::FindWindowA("#32770", "calls"), WM_CLOSE, 0, 0); }),
-            5);
-}
-
-TEST_F(ThreadCalls, ComeWhileAMenuIsOpen) {
   TPopupMenu menu(nullptr);
   auto* item = new TMenuItem(nullptr);
   item->SetCaption("An item");
   menu.Items()->Add(item);
-  EXPECT_GE(CallsInside([&] { menu.Popup(220, 220); }, [] { ::EndMenu(); }), 5);
-}
-
-TEST_F(ThreadCalls, ComeWhileAWindowIsMoved) {
   bool moving = false;
-  const int calls = CallsInside([&] { ::SendMessageW(Form.Handle(), WM_SYSCOMMAND, SC_MOVE, 0); },
-                                [&] {
-                                  GUITHREADINFO info{};
-                                  info.cbSize = sizeof info;
-                                  ::GetGUIThreadInfo(::GetCurrentThreadId(), &info);
-                                  moving = info.flags & GUI_INMOVESIZE;
-                                  SendKey(VK_ESCAPE, true);
-                                  SendKey(VK_ESCAPE, false);
-                                });
-  EXPECT_GE(calls, 5);
+  const std::tuple<const char*, std::function<void()>, std::function<void()>> loops[] = {
+      {"a modal form", [&] { modal.ShowModal(); }, [&] { modal.SetModalResult(mrOk); }},
+      {"a box", [] { Application()->MessageBox("text", "calls", 0); },
+       [] { ::PostMessageW(::FindWindowA("#32770", "calls"), WM_CLOSE, 0, 0); }},
+      {"a menu", [&] { menu.Popup(220, 220); }, [] { ::EndMenu(); }},
+      {"a window that is moved", [&] { ::SendMessageW(Form.Handle(), WM_SYSCOMMAND, SC_MOVE, 0); },
+       [&] {
+         GUITHREADINFO info{};
+         info.cbSize = sizeof info;
+         ::GetGUIThreadInfo(::GetCurrentThreadId(), &info);
+         moving = info.flags & GUI_INMOVESIZE;
+         SendKey(VK_ESCAPE, true);
+         SendKey(VK_ESCAPE, false);
+       }},
+  };
+  for (const auto& [name, loop, end] : loops) EXPECT_GE(CallsInside(loop, end), 5) << name;
   EXPECT_TRUE(moving);
 }
 

@@ -1,11 +1,7 @@
 // Tree views: nodes with and without a window, selection, expanding, sorting, editing, form files.
-#include "tests/vcl/standardform.h"
-
-#include "host/rtl/formfile.h"
-#include "host/rtl/streams.h"
-#include "host/vcl/menus.h"
-#include "host/vcl/treeview.h"
 #include "host/vcl/windowtext.h"
+#include "tests/support/texts.h"
+#include "tests/vcl/standardform.h"
 
 namespace vcl {
 namespace {
@@ -254,16 +250,12 @@ TEST_F(Trees, FormFilesKeepNodesAndPicturesAreFollowed) {
   delete images;
   EXPECT_EQ(handle(), 0);
   EXPECT_EQ(Tree->Images(), nullptr);
-  TMemoryStream file;
-  WriteComponentBinary(file, Tree);
-  file.SetPosition(0);
-  TTreeView other(nullptr);
-  TTreeView* copy = &other;
-  ReadComponentFile(file, copy);
-  EXPECT_EQ(copy->Items()->Count(), 5);
-  EXPECT_EQ(copy->Items()->Item(4)->Text(), "größer");
-  EXPECT_EQ(copy->Items()->Item(3)->Level(), 2);
-  EXPECT_EQ(copy->Items()->Item(0)->ImageIndex(), 3);
+  TTreeView copy(nullptr);
+  ReadForm(FormText(Tree), &copy);
+  EXPECT_EQ(copy.Items()->Count(), 5);
+  EXPECT_EQ(copy.Items()->Item(4)->Text(), "größer");
+  EXPECT_EQ(copy.Items()->Item(3)->Level(), 2);
+  EXPECT_EQ(copy.Items()->Item(0)->ImageIndex(), 3);
 }
 
 }  // namespace
