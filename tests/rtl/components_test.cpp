@@ -1,6 +1,5 @@
 // Property tables, and components: ownership, names, notification, watches.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "tests/rtl/samples.h"
 
@@ -119,25 +118,6 @@ TEST(PropertyTables, RefuseValuesOfOtherSorts) {
   set("Shapes", std::int64_t{6});
   EXPECT_EQ(part.Shapes(), (TSet{shSquare, shStar}));
 }
-
-// clang-format off
-TEST(PropertyTables, NameKindsAndTypes) {
-  const char* const cases[][3] = {
-      {"Count", "integer", "Integer"}, {"Active", "boolean", "Boolean"},
-      {"Ratio", "float", "Double"},    {"Caption", "string", "TCaption"},
-      {"Mask", "char", "Char"},        {"Shape", "enumeration", "TShape"},
-      {"Shapes", "set", "TShapes"},    {"Code", "integer", "TCode"},
-      {"Color", "color", "TColor"},    {"Big", "integer", "Int64"},
-      {"Link", "component", "TPart"},  {"Style", "class", "TStyle"},
-      {"OnClick", "event", "TNotifyEvent"}, {"Items", "collection", "TCollection"}};
-  for (const auto& [name, kind, type] : cases) {
-    const TPropInfo* prop = TPart::Class().FindPublished(name);
-    ASSERT_NE(prop, nullptr) << name;
-    EXPECT_EQ(KindName(prop->Kind()), kind) << name;
-    EXPECT_EQ(prop->TypeName(), type) << name;
-  }
-}
-// clang-format on
 
 TEST(ClassRegistry, FindsByNameAndRefusesSecondOnes) {
   RegisterClass(TBase::Class());

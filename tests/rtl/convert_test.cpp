@@ -1,6 +1,5 @@
 // Numbers, booleans and colours as texts.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
@@ -31,23 +30,17 @@ TEST(Convert, ReadsIntegers) {
 }
 // clang-format on
 
-template <class Convert>
-std::string ConvertError(const Convert& convert) {
-  try {
-    convert();
-  } catch (const EConvertError& error) {
-    return error.what();
-  }
-  return {};
-}
-
 TEST(Convert, NamesWhatIsNoValue) {
-  EXPECT_EQ(ConvertError([] { StrToInt("abc"); }), "'abc' is not a valid integer value");
-  EXPECT_EQ(ConvertError([] { StrToInt64("9223372036854775808"); }),
-            "'9223372036854775808' is not a valid integer value");
-  EXPECT_EQ(ConvertError([] { StrToFloat("1,5"); }), "'1,5' is not a valid floating point value");
-  EXPECT_EQ(ConvertError([] { StrToBool("maybe"); }), "'maybe' is not a valid boolean value");
-  EXPECT_EQ(ConvertError([] { StringToColor("clPlaid"); }), "'clPlaid' is not a valid colour");
+  const std::pair<std::function<void()>, const char*> cases[] = {
+      {[] { StrToInt("abc"); }, "'abc' is not a valid integer value"},
+      {[] { StrToInt64("9223372036854775808"); },
+       "'9223372036854775808' is not a valid integer value"},
+      {[] { StrToFloat("1,5"); }, "'1,5' is not a valid floating point value"},
+      {[] { StrToBool("maybe"); }, "'maybe' is not a valid boolean value"},
+      {[] { StringToColor("clPlaid"); }, "'clPlaid' is not a valid colour"}};
+  for (const auto& [convert, message] : cases) {
+    EXPECT_THAT(convert, testing::ThrowsMessage<EConvertError>(message));
+  }
 }
 
 TEST(Convert, GivesFloatsBack) {

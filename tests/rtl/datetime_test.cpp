@@ -1,5 +1,5 @@
 // Dates and times: their parts, their texts, and the formats of the system.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cmath>
 #include <ctime>
@@ -138,10 +138,7 @@ TEST(DateTime, IsFormatted) {
   settings.LongTimeFormat = "hh:nn:ss";
   settings.TimePMString = "nachm.";
   const TDateTime value = EncodeDate(2003, 4, 5) + EncodeTime(15, 6, 7, 8);
-  const struct {
-    const char* Format;
-    const char* Text;
-  } cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"d dd ddd dddd", "5 05 Sat Saturday"},
       {"m mm mmm mmmm", "4 04 Apr April"},
       {"yy yyyy YyY", "03 2003 2003"},
@@ -158,8 +155,8 @@ TEST(DateTime, IsFormatted) {
       {"d'", "5"},
       {"x, (1)-\xC3\xA4", "x, (1)-\xC3\xA4"},
   };
-  for (const auto& each : cases) {
-    EXPECT_EQ(FormatDateTime(each.Format, value, settings), each.Text) << each.Format;
+  for (const auto& [format, text] : cases) {
+    EXPECT_EQ(FormatDateTime(format, value, settings), text) << format;
   }
   EXPECT_EQ(FormatDateTime("c h am/pm", std::floor(value), settings), "5. 4. 03 12 am");
   EXPECT_EQ(FormatDateTime("yyyy-mm-dd", -693593), "0001-01-01");
@@ -178,11 +175,7 @@ int YearOf(TDateTime value) {
 
 TEST(DateTime, ReadsDates) {
   const int thisYear = YearOf(Date());
-  const struct {
-    const char* Format;
-    const char* Text;
-    TDay Day;
-  } cases[] = {
+  const std::tuple<const char*, const char*, TDay> cases[] = {
       {"m/d/y", "2/3/2004", {2004, 2, 3}},     {"d/m/y", "2/3/2004", {2004, 3, 2}},
       {"y/m/d", "2004/3/2", {2004, 3, 2}},     {"d/m/y", " 02 / 03 / 2004 ", {2004, 3, 2}},
       {"m/d/y", "2/3", {thisYear, 2, 3}},      {"d/m/y", "2/3", {thisYear, 3, 2}},
@@ -190,11 +183,9 @@ TEST(DateTime, ReadsDates) {
       {"m/d/y", "12/31/9999", {9999, 12, 31}}, {"m/d/y", "1/1/100", {100, 1, 1}},
   };
   TFormatSettings settings;
-  for (const auto& each : cases) {
-    settings.ShortDateFormat = each.Format;
-    EXPECT_EQ(StrToDate(each.Text, settings),
-              EncodeDate(each.Day.Year, each.Day.Month, each.Day.Day))
-        << each.Text;
+  for (const auto& [format, text, day] : cases) {
+    settings.ShortDateFormat = format;
+    EXPECT_EQ(StrToDate(text, settings), EncodeDate(day.Year, day.Month, day.Day)) << text;
   }
 }
 
@@ -215,10 +206,7 @@ TEST(DateTime, TakesYearsOfTwoDigitsFromAWindow) {
 
 TEST(DateTime, ReadsTimes) {
   const TDateTime day = EncodeDate(2004, 2, 3);
-  const struct {
-    const char* Text;
-    TDateTime Time;
-  } cases[] = {
+  const std::pair<const char*, TDateTime> cases[] = {
       {"7", EncodeTime(7, 0, 0, 0)},
       {"07:08", EncodeTime(7, 8, 0, 0)},
       {" 7 : 8 : 9 ", EncodeTime(7, 8, 9, 0)},
@@ -229,50 +217,53 @@ TEST(DateTime, ReadsTimes) {
       {"23:59:59", EncodeTime(23, 59, 59, 0)},
   };
   const TFormatSettings settings;
-  for (const auto& each : cases) {
-    EXPECT_EQ(StrToTime(each.Text, settings), each.Time) << each.Text;
-    EXPECT_EQ(StrToDateTime("2/3/2004 " + std::string(each.Text), settings), day + each.Time)
-        << each.Text;
+  for (const auto& [text, time] : cases) {
+    EXPECT_EQ(StrToTime(text, settings), time) << text;
+    EXPECT_EQ(StrToDateTime("2/3/2004 " + std::string(text), settings), day + time) << text;
   }
   EXPECT_EQ(StrToDateTime("2/3/2004", settings), day);
   EXPECT_EQ(StrToDateTime("12/29/1899 6:00", settings), -1.25);
 }
 
 TEST(DateTime, RefusesTextsThatAreNone) {
+  const char* const dates[] = {"",
+                               " ",
+                               "1",
+                               "1/",
+                               "/1",
+                               "1/1/",
+                               "1/1/2000/",
+                               "1/1/2000x",
+                               "1-1-2000",
+                               "13/1/2000",
+                               "2/30/2000",
+                               "2/29/2001",
+                               "0/1/2000",
+                               "1/0/2000",
+                               "-1/1/2000",
+                               "1/1/-1",
+                               "1/1/20000",
+                               "00001/1/2000",
+                               "1//2000",
+                               "1/1/2000 12:00",
+                               "99999999999/1/1",
+                               "Jan/1/2000",
+                               "1.1.2000"};
+  const char* const times[] = {
+      "",           "x",    "24",    "1:60", "1:1:60",  "1:",    "1:1:",  "1:1:1.",
+      "1:1:1.1000", "0 am", "13 pm", "am",   "1 am pm", "1:1 x", "-1:00", "1:1:1:1"};
+  const char* const both[] = {"1/1/2000 x", "1/1/200012:00", "12:00 1/1/2000", "1/1/2000 24:00"};
   TFormatSettings settings;
   TDateTime value = 5;
-  for (const char* text : {"",
-                           " ",
-                           "1",
-                           "1/",
-                           "/1",
-                           "1/1/",
-                           "1/1/2000/",
-                           "1/1/2000x",
-                           "1-1-2000",
-                           "13/1/2000",
-                           "2/30/2000",
-                           "2/29/2001",
-                           "0/1/2000",
-                           "1/0/2000",
-                           "-1/1/2000",
-                           "1/1/-1",
-                           "1/1/20000",
-                           "00001/1/2000",
-                           "1//2000",
-                           "1/1/2000 12:00",
-                           "99999999999/1/1",
-                           "Jan/1/2000",
-                           "1.1.2000"}) {
+  for (const char* text : dates) {
     EXPECT_FALSE(TryStrToDate(text, value, settings)) << text;
     EXPECT_THROW(StrToDate(text, settings), EConvertError) << text;
   }
-  for (const char* text : {"", "x", "24", "1:60", "1:1:60", "1:", "1:1:", "1:1:1.", "1:1:1.1000",
-                           "0 am", "13 pm", "am", "1 am pm", "1:1 x", "-1:00", "1:1:1:1"}) {
+  for (const char* text : times) {
     EXPECT_FALSE(TryStrToTime(text, value, settings)) << text;
     EXPECT_THROW(StrToTime(text, settings), EConvertError) << text;
   }
-  for (const char* text : {"1/1/2000 x", "1/1/200012:00", "12:00 1/1/2000", "1/1/2000 24:00"}) {
+  for (const char* text : both) {
     EXPECT_FALSE(TryStrToDateTime(text, value, settings)) << text;
     EXPECT_THROW(StrToDateTime(text, settings), EConvertError) << text;
   }

@@ -1,17 +1,12 @@
 // Settings files: what is kept when a line is changed, what is refused, encodings, many writers.
-#include "host/rtl/inifile.h"
-
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <string>
 #include <thread>
-#include <vector>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/strings.h"
+#include "host/rtl/classes.h"
 
 namespace {
 
@@ -33,9 +28,7 @@ class IniFile : public testing::Test {
 };
 
 TEST_F(IniFile, OtherLinesStayToTheByte) {
-  const struct {
-    const char *Before, *Section, *Ident, *Value, *After;
-  } cases[] = {
+  const char* const cases[][5] = {
       {"", "S", "k", "v", "[S]\r\nk=v\r\n"},
       {"; c\n\n[ s ] x\n\t Key =  old  \n\xFF\xFE=raw\n", "S", "key", "new",
        "; c\n\n[ s ] x\n\t Key=new\n\xFF\xFE=raw\n"},
@@ -48,17 +41,17 @@ TEST_F(IniFile, OtherLinesStayToTheByte) {
       {"[S]\n[s]\na=1", "S", "a", nullptr, "[S]\n[s]\n"},
       {"[A]\n\n[S]\n;c\na=1\n\n[B]\n", "s", nullptr, nullptr, "[A]\n\n[B]\n"},
   };
-  for (const auto& each : cases) {
-    Put(each.Before);
+  for (const auto& [before, section, ident, value, after] : cases) {
+    Put(before);
     TIniFile ini(Name());
-    if (each.Value) {
-      ini.WriteString(each.Section, each.Ident, each.Value);
-    } else if (each.Ident) {
-      ini.DeleteKey(each.Section, each.Ident);
+    if (value) {
+      ini.WriteString(section, ident, value);
+    } else if (ident) {
+      ini.DeleteKey(section, ident);
     } else {
-      ini.EraseSection(each.Section);
+      ini.EraseSection(section);
     }
-    EXPECT_EQ(Text(), each.After) << each.Before;
+    EXPECT_EQ(Text(), after) << before;
   }
 }
 

@@ -1,6 +1,6 @@
-#include "tests/rtl/samples.h"
+#include <gmock/gmock.h>
 
-#include <gtest/gtest.h>
+#include "tests/rtl/samples.h"
 
 using namespace vcl;
 
@@ -161,17 +161,6 @@ TSampleTest::~TSampleTest() {
   for (const TClass* each : {&TPart::Class(), &TOther::Class(), &TSampleForm::Class()}) {
     UnRegisterClass(*each);
   }
-}
-
-TComponent* Load(const std::string& form, TComponent* root) {
-  TStringStream stream(form);
-  return ReadComponentFile(stream, root);
-}
-
-std::string ToText(TComponent& root) {
-  TStringStream stream;
-  WriteComponentText(stream, &root);
-  return stream.DataString();
 }
 
 std::string ToBinary(TComponent& root) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/rtl/classes.h"
+#include "tests/support/texts.h"
 
 namespace samples {
 
@@ -178,9 +178,6 @@ class TSampleTest {
   ~TSampleTest();
 };
 
-/// Reads a text or binary form into the root, or makes one.
-vcl::TComponent* Load(const std::string& form, vcl::TComponent* root = nullptr);
-std::string ToText(vcl::TComponent& root);
 std::string ToBinary(vcl::TComponent& root);
 std::string TextToBinary(const std::string& text);
 std::string BinaryToText(const std::string& binary);

@@ -1,6 +1,5 @@
 // Streams in memory and in files, and the application without windows.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <filesystem>
 
@@ -111,22 +110,16 @@ TEST(Streams, KeepContentsWhenLoadingFails) {
 }
 
 TEST(Streams, SayWhichFileAndWhy) {
-  const auto failed = [](const std::string& name, int mode) -> std::string {
-    try {
-      TFileStream stream(name, mode);
-    } catch (const EFCreateError& error) {
-      return mode == fmCreate ? error.what() : "";
-    } catch (const EFOpenError& error) {
-      return mode == fmCreate ? "" : error.what();
-    }
-    return {};
-  };
-  EXPECT_THAT(failed("missing \xC3\xA4.tmp", fmOpenRead),
-              testing::MatchesRegex("Cannot open file \"missing \xC3\xA4.tmp\": ..+"));
-  EXPECT_THAT(failed("no such folder/x", fmCreate),
-              testing::MatchesRegex("Cannot create file \"no such folder/x\": ..+"));
-  EXPECT_THAT(failed(".", fmOpenRead), HasSubstr("\".\""));
-  EXPECT_THAT(failed("", fmOpenRead), HasSubstr("\"\""));
+  const auto open = [](const char* name) { return [=] { TFileStream(name, fmOpenRead); }; };
+  const auto create = [](const char* name) { return [=] { TFileStream(name, fmCreate); }; };
+  EXPECT_THAT(open("missing \xC3\xA4.tmp"),
+              testing::ThrowsMessage<EFOpenError>(
+                  testing::MatchesRegex("Cannot open file \"missing \xC3\xA4.tmp\": ..+")));
+  EXPECT_THAT(create("no such folder/x"),
+              testing::ThrowsMessage<EFCreateError>(
+                  testing::MatchesRegex("Cannot create file \"no such folder/x\": ..+")));
+  EXPECT_THAT(open("."), testing::ThrowsMessage<EFOpenError>(HasSubstr("\".\"")));
+  EXPECT_THAT(open(""), testing::ThrowsMessage<EFOpenError>(HasSubstr("\"\"")));
 }
 
 TEST(Application, StandsInUntilThereIsOne) {

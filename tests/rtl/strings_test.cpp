@@ -1,19 +1,12 @@
 // String lists, and texts in general.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "host/rtl/classes.h"
+#include "tests/support/texts.h"
 
 using namespace vcl;
 using testing::ElementsAre;
 
 namespace {
-
-std::vector<std::string> Lines(const TStrings& list) {
-  std::vector<std::string> lines;
-  for (int i = 0; i < list.Count(); ++i) lines.push_back(list.Strings(i));
-  return lines;
-}
 
 TEST(Strings, SplitsAndJoinsTexts) {
   TStringList list;

@@ -1,16 +1,11 @@
 // Threads: their course, what they ask of the main thread, how they rest and end.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <atomic>
 #include <chrono>
-#include <functional>
-#include <memory>
-#include <string>
 #include <thread>
-#include <vector>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/thread.h"
+#include "host/rtl/classes.h"
 
 using namespace vcl;
 using std::chrono::milliseconds;
@@ -45,10 +40,6 @@ bool RunUntil(const std::function<bool()>& condition, milliseconds patience = mi
     CheckSynchronize(1);
   }
   return true;
-}
-
-void RunFor(milliseconds time) {
-  RunUntil([] { return false; }, time);
 }
 
 TEST(Thread, IsSuspendedUntilStartedAndWaitedFor) {
@@ -122,45 +113,6 @@ TEST(Thread, OnlyTheMainThreadRunsCalls) {
   thread.Start();
   thread.WaitFor();
   EXPECT_EQ(thread.FatalException(), nullptr);
-}
-
-TEST(Thread, ASleepThatIsInterruptedGoesOnWithItsRest) {
-  std::atomic<bool> begun = false, over = false;
-  TWorker thread([&](TWorker& self) {
-    begun = true;
-    EXPECT_TRUE(self.Sleep(milliseconds(300)));
-    over = true;
-  });
-  thread.Start();
-  ASSERT_TRUE(RunUntil([&] { return begun.load(); }));
-  RunFor(milliseconds(150));
-  thread.Suspend();
-  RunFor(milliseconds(400));
-  EXPECT_FALSE(over);
-  const auto resumed = TClock::now();
-  thread.Resume();
-  thread.WaitFor();
-  const auto rest = TClock::now() - resumed;
-  EXPECT_GE(rest, milliseconds(50));
-  EXPECT_LT(rest, milliseconds(280));
-}
-
-TEST(Thread, ASuspendedThreadsCallWaitsWithIt) {
-  std::atomic<bool> asks = false;
-  int calls = 0;
-  TWorker thread([&](TWorker& self) {
-    asks = true;
-    self.Synchronize([&] { ++calls; });
-  });
-  thread.Start();
-  while (!asks) std::this_thread::sleep_for(milliseconds(1));
-  std::this_thread::sleep_for(milliseconds(20));
-  thread.Suspend();
-  EXPECT_FALSE(CheckSynchronize(20));
-  EXPECT_EQ(calls, 0);
-  thread.Resume();
-  thread.WaitFor();
-  EXPECT_EQ(calls, 1);
 }
 
 TEST(Thread, SuspendsItselfAndIsEndedWhileItRests) {
@@ -268,23 +220,6 @@ TEST(Thread, ACallThatFreesTheAwaitedThreadEndsTheWait) {
   thread->Start();
   thread->WaitFor();
   EXPECT_EQ(thread, nullptr);
-}
-
-TEST(Thread, ItsPriorityIsTheSystems) {
-  std::atomic<bool> go = false;
-  std::thread::id id;
-  TWorker thread([&](TWorker& self) {
-    while (!go) self.Sleep(milliseconds(1));
-  });
-  thread.SetPriority(tpLower);
-  EXPECT_EQ(thread.Priority(), tpLower);
-  thread.Start();
-  EXPECT_TRUE(RunUntil([&] { return thread.Priority() == tpLower; }));
-  thread.SetPriority(tpIdle);
-  EXPECT_EQ(thread.Priority(), tpIdle);
-  go = true;
-  thread.WaitFor();
-  EXPECT_EQ(thread.Priority(), tpIdle);
 }
 
 std::atomic<int> Wakes = 0;

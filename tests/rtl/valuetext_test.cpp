@@ -1,7 +1,6 @@
 // Values of properties as text, and back.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include "host/rtl/exceptions.h"
 #include "host/rtl/valuetext.h"
 #include "tests/rtl/samples.h"
 
