@@ -86,16 +86,6 @@ TEST_F(Gallery, AButtonLogsItsEventsAndShowsItsSettings) {
   EXPECT_EQ(Find<TComboBox>("ButtonSubjectBox")->Text(), "EventsButton");
 }
 
-TEST_F(Gallery, TheKeyboardReachesAButton) {
-  Click(Find("DropList"));
-  TypeKey(VK_TAB);
-  TypeKey(VK_SPACE);
-  TypeKey(VK_TAB);
-  ExpectLogged({"EventsButton.OnEnter", "EventsButton.OnKeyDown  32",
-                "EventsButton.OnKeyPress  ' '", "EventsButton.OnKeyUp  32", "EventsButton.OnClick",
-                "EventsButton.OnExit"});
-}
-
 TEST_F(Gallery, SettingsChangeTheButtonAtOnce) {
   auto* button = Find<TQELButton>("FourImageButton");
   Click(button);

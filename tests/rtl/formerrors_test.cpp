@@ -120,11 +120,10 @@ TEST_F(FormErrors, NameLineComponentAndProperty) {
     EXPECT_THAT(noClass ? LoadError<EClassNotFound>(text) : LoadError<EReadError>(text),
                 HasSubstr(each.Message));
   }
-}
-
-TEST_F(FormErrors, RefuseFieldsOfAnotherClass) {
   EXPECT_THAT(LoadError<EReadError>("object F: TSampleForm\n object Part1: TOther\n end end"),
               HasSubstr("Line 2: Part1: the field Part1 of TSampleForm takes no TOther"));
+  EXPECT_THAT(LoadError<EReadError>("object A: TPart end\nobject B: TPart end"),
+              HasSubstr("Line 2: A: more stands behind the root"));
 }
 
 TEST_F(FormErrors, NameTheLineOfAMalformedText) {
@@ -161,11 +160,6 @@ TEST_F(FormErrors, NameTheLineOfAMalformedText) {
   const std::string longName(256, 'a');
   EXPECT_THAT(LoadError<EParserError>("object A: TPart " + longName + " = 1 end"),
               HasSubstr("is too long"));
-}
-
-TEST_F(FormErrors, RefuseMoreThanOneRoot) {
-  EXPECT_THAT(LoadError<EReadError>("object A: TPart end\nobject B: TPart end"),
-              HasSubstr("Line 2: A: more stands behind the root"));
 }
 
 std::string Repeat(std::string_view text, int count) {

@@ -87,7 +87,7 @@ TEST_F(FormFile, IsReadAsItSays) {
   EXPECT_EQ(form->Style()->Blob.back(), '\x21');
   EXPECT_EQ(form->Lines()->Text(), "one\r\n\r\n\xC3\xA4\n\r\n");
   ASSERT_EQ(form->Items()->Count(), 2);
-  const auto* first = static_cast<TPartItem*>(form->Items()->Items(0));
+  auto* first = static_cast<TPartItem*>(form->Items()->Items(0));
   EXPECT_EQ(first->Title(), "first");
   EXPECT_EQ(first->Link(), part2);
   EXPECT_EQ(part1.Shapes(), (TSet{shRound, shStar}));
@@ -100,6 +100,13 @@ TEST_F(FormFile, IsReadAsItSays) {
   EXPECT_EQ(part2->Color(), clRed);
   EXPECT_EQ(part2->AnyLink(), form->Other1);
   EXPECT_FALSE(form->Loading());
+  form->Part1->OnClick(form->Part1);
+  EXPECT_EQ(form->Clicked, form->Part1);
+  first->OnPick(form.get());
+  EXPECT_EQ(form->Clicked, form.get());
+  int key = 5;
+  form->OnKey(nullptr, key);
+  EXPECT_EQ(key, -5);
   EXPECT_FALSE(part2->ComponentState().Has(csReading));
 }
 
@@ -110,17 +117,6 @@ TEST_F(FormFile, KnowsTheClassesOfTheRootsFields) {
   EXPECT_NE(form.Other1, nullptr);
   TPart other(nullptr);
   EXPECT_THROW(ReadForm("object P: TPart object Other1: TOther end end", &other), EClassNotFound);
-}
-
-TEST_F(FormFile, BindsHandlers) {
-  const auto form = LoadForm(Complete);
-  form->Part1->OnClick(form->Part1);
-  EXPECT_EQ(form->Clicked, form->Part1);
-  static_cast<TPartItem*>(form->Items()->Items(0))->OnPick(form.get());
-  EXPECT_EQ(form->Clicked, form.get());
-  int key = 5;
-  form->OnKey(nullptr, key);
-  EXPECT_EQ(key, -5);
 }
 
 TEST_F(FormFile, NamesHandlersOnlyWhileDesigning) {

@@ -29,12 +29,8 @@ TEST(ValueText, GoesBothWays) {
     EXPECT_EQ(ValueToText(type, value), text);
     EXPECT_EQ(TextToValue(type, text), value) << text;
   }
-}
-
-TEST(ValueText, NamesAreTakenWithoutCaseAndBlanks) {
   EXPECT_EQ(TextToValue(TypeInfoOf<TSet<TShape>>(), " [ SHSTAR ] "),
             TValue(std::int64_t{TSet{shStar}.Bits()}));
-  EXPECT_EQ(TextToValue(TypeInfoOf<TColor>(), "CLRED"), TValue(std::int64_t{clRed}));
 }
 
 TEST(ValueText, RefusesWhatIsNoValue) {

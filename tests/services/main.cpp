@@ -3,6 +3,7 @@
 
 #include <cstring>
 
+#include "host/vcl/vcl.h"
 #include "qel.h"
 #include "tests/support/texts.h"
 

@@ -6,25 +6,6 @@ namespace {
 
 class Buttons : public TStandardForm {};
 
-TEST_F(Buttons, AreClickedByMouseSpaceAndAccelerator) {
-  auto* button = Make<TButton>(10, 10);
-  button->SetCaption("&Go");
-  int clicks = 0;
-  button->OnClick = [&](TObject*) { ++clicks; };
-  ShowForm();
-  Click(*button);
-  EXPECT_EQ(clicks, 1);
-  EXPECT_TRUE(button->Focused());
-  Key(VK_SPACE);
-  EXPECT_EQ(clicks, 2);
-  KeyWith(VK_MENU, 'G');
-  EXPECT_EQ(clicks, 3);
-  button->SetEnabled(false);
-  KeyWith(VK_MENU, 'G');
-  Click(*button);
-  EXPECT_EQ(clicks, 3);
-}
-
 TEST_F(Buttons, EnterAndEscapeFindTheirs) {
   auto* edit = Make<TEdit>(10, 10);
   auto* ok = Make<TButton>(10, 50);
@@ -51,17 +32,6 @@ TEST_F(Buttons, EnterAndEscapeFindTheirs) {
   EXPECT_EQ(style(ok), BS_DEFPUSHBUTTON);
   Key(VK_RETURN);
   EXPECT_EQ(heard, "ok cancel other ok ");
-}
-
-TEST_F(Buttons, AHandlerMayFreeItsSender) {
-  auto* button = Make<TButton>(10, 10);
-  auto* box = Make<TCheckBox>(10, 50);
-  button->OnClick = [&](TObject*) { delete button; };
-  box->OnClick = [&](TObject*) { delete box; };
-  ShowForm();
-  Click(*button);
-  Click(*box);
-  EXPECT_EQ(Form.ControlCount(), 0);
 }
 
 TEST_F(Buttons, CheckBoxesGoThroughTheirStates) {

@@ -6,23 +6,6 @@ namespace {
 
 class Edits : public TStandardForm {};
 
-TEST_F(Edits, TypingChangesTheTextAndTellsOfIt) {
-  auto* edit = Make<TEdit>(10, 10);
-  std::string heard;
-  edit->OnChange = [&](TObject*) { heard += edit->Text() + ","; };
-  edit->OnKeyPress = [](TObject*, char32_t& key) {
-    if (key == U'x') key = 0;
-  };
-  ShowForm();
-  edit->SetFocus();
-  Type("axB");
-  EXPECT_EQ(edit->Text(), "aB");
-  EXPECT_EQ(heard, "a,aB,");
-  EXPECT_TRUE(edit->Modified());
-  edit->SetText("by code");
-  EXPECT_EQ(heard, "a,aB,by code,");
-}
-
 TEST_F(Edits, TypingKeepsToTheSettings) {
   auto* limited = Make<TEdit>(10, 10);
   limited->SetMaxLength(3);
@@ -76,21 +59,6 @@ TEST_F(Edits, StateOutlivesTheWindow) {
   EXPECT_EQ(edit->SelText(), "ell");
   EXPECT_TRUE(edit->Modified());
   EXPECT_TRUE(edit->Focused());
-}
-
-TEST_F(Edits, TheKeyboardsFocusSelectsAllAndAClickDoesNot) {
-  auto* first = Make<TEdit>(10, 10);
-  auto* second = Make<TEdit>(10, 40);
-  second->SetText("selected");
-  ShowForm();
-  first->SetFocus();
-  Key(VK_TAB);
-  EXPECT_TRUE(second->Focused());
-  EXPECT_EQ(second->SelText(), "selected");
-  first->SetFocus();
-  Click(*second);
-  EXPECT_TRUE(second->Focused());
-  EXPECT_EQ(second->SelText(), "");
 }
 
 TEST_F(Edits, TheHeightFollowsTheFontAndTheBorderIsOneOfTwo) {

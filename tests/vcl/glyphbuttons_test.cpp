@@ -92,7 +92,24 @@ TYPED_TEST(EachGlyphButton, ShowsTheImageOfItsState) {
   EXPECT_THROW(button->SetNumGlyphs(TNumGlyphs(0)), EArgumentOutOfRangeException);
 }
 
-TYPED_TEST(EachGlyphButton, IsClickedByMouseAndAcceleratorAndMayBeFreedThen) {
+TYPED_TEST(EachGlyphButton, PaintsWithoutKeepingHandles) {
+  auto* button = this->template Make<TypeParam>(20, 20);
+  button->SetCaption("text");
+  button->SetGlyph(this->Strip({clRed}).get());
+  this->ShowForm();
+  TBitmap shot(200, 200);
+  handles::ExpectNoneKept(200, 4, [&](int i) {
+    button->SetEnabled(i % 2);
+    this->Form.PaintTo(shot.Canvas()->Handle(), 0, 0);
+  });
+}
+
+template <class T>
+class EachButton : public TStandardForm {};
+using TButtons = ::testing::Types<TButton, TCheckBox, TBitBtn, TSpeedButton>;
+TYPED_TEST_SUITE(EachButton, TButtons);
+
+TYPED_TEST(EachButton, IsClickedByMouseAndAcceleratorAndMayBeFreedThen) {
   auto* button = this->template Make<TypeParam>(20, 20);
   button->SetCaption("&Go");
   int clicks = 0;
@@ -102,9 +119,18 @@ TYPED_TEST(EachGlyphButton, IsClickedByMouseAndAcceleratorAndMayBeFreedThen) {
   EXPECT_EQ(clicks, 1);
   this->KeyWith(VK_MENU, 'G');
   EXPECT_EQ(clicks, 2);
+  if constexpr (std::is_base_of_v<TWinControl, TypeParam>) {
+    this->Key(VK_SPACE);
+    EXPECT_EQ(std::exchange(clicks, 2), 3);
+  }
   this->Click(*button);
   this->Click(*button);  // Also as a double click.
   EXPECT_EQ(clicks, 4);
+  button->SetEnabled(false);
+  this->KeyWith(VK_MENU, 'G');
+  this->Click(*button);
+  EXPECT_EQ(clicks, 4);
+  button->SetEnabled(true);
   testinput::MoveMouse(testinput::MiddleOf(button));
   testinput::LeftDown();
   testinput::MoveMouse({5, 5});
@@ -116,18 +142,6 @@ TYPED_TEST(EachGlyphButton, IsClickedByMouseAndAcceleratorAndMayBeFreedThen) {
   };
   this->Click(*button);
   EXPECT_EQ(clicks, -1);
-}
-
-TYPED_TEST(EachGlyphButton, PaintsWithoutKeepingHandles) {
-  auto* button = this->template Make<TypeParam>(20, 20);
-  button->SetCaption("text");
-  button->SetGlyph(this->Strip({clRed}).get());
-  this->ShowForm();
-  TBitmap shot(200, 200);
-  handles::ExpectNoneKept(200, 4, [&](int i) {
-    button->SetEnabled(i % 2);
-    this->Form.PaintTo(shot.Canvas()->Handle(), 0, 0);
-  });
 }
 
 TEST_F(GlyphButtons, KindsSetAnswerKeysCaptionAndGlyph) {
