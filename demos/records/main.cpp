@@ -34,12 +34,7 @@ int TakeScreenshot(TRecordsForm& form, const std::string& folder) {
   return 0;
 }
 
-int RunRecords(int argc, char** argv) {
-  const bool screenshot = argc == 3 && std::string(argv[1]) == "--screenshot";
-  if (argc > 2 && !screenshot) {
-    std::fprintf(stderr, "Usage: records [FILE] | --screenshot DIR\n");
-    return 2;
-  }
+int RunRecords(int argc, char** argv, bool screenshot) {
   vcl::RegisterDataControls();
   Application()->Initialize();
   Application()->SetTitle("Records");
@@ -52,10 +47,17 @@ int RunRecords(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  const bool screenshot = argc == 3 && std::string(argv[1]) == "--screenshot";
+  if (argc > 2 && !screenshot) {
+    std::fprintf(stderr, "Usage: records [FILE] | --screenshot DIR\n");
+    return 2;
+  }
   try {
-    return RunRecords(argc, argv);
+    return RunRecords(argc, argv, screenshot);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "records: %s\n", error.what());
+    // Such as that the database's driver is missing.
+    if (!screenshot) Application()->HandleException(nullptr, error);
     return 1;
   }
 }

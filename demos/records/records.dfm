@@ -142,6 +142,7 @@ object RecordsForm: TRecordsForm
     Top = 314
     Width = 170
     Height = 26
+    SegmentColor = 15780518
   end
   object StatusBar: TStatusBar
     Left = 0
@@ -163,6 +164,31 @@ object RecordsForm: TRecordsForm
       'SELECT id, name, city, born, balance FROM people ORDER BY name')
     Left = 540
     Top = 248
+    object QueryId: TIntegerField
+      FieldName = 'id'
+      Visible = False
+    end
+    object QueryName: TStringField
+      DisplayLabel = 'Name'
+      FieldName = 'name'
+      Required = True
+      Size = 28
+    end
+    object QueryCity: TStringField
+      DisplayLabel = 'City'
+      FieldName = 'city'
+      Size = 20
+    end
+    object QueryBorn: TDateField
+      DisplayLabel = 'Born'
+      DisplayWidth = 12
+      FieldName = 'born'
+    end
+    object QueryBalance: TCurrencyField
+      DisplayLabel = 'Balance'
+      DisplayWidth = 12
+      FieldName = 'balance'
+    end
   end
   object TransferSource: TDataSource
     DataSet = TransferQuery

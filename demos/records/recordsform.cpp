@@ -12,6 +12,13 @@ namespace records {
 
 using namespace vcl;
 
+namespace {
+
+/// The status bar has no room for folders.
+std::string NamePart(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
+
+}  // namespace
+
 const TClass& TRecordsForm::Class() {
   using T = TRecordsForm;
   static const TClass info = Describe<T, TForm>("TRecordsForm", "recordsform",
@@ -82,7 +89,7 @@ void TRecordsForm::Export(const std::string& fileName) {
   FDone = FCount = 0;
   Transfer->SetFilename(fileName);
   Transfer->DoExport();
-  StatusBar->SetSimpleText(Concat(IntToStr(FCount), " records written to ", fileName));
+  StatusBar->SetSimpleText(Concat(IntToStr(FCount), " records written to ", NamePart(fileName)));
 }
 
 void TRecordsForm::RecordWritten(TObject*, std::string) {
@@ -120,7 +127,7 @@ void TRecordsForm::Import(const std::string& fileName) {
   Query->Open();
   FDone = FAll;  // The header and empty lines have counted for nothing.
   ShowProgress();
-  std::string text = Concat(IntToStr(FCount - FRefused), " records read from ", fileName);
+  std::string text = Concat(IntToStr(FCount - FRefused), " records read from ", NamePart(fileName));
   if (FRefused) text += Concat(", ", IntToStr(FRefused), " refused: ", FWhy);
   StatusBar->SetSimpleText(text);
 }
