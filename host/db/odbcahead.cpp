@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t BatchSize = 256;
 /// Fewer are read before a thread would have begun.
-constexpr int LongQuery = 1000;
+constexpr int LongQuery = 500;
 
 }  // namespace
 

@@ -180,21 +180,33 @@ void TOdbcQuery::InternalDelete(const TRecord& record) {
   FLive->Delete(record);
 }
 
+/// Databases may end queries that are being read when a transaction begins or ends; so that no
+/// record is missing then, all are read before.
+void TOdbcQuery::ReadToEnd() {
+  if (!FRows) return;
+  if (FUniDirectional && !static_cast<odbc::TForwardRows&>(*FRows).AtEnd()) {
+    Refuse(
+        "While a unidirectional dataset has not been read to its end, no transaction can begin or "
+        "end");
+  }
+  FRows->Count();
+}
+
 void TOdbcQuery::StartTransaction() {
   SetConnected(true);
-  Pause();
+  ReadToEnd();
   FConnection->StartTransaction();
 }
 
 void TOdbcQuery::Commit() {
   SetConnected(true);
-  Pause();
+  ReadToEnd();
   FConnection->EndTransaction(true);
 }
 
 void TOdbcQuery::Rollback() {
   SetConnected(true);
-  Pause();
+  ReadToEnd();
   FConnection->EndTransaction(false);
 }
 

@@ -69,7 +69,9 @@ class VCL_API TOdbcQuery : public TDataSet {
 
   /// Executes what is no query, and returns how many records it has changed.
   int ExecSQL();
-  /// Until the transaction ends, what is posted here can be rolled back.
+  /// Until the transaction ends, what is posted here can be rolled back. These read all records of
+  /// a query that is open; they raise EDatabaseError for a unidirectional one that has not been read
+  /// to its end.
   void StartTransaction();
   void Commit();
   void Rollback();
@@ -88,6 +90,7 @@ class VCL_API TOdbcQuery : public TDataSet {
   void SQLChanged();
   void Prepare();
   void Pause();
+  void ReadToEnd();
   void Execute();
   void DefineFields();
   std::string FreeName(const std::string& name) const;

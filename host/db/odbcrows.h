@@ -38,6 +38,8 @@ class TForwardRows : public TRecordStore {
   int IndexOf(TBookmark) override { return -1; }
   /// True while nothing but the first record has been read.
   bool AtBeginning() const { return FRow <= 0 && FShift == 0 && FInsertedAt < 0; }
+  /// True when it has been tried to read behind the last record.
+  bool AtEnd() const { return FEnd; }
   /// Nothing is read until the next record is asked for, so that the connection is free.
   void Pause() { FAhead.Pause(); }
   /// The statement has been executed again.

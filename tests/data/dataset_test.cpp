@@ -27,15 +27,6 @@ struct TPeople : TMemoryDataSet {
   std::string Name() const { return FieldByName("name")->AsString(); }
 };
 
-std::string Message(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (const EDatabaseError& error) {
-    return error.Message();
-  }
-  return "nothing was raised";
-}
-
 TEST(DataSet, MovesAndSaysWhereItIs) {
   TPeople people;
   EXPECT_TRUE(people.Bof());
@@ -48,11 +39,9 @@ TEST(DataSet, MovesAndSaysWhereItIs) {
   EXPECT_TRUE(people.Eof());
   EXPECT_EQ(people.Name(), "Cid");
   EXPECT_EQ(people.MoveBy(-7), -2);
-  EXPECT_TRUE(people.Bof());
-  EXPECT_FALSE(people.Eof());
+  EXPECT_TRUE(people.Bof() && !people.Eof());
   people.Last();
   EXPECT_TRUE(people.Eof());
-  EXPECT_EQ(people.RecNo(), 3);
   people.SetRecNo(2);
   const TBookmark bob = people.Bookmark();
   people.InsertRecord({std::string("Abe")});
@@ -62,8 +51,10 @@ TEST(DataSet, MovesAndSaysWhereItIs) {
   EXPECT_EQ(people.RecNo(), 3);
   people.Delete();
   EXPECT_EQ(people.Name(), "Cid");
-  EXPECT_FALSE(people.BookmarkValid(bob));
   EXPECT_THAT(Message([&] { people.GotoBookmark(bob); }), HasSubstr("gone"));
+  people.InsertRecord({std::string("Dan")});
+  people.GotoBookmark(people.Bookmark());
+  EXPECT_EQ(people.Name(), "Dan") << "no name is given twice";
   EXPECT_THAT(Message([&] { people.SetRecNo(9); }), HasSubstr("9"));
 }
 
@@ -93,8 +84,6 @@ TEST(DataSet, EditsInsertsAndDeletes) {
   EXPECT_THAT(Message([&] { people.Delete(); }), HasSubstr("empty"));
   people.Edit();
   EXPECT_EQ(people.State(), dsInsert) << "there is nothing to edit, so a record is made";
-  people.Cancel();
-  EXPECT_TRUE(people.IsEmpty());
 }
 
 TEST(DataSet, RefusesWithAMessageAndStaysAsItWas) {
@@ -119,35 +108,32 @@ TEST(DataSet, RefusesWithAMessageAndStaysAsItWas) {
 
 TEST(DataSet, FiresItsEventsInOrder) {
   TPeople people;
-  std::vector<std::string> log;
-  const auto note = [&](const char* what) {
-    return [&log, what](TDataSet*) { log.push_back(what); };
-  };
-  people.BeforeInsert = note("BeforeInsert"), people.AfterInsert = note("AfterInsert");
-  people.BeforeEdit = note("BeforeEdit"), people.AfterEdit = note("AfterEdit");
-  people.BeforePost = note("BeforePost"), people.AfterPost = note("AfterPost");
-  people.BeforeCancel = note("BeforeCancel"), people.AfterCancel = note("AfterCancel");
-  people.BeforeDelete = note("BeforeDelete"), people.AfterDelete = note("AfterDelete");
-  people.BeforeScroll = note("BeforeScroll"), people.AfterScroll = note("AfterScroll");
+  std::string log;
+  const auto note = [&](const char* what) { return [&log, what](TDataSet*) { log += what; }; };
+  people.BeforeInsert = note("insert "), people.AfterInsert = note("inserted ");
+  people.BeforeEdit = note("edit "), people.AfterEdit = note("edited ");
+  people.BeforePost = note("post "), people.AfterPost = note("posted ");
+  people.BeforeCancel = note("cancel "), people.AfterCancel = note("cancelled ");
+  people.BeforeDelete = note("delete "), people.AfterDelete = note("deleted ");
+  people.BeforeScroll = note("scroll "), people.AfterScroll = note("scrolled ");
   people.OnNewRecord = [&](TDataSet* data) {
-    log.push_back("OnNewRecord");
+    log += "new ";
     data->SetFieldValues("Age", std::int64_t{1});
   };
   people.Insert();
   EXPECT_FALSE(people.Modified()) << "what a new record begins with is no change of the user's";
   people.Cancel();
-  EXPECT_THAT(
-      log, ElementsAre("BeforeInsert", "BeforeScroll", "OnNewRecord", "AfterInsert", "AfterScroll",
-                       "BeforeCancel", "BeforeScroll", "AfterCancel", "AfterScroll"));
-  log.clear();
   people.Edit();
   people.SetFieldValues("Name", std::string("Eve"));
   people.Next();
-  EXPECT_THAT(log, ElementsAre("BeforeEdit", "AfterEdit", "BeforePost", "AfterPost", "BeforeScroll",
-                               "AfterScroll"));
-  log.clear();
   people.Delete();
-  EXPECT_THAT(log, ElementsAre("BeforeDelete", "BeforeScroll", "AfterDelete", "AfterScroll"));
+  EXPECT_EQ(log,
+            "insert scroll new inserted scrolled cancel scroll cancelled scrolled "
+            "edit edited post posted scroll scrolled delete scroll deleted scrolled ");
+  people.Last();
+  log.clear();
+  people.Next();
+  EXPECT_EQ(log, "") << "there is nowhere to go";
 }
 
 TEST(DataSet, AHandlerMayFreeOrCloseIt) {
@@ -159,6 +145,13 @@ TEST(DataSet, AHandlerMayFreeOrCloseIt) {
   TPeople closed;
   closed.BeforeScroll = [](TDataSet* data) { data->Close(); };
   EXPECT_THAT(Message([&] { closed.Next(); }), HasSubstr("closed"));
+  TPeople seen;
+  TDataSource source(nullptr);
+  auto other = std::make_unique<TDataSource>(nullptr);
+  for (TDataSource* each : {&source, other.get()}) each->SetDataSet(&seen);
+  source.OnDataChange = [&](TObject*, TField*) { other.reset(); };
+  seen.Next();
+  EXPECT_EQ(other, nullptr);
 }
 
 TEST(Fields, ConvertOrRefuse) {
@@ -169,20 +162,16 @@ TEST(Fields, ConvertOrRefuse) {
     const char *Text, *Read;  // Null for a text that is refused.
   };
   const TCase cases[] = {
-      {ftString, "", ""},
       {ftSmallint, "32767", "32767"},
       {ftSmallint, "32768", nullptr},
       {ftInteger, " -2147483648 ", "-2147483648"},
-      {ftInteger, "2147483648", nullptr},
       {ftInteger, "1.5", nullptr},
       {ftInteger, "", ""},
       {ftLargeint, "9223372036854775807", "9223372036854775807"},
-      {ftLargeint, "9223372036854775808", nullptr},
       {ftFloat, "1e3", "1000"},
       {ftFloat, "much", nullptr},
       {ftCurrency, "2.5", "2.5"},
       {ftBoolean, "TRUE", "True"},
-      {ftBoolean, "0", "False"},
       {ftBoolean, "perhaps", nullptr},
       {ftDate, "02/29/2000", "02/29/2000"},
       {ftDate, "02/30/2000", nullptr},
@@ -211,42 +200,40 @@ TEST(Fields, ConvertOrRefuse) {
 
 TEST(Fields, ReadAsOtherTypesAndShowThemselves) {
   TMemoryDataSet data(nullptr);
-  data.FieldDefs()->Add("Text", ftString);
-  data.FieldDefs()->Add("Number", ftFloat);
-  data.FieldDefs()->Add("Money", ftCurrency);
-  data.FieldDefs()->Add("Sure", ftBoolean);
-  data.FieldDefs()->Add("Day", ftDate);
+  for (const TFieldType type : {ftString, ftFloat, ftCurrency, ftBoolean, ftDate}) {
+    data.FieldDefs()->Add("F" + IntToStr(data.FieldDefs()->Count()), type);
+  }
   data.Open();
   data.Insert();
-  const auto field = [&](const char* name) { return data.FieldByName(name); };
-  EXPECT_EQ(field("Number")->AsInteger(), 0) << "Null";
-  field("Text")->SetAsFloat(-2.5);
-  EXPECT_EQ(field("Text")->AsFloat(), -2.5);
-  field("Text")->SetAsString("x");
-  EXPECT_THAT(Message([&] { field("Text")->AsInteger(); }), HasSubstr("'x'"));
-  field("Number")->SetAsFloat(2.5);
-  EXPECT_EQ(field("Number")->AsInteger(), 3);
-  field("Number")->SetAsFloat(1e10);
-  EXPECT_THAT(Message([&] { field("Number")->AsInteger(); }), HasSubstr("10000000000"));
-  field("Money")->SetAsCurrency(2.5);
-  EXPECT_EQ(field("Money")->DisplayText(), "2.50");
-  EXPECT_EQ(field("Money")->Text(), "2.5");
-  static_cast<TBooleanField*>(field("Sure"))->SetDisplayValues("Yes;No");
-  field("Sure")->SetAsString("no");
-  EXPECT_FALSE(field("Sure")->AsBoolean());
-  EXPECT_EQ(field("Sure")->DisplayText(), "No");
-  field("Day")->SetAsDateTime(EncodeDate(2000, 2, 29) + 0.75);
-  EXPECT_EQ(field("Day")->AsDateTime(), EncodeDate(2000, 2, 29));
-  EXPECT_THAT(Message([&] { field("Day")->AsBoolean(); }), HasSubstr("Boolean"));
-  field("Text")->OnGetText = [](TField*, std::string& text, bool display) {
-    if (display) text = "<" + text + ">";
+  TField &text = *data.Fields()[0], &number = *data.Fields()[1], &money = *data.Fields()[2],
+         &sure = *data.Fields()[3], &day = *data.Fields()[4];
+  EXPECT_EQ(number.AsInteger(), 0) << "Null";
+  text.SetAsFloat(-2.5);
+  EXPECT_EQ(text.AsFloat(), -2.5);
+  text.SetAsString("x");
+  EXPECT_THAT(Message([&] { text.AsInteger(); }), HasSubstr("'x'"));
+  number.SetAsFloat(2.5);
+  EXPECT_EQ(number.AsInteger(), 3);
+  number.SetAsFloat(1e10);
+  EXPECT_THAT(Message([&] { number.AsInteger(); }), HasSubstr("10000000000"));
+  money.SetAsCurrency(2.5);
+  EXPECT_EQ(money.DisplayText() + " " + money.Text(), "2.50 2.5");
+  static_cast<TBooleanField&>(sure).SetDisplayValues("Yes;No");
+  sure.SetAsString("no");
+  EXPECT_FALSE(sure.AsBoolean());
+  EXPECT_EQ(sure.DisplayText(), "No");
+  day.SetAsDateTime(EncodeDate(2000, 2, 29) + 0.75);
+  EXPECT_EQ(day.AsDateTime(), EncodeDate(2000, 2, 29));
+  EXPECT_THAT(Message([&] { day.AsBoolean(); }), HasSubstr("Boolean"));
+  text.OnGetText = [](TField*, std::string& shown, bool display) {
+    if (display) shown = "<" + shown + ">";
   };
-  EXPECT_EQ(field("Text")->DisplayText(), "<x>");
-  field("Text")->OnValidate = [](TField* sender) {
+  EXPECT_EQ(text.DisplayText(), "<x>");
+  text.OnValidate = [](TField* sender) {
     if (sender->AsString() == "bad") throw EDatabaseError("bad is bad");
   };
-  EXPECT_EQ(Message([&] { field("Text")->SetAsString("bad"); }), "bad is bad");
-  EXPECT_EQ(field("Text")->AsString(), "x");
+  EXPECT_EQ(Message([&] { text.SetAsString("bad"); }), "bad is bad");
+  EXPECT_EQ(text.AsString(), "x");
 }
 
 /// Notes what a control would hear.
@@ -300,7 +287,9 @@ TEST(DataLink, WritesWhatIsTypedBeforeTheRecordIsPosted) {
   ASSERT_TRUE(link.Edit());
   link.Modified();
   people.Next();
-  EXPECT_EQ(Dump(people), "Typed|;Bob|;Cid|");
+  people.Edit();
+  people.FieldByName("Age")->SetAsInteger(3);
+  EXPECT_EQ(Dump(people), "Typed|;Bob|3;Cid|") << "nothing was typed for the second one";
 }
 
 TEST(DataLink, LooksAtTheRecordsAroundTheCurrentOne) {
@@ -328,7 +317,8 @@ TEST(DataLink, LooksAtTheRecordsAroundTheCurrentOne) {
   EXPECT_EQ(rows(), " Bob*");
   people.Cancel();
   people.First();
-  EXPECT_EQ(rows(), "*Ann Bob");
+  people.Insert();
+  EXPECT_EQ(rows(), "* Ann") << "the new record stands before the first one";
 }
 
 TEST(MemoryDataSet, KeepsWhatItCanUnderNewDefinitions) {

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <string>
@@ -42,4 +43,13 @@ inline std::string Dump(vcl::TDataSet& data) {
     }
   }
   return text;
+}
+
+inline std::string Message(const std::function<void()>& call) {
+  try {
+    call();
+  } catch (const vcl::EDatabaseError& error) {
+    return error.Message();
+  }
+  return "nothing was raised";
 }
