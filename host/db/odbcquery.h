@@ -70,8 +70,8 @@ class VCL_API TOdbcQuery : public TDataSet {
   /// Executes what is no query, and returns how many records it has changed.
   int ExecSQL();
   /// Until the transaction ends, what is posted here can be rolled back. These read all records of
-  /// a query that is open; they raise EDatabaseError for a unidirectional one that has not been read
-  /// to its end.
+  /// a query that is open; they raise EDatabaseError for a unidirectional one that has not been
+  /// read to its end.
   void StartTransaction();
   void Commit();
   void Rollback();
