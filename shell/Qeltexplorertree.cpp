@@ -14,6 +14,7 @@
 namespace qel {
 
 using vcl::TTreeNode;
+using vcl::TTreeNodeWatch;
 
 const vcl::TClass& TQELExplorerTree::Class() {
   using T = TQELExplorerTree;
@@ -117,8 +118,9 @@ void TQELExplorerTree::SetDirectory(const std::string& name) {
     throw vcl::EInOutError(
         vcl::Concat("Folder '", path, "' is on a remote drive, and Network is off"));
   }
+  vcl::TWatch watch(this);
   GoTo(path);
-  FDirectoryGiven = true;
+  if (!watch.Gone()) FDirectoryGiven = true;
 }
 
 bool TQELExplorerTree::Allowed(const std::string& path) const {
@@ -126,20 +128,39 @@ bool TQELExplorerTree::Allowed(const std::string& path) const {
 }
 
 void TQELExplorerTree::GoTo(const std::string& path) {
+  vcl::TWatch watch(this);
   const std::string root = path.substr(0, folders::RootSize(path));
   // A server's share, or a drive that has come since.
   if (!root.empty() && !GetNodeFromPath(root)) AddFolder(nullptr, nullptr, root);
   TQELExplorerNode* node = GetNodeFromPath(path);
+  if (!node && !watch.Gone()) node = ReadAbove(path);
+  if (watch.Gone()) return;
   if (!node) throw vcl::EInOutError(vcl::Concat("Folder '", path, "' is not shown"));
   SetSelected(node);
+}
+
+/// The node of a folder that may have come since those above it were read.
+TQELExplorerNode* TQELExplorerTree::ReadAbove(const std::string& path) {
+  vcl::TWatch watch(this);
+  TQELExplorerNode* node = nullptr;
+  for (std::string above = path; !node && !(above = folders::ParentOf(above)).empty();) {
+    node = GetNodeFromPath(above);
+    if (watch.Gone()) return nullptr;
+  }
+  if (!node) return nullptr;
+  node->FButtonKnown = false;
+  ReadAgain(node);
+  return watch.Gone() ? nullptr : GetNodeFromPath(path);
 }
 
 /// The folder, or the next one above it that is there and may be shown; none at all changes
 /// nothing.
 void TQELExplorerTree::GoToNearest(std::string path) {
+  vcl::TWatch watch(this);
   TQELExplorerNode* node = nullptr;
   for (; !path.empty() && !node; path = folders::ParentOf(path)) {
     if (Allowed(path)) node = GetNodeFromPath(path);
+    if (watch.Gone()) return;
   }
   if (node) SetSelected(node);
 }
@@ -163,8 +184,11 @@ void TQELExplorerTree::SetDrive(char letter) {
   if (letter == Drive()) return;
   const std::string root = std::string(1, letter) + ":\\";
   const auto found = FRemembered.find(letter);
-  const bool there = found != FRemembered.end() && folders::Exists(found->second);
-  SetDirectory(there ? found->second : root);
+  const auto isThere = [this](const std::string& path) {
+    // What a handler finds need not be on the disk.
+    return OnFindDirectory ? GetNodeFromPath(path) != nullptr : folders::Exists(path);
+  };
+  SetDirectory(found != FRemembered.end() && isThere(found->second) ? found->second : root);
 }
 
 TQELExplorerNode* TQELExplorerTree::GetNodeFromPath(const std::string& path) {
@@ -173,7 +197,11 @@ TQELExplorerNode* TQELExplorerTree::GetNodeFromPath(const std::string& path) {
   const std::string wanted = folders::UpperCased(folders::Normalized(path));
   TQELExplorerNode* node = nullptr;
   for (std::size_t end = folders::RootSize(wanted); end > 0 && end <= wanted.size();) {
-    if (node) GetKids(node);
+    if (node) {
+      TTreeNodeWatch watch(node);
+      GetKids(node);
+      if (watch.Gone()) return nullptr;
+    }
     const std::string part = wanted.substr(0, end);
     node = First(*Items(), node);
     while (node && node->Path() != part) {

@@ -89,11 +89,12 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
   /// Reads anew what has been read before. What is expanded and selected stays so; when a selected
   /// folder is gone, the one above it is selected.
   void ReadNew();
-  /// Makes a folder, with those above it, and shows it; a relative name is one below Directory.
-  /// Null when a handler keeps it out. Raises EInOutError.
+  /// Makes a folder, with those above it, and expands what holds it; a relative name is one below
+  /// Directory. Null when a handler keeps it out. Raises EInOutError.
   TQELExplorerNode* AddPath(const std::string& path);
-  /// Gives the node's folder another name. Raises EInOutError for one that the system does not
-  /// take, and for the folders of the top level.
+  /// Gives the node's folder another name, without blanks and dots at its end, which the system
+  /// drops. Raises EInOutError for one that the system does not take, and for the folders of the
+  /// top level.
   void RenamePath(TQELExplorerNode* node, const std::string& name);
   /// Asks the user and puts the folder into the recycle bin. False when he says no. Raises
   /// EInOutError when it cannot be, and for the folders of the top level.
@@ -131,7 +132,8 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
   class TUpdating;
   void ReadTop();
   std::vector<std::string> TopFolders() const;
-  void Fill(TQELExplorerNode* parent, const std::vector<std::string>& folders);
+  bool Fill(TQELExplorerNode* parent, const std::vector<std::string>& folders);
+  bool DropOthers(TQELExplorerNode* parent, const std::vector<std::string>& folders);
   TQELExplorerNode* AddFolder(TQELExplorerNode* parent, vcl::TTreeNode* before,
                               const std::string& folder);
   void DropNode(TQELExplorerNode* node);
@@ -143,8 +145,10 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
   bool AskAdd(const std::string& path);
   bool Allowed(const std::string& path) const;
   void GoTo(const std::string& path);
+  TQELExplorerNode* ReadAbove(const std::string& path);
   void GoToNearest(std::string path);
-  void MoveFolder(TQELExplorerNode* node, const std::string& folder);
+  static void MoveFolder(TQELExplorerNode* node, const std::string& folder);
+  void PutInOrder(TQELExplorerNode* node);
   static TQELExplorerNode* First(const vcl::TTreeNodes& nodes, const TQELExplorerNode* parent);
   bool IsStored() const { return FDirectoryGiven; }
 

@@ -29,44 +29,50 @@ TQELExplorerNode* TQELExplorerTree::AddPath(const std::string& path) {
   const std::string folder = folders::Normalized(absolute ? given : FDirectory + given);
   if (given.empty() || folder.empty()) throw vcl::EInOutError("Invalid Directory Name");
   folders::Make(folder);
-  // The folders above may have been read before there was this one.
-  for (std::string above = folder; !(above = folders::ParentOf(above)).empty();) {
-    if (TQELExplorerNode* node = GetNodeFromPath(above)) {
-      node->FButtonKnown = false;
-      ReadAgain(node);
-      break;
-    }
-  }
-  return GetNodeFromPath(folder);
+  TQELExplorerNode* made = ReadAbove(folder);
+  if (!made) return nullptr;
+  vcl::TTreeNodeWatch madeWatch(made);
+  made->MakeVisible();
+  return madeWatch.Gone() ? nullptr : made;
 }
 
 void TQELExplorerTree::RenamePath(TQELExplorerNode* node, const std::string& name) {
   CheckNotOnTop(node, "renamed");
   CheckName(name);
-  const std::string folder = folders::ParentOf(node->Folder()) + name + "\\";
+  const std::string kept = name.substr(0, name.find_last_not_of(" .") + 1);
+  const std::string folder = folders::ParentOf(node->Folder()) + kept + "\\";
   folders::Rename(node->Folder(), folder);
   MoveFolder(node, folder);
+  node->AskShell();
+  vcl::TTreeNodeWatch watch(node);
+  PutInOrder(node);
+  vcl::TTreeNode* selected = watch.Gone() ? nullptr : Selected();
+  if (selected && (selected == node || selected->HasAsParent(node))) Change(selected);
+}
+
+/// The folder is somewhere else, and with it all below it.
+void TQELExplorerTree::MoveFolder(TQELExplorerNode* node, const std::string& folder) {
+  const bool asked = node->FShellAsked;
+  node->SetFolder(folder);
+  if (asked) node->AskShell();
+  for (vcl::TTreeNode* each = node->GetFirstChild(); each; each = each->GetNextSibling()) {
+    auto* child = static_cast<TQELExplorerNode*>(each);
+    MoveFolder(child, folder + folders::NameOf(child->Folder()) + "\\");
+  }
+}
+
+/// Puts a node that has another name where it belongs among those beside it.
+void TQELExplorerTree::PutInOrder(TQELExplorerNode* node) {
   std::vector<std::string> order;
   for (vcl::TTreeNode* each = node->Parent()->GetFirstChild(); each;
        each = each->GetNextSibling()) {
     order.push_back(static_cast<TQELExplorerNode*>(each)->Folder());
   }
   folders::Sort(order);
-  const auto next = std::ranges::find(order, folder) + 1;
+  const auto next = std::ranges::find(order, node->Folder()) + 1;
   vcl::TTreeNode* place = next == order.end() ? nullptr : GetNodeFromPath(*next);
   if (place == node->GetNextSibling()) return;
   place ? node->MoveTo(place, vcl::naInsert) : node->MoveTo(node->Parent(), vcl::naAddChild);
-}
-
-/// The folder is somewhere else, and with it all below it.
-void TQELExplorerTree::MoveFolder(TQELExplorerNode* node, const std::string& folder) {
-  node->SetFolder(folder);
-  node->AskShell();
-  if (node == Selected()) Change(node);
-  for (vcl::TTreeNode* each = node->GetFirstChild(); each; each = each->GetNextSibling()) {
-    auto* child = static_cast<TQELExplorerNode*>(each);
-    MoveFolder(child, folder + folders::NameOf(child->Folder()) + "\\");
-  }
 }
 
 bool TQELExplorerTree::DeletePath(TQELExplorerNode* node) {

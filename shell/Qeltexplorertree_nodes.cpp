@@ -109,26 +109,22 @@ TQELExplorerNode* TQELExplorerTree::AddFolder(TQELExplorerNode* parent, TTreeNod
   return node;
 }
 
-/// Takes a folder out that is gone. What was selected in it gives way to what held it.
+/// Takes a folder out that is gone. What was selected in it gives way to what held it, or stands
+/// beside it.
 void TQELExplorerTree::DropNode(TQELExplorerNode* node) {
   TTreeNodeWatch watch(node);
-  TTreeNode* selected = Selected();
-  if (selected && (selected == node || selected->HasAsParent(node)) && node->Parent()) {
-    SetSelected(node->Parent());
+  const TTreeNode* selected = Selected();
+  if (selected && (selected == node || selected->HasAsParent(node))) {
+    TTreeNode* beside = node->GetPrevSibling() ? node->GetPrevSibling() : node->GetNextSibling();
+    SetSelected(node->Parent() ? node->Parent() : beside);
   }
   if (!watch.Gone()) node->Delete();
 }
 
 /// Makes the nodes below the parent those of the folders, in their order. Nodes that are there stay
-/// as they are.
-void TQELExplorerTree::Fill(TQELExplorerNode* parent, const std::vector<std::string>& folders) {
-  std::unordered_set<std::string> wanted;
-  for (const std::string& each : folders) wanted.insert(folders::UpperCased(each));
-  for (TQELExplorerNode* each = First(*Items(), parent); each;) {
-    auto* next = static_cast<TQELExplorerNode*>(each->GetNextSibling());
-    if (!wanted.contains(each->Path())) DropNode(each);
-    each = next;
-  }
+/// as they are. False when a handler has deleted others than those that go, or the tree.
+bool TQELExplorerTree::Fill(TQELExplorerNode* parent, const std::vector<std::string>& folders) {
+  if (!DropOthers(parent, folders)) return false;
   TTreeNode* place = First(*Items(), parent);
   for (const std::string& each : folders) {
     auto* there = static_cast<TQELExplorerNode*>(place);
@@ -138,6 +134,27 @@ void TQELExplorerTree::Fill(TQELExplorerNode* parent, const std::vector<std::str
       AddFolder(parent, place, each);
     }
   }
+  return true;
+}
+
+bool TQELExplorerTree::DropOthers(TQELExplorerNode* parent,
+                                  const std::vector<std::string>& folders) {
+  std::unordered_set<std::string> wanted;
+  for (const std::string& each : folders) wanted.insert(folders::UpperCased(each));
+  vcl::TWatch tree(this);
+  const auto watched = [](TTreeNode* node) {
+    return node ? std::make_unique<TTreeNodeWatch>(node) : nullptr;
+  };
+  const auto parentWatch = watched(parent);
+  for (TQELExplorerNode* each = First(*Items(), parent); each;) {
+    auto* next = static_cast<TQELExplorerNode*>(each->GetNextSibling());
+    const auto nextWatch = watched(next);
+    if (!wanted.contains(each->Path())) DropNode(each);
+    if (tree.Gone() || (parentWatch && parentWatch->Gone())) return false;
+    if (nextWatch && nextWatch->Gone()) return false;
+    each = next;
+  }
+  return true;
 }
 
 void TQELExplorerTree::GetKids(TQELExplorerNode* node) {
@@ -278,9 +295,7 @@ void TQELExplorerTree::ReadAgain(TQELExplorerNode* node) {
     return;
   }
   const std::vector<std::string> folders = FoldersIn(node->Folder());
-  if (watch.Gone()) return;
-  Fill(node, folders);
-  if (watch.Gone()) return;
+  if (watch.Gone() || !Fill(node, folders)) return;
   node->SetHasChildren(node->Count() > 0);
   for (TTreeNode* each = node->GetFirstChild(); each; each = each->GetNextSibling()) {
     TTreeNodeWatch child(each);
@@ -293,7 +308,7 @@ void TQELExplorerTree::ReadNew() {
   const THourGlass wait;
   const TUpdating hold(*this);
   FTopRead = true;
-  Fill(nullptr, TopFolders());
+  if (!Fill(nullptr, TopFolders())) return;
   for (TTreeNode* each = Items()->GetFirstNode(); each; each = each->GetNextSibling()) {
     TTreeNodeWatch watch(each);
     ReadAgain(static_cast<TQELExplorerNode*>(each));

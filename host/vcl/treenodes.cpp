@@ -224,8 +224,10 @@ void TTreeNodes::Announce(TTreeNode* node, const TWatch& tree) {
   }
 }
 
-/// For a handler of OnDeletion: what holds a node that is going cannot go before it.
+/// For a handler of OnDeletion: what holds a node that is going cannot go before it, unless the
+/// whole tree goes.
 void TTreeNodes::CheckNoneBelowGoes(const TTreeNode* parent) const {
+  if (FOwner->Destroying()) return;
   for (const TTreeNode* each = parent->FFirst; each; each = each->FNext) {
     if (each->FDeleting) {
       throw ETreeViewError(Concat("A node below it, '", each->Text(), "', is being deleted"));

@@ -7,6 +7,7 @@
 #include <iostream>
 
 #include "host/vcl/messagedialog.h"
+#include "host/vcl/screen.h"
 #include "host/vcl/windowtext.h"
 #include "tests/support/importpatch.h"
 #include "tests/vcl/standardform.h"
@@ -31,6 +32,19 @@ int WINAPI Recycle(LPSHFILEOPSTRUCTW operation) {
   return 0;
 }
 
+/// Folders named "locked" cannot be read while this is true; and the folders that were looked into.
+bool locks = false;
+std::string searched;
+HANDLE WINAPI FindFirst(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
+  EXPECT_EQ(::GetErrorMode(), UINT{SEM_FAILCRITICALERRORS})
+      << "no box for a drive without a medium";
+  const fs::path folder = fs::path(pattern).parent_path();
+  searched += vcl::ToUtf8(folder.filename().wstring()) + ",";
+  if (!locks || folder.filename() != L"locked") return ::FindFirstFileW(pattern, found);
+  ::SetLastError(ERROR_ACCESS_DENIED);
+  return INVALID_HANDLE_VALUE;
+}
+
 /// Where a folder is a Unix system's, each new name is compared with all others there, unless the
 /// folder is named in that system's way.
 std::wstring Plain(const fs::path& folder) {
@@ -52,17 +66,27 @@ void RemoveMany(const fs::path& folder, int count) {
   for (int i = 0; i < count; ++i) ::RemoveDirectoryW((start + std::to_wstring(i)).c_str());
 }
 
+/// As a keyboard of any language does.
+void TypeCharacter(wchar_t character) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wScan = character;
+  for (const DWORD release : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+    input.ki.dwFlags = KEYEVENTF_UNICODE | release;
+    ::SendInput(1, &input, sizeof input);
+  }
+}
+
 class ExplorerTree : public vcl::TStandardForm {
  protected:
-  ExplorerTree() : Tree(new TTree(&Form)) {
+  ExplorerTree() {
     wchar_t temp[MAX_PATH];
     ::GetTempPathW(MAX_PATH, temp);
     Root = fs::path(temp) / (L"explorer" + std::to_wstring(::GetCurrentProcessId()));
     Make(L"b");
     Make(L"a/a1/a2");
     Make(L"Äpfel ☃");
-    Tree->SetBounds(0, 0, 300, 350);
-    Tree->SetParent(&Form);
+    MakeTree();
   }
   ~ExplorerTree() override {
     delete Tree;
@@ -70,6 +94,11 @@ class ExplorerTree : public vcl::TStandardForm {
     fs::remove_all(Root, ignored);
   }
 
+  void MakeTree() {
+    Tree = new TTree(&Form);
+    Tree->SetBounds(0, 0, 300, 350);
+    Tree->SetParent(&Form);
+  }
   void Make(const std::wstring& folder) const { fs::create_directories(Root / folder); }
   /// The folder's path as the tree has it.
   std::string Path(const std::wstring& folder = {}) const {
@@ -97,7 +126,7 @@ class ExplorerTree : public vcl::TStandardForm {
   }
 
   fs::path Root;
-  TTree* Tree;
+  TTree* Tree = nullptr;
 };
 
 TEST_F(ExplorerTree, ShowsTheFoldersOnTheWayToADirectory) {
@@ -162,7 +191,68 @@ TEST_F(ExplorerTree, RemoteDrivesAreHiddenAndRefusedWithoutNetwork) {
   EXPECT_EQ(Tree->Directory(), "C:\\");
   Tree->SetNetAllow(true);
   Tree->SetDirectory("Z:\\");
-  EXPECT_EQ(Tree->Directory(), "Z:\\");
+  Tree->SetNetAllow(false);
+  ASSERT_TRUE(Tree->Selected());
+  EXPECT_EQ(static_cast<TQELExplorerNode*>(Tree->Selected())->Folder(), Tree->Directory());
+  EXPECT_NE(Tree->Directory()[0], 'Z');
+}
+
+TEST_F(ExplorerTree, FoldersThatAreLockedOrVanishAreSkipped) {
+  Make(L"a/locked/inside");
+  ShowForm();
+  Tree->SetFastLoad(true);
+  Tree->SetDirectory(Path());
+  TQELExplorerNode* a = Node(L"a");
+  const UINT errorMode = ::GetErrorMode();
+  const TImportPatch search("qel.dll", "FindFirstFileW", &FindFirst);
+  locks = true;
+  Tree->OnAddDirectory = [&](vcl::TObject*, std::string path, bool&) {
+    EXPECT_EQ(vcl::Screen()->Cursor(), vcl::crHourGlass);
+    if (path == Path(L"a/locked")) fs::remove_all(Root / L"a/a1");
+  };
+  a->SetExpanded(true);
+  Tree->OnAddDirectory = nullptr;
+  testinput::Pump();
+  EXPECT_EQ(searched, "a,") << "nothing ahead";
+  EXPECT_EQ(::GetErrorMode(), errorMode);
+  for (const wchar_t* name : {L"a/locked", L"a/a1"}) {
+    if (!Node(name)) continue;  // Whether the system still finds what went while it searched.
+    EXPECT_TRUE(Node(name)->HasChildren());
+    Node(name)->SetExpanded(true);
+    EXPECT_FALSE(Node(name)->Expanded() || Node(name)->HasChildren());
+  }
+  EXPECT_NE(Refused([&] { Tree->SetDirectory(Path(L"a/a1")); }), "not refused");
+  locks = false;
+  Tree->ReadNew();
+  EXPECT_EQ(Kids(a), "locked,");
+  EXPECT_EQ(Kids(Node(L"a/locked")), "inside,");
+  Make(L"a/since/then");
+  Tree->SetDirectory(Path(L"a/since/then"));
+  EXPECT_EQ(Tree->Directory(), Path(L"a/since/then"));
+  EXPECT_TRUE(Node(L"b")->HasChildren());
+  Tree->SetFastLoad(false);
+  EXPECT_FALSE(Node(L"b")->HasChildren());
+}
+
+TEST_F(ExplorerTree, MayBeFreedByItsHandlers) {
+  const auto free = [&] { delete std::exchange(Tree, nullptr); };
+  const std::function<void()> hooks[] = {
+      [&] { Tree->OnAddDirectory = [&](vcl::TObject*, std::string, bool&) { free(); }; },
+      [&] { Tree->OnChange = [&](vcl::TObject*, vcl::TTreeNode*) { free(); }; },
+      [&] { Tree->OnDeleteItem = [&](vcl::TObject*, vcl::TTreeNode*) { free(); }; }};
+  ShowForm();
+  for (const auto& hook : hooks) {
+    Make(L"b/gone");
+    Tree->SetDirectory(Path(L"b/gone"));
+    fs::remove(Root / L"b/gone");
+    Make(L"b/come");
+    hook();
+    Tree->ReadNew();
+    if (Tree) Tree->SetDirectory(Path(L"a/a1"));
+    EXPECT_EQ(Tree, nullptr);
+    fs::remove(Root / L"b/come");
+    MakeTree();
+  }
 }
 
 TEST_F(ExplorerTree, AHandlerSearchesInPlaceOfTheDisk) {
@@ -187,7 +277,9 @@ TEST_F(ExplorerTree, AHandlerSearchesInPlaceOfTheDisk) {
   EXPECT_EQ(calls, "10000");
   EXPECT_EQ(Kids(drive), "X,y,");
   Tree->SetDirectory("c:/y");
-  EXPECT_EQ(Tree->Directory(), "C:\\y\\");
+  Tree->SetDrive('Z');
+  Tree->SetDrive('C');
+  EXPECT_EQ(Tree->Directory(), "C:\\y\\") << "remembered, though not on the disk";
 }
 
 TEST_F(ExplorerTree, ReadingAnewKeepsWhatIsExpandedAndSelected) {
@@ -218,32 +310,45 @@ TEST_F(ExplorerTree, FoldersAreMadeRenamedAndDeleted) {
   a->Expand(false);
   TQELExplorerNode* inner = Node(L"a/a1");
   Tree->SetSelected(a);
-  Key(VK_F2);
-  ASSERT_TRUE(testinput::PumpUntil([&] { return Tree->IsEditing(); }));
-  Type("z9");
-  Key(VK_RETURN);
-  EXPECT_TRUE(testinput::PumpUntil([&] { return fs::exists(Root / L"z9/a1/a2"); }));
-  EXPECT_EQ(inner->Folder(), Path(L"z9/a1")) << "what is below has moved with it";
+  const auto rename = [this](const wchar_t* name, WORD end) {
+    Key(VK_F2);
+    ASSERT_TRUE(testinput::PumpUntil([&] { return Tree->IsEditing(); }));
+    for (; *name; ++name) TypeCharacter(*name);
+    Key(end);
+    EXPECT_TRUE(testinput::PumpUntil([&] { return !Tree->IsEditing(); }));
+  };
+  rename(L"no", VK_ESCAPE);
+  rename(L"a?", VK_RETURN);
+  EXPECT_EQ(std::exchange(Errors, ""), "'a?' cannot be the name of a folder");
+  EXPECT_EQ(a->Text(), "a");
+  rename(L"zÄ☃. ", VK_RETURN);
+  EXPECT_TRUE(testinput::PumpUntil([&] { return fs::exists(Root / L"zÄ☃/a1/a2"); }));
+  EXPECT_EQ(inner->Folder(), Path(L"zÄ☃/a1")) << "what is below has moved with it";
   EXPECT_EQ(Node()->GetLastChild(), a) << "and stands in its place";
-  EXPECT_EQ(Tree->Directory(), Path(L"z9"));
+  EXPECT_EQ(Tree->Directory(), Path(L"zÄ☃"));
   for (const char* name : {"", "..", "x/y", "b"}) {
     EXPECT_NE(Refused([&] { Tree->RenamePath(a, name); }), "not refused") << name;
   }
-  EXPECT_EQ(a->Text(), "z9");
+  EXPECT_EQ(a->Text(), "zÄ☃");
   const TImportPatch shell("qel.dll", "SHFileOperationW", &Recycle);
-  const auto answer = [this](WORD key, TQELExplorerNode* node) {
-    std::thread user([key] {
+  Tree->SetReadOnly(true);
+  Key(VK_F2);
+  Key(VK_DELETE);
+  EXPECT_FALSE(Tree->IsEditing());
+  Tree->SetReadOnly(false);
+  const auto deleteAndAnswer = [this](WORD answer) {
+    std::thread user([answer] {
       ::Sleep(300);
-      testinput::SendKey(key, true), testinput::SendKey(key, false);
+      testinput::SendKey(answer, true), testinput::SendKey(answer, false);
     });
-    const bool done = Tree->DeletePath(node);
+    Key(VK_DELETE);
     user.join();
-    return done;
+    testinput::Pump();
   };
-  EXPECT_FALSE(answer(VK_ESCAPE, a));
+  deleteAndAnswer(VK_ESCAPE);
   EXPECT_EQ(recycled, L"");
-  EXPECT_TRUE(answer(VK_RETURN, a));
-  EXPECT_EQ(vcl::ToUtf8(recycled) + "\\", Path(L"z9"));
+  deleteAndAnswer(VK_RETURN);
+  EXPECT_EQ(vcl::ToUtf8(recycled) + "\\", Path(L"zÄ☃"));
   EXPECT_EQ(Tree->Directory(), Path());
   EXPECT_EQ(Kids(Node()), "Äpfel ☃,b,c,");
   EXPECT_NE(Refused([&] { Tree->DeletePath(Tree->GetNodeFromPath("C:\\")); }), "not refused");
