@@ -28,8 +28,7 @@ bool RegistryHasMapi() {
       ::RegQueryValueExA(key, "MAPI", nullptr, nullptr, reinterpret_cast<BYTE*>(value), &size);
   ::RegCloseKey(key);
   // The registry ends a text with a zero only when it was written with one.
-  return status == ERROR_SUCCESS && size <= sizeof value &&
-         std::string(value, ::strnlen(value, size)) == "1";
+  return status == ERROR_SUCCESS && std::string(value, ::strnlen(value, size)) == "1";
 }
 
 /// While it lives, no box of the system tells the user of files that can't be opened.

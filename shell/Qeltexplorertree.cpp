@@ -162,7 +162,9 @@ void TQELExplorerTree::GoToNearest(std::string path) {
     if (Allowed(path)) node = GetNodeFromPath(path);
     if (watch.Gone()) return;
   }
-  if (node) SetSelected(node);
+  if (!node) return;
+  if (node == Selected()) FDirectory = node->Folder();  // Nothing else would tell.
+  SetSelected(node);
 }
 
 void TQELExplorerTree::Change(TTreeNode* node) {

@@ -172,7 +172,6 @@ void TQELExplorerTree::GetKids(TQELExplorerNode* node) {
   }
   if (watch.Gone()) return;
   Fill(node, folders);
-  if (folders.empty()) node->SetHasChildren(false);
 }
 
 bool TQELExplorerTree::AskAdd(const std::string& path) {

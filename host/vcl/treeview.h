@@ -88,6 +88,7 @@ class VCL_API TCustomTreeView : public TWinControl {
   /// Orders the nodes, and keeps them so.
   void SetSortType(TSortType type);
 
+  /// What these answer the window may be waiting for: they may delete nodes, but not free the tree.
   TTVAllowEvent OnChanging, OnExpanding, OnCollapsing, OnEditing;
   TTVNodeEvent OnChange, OnExpanded, OnCollapsed, OnDeletion, OnGetImageIndex, OnGetSelectedIndex;
   TTVEditedEvent OnEdited;

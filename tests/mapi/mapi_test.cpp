@@ -11,6 +11,7 @@ namespace {
 using qel::TQELMapiMail;
 using qel::TQELMapiMessage;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 using TCalls = std::vector<std::string>;
@@ -77,9 +78,10 @@ TEST_F(MapiMail, IsHandedOverWithEveryFieldInOneSession) {
   message->RecipientsBC()->SetText("[smtp:d@x.test]\nEve");
   message->Attachments()->Add(file);
   message->Attachments()->Add("C:\\is\\not\\there.txt");
+  message->Attachments()->Add(folder.Path().string());
   message->SetReceipt(true);
   Provider().Names = {{"Bob", "Bob Smith"}, {"[smtp:d@x.test]", "Dee"}};
-  Provider().Results["Resolve"] = {0, 14, 14, 21, 0};
+  Provider().Results["Resolve"] = {0, 14, 14, 21, 0, 0, 2};
   EXPECT_TRUE(Mail->Execute());
   EXPECT_THAT(
       Calls(),
@@ -87,11 +89,11 @@ TEST_F(MapiMail, IsHandedOverWithEveryFieldInOneSession) {
                   "Before Grüße", "Resolve 7 0 'Bob' 0 0", "Resolve 7 0 'nobody' 0 0",
                   "Resolve 7 0 'nobody' 8 0", "Resolve 7 0 'Cy' 0 0", "Resolve 7 0 'Cy' 8 0",
                   "Resolve 7 0 '[smtp:d@x.test]' 0 0", "Resolve 7 0 'Eve' 0 0",
-                  "Send 7 0 0 0 {0 'Grüße' '  \rone\r\ntwo\r\n-- \r\nAnn\r\n' - - - 2 - 6"
+                  "Send 7 0 0 0 {0 'Grüße' '   \rone\r\ntwo\r\n-- \r\nAnn\r\n' - - - 2 - 6"
                   " {0 1 'Bob Smith' - 0 -} {0 0 - - 0 -} {0 0 - - 0 -} {0 2 'Cy' - 0 -}"
-                  " {0 2 'smtp:d@x.test' 'smtp:d@x.test' 0 -} {0 3 'Eve' - 0 -}"
-                  " 2 {0 0 -1 '" +
-                      file + "' 'ünï.txt' -} {0 0 -1 '' '' -}}",
+                  " {0 2 'smtp:d@x.test' 'smtp:d@x.test' 0 -} {0 0 - - 0 -}"
+                  " 3 {0 0 -1 '" +
+                      file + "' 'ünï.txt' -} {0 0 -1 '' '' -} {0 0 -1 '' '' -}}",
                   "After Grüße", "AfterSendAll", "BeforeLogoff", "Logoff 7 0 0 0", "LogoffSuccess",
                   "AfterExecute"));
   EXPECT_TRUE(message->Sent());
@@ -145,6 +147,12 @@ TEST_F(MapiMail, TakesTheProfileOfTheRegistry) {
   registry.WriteString("DefaultProfile", "newer");
   EXPECT_EQ(profile(), "newer");
   EXPECT_EQ(Only("Logon 0").back(), "Logon 0 'newer' '' 0 0");
+  Provider().Results["Logon"] = {3};
+  Calls();
+  profile();
+  profile();
+  EXPECT_EQ(Only("Logon "),
+            (TCalls{"Logon 0 'newer' '' 0 0", "Logon 0 - - 1 0", "Logon 0 'newer' '' 0 0"}));
   registry.WriteInteger("DefaultProfile", 1);
   EXPECT_EQ(profile(), "");
   registry.DeleteKey(plain);
@@ -168,11 +176,15 @@ TEST_F(MapiMail, ClassesOfAddressesInBracketsReachOneLineFurther) {
     Provider().Names = {{each.Line, each.Known}};
     Mail->SendMapi();
     EXPECT_THAT(Only("Send"),
-                ElementsAre(testing::HasSubstr(" - 3 " + std::string(each.Expected) + " 0 -}")));
+                ElementsAre(HasSubstr(" - 3 " + std::string(each.Expected) + " 0 -}")));
   }
   message->RecipientsTo()->SetText(std::string(254, 'n') + "ö");
   Mail->SendMapi();
   EXPECT_EQ(Only("Resolve")[0], "Resolve 0 0 '" + std::string(254, 'n') + "' 0 0");
+  std::vector<qel::TQELMapiRecipient> recipients{{3, "former", "former"}};
+  Provider().Results["Resolve"] = {2};
+  Mail->TheRecipients(*message, recipients);
+  EXPECT_EQ(recipients[0].RecipClass, 0) << "what is not known is empty";
 }
 
 TEST_F(MapiMail, ShowsTheDialogWhereToldOrWithoutRecipients) {
@@ -196,23 +208,25 @@ TEST_F(MapiMail, StopsAtOneThatIsTooLargeAndDeletesNothing) {
   Mail->SetDeleteAfterSend(true);
   large->Attachments()->Add("x");
   EXPECT_EQ(Mail->SendMapi(), 9);
-  large->RecipientsTo()->Add("");
-  EXPECT_EQ(Mail->SendMapi(), 10);
+  Mail->BeforeSendMail = [&](auto*, TQELMapiMessage* message) {
+    if (message == large) large->RecipientsTo()->Add("");
+  };
+  EXPECT_EQ(Mail->SendMapi(), 10) << "as the handler has left it";
   EXPECT_FALSE(large->Sent());
   EXPECT_EQ(Only("After"), (TCalls{"After first", "After large", "After first", "After first"}));
   EXPECT_EQ(Mail->Messages()->Count(), 2);
 }
 
 TEST_F(MapiMail, DeletesWhatWasSentButTheLast) {
-  for (const char* subject : {"1", "2", "3", "4"}) Add(subject);
-  Provider().Results["Send"] = {0, 18, 0, 9};
+  for (const char* subject : {"1", "2", "3", "4", "5"}) Add(subject);
+  Provider().Results["Send"] = {0, 0, 18, 0, 9};
   EXPECT_EQ(Mail->SendMapi(), 9);
   EXPECT_EQ(Mail->Messages()->Count(), 2);
   Mail->OnDeleteMail = [](vcl::TObject*, TQELMapiMessage*) { throw vcl::Exception("keep it"); };
   EXPECT_EQ(Mail->SendMapi(), 0);
   EXPECT_EQ(Mail->Messages()->Count(), 2);
   EXPECT_THAT(Application.Errors, ElementsAre("keep it"));
-  EXPECT_EQ(Only("Delete"), (TCalls{"Delete 1", "Delete 3"}));
+  EXPECT_EQ(Only("Delete"), (TCalls{"Delete 1", "Delete 2", "Delete 4"}));
 }
 
 TEST_F(MapiMail, GoesOnAfterWhatGoesWrongWithOne) {
@@ -322,14 +336,21 @@ TEST_F(MapiMail, ComesBackFromAFormFileAndSendsWhatItHolds) {
   DeleteAfterSend = False
 end
 )";
-  TQELMapiMail read(nullptr);
-  vcl::TMemoryStream file, written;
+  const auto write = [](TQELMapiMail& mail) {
+    vcl::TMemoryStream file;
+    vcl::WriteComponentText(file, &mail);
+    file.SetPosition(0);
+    return file.ReadRest();
+  };
+  TQELMapiMail read(nullptr), copy(nullptr);
+  vcl::TMemoryStream file;
   file.WriteText(text);
   file.SetPosition(0);
   vcl::ReadComponentFile(file, &read);
-  vcl::WriteComponentText(written, &read);
-  written.SetPosition(0);
-  EXPECT_EQ(written.ReadRest(), text);
+  EXPECT_EQ(write(read), text);
+  copy.SetMessages(read.Messages());
+  const auto messages = text.find("  Messages");
+  EXPECT_THAT(write(copy), HasSubstr(text.substr(messages, text.find("  Password") - messages)));
   EXPECT_TRUE(read.Execute());
   EXPECT_EQ(Only("Send 7 0 8 0 {0 'It's' '  \rone\r\n\r\n-- \r\nAnn\r\n' - - - 2 - 4").size(), 1u);
 }

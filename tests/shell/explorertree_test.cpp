@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <iostream>
 
+#include "host/rtl/formfile.h"
+#include "host/rtl/streams.h"
 #include "host/vcl/messagedialog.h"
 #include "host/vcl/screen.h"
 #include "host/vcl/windowtext.h"
@@ -24,7 +26,8 @@ class TTree : public TQELExplorerTree {
   using TQELExplorerTree::TQELExplorerTree;
 };
 
-UINT WINAPI ZIsRemote(LPCSTR root) { return *root == 'Z' ? DRIVE_REMOTE : DRIVE_FIXED; }
+UINT typeOfZ;
+UINT WINAPI DriveType(LPCSTR root) { return *root == 'Z' ? typeOfZ : DRIVE_FIXED; }
 
 std::wstring recycled;
 int WINAPI Recycle(LPSHFILEOPSTRUCTW operation) {
@@ -131,12 +134,15 @@ class ExplorerTree : public vcl::TStandardForm {
 
 TEST_F(ExplorerTree, ShowsTheFoldersOnTheWayToADirectory) {
   ShowForm();
-  std::string seen;
+  std::string seen, icons;
   Tree->OnAddDirectory = [&](vcl::TObject*, std::string path, bool& accept) {
     if (path.ends_with("\\b\\")) accept = false;
   };
   Tree->OnChange = [&](vcl::TObject*, vcl::TTreeNode* node) { seen = node->Text(); };
+  Tree->OnGetIcon = [&](vcl::TObject*, vcl::TTreeNode* node) { icons += node->Text() + ","; };
   Tree->SetDirectory(" " + Path(L"a/a1") + " ");
+  Tree->Repaint();
+  EXPECT_NE(icons.find("a1,"), std::string::npos);
   EXPECT_EQ(Tree->Directory(), Path(L"a/a1"));
   EXPECT_EQ(seen, "a1");
   EXPECT_TRUE(Tree->Selected()->IsVisible());
@@ -149,6 +155,30 @@ TEST_F(ExplorerTree, ShowsTheFoldersOnTheWayToADirectory) {
   EXPECT_EQ(Tree->Directory(), Path(L"a/a1")) << "what is refused changes nothing";
   Tree->RecreateWnd();
   EXPECT_EQ(Tree->Selected(), Node(L"a/a1"));
+}
+
+TEST_F(ExplorerTree, ComesBackFromAFormFile) {
+  const auto write = [this] {
+    vcl::TMemoryStream file;
+    WriteComponentText(file, Tree);
+    file.SetPosition(0);
+    return file.ReadRest();
+  };
+  EXPECT_EQ(write().find("Directory"), std::string::npos) << "none was given";
+  vcl::TMemoryStream file;
+  file.WriteText("object TQELExplorerTree\n  FastLoad = True\n  Directory = '" + Path(L"a/no/no") +
+                 "'\nend\n");
+  file.SetPosition(0);
+  vcl::ReadComponentFile(file, Tree);
+  EXPECT_EQ(Tree->Directory(), Path(L"a/no/no")) << "until it is shown";
+  ShowForm();
+  EXPECT_EQ(Tree->Directory(), Path(L"a"));
+  EXPECT_EQ(Tree->Selected(), Node(L"a"));
+  file.SetPosition(0);
+  vcl::ReadComponentFile(file, Tree);
+  EXPECT_EQ(Tree->Directory(), Path(L"a"));
+  EXPECT_NE(write().find("  FastLoad = True\n  Directory = '" + Path(L"a") + "'\n"),
+            std::string::npos);
 }
 
 TEST_F(ExplorerTree, AFolderOfARecycleBinKeepsWhatItHolds) {
@@ -180,10 +210,22 @@ TEST_F(ExplorerTree, DrivesRememberTheirFolders) {
   EXPECT_EQ(Tree->Directory(), std::string(1, driveOfRoot) + ":\\");
 }
 
+TEST_F(ExplorerTree, DrivesWithoutAMediumAreNotLookedInto) {
+  const TImportPatch type("qel.dll", "GetDriveTypeA", &DriveType);
+  const TImportPatch search("qel.dll", "FindFirstFileW", &FindFirst);
+  searched.clear();
+  for (const UINT each : {DRIVE_REMOVABLE, DRIVE_CDROM, DRIVE_REMOTE}) {
+    typeOfZ = each;
+    EXPECT_TRUE(Tree->GetNodeFromPath("Z:\\")->HasChildren());
+    Tree->ReadNew();
+  }
+  EXPECT_EQ(searched, "");
+}
+
 TEST_F(ExplorerTree, RemoteDrivesAreHiddenAndRefusedWithoutNetwork) {
-  ShowForm();
   Tree->SetDirectory("C:\\");
-  const TImportPatch remote("qel.dll", "GetDriveTypeA", &ZIsRemote);
+  typeOfZ = DRIVE_REMOTE;
+  const TImportPatch remote("qel.dll", "GetDriveTypeA", &DriveType);
   EXPECT_NE(Tree->GetNodeFromPath("Z:\\"), nullptr);
   Tree->SetNetAllow(false);
   EXPECT_EQ(Tree->GetNodeFromPath("Z:\\"), nullptr);
@@ -306,6 +348,7 @@ TEST_F(ExplorerTree, FoldersAreMadeRenamedAndDeleted) {
   ASSERT_TRUE(made);
   EXPECT_EQ(made->Folder(), Path(L"c/d"));
   EXPECT_TRUE(fs::exists(Root / L"c/d"));
+  EXPECT_TRUE(made->IsVisible());
   TQELExplorerNode* a = Node(L"a");
   a->Expand(false);
   TQELExplorerNode* inner = Node(L"a/a1");
@@ -331,6 +374,7 @@ TEST_F(ExplorerTree, FoldersAreMadeRenamedAndDeleted) {
   }
   EXPECT_EQ(a->Text(), "zÄ☃");
   const TImportPatch shell("qel.dll", "SHFileOperationW", &Recycle);
+  EXPECT_FALSE(Tree->GetNodeFromPath("C:\\")->EditText());
   Tree->SetReadOnly(true);
   Key(VK_F2);
   Key(VK_DELETE);
