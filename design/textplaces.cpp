@@ -96,6 +96,7 @@ std::vector<TQELTextPlace> PlacesOf(TComponent& root, const TQELReplacement& rep
 
 void ReplaceIn(const std::vector<TQELTextPlace>& places, const TQELReplacement& replacement) {
   std::vector<std::string> former;
+  former.reserve(places.size());
   for (const TQELTextPlace& each : places) former.push_back(each.Get());
   std::size_t done = 0;
   try {
