@@ -271,7 +271,7 @@ TEST_F(Designer, ToolsOfThePackageWorkOnTheForm) {
     EXPECT_EQ(dialogs::Child<TListBox>(form).Items()->Count(), 2);
     dialogs::Press(form, "&Rename them all");
   });
-  EXPECT_TRUE(Find("Button1") && Find<TComponent>("Timer1"));
+  ASSERT_TRUE(Find("Button1") && Find<TComponent>("Timer1"));
   run("Search && Replace Text", L"Search and Replace Text", [](HWND form) {
     dialogs::Child<TEdit>(form, 0).SetText("hello");
     dialogs::Child<TEdit>(form, 1).SetText("bye");
