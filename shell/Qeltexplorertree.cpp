@@ -14,7 +14,6 @@
 namespace qel {
 
 using vcl::TTreeNode;
-using vcl::TTreeNodeWatch;
 
 const vcl::TClass& TQELExplorerTree::Class() {
   using T = TQELExplorerTree;
@@ -147,9 +146,7 @@ TQELExplorerNode* TQELExplorerTree::ReadAbove(const std::string& path) {
     node = GetNodeFromPath(above);
     if (watch.Gone()) return nullptr;
   }
-  if (!node) return nullptr;
-  node->FButtonKnown = false;
-  ReadAgain(node);
+  if (node) ReadAll(node->Path());
   return watch.Gone() ? nullptr : GetNodeFromPath(path);
 }
 
@@ -199,16 +196,7 @@ TQELExplorerNode* TQELExplorerTree::GetNodeFromPath(const std::string& path) {
   const std::string wanted = folders::UpperCased(folders::Normalized(path));
   TQELExplorerNode* node = nullptr;
   for (std::size_t end = folders::RootSize(wanted); end > 0 && end <= wanted.size();) {
-    if (node) {
-      TTreeNodeWatch watch(node);
-      GetKids(node);
-      if (watch.Gone()) return nullptr;
-    }
-    const std::string part = wanted.substr(0, end);
-    node = First(*Items(), node);
-    while (node && node->Path() != part) {
-      node = static_cast<TQELExplorerNode*>(node->GetNextSibling());
-    }
+    node = ReadChild(node, wanted.substr(0, end));
     if (!node || end == wanted.size()) return node;
     end = wanted.find('\\', end) + 1;
   }

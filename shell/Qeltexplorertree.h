@@ -146,10 +146,13 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
   bool Allowed(const std::string& path) const;
   void GoTo(const std::string& path);
   TQELExplorerNode* ReadAbove(const std::string& path);
+  void ReadAll(const std::string& path);
   void GoToNearest(std::string path);
   static void MoveFolder(TQELExplorerNode* node, const std::string& folder);
   void PutInOrder(TQELExplorerNode* node);
   static TQELExplorerNode* First(const vcl::TTreeNodes& nodes, const TQELExplorerNode* parent);
+  TQELExplorerNode* ChildOf(const TQELExplorerNode* parent, const std::string& path) const;
+  TQELExplorerNode* ReadChild(TQELExplorerNode* parent, const std::string& path);
   bool IsStored() const { return FDirectoryGiven; }
 
   std::string FDirectory;

@@ -29,7 +29,13 @@ TQELExplorerNode* TQELExplorerTree::AddPath(const std::string& path) {
   const std::string folder = folders::Normalized(absolute ? given : FDirectory + given);
   if (given.empty() || folder.empty()) throw vcl::EInOutError("Invalid Directory Name");
   folders::Make(folder);
+  vcl::TWatch watch(this);
   TQELExplorerNode* made = ReadAbove(folder);
+  if (watch.Gone() || !made) return nullptr;
+  // Where the user is, if the folder that holds it is shown twice.
+  auto* here = static_cast<TQELExplorerNode*>(Selected());
+  const std::string above = folders::UpperCased(folders::ParentOf(folder));
+  if (here && here->Path() == above) made = ReadChild(here, made->Path());
   if (!made) return nullptr;
   vcl::TTreeNodeWatch madeWatch(made);
   made->MakeVisible();
@@ -46,8 +52,10 @@ void TQELExplorerTree::RenamePath(TQELExplorerNode* node, const std::string& nam
   node->AskShell();
   vcl::TTreeNodeWatch watch(node);
   PutInOrder(node);
-  vcl::TTreeNode* selected = watch.Gone() ? nullptr : Selected();
+  if (watch.Gone()) return;
+  vcl::TTreeNode* selected = Selected();
   if (selected && (selected == node || selected->HasAsParent(node))) Change(selected);
+  if (!watch.Gone()) ReadAll(static_cast<TQELExplorerNode*>(node->Parent())->Path());
 }
 
 /// The folder is somewhere else, and with it all below it.
@@ -63,16 +71,17 @@ void TQELExplorerTree::MoveFolder(TQELExplorerNode* node, const std::string& fol
 
 /// Puts a node that has another name where it belongs among those beside it.
 void TQELExplorerTree::PutInOrder(TQELExplorerNode* node) {
+  auto* parent = static_cast<TQELExplorerNode*>(node->Parent());
   std::vector<std::string> order;
-  for (vcl::TTreeNode* each = node->Parent()->GetFirstChild(); each;
-       each = each->GetNextSibling()) {
+  for (vcl::TTreeNode* each = parent->GetFirstChild(); each; each = each->GetNextSibling()) {
     order.push_back(static_cast<TQELExplorerNode*>(each)->Folder());
   }
   folders::Sort(order);
   const auto next = std::ranges::find(order, node->Folder()) + 1;
-  vcl::TTreeNode* place = next == order.end() ? nullptr : GetNodeFromPath(*next);
+  vcl::TTreeNode* place =
+      next == order.end() ? nullptr : ChildOf(parent, folders::UpperCased(*next));
   if (place == node->GetNextSibling()) return;
-  place ? node->MoveTo(place, vcl::naInsert) : node->MoveTo(node->Parent(), vcl::naAddChild);
+  place ? node->MoveTo(place, vcl::naInsert) : node->MoveTo(parent, vcl::naAddChild);
 }
 
 bool TQELExplorerTree::DeletePath(TQELExplorerNode* node) {
@@ -84,8 +93,10 @@ bool TQELExplorerTree::DeletePath(TQELExplorerNode* node) {
     return false;
   }
   if (watch.Gone()) return false;
+  vcl::TWatch tree(this);
+  const std::string parent = static_cast<TQELExplorerNode*>(node->Parent())->Path();
   if (!folders::Recycle(node->Folder(), Handle())) return false;
-  if (!watch.Gone()) DropNode(node);
+  if (!tree.Gone()) ReadAll(parent);
   return true;
 }
 

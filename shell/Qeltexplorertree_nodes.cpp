@@ -101,6 +101,15 @@ TQELExplorerNode* TQELExplorerTree::First(const vcl::TTreeNodes& nodes,
   return static_cast<TQELExplorerNode*>(parent ? parent->GetFirstChild() : nodes.GetFirstNode());
 }
 
+TQELExplorerNode* TQELExplorerTree::ChildOf(const TQELExplorerNode* parent,
+                                            const std::string& path) const {
+  TQELExplorerNode* node = First(*Items(), parent);
+  while (node && node->Path() != path) {
+    node = static_cast<TQELExplorerNode*>(node->GetNextSibling());
+  }
+  return node;
+}
+
 TQELExplorerNode* TQELExplorerTree::AddFolder(TQELExplorerNode* parent, TTreeNode* before,
                                               const std::string& folder) {
   auto* node = static_cast<TQELExplorerNode*>(before ? Items()->Insert(before, {})
@@ -172,6 +181,15 @@ void TQELExplorerTree::GetKids(TQELExplorerNode* node) {
   }
   if (watch.Gone()) return;
   Fill(node, folders);
+}
+
+TQELExplorerNode* TQELExplorerTree::ReadChild(TQELExplorerNode* parent, const std::string& path) {
+  if (parent) {
+    TTreeNodeWatch watch(parent);
+    GetKids(parent);
+    if (watch.Gone()) return nullptr;
+  }
+  return ChildOf(parent, path);
 }
 
 bool TQELExplorerTree::AskAdd(const std::string& path) {
@@ -300,6 +318,19 @@ void TQELExplorerTree::ReadAgain(TQELExplorerNode* node) {
     TTreeNodeWatch child(each);
     ReadAgain(static_cast<TQELExplorerNode*>(each));
     if (watch.Gone() || child.Gone()) return;
+  }
+}
+
+/// Reads a folder anew wherever it is shown: below its drive, and where a folder of the user's has
+/// it on the top level.
+void TQELExplorerTree::ReadAll(const std::string& path) {
+  const TUpdating hold(*this);
+  for (TTreeNode* each = Items()->GetFirstNode(); each; each = each->GetNext()) {
+    auto* node = static_cast<TQELExplorerNode*>(each);
+    if (node->Path() != path) continue;
+    TTreeNodeWatch watch(node);
+    ReadAgain(node);
+    if (watch.Gone()) return;
   }
 }
 

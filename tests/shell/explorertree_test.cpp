@@ -32,6 +32,7 @@ UINT WINAPI DriveType(LPCSTR root) { return *root == 'Z' ? typeOfZ : DRIVE_FIXED
 std::wstring recycled;
 int WINAPI Recycle(LPSHFILEOPSTRUCTW operation) {
   recycled = operation->fFlags & FOF_ALLOWUNDO ? operation->pFrom : L"not to the bin";
+  fs::remove_all(operation->pFrom);
   return 0;
 }
 
@@ -396,6 +397,25 @@ TEST_F(ExplorerTree, FoldersAreMadeRenamedAndDeleted) {
   EXPECT_EQ(Tree->Directory(), Path());
   EXPECT_EQ(Kids(Node()), "Äpfel ☃,b,c,");
   EXPECT_NE(Refused([&] { Tree->DeletePath(Tree->GetNodeFromPath("C:\\")); }), "not refused");
+}
+
+TEST_F(ExplorerTree, AFolderIsChangedWhereverItIsShown) {
+  ShowForm();
+  auto* desktop = static_cast<TQELExplorerNode*>(Tree->Items()->GetFirstNode());
+  auto* below = Tree->GetNodeFromPath(desktop->Folder());
+  ASSERT_NE(below, desktop) << "below its drive, too";
+  Tree->SetSelected(desktop);
+  Tree->AddPath("zz explorer")->SetSelected(true);
+  auto* added = static_cast<TQELExplorerNode*>(Tree->Selected());
+  EXPECT_EQ(added->Parent(), desktop);
+  Tree->AddPath("../aa explorer");
+  Tree->RenamePath(added, "Aa explorer 2");
+  EXPECT_EQ(added->Parent(), desktop);
+  EXPECT_EQ(Kids(below), Kids(desktop));
+  EXPECT_NE(Kids(below).find("aa explorer,Aa explorer 2,"), std::string::npos);
+  for (const char* name : {"Aa explorer 2", "aa explorer"}) {
+    fs::remove(vcl::ToUtf16(desktop->Folder() + name));
+  }
 }
 
 TEST_F(ExplorerTree, TenThousandFoldersOpenAtOnce) {
