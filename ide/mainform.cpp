@@ -110,8 +110,14 @@ void TMainForm::LoadPackages(const TStart& start) {
     const TPackageEntry& entry = FPackages->Load(name);
     if (!entry.Error.empty()) Tell(entry.Error);
   }
-  for (const TExpertClass& each : RegisteredExperts()) {
-    FDesigner->Try([&] { FExperts.push_back(each.Make(*this)); });
+  TakePackages();
+}
+
+/// Shows the components of the packages, and makes the add-ins that are not there yet.
+void TMainForm::TakePackages() {
+  for (; FTriedExperts < RegisteredExperts().size(); ++FTriedExperts) {
+    const TExpertClass& expert = RegisteredExperts()[FTriedExperts];
+    FDesigner->Try([&] { FExperts.push_back(expert.Make(*this)); });
   }
   FPalette->SetPages(RegisteredComponents());
 }

@@ -89,6 +89,7 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   void MenuClick(vcl::TObject* sender);
   void AutosaveTimerTick(vcl::TObject* sender);
   void LoadPackages(const TStart& start);
+  void TakePackages();
   void FormChanged(TFormDesigner& designer);
   void RootGoing();
   void SelectionChanged();
@@ -151,6 +152,7 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   std::unique_ptr<TOpenForms> FForms;
   TFormDesigner* FDesigner = nullptr;  // The active one of them.
   std::vector<std::unique_ptr<vcl::TExpert>> FExperts;
+  std::size_t FTriedExperts = 0;  // Of the registered ones.
 };
 
 }  // namespace ide

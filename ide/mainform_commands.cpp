@@ -120,12 +120,10 @@ void TMainForm::CreationClick(TObject*) {
 void TMainForm::PackagesClick(TObject*) {
   ShowPackages(*FPackages, [this](const std::string& fileName) {
     const TPackageEntry& entry = FPackages->Load(fileName);
-    std::vector<std::string> names;
-    for (const auto& each : FPackages->Entries()) names.push_back(each->FileName);
-    FSettings->SetPackages(names);
-    FPalette->SetPages(RegisteredComponents());
+    TakePackages();
     return entry.Error;
   });
+  FSettings->SetPackages(FPackages->Wanted());
 }
 
 void TMainForm::PreviewClick(TObject*) {

@@ -17,6 +17,7 @@ TPackageEntry& TPackages::Entry(const std::string& fileName) {
 
 const TPackageEntry& TPackages::Load(const std::string& fileName) {
   TPackageEntry& entry = Entry(fileName);
+  entry.Wanted = true;
   if (entry.Package) return entry;
   entry.Error.clear();
   try {
@@ -25,6 +26,14 @@ const TPackageEntry& TPackages::Load(const std::string& fileName) {
     entry.Error = error.what();
   }
   return entry;
+}
+
+std::vector<std::string> TPackages::Wanted() const {
+  std::vector<std::string> names;
+  for (const auto& each : FEntries) {
+    if (each->Wanted) names.push_back(each->FileName);
+  }
+  return names;
 }
 
 }  // namespace ide

@@ -15,6 +15,8 @@ struct TPackageEntry {
   /// Why it could not be loaded; empty when it is.
   std::string Error;
   std::unique_ptr<vcl::TPackage> Package;
+  /// False: the next start of the program does not ask for it.
+  bool Wanted = true;
 };
 
 class TPackages {
@@ -23,6 +25,8 @@ class TPackages {
   /// again if it has failed.
   const TPackageEntry& Load(const std::string& fileName);
   const std::vector<std::unique_ptr<TPackageEntry>>& Entries() const { return FEntries; }
+  /// The files that the next start is to ask for.
+  std::vector<std::string> Wanted() const;
 
  private:
   TPackageEntry& Entry(const std::string& fileName);

@@ -14,8 +14,8 @@ class TPackagesForm : public TForm {
  public:
   using TLoad = std::function<std::string(const std::string&)>;
 
-  TPackagesForm(const TPackages& packages, const TLoad& load)
-      : TForm(nullptr), FPackages(packages), FLoad(load), FList(new TMemo(this)) {
+  TPackagesForm(TPackages& packages, const TLoad& load)
+      : TForm(nullptr), FPackages(packages), FLoad(load), FList(new TListBox(this)) {
     constexpr int width = 520;
     constexpr int height = 260;
     SetCaption("Packages");
@@ -25,8 +25,7 @@ class TPackagesForm : public TForm {
     SetClientHeight(height);
     FList->SetParent(this);
     FList->SetBounds(8, 8, width - 16, height - 49);
-    FList->SetReadOnly(true);
-    FList->SetScrollBars(ssVertical);
+    AddButton("&Remove", width - 264)->OnClick = TNotifyEvent([this](TObject*) { Remove(); });
     AddButton("&Load...", width - 176)->OnClick = TNotifyEvent([this](TObject*) { LoadOther(); });
     TButton* close = AddButton("Close", width - 88);
     close->SetModalResult(mrOk);
@@ -42,11 +41,22 @@ class TPackagesForm : public TForm {
     button->SetBounds(left, ClientHeight() - 33, 80, 25);
     return button;
   }
+  static std::string LineOf(const TPackageEntry& entry) {
+    const std::string line = entry.Error.empty() ? entry.FileName : entry.Error;
+    return entry.Wanted ? line : Concat(line, " (removed: not there after the next start)");
+  }
   void ShowAll() {
-    FList->Lines()->Clear();
-    for (const auto& each : FPackages.Entries()) {
-      FList->Lines()->Add(each->Error.empty() ? each->FileName : each->Error);
-    }
+    FList->Items()->Clear();
+    for (const auto& each : FPackages.Entries()) FList->Items()->Add(LineOf(*each));
+  }
+  /// What is loaded stays so: the forms may hold its components.
+  void Remove() {
+    const int line = FList->ItemIndex();
+    if (line < 0) return;
+    TPackageEntry& entry = *FPackages.Entries()[static_cast<std::size_t>(line)];
+    entry.Wanted = !entry.Wanted;
+    ShowAll();
+    FList->SetItemIndex(line);
   }
   void LoadOther() {
     TOpenDialog dialog(nullptr);
@@ -57,14 +67,14 @@ class TPackagesForm : public TForm {
     if (!error.empty()) MessageDlg(error, mtError, {mbOK});
   }
 
-  const TPackages& FPackages;
+  TPackages& FPackages;
   TLoad FLoad;
-  TMemo* FList;
+  TListBox* FList;
 };
 
 }  // namespace
 
-void ShowPackages(const TPackages& packages,
+void ShowPackages(TPackages& packages,
                   const std::function<std::string(const std::string& fileName)>& load) {
   TPackagesForm(packages, load).ShowModal();
 }

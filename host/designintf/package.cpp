@@ -1,6 +1,7 @@
 #include "host/designintf/package.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "host/designintf/registered.h"
@@ -27,6 +28,12 @@ bool LiesIn(const void* module, T* address) {
   return ModuleOf(reinterpret_cast<const void*>(address)) == module;
 }
 
+/// The modules of all packages.
+std::set<void*>& Loaded() {
+  static std::set<void*> modules;
+  return modules;
+}
+
 /// Hints are shown in a window of the library's own class from now on.
 void UsePlainHints() {
   SetHintWindowClass(THintWindow::Class());
@@ -48,6 +55,15 @@ TPackage::TPackage(const std::string& fileName) : FFileName(fileName) {
     throw EPackageError(
         Concat("The package ", fileName, " cannot be loaded: ", os::LastErrorText()));
   }
+  const auto refuse = [&](const char* why) {
+    ::FreeLibrary(static_cast<HMODULE>(FModule));
+    throw EPackageError(Concat("The package ", fileName, " cannot be registered: ", why));
+  };
+  // What the module has registered in another way is not this package's to take back.
+  if (!EntryPoint<TRegisterProc>(FModule, "Register")) {
+    refuse("it has no entry point named Register");
+  }
+  if (!Loaded().insert(FModule).second) refuse("it is loaded already");
   try {
     Register();
   } catch (const std::exception& error) {
@@ -62,9 +78,7 @@ TPackage::TPackage(const std::string& fileName) : FFileName(fileName) {
 TPackage::~TPackage() { TakeBack(); }
 
 void TPackage::Register() {
-  const auto proc = EntryPoint<TRegisterProc>(FModule, "Register");
-  if (!proc) throw EPackageError("it has no entry point named Register");
-  proc();
+  EntryPoint<TRegisterProc>(FModule, "Register")();
   if (const auto expert = EntryPoint<TRegisterProc>(FModule, "RegisterExpert")) expert();
 }
 
@@ -85,6 +99,7 @@ void TPackage::TakeBack() {
     if (ours(each)) UnRegisterClass(*each);
   }
   if (ours(&HintWindowClass())) UsePlainHints();
+  Loaded().erase(FModule);
   ::FreeLibrary(static_cast<HMODULE>(std::exchange(FModule, nullptr)));
 }
 
