@@ -14,9 +14,9 @@ class DataControls : public TStandardForm {
  protected:
   DataControls() {
     Data.FieldDefs()->Add("Name", ftString);
-    Data.FieldDefs()->Add("Age", ftInteger);
+    Data.FieldDefs()->Add("Money", ftCurrency);
     Data.Open();
-    for (const char* name : {"Ann", "Bob", "Cid"}) Data.AppendRecord({std::string(name)});
+    for (const char* name : {"Ann", "Bob", "Cid"}) Data.AppendRecord({std::string(name), 2.505});
     Data.First();
     Source.SetDataSet(&Data);
   }
@@ -34,9 +34,9 @@ class DataControls : public TStandardForm {
 
 TEST_F(DataControls, AnEditShowsTheFieldAndWritesWhatIsTyped) {
   auto* name = MakeEdit("Name", 10);
-  auto* age = MakeEdit("Age", 40);
+  auto* money = MakeEdit("Money", 40);
+  TField& amount = *Data.FieldByName("Money");
   ShowForm();
-  EXPECT_EQ(name->Text(), "Ann");
   Data.Next();
   EXPECT_EQ(name->Text(), "Bob");
   name->SetFocus();
@@ -48,47 +48,100 @@ TEST_F(DataControls, AnEditShowsTheFieldAndWritesWhatIsTyped) {
   Key(VK_ESCAPE);
   EXPECT_EQ(name->Text(), "Bob");
   Type("y");
-  age->SetFocus();
+  amount.SetAsFloat(3.505);
+  Data.Post();
   EXPECT_EQ(Name(), "y");
+  EXPECT_EQ(amount.AsFloat(), 3.505) << "what is only shown is not written";
+  for (const auto& begin : {std::function<void()>([&] { Key(VK_DELETE); }),
+                            std::function<void()>([&] { name->Perform(WM_CUT, 0, 0); })}) {
+    name->SelectAll();
+    begin();
+    EXPECT_EQ(name->Text(), "");
+    EXPECT_EQ(Data.State(), dsEdit);
+    Data.Cancel();
+  }
+  EXPECT_EQ(money->Text(), amount.DisplayText());
+  money->SetFocus();
+  EXPECT_EQ(money->Text(), "3.505") << "all of it, to be edited";
   Type("z");
   name->SetFocus();
   testinput::Pump();
-  EXPECT_THAT(Errors, testing::HasSubstr("'z' is not a valid integer"));
-  EXPECT_TRUE(age->Focused());
+  EXPECT_THAT(Errors, testing::HasSubstr("z' is not a valid floating point"));
+  EXPECT_TRUE(money->Focused());
   Errors.clear();
   Key(VK_ESCAPE);
   Type("7");
+  name->SetFocus();
+  EXPECT_EQ(money->Text(), "7.00");
   Data.Post();
-  EXPECT_EQ(Data.FieldByName("Age")->AsInteger(), 7);
+  EXPECT_EQ(amount.AsFloat(), 7);
   Source.SetAutoEdit(false);
   Type("8");
   EXPECT_EQ(Data.State(), dsBrowse);
-  EXPECT_EQ(age->Text(), "7");
+  EXPECT_EQ(name->Text(), "y");
   Data.Close();
-  EXPECT_EQ(age->Text(), "");
+  EXPECT_EQ(name->Text(), "");
 }
 
-TEST_F(DataControls, AGridFollowsTheDataAndMovesIt) {
+TEST_F(DataControls, AGridMovesByKeysMouseAndScrollBar) {
+  auto* grid = Make<TDBGrid>(10, 10);
+  grid->SetDataSource(&Source);
+  for (int i = 4; i <= 20; ++i) Data.AppendRecord({std::to_string(i)});
+  Data.First();
+  ShowForm();
+  grid->SetFocus();
+  const int row = std::abs(grid->Font()->Height()) + 8;
+  const int page = grid->ClientHeight() / row - 1;
+  const auto scroll = [&](int command) { grid->Perform(WM_VSCROLL, command, 0); };
+  struct TCase {
+    const char* What;
+    std::function<void()> Move;
+    int Number;
+  };
+  const TCase cases[] = {
+      {"down", [&] { Key(VK_DOWN); }, 2},
+      {"page down", [&] { Key(VK_NEXT); }, 2 + page},
+      {"end", [&] { Key(VK_END); }, 20},
+      {"page up", [&] { Key(VK_PRIOR); }, 20 - page},
+      {"dragged to the beginning", [&] { scroll(MAKELONG(SB_THUMBPOSITION, 0)); }, 1},
+      {"dragged to the end", [&] { scroll(MAKELONG(SB_THUMBPOSITION, 4)); }, 20},
+      {"home", [&] { Key(VK_HOME); }, 1},
+      {"wheel", [&] { grid->Perform(WM_MOUSEWHEEL, MAKELONG(0, -2 * WHEEL_DELTA), 0); }, 3},
+      {"row under the titles", [&] { Click(*grid, 10, row + 5); }, 1},
+      {"other button", [&] { grid->Perform(WM_RBUTTONDOWN, 0, MAKELONG(10, 2 * row + 5)); }, 1},
+  };
+  for (const TCase& each : cases) {
+    each.Move();
+    EXPECT_EQ(Data.RecNo(), each.Number) << each.What;
+    const int place = each.Number == 1 ? 0 : each.Number == 20 ? 4 : 2;
+    EXPECT_EQ(::GetScrollPos(grid->Handle(), SB_VERT), place) << each.What;
+  }
+}
+
+TEST_F(DataControls, AGridMarksTheCurrentRowAndShowsNumbersAtTheRight) {
   auto* grid = Make<TDBGrid>(10, 10);
   grid->SetDataSource(&Source);
   ShowForm();
-  grid->SetFocus();
-  Key(VK_DOWN);
-  EXPECT_EQ(Name(), "Bob");
-  Key(VK_END);
-  EXPECT_EQ(Name(), "Cid");
-  Click(*grid, 10, 30);
-  EXPECT_EQ(Name(), "Ann") << "the row under the titles";
-  Key(VK_NEXT);
-  EXPECT_EQ(Name(), "Cid");
-  // The current row, the third, is marked; the one before it is not.
+  Data.Next();
+  Data.FieldByName("Name")->SetVisible(false);
   TBitmap picture;
   picture.SetWidth(100);
   picture.SetHeight(100);
-  grid->PaintTo(picture.Canvas()->Handle(), 0, 0);
+  TCanvas& canvas = *picture.Canvas();
+  grid->PaintTo(canvas.Handle(), 0, 0);
   const int row = std::abs(grid->Font()->Height()) + 8;
-  EXPECT_EQ(picture.Canvas()->Pixels(90, row * 3 + 5), ColorToRGB(clHighlight));
-  EXPECT_EQ(picture.Canvas()->Pixels(90, row * 2 + 5), ColorToRGB(clWindow));
+  const int width = 10 * canvas.TextWidth("0");
+  const auto color = [&](int number, int left, int right) {
+    for (int x = left; x < right; ++x) {
+      if (canvas.Pixels(x, row * number + row / 2) == 0) return "text";
+    }
+    const bool marked = canvas.Pixels(left, row * number + 5) == TColor(ColorToRGB(clHighlight));
+    return marked ? "marked" : "plain";
+  };
+  EXPECT_STREQ(color(2, 4, 10), "marked");
+  EXPECT_STREQ(color(3, 4, width / 2), "plain");
+  EXPECT_STREQ(color(3, width / 2, width), "text");
+  EXPECT_EQ(Name(), "Bob") << "painting is no move";
   Data.EmptyTable();
   Data.Close();
   grid->Update();
