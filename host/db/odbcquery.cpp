@@ -164,19 +164,22 @@ void TOdbcQuery::InternalRefresh() {
   }
 }
 
+/// A query that is still running might come to meet a new or a changed record again, so that it is
+/// read to its end, unless it keeps nothing.
+void TOdbcQuery::PrepareChange() { FUniDirectional ? Pause() : static_cast<void>(FRows->Count()); }
+
 void TOdbcQuery::InternalInsert(TRecord& record) {
-  // A query that is still running might come to meet the new record again.
-  FUniDirectional ? Pause() : static_cast<void>(FRows->Count());
+  PrepareChange();
   FLive->Insert(record, FIdentityQuery);
 }
 
 void TOdbcQuery::InternalUpdate(const TRecord& before, TRecord& record) {
-  Pause();
+  PrepareChange();
   FLive->Update(before, record);
 }
 
 void TOdbcQuery::InternalDelete(const TRecord& record) {
-  Pause();
+  PrepareChange();
   FLive->Delete(record);
 }
 

@@ -53,7 +53,8 @@ class VCL_API TOdbcQuery : public TDataSet {
   TParam* ParamByName(std::string_view name) const { return FParams->ParamByName(name); }
   /// Records can be changed where the query's columns are of one table: posted records are written
   /// into it at once. To change or delete one, its table's primary key must be among the columns.
-  /// What the database fills in on its own is seen after Refresh.
+  /// What the database fills in on its own is seen after Refresh. A query that is not
+  /// unidirectional is read to its end before anything is changed.
   bool RequestLive() const { return FRequestLive; }
   void SetRequestLive(bool requestLive);
   /// Moves forward only. RecordCount is -1, and inserted records are not seen again once they have
@@ -91,6 +92,7 @@ class VCL_API TOdbcQuery : public TDataSet {
   void Prepare();
   void Pause();
   void ReadToEnd();
+  void PrepareChange();
   void Execute();
   void DefineFields();
   std::string FreeName(const std::string& name) const;

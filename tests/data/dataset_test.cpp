@@ -29,19 +29,16 @@ struct TPeople : TMemoryDataSet {
 
 TEST(DataSet, MovesAndSaysWhereItIs) {
   TPeople people;
-  EXPECT_TRUE(people.Bof());
-  people.Prior();
-  EXPECT_EQ(people.Name(), "Ann");
+  std::string seen;
+  const auto look = [&] {
+    seen += people.Name() + (people.Bof() ? "^" : "") + (people.Eof() ? "$ " : " ");
+  };
+  look(), people.Prior(), look();
   EXPECT_EQ(people.MoveBy(2), 2);
-  EXPECT_FALSE(people.Eof()) << "standing on the last record is not being behind it";
-  EXPECT_FALSE(people.Bof());
-  people.Next();
-  EXPECT_TRUE(people.Eof());
-  EXPECT_EQ(people.Name(), "Cid");
+  look(), people.Next(), look();
   EXPECT_EQ(people.MoveBy(-7), -2);
-  EXPECT_TRUE(people.Bof() && !people.Eof());
-  people.Last();
-  EXPECT_TRUE(people.Eof());
+  look(), people.Last(), look();
+  EXPECT_EQ(seen, "Ann^ Ann^ Cid Cid$ Ann^ Cid$ ") << "on the last record is not behind it";
   people.SetRecNo(2);
   const TBookmark bob = people.Bookmark();
   people.InsertRecord({std::string("Abe")});
@@ -332,48 +329,25 @@ TEST(MemoryDataSet, KeepsWhatItCanUnderNewDefinitions) {
   EXPECT_TRUE(people.IsEmpty());
 }
 
-struct TDataForm : TComponent {
-  using TComponent::TComponent;
-  static const TClass& Class() {
-    static const TClass info = Describe<TDataForm, TComponent>("TDataForm", "test", {});
-    return info;
-  }
-  const TClass& ClassType() const override { return Class(); }
-  void GetChildren(const std::function<void(TComponent*)>& each, TComponent*) override {
-    for (int i = 0; i < ComponentCount(); ++i) {
-      if (!Components(i)->HasParent()) each(Components(i));
-    }
-  }
-};
-
 TEST(MemoryDataSet, ComesFromAFormFileWithItsFields) {
   RegisterDataClasses();
-  const std::string text =
-      "object Form: TDataForm\r\n"
-      "  object Source: TDataSource\r\n"
-      "    DataSet = Data\r\n"
+  TStringStream file(
+      "object Data: TMemoryDataSet\r\n"
+      "  FieldDefs = <\r\n"
+      "    item\r\n      Name = 'Name'\r\n      DataType = ftString\r\n    end\r\n"
+      "    item\r\n      Name = 'Hidden'\r\n      DataType = ftInteger\r\n    end>\r\n"
+      "  Active = True\r\n"
+      "  object DataName: TStringField\r\n"
+      "    DisplayLabel = 'Who'\r\n    FieldName = 'Name'\r\n"
       "  end\r\n"
-      "  object Data: TMemoryDataSet\r\n"
-      "    FieldDefs = <\r\n"
-      "      item\r\n        Name = 'Name'\r\n        DataType = ftString\r\n      end\r\n"
-      "      item\r\n        Name = 'Hidden'\r\n        DataType = ftInteger\r\n      end>\r\n"
-      "    Active = True\r\n"
-      "    object DataName: TStringField\r\n"
-      "      DisplayLabel = 'Who'\r\n"
-      "      FieldName = 'Name'\r\n"
-      "    end\r\n"
-      "  end\r\n"
-      "end\r\n";
-  TDataForm form(nullptr);
-  TStringStream file(text);
-  ReadComponentFile(file, &form);
-  auto* data = static_cast<TDataSet*>(form.FindComponent("Data"));
-  EXPECT_EQ(static_cast<TDataSource*>(form.FindComponent("Source"))->State(), dsBrowse);
-  ASSERT_EQ(data->FieldCount(), 1) << "the fields of the form are all that there are";
-  EXPECT_EQ(data->Fields()[0], form.FindComponent("DataName"));
-  EXPECT_EQ(data->FieldByName("name")->DisplayLabel(), "Who");
-  data->AppendRecord({std::string("Ann")});
-  EXPECT_EQ(Dump(*data), "Ann");
+      "end\r\n");
+  TMemoryDataSet data(nullptr);
+  ReadComponentFile(file, &data);
+  ASSERT_TRUE(data.Active());
+  ASSERT_EQ(data.FieldCount(), 1) << "the fields of the file are all that there are";
+  EXPECT_EQ(data.FieldByName("name")->DisplayLabel(), "Who");
+  data.AppendRecord({std::string("Ann")});
+  EXPECT_EQ(Dump(data), "Ann");
 }
 
 }  // namespace
