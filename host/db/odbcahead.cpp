@@ -34,8 +34,7 @@ bool TReadAhead::Fetch(TRecord& record) {
     if (const auto error = std::exchange(FTaken.Error, nullptr)) std::rethrow_exception(error);
     if (FTaken.Last) return false;
     if (TakeBatch()) continue;
-    if (FAlone < LongQuery) return ++FAlone, FStatement.Fetch(record);
-    Start();
+    if (FAlone < LongQuery || !Start()) return ++FAlone, FStatement.Fetch(record);
   }
   // The former record's memory goes back to be read into.
   std::swap(record, FTaken.Records[FNext++]);
@@ -54,10 +53,17 @@ bool TReadAhead::TakeBatch() {
   return true;
 }
 
-void TReadAhead::Start() {
+/// False where no thread is to be had: reading goes on without one for a while.
+bool TReadAhead::Start() {
   auto reader = std::make_unique<TReader>(*this);
-  reader->Start();
+  try {
+    reader->Start();
+  } catch (const EThread&) {
+    FAlone = 0;
+    return false;
+  }
   FReader = std::move(reader);
+  return true;
 }
 
 void TReadAhead::Pause() {

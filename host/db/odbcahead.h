@@ -38,7 +38,7 @@ class TReadAhead {
     std::exception_ptr Error;
   };
   class TReader;
-  void Start();
+  bool Start();
   bool TakeBatch();
   void Fill(TBatch& batch);
   void ReadBatches();
