@@ -1,5 +1,6 @@
 // The page of the explorer tree.
 #include "demos/gallery/galleryform.h"
+#include "host/rtl/text.h"
 
 namespace gallery {
 
@@ -17,6 +18,18 @@ void TGalleryForm::SetUpExplorer() {
   TSettingBinder& settings = Bind(ExplorerSettings);
   settings.SetTargets({SampleExplorer});
   SampleExplorer->OnChange = [&settings](vcl::TObject*, vcl::TTreeNode*) { settings.Refresh(); };
+}
+
+void TGalleryForm::ExplorerAddClick(vcl::TObject*) {
+  const std::string start = "New folder";
+  std::string name = start;
+  for (int i = 2; SampleExplorer->GetNodeFromPath(SampleExplorer->Directory() + name); ++i) {
+    name = vcl::Concat(start, " ", std::to_string(i));
+  }
+  qel::TQELExplorerNode* added = SampleExplorer->AddPath(name);
+  if (!added) return;
+  added->SetSelected(true);
+  added->EditText();
 }
 
 }  // namespace gallery

@@ -6155,6 +6155,19 @@ object GalleryForm: TGalleryForm
         TabOrder = 6
         Text = ''
       end
+      object ExplorerAddButton: TQELButton
+        Left = 452
+        Top = 204
+        Width = 180
+        Height = 30
+        Hint = 'A folder in the selected one, for you to name'
+        Glyph.TransparentColor = clBlack
+        Caption = 'New &folder'
+        Background = FaceBackground
+        OnClick = ExplorerAddClick
+        TabOrder = 7
+        TabStop = True
+      end
     end
     object HintsPage: TTabSheet
       Caption = 'Hints'

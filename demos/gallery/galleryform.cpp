@@ -60,6 +60,7 @@ const TClass& TGalleryForm::Class() {
                              Method<&T::LiveStartClick>("LiveStartClick"),
                              Method<&T::LiveStopClick>("LiveStopClick"),
                              Method<&T::SampleSpinChange>("SampleSpinChange"),
+                             Method<&T::ExplorerAddClick>("ExplorerAddClick"),
                              Method<&T::HintEdgeClick>("HintEdgeClick"),
                              Method<&T::SelectHintDirection>("SelectHintDirection"),
                          });

@@ -108,6 +108,7 @@ class TGalleryForm : public vcl::TForm {
   // The page of spin edits.
   void SetUpSpinEdits();
   void SetUpExplorer();
+  void ExplorerAddClick(vcl::TObject* sender);
   void SampleSpinChange(vcl::TObject* sender);
 
   // The page of hints.

@@ -1,6 +1,8 @@
 // The gallery's window under real mouse and keyboard: pages, events, settings, drag and drop, the
 // menu.
 
+#include <filesystem>
+
 #include "demos/gallery/galleryform.h"
 #include "tests/support/kepthandles.h"
 #include "tests/vcl/testinput.h"
@@ -278,6 +280,21 @@ TEST_F(Gallery, ThePopupMenuChangesItsButton) {
   }
   EXPECT_TRUE(Find<TCheckBox>("ButtonWordWrapCheck")->Checked()) << "the settings show it";
   EXPECT_EQ(Find<TComboBox>("ButtonSubjectBox")->Text(), "FlatButton");
+}
+
+TEST_F(Gallery, AddsAFolderForTheUserToName) {
+  const auto folder = std::filesystem::temp_directory_path() / "gallery";
+  std::filesystem::create_directories(folder / "New folder");
+  GoTo(5);
+  auto* tree = Find<TQELExplorerTree>("SampleExplorer");
+  tree->SetDirectory(folder.string());
+  Click(Find("ExplorerAddButton"));
+  EXPECT_TRUE(PumpUntil([&] { return tree->IsEditing(); }));
+  EXPECT_TRUE(std::filesystem::exists(folder / "New folder 2"));
+  TypeKey('X');
+  TypeKey(VK_RETURN);
+  EXPECT_TRUE(PumpUntil([&] { return std::filesystem::exists(folder / "x"); }));
+  std::filesystem::remove_all(folder);
 }
 
 TEST(GalleryForm, GivesBackWhatItTakes) {
