@@ -9,6 +9,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::SizeIs;
 
 TEST_F(Sending, GoesThroughOneSession) {
@@ -65,13 +66,19 @@ TEST_F(Sending, TellsARefusalAndEndsTheSession) {
   }
 }
 
-TEST_F(Sending, IsAbortedWhileTheServerTalksWithoutEnd) {
-  Application.OnPump = [&, pumps = 0]() mutable {
-    if (++pumps == 50) Mail->Abort();
+TEST_F(Sending, IsAbortedInTheMiddleOfAReplyOrAMail) {
+  int pumps = 0;
+  Application.OnPump = [&] {
+    if (++pumps == 5) Mail->Abort();
   };
   std::string endless;
   for (int i = 0; i < 100'000; ++i) endless += "500 wait\r\n";
   EXPECT_FALSE(Execute({{"", endless}}));
+  EXPECT_LT(pumps, 10);
+  Application.OnPump = nullptr;
+  Mail->OnSendProgress = [&](auto*, int) { Mail->Abort(); };
+  EXPECT_FALSE(Execute());
+  EXPECT_THAT(Heard, Not(Contains(".")));
 }
 
 }  // namespace
