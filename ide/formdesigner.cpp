@@ -122,14 +122,26 @@ std::vector<std::string> TFormDesigner::ComponentNames(const TClass& aClass) con
     if (each->InheritsFrom(aClass) && !each->Name().empty()) names.push_back(each->Name());
   }
   std::ranges::sort(names);
+  for (const TComponent* form : FDocument.Others()) {
+    if (form->InheritsFrom(aClass)) names.push_back(form->Name());
+    for (int i = 0; i < form->ComponentCount(); ++i) {
+      const TComponent* each = form->Components(i);
+      if (each->InheritsFrom(aClass) && !each->Name().empty()) names.push_back(FullNameOf(*each));
+    }
+  }
   return names;
 }
 
 TComponent* TFormDesigner::FindComponent(const std::string& name) const {
-  return SameText(name, Root().Name()) ? &Root() : Root().FindComponent(name);
+  if (SameText(name, Root().Name())) return &Root();
+  TComponent* own = Root().FindComponent(name);
+  return own ? own : FindByFullName(FDocument.Others(), name);
 }
 
-std::string TFormDesigner::NameOf(const TComponent& component) const { return component.Name(); }
+std::string TFormDesigner::NameOf(const TComponent& component) const {
+  const bool own = &component == &Root() || component.Owner() == &Root();
+  return own ? component.Name() : FullNameOf(component);
+}
 
 // Handlers.
 

@@ -58,8 +58,14 @@ std::unique_ptr<TForm> TFormDocument::Read(const std::string& bytes, const std::
 
 void TFormDocument::Show(std::unique_ptr<TForm> root) {
   if (FRoot) Tell(OnRootGoing);
+  Take(std::move(root));
+}
+
+void TFormDocument::Take(std::unique_ptr<TForm> root) {
   FRoot = std::move(root);
   FRootName = FRoot->Name();
+  FLinks.Begin(*FRoot);
+  FLinks.Note(*FRoot, Others());
   Tell(OnRootMade);
 }
 
@@ -89,15 +95,18 @@ void TFormDocument::New(const std::string& formName) {
 void TFormDocument::Load(const std::string& fileName) {
   Show(Read(ReadFile(fileName), fileName));
   FFileName = fileName;
+  FFileTime = TimeOf(fileName);
   FHistory.Reset(State());
   Tell(OnChange);
 }
 
 void TFormDocument::LoadAutosaved(const std::string& fileName) {
   Show(Read(ReadFile(AutosaveName(fileName)), fileName));
-  FFileName = fileName;
+  FFileTime = TimeOf(fileName);
+  (FFileTime == 0 ? FCopyName : FFileName) = fileName;
   FHistory.Reset(State());
   FHistory.ForgetClean();
+  FAutosaved = FHistory.Present();
   Tell(OnChange);
 }
 
@@ -105,6 +114,7 @@ void TFormDocument::Save(const std::string& fileName) {
   WriteFile(fileName, Text());
   DiscardAutosave();
   FFileName = fileName;
+  FFileTime = TimeOf(fileName);
   FHistory.MarkClean();
   Tell(OnChange);
 }
@@ -113,6 +123,30 @@ void TFormDocument::Paste(const std::string& text, TWinControl& parent,
                           const std::function<void(TComponent*)>& made) {
   TStringStream stream(text);
   ReadComponentsInto(stream, FRoot.get(), &parent, made, &FKeeper);
+}
+
+bool TFormDocument::ChangedOnDisk() const {
+  return !FFileName.empty() && TimeOf(FFileName) != FFileTime;
+}
+
+void TFormDocument::StayApart() {
+  FFileTime = TimeOf(FFileName);
+  FHistory.ForgetClean();
+  Tell(OnChange);
+}
+
+// Other forms.
+
+void TFormDocument::FollowOthers() {
+  if (!FRoot || !FLinks.Resolve(*FRoot, Others())) return;
+  std::string state = State();
+  if (state == FHistory.Present()) return;
+  FHistory.Replace(std::move(state));
+  Tell(OnChange);
+}
+
+void TFormDocument::TakeNamesOf(const TComponent& otherRoot) {
+  FLinks.TakeNames(*FRoot, otherRoot);
 }
 
 // Former states.
@@ -130,6 +164,7 @@ void TFormDocument::NameClass() {
 
 void TFormDocument::Changed(const std::string& key) {
   NameClass();
+  FLinks.Note(*FRoot, Others());
   FHistory.Add(State(), key);
   Tell(OnChange);
 }
@@ -140,14 +175,12 @@ void TFormDocument::Restore(const std::string& state) {
   FRoot.reset();
   FQuiet = true;
   try {
-    FRoot = Read(state, {});
+    Take(Read(state, {}));
   } catch (...) {
     FQuiet = false;
     throw;
   }
   FQuiet = false;
-  FRootName = FRoot->Name();
-  Tell(OnRootMade);
   Tell(OnChange);
 }
 
@@ -169,14 +202,14 @@ bool TFormDocument::HasAutosave(const std::string& fileName) {
 }
 
 void TFormDocument::Autosave() {
-  if (!Modified() || FFileName.empty() || FAutosaved == FHistory.Present()) return;
-  WriteFile(AutosaveName(FFileName), Text());
+  if (!Modified() || CopyOf().empty() || FAutosaved == FHistory.Present()) return;
+  WriteFile(AutosaveName(CopyOf()), Text());
   FAutosaved = FHistory.Present();
 }
 
 void TFormDocument::DiscardAutosave() {
   FAutosaved.clear();
-  if (!FFileName.empty()) ::DeleteFileW(ToUtf16(AutosaveName(FFileName)).c_str());
+  if (!CopyOf().empty()) ::DeleteFileW(ToUtf16(AutosaveName(CopyOf())).c_str());
 }
 
 }  // namespace ide

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/vcl/forms.h"
+#include "ide/formlinks.h"
 #include "ide/standins.h"
 #include "ide/undohistory.h"
 
@@ -35,9 +36,11 @@ class TFormDocument {
   /// Reads a form file. What it holds and can't be used is kept and told to `OnProblem`. Raises
   /// EFOpenError, EParserError, EReadError; the document is as before then.
   void Load(const std::string& fileName);
-  /// The same for the copy that the autosave left of the file; the document is modified then.
+  /// The same for the copy that the autosave left of the file; the document is modified then, and
+  /// has no file when there is none of that name.
   void LoadAutosaved(const std::string& fileName);
-  /// Replaces the file by the form's text. Raises EInOutError; the file is as before then.
+  /// Replaces the file by the form's text. Raises EInOutError; the file is as before then, and the
+  /// document is still modified.
   void Save(const std::string& fileName);
   /// The form as a form file's text.
   std::string Text() const;
@@ -57,15 +60,37 @@ class TFormDocument {
   static std::string AutosaveName(const std::string& fileName);
   /// True when there is a copy that is newer than the file.
   static bool HasAutosave(const std::string& fileName);
-  /// Writes the copy, if the form was modified since the last one.
+  /// The name that the copy of a form without a file goes by; without it there is no copy.
+  void SetCopyName(const std::string& name) { FCopyName = name; }
+  /// Writes the copy, if the form was modified since the last one. Raises EInOutError.
   void Autosave();
+  /// The file that there is a copy of; empty for none.
+  std::string Copied() const { return FAutosaved.empty() ? std::string() : CopyOf(); }
   /// The form is saved, or its changes are given up.
   void DiscardAutosave();
+
+  /// True when another program has changed or removed the file since it was read or written.
+  bool ChangedOnDisk() const;
+  /// The form stays as it is, and is modified: it is not what the file holds.
+  void StayApart();
 
   /// Pastes components from a form file's text into the form; each outermost one is handed to
   /// `made`. Raises EParserError and EReadError; nothing is pasted then.
   void Paste(const std::string& text, vcl::TWinControl& parent,
              const std::function<void(vcl::TComponent*)>& made);
+
+  /// Another open form has changed: what this one refers to there holds as far as it can. That is
+  /// no step of undo.
+  void FollowOthers();
+  /// The form has been saved: its components' names are those that this one's file gives them.
+  void TakeNamesOf(const vcl::TComponent& otherRoot);
+  /// The other forms that are open.
+  std::vector<vcl::TComponent*> Others() const {
+    return FKeeper.Others ? FKeeper.Others() : std::vector<vcl::TComponent*>();
+  }
+  void SetOthers(std::function<std::vector<vcl::TComponent*>()> others) {
+    FKeeper.Others = std::move(others);
+  }
 
   std::function<void()> OnRootGoing, OnRootMade;
   /// The form, its file's name or its state of being modified has changed.
@@ -76,7 +101,9 @@ class TFormDocument {
  private:
   std::unique_ptr<vcl::TForm> Read(const std::string& bytes, const std::string& name);
   void Show(std::unique_ptr<vcl::TForm> root);
+  void Take(std::unique_ptr<vcl::TForm> root);
   void NameClass();
+  const std::string& CopyOf() const { return FFileName.empty() ? FCopyName : FFileName; }
   void Restore(const std::string& state);
   std::string State() const;
   void Tell(const std::function<void()>& event) const {
@@ -87,8 +114,11 @@ class TFormDocument {
   std::unique_ptr<vcl::TForm> FRoot;
   std::string FRootName;
   std::string FFileName;
+  std::string FCopyName;
   std::string FAutosaved;
+  std::uint64_t FFileTime = 0;  // When the file was written, as far as is known here.
   TFormKeeper FKeeper;
+  TFormLinks FLinks;
   bool FQuiet = false;  // What is restored has been told before.
   TUndoHistory FHistory;
 };

@@ -83,11 +83,13 @@ TMainForm::TMainForm(TComponent* owner)
   FDesigner = &AddForm();
   Application()->OnHint = TNotifyEvent(
       [this](TObject*) { StatusBar->Panels()->Items(2)->SetText(Application()->Hint()); });
+  Application()->OnActivate = TNotifyEvent([this](TObject*) { CheckFiles(); });
   Application()->OnMessage = TMessageEvent(this, &TMainForm::ApplicationMessage);
 }
 
 TMainForm::~TMainForm() {
   AnnounceEnd();
+  Application()->OnActivate.Clear();
   Application()->OnHint.Clear();
   Application()->OnMessage.Clear();
   FExperts.clear();
@@ -101,7 +103,11 @@ void TMainForm::Begin(const TStart& start, TPackages& packages) {
                                                                      : start.SettingsFile);
   LoadPackages(start);
   ShowRecentFiles();
+  FRecovery = std::make_unique<TRecovery>(*FSettings);
+  constexpr int second = 1000;
+  AutosaveTimer->SetInterval(FSettings->AutosaveSeconds() * second);
   if (start.FileName.empty() || !Open(start.FileName)) NewForm("Form1");
+  OfferLost();
 }
 
 void TMainForm::LoadPackages(const TStart& start) {
@@ -128,7 +134,9 @@ void TMainForm::TakePackages() {
 void TMainForm::TakeTool() { FDesigner->Surface().SetPlacing(FPalette->Tool().Class); }
 
 void TMainForm::Tell(const std::string& message) {
-  Messages->Items()->Add(message);
+  // What comes again and again, as from the timer, is told once.
+  const int last = Messages->Items()->Count() - 1;
+  if (last < 0 || Messages->Items()->Strings(last) != message) Messages->Items()->Add(message);
   Messages->SetTopIndex(Messages->Items()->Count() - 1);
 }
 
@@ -142,6 +150,7 @@ void TMainForm::ShowTitle() {
 
 void TMainForm::FormChanged(TFormDesigner& designer) {
   FForms->ShowChanged(designer);
+  FForms->ShowOthers(&designer);
   if (&designer != FDesigner) return;
   ShowTitle();
   for (TDesignerPart* each : FParts) each->Refresh();
@@ -180,11 +189,6 @@ void TMainForm::ShowSelected() {
 void TMainForm::FormShow(TObject*) { FForms->ShowWhole(); }
 
 void TMainForm::FormCloseQuery(TObject*, bool& canClose) { canClose = MayEnd(); }
-
-void TMainForm::AutosaveTimerTick(TObject*) {
-  if (!FPackages) return;
-  for (TFormDesigner* each : FForms->All()) each->Try([each] { each->Document().Autosave(); });
-}
 
 // The designer's own keys and menu.
 

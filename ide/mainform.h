@@ -13,6 +13,7 @@
 #include "ide/openforms.h"
 #include "ide/packages.h"
 #include "ide/palette.h"
+#include "ide/recovery.h"
 #include "ide/settings.h"
 #include "ide/structure.h"
 #include "ide/structurecollection.h"
@@ -126,6 +127,13 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   bool Save();
   bool SaveAs();
   bool SaveIn(const std::string& fileName);
+  bool OpenFile(const std::string& fileName, bool copy);
+  bool MayReplace(const std::string& fileName);
+  void CheckFiles();
+  void OfferFile(TFormDocument& document);
+  static bool WantsCopy(const std::string& fileName);
+  void OfferLost();
+  void NoteCopies();
   bool MayLoseChanges();
   void Remember(const std::string& fileName);
   void ShowRecentFiles();
@@ -143,6 +151,7 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
 
   TPackages* FPackages = nullptr;
   std::unique_ptr<TSettings> FSettings;
+  std::unique_ptr<TRecovery> FRecovery;
   TObjectInspector* FInspector;
   TComponentPalette* FPalette;
   TStructureTree* FStructure;

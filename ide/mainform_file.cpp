@@ -33,19 +33,26 @@ bool TMainForm::Open(const std::string& name) {
     WorkOn(*open);
     return true;
   }
+  return OpenFile(fileName, WantsCopy(fileName));
+}
+
+/// Asks whether the changes are wanted that a killed program has left a copy of, if there is one.
+bool TMainForm::WantsCopy(const std::string& fileName) {
+  return TFormDocument::HasAutosave(fileName) &&
+         Application()->MessageBox(Concat(fileName,
+                                          " was changed and not saved when the program ended. "
+                                          "Shall the changes be brought back?"),
+                                   "Designer", MB_YESNO | MB_ICONQUESTION) == IDYES;
+}
+
+bool TMainForm::OpenFile(const std::string& fileName, bool copy) {
   bool opened = false;
   TFormDesigner& designer = FDesigner->Document().IsFresh() ? *FDesigner : AddForm();
   TFormDocument& document = designer.Document();
   designer.Try([&] {
-    const bool saved =
-        TFormDocument::HasAutosave(fileName) &&
-        Application()->MessageBox(Concat(fileName,
-                                         " was changed and not saved when the program ended. "
-                                         "Shall the changes be brought back?"),
-                                  "Designer", MB_YESNO | MB_ICONQUESTION) == IDYES;
-    saved ? document.LoadAutosaved(fileName) : document.Load(fileName);
+    copy ? document.LoadAutosaved(fileName) : document.Load(fileName);
     opened = true;
-    Remember(fileName);
+    if (!document.FileName().empty()) Remember(fileName);
   });
   if (opened) {
     WorkOn(designer);
@@ -72,15 +79,76 @@ bool TMainForm::SaveAs() {
   return SaveDialog->Execute() && SaveIn(SaveDialog->FileName());
 }
 
+/// Asks before what another program has written is lost; what the user names anew the dialog asks.
+bool TMainForm::MayReplace(const std::string& fileName) {
+  const TFormDocument& document = FDesigner->Document();
+  if (fileName != document.FileName() || !document.ChangedOnDisk()) return true;
+  return Application()->MessageBox(
+             Concat(fileName, " was changed by another program since it was read. Replace it?"),
+             "Designer", MB_YESNO | MB_ICONWARNING) == IDYES;
+}
+
+/// Looks, when the user comes back from another program, whether it has changed files.
+void TMainForm::CheckFiles() {
+  // A dialog may be about a component of such a form.
+  if (!::IsWindowEnabled(Handle())) return;
+  for (TFormDesigner* each : FForms->All()) {
+    if (!each->Document().ChangedOnDisk()) continue;
+    // Whatever comes of it, it is asked once; the box itself makes the user go and come back.
+    each->Document().StayApart();
+    WorkOn(*each);
+    each->Try([&] { OfferFile(each->Document()); });
+  }
+}
+
+void TMainForm::OfferFile(TFormDocument& document) {
+  const std::string name = document.FileName();
+  std::error_code missing;
+  if (!std::filesystem::exists(ToUtf16(name), missing)) {
+    Tell(Concat("The file ", name, " is no longer there; saving the form writes it again"));
+  } else if (Application()->MessageBox(
+                 Concat(name,
+                        " was changed by another program. Shall it be read again? What was "
+                        "changed here is lost then."),
+                 "Designer", MB_YESNO | MB_ICONQUESTION) == IDYES) {
+    document.Load(name);
+    document.DiscardAutosave();
+  }
+}
+
+// Copies for the case that the program is killed.
+
+void TMainForm::AutosaveTimerTick(TObject*) {
+  if (!FRecovery) return;
+  for (TFormDesigner* each : FForms->All()) each->Try([each] { each->Document().Autosave(); });
+  FDesigner->Try([this] { NoteCopies(); });
+}
+
+void TMainForm::NoteCopies() {
+  std::vector<std::string> copied;
+  for (TFormDesigner* each : FForms->All()) copied.push_back(each->Document().Copied());
+  std::erase(copied, std::string());
+  FRecovery->SetFiles(copied);
+}
+
+/// Offers what former runs lost. A form that has no file and is not wanted is gone then.
+void TMainForm::OfferLost() {
+  for (const std::string& file : FRecovery->TakeLost()) {
+    std::error_code missing;
+    if (WantsCopy(file)) {
+      OpenFile(file, true);
+    } else if (!std::filesystem::exists(ToUtf16(file), missing)) {
+      ::DeleteFileW(ToUtf16(TFormDocument::AutosaveName(file)).c_str());
+    }
+  }
+  NoteCopies();
+}
+
 bool TMainForm::SaveIn(const std::string& fileName) {
   bool saved = false;
-  if (!FInspector->Apply()) return false;
+  if (!FInspector->Apply() || !MayReplace(fileName)) return false;
   FDesigner->Try([&] {
-    const TFormDesigner* open = FForms->OfFile(fileName);
-    if (open && open != FDesigner) {
-      throw EInOutError(Concat("The file ", fileName, " is open as another form"));
-    }
-    FDesigner->Document().Save(fileName);
+    FForms->Save(*FDesigner, fileName);
     saved = true;
     Remember(fileName);
   });
@@ -92,7 +160,7 @@ void TMainForm::SaveFiles() {
   for (TFormDesigner* each : FForms->All()) {
     TFormDocument& document = each->Document();
     if (document.FileName().empty() || !document.Modified()) continue;
-    each->Try([&] { document.Save(document.FileName()); });
+    each->Try([&] { FForms->Save(*each, document.FileName()); });
   }
 }
 

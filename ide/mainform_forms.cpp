@@ -74,6 +74,7 @@ void TMainForm::WorkOn(TFormDesigner& designer) {
 void TMainForm::NewForm(const std::string& name) {
   TFormDesigner& designer = FDesigner->Document().HasRoot() ? AddForm() : *FDesigner;
   designer.Document().New(name);
+  designer.Document().SetCopyName(FRecovery->NewName());
   WorkOn(designer);
   FForms->ShowWhole();
 }
@@ -103,6 +104,7 @@ bool TMainForm::MayEnd() {
     if (!MayLoseChanges()) return false;
   }
   for (TFormDesigner* each : FForms->All()) each->Document().DiscardAutosave();
+  NoteCopies();
   return true;
 }
 

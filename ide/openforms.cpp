@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "host/rtl/convert.h"
+#include "host/rtl/exceptions.h"
 #include "host/rtl/text.h"
 #include "host/vcl/windowtext.h"
 
@@ -40,14 +41,27 @@ TFormDesigner& TOpenForms::Add() {
   workspace->SetAlign(alClient);
   sheet->SetPageControl(FPages);
   FOpen.push_back({sheet, workspace, std::make_unique<TFormDesigner>(workspace->Desktop())});
-  return *FOpen.back().Designer;
+  auto* made = FOpen.back().Designer.get();
+  made->Document().SetOthers([this, made] {
+    std::vector<TComponent*> others;
+    for (const TPage& each : FOpen) {
+      TFormDocument& document = each.Designer->Document();
+      if (each.Designer.get() != made && document.HasRoot()) others.push_back(&document.Root());
+    }
+    return others;
+  });
+  return *made;
 }
 
 void TOpenForms::Remove(TFormDesigner& designer) {
   TPage& page = PageOf(designer);
   TTabSheet* sheet = page.Sheet;
   if (FActive == &designer) FActive = nullptr;
+  // While it ends it is none of the forms that are open.
+  std::unique_ptr<TFormDesigner> ended = std::move(page.Designer);
   FOpen.erase(FOpen.begin() + (&page - FOpen.data()));
+  ended.reset();
+  ShowOthers(nullptr);
   delete sheet;
 }
 
@@ -75,6 +89,28 @@ TFormDesigner& TOpenForms::Next(bool forward) const {
 void TOpenForms::TabChanged() {
   const auto wanted = std::ranges::find(FOpen, FPages->ActivePage(), &TPage::Sheet);
   if (wanted != FOpen.end() && OnWanted) OnWanted(*wanted->Designer);
+}
+
+// References between forms.
+
+void TOpenForms::ShowOthers(const TFormDesigner* changed) {
+  if (FFollowing) return;  // What the others show changes nothing.
+  FFollowing = true;
+  for (TFormDesigner* each : All()) {
+    if (each != changed) each->Try([each] { each->Document().FollowOthers(); });
+  }
+  FFollowing = false;
+}
+
+void TOpenForms::Save(TFormDesigner& designer, const std::string& fileName) {
+  const TFormDesigner* open = OfFile(fileName);
+  if (open && open != &designer) {
+    throw EInOutError(Concat("The file ", fileName, " is open as another form"));
+  }
+  designer.Document().Save(fileName);
+  for (TFormDesigner* each : All()) {
+    if (each != &designer) each->Document().TakeNamesOf(designer.Root());
+  }
 }
 
 // Names.

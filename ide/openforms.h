@@ -41,6 +41,11 @@ class TOpenForms {
   void ShowChanged(const TFormDesigner& designer);
   /// Brings the active form's upper left corner into view.
   void ShowWhole();
+  /// A form has changed, or (null) is gone: the others' references to it follow.
+  void ShowOthers(const TFormDesigner* changed);
+  /// Saves the form; what its components are called now counts for the others. Raises EInOutError,
+  /// also for the file of another form that is open.
+  void Save(TFormDesigner& designer, const std::string& fileName);
   vcl::TPageControl& Pages() { return *FPages; }
 
   /// The user clicked the tab of another form, which is to be activated.
@@ -58,6 +63,7 @@ class TOpenForms {
   vcl::TPageControl* FPages;  // A component of the window.
   std::vector<TPage> FOpen;
   TFormDesigner* FActive = nullptr;
+  bool FFollowing = false;
 };
 
 /// How a form is called where there is little room: by its file's name without the folder, before

@@ -1,10 +1,12 @@
 #include "ide/settings.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 
 #include "host/rtl/convert.h"
 #include "host/rtl/inifile.h"
+#include "host/rtl/strings.h"
 #include "host/rtl/text.h"
 #include "host/vcl/windowtext.h"
 
@@ -55,6 +57,20 @@ void TSettings::SetList(const std::string& section, const std::vector<std::strin
   for (std::size_t i = 0; i < lines.size(); ++i) {
     file.WriteString(section, IntToStr(static_cast<std::int64_t>(i) + 1), lines[i]);
   }
+}
+
+std::vector<std::string> TSettings::Sections() const {
+  TStringList sections;
+  TIniFile(FFileName).ReadSections(sections);
+  std::vector<std::string> names;
+  for (int i = 0; i < sections.Count(); ++i) names.push_back(sections.Strings(i));
+  return names;
+}
+
+int TSettings::AutosaveSeconds() const {
+  constexpr int minute = 60, day = 24 * 60 * minute;
+  const auto seconds = TIniFile(FFileName).ReadInteger("Designer", "AutosaveSeconds", minute);
+  return std::clamp(static_cast<int>(seconds), 1, day);
 }
 
 std::vector<std::string> TSettings::Packages() const {

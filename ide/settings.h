@@ -23,11 +23,16 @@ class TSettings {
   void AddRecentFile(const std::string& fileName) const;
   /// Takes the name out of the lists above that hold it.
   void Forget(const std::string& fileName) const;
+  /// How often unsaved forms are copied, in seconds; a minute when nothing else is set.
+  int AutosaveSeconds() const;
 
- private:
+  /// The sections of the file, and the lists in them, each line under its number from 1. A section
+  /// without lines is not there.
+  std::vector<std::string> Sections() const;
   std::vector<std::string> List(const std::string& section) const;
   void SetList(const std::string& section, const std::vector<std::string>& lines) const;
 
+ private:
   std::string FFileName;
 };
 

@@ -3,6 +3,7 @@
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
 #include "host/vcl/canvas.h"
+#include "ide/formlinks.h"
 
 namespace ide {
 
@@ -45,6 +46,10 @@ void TFormKeeper::Report(const std::string& message) {
 TComponent* TFormKeeper::MakeStandIn(TComponent* owner, bool visual) {
   if (visual) return new TStandInControl(owner);
   return new TStandInComponent(owner);
+}
+
+TComponent* TFormKeeper::FindForm(std::string_view name) const {
+  return Others ? FindByFullName(Others(), name) : nullptr;
 }
 
 bool IsStandIn(const TComponent& component) {

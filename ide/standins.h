@@ -4,6 +4,8 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "host/vcl/wincontrol.h"
 
@@ -36,8 +38,11 @@ class TFormKeeper : public vcl::TReaderKeeper {
  public:
   void Report(const std::string& message) override;
   vcl::TComponent* MakeStandIn(vcl::TComponent* owner, bool visual) override;
+  vcl::TComponent* FindForm(std::string_view name) const override;
 
   std::function<void(const std::string& message)> OnProblem;
+  /// The other forms that are open.
+  std::function<std::vector<vcl::TComponent*>()> Others;
 };
 
 }  // namespace ide

@@ -20,6 +20,9 @@ class TUndoHistory {
   /// end where they began there is nothing to undo.
   void Add(std::string state, const std::string& key = {});
 
+  /// The present state has become another one that is no step of its own.
+  void Replace(std::string state) { FPresent = std::move(state); }
+
   bool CanUndo() const { return !FUndo.empty(); }
   bool CanRedo() const { return !FRedo.empty(); }
   /// Goes back, and forth again; returns the state to be restored, which is the present one.

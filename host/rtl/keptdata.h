@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/rtl/api.h"
@@ -44,6 +45,9 @@ class VCL_API TReaderKeeper {
   /// Makes a component that stands for one whose class is missing or whose constructor raised.
   /// `visual` says that the file gives it a width, as it does controls.
   virtual TComponent* MakeStandIn(TComponent* owner, bool visual) = 0;
+  /// The form of that name that references may lead to though nothing owns it and the one being
+  /// read; null for none.
+  virtual TComponent* FindForm(std::string_view name) const;
 };
 
 }  // namespace vcl

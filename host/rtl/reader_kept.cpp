@@ -9,6 +9,8 @@ namespace vcl {
 
 TReaderKeeper::~TReaderKeeper() = default;
 
+TComponent* TReaderKeeper::FindForm(std::string_view) const { return nullptr; }
+
 void TReader::SetKeeper(TReaderKeeper* keeper) { FImpl->Keeper = keeper; }
 
 /// What the object keeps; null for an object that can keep nothing.

@@ -52,8 +52,8 @@ TComponent* TReader::TImpl::Find(std::string_view path) const {
   return found;
 }
 
-/// A component of the file or of the root, the root itself, or another form or data module of the
-/// root's owner.
+/// A component of the file or of the root, the root itself, or another form or data module: of the
+/// root's owner, or one that the keeper knows.
 TComponent* TReader::TImpl::FindFirst(std::string_view name) const {
   if (SameText(name, FormRootReference)) return Root;
   if (const auto named = Named.find(UpperCase(name)); named != Named.end()) {
@@ -61,7 +61,8 @@ TComponent* TReader::TImpl::FindFirst(std::string_view name) const {
   }
   if (TComponent* owned = Root->FindComponent(name)) return owned;
   if (SameText(name, RootName)) return Root;
-  return Root->Owner() ? Root->Owner()->FindComponent(name) : nullptr;
+  TComponent* beside = Root->Owner() ? Root->Owner()->FindComponent(name) : nullptr;
+  return beside || !Keeper ? beside : Keeper->FindForm(name);
 }
 
 }  // namespace vcl

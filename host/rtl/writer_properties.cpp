@@ -58,6 +58,16 @@ void TWriter::TImpl::WriteKept(const std::string& after) {
   }
 }
 
+/// Writes what is kept of a reference that is not fulfilled where it stands when it is.
+void TWriter::TImpl::WriteKeptReference(const std::string& name) {
+  const auto kept = std::ranges::find_if(
+      KeptLeft, [&](const TKeptProperty* each) { return SameText(each->Name, name); });
+  if (kept == KeptLeft.end()) return;
+  const TKeptProperty* reference = *kept;
+  WriteKept(Last);
+  if (std::ranges::count(KeptLeft, reference) > 0) WriteKept(reference->After);
+}
+
 void TWriter::TImpl::WriteName(const std::string& name) {
   if (!KeptLeft.empty()) WriteKept(Last);
   Last = Prefix + name;
@@ -87,7 +97,7 @@ void TWriter::TImpl::WriteEvent(TPersistent& object, const TPropInfo& prop) {
 void TWriter::TImpl::WriteObject(TPersistent& object, const TPropInfo& prop) {
   if (!prop.IsStored(object)) return;
   auto* inner = dynamic_cast<TPersistent*>(std::get<TObject*>(prop.Get(object)));
-  if (!inner) return;
+  if (!inner) return WriteKeptReference(Prefix + prop.Name);
   if (auto* collection = dynamic_cast<TCollection*>(inner)) {
     if (collection->Count() == 0) return;
     WriteName(prop.Name);

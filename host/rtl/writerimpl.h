@@ -34,6 +34,7 @@ struct TWriter::TImpl {
   std::string EnumName(const TPropInfo& prop, std::int64_t value) const;
   void WriteName(const std::string& name);
   void WriteKept(const std::string& after);
+  void WriteKeptReference(const std::string& name);
   std::string ReferenceTo(const TComponent& component) const;
 
   /// Counts how deep things stand in each other while it lives, and refuses too many.

@@ -175,21 +175,6 @@ TEST_F(Designer, SurvivesDamagedFilesAndPackages) {
   EXPECT_TRUE(Packages.Entries().front()->Error.empty());
 }
 
-TEST_F(Designer, BringsBackWhatAKilledProgramLost) {
-  Document().Save(File("kept.dfm"));
-  Place("TButton", At(40, 40), At(40, 40));
-  const std::string changed = Document().Text();
-  Document().Autosave();
-  Document().New("Other");
-  TBoxAnswer answer(IDYES);
-  ASSERT_TRUE(Window->Open(File("kept.dfm")));
-  EXPECT_TRUE(answer.Wait());
-  EXPECT_EQ(Document().Text(), changed);
-  EXPECT_TRUE(Document().Modified());
-  Document().Save(File("kept.dfm"));
-  EXPECT_FALSE(TFormDocument::HasAutosave(File("kept.dfm")));
-}
-
 TEST_F(Designer, OpensAFormOfManyComponents) {
   std::string text = "object F: TF\n  ClientHeight = 600\n  ClientWidth = 800\n";
   for (int i = 0; i < 500; ++i) {

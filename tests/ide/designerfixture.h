@@ -27,10 +27,25 @@ using namespace testinput;
 using namespace vcl;
 using testing_support::TFolder;
 
-class Designer : public ::testing::Test {
+/// Types on the keyboard.
+inline void Type(const std::string& text) {
+  for (const wchar_t character : ToUtf16(text)) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = character;
+    input.ki.dwFlags = KEYEVENTF_UNICODE;
+    ::SendInput(1, &input, sizeof input);
+    input.ki.dwFlags |= KEYEVENTF_KEYUP;
+    ::SendInput(1, &input, sizeof input);
+  }
+}
+
+/// A designer that a test starts.
+class UnstartedDesigner : public ::testing::Test {
  protected:
-  Designer() {
-    RegisterHostClasses();
+  UnstartedDesigner() { RegisterHostClasses(); }
+  ~UnstartedDesigner() override { Window.reset(); }
+  void Start() {
     TStart start;
     start.SettingsFile = (Folder.Path / "designer.ini").string();
     Window = std::make_unique<TMainForm>(nullptr);
@@ -38,7 +53,6 @@ class Designer : public ::testing::Test {
     Window->Show();
     PumpUntil([&] { return Window->Active(); });
   }
-  ~Designer() override { Window.reset(); }
 
   TFormDesigner& It() { return Window->FormDesigner(); }
   TFormDocument& Document() { return It().Document(); }
@@ -151,9 +165,76 @@ class Designer : public ::testing::Test {
     Click(grid.ClientToScreen({grid.Splitter() / 2, row.Top + 5}));
   }
 
+  /// Clicks the tab with the caption.
+  static void ChoosePage(TPageControl& pages, const std::string& caption) {
+    for (int i = 0; i < pages.PageCount(); ++i) {
+      if (pages.Pages(i)->Caption() != caption) continue;
+      RECT tab{};
+      ::SendMessageW(pages.Handle(), TCM_GETITEMRECT, static_cast<WPARAM>(i),
+                     reinterpret_cast<LPARAM>(&tab));
+      Click(pages.ClientToScreen({static_cast<int>(tab.left) + 10, static_cast<int>(tab.top) + 8}));
+    }
+    EXPECT_EQ(pages.ActivePage()->Caption(), caption);
+  }
+  // The inspector.
+  TInspectorGrid& Grid() {
+    return Window->Inspector().EventsShown() ? Window->Inspector().Events()
+                                             : Window->Inspector().Properties();
+  }
+  TPoint InLine(int row, int x) {
+    const TRect line = Grid().RowRect(row);
+    return Grid().ClientToScreen({x, (line.Top + line.Bottom) / 2});
+  }
+  /// Turns the mouse's wheel until the line is seen.
+  void BringIntoView(int row) {
+    MoveMouse(MiddleOf(&Grid()));
+    const auto hidden = [&] {
+      const TRect line = Grid().RowRect(row);
+      return line.Top < 0 ? 1 : line.Bottom > Grid().ClientHeight() ? -1 : 0;
+    };
+    for (int turns = 0; hidden() != 0 && turns < 100; ++turns) {
+      INPUT wheel{};
+      wheel.type = INPUT_MOUSE;
+      wheel.mi.dwFlags = MOUSEEVENTF_WHEEL;
+      wheel.mi.mouseData = static_cast<DWORD>(hidden() * WHEEL_DELTA);
+      ::SendInput(1, &wheel, sizeof wheel);
+      Pump();
+    }
+  }
+  int LineOf(const std::string& path) {
+    const int row = Grid().IndexOf(path);
+    EXPECT_GE(row, 0) << path;
+    BringIntoView(row);
+    return row;
+  }
+  void SetProperty(const std::string& path, const std::string& value) {
+    for (std::size_t dot = 0; (dot = path.find('.', dot)) != std::string::npos; ++dot) {
+      const int around = LineOf(path.substr(0, dot));
+      if (!Grid().Row(around).Expanded) Click(InLine(around, 6 + 10 * Grid().Row(around).Depth));
+    }
+    const int row = LineOf(path);
+    Click(InLine(row, Grid().Splitter() - 10));
+    Type(value);
+    TypeKey(VK_RETURN);
+    EXPECT_EQ(Grid().Row(row).Value, value) << path;
+  }
+
+  std::vector<std::string> Tabs() {
+    std::vector<std::string> captions;
+    const TPageControl& pages = Window->Forms().Pages();
+    for (int i = 0; i < pages.PageCount(); ++i) captions.push_back(pages.Pages(i)->Caption());
+    return captions;
+  }
+
   TFolder Folder;
   TPackages Packages;
   std::unique_ptr<TMainForm> Window;
+};
+
+/// A designer with an empty form.
+class Designer : public UnstartedDesigner {
+ protected:
+  Designer() { Start(); }
 };
 
 }  // namespace ide

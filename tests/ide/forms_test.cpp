@@ -12,20 +12,6 @@ using testing::HasSubstr;
 
 class Forms : public Designer {
  protected:
-  std::vector<std::string> Tabs() {
-    std::vector<std::string> captions;
-    const TPageControl& pages = Window->Forms().Pages();
-    for (int i = 0; i < pages.PageCount(); ++i) captions.push_back(pages.Pages(i)->Caption());
-    return captions;
-  }
-  /// Clicks the tab of the form.
-  void ClickTab(int index) {
-    TPageControl& pages = Window->Forms().Pages();
-    RECT tab{};
-    ::SendMessageW(pages.Handle(), TCM_GETITEMRECT, static_cast<WPARAM>(index),
-                   reinterpret_cast<LPARAM>(&tab));
-    Click(pages.ClientToScreen({static_cast<int>(tab.left) + 8, static_cast<int>(tab.top) + 8}));
-  }
   std::string Shown() { return Window->Structure().Items()->Item(0)->Text(); }
 };
 
@@ -40,7 +26,7 @@ TEST_F(Forms, EachHasItsOwnComponentsAndHistory) {
   ASSERT_TRUE(Find("Button1"));
   EXPECT_THAT(Shown(), HasSubstr("Form2"));
   EXPECT_EQ(Window->Structure().Items()->Item(0)->Count(), 1);
-  ClickTab(0);
+  ChoosePage(Window->Forms().Pages(), "Form1 *");
   EXPECT_THAT(Shown(), HasSubstr("Form1"));
   EXPECT_EQ(Window->Inspector().Designer(), &It());
   TypeKey(VK_F6, {VK_CONTROL});
@@ -69,6 +55,61 @@ TEST_F(Forms, AFileIsOpenOnceAndDamagedOnesLeaveNoPage) {
   ASSERT_TRUE(Window->Open(File("ONE.DFM")));
   EXPECT_THAT(Tabs(), ElementsAre("one.dfm", "two.dfm"));
   EXPECT_EQ(Root().Name(), "One");
+}
+
+TEST_F(Forms, ReferToEachOtherWhileBothAreOpenAndKeepTheNameElse) {
+  const std::string menus = "object Menus: TMenus\n  object Main: TPopupMenu\n  end\nend\n";
+  const std::string user =
+      "object User: TUser\n  object Box: TPanel\n    PopupMenu = Menus.Main\n  end\nend\n";
+  Write("menus.dfm", menus);
+  Write("user.dfm", user);
+  const auto open = [&](const char* name) { ASSERT_TRUE(Window->Open(File(name))); };
+  const auto close = [] { TypeKey(VK_F4, {VK_CONTROL}); };
+  const auto refers = [&] {
+    return Find<TPanel>("Box")->PopupMenu() != nullptr &&
+           Document().Text().find("PopupMenu = Menus.Main") != std::string::npos;
+  };
+  // The other form is missing, comes, is made anew by undo, and goes again.
+  open("user.dfm");
+  EXPECT_EQ(Find<TPanel>("Box")->PopupMenu(), nullptr);
+  EXPECT_THAT(Messages(), ElementsAre(HasSubstr("there is no component Menus.Main")));
+  const std::string text = Document().Text();
+  open("menus.dfm");
+  Place("TButton", At(40, 40), At(40, 40));
+  It().Undo();
+  open("user.dfm");
+  EXPECT_TRUE(refers());
+  EXPECT_FALSE(Document().Modified());
+  // Opened beside it, it finds it; another name there is another one here.
+  close();
+  open("user.dfm");
+  EXPECT_TRUE(refers());
+  EXPECT_EQ(Messages().size(), 1u);
+  open("menus.dfm");
+  It().SetSelection({Find<TComponent>("Main")});
+  SetProperty("Name", "Other");
+  open("user.dfm");
+  EXPECT_THAT(Document().Text(), HasSubstr("PopupMenu = Menus.Other"));
+  EXPECT_TRUE(Document().Modified());
+  open("menus.dfm");
+  It().Undo();
+  open("user.dfm");
+  EXPECT_TRUE(refers());
+  EXPECT_FALSE(Document().Modified());
+  // The user takes the reference away, and gives it again by the name in the list.
+  It().SetSelection({Find("Box")});
+  Click(InLine(LineOf("PopupMenu"), Grid().Splitter() - 10));
+  TypeKey(VK_DELETE);
+  TypeKey(VK_RETURN);
+  EXPECT_THAT(Document().Text(), testing::Not(HasSubstr("PopupMenu")));
+  EXPECT_THAT(It().ComponentNames(TPopupMenu::Class()), ElementsAre("Menus.Main"));
+  SetProperty("PopupMenu", "Menus.Main");
+  EXPECT_TRUE(refers());
+  open("menus.dfm");
+  close();
+  EXPECT_EQ(Root().Name(), "User");
+  EXPECT_EQ(Find<TPanel>("Box")->PopupMenu(), nullptr);
+  EXPECT_EQ(Document().Text(), text);
 }
 
 TEST_F(Forms, ClosingAsksForTheChangesOfEach) {

@@ -6,7 +6,6 @@
 #include <regex>
 
 #include "host/rtl/text.h"
-#include "ide/inspectorgrid.h"
 #include "tests/ide/designerfixture.h"
 
 namespace ide {
@@ -27,18 +26,6 @@ std::vector<TFields> All(const std::string& text, const char* expression) {
     found.emplace_back(at->begin() + 1, at->end());
   }
   return found;
-}
-
-void Type(const std::string& text) {
-  for (const wchar_t character : ToUtf16(text)) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wScan = character;
-    input.ki.dwFlags = KEYEVENTF_UNICODE;
-    ::SendInput(1, &input, sizeof input);
-    input.ki.dwFlags |= KEYEVENTF_KEYUP;
-    ::SendInput(1, &input, sizeof input);
-  }
 }
 
 /// Types a file's name into the file dialog that comes, and presses Enter.
@@ -65,64 +52,11 @@ class Tutorial : public Designer {
   static std::string Doc(const char* name) {
     return Contents(std::filesystem::path(DOCS_FOLDER) / name);
   }
-  /// Clicks the tab with the caption.
-  static void ChoosePage(TPageControl& pages, const std::string& caption) {
-    for (int i = 0; i < pages.PageCount(); ++i) {
-      if (pages.Pages(i)->Caption() != caption) continue;
-      RECT tab{};
-      ::SendMessageW(pages.Handle(), TCM_GETITEMRECT, static_cast<WPARAM>(i),
-                     reinterpret_cast<LPARAM>(&tab));
-      Click(pages.ClientToScreen({static_cast<int>(tab.left) + 10, static_cast<int>(tab.top) + 8}));
-    }
-    EXPECT_EQ(pages.ActivePage()->Caption(), caption);
-  }
   void TakeTool(const TFields& row) {
     ChoosePage(Window->Palette().Pages(), row[0]);
     TPalettePage& page = *Window->Palette().ActivePage();
     Click(page.ClientToScreen(page.ButtonRect(&FindClass(row[1])).TopLeft() + Point(8, 8)));
   }
-  TInspectorGrid& Grid() {
-    return Window->Inspector().EventsShown() ? Window->Inspector().Events()
-                                             : Window->Inspector().Properties();
-  }
-  TPoint InLine(int row, int x) {
-    const TRect line = Grid().RowRect(row);
-    return Grid().ClientToScreen({x, (line.Top + line.Bottom) / 2});
-  }
-  /// Turns the mouse's wheel until the line is seen.
-  void BringIntoView(int row) {
-    MoveMouse(MiddleOf(&Grid()));
-    const auto hidden = [&] {
-      const TRect line = Grid().RowRect(row);
-      return line.Top < 0 ? 1 : line.Bottom > Grid().ClientHeight() ? -1 : 0;
-    };
-    for (int turns = 0; hidden() != 0 && turns < 100; ++turns) {
-      INPUT wheel{};
-      wheel.type = INPUT_MOUSE;
-      wheel.mi.dwFlags = MOUSEEVENTF_WHEEL;
-      wheel.mi.mouseData = static_cast<DWORD>(hidden() * WHEEL_DELTA);
-      ::SendInput(1, &wheel, sizeof wheel);
-      Pump();
-    }
-  }
-  int LineOf(const std::string& path) {
-    const int row = Grid().IndexOf(path);
-    EXPECT_GE(row, 0) << path;
-    BringIntoView(row);
-    return row;
-  }
-  void SetProperty(const std::string& path, const std::string& value) {
-    for (std::size_t dot = 0; (dot = path.find('.', dot)) != std::string::npos; ++dot) {
-      const int around = LineOf(path.substr(0, dot));
-      if (!Grid().Row(around).Expanded) Click(InLine(around, 6 + 10 * Grid().Row(around).Depth));
-    }
-    const int row = LineOf(path);
-    Click(InLine(row, Grid().Splitter() - 10));
-    Type(value);
-    TypeKey(VK_RETURN);
-    EXPECT_EQ(Grid().Row(row).Value, value) << path;
-  }
-
   const std::filesystem::path Former = std::filesystem::current_path();
 };
 
