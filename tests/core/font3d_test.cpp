@@ -45,7 +45,7 @@ void DrawLayers(HDC dc, const vcl::TFont& font, const std::vector<TLayer>& layer
     RECT rect = Area;
     ::OffsetRect(&rect, layer.Dx, layer.Dy);
     ::SetTextColor(dc, vcl::ColorToRGB(layer.Color));
-    wchar_t text[] = L"Schrift Größe";
+    wchar_t text[] = L"Größe";
     ::DrawTextExW(dc, text, -1, &rect, DT_LEFT | DT_NOCLIP, nullptr);
   }
   ::RestoreDC(dc, saved);
@@ -68,7 +68,7 @@ TEST_P(Font3D, DrawsItsLayersInOrder) {
   font3D.SetThreeDimensional(GetParam().ThreeDimensional);
   const plain::TDib painted(Width, Height), expected(Width, Height), empty(Width, Height);
   for (const plain::TDib* dib : {&painted, &expected, &empty}) dib->Fill(RGB(9, 9, 9));
-  font3D.Write(&font, painted.DC(), Area, "Schrift Größe", DT_LEFT, GetParam().Enabled);
+  font3D.Write(&font, painted.DC(), Area, "Größe", DT_LEFT, GetParam().Enabled);
   DrawLayers(expected.DC(), font, GetParam().Layers);
   EXPECT_EQ("", painted.Difference(expected));
   EXPECT_NE("", painted.Difference(empty));

@@ -153,6 +153,11 @@ TEST(Glyph, TellsOnlyOfChanges) {
   glyph.SetNumGlyphs(TQELNumGlyphs(1));
   glyph.SetTransparentColor(Key);
   EXPECT_EQ(changes, 4);
+  MakeStrip(glyph, 2);
+  TQELGlyph copy;
+  copy.Assign(&glyph);
+  EXPECT_EQ(copy.GetWidth(), Side);
+  EXPECT_NE(copy.Bitmap(), glyph.Bitmap());
 }
 
 }  // namespace

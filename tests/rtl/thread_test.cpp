@@ -222,6 +222,22 @@ TEST(Thread, ACallThatFreesTheAwaitedThreadEndsTheWait) {
   EXPECT_EQ(thread, nullptr);
 }
 
+TEST(Thread, ItsPriorityIsTheSystemsFromItsBegin) {
+  std::atomic<bool> begun = false, go = false;
+  TWorker thread([&](TWorker& self) {
+    begun = true;
+    while (!go) self.Sleep(milliseconds(1));
+  });
+  thread.SetPriority(tpLower);
+  thread.Start();
+  ASSERT_TRUE(RunUntil([&] { return begun.load(); }));
+  EXPECT_EQ(thread.Priority(), tpLower);
+  thread.SetPriority(tpIdle);
+  EXPECT_EQ(thread.Priority(), tpIdle);
+  go = true;
+  thread.WaitFor();
+}
+
 std::atomic<int> Wakes = 0;
 
 TEST(Thread, WakesTheMainThreadOnceForCallsThatWait) {

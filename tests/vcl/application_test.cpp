@@ -58,6 +58,14 @@ TEST(Application, ErrorsGoToTheHandlerAndItsOwnToABox) {
     Application()->HandleCurrentException(nullptr);
   }
   EXPECT_NE(error, "first");
+  TForm form(nullptr);
+  form.OnClick = [](TObject*) { throw Exception("from a click"); };
+  Application()->OnException = [&](TObject* sender, const std::exception& e) {
+    EXPECT_EQ(sender, &form);
+    error = e.what();
+  };
+  for (UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) ::SendMessageW(form.Handle(), message, 0, 0);
+  EXPECT_EQ(error, "from a click");
   Application()->OnException = [](TObject*, const std::exception&) { throw Exception("worse"); };
   TBoxAnswer box(IDOK);
   Application()->HandleException(nullptr, Exception("bad"));

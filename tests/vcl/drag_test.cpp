@@ -1,7 +1,5 @@
 // Drag and drop with the real mouse.
-#include <gmock/gmock.h>
-
-#include "tests/vcl/testinput.h"
+#include "tests/vcl/standardform.h"
 
 namespace vcl {
 namespace {
@@ -17,11 +15,9 @@ class TPlate : public TGraphicControl {
   }
 };
 
-class Drag : public ::testing::Test {
+class Drag : public TStandardForm {
  protected:
-  Drag() : Form(nullptr), Source(new TPlate(&Form, 20)), Target(new TPlate(&Form, 120)) {
-    Form.SetBorderStyle(bsNone);
-    Form.SetBounds(300, 300, 240, 120);
+  Drag() : Source(new TPlate(&Form, 20)), Target(new TPlate(&Form, 120)) {
     Source->SetDragMode(dmAutomatic);
     Source->OnStartDrag = [this](TObject*, TDragObject*&) { Log.push_back("start"); };
     Source->OnEndDrag = [this](TObject*, TObject* target, int x, int y) {
@@ -41,13 +37,9 @@ class Drag : public ::testing::Test {
       DropPlace = {x, y};
     };
     ExpectedSource = Source;
-    Form.Show();
-    EXPECT_TRUE(PumpUntil([&] { return Form.Active(); }));
+    ShowForm();
   }
-  ~Drag() override {
-    LeftUp();
-    Form.Hide();
-  }
+  ~Drag() override { LeftUp(); }
   void PressOnSource() {
     MoveMouse(MiddleOf(Source));
     LeftDown();
@@ -67,7 +59,6 @@ class Drag : public ::testing::Test {
     EXPECT_TRUE(Ends());
   }
   TLog Log;
-  TForm Form;
   TPlate* Source;
   TPlate* Target;
   TObject* ExpectedSource = nullptr;
@@ -164,34 +155,24 @@ TEST_F(Drag, SourceOrTargetMayBeFreedByAnyHandler) {
 }
 
 TEST_F(Drag, AnErrorAtTheDropDoesNotKeepTheSourceFromItsEnd) {
-  std::string error;
-  Application()->OnException = [&](TObject*, const std::exception& e) { error = e.what(); };
   Target->OnDragDrop = [](TObject*, TObject*, int, int) { throw Exception("no room"); };
   DropOnTarget();
-  Application()->OnException = nullptr;
-  EXPECT_EQ(error, "no room");
+  EXPECT_EQ(std::exchange(Errors, {}), "no room");
   EXPECT_EQ(Log.back(), "end");
 }
 
 // A form with a list whose lines are dragged, some of them selected before.
-class DragFromList : public ::testing::Test {
+class DragFromList : public TStandardForm {
  protected:
-  DragFromList() : Form(nullptr), List(new TListBox(&Form)) {
-    Form.SetBorderStyle(bsNone);
-    Form.SetBounds(300, 300, 240, 120);
-    List->SetParent(&Form);
+  DragFromList() : List(Make<TListBox>(10, 10)) {
     List->SetBounds(10, 10, 100, 100);
     List->SetDragMode(dmAutomatic);
     List->Items()->SetCommaText("a,b,c");
     List->OnStartDrag = [this](TObject*, TDragObject*&) { Log += "start" + Selected() + " "; };
     List->OnEndDrag = [this](TObject*, TObject*, int, int) { Log += "end"; };
-    Form.Show();
-    EXPECT_TRUE(PumpUntil([&] { return Form.Active(); }));
+    ShowForm();
   }
-  ~DragFromList() override {
-    LeftUp();
-    Form.Hide();
-  }
+  ~DragFromList() override { LeftUp(); }
   std::string Selected() const {
     std::string selected;
     for (int i = 0; i < 3; ++i) {
@@ -210,7 +191,6 @@ class DragFromList : public ::testing::Test {
     LeftUp();
     EXPECT_TRUE(PumpUntil([] { return TDragSession::Current() == nullptr; }));
   }
-  TForm Form;
   TListBox* List;
   std::string Log;
 };

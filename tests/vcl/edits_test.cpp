@@ -61,6 +61,21 @@ TEST_F(Edits, StateOutlivesTheWindow) {
   EXPECT_TRUE(edit->Focused());
 }
 
+TEST_F(Edits, TheKeyboardsFocusSelectsAllAndAClickDoesNot) {
+  auto* first = Make<TEdit>(10, 10);
+  auto* second = Make<TEdit>(10, 40);
+  second->SetText("selected");
+  ShowForm();
+  first->SetFocus();
+  Key(VK_TAB);
+  EXPECT_TRUE(second->Focused());
+  EXPECT_EQ(second->SelText(), "selected");
+  first->SetFocus();
+  Click(*second);
+  EXPECT_TRUE(second->Focused());
+  EXPECT_EQ(second->SelText(), "");
+}
+
 TEST_F(Edits, TheHeightFollowsTheFontAndTheBorderIsOneOfTwo) {
   auto* edit = Make<TEdit>(10, 10);
   const int height = edit->Height();

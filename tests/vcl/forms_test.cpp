@@ -275,6 +275,10 @@ TEST_F(Forms, AModalFormDisablesTheOthersAndAnswers) {
   EXPECT_TRUE(::IsWindowEnabled(Form.Handle()));
   EXPECT_FALSE(modal.Visible());
   EXPECT_TRUE(PumpUntil([&] { return Form.Active(); }));
+  auto* freed = new TForm(nullptr);
+  freed->OnShow = [&](TObject*) { freed->Release(); };
+  EXPECT_EQ(freed->ShowModal(), mrCancel);
+  EXPECT_TRUE(::IsWindowEnabled(Form.Handle()));
 }
 
 TEST_F(Forms, ModalFormsNestAndTheirErrorsDoNotEndThem) {
@@ -306,14 +310,6 @@ TEST_F(Forms, ARefusedCloseKeepsTheModalFormAndTakesItsResultBack) {
   modal.OnShow = [&](TObject*) { modal.SetModalResult(mrOk); };
   EXPECT_EQ(modal.ShowModal(), mrCancel);
   EXPECT_EQ(asked, 2);
-}
-
-TEST_F(Forms, AModalFormThatIsFreedEndsItsLoop) {
-  ShowIt();
-  auto* modal = new TForm(nullptr);
-  modal->OnShow = [&](TObject*) { modal->Release(); };
-  EXPECT_EQ(modal->ShowModal(), mrCancel);
-  EXPECT_TRUE(::IsWindowEnabled(Form.Handle()));
 }
 
 TEST_F(Forms, WhatCannotBeModalIsRefused) {

@@ -1,7 +1,5 @@
 // Hints: their texts, when they come and go, where they stand.
-#include <gmock/gmock.h>
-
-#include "tests/vcl/testinput.h"
+#include "tests/vcl/standardform.h"
 
 namespace vcl {
 namespace {
@@ -26,14 +24,11 @@ class TPlate : public TGraphicControl {
   }
 };
 
-class Hints : public ::testing::Test {
+class Hints : public TStandardForm {
  protected:
   Hints()
-      : Form(nullptr),
-        First(new TPlate(&Form, 10, "First|About the first")),
+      : First(new TPlate(&Form, 10, "First|About the first")),
         Second(new TPlate(&Form, 100, "Second")) {
-    Form.SetBorderStyle(bsNone);
-    Form.SetBounds(300, 300, 200, 100);
     Form.SetShowHint(true);
     Application()->SetHintPause(30);
     Application()->SetHintHidePause(60000);
@@ -60,7 +55,6 @@ class Hints : public ::testing::Test {
     }
     return found;
   }
-  TForm Form;
   TPlate* First;
   TPlate* Second;
 };

@@ -1,9 +1,7 @@
 // Threads' calls reach the main thread in every message loop.
-#include <gmock/gmock.h>
-
 #include <atomic>
 
-#include "tests/vcl/testinput.h"
+#include "tests/vcl/standardform.h"
 
 namespace vcl {
 namespace {
@@ -25,13 +23,9 @@ class TCaller : public TThread {
   std::function<void()> FCall;
 };
 
-class ThreadCalls : public ::testing::Test {
+class ThreadCalls : public TStandardForm {
  protected:
-  ThreadCalls() : Form(nullptr) {
-    Form.SetBounds(200, 200, 300, 200);
-    Form.Show();
-    EXPECT_TRUE(PumpUntil([&] { return Form.Active(); }));
-  }
+  ThreadCalls() { ShowForm(); }
 
   /// Runs a loop of the system or of ours, which `end` ends when threads' calls have come inside
   /// it.
@@ -47,8 +41,6 @@ class ThreadCalls : public ::testing::Test {
     inside = false;
     return calls;
   }
-
-  TForm Form;
 };
 
 TEST_F(ThreadCalls, ComeInsideEveryMessageLoop) {
