@@ -210,6 +210,9 @@ TEST_F(Designer, PartsFollowTheForm) {
   EXPECT_EQ(Window->Structure().NodeOf("Bar.Panels[1]"), nullptr);
   EXPECT_EQ(Window->Items().Collection(), Find<TStatusBar>("Bar")->Panels());
   EXPECT_EQ(Window->Items().List().Items()->Count(), 1);
+  It().SetSelection({Find("Bar")});
+  It().DeleteSelected();
+  EXPECT_FALSE(Window->Items().Visible());
 }
 
 TEST_F(Designer, AnEditKeepsItsKeys) {

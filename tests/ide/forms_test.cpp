@@ -105,11 +105,18 @@ TEST_F(Forms, ReferToEachOtherWhileBothAreOpenAndKeepTheNameElse) {
   EXPECT_THAT(It().ComponentNames(TPopupMenu::Class()), ElementsAre("Menus.Main"));
   SetProperty("PopupMenu", "Menus.Main");
   EXPECT_TRUE(refers());
+  EXPECT_EQ(Document().Text(), text);
+  // The name that the other form is saved with is the one that stays.
   open("menus.dfm");
+  It().SetSelection({Find<TComponent>("Main")});
+  SetProperty("Name", "Saved");
+  TypeKey('S', {VK_CONTROL});
+  SetProperty("Name", "Unsaved");
+  TBoxAnswer no(IDNO);
   close();
   EXPECT_EQ(Root().Name(), "User");
   EXPECT_EQ(Find<TPanel>("Box")->PopupMenu(), nullptr);
-  EXPECT_EQ(Document().Text(), text);
+  EXPECT_THAT(Document().Text(), HasSubstr("PopupMenu = Menus.Saved"));
 }
 
 TEST_F(Forms, ClosingAsksForTheChangesOfEach) {

@@ -173,19 +173,5 @@ TEST_F(Structure, ItemsAreAddedOrderedAndDeleted) {
   EXPECT_EQ(panels.Count(), 2);
 }
 
-TEST_F(Structure, TheItemsWindowFollowsItsCollection) {
-  Items.ShowItems(Designer, *Bar->Panels());
-  Items.SetDesigner(nullptr);  // The form is made anew.
-  delete Bar;
-  Bar = Add<vcl::TStatusBar>("Bar1", *Panel);
-  Items.SetDesigner(&Designer);
-  EXPECT_EQ(Items.Collection(), Bar->Panels());
-  EXPECT_TRUE(Items.Visible());
-  delete Bar;
-  Items.Refresh();
-  EXPECT_EQ(Items.Collection(), nullptr);
-  EXPECT_FALSE(Items.Visible());
-}
-
 }  // namespace
 }  // namespace ide
