@@ -76,6 +76,7 @@ TEST_F(KilledDesigner, OffersTheFormsThatItHadOpen) {
     yes.Wait();
     EXPECT_THAT(yes.Texts(), ElementsAre(HasSubstr("kept.dfm"), HasSubstr("Unsaved")));
   }
+  EXPECT_TRUE(FileHas("designer.ini", "\n2=")) << "for the case that this one is killed at once";
   EXPECT_THAT(Tabs(), ElementsAre("kept.dfm *", "Form1 *"));
   EXPECT_EQ(UnstartedDesigner::Find("Button1")->Left(), 17);
   EXPECT_EQ(Document().FileName(), "");
