@@ -147,12 +147,7 @@ bool TDesignSurface::IsMouse(TWinControl& sender, TMessage& message) {
     case WM_LBUTTONDBLCLK:
       if (Events.DoubleClick) Events.DoubleClick(*ComponentAt(sender, screen));
       return true;
-    case WM_RBUTTONUP: {
-      TComponent* component = ComponentAt(sender, screen);
-      if (!FSelection.Contains(component)) FSelection.Only(component);
-      if (Events.ContextMenu) Events.ContextMenu(screen);
-      return true;
-    }
+    case WM_RBUTTONUP: ShowMenu(*ComponentAt(sender, screen), screen); return true;
     default: return true;
   }
 }

@@ -108,6 +108,7 @@ class TDesignSurface : public vcl::TDesignerHook {
 
   // The mouse (designsurface_mouse.cpp).
   void Press(vcl::TComponent& component, vcl::TWinControl& container, vcl::TPoint screen);
+  void ShowMenu(vcl::TComponent& component, vcl::TPoint screen);
   void BeginBand(TMode mode, vcl::TWinControl& container);
   void BeginSizing(TGrab grab, vcl::TPoint screen);
   void BeginDrag();

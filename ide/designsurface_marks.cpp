@@ -126,8 +126,7 @@ TDesignSurface::TIcon TDesignSurface::MakeIcon(TComponent& component) {
       if (Events.DoubleClick) Events.DoubleClick(component);
       return;
     }
-    if (!FSelection.Contains(&component)) FSelection.Only(&component);
-    if (Events.ContextMenu) Events.ContextMenu(at);
+    ShowMenu(component, at);
   };
   const auto picture = [this, &component](TCanvas& canvas, const TRect& inside) {
     PaintComponentPicture(canvas, inside, component, FSelection.Contains(&component));

@@ -38,6 +38,13 @@ void TDesignSurface::Press(TComponent& component, TWinControl& container, TPoint
   ::SetCapture(FRoot->Handle());
 }
 
+/// The form gets the keyboard, so that the menu's commands are about it and not about a text.
+void TDesignSurface::ShowMenu(TComponent& component, TPoint screen) {
+  ::SetFocus(FRoot->Handle());
+  if (!FSelection.Contains(&component)) FSelection.Only(&component);
+  if (Events.ContextMenu) Events.ContextMenu(screen);
+}
+
 void TDesignSurface::BeginBand(TMode mode, TWinControl& container) {
   FMode = mode;
   FBandIn = &container;

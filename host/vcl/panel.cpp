@@ -1,5 +1,8 @@
 #include "host/vcl/panel.h"
 
+#include <algorithm>
+#include <cstdint>
+
 #include "host/rtl/exceptions.h"
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
@@ -20,7 +23,8 @@ void CheckWidth(int width, int least) {
 }  // namespace
 
 void Frame3D(TCanvas* canvas, TRect& rect, TColor topColor, TColor bottomColor, int width) {
-  for (int i = 0; i < width; ++i) {
+  // Beyond the middle there is nothing to draw on.
+  for (int i = 0; i < width && !rect.Empty(); ++i) {
     const int right = rect.Right - 1;
     const int bottom = rect.Bottom - 1;
     const TPoint top[] = {{rect.Left, bottom}, {rect.Left, rect.Top}, {right, rect.Top}};
@@ -119,8 +123,9 @@ void TCustomPanel::CreateParams(TCreateParams& params) {
 }
 
 void TCustomPanel::AdjustClientRect(TRect& rect) const {
-  const int bevels = (FBevelOuter != bvNone) + (FBevelInner != bvNone);
-  const int frame = FBorderWidth + bevels * FBevelWidth;
+  const std::int64_t bevels = (FBevelOuter != bvNone) + (FBevelInner != bvNone);
+  const std::int64_t most = std::max({rect.Width(), rect.Height(), 0});
+  const auto frame = static_cast<int>(std::min(FBorderWidth + bevels * FBevelWidth, most));
   rect.Inflate(-frame, -frame);
 }
 

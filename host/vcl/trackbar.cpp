@@ -1,6 +1,8 @@
 #include "host/vcl/trackbar.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 
 #include "host/rtl/exceptions.h"
 #include "host/rtl/properties.h"
@@ -50,15 +52,30 @@ TTrackBar::TTrackBar(TComponent* owner) : TWinControl(owner) {
 }
 
 void TTrackBar::SetRange(int min, int max) {
-  if (min > max) {
+  // The system's control counts the way from one end to the other.
+  if (min > max || std::int64_t{max} - min > std::numeric_limits<int>::max()) {
     throw EArgumentOutOfRangeException(
         Concat("A track bar cannot go from ", std::to_string(min), " to ", std::to_string(max)));
   }
   FMin = min;
   FMax = max;
-  SendIfAllocated(*this, TBM_SETRANGEMIN, FALSE, min);
-  SendIfAllocated(*this, TBM_SETRANGEMAX, TRUE, max);
+  if (HandleAllocated()) SendRange();
   SetPosition(FPosition);
+}
+
+// The control keeps every tick of every range that it hears of: there are few meanwhile, and never
+// more than can be told apart.
+void TTrackBar::SendRange() {
+  constexpr int mostTicks = 4096;
+  Send(*this, TBM_SETTICFREQ, static_cast<WPARAM>(std::numeric_limits<int>::max()));
+  Send(*this, TBM_SETRANGEMIN, FALSE, FMin);
+  Send(*this, TBM_SETRANGEMAX, TRUE, FMax);
+  Send(*this, TBM_SETTICFREQ, static_cast<WPARAM>(std::max(FFrequency, (FMax - FMin) / mostTicks)));
+}
+
+void TTrackBar::SetFrequency(int frequency) {
+  FFrequency = frequency;
+  if (HandleAllocated()) SendRange();
 }
 
 void TTrackBar::SetPosition(int position) {
@@ -71,15 +88,11 @@ void TTrackBar::SetPosition(int position) {
 
 void TTrackBar::ChangeNumber(int& field, int value, UINT message) {
   field = value;
-  // The frequency is the message's first parameter, the two sizes are the second one.
-  const bool frequency = message == TBM_SETTICFREQ;
-  SendIfAllocated(*this, message, frequency ? static_cast<WPARAM>(value) : 0,
-                  frequency ? 0 : value);
+  SendIfAllocated(*this, message, 0, value);
 }
 
 void TTrackBar::SetLineSize(int size) { ChangeNumber(FLineSize, size, TBM_SETLINESIZE); }
 void TTrackBar::SetPageSize(int size) { ChangeNumber(FPageSize, size, TBM_SETPAGESIZE); }
-void TTrackBar::SetFrequency(int frequency) { ChangeNumber(FFrequency, frequency, TBM_SETTICFREQ); }
 
 void TTrackBar::SetOrientation(TTrackBarOrientation orientation) {
   if (orientation == FOrientation) return;
@@ -107,11 +120,9 @@ void TTrackBar::CreateParams(TCreateParams& params) {
 
 void TTrackBar::CreateWnd() {
   TWinControl::CreateWnd();
-  Send(*this, TBM_SETRANGEMIN, FALSE, FMin);
-  Send(*this, TBM_SETRANGEMAX, FALSE, FMax);
+  SendRange();
   Send(*this, TBM_SETLINESIZE, 0, FLineSize);
   Send(*this, TBM_SETPAGESIZE, 0, FPageSize);
-  Send(*this, TBM_SETTICFREQ, static_cast<WPARAM>(FFrequency));
   Send(*this, TBM_SETPOS, TRUE, FPosition);
 }
 

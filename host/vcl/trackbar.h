@@ -24,7 +24,7 @@ class VCL_API TTrackBar : public TWinControl {
   int Max() const { return FMax; }
   int Position() const { return FPosition; }
   /// The bounds move the position inside. Raise EArgumentOutOfRangeException when the least would
-  /// be more than the greatest.
+  /// be more than the greatest, or so far below that an int does not hold the way.
   void SetMin(int min) { SetRange(min, FMax); }
   void SetMax(int max) { SetRange(FMin, max); }
   void SetRange(int min, int max);
@@ -53,6 +53,7 @@ class VCL_API TTrackBar : public TWinControl {
   void Dispatch(TMessage& message) override;
 
  private:
+  void SendRange();
   void ChangeNumber(int& field, int value, UINT message);
 
   int FMin = 0;

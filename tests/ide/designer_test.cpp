@@ -159,7 +159,7 @@ TEST_F(Designer, KeepsWhatItDoesNotKnowThroughUndo) {
   EXPECT_EQ(Messages().size(), 4u);
 }
 
-TEST_F(Designer, SurvivesDamagedFilesAndPackages) {
+TEST_F(Designer, SurvivesDamagedFiles) {
   const std::string before = Document().Text();
   for (const char* damaged :
        {"", "object", "object F: TF\n  Left = \nend\n", "object F: TF\n  Left = 1\n", "TPF0\x03",
@@ -171,8 +171,16 @@ TEST_F(Designer, SurvivesDamagedFilesAndPackages) {
     EXPECT_EQ(Document().Text(), before);
   }
   EXPECT_FALSE(Window->Open(File("missing.dfm")));
-  EXPECT_THAT(Packages.Load(File("missing.dll")).Error, HasSubstr("missing.dll"));
-  EXPECT_TRUE(Packages.Entries().front()->Error.empty());
+}
+
+TEST_F(Designer, HugeNumbersAreShownOrRefused) {
+  OpenForm(
+      " object A: TPanel\n BevelWidth = 2147483647\n BorderWidth = 2147483647\n end\n"
+      " object B: TTrackBar\n Max = 2000000000\n Min = -2000000000\n end\n");
+  Window->Update();
+  EXPECT_EQ(Find<TPanel>("A")->BevelWidth(), 2147483647);
+  EXPECT_EQ(Find<TTrackBar>("B")->Max(), 2000000000);
+  EXPECT_THAT(Messages(), ElementsAre(HasSubstr("from -2000000000 to 2000000000")));
 }
 
 TEST_F(Designer, OpensAFormOfManyComponents) {
