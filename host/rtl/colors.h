@@ -76,7 +76,9 @@ VCL_API TColor StringToColor(std::string_view text);
 VCL_API void GetColorValues(const std::function<void(const std::string&)>& each);
 
 template <>
-inline constexpr TIntegerText IntegerText<TColor>{"TColor", &ColorToIdent, &IdentToColor,
-                                                  &GetColorValues};
+inline constexpr TIntegerText IntegerText<TColor>{
+    "TColor", [](std::int64_t value) { return ColorToIdent(value); },
+    [](std::string_view ident) { return IdentToColor(ident); },
+    [](const std::function<void(const std::string&)>& each) { GetColorValues(each); }};
 
 }  // namespace vcl

@@ -56,8 +56,10 @@ VCL_API std::optional<std::int64_t> IdentToCursor(std::string_view ident);
 /// Calls `each` for every cursor that has a name.
 VCL_API void GetCursorValues(const std::function<void(const std::string&)>& each);
 template <>
-inline constexpr TIntegerText IntegerText<TCursor>{"TCursor", &CursorToIdent, &IdentToCursor,
-                                                   &GetCursorValues};
+inline constexpr TIntegerText IntegerText<TCursor>{
+    "TCursor", [](std::int64_t value) { return CursorToIdent(value); },
+    [](std::string_view ident) { return IdentToCursor(ident); },
+    [](const std::function<void(const std::string&)>& each) { GetCursorValues(each); }};
 
 /// A window's border: forms have all of them, other controls the first two.
 enum TBorderStyle { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bsSizeToolWin };
@@ -82,8 +84,10 @@ VCL_API std::optional<std::int64_t> IdentToModalResult(std::string_view ident);
 /// Calls `each` for every modal result that has a name.
 VCL_API void GetModalResultValues(const std::function<void(const std::string&)>& each);
 template <>
-inline constexpr TIntegerText IntegerText<TModalResult>{"TModalResult", &ModalResultToIdent,
-                                                        &IdentToModalResult, &GetModalResultValues};
+inline constexpr TIntegerText IntegerText<TModalResult>{
+    "TModalResult", [](std::int64_t value) { return ModalResultToIdent(value); },
+    [](std::string_view ident) { return IdentToModalResult(ident); },
+    [](const std::function<void(const std::string&)>& each) { GetModalResultValues(each); }};
 
 /// The state of a Far Eastern input method while a control has the focus: without one, closed,
 /// open, as it is, or open and converting to Latin letters, Hiragana, Katakana (half-width with an

@@ -29,8 +29,10 @@ VCL_API std::optional<std::int64_t> IdentToCharset(std::string_view ident);
 /// Calls `each` for every character set that has a name.
 VCL_API void GetCharsetValues(const std::function<void(const std::string&)>& each);
 template <>
-inline constexpr TIntegerText IntegerText<TFontCharset>{"TFontCharset", &CharsetToIdent,
-                                                        &IdentToCharset, &GetCharsetValues};
+inline constexpr TIntegerText IntegerText<TFontCharset>{
+    "TFontCharset", [](std::int64_t value) { return CharsetToIdent(value); },
+    [](std::string_view ident) { return IdentToCharset(ident); },
+    [](const std::function<void(const std::string&)>& each) { GetCharsetValues(each); }};
 
 /// A font. A new one is Tahoma, 8 points, in the colour of text in windows.
 class VCL_API TFont : public TGraphicsObject {
