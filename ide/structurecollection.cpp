@@ -84,7 +84,8 @@ void TCollectionWindow::ListItems() {
 }
 
 void TCollectionWindow::SelectionChanged() {
-  if (!FDesigner || !FCollection) return;
+  // What is deleted is selected no longer, before the form is told to have changed.
+  if (!FDesigner || !FCollection || !Find()) return;
   const auto selected = FDesigner->Selection();
   const int count = std::min(List().Items()->Count(), FCollection->Count());
   for (int i = 0; i < count; ++i) {
