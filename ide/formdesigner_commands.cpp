@@ -47,19 +47,17 @@ void TFormDesigner::Add(const TClass& aClass) {
 }
 
 void TFormDesigner::DeleteSelected() {
-  bool changed = false;
+  const std::vector<TComponent*> deleted = SelectedOutermost();
+  if (deleted.empty()) return;
+  // Nobody may still show what is inside them while they are freed.
+  FSelection.Only(&Root());
   Try([&] {
-    for (;;) {
-      const auto components = FSelection.Components();
-      const auto next =
-          std::ranges::find_if(components, [&](const TComponent* each) { return each != &Root(); });
-      if (next == components.end()) break;
-      delete *next;
-      changed = true;
+    for (TComponent* each : deleted) {
+      bool there = false;  // It may have gone with another.
+      for (int i = 0; i < Root().ComponentCount(); ++i) there |= Root().Components(i) == each;
+      if (there) delete each;
     }
   });
-  if (!changed) return;
-  FSelection.Only(&Root());
   Modified();
 }
 
