@@ -2,8 +2,8 @@ object MainForm: TMainForm
   Left = 0
   Top = 0
   Caption = 'Designer'
-  ClientHeight = 700
-  ClientWidth = 1000
+  ClientHeight = 860
+  ClientWidth = 1240
   Menu = MainMenuBar
   ShowHint = True
   OnCloseQuery = FormCloseQuery

@@ -6850,91 +6850,91 @@ object GalleryForm: TGalleryForm
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = Circle
-    Left = 40
-    Top = 40
+    Left = 24
+    Top = 508
   end
   object HorizontalBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
-    Left = 72
-    Top = 40
+    Left = 62
+    Top = 508
   end
   object VerticalBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = Vertical
-    Left = 104
-    Top = 40
+    Left = 100
+    Top = 508
   end
   object LeftBottomBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = LeftBottom
-    Left = 136
-    Top = 40
+    Left = 138
+    Top = 508
   end
   object RoundMiddleBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = RoundMiddle
-    Left = 168
-    Top = 40
+    Left = 176
+    Top = 508
   end
   object SquareMiddleBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = SquareMiddle
-    Left = 200
-    Top = 40
+    Left = 214
+    Top = 508
   end
   object SpectralBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = Spectral
-    Left = 232
-    Top = 40
+    Left = 252
+    Top = 508
   end
   object DoppelFlashBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = DoppelFlash
-    Left = 264
-    Top = 40
+    Left = 290
+    Top = 508
   end
   object SingleflashBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = Singleflash
-    Left = 296
-    Top = 40
+    Left = 328
+    Top = 508
   end
   object MiddleHBarBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = MiddleHBar
-    Left = 328
-    Top = 40
+    Left = 366
+    Top = 508
   end
   object MiddleVBarBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = MiddleVBar
-    Left = 360
-    Top = 40
+    Left = 404
+    Top = 508
   end
   object VerticalDoppelBarBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = VerticalDoppelBar
-    Left = 392
-    Top = 40
+    Left = 442
+    Top = 508
   end
   object HorizontalDoppelBarBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = clNavy
     Gradient.FillStyle = HorizontalDoppelBar
-    Left = 424
-    Top = 40
+    Left = 480
+    Top = 508
   end
   object FourColoursBackground: TQELBackground
     Gradient.BeginColor = clNavy
@@ -6943,8 +6943,8 @@ object GalleryForm: TGalleryForm
     Gradient.ColorsInBetween.Strings = (
       'clAqua'
       'clYellow')
-    Left = 456
-    Top = 40
+    Left = 518
+    Top = 508
   end
   object TiledBackground: TQELBackground
     Texture.Image.Data = {
@@ -6964,8 +6964,8 @@ object GalleryForm: TGalleryForm
     Gradient.BeginColor = clSilver
     Gradient.EndColor = clGray
     BackgroundStyle = bTexture
-    Left = 488
-    Top = 40
+    Left = 556
+    Top = 508
   end
   object CentredBackground: TQELBackground
     Texture.Image.Data = {
@@ -6993,8 +6993,8 @@ object GalleryForm: TGalleryForm
     Gradient.BeginColor = clSilver
     Gradient.EndColor = clGray
     BackgroundStyle = bTexture
-    Left = 520
-    Top = 40
+    Left = 594
+    Top = 508
   end
   object StretchedBackground: TQELBackground
     Texture.Image.Data = {
@@ -7014,8 +7014,8 @@ object GalleryForm: TGalleryForm
     Gradient.BeginColor = clSilver
     Gradient.EndColor = clGray
     BackgroundStyle = bTexture
-    Left = 552
-    Top = 40
+    Left = 24
+    Top = 552
   end
   object SeeThroughBackground: TQELBackground
     Texture.Image.Data = {
@@ -7044,16 +7044,16 @@ object GalleryForm: TGalleryForm
     Gradient.BeginColor = clSilver
     Gradient.EndColor = clGray
     BackgroundStyle = bTexture
-    Left = 584
-    Top = 40
+    Left = 62
+    Top = 552
   end
   object CurrentSolidBackground: TQELBackground
     Gradient.BeginColor = clSilver
     Gradient.EndColor = clGray
     BrushFill.BrushColor = clTeal
     BackgroundStyle = bBrushFillUseCurrent
-    Left = 616
-    Top = 40
+    Left = 100
+    Top = 552
   end
   object SolidSolidBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7061,8 +7061,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushColor = clTeal
     SolidColor = 11593983
     BackgroundStyle = bBrushFillSolidColor
-    Left = 648
-    Top = 40
+    Left = 138
+    Top = 552
   end
   object CurrentClearBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7070,8 +7070,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushStyle = bsClear
     BrushFill.BrushColor = clTeal
     BackgroundStyle = bBrushFillUseCurrent
-    Left = 680
-    Top = 40
+    Left = 176
+    Top = 552
   end
   object SolidClearBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7080,8 +7080,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushColor = clTeal
     SolidColor = 11593983
     BackgroundStyle = bBrushFillSolidColor
-    Left = 712
-    Top = 40
+    Left = 214
+    Top = 552
   end
   object CurrentHorizontalBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7089,8 +7089,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushStyle = bsHorizontal
     BrushFill.BrushColor = clTeal
     BackgroundStyle = bBrushFillUseCurrent
-    Left = 744
-    Top = 40
+    Left = 252
+    Top = 552
   end
   object SolidHorizontalBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7099,8 +7099,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushColor = clTeal
     SolidColor = 11593983
     BackgroundStyle = bBrushFillSolidColor
-    Left = 776
-    Top = 40
+    Left = 290
+    Top = 552
   end
   object CurrentVerticalBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7108,8 +7108,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushStyle = bsVertical
     BrushFill.BrushColor = clTeal
     BackgroundStyle = bBrushFillUseCurrent
-    Left = 40
-    Top = 80
+    Left = 328
+    Top = 552
   end
   object SolidVerticalBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7118,8 +7118,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushColor = clTeal
     SolidColor = 11593983
     BackgroundStyle = bBrushFillSolidColor
-    Left = 72
-    Top = 80
+    Left = 366
+    Top = 552
   end
   object CurrentFDiagonalBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7127,8 +7127,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushStyle = bsFDiagonal
     BrushFill.BrushColor = clTeal
     BackgroundStyle = bBrushFillUseCurrent
-    Left = 104
-    Top = 80
+    Left = 404
+    Top = 552
   end
   object SolidFDiagonalBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7137,8 +7137,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushColor = clTeal
     SolidColor = 11593983
     BackgroundStyle = bBrushFillSolidColor
-    Left = 136
-    Top = 80
+    Left = 442
+    Top = 552
   end
   object CurrentBDiagonalBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7146,8 +7146,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushStyle = bsBDiagonal
     BrushFill.BrushColor = clTeal
     BackgroundStyle = bBrushFillUseCurrent
-    Left = 168
-    Top = 80
+    Left = 480
+    Top = 552
   end
   object SolidBDiagonalBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7156,8 +7156,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushColor = clTeal
     SolidColor = 11593983
     BackgroundStyle = bBrushFillSolidColor
-    Left = 200
-    Top = 80
+    Left = 518
+    Top = 552
   end
   object CurrentCrossBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7165,8 +7165,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushStyle = bsCross
     BrushFill.BrushColor = clTeal
     BackgroundStyle = bBrushFillUseCurrent
-    Left = 232
-    Top = 80
+    Left = 556
+    Top = 552
   end
   object SolidCrossBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7175,8 +7175,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushColor = clTeal
     SolidColor = 11593983
     BackgroundStyle = bBrushFillSolidColor
-    Left = 264
-    Top = 80
+    Left = 594
+    Top = 552
   end
   object CurrentDiagCrossBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7184,8 +7184,8 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushStyle = bsDiagCross
     BrushFill.BrushColor = clTeal
     BackgroundStyle = bBrushFillUseCurrent
-    Left = 296
-    Top = 80
+    Left = 24
+    Top = 596
   end
   object SolidDiagCrossBackground: TQELBackground
     Gradient.BeginColor = clSilver
@@ -7194,21 +7194,21 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushColor = clTeal
     SolidColor = 11593983
     BackgroundStyle = bBrushFillSolidColor
-    Left = 328
-    Top = 80
+    Left = 62
+    Top = 596
   end
   object FaceBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = 15784128
-    Left = 360
-    Top = 80
+    Left = 100
+    Top = 596
   end
   object StageBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = 14725248
     Gradient.FillStyle = MiddleHBar
-    Left = 392
-    Top = 80
+    Left = 138
+    Top = 596
   end
   object LettersBackground: TQELBackground
     Gradient.BeginColor = clRed
@@ -7217,8 +7217,8 @@ object GalleryForm: TGalleryForm
     Gradient.ColorsInBetween.Strings = (
       'clYellow'
       'clLime')
-    Left = 424
-    Top = 80
+    Left = 176
+    Top = 596
   end
   object SharedBackground: TQELBackground
     Texture.Image.Data = {
@@ -7243,16 +7243,16 @@ object GalleryForm: TGalleryForm
     BrushFill.BrushColor = clNavy
     OnChanged = SharedChanged
     SolidColor = clTeal
-    Left = 456
-    Top = 80
+    Left = 214
+    Top = 596
   end
   object LiveTimer: TQELTimer32
     Enabled = False
     Interval = 40
     OnTimer = LiveTimerTick
     Priority = tpTimeCritical
-    Left = 488
-    Top = 80
+    Left = 252
+    Top = 596
   end
   object BubbleHint: TQELHint
     Speechbubble = True
@@ -7266,19 +7266,19 @@ object GalleryForm: TGalleryForm
     HintFont.Style = []
     OnSelectHintDirection = SelectHintDirection
     Background = BubbleBackground
-    Left = 520
-    Top = 80
+    Left = 290
+    Top = 596
   end
   object BubbleBackground: TQELBackground
     Gradient.BeginColor = clWhite
     Gradient.EndColor = 9433343
-    Left = 552
-    Top = 80
+    Left = 328
+    Top = 596
   end
   object ButtonMenu: TPopupMenu
     OnPopup = ButtonMenuPopup
-    Left = 880
-    Top = 40
+    Left = 366
+    Top = 596
     object EnabledItem: TMenuItem
       Caption = '&Enabled'
       Hint = ''

@@ -26,7 +26,8 @@ class VCL_API TDesigner {
   /// A name that no component of the root has, for a new one of that class: "TButton" gives
   /// "Button1".
   virtual std::string UniqueName(const std::string& className) const = 0;
-  /// Why the component's name cannot be that of a member of the form's C++ class; empty when it can.
+  /// Why the component's name cannot be that of a member of the form's C++ class; empty when it
+  /// can.
   virtual std::string NameProblem(const TComponent& component) const = 0;
 
   /// The handlers that an event can be given, which are those of its signature, in order.
