@@ -30,7 +30,7 @@ vcl::TButton* TListWindow::AddButton(const char* caption, const std::function<vo
 
 void TListWindow::CreateParams(vcl::TCreateParams& params) {
   TForm::CreateParams(params);
-
+  // The system keeps a window in front of its owner.
   if (auto* above = dynamic_cast<vcl::TCustomForm*>(Owner())) params.WndParent = above->Handle();
 }
 

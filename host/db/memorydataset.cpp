@@ -1,20 +1,13 @@
 #include "host/db/memorydataset.h"
 
+#include "host/db/propertygroups.h"
 #include "host/rtl/properties.h"
 
 namespace vcl {
 
 const TClass& TMemoryDataSet::Class() {
   static const TClass info = Describe<TMemoryDataSet, TDataSet>(
-      "TMemoryDataSet", "db",
-      {Inherit("FieldDefs"),     Inherit("Active"),       Inherit("BeforeOpen"),
-       Inherit("AfterOpen"),     Inherit("BeforeClose"),  Inherit("AfterClose"),
-       Inherit("BeforeInsert"),  Inherit("AfterInsert"),  Inherit("BeforeEdit"),
-       Inherit("AfterEdit"),     Inherit("BeforePost"),   Inherit("AfterPost"),
-       Inherit("BeforeCancel"),  Inherit("AfterCancel"),  Inherit("BeforeDelete"),
-       Inherit("AfterDelete"),   Inherit("BeforeScroll"), Inherit("AfterScroll"),
-       Inherit("BeforeRefresh"), Inherit("AfterRefresh"), Inherit("OnDeleteError"),
-       Inherit("OnEditError"),   Inherit("OnNewRecord"),  Inherit("OnPostError")});
+      "TMemoryDataSet", "db", {Inherit("FieldDefs"), Inherit("Active"), Inherit(DataSetEvents)});
   return info;
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/db/odbclive.h"
 #include "host/db/odbcrows.h"
+#include "host/db/propertygroups.h"
 #include "host/rtl/properties.h"
 #include "host/rtl/text.h"
 
@@ -16,29 +17,7 @@ const TClass& TOdbcQuery::Class() {
        Property<&T::RequestLive, &T::SetRequestLive>("RequestLive").Default(false),
        Property<&T::SQL, &T::SetSQL>("SQL"),
        Property<&T::UniDirectional, &T::SetUniDirectional>("UniDirectional").Default(false),
-       Inherit("Active"),
-       Inherit("BeforeOpen"),
-       Inherit("AfterOpen"),
-       Inherit("BeforeClose"),
-       Inherit("AfterClose"),
-       Inherit("BeforeInsert"),
-       Inherit("AfterInsert"),
-       Inherit("BeforeEdit"),
-       Inherit("AfterEdit"),
-       Inherit("BeforePost"),
-       Inherit("AfterPost"),
-       Inherit("BeforeCancel"),
-       Inherit("AfterCancel"),
-       Inherit("BeforeDelete"),
-       Inherit("AfterDelete"),
-       Inherit("BeforeScroll"),
-       Inherit("AfterScroll"),
-       Inherit("BeforeRefresh"),
-       Inherit("AfterRefresh"),
-       Inherit("OnDeleteError"),
-       Inherit("OnEditError"),
-       Inherit("OnNewRecord"),
-       Inherit("OnPostError")});
+       Inherit("Active"), Inherit(DataSetEvents)});
   return info;
 }
 

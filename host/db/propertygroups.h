@@ -1,0 +1,12 @@
+// Events that data sets publish together, for `Inherit` in their tables.
+#pragma once
+
+namespace vcl {
+
+inline constexpr const char* DataSetEvents[] = {
+    "BeforeOpen",    "AfterOpen",   "BeforeClose",  "AfterClose",  "BeforeInsert",  "AfterInsert",
+    "BeforeEdit",    "AfterEdit",   "BeforePost",   "AfterPost",   "BeforeCancel",  "AfterCancel",
+    "BeforeDelete",  "AfterDelete", "BeforeScroll", "AfterScroll", "BeforeRefresh", "AfterRefresh",
+    "OnDeleteError", "OnEditError", "OnNewRecord",  "OnPostError"};
+
+}  // namespace vcl
