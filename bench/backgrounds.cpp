@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "bench/timing.h"
-#include "controls/Qeltbackground.h"
+#include "qel/controls/Qeltbackground.h"
 #include "tests/support/handles.h"
 #include "tests/support/plainfill.h"
 

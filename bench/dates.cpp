@@ -3,7 +3,7 @@
 #include <chrono>
 
 #include "bench/timing.h"
-#include "core/Qelfunctions.h"
+#include "qel/core/Qelfunctions.h"
 
 namespace bench {
 

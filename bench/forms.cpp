@@ -5,13 +5,13 @@
 #include <vector>
 
 #include "bench/timing.h"
-#include "controls/Qeltbutton.h"
-#include "controls/Qeltlabel.h"
-#include "host/rtl/classregistry.h"
-#include "host/rtl/formfile.h"
-#include "host/rtl/streams.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/registration.h"
+#include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltlabel.h"
+#include "vcl/forms/forms.h"
+#include "vcl/forms/standardclasses.h"
+#include "vcl/rtl/classregistry.h"
+#include "vcl/rtl/formfile.h"
+#include "vcl/rtl/streams.h"
 
 namespace bench {
 
@@ -77,7 +77,7 @@ void MakeWindows() {
 }  // namespace
 
 void Forms() {
-  vcl::RegisterHostClasses();
+  vcl::RegisterStandardClasses();
   vcl::RegisterClasses({&qel::TQELButton::Class(), &qel::TQELLabel::Class()});
   const std::string file = FormFile();
   TTable table(

@@ -1,8 +1,8 @@
 #include "bench/gauge.h"
 
 #include "bench/timing.h"
-#include "controls/Qeltgauge.h"
-#include "host/vcl/forms.h"
+#include "qel/controls/Qeltgauge.h"
+#include "vcl/forms/forms.h"
 
 namespace bench {
 

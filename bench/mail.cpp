@@ -8,7 +8,7 @@
 #include <string>
 
 #include "bench/timing.h"
-#include "mail/Qeltiemails.h"
+#include "qel/mail/Qeltiemails.h"
 
 namespace bench {
 

@@ -7,7 +7,7 @@
 #include "bench/forms.h"
 #include "bench/gauge.h"
 #include "bench/settings.h"
-#include "host/vcl/win32.h"
+#include "vcl/rtl/win32.h"
 
 int main() {
   ::SetConsoleOutputCP(CP_UTF8);

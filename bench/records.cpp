@@ -9,8 +9,8 @@
 #include <string>
 
 #include "bench/timing.h"
-#include "data/Qeltdbascii.h"
-#include "host/db/odbcquery.h"
+#include "qel/data/Qeltdbascii.h"
+#include "vcl/db/odbcquery.h"
 
 namespace bench {
 

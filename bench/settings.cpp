@@ -5,9 +5,9 @@
 #include <string>
 
 #include "bench/timing.h"
-#include "core/Qeltstoredata.h"
-#include "host/rtl/inifile.h"
-#include "host/vcl/win32.h"
+#include "qel/core/Qeltstoredata.h"
+#include "vcl/rtl/inifile.h"
+#include "vcl/rtl/win32.h"
 
 namespace bench {
 

@@ -1,5 +1,5 @@
 #include "bench/timing.h"
-#include "host/vcl/win32.h"
+#include "vcl/rtl/win32.h"
 
 namespace bench {
 

@@ -1,12 +1,13 @@
-# The sources of folders that belong to the platform that is built for. What names files is taken as
-# it is.
+# The sources of rooms, their private/ folders included, that belong to the platform that is built
+# for. What names files is taken as it is.
 function(qel_folder_sources result)
   set(sources)
   foreach(folder IN LISTS ARGN)
     if(folder MATCHES "\\.cpp$")
       set(found ${PROJECT_SOURCE_DIR}/${folder})
     else()
-      file(GLOB found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
+      file(GLOB found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp
+                                        ${PROJECT_SOURCE_DIR}/${folder}/private/*.cpp)
     endif()
     list(APPEND sources ${found})
   endforeach()
@@ -18,19 +19,20 @@ function(qel_folder_sources result)
   set(${result} ${sources} PARENT_SCOPE)
 endfunction()
 
-# qel_add_library(NAME BUILD_DEFINITION macro PORTABLE folders... WINDOWED folders...
-#                 WINDOW_FREE files... LIBRARIES targets... SYSTEM_LIBRARIES names...
-#                 NATIVE_LIBRARIES names...)
+# qel_add_library(NAME BUILD_DEFINITION macro PORTABLE rooms... WINDOWED rooms...
+#                 WINDOW_FREE files... HEADERS files... LIBRARIES targets...
+#                 SYSTEM_LIBRARIES names... NATIVE_LIBRARIES names...)
 #
-# Adds the shared library NAME with all sources of its folders; elsewhere than on Windows only the
+# Adds the shared library NAME with all sources of its rooms; elsewhere than on Windows only the
 # WINDOW_FREE files of the WINDOWED ones. Where there are no sources there is no target. The form
 # files (*.dfm) in the WINDOWED folders become its resources; a form class of the library gives
 # LoadForm its module.
 # SYSTEM_LIBRARIES are Windows's, NATIVE_LIBRARIES those that stand in for them elsewhere.
+# HEADERS stand beside the rooms and are installed with the rooms' public ones.
 # BUILD_DEFINITION is what the library's api.h asks for to know whether it exports or imports.
 function(qel_add_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "BUILD_DEFINITION"
-                        "PORTABLE;WINDOWED;WINDOW_FREE;LIBRARIES;SYSTEM_LIBRARIES;NATIVE_LIBRARIES")
+                        "PORTABLE;WINDOWED;WINDOW_FREE;HEADERS;LIBRARIES;SYSTEM_LIBRARIES;NATIVE_LIBRARIES")
   set(folders ${arg_PORTABLE})
   if(WIN32)
     list(APPEND folders ${arg_WINDOWED})
@@ -44,11 +46,11 @@ function(qel_add_library name)
 
   add_library(${name} SHARED ${sources})
   add_library(QEL::${name} ALIAS ${name})
-  set_target_properties(${name} PROPERTIES QEL_FOLDERS "${folders}")
+  set_target_properties(${name} PROPERTIES QEL_FOLDERS "${folders}" QEL_HEADERS "${arg_HEADERS}")
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_compile_definitions(${name} PRIVATE ${arg_BUILD_DEFINITION})
   target_include_directories(${name} PUBLIC
-    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:include/qel>)
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:include>)
   target_link_libraries(${name} PUBLIC ${arg_LIBRARIES})
   if(WIN32)
     set_target_properties(${name} PROPERTIES PREFIX "")

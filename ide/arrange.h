@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "host/vcl/types.h"
+#include "vcl/graphics/types.h"
 
 namespace ide {
 

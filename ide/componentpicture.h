@@ -1,8 +1,8 @@
 // The picture of a component that is not seen when the form runs.
 #pragma once
 
-#include "host/rtl/component.h"
-#include "host/vcl/canvas.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/rtl/component.h"
 
 namespace ide {
 

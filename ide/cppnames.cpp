@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/rtl/text.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 
@@ -16,39 +16,39 @@ struct THeaderRow {
   std::string_view Name, Header;
 };
 constexpr THeaderRow Headers[] = {
-    {"TDataSource", "host/db/datasource.h"},
-    {"TMemoryDataSet", "host/db/memorydataset.h"},
-    {"TOdbcQuery", "host/db/odbcquery.h"},
-    {"TDBEdit", "host/dbctrls/dbedit.h"},
-    {"TDBGrid", "host/dbctrls/dbgrid.h"},
-    {"buttons", "host/vcl/buttons.h"},
-    {"comctrls", "host/vcl/vcl.h"},
-    {"controls", "host/vcl/vcl.h"},
-    {"db", "host/db/fields.h"},
-    {"dialogs", "host/vcl/vcl.h"},
-    {"extctrls", "host/vcl/vcl.h"},
-    {"forms", "host/vcl/vcl.h"},
-    {"menus", "host/vcl/vcl.h"},
-    {"sockets", "host/net/sockets.h"},
-    {"stdctrls", "host/vcl/vcl.h"},
-    {"Qelclasses", "core/Qelclasses.h"},
-    {"Qelclasses2", "core/Qelclasses2.h"},
-    {"Qeltbackground", "controls/Qeltbackground.h"},
-    {"Qeltbutton", "controls/Qeltbutton.h"},
-    {"Qeltdbascii", "data/Qeltdbascii.h"},
-    {"Qeltexplorertree", "shell/Qeltexplorertree.h"},
-    {"Qeltformsaver", "services/Qeltformsaver.h"},
-    {"Qeltgauge", "controls/Qeltgauge.h"},
-    {"Qelthint", "controls/Qelthint.h"},
-    {"Qeltiemails", "mail/Qeltiemails.h"},
-    {"Qeltlabel", "controls/Qeltlabel.h"},
-    {"Qeltmapimail", "mail/Qeltmapimail.h"},
-    {"Qeltmrumenu", "services/Qeltmrumenu.h"},
-    {"Qeltonlyone", "services/Qeltonlyone.h"},
-    {"Qeltquickmail", "mail/Qeltquickmail.h"},
-    {"Qeltspinedit", "controls/Qeltspinedit.h"},
-    {"Qeltstoredata", "core/Qeltstoredata.h"},
-    {"Qeltsystemtray", "services/Qeltsystemtray.h"},
+    {"TDataSource", "vcl/db/datasource.h"},
+    {"TMemoryDataSet", "vcl/db/memorydataset.h"},
+    {"TOdbcQuery", "vcl/db/odbcquery.h"},
+    {"TDBEdit", "vcl/dbctrls/dbedit.h"},
+    {"TDBGrid", "vcl/dbctrls/dbgrid.h"},
+    {"buttons", "vcl/stdctrls/buttons.h"},
+    {"comctrls", "vcl/vcl.h"},
+    {"controls", "vcl/vcl.h"},
+    {"db", "vcl/db/fields.h"},
+    {"dialogs", "vcl/vcl.h"},
+    {"extctrls", "vcl/vcl.h"},
+    {"forms", "vcl/vcl.h"},
+    {"menus", "vcl/vcl.h"},
+    {"sockets", "vcl/net/sockets.h"},
+    {"stdctrls", "vcl/vcl.h"},
+    {"Qelclasses", "qel/core/Qelclasses.h"},
+    {"Qelclasses2", "qel/core/Qelclasses2.h"},
+    {"Qeltbackground", "qel/controls/Qeltbackground.h"},
+    {"Qeltbutton", "qel/controls/Qeltbutton.h"},
+    {"Qeltdbascii", "qel/data/Qeltdbascii.h"},
+    {"Qeltexplorertree", "qel/shell/Qeltexplorertree.h"},
+    {"Qeltformsaver", "qel/services/Qeltformsaver.h"},
+    {"Qeltgauge", "qel/controls/Qeltgauge.h"},
+    {"Qelthint", "qel/controls/Qelthint.h"},
+    {"Qeltiemails", "qel/mail/Qeltiemails.h"},
+    {"Qeltlabel", "qel/controls/Qeltlabel.h"},
+    {"Qeltmapimail", "qel/mail/Qeltmapimail.h"},
+    {"Qeltmrumenu", "qel/services/Qeltmrumenu.h"},
+    {"Qeltonlyone", "qel/services/Qeltonlyone.h"},
+    {"Qeltquickmail", "qel/mail/Qeltquickmail.h"},
+    {"Qeltspinedit", "qel/controls/Qeltspinedit.h"},
+    {"Qeltstoredata", "qel/core/Qeltstoredata.h"},
+    {"Qeltsystemtray", "qel/services/Qeltsystemtray.h"},
 };
 
 /// The parameters of the handlers of each event type, by the name that it is published under.
@@ -161,8 +161,7 @@ TCppClass CppClassOf(const TClass& type) {
   std::string_view header = HeaderOf(type.Name());
   if (header.empty()) header = HeaderOf(type.Unit());
   if (header.empty()) return {};
-  return {Concat(header.starts_with("host/") ? "vcl::" : "qel::", type.Name()),
-          std::string(header)};
+  return {Concat(header.starts_with("vcl/") ? "vcl::" : "qel::", type.Name()), std::string(header)};
 }
 
 std::string_view ParametersOf(std::string_view eventType) {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/rtl/object.h"
+#include "vcl/rtl/object.h"
 
 namespace ide {
 

@@ -4,7 +4,7 @@
 #include <cctype>
 #include <utility>
 
-#include "host/rtl/text.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

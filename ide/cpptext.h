@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/rtl/exceptions.h"
+#include "vcl/rtl/exceptions.h"
 
 namespace ide {
 

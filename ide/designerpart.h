@@ -1,7 +1,7 @@
 // TDesignerPart: what the windows and panes beside the form have in common.
 #pragma once
 
-#include "host/designintf/designer.h"
+#include "vcl/designintf/designer.h"
 
 namespace ide {
 

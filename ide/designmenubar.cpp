@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/vcl/handles.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/graphics/handles.h"
+#include "vcl/rtl/utf16.h"
 
 namespace ide {
 

@@ -4,8 +4,8 @@
 #include <functional>
 #include <vector>
 
-#include "host/vcl/forms.h"
-#include "host/vcl/menus.h"
+#include "vcl/forms/forms.h"
+#include "vcl/menus/menus.h"
 
 namespace ide {
 

@@ -1,7 +1,7 @@
 #include "ide/designsurface.h"
 
-#include "host/rtl/exceptions.h"
-#include "host/vcl/handles.h"
+#include "vcl/graphics/handles.h"
+#include "vcl/rtl/exceptions.h"
 
 namespace ide {
 

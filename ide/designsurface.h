@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "host/designintf/designer.h"
-#include "host/vcl/forms.h"
 #include "ide/designmenubar.h"
 #include "ide/overlay.h"
 #include "ide/selection.h"
+#include "vcl/designintf/designer.h"
+#include "vcl/forms/forms.h"
 
 namespace ide {
 

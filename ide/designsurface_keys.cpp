@@ -1,9 +1,9 @@
 // TDesignSurface: the keyboard.
 #include <algorithm>
 
-#include "host/rtl/convert.h"
-#include "host/rtl/text.h"
 #include "ide/designsurface.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

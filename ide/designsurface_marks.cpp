@@ -1,10 +1,10 @@
 // TDesignSurface: grabbers, icons and the rubber band.
 #include <algorithm>
 
-#include "host/rtl/text.h"
-#include "host/vcl/application.h"
 #include "ide/componentpicture.h"
 #include "ide/designsurface.h"
+#include "vcl/forms/application.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

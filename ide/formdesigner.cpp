@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "host/designintf/componenteditor.h"
-#include "host/rtl/convert.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
 #include "ide/cppnames.h"
 #include "ide/standins.h"
+#include "vcl/designintf/componenteditor.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

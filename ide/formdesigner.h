@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
-#include "host/designintf/designer.h"
-#include "host/vcl/menus.h"
 #include "ide/arrange.h"
 #include "ide/designsurface.h"
 #include "ide/formdocument.h"
 #include "ide/handlers.h"
 #include "ide/selection.h"
+#include "vcl/designintf/designer.h"
+#include "vcl/menus/menus.h"
 
 namespace ide {
 

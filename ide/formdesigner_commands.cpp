@@ -1,13 +1,13 @@
 // TFormDesigner: the commands that change the form.
 #include <algorithm>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/formfile.h"
-#include "host/rtl/streams.h"
-#include "host/rtl/text.h"
-#include "host/vcl/application.h"
-#include "host/vcl/clipboardtext.h"
 #include "ide/formdesigner.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/clipboardtext.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/formfile.h"
+#include "vcl/rtl/streams.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

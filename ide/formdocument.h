@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "host/vcl/forms.h"
 #include "ide/formlinks.h"
 #include "ide/standins.h"
 #include "ide/undohistory.h"
+#include "vcl/forms/forms.h"
 
 namespace ide {
 

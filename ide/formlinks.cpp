@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "host/rtl/collection.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/formformat.h"
-#include "host/rtl/keptdata.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/text.h"
+#include "vcl/rtl/collection.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/formformat.h"
+#include "vcl/rtl/keptdata.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

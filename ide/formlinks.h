@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/rtl/component.h"
+#include "vcl/rtl/component.h"
 
 namespace ide {
 

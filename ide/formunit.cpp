@@ -1,13 +1,13 @@
 #include "ide/formunit.h"
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/keptdata.h"
-#include "host/rtl/os.h"
-#include "host/rtl/sharedfile.h"
-#include "host/rtl/text.h"
 #include "ide/cppnames.h"
 #include "ide/cpptext.h"
 #include "ide/standins.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/keptdata.h"
+#include "vcl/rtl/os.h"
+#include "vcl/rtl/sharedfile.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/rtl/collection.h"
-#include "host/rtl/text.h"
+#include "vcl/rtl/collection.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

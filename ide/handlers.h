@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "host/rtl/component.h"
-#include "host/rtl/properties.h"
+#include "vcl/rtl/component.h"
+#include "vcl/rtl/properties.h"
 
 namespace ide {
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "host/rtl/convert.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/strings.h"
-#include "host/rtl/text.h"
 #include "ide/inspectorgrid.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/strings.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

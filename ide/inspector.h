@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "host/vcl/comctrls.h"
-#include "host/vcl/stdctrls.h"
 #include "ide/designerpart.h"
+#include "vcl/stdctrls/comctrls.h"
+#include "vcl/stdctrls/stdctrls.h"
 
 namespace ide {
 

@@ -1,6 +1,6 @@
 #include "ide/inspectoredit.h"
 
-#include "host/vcl/windowmessages.h"
+#include "vcl/controls/windowmessages.h"
 
 namespace ide {
 

@@ -1,7 +1,7 @@
 // TInspectorEdit: the edit that lies over the value of an inspector's selected line.
 #pragma once
 
-#include "host/vcl/edit.h"
+#include "vcl/stdctrls/edit.h"
 
 namespace ide {
 

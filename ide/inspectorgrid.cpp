@@ -3,11 +3,11 @@
 
 #include <algorithm>
 
-#include "host/vcl/canvas.h"
-#include "host/vcl/fontmetrics.h"
 #include "ide/inspectoredit.h"
 #include "ide/inspectorlayout.h"
 #include "ide/inspectorlist.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/graphics/fontmetrics.h"
 
 namespace ide {
 

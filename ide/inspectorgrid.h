@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "host/vcl/bitmap.h"
-#include "host/vcl/menus.h"
-#include "host/vcl/wincontrol.h"
 #include "ide/inspectorrows.h"
+#include "vcl/controls/wincontrol.h"
+#include "vcl/graphics/bitmap.h"
+#include "vcl/menus/menus.h"
 
 namespace ide {
 

@@ -1,14 +1,14 @@
 // TInspectorGrid: the value of the selected line: its edit, its button, its list.
 #include <algorithm>
 
-#include "host/rtl/convert.h"
-#include "host/rtl/text.h"
-#include "host/vcl/fontmetrics.h"
-#include "host/vcl/windowtext.h"
 #include "ide/inspectoredit.h"
 #include "ide/inspectorgrid.h"
 #include "ide/inspectorlayout.h"
 #include "ide/inspectorlist.h"
+#include "vcl/graphics/fontmetrics.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace ide {
 

@@ -2,12 +2,12 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "host/rtl/strings.h"
-#include "host/rtl/text.h"
 #include "ide/inspectoredit.h"
 #include "ide/inspectorgrid.h"
 #include "ide/inspectorlayout.h"
 #include "ide/inspectorlist.h"
+#include "vcl/rtl/strings.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

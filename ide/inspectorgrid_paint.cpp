@@ -2,10 +2,10 @@
 // picture of its own first, so that none is seen half-painted.
 #include <algorithm>
 
-#include "host/vcl/canvas.h"
-#include "host/vcl/fontmetrics.h"
 #include "ide/inspectorgrid.h"
 #include "ide/inspectorlayout.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/graphics/fontmetrics.h"
 
 namespace ide {
 

@@ -1,7 +1,7 @@
 // Measures of an object inspector's grid, in pixels, and its messages to itself.
 #pragma once
 
-#include "host/vcl/win32.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide::layout {
 

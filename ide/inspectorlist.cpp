@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "host/rtl/strings.h"
-#include "host/vcl/application.h"
-#include "host/vcl/fontmetrics.h"
-#include "host/vcl/screen.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/screen.h"
+#include "vcl/graphics/fontmetrics.h"
+#include "vcl/rtl/strings.h"
 
 namespace ide {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/vcl/listbox.h"
+#include "vcl/stdctrls/listbox.h"
 
 namespace ide {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <exception>
 
-#include "host/rtl/text.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "host/designintf/propertyeditor.h"
-#include "host/rtl/colors.h"
+#include "vcl/designintf/propertyeditor.h"
+#include "vcl/rtl/colors.h"
 
 namespace ide {
 

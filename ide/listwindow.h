@@ -4,8 +4,8 @@
 #include <functional>
 #include <vector>
 
-#include "host/vcl/forms.h"
-#include "host/vcl/stdctrls.h"
+#include "vcl/forms/forms.h"
+#include "vcl/stdctrls/stdctrls.h"
 
 namespace ide {
 

@@ -8,12 +8,12 @@
 #include <exception>
 #include <string>
 
-#include "host/vcl/application.h"
-#include "host/vcl/registration.h"
-#include "host/vcl/windowtext.h"
 #include "ide/mainform.h"
 #include "ide/preview.h"
 #include "ide/screenshot.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/standardclasses.h"
+#include "vcl/rtl/utf16.h"
 
 namespace {
 
@@ -97,7 +97,7 @@ int Run(int argc, char** argv) {
     return 2;
   }
   Application()->Initialize();
-  vcl::RegisterHostClasses();
+  vcl::RegisterStandardClasses();
   if (!options.Preview.empty()) return Preview(options);
   Application()->SetTitle("Designer");
   return RunDesigner(options);

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/designintf/componenteditor.h"
-#include "host/rtl/convert.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/text.h"
 #include "ide/standins.h"
+#include "vcl/designintf/componenteditor.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

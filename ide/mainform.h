@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "host/designintf/environment.h"
-#include "host/vcl/vcl.h"
 #include "ide/formdesigner.h"
 #include "ide/inspector.h"
 #include "ide/menuwindow.h"
@@ -17,6 +15,8 @@
 #include "ide/settings.h"
 #include "ide/structure.h"
 #include "ide/structurecollection.h"
+#include "vcl/designintf/environment.h"
+#include "vcl/vcl.h"
 
 namespace ide {
 

@@ -2,14 +2,13 @@
 #include <algorithm>
 #include <string_view>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
-#include "host/vcl/windowtext.h"
 #include "ide/formunit.h"
 #include "ide/mainform.h"
 #include "ide/orderdialog.h"
 #include "ide/packagesdialog.h"
 #include "ide/preview.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

@@ -1,10 +1,10 @@
 // TMainForm: files.
 #include <filesystem>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
-#include "host/vcl/windowtext.h"
 #include "ide/mainform.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace ide {
 

@@ -1,7 +1,7 @@
 // TMainForm: which of the open forms is worked on.
-#include "host/rtl/convert.h"
-#include "host/rtl/text.h"
 #include "ide/mainform.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

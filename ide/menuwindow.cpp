@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <memory>
 
-#include "host/designintf/componenteditor.h"
-#include "host/rtl/strings.h"
-#include "host/rtl/text.h"
 #include "ide/formdesigner.h"
+#include "vcl/designintf/componenteditor.h"
+#include "vcl/rtl/strings.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "host/vcl/menus.h"
 #include "ide/designerpart.h"
 #include "ide/listwindow.h"
+#include "vcl/menus/menus.h"
 
 namespace ide {
 

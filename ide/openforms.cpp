@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "host/rtl/convert.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace ide {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "host/vcl/pagecontrol.h"
 #include "ide/formdesigner.h"
 #include "ide/workspace.h"
+#include "vcl/stdctrls/pagecontrol.h"
 
 namespace ide {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "host/rtl/text.h"
-#include "host/vcl/vcl.h"
 #include "ide/designsurface.h"
+#include "vcl/rtl/text.h"
+#include "vcl/vcl.h"
 
 namespace ide {
 

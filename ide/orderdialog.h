@@ -1,7 +1,7 @@
 // The dialogs in which the user orders what is on a form.
 #pragma once
 
-#include "host/vcl/wincontrol.h"
+#include "vcl/controls/wincontrol.h"
 
 namespace ide {
 

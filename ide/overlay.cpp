@@ -3,8 +3,8 @@
 #include <string_view>
 #include <utility>
 
-#include "host/vcl/application.h"
-#include "host/vcl/handles.h"
+#include "vcl/forms/application.h"
+#include "vcl/graphics/handles.h"
 
 namespace ide {
 

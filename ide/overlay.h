@@ -4,9 +4,9 @@
 
 #include <functional>
 
-#include "host/vcl/canvas.h"
-#include "host/vcl/types.h"
-#include "host/vcl/win32.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/graphics/types.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

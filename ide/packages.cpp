@@ -1,6 +1,6 @@
 #include "ide/packages.h"
 
-#include "host/rtl/text.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/designintf/package.h"
+#include "vcl/designintf/package.h"
 
 namespace ide {
 

@@ -1,8 +1,8 @@
 #include "ide/packagesdialog.h"
 
-#include "host/rtl/text.h"
-#include "host/vcl/dialogs.h"
-#include "host/vcl/vcl.h"
+#include "vcl/dialogs/dialogs.h"
+#include "vcl/rtl/text.h"
+#include "vcl/vcl.h"
 
 namespace ide {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/rtl/text.h"
-#include "host/vcl/canvas.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "host/designintf/registration.h"
-#include "host/vcl/comctrls.h"
-#include "host/vcl/stdctrls.h"
 #include "ide/palettepage.h"
+#include "vcl/designintf/registration.h"
+#include "vcl/stdctrls/comctrls.h"
+#include "vcl/stdctrls/stdctrls.h"
 
 namespace ide {
 

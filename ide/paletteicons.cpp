@@ -4,9 +4,9 @@
 #include <memory>
 #include <utility>
 
-#include "host/rtl/resources.h"
-#include "host/vcl/handles.h"
-#include "host/vcl/module.h"
+#include "vcl/forms/module.h"
+#include "vcl/graphics/handles.h"
+#include "vcl/rtl/resources.h"
 
 namespace ide {
 

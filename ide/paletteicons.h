@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "host/rtl/object.h"
-#include "host/vcl/bitmap.h"
+#include "vcl/graphics/bitmap.h"
+#include "vcl/rtl/object.h"
 
 namespace ide {
 

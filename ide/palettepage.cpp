@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "host/rtl/text.h"
-#include "host/vcl/canvas.h"
 #include "ide/paletteicons.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

@@ -4,8 +4,8 @@
 #include <functional>
 #include <vector>
 
-#include "host/vcl/hints.h"
-#include "host/vcl/wincontrol.h"
+#include "vcl/controls/wincontrol.h"
+#include "vcl/forms/hints.h"
 
 namespace ide {
 

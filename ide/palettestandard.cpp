@@ -1,15 +1,15 @@
 // Which of the class library's components stand on which page of the palette, and which have an
 // editor of the designer's own.
-#include "host/db/datasource.h"
-#include "host/db/memorydataset.h"
-#include "host/db/odbcquery.h"
-#include "host/dbctrls/dbedit.h"
-#include "host/dbctrls/dbgrid.h"
-#include "host/net/sockets.h"
-#include "host/vcl/buttons.h"
-#include "host/vcl/vcl.h"
 #include "ide/menuwindow.h"
 #include "ide/palette.h"
+#include "vcl/db/datasource.h"
+#include "vcl/db/memorydataset.h"
+#include "vcl/db/odbcquery.h"
+#include "vcl/dbctrls/dbedit.h"
+#include "vcl/dbctrls/dbgrid.h"
+#include "vcl/net/sockets.h"
+#include "vcl/stdctrls/buttons.h"
+#include "vcl/vcl.h"
 
 namespace ide {
 

@@ -2,16 +2,16 @@
 
 #include <cstdio>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/formfile.h"
-#include "host/rtl/os.h"
-#include "host/rtl/sharedfile.h"
-#include "host/rtl/streams.h"
-#include "host/rtl/text.h"
-#include "host/vcl/application.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/windowtext.h"
 #include "ide/standins.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/forms.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/formfile.h"
+#include "vcl/rtl/os.h"
+#include "vcl/rtl/sharedfile.h"
+#include "vcl/rtl/streams.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace ide {
 

@@ -1,8 +1,8 @@
 #include "ide/recovery.h"
 
-#include "host/rtl/convert.h"
-#include "host/rtl/text.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace ide {
 

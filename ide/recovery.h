@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "host/vcl/handles.h"
 #include "ide/settings.h"
+#include "vcl/graphics/handles.h"
 
 namespace ide {
 

@@ -1,8 +1,8 @@
 #include "ide/screenshot.h"
 
-#include "host/rtl/text.h"
-#include "host/vcl/formpicture.h"
-#include "host/vcl/png.h"
+#include "vcl/forms/formpicture.h"
+#include "vcl/graphics/png.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

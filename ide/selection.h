@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "host/rtl/component.h"
+#include "vcl/rtl/component.h"
 
 namespace ide {
 

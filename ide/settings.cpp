@@ -4,11 +4,12 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "host/rtl/convert.h"
-#include "host/rtl/inifile.h"
-#include "host/rtl/strings.h"
-#include "host/rtl/text.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/inifile.h"
+#include "vcl/rtl/strings.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

@@ -1,9 +1,9 @@
 #include "ide/standins.h"
 
-#include "host/rtl/properties.h"
-#include "host/rtl/text.h"
-#include "host/vcl/canvas.h"
 #include "ide/formlinks.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

@@ -1,5 +1,5 @@
 // What stands on a form for components whose class is missing or could not be made. Their
-// properties are kept as the form file has them (host/rtl/keptdata.h).
+// properties are kept as the form file has them (vcl/rtl/keptdata.h).
 #pragma once
 
 #include <functional>
@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/vcl/wincontrol.h"
+#include "vcl/controls/wincontrol.h"
 
 namespace ide {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/vcl/drag.h"
-#include "host/vcl/forms.h"
+#include "vcl/forms/drag.h"
+#include "vcl/forms/forms.h"
 
 namespace ide {
 

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "host/vcl/treeview.h"
 #include "ide/designerpart.h"
 #include "ide/structurelines.h"
+#include "vcl/stdctrls/treeview.h"
 
 namespace ide {
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "host/rtl/convert.h"
-#include "host/rtl/strings.h"
-#include "host/rtl/text.h"
 #include "ide/structurelines.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/strings.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

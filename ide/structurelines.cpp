@@ -1,8 +1,8 @@
 #include "ide/structurelines.h"
 
-#include "host/rtl/convert.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/text.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

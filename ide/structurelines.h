@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "host/rtl/collection.h"
-#include "host/rtl/component.h"
+#include "vcl/rtl/collection.h"
+#include "vcl/rtl/component.h"
 
 namespace ide {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/rtl/text.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 

@@ -4,9 +4,9 @@
 #include <set>
 #include <utility>
 
-#include "host/rtl/text.h"
 #include "ide/cppnames.h"
 #include "ide/unitparts.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 
@@ -33,7 +33,7 @@ std::string Stub(const TUnitForm& form, const TUnitHandler& handler) {
 /// A class without fields, handlers and lines in its table, to be brought up to date.
 std::string NewHeader(const TUnitForm& form) {
   return Concat("// ", form.ClassName, ": the form of ", form.UnitName, ".dfm.\n#pragma once\n\n",
-                "#include \"host/vcl/vcl.h\"\n\nclass ", form.ClassName, " : public ", form.Base,
+                "#include \"vcl/vcl.h\"\n\nclass ", form.ClassName, " : public ", form.Base,
                 " {\n public:\n  explicit ", form.ClassName,
                 "(vcl::TComponent* owner);\n  static const vcl::TClass& Class();\n"
                 "  const vcl::TClass& ClassType() const override { return Class(); }\n\n"

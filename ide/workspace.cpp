@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/rtl/properties.h"
-#include "host/vcl/graphics.h"
+#include "vcl/graphics/graphics.h"
+#include "vcl/rtl/properties.h"
 
 namespace ide {
 

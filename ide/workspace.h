@@ -1,7 +1,7 @@
 // TWorkspace: where the forms that are designed stand; it scrolls when it is smaller than they are.
 #pragma once
 
-#include "host/vcl/wincontrol.h"
+#include "vcl/controls/wincontrol.h"
 
 namespace ide {
 

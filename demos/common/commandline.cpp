@@ -2,8 +2,8 @@
 
 #include <cstdlib>
 
-#include "host/rtl/text.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace demos {
 

@@ -1,9 +1,9 @@
 // The page of backgrounds: the settings of the one that several controls share.
 #include "demos/gallery/galleryform.h"
 #include "demos/gallery/propertytext.h"
-#include "host/rtl/colors.h"
-#include "host/rtl/convert.h"
-#include "host/rtl/text.h"
+#include "vcl/rtl/colors.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/text.h"
 
 namespace gallery {
 

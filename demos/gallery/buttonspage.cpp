@@ -1,8 +1,8 @@
 // The page of buttons: the settings of one button at a time, its popup menu, and drag and drop.
 #include "demos/gallery/galleryform.h"
 #include "demos/gallery/propertytext.h"
-#include "host/rtl/convert.h"
-#include "host/rtl/text.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/text.h"
 
 namespace gallery {
 

@@ -1,6 +1,6 @@
 // The page of the explorer tree.
 #include "demos/gallery/galleryform.h"
-#include "host/rtl/text.h"
+#include "vcl/rtl/text.h"
 
 namespace gallery {
 

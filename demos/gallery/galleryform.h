@@ -6,20 +6,20 @@
 #include <string_view>
 #include <vector>
 
-#include "controls/Qeltbackground.h"
-#include "controls/Qeltbutton.h"
-#include "controls/Qeltgauge.h"
-#include "controls/Qelthint.h"
-#include "controls/Qeltlabel.h"
-#include "controls/Qeltspinedit.h"
-#include "core/Qeltimer32.h"
 #include "demos/gallery/settingbinder.h"
-#include "host/vcl/comctrls.h"
-#include "host/vcl/extctrls.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/menus.h"
-#include "host/vcl/stdctrls.h"
-#include "shell/Qeltexplorertree.h"
+#include "qel/controls/Qeltbackground.h"
+#include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltgauge.h"
+#include "qel/controls/Qelthint.h"
+#include "qel/controls/Qeltlabel.h"
+#include "qel/controls/Qeltspinedit.h"
+#include "qel/core/Qeltimer32.h"
+#include "qel/shell/Qeltexplorertree.h"
+#include "vcl/forms/forms.h"
+#include "vcl/menus/menus.h"
+#include "vcl/stdctrls/comctrls.h"
+#include "vcl/stdctrls/extctrls.h"
+#include "vcl/stdctrls/stdctrls.h"
 
 namespace gallery {
 

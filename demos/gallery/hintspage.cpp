@@ -1,8 +1,8 @@
 // The page of hints: the settings of the one component that shows those of all pages, and fields to
 // rest the mouse on.
 #include "demos/gallery/galleryform.h"
-#include "host/vcl/application.h"
-#include "host/vcl/screen.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/screen.h"
 
 namespace gallery {
 

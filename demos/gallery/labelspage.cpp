@@ -1,7 +1,7 @@
 // The page of labels: the settings of all three-dimensional texts, of all frames, and of one label.
 #include "demos/gallery/galleryform.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
 
 namespace gallery {
 

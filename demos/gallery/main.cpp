@@ -6,8 +6,8 @@
 
 #include "demos/gallery/galleryform.h"
 #include "demos/gallery/screenshots.h"
-#include "host/rtl/exceptions.h"
-#include "host/vcl/application.h"
+#include "vcl/forms/application.h"
+#include "vcl/rtl/exceptions.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "demos/gallery/propertytext.h"
 
-#include "host/rtl/colors.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/strings.h"
-#include "host/rtl/text.h"
-#include "host/rtl/valuetext.h"
+#include "vcl/rtl/colors.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/strings.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/valuetext.h"
 
 namespace gallery {
 namespace {

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "host/rtl/component.h"
-#include "host/rtl/properties.h"
+#include "vcl/rtl/component.h"
+#include "vcl/rtl/properties.h"
 
 namespace gallery {
 

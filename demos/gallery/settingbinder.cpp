@@ -1,9 +1,9 @@
 #include "demos/gallery/settingbinder.h"
 
 #include "demos/gallery/propertytext.h"
-#include "host/rtl/convert.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
 
 namespace gallery {
 namespace {

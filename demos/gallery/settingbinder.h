@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "host/rtl/component.h"
-#include "host/vcl/stdctrls.h"
+#include "vcl/rtl/component.h"
+#include "vcl/stdctrls/stdctrls.h"
 
 namespace gallery {
 

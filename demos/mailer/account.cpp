@@ -1,7 +1,7 @@
 #include "demos/mailer/account.h"
 
 #include "demos/common/storedvalues.h"
-#include "host/rtl/convert.h"
+#include "vcl/rtl/convert.h"
 
 namespace mailer {
 

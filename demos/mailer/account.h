@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "core/Qeltstoredata.h"
+#include "qel/core/Qeltstoredata.h"
 
 namespace mailer {
 

@@ -1,7 +1,7 @@
 #include "demos/mailer/dialogs.h"
 
-#include "host/rtl/properties.h"
-#include "host/rtl/text.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
 
 namespace mailer {
 

@@ -3,9 +3,9 @@
 
 #include "demos/mailer/account.h"
 #include "demos/mailer/draft.h"
-#include "host/vcl/dialogs.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/stdctrls.h"
+#include "vcl/dialogs/dialogs.h"
+#include "vcl/forms/forms.h"
+#include "vcl/stdctrls/stdctrls.h"
 
 namespace mailer {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "host/rtl/text.h"
-#include "host/vcl/win32.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace mailer {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "demos/mailer/account.h"
-#include "mail/Qeltiemails_message.h"
+#include "qel/mail/Qeltiemails_message.h"
 
 namespace mailer {
 

@@ -1,9 +1,9 @@
 #include "demos/mailer/mailerform.h"
 
 #include "demos/common/commandline.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/text.h"
-#include "host/vcl/application.h"
+#include "vcl/forms/application.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
 
 namespace mailer {
 

@@ -3,16 +3,16 @@
 
 #include <string>
 
-#include "controls/Qeltgauge.h"
-#include "core/Qeltstoredata.h"
 #include "demos/mailer/account.h"
 #include "demos/mailer/draft.h"
-#include "host/vcl/comctrls.h"
-#include "host/vcl/dialogs.h"
-#include "host/vcl/extctrls.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/stdctrls.h"
-#include "mail/Qeltiemails.h"
+#include "qel/controls/Qeltgauge.h"
+#include "qel/core/Qeltstoredata.h"
+#include "qel/mail/Qeltiemails.h"
+#include "vcl/dialogs/dialogs.h"
+#include "vcl/forms/forms.h"
+#include "vcl/stdctrls/comctrls.h"
+#include "vcl/stdctrls/extctrls.h"
+#include "vcl/stdctrls/stdctrls.h"
 
 namespace mailer {
 

@@ -2,10 +2,10 @@
 #include "demos/mailer/dialogs.h"
 #include "demos/mailer/mailerform.h"
 #include "demos/mailer/outbox.h"
-#include "host/rtl/convert.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
-#include "host/vcl/application.h"
+#include "vcl/forms/application.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
 
 namespace mailer {
 

@@ -9,9 +9,9 @@
 #include "demos/common/commandline.h"
 #include "demos/mailer/mailerform.h"
 #include "demos/mailer/roundtrip.h"
-#include "host/rtl/exceptions.h"
-#include "host/vcl/application.h"
-#include "host/vcl/formpicture.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/formpicture.h"
+#include "vcl/rtl/exceptions.h"
 
 namespace {
 

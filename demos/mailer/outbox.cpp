@@ -1,9 +1,10 @@
 #include "demos/mailer/outbox.h"
 
 #include "demos/mailer/draft.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace mailer {
 

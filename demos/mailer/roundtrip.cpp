@@ -5,11 +5,11 @@
 
 #include "demos/mailer/dialogs.h"
 #include "demos/mailer/mailerform.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/streams.h"
-#include "host/rtl/text.h"
-#include "host/vcl/formpicture.h"
-#include "host/vcl/png.h"
+#include "vcl/forms/formpicture.h"
+#include "vcl/graphics/png.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/streams.h"
+#include "vcl/rtl/text.h"
 
 namespace mailer {
 

@@ -1,7 +1,7 @@
 #include "demos/notes/dialogs.h"
 
-#include "host/rtl/properties.h"
-#include "host/vcl/application.h"
+#include "vcl/forms/application.h"
+#include "vcl/rtl/properties.h"
 
 namespace notes {
 

@@ -3,13 +3,13 @@
 
 #include <string>
 
-#include "controls/Qeltbackground.h"
-#include "controls/Qeltlabel.h"
-#include "controls/Qeltspinedit.h"
 #include "demos/notes/options.h"
-#include "host/vcl/extctrls.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/stdctrls.h"
+#include "qel/controls/Qeltbackground.h"
+#include "qel/controls/Qeltlabel.h"
+#include "qel/controls/Qeltspinedit.h"
+#include "vcl/forms/forms.h"
+#include "vcl/stdctrls/extctrls.h"
+#include "vcl/stdctrls/stdctrls.h"
 
 namespace notes {
 

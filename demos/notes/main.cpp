@@ -8,8 +8,8 @@
 #include "demos/common/commandline.h"
 #include "demos/notes/notesform.h"
 #include "demos/notes/screenshots.h"
-#include "host/vcl/application.h"
-#include "host/vcl/formpicture.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/formpicture.h"
 
 namespace {
 

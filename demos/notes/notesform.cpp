@@ -1,11 +1,11 @@
 #include "demos/notes/notesform.h"
 
 #include "demos/common/commandline.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/text.h"
-#include "host/vcl/application.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/forms/application.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace notes {
 

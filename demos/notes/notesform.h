@@ -3,21 +3,21 @@
 
 #include <string>
 
-#include "core/Qeltstoredata.h"
 #include "demos/notes/dialogs.h"
 #include "demos/notes/options.h"
 #include "demos/notes/recovery.h"
 #include "demos/notes/textfile.h"
-#include "host/vcl/comctrls.h"
-#include "host/vcl/dialogs.h"
-#include "host/vcl/extctrls.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/menus.h"
-#include "host/vcl/stdctrls.h"
-#include "services/Qeltformsaver.h"
-#include "services/Qeltmrumenu.h"
-#include "services/Qeltonlyone.h"
-#include "services/Qeltsystemtray.h"
+#include "qel/core/Qeltstoredata.h"
+#include "qel/services/Qeltformsaver.h"
+#include "qel/services/Qeltmrumenu.h"
+#include "qel/services/Qeltonlyone.h"
+#include "qel/services/Qeltsystemtray.h"
+#include "vcl/dialogs/dialogs.h"
+#include "vcl/forms/forms.h"
+#include "vcl/menus/menus.h"
+#include "vcl/stdctrls/comctrls.h"
+#include "vcl/stdctrls/extctrls.h"
+#include "vcl/stdctrls/stdctrls.h"
 
 namespace notes {
 

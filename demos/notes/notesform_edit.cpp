@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "demos/notes/notesform.h"
-#include "host/rtl/text.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace notes {
 

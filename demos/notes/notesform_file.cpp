@@ -3,9 +3,9 @@
 
 #include "demos/common/commandline.h"
 #include "demos/notes/notesform.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace notes {
 

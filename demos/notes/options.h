@@ -1,9 +1,9 @@
 // How the program behaves, as it is remembered.
 #pragma once
 
-#include "core/Qeltstoredata.h"
 #include "demos/notes/textfile.h"
-#include "host/vcl/font.h"
+#include "qel/core/Qeltstoredata.h"
+#include "vcl/graphics/font.h"
 
 namespace notes {
 

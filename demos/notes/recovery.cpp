@@ -2,10 +2,10 @@
 
 #include <filesystem>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/streams.h"
-#include "host/rtl/text.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/streams.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace notes {
 

@@ -1,10 +1,10 @@
 #include "demos/notes/screenshots.h"
 
 #include "demos/notes/notesform.h"
-#include "host/rtl/text.h"
-#include "host/vcl/application.h"
-#include "host/vcl/formpicture.h"
-#include "host/vcl/png.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/formpicture.h"
+#include "vcl/graphics/png.h"
+#include "vcl/rtl/text.h"
 
 namespace notes {
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "host/rtl/exceptions.h"
-#include "host/rtl/streams.h"
-#include "host/rtl/text.h"
-#include "host/vcl/win32.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/streams.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace notes {
 

@@ -2,10 +2,10 @@
 
 #include <filesystem>
 
-#include "host/db/odbcquery.h"
-#include "host/rtl/text.h"
-#include "host/vcl/win32.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/db/odbcquery.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace records {
 namespace {

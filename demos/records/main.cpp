@@ -7,10 +7,10 @@
 #include <string>
 
 #include "demos/records/recordsform.h"
-#include "host/dbctrls/registration.h"
-#include "host/vcl/application.h"
-#include "host/vcl/formpicture.h"
-#include "host/vcl/png.h"
+#include "vcl/dbctrls/registration.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/formpicture.h"
+#include "vcl/graphics/png.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "demos/records/database.h"
-#include "host/rtl/convert.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/streams.h"
-#include "host/rtl/text.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/streams.h"
+#include "vcl/rtl/text.h"
 
 namespace records {
 

@@ -3,15 +3,15 @@
 
 #include <string>
 
-#include "controls/Qeltgauge.h"
-#include "data/Qeltdbascii.h"
-#include "host/db/odbcquery.h"
-#include "host/dbctrls/dbedit.h"
-#include "host/dbctrls/dbgrid.h"
-#include "host/vcl/comctrls.h"
-#include "host/vcl/dialogs.h"
-#include "host/vcl/forms.h"
-#include "host/vcl/stdctrls.h"
+#include "qel/controls/Qeltgauge.h"
+#include "qel/data/Qeltdbascii.h"
+#include "vcl/db/odbcquery.h"
+#include "vcl/dbctrls/dbedit.h"
+#include "vcl/dbctrls/dbgrid.h"
+#include "vcl/dialogs/dialogs.h"
+#include "vcl/forms/forms.h"
+#include "vcl/stdctrls/comctrls.h"
+#include "vcl/stdctrls/stdctrls.h"
 
 namespace records {
 

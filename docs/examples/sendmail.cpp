@@ -1,7 +1,7 @@
 // sendmail HOST PORT FROM TO SUBJECT FILE: sends what is typed, with the file attached.
 #include <iostream>
 
-#include "mail/Qeltiemails.h"
+#include "qel/mail/Qeltiemails.h"
 
 int main(int count, char** arguments) {
   if (count != 7) {

@@ -6,9 +6,9 @@
 #include <limits>
 #include <string>
 
-#include "core/Qelfunctions.h"
-#include "host/rtl/convert.h"
-#include "host/rtl/exceptions.h"
+#include "qel/core/Qelfunctions.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/exceptions.h"
 
 using namespace qel;
 using vcl::TDateTime;

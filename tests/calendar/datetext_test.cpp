@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "core/Qelfunctions.h"
-#include "host/rtl/exceptions.h"
+#include "qel/core/Qelfunctions.h"
+#include "vcl/rtl/exceptions.h"
 
 using namespace qel;
 using vcl::TDateTime;

@@ -1,7 +1,7 @@
 // Gradients, pixel by pixel against the plain sequence of GDI calls.
 #include <gmock/gmock.h>
 
-#include "controls/Qeltbackground.h"
+#include "qel/controls/Qeltbackground.h"
 #include "tests/support/plainfill.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // The background component: its clients, and its fills save the gradients' pixels.
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/kepthandles.h"
 #include "tests/support/plainfill.h"
 

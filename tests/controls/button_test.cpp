@@ -1,7 +1,7 @@
 // The button: painting, and real mouse and keyboard input.
 #include <gmock/gmock.h>
 
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plainfill.h"
 #include "tests/vcl/testinput.h"

@@ -3,7 +3,7 @@
 #include <climits>
 #include <random>
 
-#include "controls/Qeltgauge.h"
+#include "qel/controls/Qeltgauge.h"
 #include "tests/support/kepthandles.h"
 #include "tests/support/plainfill.h"
 #include "tests/vcl/testinput.h"

@@ -1,7 +1,7 @@
 // The hint's picture, on the screen and on a bitmap, against one drawn by plain GDI calls.
-#include "host/vcl/windowtext.h"
 #include "tests/controls/hintform.h"
 #include "tests/support/plainhint.h"
+#include "vcl/rtl/utf16.h"
 
 namespace {
 

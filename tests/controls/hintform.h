@@ -6,7 +6,7 @@
 
 #include <stdexcept>
 
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/plainfill.h"
 #include "tests/vcl/testinput.h"
 

@@ -1,7 +1,7 @@
 // The label: what is painted where, and the objects that it takes over.
 #include <gmock/gmock.h>
 
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plainfill.h"
 

@@ -1,7 +1,7 @@
 // A form on the screen with a spin edit and another edit, for tests by mouse and keyboard.
 #pragma once
 
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/importpatch.h"
 #include "tests/vcl/standardform.h"
 

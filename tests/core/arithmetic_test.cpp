@@ -3,8 +3,8 @@
 
 #include <climits>
 
-#include "core/arithmetic.h"
-#include "host/vcl/win32.h"
+#include "qel/core/private/arithmetic.h"
+#include "vcl/rtl/win32.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // The settings of a dialog's button, and the button that follows them.
 #include <gmock/gmock.h>
 
-#include "host/vcl/buttons.h"
-#include "host/vcl/vcl.h"
-#include "qel.h"
+#include "qel/qel.h"
+#include "vcl/stdctrls/buttons.h"
+#include "vcl/vcl.h"
 
 namespace {
 

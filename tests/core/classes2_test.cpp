@@ -1,10 +1,10 @@
 // Pieces of texts, centred controls and the drawing helpers.
 #include <gmock/gmock.h>
 
-#include "host/vcl/vcl.h"
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/handles.h"
 #include "tests/support/texts.h"
+#include "vcl/vcl.h"
 
 using namespace qel;
 

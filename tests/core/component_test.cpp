@@ -3,9 +3,9 @@
 
 #include <regex>
 
-#include "host/vcl/vcl.h"
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/importpatch.h"
+#include "vcl/vcl.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // The base classes of controls: painting, and the link to a background.
 #include <gmock/gmock.h>
 
-#include "host/rtl/properties.h"
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/plainfill.h"
+#include "vcl/rtl/properties.h"
 
 namespace {
 

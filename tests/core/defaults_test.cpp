@@ -4,8 +4,8 @@
 
 #include <set>
 
-#include "host/vcl/registration.h"
 #include "tests/support/registered.h"
+#include "vcl/forms/standardclasses.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ const std::set<std::string> Exceptions = {
 
 TEST(DeclaredDefaults, AreWhatTheConstructorsSet) {
   RegisterAll();
-  vcl::RegisterHostClasses();
+  vcl::RegisterStandardClasses();
   int checked = 0;
   for (const vcl::TClass* each : vcl::RegisteredClasses()) {
     if (each->InheritsFrom(vcl::TCustomForm::Class())) continue;  // A form's are its window's.

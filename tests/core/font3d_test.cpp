@@ -3,10 +3,10 @@
 
 #include <cstring>
 
-#include "host/rtl/properties.h"
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plainfill.h"
+#include "vcl/rtl/properties.h"
 
 namespace {
 

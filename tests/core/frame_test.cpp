@@ -1,7 +1,7 @@
 // Frames, pixel by pixel.
 #include <gmock/gmock.h>
 
-#include "core/Qelclasses.h"
+#include "qel/core/Qelclasses.h"
 #include "tests/support/plainfill.h"
 
 namespace {

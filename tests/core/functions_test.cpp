@@ -5,12 +5,12 @@
 #include <climits>
 #include <regex>
 
-#include "host/rtl/convert.h"
-#include "host/vcl/windowtext.h"
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/handles.h"
 #include "tests/support/importpatch.h"
 #include "tests/vcl/graphics_pixels.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/utf16.h"
 
 using namespace qel;
 

@@ -1,7 +1,7 @@
 // Glyph strips: which image is drawn, greyed or see-through.
 #include <gmock/gmock.h>
 
-#include "qel.h"
+#include "qel/qel.h"
 
 namespace {
 

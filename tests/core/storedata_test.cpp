@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/texts.h"
 
 namespace {

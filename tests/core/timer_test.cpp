@@ -1,7 +1,7 @@
 // The timer on a thread: when it runs, where its event is handled, how it rests and goes.
 #include <gmock/gmock.h>
 
-#include "core/Qelclasses2.h"
+#include "qel/core/Qelclasses2.h"
 #include "tests/support/handles.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/texts.h"

@@ -2,12 +2,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/db/datasource.h"
-#include "host/db/fields.h"
-#include "host/db/memorydataset.h"
-#include "host/db/registration.h"
-#include "host/rtl/classes.h"
 #include "tests/data/datatest.h"
+#include "vcl/db/datasource.h"
+#include "vcl/db/fields.h"
+#include "vcl/db/memorydataset.h"
+#include "vcl/db/registration.h"
+#include "vcl/rtl/classes.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-#include "host/db/dataset.h"
+#include "vcl/db/dataset.h"
 
 /// A folder that goes with all its files.
 class TDataFolder {

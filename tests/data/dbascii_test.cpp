@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "data/Qeltdbascii.h"
-#include "host/db/memorydataset.h"
+#include "qel/data/Qeltdbascii.h"
 #include "tests/data/datatest.h"
+#include "vcl/db/memorydataset.h"
 
 namespace {
 

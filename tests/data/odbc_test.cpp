@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "data/Qeltdbascii.h"
-#include "host/rtl/convert.h"
+#include "qel/data/Qeltdbascii.h"
 #include "tests/data/sqlite.h"
+#include "vcl/rtl/convert.h"
 
 namespace {
 

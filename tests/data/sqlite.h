@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "host/db/odbcquery.h"
 #include "tests/data/datatest.h"
+#include "vcl/db/odbcquery.h"
 #ifdef _WIN32
 #include <windows.h>
 #endif

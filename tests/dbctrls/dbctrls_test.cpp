@@ -1,11 +1,11 @@
 // Data-aware controls with real input: an edit and a grid over records in memory.
 #include <gmock/gmock.h>
 
-#include "host/db/memorydataset.h"
-#include "host/dbctrls/dbedit.h"
-#include "host/dbctrls/dbgrid.h"
-#include "host/vcl/canvas.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/db/memorydataset.h"
+#include "vcl/dbctrls/dbedit.h"
+#include "vcl/dbctrls/dbgrid.h"
+#include "vcl/graphics/canvas.h"
 
 namespace vcl {
 namespace {

@@ -4,8 +4,8 @@
 #include <functional>
 #include <string>
 
-#include "host/vcl/vcl.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/controls/windowtext.h"
+#include "vcl/vcl.h"
 
 namespace dialogs {
 

@@ -2,21 +2,22 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core/Qelcomponent.h"
-#include "data/Qeltdbascii.h"
-#include "design/Qeldataeditors.h"
-#include "design/Qelpropertyeditors.h"
-#include "host/db/memorydataset.h"
-#include "host/designintf/componenteditor.h"
-#include "host/designintf/package.h"
-#include "host/rtl/classregistry.h"
-#include "host/vcl/vcl.h"
-#include "mail/Qeltiemails.h"
-#include "mail/Qeltmapimail.h"
+#include "qel/core/Qelcomponent.h"
+#include "qel/data/Qeltdbascii.h"
+#include "qel/design/Qeldataeditors.h"
+#include "qel/design/Qelpropertyeditors.h"
+#include "qel/mail/Qeltiemails.h"
+#include "qel/mail/Qeltmapimail.h"
 #include "tests/design/dialogs.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plaindesigner.h"
 #include "tests/vcl/testinput.h"
+#include "vcl/db/memorydataset.h"
+#include "vcl/designintf/componenteditor.h"
+#include "vcl/designintf/package.h"
+#include "vcl/rtl/classregistry.h"
+#include "vcl/rtl/utf16.h"
+#include "vcl/vcl.h"
 
 namespace qel {
 namespace {

@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <memory>
 
-#include "host/designintf/package.h"
-#include "host/designintf/registration.h"
-#include "host/rtl/classregistry.h"
-#include "host/rtl/component.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/properties.h"
+#include "vcl/designintf/package.h"
+#include "vcl/designintf/registration.h"
+#include "vcl/rtl/classregistry.h"
+#include "vcl/rtl/component.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/properties.h"
 
 namespace vcl {
 namespace {

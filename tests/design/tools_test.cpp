@@ -5,16 +5,16 @@
 #include <cwchar>
 #include <fstream>
 
-#include "host/db/memorydataset.h"
-#include "host/designintf/environment.h"
-#include "host/designintf/package.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/registry.h"
-#include "host/vcl/clipboardtext.h"
 #include "tests/design/dialogs.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/plaindesigner.h"
 #include "tests/support/program.h"
+#include "vcl/db/memorydataset.h"
+#include "vcl/designintf/environment.h"
+#include "vcl/designintf/package.h"
+#include "vcl/forms/clipboardtext.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/registry.h"
 
 namespace vcl {
 namespace {

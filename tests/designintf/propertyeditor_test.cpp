@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/designintf/standardeditors.h"
-#include "host/vcl/vcl.h"
 #include "tests/support/plaindesigner.h"
+#include "vcl/designintf/standardeditors.h"
+#include "vcl/vcl.h"
 
 namespace vcl {
 namespace {

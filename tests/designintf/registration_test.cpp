@@ -4,14 +4,14 @@
 
 #include <cstdlib>
 
-#include "host/designintf/componenteditor.h"
-#include "host/designintf/environment.h"
-#include "host/designintf/package.h"
-#include "host/designintf/registration.h"
-#include "host/designintf/standardeditors.h"
-#include "host/vcl/buttons.h"
-#include "host/vcl/vcl.h"
 #include "tests/support/plaindesigner.h"
+#include "vcl/designintf/componenteditor.h"
+#include "vcl/designintf/environment.h"
+#include "vcl/designintf/package.h"
+#include "vcl/designintf/registration.h"
+#include "vcl/designintf/standardeditors.h"
+#include "vcl/stdctrls/buttons.h"
+#include "vcl/vcl.h"
 
 namespace vcl {
 namespace {

@@ -1,7 +1,7 @@
 // Any lines as a mail's header.
-#include "mail/headerfields.h"
-#include "mail/mailerror.h"
-#include "mail/multipart.h"
+#include "qel/mail/mailerror.h"
+#include "qel/mail/private/headerfields.h"
+#include "qel/mail/private/multipart.h"
 #include "tests/fuzz/target.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

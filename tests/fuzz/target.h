@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "mail/Qeltiemails_pop.h"
+#include "qel/mail/Qeltiemails_pop.h"
 
 /// Ends the program, which libFuzzer takes for a finding.
 inline void Require(bool holds, const char* what) {

@@ -1,7 +1,7 @@
 // Any lines as an uuencoded file, against the rule taken literally: bit by bit.
 #include <optional>
 
-#include "mail/mailerror.h"
+#include "qel/mail/mailerror.h"
 #include "tests/fuzz/target.h"
 
 namespace {

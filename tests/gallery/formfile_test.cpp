@@ -1,9 +1,9 @@
 // The gallery's form file: what the library writes after reading it says the same.
 #include <gmock/gmock.h>
 
-#include "host/vcl/registration.h"
 #include "tests/support/registered.h"
 #include "tests/support/texts.h"
+#include "vcl/forms/standardclasses.h"
 
 namespace gallery_test {
 namespace {
@@ -17,7 +17,7 @@ std::string ReadAndWrite(const std::string& text) {
 }
 
 TEST(GalleryFormFile, IsTheSameWhenItIsWrittenBack) {
-  vcl::RegisterHostClasses();
+  vcl::RegisterStandardClasses();
   RegisterAll();
   std::string text = vcl::TResourceStream(nullptr, "TGALLERYFORM", MAKEINTRESOURCEA(10)).ReadRest();
   std::erase(text, '\r');

@@ -13,13 +13,13 @@
 #include <utility>
 #include <vector>
 
-#include "host/rtl/classregistry.h"
-#include "host/rtl/text.h"
-#include "host/vcl/registration.h"
 #include "ide/inspectorgrid.h"
 #include "ide/mainform.h"
 #include "tests/support/program.h"
 #include "tests/vcl/testinput.h"
+#include "vcl/forms/standardclasses.h"
+#include "vcl/rtl/classregistry.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 
@@ -43,7 +43,7 @@ inline void Type(const std::string& text) {
 /// A designer that a test starts.
 class UnstartedDesigner : public ::testing::Test {
  protected:
-  UnstartedDesigner() { RegisterHostClasses(); }
+  UnstartedDesigner() { RegisterStandardClasses(); }
   ~UnstartedDesigner() override { Window.reset(); }
   void Start() {
     TStart start;

@@ -1,8 +1,8 @@
 // Several forms open at once.
 #include <gmock/gmock.h>
 
-#include "host/rtl/text.h"
 #include "tests/ide/designerfixture.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 namespace {

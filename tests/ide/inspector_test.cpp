@@ -4,12 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/designintf/package.h"
-#include "host/designintf/registration.h"
-#include "host/vcl/vcl.h"
 #include "ide/inspectorgrid.h"
 #include "tests/support/plaindesigner.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/designintf/package.h"
+#include "vcl/designintf/registration.h"
+#include "vcl/vcl.h"
 
 namespace ide {
 namespace {

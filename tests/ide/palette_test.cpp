@@ -4,11 +4,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/designintf/package.h"
-#include "host/rtl/properties.h"
-#include "host/vcl/vcl.h"
 #include "ide/paletteicons.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/designintf/package.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/vcl.h"
 
 namespace ide {
 namespace {

@@ -6,10 +6,10 @@
 
 #include <thread>
 
-#include "host/vcl/vcl.h"
 #include "ide/structurecollection.h"
 #include "tests/support/plaindesigner.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/vcl.h"
 
 namespace ide {
 namespace {

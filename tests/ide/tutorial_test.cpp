@@ -5,8 +5,8 @@
 
 #include <regex>
 
-#include "host/rtl/text.h"
 #include "tests/ide/designerfixture.h"
+#include "vcl/rtl/text.h"
 
 namespace ide {
 namespace {

@@ -11,14 +11,14 @@
 #include <regex>
 #include <set>
 
-#include "host/designintf/package.h"
-#include "host/designintf/registration.h"
-#include "host/rtl/collection.h"
-#include "host/rtl/text.h"
-#include "host/vcl/vcl.h"
 #include "ide/cppnames.h"
 #include "ide/cpptext.h"
 #include "ide/palette.h"
+#include "vcl/designintf/package.h"
+#include "vcl/designintf/registration.h"
+#include "vcl/rtl/collection.h"
+#include "vcl/rtl/text.h"
+#include "vcl/vcl.h"
 
 namespace ide {
 namespace {
@@ -29,7 +29,7 @@ using testing::Not;
 using vcl::Concat;
 
 TUnitField Button(const char* name) {
-  return {name, {"qel::TQELButton", "TControl"}, "controls/Qeltbutton.h"};
+  return {name, {"qel::TQELButton", "TControl"}, "qel/controls/Qeltbutton.h"};
 }
 TUnitHandler Click(const char* name) { return {name, "TNotifyEvent", "vcl::TObject* sender"}; }
 
@@ -39,7 +39,7 @@ TUnitForm Form(std::vector<TUnitField> fields, std::vector<TUnitHandler> handler
 
 constexpr const char* Header = R"(// By hand.
 #pragma once
-#include "host/vcl/vcl.h"
+#include "vcl/vcl.h"
 class TMain;  // Not this one.
 namespace app {
 class TMain : public vcl::TForm {
@@ -89,8 +89,8 @@ TEST(UnitWriter, ChangesOnlyWhatTheFormChangesAndWritingTwiceChangesNothing) {
   const TUnitTexts texts = WriteUnit(form, Header, Source);
   EXPECT_THAT(texts.Header, HasSubstr("TControl* One = nullptr;  // The first.\n"
                                       "  qel::TQELButton* Two = nullptr;\n"));
-  EXPECT_THAT(texts.Header, HasSubstr("#include \"host/vcl/vcl.h\"\n"
-                                      "#include \"controls/Qeltbutton.h\"\n"));
+  EXPECT_THAT(texts.Header, HasSubstr("#include \"vcl/vcl.h\"\n"
+                                      "#include \"qel/controls/Qeltbutton.h\"\n"));
   EXPECT_THAT(texts.Header, HasSubstr("  void Calls();\n  void TwoClick(vcl::TObject* sender);\n"));
   EXPECT_THAT(texts.Header, Not(HasSubstr("Empty")));
   EXPECT_THAT(texts.Source,
@@ -137,7 +137,7 @@ TEST(UnitWriter, NewUnitsGrowAndShrinkAgain) {
   EXPECT_EQ(WriteUnit(Form({}, {}), grown.Header, grown.Source).Source, empty.Source);
   // A renamed class of a component changes the declaration in its place.
   TUnitForm other = full;
-  other.Fields[0] = {"One", {"vcl::TEdit"}, "host/vcl/vcl.h"};
+  other.Fields[0] = {"One", {"vcl::TEdit"}, "vcl/vcl.h"};
   EXPECT_THAT(WriteUnit(other, fresh.Header, fresh.Source).Header,
               HasSubstr(" private:\n  vcl::TEdit* One = nullptr;\n"));
   // Line breaks stay what they are.

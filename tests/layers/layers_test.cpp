@@ -1,4 +1,5 @@
-// The layers: which folder may include which, and that no files include each other in a circle.
+// The layers: which room may include which, which headers are private, and that no files include
+// each other in a circle.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -14,42 +15,59 @@ namespace {
 namespace fs = std::filesystem;
 using Includes = std::map<std::string, std::vector<std::string>>;
 
-/// What each folder may include besides itself. Tests and benchmarks may include everything.
+/// What each room may include besides itself. Tests and benchmarks may include everything.
 const std::map<std::string, std::set<std::string>>& Allowed() {
-  static const std::set<std::string> rtl = {"host/rtl"};
-  static const std::set<std::string> vcl = {"host/rtl", "host/vcl"};
-  static const std::set<std::string> designer = {"host/rtl", "host/vcl", "host/designintf"};
-  static const std::set<std::string> component = {"host/rtl", "host/vcl", "core"};
+  static const std::set<std::string> rtl = {"vcl/rtl"};
+  // Controls need the form that they stand on and its menus, whose files need controls.
+  static const std::set<std::string> window = {"vcl/rtl", "vcl/graphics", "vcl/controls",
+                                               "vcl/menus", "vcl/forms"};
+  const auto with = [](std::set<std::string> rooms, std::set<std::string> more) {
+    rooms.merge(more);
+    return rooms;
+  };
+  static const std::set<std::string> vcl = with(window, {"vcl/stdctrls", "vcl/dialogs"});
+  static const std::set<std::string> component = with(vcl, {"qel/core"});
+  static const std::set<std::string> application =
+      with(component, {"vcl", "vcl/net", "vcl/db", "vcl/dbctrls", "qel", "qel/controls", "qel/data",
+                       "qel/mail", "qel/services", "qel/shell"});
   static const std::map<std::string, std::set<std::string>> allowed = {
-      {"host/rtl", {}},
-      {"host/net", rtl},
-      {"host/db", rtl},
-      {"host/vcl", rtl},
-      {"host/dbctrls", {"host/rtl", "host/db", "host/vcl"}},
-      {"host/designintf", vcl},
-      {"core", vcl},
-      {"controls", component},
-      {"data", {"host/rtl", "host/db", "core"}},
-      {"mail", {"host/rtl", "host/net", "core"}},
-      {"services", component},
-      {"shell", component},
-      {"design",
-       {"host/rtl", "host/db", "host/vcl", "host/designintf", "core", "controls", "data", "mail",
-        "services", "shell"}},
-      {"demos",
-       {"host/rtl", "host/net", "host/db", "host/vcl", "host/dbctrls", "core", "controls", "data",
-        "mail", "services", "shell"}},
-      {"tools", designer},
-      {"ide", {"host/rtl", "host/net", "host/db", "host/vcl", "host/dbctrls", "host/designintf"}},
+      {"vcl/rtl", {}},
+      {"vcl/net", rtl},
+      {"vcl/db", rtl},
+      {"vcl/graphics", rtl},
+      {"vcl/controls", window},
+      {"vcl/menus", window},
+      {"vcl/forms", vcl},  // Forms register the standard classes.
+      {"vcl/stdctrls", window},
+      {"vcl/dialogs", vcl},
+      {"vcl/dbctrls", with(vcl, {"vcl/db"})},
+      {"vcl/designintf", vcl},
+      {"vcl", with(vcl, {"vcl/net", "vcl/db", "vcl/dbctrls"})},
+      {"qel/core", vcl},
+      {"qel/controls", component},
+      {"qel/data", {"vcl/rtl", "vcl/db", "qel/core"}},
+      {"qel/mail", {"vcl/rtl", "vcl/net", "qel/core"}},
+      {"qel/services", component},
+      {"qel/shell", component},
+      {"qel/design", with(application, {"vcl/designintf"})},
+      {"qel", application},
+      {"demos", application},
+      {"tools", with(vcl, {"vcl/designintf"})},
+      {"ide", with(vcl, {"vcl", "vcl/net", "vcl/db", "vcl/dbctrls", "vcl/designintf"})},
   };
   return allowed;
 }
 
+/// The library or program that a file belongs to, whose private headers it may include.
+std::string TopOf(const std::string& file) { return file.substr(0, file.find('/')); }
+
+/// The room that a file lies in: "vcl/rtl", "demos"; "vcl" for a file beside the rooms.
 std::string FolderOf(const std::string& file) {
+  std::string found;
   for (const auto& [folder, others] : Allowed()) {
-    if (file.starts_with(folder + "/")) return folder;
+    if (file.starts_with(folder + "/") && folder.size() > found.size()) found = folder;
   }
-  return {};
+  return found;
 }
 
 /// The file that a line includes; empty for another line, or one that includes a system's header.
@@ -61,9 +79,8 @@ std::string Included(const std::string& line) {
 
 Includes ReadIncludes() {
   Includes includes;
-  for (const auto& [folder, others] : Allowed()) {
-    const fs::path root = fs::path(SOURCE_FOLDER) / folder;
-    if (!fs::exists(root)) continue;
+  for (const char* top : {"vcl", "qel", "ide", "demos", "tools"}) {
+    const fs::path root = fs::path(SOURCE_FOLDER) / top;
     for (const auto& entry : fs::recursive_directory_iterator(root)) {
       const std::string ending = entry.path().extension().string();
       if (ending != ".h" && ending != ".cpp") continue;
@@ -91,6 +108,36 @@ TEST(Layers, EachIncludesOnlyWhatStandsBelowIt) {
     }
   }
   EXPECT_THAT(wrong, testing::IsEmpty());
+}
+
+bool IsPrivate(const std::string& header) {
+  return header.find("/private/") != std::string::npos || header.starts_with("qel/design/");
+}
+
+TEST(Layers, PrivateHeadersStayInTheirLibrary) {
+  std::vector<std::string> wrong;
+  int privates = 0;
+  for (const auto& [file, included] : ReadIncludes()) {
+    privates += IsPrivate(file) && file.ends_with(".h");
+    const bool published = file.ends_with(".h") && !IsPrivate(file);
+    for (const std::string& other : included) {
+      if (IsPrivate(other) && (published || TopOf(file) != TopOf(other))) {
+        wrong.push_back(file + " includes " + other);
+      }
+    }
+  }
+  EXPECT_GT(privates, 40) << "the private headers are not where they were looked for";
+  EXPECT_THAT(wrong, testing::IsEmpty());
+}
+
+TEST(Layers, EachFileLiesInARoom) {
+  std::vector<std::string> outside;
+  for (const auto& [file, included] : ReadIncludes()) {
+    const std::string room = FolderOf(file);
+    const bool umbrella = file == "vcl/vcl.h" || file == "qel/qel.h";
+    if (room.empty() || ((room == "vcl" || room == "qel") && !umbrella)) outside.push_back(file);
+  }
+  EXPECT_THAT(outside, testing::IsEmpty());
 }
 
 /// Follows the includes depth first; a file that is met again on the way to itself closes a circle.

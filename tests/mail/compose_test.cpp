@@ -5,11 +5,11 @@
 #include <numeric>
 
 #ifdef _WIN32
-#include "host/rtl/registry.h"
-#include "host/vcl/win32.h"
+#include "vcl/rtl/registry.h"
+#include "vcl/rtl/win32.h"
 #endif
-#include "mail/Qeltiemails_smtp.h"
-#include "mail/base64.h"
+#include "qel/mail/Qeltiemails_smtp.h"
+#include "qel/mail/private/base64.h"
 #include "tests/mail/mailtest.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <map>
 #include <optional>
 
-#include "mail/Qeltiemails.h"
+#include "qel/mail/Qeltiemails.h"
 #include "tests/mail/mailtest.h"
 #include "tests/support/server.h"
 

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "host/rtl/customapplication.h"
-#include "host/rtl/exceptions.h"
+#include "vcl/rtl/customapplication.h"
+#include "vcl/rtl/exceptions.h"
 
 class TTestApplication : public vcl::TCustomApplication {
  public:

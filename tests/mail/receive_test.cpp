@@ -4,9 +4,9 @@
 
 #include <cstdlib>
 
-#include "mail/Qeltiemails_pop.h"
-#include "mail/base64.h"
-#include "mail/mailerror.h"
+#include "qel/mail/Qeltiemails_pop.h"
+#include "qel/mail/mailerror.h"
+#include "qel/mail/private/base64.h"
 #include "tests/mail/mailtest.h"
 
 namespace {

@@ -4,10 +4,10 @@
 
 #include "demos/common/commandline.h"
 #include "demos/mailer/mailerform.h"
-#include "host/vcl/application.h"
 #include "tests/mail/mailtest.h"
 #include "tests/support/program.h"
 #include "tests/support/server.h"
+#include "vcl/forms/application.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <cstdlib>
 #include <thread>
 
-#include "host/rtl/convert.h"
-#include "mail/Qeltiemails.h"
+#include "qel/mail/Qeltiemails.h"
 #include "tests/mail/mailtest.h"
+#include "vcl/rtl/convert.h"
 
 namespace {
 

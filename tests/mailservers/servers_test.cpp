@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <thread>
 
-#include "mail/Qeltiemails_smtp.h"
+#include "qel/mail/Qeltiemails_smtp.h"
 #include "tests/mail/mailtest.h"
 
 namespace {

@@ -1,10 +1,10 @@
 // Mail as the mail library gets it: each call with its records, and the events between the calls.
-#include "host/rtl/exceptions.h"
-#include "host/rtl/formfile.h"
-#include "host/rtl/registry.h"
-#include "host/rtl/streams.h"
-#include "mail/Qeltmapimail.h"
+#include "qel/mail/Qeltmapimail.h"
 #include "tests/mapi/mapitest.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/formfile.h"
+#include "vcl/rtl/registry.h"
+#include "vcl/rtl/streams.h"
 
 namespace {
 

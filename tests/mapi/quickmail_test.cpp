@@ -1,6 +1,6 @@
 // A quick mail as the mail library gets it.
-#include "mail/Qeltmapimail.h"
-#include "mail/Qeltquickmail.h"
+#include "qel/mail/Qeltmapimail.h"
+#include "qel/mail/Qeltquickmail.h"
 #include "tests/mapi/mapitest.h"
 
 namespace {

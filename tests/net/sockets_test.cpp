@@ -1,5 +1,5 @@
 // Sockets against a server of the test's own.
-#include "host/net/sockets.h"
+#include "vcl/net/sockets.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "host/rtl/properties.h"
 #include "tests/support/server.h"
+#include "vcl/rtl/properties.h"
 
 namespace {
 

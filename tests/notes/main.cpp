@@ -5,8 +5,8 @@
 
 #include "demos/common/commandline.h"
 #include "demos/notes/notesform.h"
-#include "host/vcl/application.h"
 #include "tests/support/importpatch.h"
+#include "vcl/forms/application.h"
 
 namespace {
 

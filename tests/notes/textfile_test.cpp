@@ -6,9 +6,9 @@
 
 #include "demos/notes/recovery.h"
 #include "demos/notes/textfile.h"
-#include "host/rtl/exceptions.h"
-#include "host/vcl/windowtext.h"
 #include "tests/support/program.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/utf16.h"
 
 namespace notes {
 namespace {

@@ -5,7 +5,7 @@
 #include <limits>
 #include <set>
 
-#include "host/rtl/classes.h"
+#include "vcl/rtl/classes.h"
 
 using namespace vcl;
 using testing::HasSubstr;

@@ -5,7 +5,7 @@
 #include <ctime>
 #include <limits>
 
-#include "host/rtl/classes.h"
+#include "vcl/rtl/classes.h"
 
 using namespace vcl;
 

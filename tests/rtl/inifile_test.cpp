@@ -6,7 +6,7 @@
 #include <iterator>
 #include <thread>
 
-#include "host/rtl/classes.h"
+#include "vcl/rtl/classes.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
-#include "host/rtl/classes.h"
-#include "host/rtl/customapplication.h"
+#include "vcl/rtl/classes.h"
+#include "vcl/rtl/customapplication.h"
 
 using namespace vcl;
 using testing::EndsWith;

@@ -5,7 +5,7 @@
 #include <chrono>
 #include <thread>
 
-#include "host/rtl/classes.h"
+#include "vcl/rtl/classes.h"
 
 using namespace vcl;
 using std::chrono::milliseconds;

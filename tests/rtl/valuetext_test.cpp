@@ -1,8 +1,8 @@
 // Values of properties as text, and back.
 #include <gmock/gmock.h>
 
-#include "host/rtl/valuetext.h"
 #include "tests/rtl/samples.h"
+#include "vcl/rtl/valuetext.h"
 
 using namespace vcl;
 using namespace samples;

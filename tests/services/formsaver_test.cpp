@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <fstream>
 
-#include "host/vcl/vcl.h"
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/texts.h"
+#include "vcl/vcl.h"
 
 namespace qel {
 namespace {

@@ -3,9 +3,9 @@
 
 #include <cstring>
 
-#include "host/vcl/vcl.h"
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/texts.h"
+#include "vcl/vcl.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // TQELMRUMenu: what stands in the menu and in the store.
 #include <gmock/gmock.h>
 
-#include "host/vcl/application.h"
-#include "qel.h"
+#include "qel/qel.h"
 #include "tests/support/texts.h"
+#include "vcl/forms/application.h"
 
 namespace qel {
 namespace {

@@ -1,7 +1,7 @@
 // TQELOnlyOne: this test is the first copy, or another program, and starts further ones.
 #include <gmock/gmock.h>
 
-#include "services/Qeltonlyone.h"
+#include "qel/services/Qeltonlyone.h"
 #include "tests/services/copy.h"
 
 namespace qel {

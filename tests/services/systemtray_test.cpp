@@ -1,7 +1,7 @@
 // TQELSystemTray: every record that the shell gets, its messages, minimising for real.
 #include <gmock/gmock.h>
 
-#include "services/Qeltsystemtray.h"
+#include "qel/services/Qeltsystemtray.h"
 #include "tests/support/importpatch.h"
 #include "tests/vcl/testinput.h"
 

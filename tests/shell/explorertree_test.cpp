@@ -1,18 +1,18 @@
 // The explorer tree on real folders.
-#include "shell/Qeltexplorertree.h"
+#include "qel/shell/Qeltexplorertree.h"
 
 #include <shellapi.h>
 
 #include <filesystem>
 #include <iostream>
 
-#include "host/rtl/formfile.h"
-#include "host/rtl/streams.h"
-#include "host/vcl/messagedialog.h"
-#include "host/vcl/screen.h"
-#include "host/vcl/windowtext.h"
 #include "tests/support/importpatch.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/dialogs/messagedialog.h"
+#include "vcl/forms/screen.h"
+#include "vcl/rtl/formfile.h"
+#include "vcl/rtl/streams.h"
+#include "vcl/rtl/utf16.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "host/vcl/win32.h"
+#include "vcl/rtl/win32.h"
 
 namespace handles {
 

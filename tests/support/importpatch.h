@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "host/vcl/win32.h"
+#include "vcl/rtl/win32.h"
 
 /// While it lives, `module` ("qel.dll") calls `replacement` instead of the imported `function`. The
 /// replacement is a captureless lambda or a function of the same type.

@@ -5,8 +5,8 @@
 
 #include <utility>
 
-#include "host/vcl/canvas.h"
 #include "tests/support/handles.h"
+#include "vcl/graphics/canvas.h"
 
 namespace handles {
 

@@ -6,10 +6,10 @@
 #include <typeindex>
 #include <vector>
 
-#include "host/designintf/designer.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/properties.h"
-#include "host/vcl/forms.h"
+#include "vcl/designintf/designer.h"
+#include "vcl/forms/forms.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/properties.h"
 
 class TPlainDesigner : public vcl::TDesigner {
  public:

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "host/vcl/win32.h"
+#include "vcl/rtl/win32.h"
 
 namespace plain {
 

@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "host/rtl/colors.h"
-#include "host/vcl/win32.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/colors.h"
+#include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 #include <objidl.h>
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "host/rtl/exceptions.h"
-#include "host/vcl/win32.h"
-#include "host/vcl/windowtext.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace testing_support {
 

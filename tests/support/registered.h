@@ -1,8 +1,8 @@
 // The package's classes, registered as its registration entry does.
 #pragma once
 
-#include "host/vcl/vcl.h"
-#include "qel.h"
+#include "qel/qel.h"
+#include "vcl/vcl.h"
 
 inline void RegisterAll() {
   vcl::RegisterClasses({&qel::TQELFont3D::Class(),     &qel::TQELGradient::Class(),

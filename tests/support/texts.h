@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/rtl/classes.h"
+#include "vcl/rtl/classes.h"
 
 /// What a form file of the component says.
 inline std::string FormText(vcl::TComponent* root, const std::string& className = {}) {

@@ -1,9 +1,9 @@
 // Controls without and with windows: parents, text, alignment, following the parent, the mouse.
 #include <array>
 
-#include "host/vcl/vcl.h"
-#include "host/vcl/windowtext.h"
 #include "tests/support/kepthandles.h"
+#include "vcl/controls/windowtext.h"
+#include "vcl/vcl.h"
 
 namespace vcl {
 namespace {

@@ -2,10 +2,10 @@
 #include <filesystem>
 #include <fstream>
 
-#include "host/vcl/standardcontrols.h"
-#include "host/vcl/windowtext.h"
 #include "tests/support/texts.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/forms/standardclasses.h"
+#include "vcl/rtl/utf16.h"
 
 namespace vcl {
 namespace {
@@ -143,7 +143,7 @@ TEST_F(Dialogs, MessagesAndQuestionsAreAnsweredByKeys) {
 }
 
 TEST_F(Dialogs, AStatusBarShowsItsPanelsOrOneText) {
-  RegisterStandardControls();
+  RegisterStandardClasses();
   auto* bar = Make<TStatusBar>(0, 0);
   const auto shown = [bar](int part) {
     wchar_t text[64] = L"";

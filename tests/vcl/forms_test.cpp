@@ -1,9 +1,9 @@
 // Forms: showing and closing, focus and keys, modal forms, form files.
 #include <gmock/gmock.h>
 
-#include "host/vcl/registration.h"
 #include "tests/support/texts.h"
 #include "tests/vcl/testinput.h"
+#include "vcl/forms/standardclasses.h"
 
 namespace vcl {
 namespace {
@@ -328,7 +328,7 @@ class TFileForm : public TForm {
  public:
   /// Reads the form from the text.
   explicit TFileForm(const std::string& text) : TForm(nullptr) {
-    RegisterHostClasses();
+    RegisterStandardClasses();
     ReadForm(text, this);
   }
   static const TClass& Class() {
@@ -396,7 +396,7 @@ TEST_F(Forms, WhatIsAlignedFitsAFormWithAMenu) {
 TEST_F(Forms, AFormThatCouldNotBeReadWorksOn) {
   TForm form(nullptr);
   auto* field = new TField(&form, &form, "Field", nullptr);
-  RegisterMenuClasses();
+  RegisterStandardClasses();
   EXPECT_THROW(ReadForm("object F: TForm object Menu1: TMainMenu Nothing = 5 end end", &form),
                EReadError);
   EXPECT_EQ(form.ControlCount(), 1);
@@ -445,7 +445,7 @@ class TResourceForm : public TForm {
 };
 
 TEST(ResourceForms, AreMadeCreatedShownAndDestroyedWhole) {
-  RegisterMenuClasses();
+  RegisterStandardClasses();
   resourceLog.clear();
   auto* form = new TResourceForm(nullptr);
   EXPECT_EQ(form->Caption(), "Straight from the program");

@@ -1,9 +1,9 @@
 // The buttons with a glyph: how they look, their kinds, their groups.
-#include "host/vcl/buttons.h"
-#include "host/vcl/standardcontrols.h"
 #include "tests/support/kepthandles.h"
 #include "tests/support/texts.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/forms/standardclasses.h"
+#include "vcl/stdctrls/buttons.h"
 
 namespace vcl {
 namespace {
@@ -197,7 +197,7 @@ TEST_F(GlyphButtons, AClosingOneClosesItsForm) {
 }
 
 TEST_F(GlyphButtons, FormFilesKeepWhatAKindDoesNotSay) {
-  RegisterStandardControls();
+  RegisterStandardClasses();
   auto* button = new TBitBtn(&Form);
   button->SetName("Ok");
   button->SetParent(&Form);

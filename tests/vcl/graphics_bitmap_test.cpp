@@ -1,9 +1,9 @@
 // Bitmaps: size and depth, files, form files.
 #include <cstring>
 
-#include "host/vcl/buttons.h"
 #include "tests/support/texts.h"
 #include "tests/vcl/graphics_pixels.h"
+#include "vcl/stdctrls/buttons.h"
 
 namespace vcl::test {
 namespace {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "host/vcl/vcl.h"
+#include "vcl/vcl.h"
 
 namespace vcl::test {
 

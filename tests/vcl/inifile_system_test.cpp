@@ -7,11 +7,11 @@
 #include <fstream>
 #include <iterator>
 
-#include "host/vcl/vcl.h"
 #include "tests/support/importpatch.h"
 #include "tests/support/program.h"
 #include "tests/support/texts.h"
 #include "tests/vcl/iniwriter.h"
+#include "vcl/vcl.h"
 
 namespace {
 

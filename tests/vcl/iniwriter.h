@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "host/rtl/inifile.h"
+#include "vcl/rtl/inifile.h"
 
 namespace writer {
 

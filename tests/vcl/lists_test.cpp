@@ -1,6 +1,6 @@
 // List boxes and combo boxes: items, selection, keys, drawing.
-#include "host/vcl/windowtext.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/rtl/utf16.h"
 
 namespace vcl {
 namespace {

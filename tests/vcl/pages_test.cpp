@@ -1,8 +1,8 @@
 // Page controls, panels, track bars, timers, and all standard controls in a form file.
-#include "host/vcl/standardcontrols.h"
-#include "host/vcl/windowtext.h"
 #include "tests/support/texts.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/forms/standardclasses.h"
+#include "vcl/rtl/utf16.h"
 
 namespace vcl {
 namespace {
@@ -238,7 +238,7 @@ class TReadForm : public TForm {
 };
 
 TEST_F(Pages, AFormFileHoldsTheStandardControls) {
-  RegisterStandardControls();
+  RegisterStandardClasses();
   TReadForm form(StandardForm);
   auto* pages = form.Get<TPageControl>("PageControl1");
   ASSERT_NE(pages, nullptr);

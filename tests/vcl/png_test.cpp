@@ -3,9 +3,9 @@
 
 #include <filesystem>
 
-#include "host/vcl/png.h"
-#include "host/vcl/vcl.h"
 #include "tests/support/pngpicture.h"
+#include "vcl/graphics/png.h"
+#include "vcl/vcl.h"
 
 namespace vcl {
 namespace {

@@ -1,9 +1,9 @@
 // The real registry, under a key of the test's own.
 #include <gmock/gmock.h>
 
-#include "host/rtl/registry.h"
-#include "host/vcl/vcl.h"
 #include "tests/support/importpatch.h"
+#include "vcl/rtl/registry.h"
+#include "vcl/vcl.h"
 
 namespace {
 

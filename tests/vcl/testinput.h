@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/vcl/vcl.h"
+#include "vcl/vcl.h"
 
 namespace testinput {
 

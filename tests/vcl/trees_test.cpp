@@ -1,7 +1,7 @@
 // Tree views: nodes with and without a window, selection, expanding, sorting, editing, form files.
-#include "host/vcl/windowtext.h"
 #include "tests/support/texts.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/rtl/utf16.h"
 
 namespace vcl {
 namespace {

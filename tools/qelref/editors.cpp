@@ -2,13 +2,13 @@
 #include <iterator>
 #include <memory>
 
-#include "host/designintf/componenteditor.h"
-#include "host/designintf/package.h"
-#include "host/designintf/propertyeditor.h"
-#include "host/rtl/component.h"
-#include "host/rtl/exceptions.h"
-#include "host/rtl/text.h"
 #include "tools/qelref/reference.h"
+#include "vcl/designintf/componenteditor.h"
+#include "vcl/designintf/package.h"
+#include "vcl/designintf/propertyeditor.h"
+#include "vcl/rtl/component.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
 
 namespace qelref {
 namespace {

@@ -3,9 +3,9 @@
 #include <exception>
 #include <string>
 
-#include "host/designintf/package.h"
-#include "host/rtl/customapplication.h"
 #include "tools/qelref/reference.h"
+#include "vcl/designintf/package.h"
+#include "vcl/rtl/customapplication.h"
 
 namespace {
 

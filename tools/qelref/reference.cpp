@@ -1,9 +1,9 @@
 #include "tools/qelref/reference.h"
 
-#include "host/designintf/package.h"
-#include "host/designintf/registration.h"
-#include "host/rtl/properties.h"
-#include "host/rtl/valuetext.h"
+#include "vcl/designintf/package.h"
+#include "vcl/designintf/registration.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/valuetext.h"
 
 namespace qelref {
 namespace {

@@ -1,5 +1,5 @@
-#include "host/vcl/vcl.h"
 #include "mainform.h"
+#include "vcl/vcl.h"
 
 int main() {
   vcl::Application()->Initialize();

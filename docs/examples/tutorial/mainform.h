@@ -1,12 +1,12 @@
 // TMainForm: the form of mainform.dfm.
 #pragma once
 
-#include "host/vcl/vcl.h"
-#include "controls/Qeltbackground.h"
-#include "controls/Qeltbutton.h"
-#include "controls/Qeltgauge.h"
-#include "controls/Qeltlabel.h"
-#include "services/Qeltformsaver.h"
+#include "qel/controls/Qeltbackground.h"
+#include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltgauge.h"
+#include "qel/controls/Qeltlabel.h"
+#include "qel/services/Qeltformsaver.h"
+#include "vcl/vcl.h"
 
 class TMainForm : public vcl::TForm {
  public:

@@ -2,11 +2,11 @@
 // fails once it has registered all of it.
 #include <cstdlib>
 
-#include "host/designintf/componenteditor.h"
-#include "host/designintf/environment.h"
-#include "host/designintf/registration.h"
-#include "host/designintf/standardeditors.h"
-#include "host/rtl/exceptions.h"
+#include "vcl/designintf/componenteditor.h"
+#include "vcl/designintf/environment.h"
+#include "vcl/designintf/registration.h"
+#include "vcl/designintf/standardeditors.h"
+#include "vcl/rtl/exceptions.h"
 
 namespace {
 

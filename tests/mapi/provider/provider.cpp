@@ -4,7 +4,7 @@
 #include <sstream>
 #include <utility>
 
-#include "mail/simplemapi.h"
+#include "qel/mail/private/simplemapi.h"
 
 namespace {
 

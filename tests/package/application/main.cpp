@@ -1,7 +1,7 @@
 #include <iostream>
 
-#include "host/vcl/vcl.h"
-#include "qel.h"
+#include "qel/qel.h"
+#include "vcl/vcl.h"
 
 class TMainForm : public vcl::TForm {
  public:

@@ -1,7 +1,0 @@
-#include "host/designintf/designer.h"
-
-namespace vcl {
-
-TDesigner::~TDesigner() = default;
-
-}  // namespace vcl

@@ -1,7 +1,0 @@
-#include "mail/mailerror.h"
-
-namespace qel {
-
-EQELMailError::~EQELMailError() = default;
-
-}  // namespace qel

@@ -1,8 +1,0 @@
-#include "mail/mimetypes.h"
-
-namespace qel {
-
-/// There is no registry here.
-std::string RegisteredMimeType(const std::string&) { return {}; }
-
-}  // namespace qel

@@ -1,0 +1,164 @@
+// TQELSpinButton: a square button of two halves, up and down; TQELSpinEdit: an edit for whole
+// numbers with such a button at its right edge.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "qel/core/Qelclasses.h"
+#include "qel/core/Qelcontrols.h"
+#include "vcl/stdctrls/edit.h"
+
+namespace qel {
+
+/// A button that is divided along its diagonal into an up half at the top left and a down half at
+/// the bottom right. A press counts when the mouse button is released; holding it down repeats
+/// nothing.
+class QEL_API TQELCustomSpinButton : public TQELGraphicControl {
+ public:
+  explicit TQELCustomSpinButton(vcl::TComponent* owner);
+  ~TQELCustomSpinButton() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  void SetColor(vcl::TColor color) override;
+  vcl::TColor ArrowColor() const { return FArrowColor; }
+  void SetArrowColor(vcl::TColor color);
+  /// What the button looks like now.
+  TQELButtonState Down() const { return FState; }
+  /// Shows another look.
+  void SetDown(TQELButtonState state);
+
+  /// The down half has been pressed and released.
+  vcl::TNotifyEvent OnBottomClick;
+  /// The up half has been pressed and released; or any mouse button was released over the control,
+  /// or captured by it, while no half was pressed.
+  vcl::TNotifyEvent OnTopClick;
+
+ protected:
+  void Paint() override;
+  /// Draws the four looks into the strip that Paint copies from.
+  void CreateStates();
+  /// Draws one look into its place in the strip.
+  void DrawState(TQELButtonState state);
+  void MouseDown(vcl::TMouseButton button, vcl::TShiftState shift, int x, int y) override;
+  void MouseMove(vcl::TShiftState shift, int x, int y) override;
+  void MouseUp(vcl::TMouseButton button, vcl::TShiftState shift, int x, int y) override;
+  void Dispatch(vcl::TMessage& message) override;
+
+ private:
+  TQELButtonState HalfAt(int x, int y) const;
+  void Rebuild();
+  void DrawFace(vcl::TCanvas* canvas) const;
+  void DrawBevels(vcl::TCanvas* canvas, TQELButtonState state) const;
+  void DrawArrows(vcl::TCanvas* canvas, TQELButtonState state) const;
+
+  vcl::TBitmap FStrip;
+  TQELButtonState FState = bsUp;
+  TQELButtonState FPressed = bsUp;  // The half that the mouse went down on.
+  bool FMouseDown = false;
+  vcl::TColor FArrowColor = vcl::clBlack;
+};
+
+class QEL_API TQELSpinButton : public TQELCustomSpinButton {
+ public:
+  using TQELCustomSpinButton::TQELCustomSpinButton;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+ protected:
+  void Loaded() override;
+};
+
+/// An edit for a whole number with sign. The button and the arrow keys step the number, the page
+/// keys by more. It is kept within bounds when it is set or stepped and when the focus leaves; what
+/// is typed in between is not.
+class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
+ public:
+  explicit TQELCustomSpinEdit(vcl::TComponent* owner);
+  ~TQELCustomSpinEdit() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  vcl::TColor ButtonColor() const { return FButton->Color(); }
+  void SetButtonColor(vcl::TColor color) { FButton->SetColor(color); }
+  vcl::TColor ArrowColor() const { return FButton->ArrowColor(); }
+  void SetArrowColor(vcl::TColor color) { FButton->SetArrowColor(color); }
+  bool CutandPaste() const { return FCutandPaste; }
+  /// False: text can be neither cut nor pasted nor typed; buttons and keys still step the number.
+  void SetCutandPaste(bool allowed) { FCutandPaste = allowed; }
+  int LineSize() const { return FLineSize; }
+  /// What the button and the arrow keys add or take. Any number; a negative one turns them round.
+  void SetLineSize(int size) { FLineSize = size; }
+  int MultipleLineSize() const { return FMultipleLineSize; }
+  /// What the page keys add or take. Any number.
+  void SetMultipleLineSize(int size) { FMultipleLineSize = size; }
+  int MaxValue() const { return FMaxValue; }
+  /// Refuses, silently, what is not greater than MinValue. A form file may give any two bounds of
+  /// which the maximum is not less than the minimum; with both the same there are no bounds.
+  void SetMaxValue(int maxValue);
+  int MinValue() const { return FMinValue; }
+  /// Refuses, silently, what is not less than MaxValue.
+  void SetMinValue(int minValue);
+  bool Readonly() const { return ReadOnly(); }
+  void SetReadonly(bool readOnly) { SetReadOnly(readOnly); }
+  /// The number that the text says; MinValue when it says none. Writes MinValue into an empty text.
+  int GetValue() const;
+  /// Writes the number, kept within the bounds.
+  void SetValue(int value);
+  /// The number within the bounds.
+  int CheckValue(int value) const;
+
+  /// One step up, or a beep when the edit is read-only.
+  virtual void UpClick(vcl::TObject* sender);
+  virtual void DownClick(vcl::TObject* sender);
+
+ protected:
+  /// Whether a typed character is taken.
+  virtual bool IsValidChar(char32_t key) const;
+  bool MultiLine() const override { return true; }
+  /// The least height that the font needs.
+  int GetMinHeight() const;
+  /// Makes the edit high enough, and puts the button at its right edge.
+  void AdjustSize();
+  /// Keeps the text off the button.
+  void SetEditRect();
+  void CreateParams(vcl::TCreateParams& params) override;
+  void CreateWnd() override;
+  void Resize() override;
+  void KeyDown(std::uint16_t& key, vcl::TShiftState shift) override;
+  void KeyPress(char32_t& key) override;
+  void DoEnter() override;
+  void DoExit() override;
+  void Dispatch(vcl::TMessage& message) override;
+  void Loaded() override;
+
+ private:
+  void StepLine(std::int64_t difference);
+  void StepPage(std::int64_t difference);
+  void StepBy(std::int64_t difference);
+  void ClampText();
+
+  int FLineSize = 1;
+  int FMultipleLineSize = 10;
+  int FMaxValue;
+  int FMinValue;
+  bool FCutandPaste = true;
+  vcl::TWinControl* FButtonWindow;  // Holds the button, which has no window of its own.
+  TQELCustomSpinButton* FButton;
+};
+
+class QEL_API TQELSpinEdit : public TQELCustomSpinEdit {
+ public:
+  explicit TQELSpinEdit(vcl::TComponent* owner);
+  ~TQELSpinEdit() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  TQELAbout* About() const { return FAbout.get(); }
+
+ private:
+  std::unique_ptr<TQELAbout> FAbout;
+};
+
+}  // namespace qel

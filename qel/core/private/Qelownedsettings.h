@@ -1,0 +1,45 @@
+// What the settings objects that controls own have in common.
+#pragma once
+
+#include <memory>
+
+#include "vcl/rtl/object.h"
+
+namespace qel {
+
+/// Has the owner of a settings object painted again, if it is a control.
+void InvalidateOwner(vcl::TObject* owner);
+
+/// Puts settings in the place of those that a control has, which are freed, and has it painted
+/// again. Null is ignored. Settings that another control owns are copied instead, as they end with
+/// it.
+template <class Settings>
+void TakeOver(std::unique_ptr<Settings>& field, Settings* settings, vcl::TObject* owner) {
+  if (!settings || settings == field.get()) return;
+  if (settings->Owner() && settings->Owner() != owner) return field->Assign(settings);
+  settings->SetOwner(owner);
+  field.reset(settings);
+  InvalidateOwner(owner);
+}
+
+/// Keeps a value in a setter; true when it is another than before.
+template <class T>
+bool Store(T& field, const T& value) {
+  if (field == value) return false;
+  field = value;
+  return true;
+}
+
+/// Marks the time during which an object changes something of its own and hears of it itself.
+class TQuietly {
+ public:
+  explicit TQuietly(bool& flag) : FFlag(flag) { FFlag = true; }
+  ~TQuietly() { FFlag = false; }
+  TQuietly(const TQuietly&) = delete;
+  TQuietly& operator=(const TQuietly&) = delete;
+
+ private:
+  bool& FFlag;
+};
+
+}  // namespace qel

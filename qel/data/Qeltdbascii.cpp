@@ -1,0 +1,229 @@
+#include "qel/data/Qeltdbascii.h"
+
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/textfile.h"
+
+namespace qel {
+
+const vcl::TClass& TQELADField::Class() {
+  using T = TQELADField;
+  static const vcl::TClass info = vcl::Describe<T, TCollectionItem>(
+      "TQELADField", "Qeltdbascii",
+      {
+          vcl::Property<&T::CSVName, &T::SetCSVName>("CSVName"),
+          vcl::Property<&T::DataField, &T::SetDataField>("DataField"),
+      });
+  return info;
+}
+
+TQELDBAscii* TQELADField::Owner() const {
+  const auto* fields = dynamic_cast<const TQELADFields*>(Collection());
+  return fields ? fields->GetOwner() : nullptr;
+}
+
+vcl::TFieldDataLink* TQELADField::DataLink() const {
+  return Owner() ? Owner()->DataLink() : nullptr;
+}
+
+void TQELADField::SetDataField(const std::string& name) {
+  FDataField = name;
+  Changed(false);
+}
+
+std::string TQELADField::DisplayName() const {
+  return FDataField.empty() ? TCollectionItem::DisplayName() : FDataField;
+}
+
+void TQELADField::Assign(const vcl::TPersistent* source) {
+  const auto* other = dynamic_cast<const TQELADField*>(source);
+  if (!other) return TCollectionItem::Assign(source);
+  // The title stays behind on purpose: a copied list of columns gets titles of its own.
+  SetDataField(other->FDataField);
+}
+
+const vcl::TClass& TQELADFields::Class() {
+  static const vcl::TClass info =
+      vcl::Describe<TQELADFields, TCollection>("TQELADFields", "Qeltdbascii", {});
+  return info;
+}
+
+TQELADFields::TQELADFields(TQELDBAscii* owner) : TCollection(TQELADField::Class()), FOwner(owner) {}
+
+TQELADField* TQELADFields::Add() { return static_cast<TQELADField*>(TCollection::Add()); }
+TQELADField* TQELADFields::GetItem(int index) const {
+  return static_cast<TQELADField*>(Items(index));
+}
+void TQELADFields::SetItem(int index, const TQELADField* value) { Items(index)->Assign(value); }
+
+const vcl::TClass& TQELDBAscii::Class() {
+  using T = TQELDBAscii;
+  static const vcl::TClass info = vcl::Describe<T, TQELComponent>(
+      "TQELDBAscii", "Qeltdbascii",
+      {
+          vcl::Property<&T::Fields, &T::SetFields>("Fields"),
+          vcl::Property<&T::Delimiter, &T::SetDelimiter>("Delimiter"),
+          vcl::Property<&T::Filename, &T::SetFilename>("Filename"),
+          vcl::Property<&T::DataSource, &T::SetDataSource>("DataSource"),
+          vcl::Property<&T::PrintHeader, &T::SetPrintHeader>("PrintHeader"),
+          vcl::Event<&T::ImportBeforePost>("ImportBeforePost").Type("TQELImportExportEvent"),
+          vcl::Event<&T::ImportBeforeInsert>("ImportBeforeInsert").Type("TQELImportExportEvent"),
+          vcl::Event<&T::OnImportException>("OnImportException").Type("TQELImportExportEvent"),
+          vcl::Event<&T::OnImportSuccess>("OnImportSuccess").Type("TQELImportExportEvent"),
+          vcl::Event<&T::ExportBeforeWrite>("ExportBeforeWrite").Type("TQELImportExportEvent"),
+          vcl::Event<&T::OnExportDone>("OnExportDone"),
+      });
+  return info;
+}
+
+TQELDBAscii::TQELDBAscii(vcl::TComponent* owner)
+    : TQELComponent(owner),
+      FDataLink(std::make_unique<vcl::TFieldDataLink>()),
+      FFields(std::make_unique<TQELADFields>(this)) {}
+
+TQELDBAscii::~TQELDBAscii() { AnnounceEnd(); }
+
+void TQELDBAscii::SetDataSource(vcl::TDataSource* dataSource) {
+  FDataLink->SetDataSource(dataSource);
+  if (dataSource) dataSource->FreeNotification(this);
+}
+
+void TQELDBAscii::Notification(vcl::TComponent* component, vcl::TOperation operation) {
+  TQELComponent::Notification(component, operation);
+  if (operation == vcl::opRemove && component == DataSource()) SetDataSource(nullptr);
+}
+
+/// What one export or import works on, and whether it is all still there.
+class TQELDBAscii::TRun {
+ public:
+  TRun(TQELDBAscii* component, vcl::TDataSet* data)
+      : FComponent(component), FData(data), Data(*data), FWasActive(data->Active()) {
+    Data.Open();
+  }
+  /// True after a handler has freed one of the two.
+  bool Ended() const { return FComponent.Gone() || FData.Gone(); }
+  /// Fires an event; false when it has ended the run.
+  bool Fire(const TQELImportExportEvent& event, const std::string& text, TQELDBAscii* sender) {
+    if (event) event(sender, text);
+    return !Ended();
+  }
+  /// Leaves the data set open or closed, as it was.
+  void Finish() {
+    File.Close();
+    if (!FWasActive) Data.Close();
+  }
+
+ private:
+  vcl::TWatch FComponent, FData;
+
+ public:
+  vcl::TDataSet& Data;
+  vcl::TTextFile File;
+
+ private:
+  bool FWasActive;
+};
+
+std::string TQELDBAscii::HeaderLine() const {
+  std::string line;
+  for (int i = 0; i < FFields->Count(); ++i) {
+    line += vcl::Concat("(", FFields->GetItem(i)->CSVName(), ")");
+  }
+  return line;
+}
+
+void TQELDBAscii::RecordLine(const vcl::TDataSet& data, std::string& line) const {
+  const std::string delimiter = vcl::Utf8(FDelimiter);
+  line.clear();
+  for (int i = 0; i < FFields->Count(); ++i) {
+    if (i > 0) line += delimiter;
+    line += data.FieldByName(FFields->GetItem(i)->DataField())->AsString();
+  }
+}
+
+void TQELDBAscii::DoExport() {
+  vcl::TWatch watch(this);
+  if (vcl::TDataSet* data = FDataLink->DataSet()) {
+    TRun run(this, data);
+    if (!run.Ended()) WriteRecords(run);
+    if (run.Ended()) return;
+    run.Finish();
+  }
+  if (!watch.Gone()) OnExportDone(this);
+}
+
+void TQELDBAscii::WriteRecords(TRun& run) {
+  run.Data.First();
+  if (run.Ended()) return;
+  run.File.Rewrite(FFilename);
+  if (FPrintHeader) run.File.WriteLn(HeaderLine());
+  std::string line;
+  while (!run.Data.Eof()) {
+    RecordLine(run.Data, line);
+    if (!run.Fire(ExportBeforeWrite, line, this)) return;
+    run.File.WriteLn(line);
+    run.Data.Next();
+    if (run.Ended()) return;
+  }
+}
+
+void TQELDBAscii::DoImport() {
+  vcl::TDataSet* data = FDataLink->DataSet();
+  if (!data) return;
+  TRun run(this, data);
+  if (!run.Ended()) ReadRecords(run);
+  if (!run.Ended()) run.Finish();
+}
+
+void TQELDBAscii::ReadRecords(TRun& run) {
+  run.File.Reset(FFilename);
+  std::string line;
+  if (FPrintHeader && !run.File.Eof()) run.File.ReadLn(line);
+  while (!run.File.Eof()) {
+    run.File.ReadLn(line);
+    if (line.empty()) continue;
+    ImportRecord(run, line);
+    if (run.Ended()) return;
+  }
+}
+
+void TQELDBAscii::ImportRecord(TRun& run, const std::string& record) {
+  if (!run.Fire(ImportBeforeInsert, record, this)) return;
+  run.Data.Insert();
+  if (!run.Ended()) SetValues(run, record);
+  if (run.Ended()) return;
+  // ImportBeforePost only says that somebody wants to know: the handler that is called is that of
+  // ExportBeforeWrite, which must then be assigned as well. Programs rely on the pair.
+  if (ImportBeforePost && !run.Fire(ExportBeforeWrite, record, this)) return;
+  PostRecord(run, record);
+  // Also after a failure: the event says that the line has been dealt with.
+  if (!run.Ended()) OnImportSuccess(this, record);
+}
+
+void TQELDBAscii::SetValues(const TRun& run, std::string_view rest) const {
+  const std::string delimiter = vcl::Utf8(FDelimiter);
+  for (int i = 0; !run.Ended() && i < FFields->Count(); ++i) {
+    const std::size_t end = rest.find(delimiter);
+    const bool last = i == FFields->Count() - 1;
+    // A column before the last one is empty where no delimiter follows, and the rest is still to
+    // come; the last one takes all that is left, with whatever delimiters it has.
+    const std::string_view value = last               ? rest
+                                   : end == rest.npos ? std::string_view()
+                                                      : rest.substr(0, end);
+    run.Data.FieldByName(FFields->GetItem(i)->DataField())->SetAsString(std::string(value));
+    if (end != rest.npos) rest.remove_prefix(end + delimiter.size());
+  }
+}
+
+void TQELDBAscii::PostRecord(TRun& run, const std::string& record) {
+  try {
+    run.Data.Post();
+    return;
+  } catch (const std::exception& error) {
+    if (run.Ended()) return;
+    FImportError = error.what();
+  }
+  if (run.Fire(OnImportException, record, this)) run.Data.Cancel();
+}
+
+}  // namespace qel

@@ -1,0 +1,61 @@
+#include "qel/design/Qelbindings.h"
+
+#include "qel/controls/Qeltbackground.h"
+#include "qel/core/Qelcomponent.h"
+#include "qel/core/Qeltstoredata.h"
+#include "qel/design/Qelcolorsinbetween.h"
+#include "qel/design/Qelcomponenteditors.h"
+#include "qel/design/Qeldataeditors.h"
+#include "qel/design/Qelmaileditors.h"
+#include "qel/design/Qelpropertyeditors.h"
+#include "qel/mail/Qeltiemails.h"
+#include "qel/mail/Qeltmapimail.h"
+#include "vcl/controls/control.h"
+
+namespace qel {
+namespace {
+
+#define QEL_EDITOR(name) vcl::PropertyEditorClass<name>(#name)
+
+/// In the order of registration. A class gets its lines here when it comes.
+const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
+  static const std::vector<vcl::TPropertyEditorEntry> entries = {
+      {QEL_EDITOR(TQELAttachmentProperty), "TQELAttachments", &TQELMessage::Class(), "Attachments"},
+      {QEL_EDITOR(TQELInetProperty), "TQELMessages", &TQELSMTPMail::Class(), "Messages"},
+      {QEL_EDITOR(TQELInetProperty), "TQELMessages", &TQELPOPMail::Class(), "Messages"},
+      {QEL_EDITOR(TQELMapiAttachmentProperty), "TQELMapiAttachments", &TQELMapiMessage::Class(),
+       "Attachments"},
+      {QEL_EDITOR(TQELMapiProperty), "TQELMapiMessages", &TQELMapiMail::Class(), "Messages"},
+      {QEL_EDITOR(TQELColorInBetweenProperty), "TStrings", &TQELGradient::Class(),
+       "ColorsInBetween"},
+      {QEL_EDITOR(TQELItemDataFieldProperty), "string", &vcl::TCollectionItem::Class(),
+       "DataField"},
+      {QEL_EDITOR(TQELShowMeNowProperty), "string", &vcl::TComponent::Class(), "DesignExecute"},
+      {QEL_EDITOR(TQELHintProperty), "string", &vcl::TComponent::Class(), "Hint"},
+      {QEL_EDITOR(TQELCaptionProperty), "TCaption", &vcl::TControl::Class(), "Caption"},
+      {QEL_EDITOR(TQELAboutCompsProperty), "TQELAbout", &vcl::TPersistent::Class(), ""},
+      {QEL_EDITOR(TQELDataFieldProperty), "string", &vcl::TComponent::Class(), "DataUsername"},
+      {QEL_EDITOR(TQELDataFieldProperty), "string", &vcl::TComponent::Class(), "Datapassword"},
+      // The store's file name is a property of its Inifile, which this line does not reach; a
+      // property of the store itself would get the editor.
+      {QEL_EDITOR(TQELINIFilenameProperty), "string", &TQELStoreData::Class(), "Filename"},
+  };
+  return entries;
+}
+
+#undef QEL_EDITOR
+
+}  // namespace
+
+void RegisterEditors() {
+  for (const auto& [editor, type, aClass, property] : PropertyEditors()) {
+    vcl::RegisterPropertyEditor(type, aClass, property, editor);
+  }
+  vcl::RegisterComponentEditor(TQELExecComponent::Class(),
+                               vcl::ComponentEditorClass<TQELDialogEditor>("TQELDialogEditor"));
+  const auto mailConfig = vcl::ComponentEditorClass<TQELMailConfigEditor>("TQELMailConfigEditor");
+  vcl::RegisterComponentEditor(TQELMailHost::Class(), mailConfig);
+  vcl::RegisterComponentEditor(TQELMapiMail::Class(), mailConfig);
+}
+
+}  // namespace qel

@@ -1,0 +1,31 @@
+#include "qel/design/Qelpropertyeditors.h"
+
+#include "qel/core/Qelcomponent.h"
+#include "vcl/designintf/textdialog.h"
+#include "vcl/dialogs/dialogs.h"
+
+namespace qel {
+
+void TQELFilenameProperty::Edit() {
+  vcl::TOpenDialog dialog(nullptr);
+  dialog.SetFilter(GetFilter());
+  dialog.SetFileName(GetValue());
+  dialog.SetOptions({});
+  if (dialog.Execute()) SetValue(dialog.FileName());
+}
+
+std::string TQELFilenameProperty::GetFilter() const { return "All Files (*.*)|*.*|"; }
+
+// The component runs when this very text is written to it.
+void TQELShowMeNowProperty::Edit() { SetValue("(Busy...)"); }
+
+void TQELAboutCompsProperty::Edit() {
+  if (const auto* about = dynamic_cast<const TQELAbout*>(ObjectValue())) about->Showabout();
+}
+
+void EditInLines(vcl::TPropertyEditor& editor) {
+  std::string text = editor.GetValue();
+  if (vcl::EditText(editor.GetName(), text, "\r\n")) editor.SetValue(text);
+}
+
+}  // namespace qel

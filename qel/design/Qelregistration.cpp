@@ -1,0 +1,140 @@
+#include "qel/design/Qelregistration.h"
+
+#include "qel/controls/Qeltbackground.h"
+#include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltgauge.h"
+#include "qel/controls/Qelthint.h"
+#include "qel/controls/Qeltlabel.h"
+#include "qel/controls/Qeltspinedit.h"
+#include "qel/core/Qelclasses.h"
+#include "qel/core/Qelclasses2.h"
+#include "qel/core/Qelcontrols.h"
+#include "qel/core/Qeltstoredata.h"
+#include "qel/data/Qeltdbascii.h"
+#include "qel/design/Qelbindings.h"
+#include "qel/design/Qeltools.h"
+#include "qel/mail/Qeltiemails.h"
+#include "qel/mail/Qeltmapimail.h"
+#include "qel/mail/Qeltquickmail.h"
+#include "qel/services/Qeltformsaver.h"
+#include "qel/services/Qeltmrumenu.h"
+#include "qel/services/Qeltonlyone.h"
+#include "qel/services/Qeltsystemtray.h"
+#include "qel/shell/Qeltexplorertree.h"
+#include "vcl/designintf/registration.h"
+#include "vcl/rtl/classregistry.h"
+
+using namespace qel;
+
+namespace {
+
+/// The pages of the palette in their order, and the classes of each in theirs; one line a class.
+const std::vector<vcl::TPaletteEntry>& Pages() {
+  static const std::vector<vcl::TPaletteEntry> pages = {
+      {"QEL Controls/1",
+       {
+           &TQELBackground::Class(),
+           &TQELLabel::Class(),
+           &TQELButton::Class(),
+           &TQELGauge::Class(),
+           &TQELHint::Class(),
+       }},
+      {"QEL Controls/2",
+       {
+           &TQELSpinEdit::Class(),
+       }},
+      {"QEL DBControls",
+       {
+           &TQELDBAscii::Class(),
+       }},
+      {"QEL System/1",
+       {
+           &TQELStoreData::Class(),
+           &TQELQuickMail::Class(),
+           &TQELSystemTray::Class(),
+           &TQELFormSaver::Class(),
+           &TQELMRUMenu::Class(),
+       }},
+      {"QEL System/2",
+       {
+           &TQELOnlyOne::Class(),
+           &TQELTimer32::Class(),
+           &TQELPOPMail::Class(),
+           &TQELSMTPMail::Class(),
+           &TQELMapiMail::Class(),
+       }},
+      {"QEL Files",
+       {
+           &TQELExplorerTree::Class(),
+       }},
+  };
+  return pages;
+}
+
+}  // namespace
+
+void Register() {
+  vcl::RegisterClasses({&TQELFont3D::Class(), &TQELGradient::Class(), &TQELTexture::Class(),
+                        &TQELFrame::Class(), &TQELButtonDetails::Class(), &TQELAbout::Class()});
+  for (const auto& [page, classes] : Pages()) vcl::RegisterComponents(page, classes);
+  RegisterEditors();
+}
+
+void RegisterExpert() { RegisterTools(); }
+
+void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* context) {
+  static const vcl::TClass* const classes[] = {
+      &TQELAbout::Class(),
+      &TQELComponent::Class(),
+      &TQELExecComponent::Class(),
+      &TQELCustomDialog::Class(),
+      &TQELCustomControl::Class(),
+      &TQELGraphicControl::Class(),
+      &TQELCustomBackground::Class(),
+      &TQELFont3D::Class(),
+      &TQELFrame::Class(),
+      &TQELGlyph::Class(),
+      &TQELGradient::Class(),
+      &TQELTexture::Class(),
+      &TQELBrushFill::Class(),
+      &TQELBackground::Class(),
+      &TQELLabel::Class(),
+      &TQELButton::Class(),
+      &TQELGauge::Class(),
+      &TQELHint::Class(),
+      &TQELNewHint::Class(),
+      &TQELCustomSpinButton::Class(),
+      &TQELSpinButton::Class(),
+      &TQELCustomSpinEdit::Class(),
+      &TQELSpinEdit::Class(),
+      &TQELTimer32::Class(),
+      &TQELButtonDetails::Class(),
+      &TQELRegistry::Class(),
+      &TQELIniFile::Class(),
+      &TQELDataStore::Class(),
+      &TQELStoreData::Class(),
+      &TQELSystemTray::Class(),
+      &TQELFormSaver::Class(),
+      &TQELMRUItem::Class(),
+      &TQELMRUMenu::Class(),
+      &TQELOnlyOne::Class(),
+      &TQELAttachment::Class(),
+      &TQELAttachments::Class(),
+      &TQELMessage::Class(),
+      &TQELMessages::Class(),
+      &TQELMailHost::Class(),
+      &TQELSMTPMail::Class(),
+      &TQELPOPMail::Class(),
+      &TQELMapiAttachment::Class(),
+      &TQELMapiAttachments::Class(),
+      &TQELMapiMessage::Class(),
+      &TQELMapiMessages::Class(),
+      &TQELMapiMail::Class(),
+      &TQELQuickMail::Class(),
+      &TQELADField::Class(),
+      &TQELADFields::Class(),
+      &TQELDBAscii::Class(),
+      &TQELExplorerTree::Class(),
+  };
+  for (const vcl::TClass* aClass : classes) each(*aClass, context);
+}

@@ -1,0 +1,190 @@
+#include <algorithm>
+#include <array>
+
+#include "qel/core/private/arithmetic.h"
+#include "qel/mail/Qeltiemails_host.h"
+#include "qel/mail/private/living.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/customapplication.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
+
+namespace qel {
+namespace {
+
+/// Goes through what is running when it waits in a session that is aborted. Nobody shows it.
+class TSessionAborted : public vcl::EAbort {
+ public:
+  TSessionAborted() : EAbort("The session was aborted") {}
+};
+
+/// How long to wait at a time before the application handles its messages.
+constexpr int WaitMilliseconds = 200;
+
+}  // namespace
+
+const vcl::TClass& TQELMailHost::Class() {
+  using T = TQELMailHost;
+  static const vcl::TClass info = vcl::Describe<T, TQELExecComponent>(
+      "TQELMailHost", "Qeltiemails",
+      {
+          vcl::Property<&T::Messages, &T::SetMessages>("Messages"),
+          vcl::Event<&T::OnExecute>("OnExecute"),
+          vcl::Property<&T::ProgressStep, &T::SetProgressStep>("ProgressStep"),
+          vcl::Property<&T::Port, &T::SetPort>("Port"),
+          vcl::Property<&T::Host, &T::SetHost>("Host"),
+      });
+  return info;
+}
+
+TQELMailHost::TQELMailHost(vcl::TComponent* owner)
+    : TQELExecComponent(owner), FMessages(std::make_unique<TQELMessages>(this)) {}
+
+TQELMailHost::~TQELMailHost() { AnnounceEnd(); }
+
+void TQELMailHost::SetProgressStep(TQELPStep step) {
+  if (step < 1 || step > 100) {
+    throw vcl::EArgumentOutOfRangeException(vcl::Concat("ProgressStep runs from 1 to 100 percent, ",
+                                                        std::to_string(step), " is outside"));
+  }
+  FProgressStep = step;
+}
+
+bool TQELMailHost::Execute() {
+  OnExecute(this);
+  return true;
+}
+
+void TQELMailHost::Abort() { FAborted = FAbortAsked = true; }
+
+void TQELMailHost::BeginSession() {
+  FBusy = true;
+  FAbortAsked = false;
+  FClientSocket = std::make_unique<vcl::TClientSocket>(nullptr);
+  FClientSocket->SetClientType(vcl::ctBlocking);
+  FClientSocket->OnConnect = {this, &TQELMailHost::DoConnect};
+  FClientSocket->OnDisconnect = {this, &TQELMailHost::DoDisconnect};
+  FClientSocket->OnError = {this, &TQELMailHost::DoError};
+}
+
+bool TQELMailHost::RunSession(const std::function<void()>& dialogue) {
+  vcl::TWatch watch(this);
+  try {
+    try {
+      // A call from inside a running session closes that one, and its owner finds it closed.
+      if (!FBusy) {
+        BeginSession();
+        dialogue();
+      }
+      Disconnect();
+    } catch (const TSessionAborted&) {
+      CloseConnection();
+    }
+    FBusy = false;
+    DropConnection();
+    return !FAbortAsked;
+  } catch (...) {
+    vcl::BaseApplication().HandleCurrentException(watch.Gone() ? nullptr : this);
+  }
+  // The component stays busy: the next call finds nothing to close and only ends this session.
+  if (!watch.Gone()) DropConnection();
+  return false;
+}
+
+void TQELMailHost::DropConnection() {
+  FStream = nullptr;
+  FClientSocket = nullptr;
+  FConnected = false;
+}
+
+void TQELMailHost::CloseConnection() {
+  FStream = nullptr;
+  if (FClientSocket) FClientSocket->Close();
+  FConnected = false;
+}
+
+void TQELMailHost::Connect() {
+  ClientSocket().SetPort(vcl::StrToInt(FPort));
+  ClientSocket().SetHost(FHost);
+  ClientSocket().Open();
+}
+
+void TQELMailHost::Disconnect() { CloseConnection(); }
+
+void TQELMailHost::DoConnect(vcl::TObject* sender, vcl::TCustomWinSocket*) {
+  FConnected = true;
+  Fire(OnConnect, sender);
+}
+
+void TQELMailHost::DoDisconnect(vcl::TObject* sender, vcl::TCustomWinSocket*) {
+  FConnected = false;
+  Fire(OnDisconnect, sender);
+}
+
+void TQELMailHost::DoError(vcl::TObject*, vcl::TCustomWinSocket*, vcl::TErrorEvent, int&) {
+  FError = true;
+  CloseConnection();
+}
+
+void TQELMailHost::Guarded(const std::function<void()>& call) { qel::Guarded(this, call); }
+
+void TQELMailHost::Pump() {
+  vcl::TWatch watch(this);
+  vcl::BaseApplication().ProcessMessages();
+  if (watch.Gone())
+    throw vcl::EAbort("The component was freed while the application's messages ran");
+}
+
+vcl::TClientSocket& TQELMailHost::ClientSocket() const {
+  if (FClientSocket) return *FClientSocket;
+  throw vcl::EInvalidOperation(vcl::Concat("There is no session with \"", FHost, "\""));
+}
+
+vcl::TWinSocketStream& TQELMailHost::Stream() const {
+  if (FStream) return *FStream;
+  throw vcl::EInvalidOperation(vcl::Concat("The session with \"", FHost, "\" is closed"));
+}
+
+vcl::TCustomWinSocket* TQELMailHost::Connection() const {
+  return FClientSocket ? FClientSocket->Socket() : nullptr;
+}
+
+void TQELMailHost::OpenStream(int timeOut) {
+  FStream = std::make_unique<vcl::TWinSocketStream>(ClientSocket().Socket(), timeOut);
+}
+
+void TQELMailHost::LetWait() {
+  Pump();
+  // A program that is to end does not wait for a silent server.
+  if (vcl::BaseApplication().Terminated()) Abort();
+  if (FAbortAsked) throw TSessionAborted();
+}
+
+void TQELMailHost::SendSocketText(std::string_view text) {
+  while (!text.empty()) {
+    const auto done = Stream().Write(text.data(), static_cast<std::int64_t>(text.size()));
+    text.remove_prefix(static_cast<std::size_t>(done));
+    if (!text.empty()) LetWait();
+  }
+}
+
+std::string TQELMailHost::ReadChunk() {
+  if (FAbortAsked) throw TSessionAborted();
+  while (!Stream().WaitForData(WaitMilliseconds)) LetWait();
+  std::array<char, 1024> chunk;
+  const auto size = Stream().Read(chunk.data(), chunk.size());
+  if (Stream().AtEnd()) {
+    throw vcl::ESocketError(vcl::Concat("\"", FHost, "\" has closed the connection"));
+  }
+  return {chunk.data(), static_cast<std::size_t>(size)};
+}
+
+int TQELMailHost::Percent(double part, double whole) { return Round(part * 100 / whole); }
+
+bool TQELMailHost::StepReached(int percent, int& threshold) const {
+  if (percent < threshold) return false;
+  threshold += FProgressStep;
+  return true;
+}
+
+}  // namespace qel

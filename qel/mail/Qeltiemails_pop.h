@@ -1,0 +1,139 @@
+// TQELPOPMail, which fetches mails (POP3, RFC 1939).
+#pragma once
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "qel/mail/Qeltiemails_host.h"
+
+namespace qel {
+
+struct TPartKind;
+
+/// How far a session with a server that keeps mail has come.
+enum TQELMailSessionState { Authorization, Transaction };
+
+/// Fetches the mails of a mailbox (POP3, RFC 1939).
+///
+/// Mails are kept in Messages, behind those that are there. A server's reply is taken as it comes:
+/// only "-ERR" is looked for.
+class QEL_API TQELPOPMail : public TQELMailHost {
+ public:
+  explicit TQELPOPMail(vcl::TComponent* owner);
+  ~TQELPOPMail() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  /// Logs in, fetches all mails, deletes them on the server if wanted, and logs out. False when
+  /// something was raised, which the application's handler has shown, or the session was aborted; a
+  /// refusal of the server is told to OnError alone, which ends the connection. After an error that
+  /// was raised, the next call only clears up. Called while it runs, it closes the running session.
+  bool Execute() override;
+
+  const std::string& Username() const { return FUsername; }
+  void SetUsername(const std::string& username) { FUsername = username; }
+  /// Sent as it is, unencrypted.
+  const std::string& Password() const { return FPassword; }
+  void SetPassword(const std::string& password) { FPassword = password; }
+  /// Deletes each mail on the server once it has been fetched. A server forgets the deletions of a
+  /// session that does not end with a farewell: an abort, a refusal or an error in its middle.
+  bool DeleteOfServer() const { return FDeleteOfServer; }
+  void SetDeleteOfServer(bool deleteOfServer) { FDeleteOfServer = deleteOfServer; }
+  /// A server that sends a larger mail, or attachment, is an error (EQELMailError), which ends the
+  /// session: so no server can fill the memory. In bytes, at first 256 MiB; 0 for no limit. A mail
+  /// takes up to three times its size while it is read, and more when its lines are very short.
+  std::size_t MaxMessageSize() const { return FMaxMessageSize; }
+  void SetMaxMessageSize(std::size_t bytes) { FMaxMessageSize = bytes; }
+
+  TQELMailSessionState State() const { return FState; }
+  /// The first four characters of the last reply.
+  const std::string& Status() const { return FStatus; }
+  /// How many mails the mailbox has, without those that this session has deleted.
+  std::uint16_t MessageCount() const { return FMessageCount; }
+  /// True when this session has deleted the mail.
+  bool IsDeleted(std::uint16_t index) const { return FDeleted.contains(index); }
+
+  // For Execute. Mails are counted from 1. What the server refuses is told to OnError and closes
+  // the connection; what is sent on a closed one raises EInvalidOperation.
+  void Connect() override;
+  void Disconnect() override;
+  bool Login();
+  /// Asks for the number of mails and returns it; 0 when that is refused. Raises EConvertError when
+  /// the answer is no number from 0 to 65535.
+  int Init();
+  /// Fetches all mails that the session has not deleted and returns their number. They are added to
+  /// the component's own messages, whatever is passed.
+  int RetrieveAllMessages(TQELMessages* messages);
+  /// Fetches a mail; null when it is refused or the session aborted, or an event has deleted it.
+  TQELMessage* RetrieveMessage(std::uint16_t index);
+  /// Fetches a mail's header. It begins with a line feed and ends with the line of the lone dot.
+  void RetrieveHeaders(std::uint16_t index, std::string& headers);
+  void DeleteMessage(std::uint16_t index);
+  /// Reads what has come, at most 1024 bytes, and takes status and text of the reply from it.
+  void GetSocketText(std::string& text);
+
+  /// Adds the message that the text of a whole reply holds: a line of status, the mail, and the
+  /// line with the lone dot. Raises EQELMailError and EStringListError for a mail of several parts
+  /// that cannot be told apart; what could be read until then stays. Null when an event has deleted
+  /// it.
+  TQELMessage* ReadMessage(std::string reply);
+  /// These decode the attachment's lines. Raise EInvalidOperation when an event deletes it.
+  void Base64Decode(TQELAttachment& attachment);
+  /// Raises EQELMailError for a character that does not belong there.
+  void UUDecode(TQELAttachment& attachment);
+
+  /// The first line that begins an uuencoded file ("begin 644 name") and the file's name.
+  static bool GetUUAttachments(const vcl::TStrings& lines, int& index, std::string& name);
+  /// The first line that, in capitals, starts with the key; contains it, at a position from 1; and
+  /// the first line that contains the text as it is. False when there is none.
+  static bool FindInHeaders(std::string_view key, const vcl::TStrings& list, int& index);
+  static bool FindInStringList(std::string_view key, const vcl::TStrings& list, int& index,
+                               int& position);
+  static bool FindInStringListCS(std::string_view key, const vcl::TStrings& list, int& index);
+
+  TQELOnCodingStart OnDecodeStart;
+  TQELOnCodingProgress OnDecodeProgress;
+  vcl::TNotifyEvent OnDecodeEnd;
+  TQELBeforeRetrieve BeforeRetrieve;
+  vcl::TNotifyEvent AfterRetrieve;
+  TQELOnCodingProgress OnRetrieveProgress;
+  TQELOnDelete OnDelete;
+
+ protected:
+  /// Closes the connection and fires OnError with the code and the server's words.
+  void DoErr(int code);
+  void DoError(vcl::TObject* sender, vcl::TCustomWinSocket* socket, vcl::TErrorEvent errorEvent,
+               int& errorCode) override;
+
+ private:
+  void TakeReply(std::string_view text);
+  std::string ReadReply();
+  /// True unless the server refuses, which is told with the code; `reply` is all that has come.
+  bool Command(const std::string& command, int refusal, std::string& reply);
+  bool Command(const std::string& command, int refusal);
+  void CheckSize(std::size_t size) const;
+  std::string FetchRest(std::string reply);
+  void ReadSinglePart(TQELMessage& message, char* body, std::size_t size);
+  void ReadParts(TQELMessage& message, std::string_view body, const std::string& boundary);
+  void ReadAttachment(TQELMessage& message, std::string_view part, const TPartKind& kind);
+  void DoDecodeStart(const TQELAttachment& attachment);
+  bool DoDecodeProgress(int percent, int& threshold);
+  void DoDecodeEnd();
+
+  TQELMailSessionState FState = Authorization;
+  std::string FUsername, FPassword, FStatus;
+  bool FDeleteOfServer = false;
+  std::size_t FMaxMessageSize = 256u << 20;
+  std::uint16_t FMessageCount = 0;
+  std::set<std::uint16_t> FDeleted;
+  int FRetrievePercent = 0;
+  int FDecodePercent = 0;
+};
+
+}  // namespace qel
+
+template <>
+inline constexpr vcl::TEnumText vcl::EnumText<qel::TQELMailSessionState>{
+    "TQELMailSessionState", "Authorization Transaction"};

@@ -1,0 +1,98 @@
+// TQELSMTPMail, which sends mails (SMTP, RFC 821).
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "qel/mail/Qeltiemails_host.h"
+
+namespace qel {
+
+/// Sends its messages.
+class QEL_API TQELSMTPMail : public TQELMailHost {
+ public:
+  explicit TQELSMTPMail(vcl::TComponent* owner);
+  ~TQELSMTPMail() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  /// Sends all messages in one session. False when something was raised, which the application's
+  /// handler has shown, or the session was aborted; a refusal of the server is told to OnError
+  /// alone. After an error that was raised, the next call only clears up. Called while it runs, it
+  /// closes the running session.
+  bool Execute() override;
+
+  /// Lines that end every text. The setter copies.
+  vcl::TStrings* Signature() const { return FSignature.get(); }
+  void SetSignature(const vcl::TStrings* signature) { FSignature->Assign(signature); }
+  /// How a mail's date is written, in FormatDateTime's specifiers: at first as the user writes
+  /// dates and times in full, which other mail programs need not understand.
+  const std::string& DateTimeFormat() const { return FDateTimeFormat; }
+  void SetDateTimeFormat(const std::string& format) { FDateTimeFormat = format; }
+  /// The first three characters of the last reply.
+  const std::string& ReplyCode() const { return FReplyCode; }
+
+  // For Execute.
+  void Connect() override;
+  void Disconnect() override;
+  /// Sends one message; true when the server has taken it.
+  bool SendMessage(TQELMessage& message);
+  /// The whole mail, a line an item; null when the session was aborted meanwhile.
+  std::unique_ptr<vcl::TStringList> InitializeMessage(TQELMessage& message);
+  /// A new number for a mail.
+  std::string CreateUIN() const;
+  /// A new text to stand between the parts of a mail.
+  static std::string CreateBounds();
+  /// Fills the attachment's lines with its file in base64. Raises EFOpenError and EReadError.
+  void Base64Encode(TQELAttachment& attachment);
+  /// Reads a reply; `text` becomes what came of it last.
+  void GetSocketText(std::string& text);
+
+  vcl::TNotifyEvent OnBeforeSend;
+  vcl::TNotifyEvent OnAfterSend;
+  TQELOnCodingStart OnEncodeStart;
+  TQELOnCodingProgress OnEncodeProgress;
+  vcl::TNotifyEvent OnEncodeEnd;
+  TQELSendingProgress OnSendProgress;
+
+ protected:
+  void DoErr(vcl::TErrorEvent kind);
+  void DoError(vcl::TObject* sender, vcl::TCustomWinSocket* socket, vcl::TErrorEvent errorEvent,
+               int& errorCode) override;
+  virtual void DoOnBeforeSend() { Fire(OnBeforeSend, this); }
+  virtual void DoOnAfterSend() { Fire(OnAfterSend, this); }
+  virtual void DoEncodeStart(const std::string& fileName, int count);
+  virtual void DoEncodeProgress(int percent);
+  virtual void DoEncodeEnd() { Fire(OnEncodeEnd, this); }
+  virtual void DoSendProgress(int percent);
+
+ private:
+  void AddHeaders(const TQELMessage& message, vcl::TStrings& lines) const;
+  std::string Sender(const TQELMessage& message) const;
+  void AddText(const TQELMessage& message, vcl::TStrings& lines) const;
+  // These and the encoding are false when the session was aborted meanwhile.
+  bool AddParts(TQELMessage& message, const std::string& boundary, vcl::TStrings& lines);
+  bool AddAttachment(TQELAttachment& attachment, vcl::TStrings& lines);
+  bool EncodeBlocks(vcl::TStream& file, std::int64_t size, TTextLines& lines);
+  bool EncodeRest(vcl::TStream& file, std::int64_t count, TTextLines& lines);
+  std::string NextChunk();
+  void TakeReply(std::string_view text);
+  bool ReadGreeting();
+  /// True when the reply to the line has the wanted code; else the error has been told.
+  bool Command(const std::string& command, const char* wanted,
+               vcl::TErrorEvent kind = vcl::eeGeneral);
+  bool SendRecipients(const std::string& sendTo);
+  bool SendLines(const vcl::TStrings& lines);
+
+  std::unique_ptr<vcl::TStringList> FSignature;
+  std::string FDateTimeFormat;
+  std::string FReplyCode;
+  /// The last reply has been taken before its line ended.
+  bool FInsideLine = false;
+  int FLastSendPercent = 0;
+  int FLastEncodePercent = 0;
+};
+
+}  // namespace qel

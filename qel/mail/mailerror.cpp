@@ -1,0 +1,7 @@
+#include "qel/mail/mailerror.h"
+
+namespace qel {
+
+EQELMailError::~EQELMailError() = default;
+
+}  // namespace qel

@@ -1,0 +1,8 @@
+#include "qel/mail/private/mimetypes.h"
+
+namespace qel {
+
+/// There is no registry here.
+std::string RegisteredMimeType(const std::string&) { return {}; }
+
+}  // namespace qel

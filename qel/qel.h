@@ -1,0 +1,21 @@
+// Every component of the package in one include.
+#pragma once
+
+#include "qel/controls/Qeltbackground.h"
+#include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltgauge.h"
+#include "qel/controls/Qelthint.h"
+#include "qel/controls/Qeltlabel.h"
+#include "qel/controls/Qeltspinedit.h"
+#include "qel/core/Qelclasses2.h"
+#include "qel/core/Qelfunctions.h"
+#include "qel/core/Qeltstoredata.h"
+#include "qel/data/Qeltdbascii.h"
+#include "qel/mail/Qeltiemails.h"
+#include "qel/mail/Qeltmapimail.h"
+#include "qel/mail/Qeltquickmail.h"
+#include "qel/services/Qeltformsaver.h"
+#include "qel/services/Qeltmrumenu.h"
+#include "qel/services/Qeltonlyone.h"
+#include "qel/services/Qeltsystemtray.h"
+#include "qel/shell/Qeltexplorertree.h"

@@ -1,0 +1,126 @@
+// TQELMRUMenu: a menu's list of the files that were used last, and TQELMRUItem, the lines that it
+// adds to the menu.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "qel/core/Qeltstoredata.h"
+#include "vcl/menus/menus.h"
+#include "vcl/rtl/strings.h"
+
+namespace qel {
+
+/// The clicked menu item, the file's name.
+using TQELMRUItemClick = vcl::TEvent<vcl::TObject*, std::string>;
+
+/// A menu item that a TQELMRUMenu has made. Items of this class are removed from the menu when the
+/// list is shown anew, whoever has put them there.
+class QEL_API TQELMRUItem : public vcl::TMenuItem {
+ public:
+  /// `number` is 1 for the first file of the list, 0 for a separator or a submenu.
+  explicit TQELMRUItem(vcl::TComponent* owner, std::uint8_t number = 0)
+      : TMenuItem(owner), FNumber(number) {}
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  std::uint8_t Number() const { return FNumber; }
+
+ private:
+  std::uint8_t FNumber;
+};
+
+/// Keeps a list of files, shows their names in a menu, says when one is clicked, and remembers the
+/// list between runs in its MRUStore, in the values MRU0, MRU1 and so on.
+///
+/// The list is read when the form has been read, and written when the component is freed and by
+/// Clear; neither happens in the designer. What the store raises reaches the caller; while the
+/// component is being freed it goes to the application.
+class QEL_API TQELMRUMenu : public TQELComponent {
+ public:
+  explicit TQELMRUMenu(vcl::TComponent* owner);
+  ~TQELMRUMenu() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  /// Adds the name at the end of the list, and deletes the first name while there are more than
+  /// MaxItems. A name that is there, compared without case, becomes the first one as it is spelled
+  /// there.
+  void Insert(const std::string& fileName);
+  /// Deletes the name, if it is there.
+  void Delete(const std::string& fileName);
+  /// Empties the list, and the store.
+  void Clear();
+  /// Replaces the list by what the store has, be it more than MaxItems, but at most 255 names. An
+  /// unusable store changes nothing. False when the store is not enabled.
+  bool Load();
+  /// Replaces what the store has by the list. A name that the store refuses is left out and its
+  /// error raised at the end. False when the store is not enabled.
+  bool Save();
+  /// Shows the list in the menu anew.
+  virtual void PopulateMenu();
+  /// Takes the names out of the menu, and frees their items.
+  void RemoveAllItems();
+
+  bool Numbering() const { return FNumbering; }
+  /// Puts a number before each name, whose last digit chooses it. Seen when the list is next shown
+  /// anew.
+  void SetNumbering(bool numbering) { FNumbering = numbering; }
+  std::uint8_t MaxItems() const { return FMaxItems; }
+  /// A smaller number than before deletes names at the end of the list.
+  void SetMaxItems(std::uint8_t maxItems);
+  bool RemoveOnClick() const { return FRemoveOnClick; }
+  /// A clicked name leaves the list.
+  void SetRemoveOnClick(bool removeOnClick) { FRemoveOnClick = removeOnClick; }
+  bool AsSubMenu() const { return FAsSubMenu; }
+  /// Shows the names in a submenu. The declared default is false, so that a form file never says
+  /// false and each form that is read begins with true: to have the names in the menu itself, set
+  /// this at run time.
+  void SetAsSubMenu(bool asSubMenu);
+  bool Separator() const { return FSeparator; }
+  /// Shows a line before the names.
+  void SetSeparator(bool separator);
+  const std::string& SubMenuname() const { return FSubMenuname; }
+  /// The submenu's caption.
+  void SetSubMenuname(const std::string& name);
+  /// Where the names are: at the end of this item's menu or, when it has none, just before this
+  /// item. When the item is freed at run time its names go too, but the reference stays until
+  /// another one is set: it can be compared with then and nothing else.
+  vcl::TMenuItem* AttachToMenu() const { return FAttachToMenu; }
+  void SetAttachToMenu(vcl::TMenuItem* menu);
+  TQELDataStore* MRUStore() const { return FMRUStore.get(); }
+
+  /// A name was clicked; with RemoveOnClick it has left the list by now. The item lives until the
+  /// event is over, whatever the handler does to the list.
+  TQELMRUItemClick OnItemClick;
+
+ protected:
+  void MRUClicked(vcl::TObject* sender);
+  void Loaded() override;
+  void Notification(vcl::TComponent* component, vcl::TOperation operation) override;
+
+ private:
+  class TClicking;
+  vcl::TMenuItem* LiveMenu() const { return FMenuGone ? nullptr : FAttachToMenu; }
+  vcl::TMenuItem* Container() const;
+  TQELMRUItem* AddItem(vcl::TMenuItem* container, int position, const std::string& caption,
+                       int number);
+  void AddNames(vcl::TMenuItem* container, int position);
+  void Discard(TQELMRUItem* item);
+  void FreeDiscarded();
+
+  bool FNumbering = false;
+  std::uint8_t FMaxItems = 10;
+  bool FRemoveOnClick = true;
+  bool FAsSubMenu = true;
+  bool FSeparator = true;
+  std::string FSubMenuname = "Reopen";
+  vcl::TMenuItem* FAttachToMenu = nullptr;
+  bool FMenuGone = false;
+  int FClicks = 0;  // Being handled.
+  std::unique_ptr<TQELDataStore> FMRUStore;
+  vcl::TStringList FFiles;
+};
+
+}  // namespace qel

@@ -1,0 +1,221 @@
+// The wide entry points of the system are called, because names may be longer in UTF-8 than the
+// narrow ones have room for.
+#include "qel/shell/private/folders.h"
+
+#include <objbase.h>
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <algorithm>
+#include <numeric>
+#include <system_error>
+#include <utility>
+
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
+
+namespace qel::folders {
+
+using vcl::ToUtf16;
+using vcl::ToUtf8;
+
+// ---- Paths ----
+
+std::string Normalized(const std::string& text) {
+  std::wstring wide = ToUtf16(vcl::Trim(text));
+  if (wide.empty()) return {};
+  std::ranges::replace(wide, L'/', L'\\');
+  // A drive alone would mean its current folder.
+  if (wide.back() != L'\\') wide += L'\\';
+  std::wstring full(::GetFullPathNameW(wide.c_str(), 0, nullptr, nullptr), L'\0');
+  full.resize(
+      ::GetFullPathNameW(wide.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+  return ToUtf8(full);
+}
+
+std::string UpperCased(const std::string& path) {
+  std::wstring wide = ToUtf16(path);
+  ::CharUpperBuffW(wide.data(), static_cast<DWORD>(wide.size()));
+  return ToUtf8(wide);
+}
+
+std::size_t RootSize(const std::string& path) {
+  if (path.size() >= 3 && path[1] == ':') return 3;
+  if (!path.starts_with("\\\\")) return 0;
+  const std::size_t server = path.find('\\', 2);
+  const std::size_t share = server == std::string::npos ? server : path.find('\\', server + 1);
+  return share == std::string::npos || share == server + 1 ? 0 : share + 1;
+}
+
+std::string ParentOf(const std::string& path) {
+  if (path.size() <= RootSize(path)) return {};
+  return path.substr(0, path.find_last_of('\\', path.size() - 2) + 1);
+}
+
+std::string NameOf(const std::string& path) {
+  const std::string parent = ParentOf(path);
+  return path.empty() ? path : path.substr(parent.size(), path.size() - parent.size() - 1);
+}
+
+std::wstring ForSystem(const std::string& path) {
+  std::wstring wide = ToUtf16(path);
+  if (path.size() > RootSize(path) && wide.back() == L'\\') wide.pop_back();
+  constexpr std::size_t short_ = 240;  // Room for what is appended.
+  if (wide.size() < short_) return wide;
+  return wide.starts_with(L"\\\\") ? L"\\\\?\\UNC" + wide.substr(1) : L"\\\\?\\" + wide;
+}
+
+bool Exists(const std::string& path) {
+  const TNoErrorBoxes quiet;
+  const DWORD attributes = ::GetFileAttributesW(ForSystem(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+UINT DriveType(const std::string& path) {
+  return ::GetDriveTypeA(path.substr(0, RootSize(path)).c_str());
+}
+
+// ---- What is there ----
+
+void Scan(const std::string& path, const std::function<bool(const std::string& name)>& each) {
+  std::wstring pattern = ForSystem(path);
+  if (!pattern.ends_with(L'\\')) pattern += L'\\';
+  pattern += L"*.*";
+  WIN32_FIND_DATAW found;
+  const HANDLE search = ::FindFirstFileW(pattern.c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return;
+  const struct TClose {
+    HANDLE Search;
+    ~TClose() { ::FindClose(Search); }
+  } close{search};
+  do {
+    const std::wstring_view name = found.cFileName;
+    if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) || name == L"." || name == L"..") {
+      continue;
+    }
+    if (!each(ToUtf8(name))) return;
+  } while (::FindNextFileW(search, &found));
+}
+
+namespace {
+
+/// Texts compare byte by byte by their keys as they do by the user's language.
+std::string SortKey(const std::string& text) {
+  const std::wstring wide = ToUtf16(text);
+  const auto map = [&wide](std::string* key) {
+    return ::LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, wide.data(),
+                          static_cast<int>(wide.size()),
+                          key ? reinterpret_cast<wchar_t*>(key->data()) : nullptr,
+                          key ? static_cast<int>(key->size()) : 0);
+  };
+  std::string key(static_cast<std::size_t>(map(nullptr)), '\0');
+  map(&key);
+  return key;
+}
+
+}  // namespace
+
+void Sort(std::vector<std::string>& paths) {
+  std::vector<std::pair<std::string, std::string>> keyed;
+  keyed.reserve(paths.size());
+  for (std::string& path : paths) keyed.emplace_back(SortKey(NameOf(path)), std::move(path));
+  std::ranges::stable_sort(keyed);
+  std::ranges::transform(keyed, paths.begin(), [](auto& each) { return std::move(each.second); });
+}
+
+std::vector<std::string> Drives() {
+  std::vector<std::string> roots;
+  const DWORD drives = ::GetLogicalDrives();
+  for (int i = 0; i < 26; ++i) {
+    if (drives & (1u << i)) roots.push_back(std::string(1, static_cast<char>('A' + i)) + ":\\");
+  }
+  return roots;
+}
+
+std::string Special(int folder) {
+  LPITEMIDLIST list = nullptr;
+  if (::SHGetSpecialFolderLocation(nullptr, folder, &list) != S_OK) return {};
+  wchar_t path[MAX_PATH] = L"";
+  const BOOL found = ::SHGetPathFromIDListW(list, path);
+  ::CoTaskMemFree(list);
+  return found ? Normalized(ToUtf8(path)) : std::string();
+}
+
+namespace {
+
+constexpr UINT NameAndIcon = SHGFI_SYSICONINDEX | SHGFI_DISPLAYNAME | SHGFI_SMALLICON;
+
+/// What the shell says of any folder of that name, without looking at the disk. Returns its list of
+/// pictures.
+HIMAGELIST AskOfAnyFolder(const std::string& name, SHFILEINFOW& info) {
+  return reinterpret_cast<HIMAGELIST>(::SHGetFileInfoW(ToUtf16(name).c_str(),
+                                                       FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
+                                                       NameAndIcon | SHGFI_USEFILEATTRIBUTES));
+}
+
+/// Whether the folder may have a name or picture of its own. The shell looks for one only where a
+/// folder has one of two attributes (PathMakeSystemFolder), and looking takes long where many
+/// folders are.
+bool MayBeSpecial(const std::string& path) {
+  if (path.size() == RootSize(path)) return true;
+  const DWORD attributes = ::GetFileAttributesW(ForSystem(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES &&
+         (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_SYSTEM)) != 0;
+}
+
+}  // namespace
+
+TAppearance Appearance(const std::string& path) {
+  const TNoErrorBoxes quiet;
+  SHFILEINFOW info{};
+  const bool asked = MayBeSpecial(path) &&
+                     ::SHGetFileInfoW(ToUtf16(path).c_str(), 0, &info, sizeof info, NameAndIcon);
+  if (!asked || !info.szDisplayName[0]) AskOfAnyFolder(NameOf(path), info);
+  return {info.szDisplayName[0] ? ToUtf8(info.szDisplayName) : NameOf(path), info.iIcon};
+}
+
+HIMAGELIST SystemImages() {
+  SHFILEINFOW info{};
+  return AskOfAnyFolder("folder", info);
+}
+
+// ---- Changes ----
+
+void RaiseInOut(const std::string& what, const std::string& path, DWORD error) {
+  const std::string reason = std::system_category().message(static_cast<int>(error));
+  throw vcl::EInOutError(vcl::Concat(what, " '", path, "': ", reason));
+}
+
+void Make(const std::string& path) {
+  if (Exists(path)) return;
+  const std::string parent = ParentOf(path);
+  if (!parent.empty()) Make(parent);
+  if (::CreateDirectoryW(ForSystem(path).c_str(), nullptr)) return;
+  const DWORD error = ::GetLastError();
+  if (error != ERROR_ALREADY_EXISTS || !Exists(path)) {
+    RaiseInOut("Cannot make the folder", path, error);
+  }
+}
+
+void Rename(const std::string& path, const std::string& newPath) {
+  if (::MoveFileW(ForSystem(path).c_str(), ForSystem(newPath).c_str())) return;
+  RaiseInOut("Cannot rename the folder", path, ::GetLastError());
+}
+
+bool Recycle(const std::string& path, HWND owner) {
+  std::wstring from = ToUtf16(path.substr(0, path.size() - 1));
+  from += L'\0';  // The end of the list.
+  SHFILEOPSTRUCTW operation{};
+  operation.hwnd = owner;
+  operation.wFunc = FO_DELETE;
+  operation.pFrom = from.c_str();
+  operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_WANTNUKEWARNING | FOF_SILENT;
+  const int error = ::SHFileOperationW(&operation);
+  if (error != 0 && !operation.fAnyOperationsAborted) {
+    RaiseInOut("Cannot delete the folder", path, static_cast<DWORD>(error));
+  }
+  return !operation.fAnyOperationsAborted;
+}
+
+}  // namespace qel::folders

@@ -1,0 +1,366 @@
+#include "vcl/controls/control.h"
+
+#include "vcl/controls/wincontrol.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/drag.h"
+#include "vcl/forms/forms.h"
+#include "vcl/menus/menus.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
+
+namespace vcl {
+
+const TClass& TControl::Class() {
+  static const TClass info = Describe<TControl, TComponent>(
+      "TControl", "controls",
+      {
+          Property<&TControl::Left, &TControl::SetLeft>("Left"),
+          Property<&TControl::Top, &TControl::SetTop>("Top"),
+          Property<&TControl::Width, &TControl::SetWidth>("Width"),
+          Property<&TControl::Height, &TControl::SetHeight>("Height"),
+          Property<&TControl::Cursor, &TControl::SetCursor>("Cursor").Default(crDefault),
+          Property<&TControl::Hint, &TControl::SetHint>("Hint").Default(std::string()),
+          Property<&TControl::Align, &TControl::SetAlign>("Align").Default(alNone).Unpublished(),
+          Property<&TControl::Caption, &TControl::SetCaption>("Caption")
+              .Type("TCaption")
+              .Unpublished(),
+          Property<&TControl::Text, &TControl::SetText>("Text").Type("TCaption").Unpublished(),
+          Property<&TControl::Color, &TControl::SetColor>("Color")
+              .Default(clWindow)
+              .StoredIf<&TControl::IsColorStored>()
+              .Unpublished(),
+          Property<&TControl::ParentColor, &TControl::SetParentColor>("ParentColor")
+              .Default(true)
+              .Unpublished(),
+          Property<&TControl::Font, &TControl::SetFont>("Font")
+              .StoredIf<&TControl::IsFontStored>()
+              .Unpublished(),
+          Property<&TControl::ParentFont, &TControl::SetParentFont>("ParentFont")
+              .Default(true)
+              .Unpublished(),
+          Property<&TControl::ShowHint, &TControl::SetShowHint>("ShowHint")
+              .StoredIf<&TControl::IsShowHintStored>()
+              .Unpublished(),
+          Property<&TControl::ParentShowHint, &TControl::SetParentShowHint>("ParentShowHint")
+              .Default(true)
+              .Unpublished(),
+          Property<&TControl::Enabled, &TControl::SetEnabled>("Enabled")
+              .Default(true)
+              .Unpublished(),
+          Property<&TControl::Visible, &TControl::SetVisible>("Visible")
+              .Default(true)
+              .Unpublished(),
+          Property<&TControl::DragCursor, &TControl::SetDragCursor>("DragCursor")
+              .Default(crDrag)
+              .Unpublished(),
+          Property<&TControl::DragMode, &TControl::SetDragMode>("DragMode")
+              .Default(dmManual)
+              .Unpublished(),
+          Property<&TControl::PopupMenu, &TControl::SetPopupMenu>("PopupMenu").Unpublished(),
+          Event<&TControl::OnClick>("OnClick").Unpublished(),
+          Event<&TControl::OnDblClick>("OnDblClick").Unpublished(),
+          Event<&TControl::OnMouseDown>("OnMouseDown").Unpublished(),
+          Event<&TControl::OnMouseMove>("OnMouseMove").Unpublished(),
+          Event<&TControl::OnMouseUp>("OnMouseUp").Unpublished(),
+          Event<&TControl::OnDragDrop>("OnDragDrop").Unpublished(),
+          Event<&TControl::OnDragOver>("OnDragOver").Unpublished(),
+          Event<&TControl::OnStartDrag>("OnStartDrag").Unpublished(),
+          Event<&TControl::OnEndDrag>("OnEndDrag").Type("TEndDragEvent").Unpublished(),
+      });
+  return info;
+}
+
+TControl::TControl(TComponent* owner) : TComponent(owner), FFont(std::make_unique<TFont>()) {
+  FFont->OnChange = TNotifyEvent(this, &TControl::FontChanged);
+}
+
+TControl::~TControl() {
+  AnnounceEnd();
+  TDragSession::Forget(this);
+  if (HasApplication()) Application()->ControlGone(this);
+  FFont->OnChange.Clear();
+  ForgetCapture();
+  if (FParent) FParent->Remove(this);
+}
+
+// Place in the form.
+
+void TControl::SetParent(TWinControl* parent) {
+  if (parent == FParent) return;
+  for (const TControl* each = parent; each; each = each->FParent) {
+    if (each == this) {
+      throw EInvalidOperation(Concat("A control cannot have itself as its parent: ", Name()));
+    }
+  }
+  if (FParent) FParent->Remove(this);
+  if (parent) parent->Insert(this);
+  // What is being read has its parent before its properties, which may say that it does not follow.
+  if (!ComponentState().Has(csReading)) FollowParent();
+}
+
+void TControl::FollowParent() {
+  if (!FParent || FControlState.Has(csReadingState)) return;
+  Notify(CM_PARENTSHOWHINTCHANGED);
+  Notify(CM_PARENTCOLORCHANGED);
+  Notify(CM_PARENTFONTCHANGED);
+  Notify(CM_PARENTCTL3DCHANGED);
+}
+
+TCustomForm* TControl::ParentForm() const {
+  const TControl* topmost = this;
+  while (topmost->FParent) topmost = topmost->FParent;
+  return dynamic_cast<TCustomForm*>(const_cast<TControl*>(topmost));
+}
+
+TComponent* TControl::GetParentComponent() const { return FParent; }
+
+void TControl::SetParentComponent(TComponent* parent) {
+  if (auto* winControl = dynamic_cast<TWinControl*>(parent)) SetParent(winControl);
+}
+
+void TControl::SetZOrder(bool topmost) {
+  if (!FParent) return;
+  TWinControl* parent = FParent;
+  parent->MoveInZOrder(this, topmost);
+  if (FVisible) InvalidateArea(true, true);
+}
+
+// Bounds.
+
+void TControl::SetBounds(int left, int top, int width, int height) {
+  width = std::max(width, 0);
+  height = std::max(height, 0);
+  if (left == FLeft && top == FTop && width == FWidth && height == FHeight) return;
+  const TWatch watch(this);
+  const bool resized = width != FWidth || height != FHeight;
+  InvalidateArea(FVisible, false);
+  FLeft = left;
+  FTop = top;
+  FWidth = width;
+  FHeight = height;
+  Invalidate();
+  RequestAlign();
+  if (!watch.Gone() && resized && !Loading()) Resize();
+}
+
+void TControl::SetClientSize(int width, int height) {
+  const TRect client = ClientRect();
+  SetBounds(FLeft, FTop, FWidth - client.Width() + width, FHeight - client.Height() + height);
+}
+
+TPoint TControl::ClientOrigin() const {
+  if (!FParent) throw EInvalidOperation(Concat("Control '", Name(), "' has no parent window"));
+  const TPoint origin = FParent->ClientOrigin();
+  return {origin.X + FLeft, origin.Y + FTop};
+}
+
+TPoint TControl::ClientToScreen(TPoint point) const {
+  const TPoint origin = ClientOrigin();
+  return {point.X + origin.X, point.Y + origin.Y};
+}
+
+TPoint TControl::ScreenToClient(TPoint point) const {
+  const TPoint origin = ClientOrigin();
+  return {point.X - origin.X, point.Y - origin.Y};
+}
+
+void TControl::SetAlign(TAlign align) {
+  if (align == FAlign) return;
+  FAlign = align;
+  RequestAlign();
+}
+
+void TControl::RequestAlign() {
+  if (FParent) FParent->AlignControl(this);
+}
+
+// State.
+
+void TControl::SetEnabled(bool enabled) {
+  if (enabled == FEnabled) return;
+  FEnabled = enabled;
+  Notify(CM_ENABLEDCHANGED);
+}
+
+void TControl::SetVisible(bool visible) {
+  if (visible == FVisible) return;
+  FVisible = visible;
+  const TWatch watch(this);
+  Notify(CM_VISIBLECHANGED);
+  if (!watch.Gone()) RequestAlign();
+}
+
+void TControl::Show() {
+  if (FParent) FParent->ShowControl(this);
+  SetVisible(true);
+}
+
+// Look.
+
+void TControl::SetFont(const TFont* font) { FFont->Assign(font); }
+
+void TControl::FontChanged(TObject*) {
+  FParentFont = false;
+  Notify(CM_FONTCHANGED);
+}
+
+void TControl::SetParentFont(bool parentFont) {
+  if (parentFont == FParentFont) return;
+  FParentFont = parentFont;
+  if (FParent && !FControlState.Has(csReadingState)) Notify(CM_PARENTFONTCHANGED);
+}
+
+void TControl::SetColor(TColor color) {
+  if (color == FColor && !FParentColor) return;
+  FColor = color;
+  FParentColor = false;
+  Notify(CM_COLORCHANGED);
+}
+
+void TControl::SetParentColor(bool parentColor) {
+  if (parentColor == FParentColor) return;
+  FParentColor = parentColor;
+  if (FParent && !FControlState.Has(csReadingState)) Notify(CM_PARENTCOLORCHANGED);
+}
+
+void TControl::SetCursor(TCursor cursor) {
+  if (cursor == FCursor) return;
+  FCursor = cursor;
+  Notify(CM_CURSORCHANGED);
+}
+
+void TControl::SetShowHint(bool showHint) {
+  if (showHint == FShowHint && !FParentShowHint) return;
+  FShowHint = showHint;
+  FParentShowHint = false;
+  Notify(CM_SHOWHINTCHANGED);
+}
+
+void TControl::SetParentShowHint(bool parentShowHint) {
+  if (parentShowHint == FParentShowHint) return;
+  FParentShowHint = parentShowHint;
+  if (FParent && !FControlState.Has(csReadingState)) Notify(CM_PARENTSHOWHINTCHANGED);
+}
+
+void TControl::SetPopupMenu(TPopupMenu* menu) {
+  FPopupMenu = menu;
+  if (menu) menu->FreeNotification(this);
+}
+
+// Text.
+
+std::string TControl::Text() const {
+  std::string text(static_cast<std::size_t>(GetTextLen()), '\0');
+  if (!text.empty()) GetTextBuf(text.data(), static_cast<int>(text.size()) + 1);
+  return text;
+}
+
+void TControl::SetText(const std::string& text) {
+  if (text != Text()) SetTextBuf(text.c_str());
+}
+
+int TControl::GetTextBuf(char* buffer, int size) const {
+  if (size <= 0) return 0;
+  const std::size_t count = FText.copy(buffer, static_cast<std::size_t>(size) - 1);
+  buffer[count] = '\0';
+  return static_cast<int>(count);
+}
+
+void TControl::SetTextBuf(const char* text) {
+  FText = text;
+  Notify(CM_TEXTCHANGED);
+}
+
+void TControl::SetName(const std::string& name) {
+  const bool follows = FControlStyle.Has(csSetCaption) && !Loading() && Name() == Text() &&
+                       !(Owner() && Owner()->Loading());
+  TComponent::SetName(name);
+  if (follows) SetText(name);
+}
+
+bool TControl::Seen() const {
+  return FVisible || (Designing() && !FControlStyle.Has(csNoDesignVisible));
+}
+
+// Painting.
+
+void TControl::Invalidate() { InvalidateArea(FVisible, FControlStyle.Has(csOpaque)); }
+
+void TControl::InvalidateArea(bool visible, bool opaque) {
+  if (!visible && !Designing()) return;
+  if (!FParent || !FParent->HandleAllocated()) return;
+  const RECT area = BoundsRect();
+  const bool covered = opaque || FParent->ControlStyle().Has(csOpaque);
+  ::InvalidateRect(FParent->Handle(), &area, !covered);
+}
+
+void TControl::Update() {
+  if (FParent) FParent->Update();
+}
+
+void TControl::Repaint() {
+  Invalidate();
+  Update();
+}
+
+HDC TControl::GetDeviceContext(HWND& window) {
+  if (!FParent) throw EInvalidOperation(Concat("Control '", Name(), "' has no parent window"));
+  const HDC dc = FParent->GetDeviceContext(window);
+  POINT origin;
+  ::GetViewportOrgEx(dc, &origin);
+  ::SetViewportOrgEx(dc, origin.x + FLeft, origin.y + FTop, nullptr);
+  ::IntersectClipRect(dc, 0, 0, FWidth, FHeight);
+  return dc;
+}
+
+// Drag and drop.
+
+void TControl::BeginDrag(bool immediate, int threshold) {
+  TDragSession::Begin(this, immediate, threshold);
+}
+
+void TControl::EndDrag(bool drop) {
+  if (Dragging()) TDragSession::End(drop);
+}
+
+bool TControl::Dragging() const {
+  const TDragSession* session = TDragSession::Current();
+  return session && session->Control() == this;
+}
+
+void TControl::DragOver(TObject* source, int x, int y, TDragState state, bool& accept) {
+  accept = OnDragOver.Assigned();
+  OnDragOver(this, source, x, y, state, accept);
+}
+
+void TControl::DragDrop(TObject* source, int x, int y) { OnDragDrop(this, source, x, y); }
+void TControl::BeginAutoDrag(TMessage&) { BeginDrag(false); }
+void TControl::DoStartDrag(TDragObject*& object) { OnStartDrag(this, object); }
+void TControl::DoEndDrag(TObject* target, int x, int y) { OnEndDrag(this, target, x, y); }
+
+// Component.
+
+void TControl::Notification(TComponent* component, TOperation operation) {
+  TComponent::Notification(component, operation);
+  if (operation == opRemove && component == FPopupMenu) FPopupMenu = nullptr;
+}
+
+void TControl::ReadState(TReader& reader) {
+  IncludeState(csReadingState);
+  try {
+    TComponent::ReadState(reader);
+  } catch (...) {
+    ExcludeState(csReadingState);
+    throw;
+  }
+  ExcludeState(csReadingState);
+  FollowParent();
+}
+
+void TControl::Loaded() {
+  TComponent::Loaded();
+  RequestAlign();
+}
+
+}  // namespace vcl

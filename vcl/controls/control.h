@@ -1,0 +1,262 @@
+// TControl: everything that is seen on a form; TGraphicControl: a control without a window.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "vcl/controls/controltypes.h"
+#include "vcl/controls/messages.h"
+#include "vcl/graphics/graphics.h"
+#include "vcl/graphics/types.h"
+#include "vcl/rtl/component.h"
+
+namespace vcl {
+
+class TControlCanvas;
+class TCustomForm;
+class TPopupMenu;
+class TWinControl;
+
+/// A control: a rectangle inside a parent, with a look, a state and events for the mouse. Positions
+/// and sizes are in pixels.
+class VCL_API TControl : public TComponent {
+ public:
+  explicit TControl(TComponent* owner);
+  ~TControl() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  // Place in the form.
+  TWinControl* Parent() const { return FParent; }
+  /// Moves the control into the parent, at the top of the z-order; null takes it out. Raises
+  /// EInvalidOperation when the parent would stand inside the control itself.
+  virtual void SetParent(TWinControl* parent);
+  /// The form that the control is on; null when there is none.
+  TCustomForm* ParentForm() const;
+  TComponent* GetParentComponent() const override;
+  bool HasParent() const override { return FParent != nullptr; }
+  void SetParentComponent(TComponent* parent) override;
+  void BringToFront() { SetZOrder(true); }
+  void SendToBack() { SetZOrder(false); }
+
+  // Bounds.
+  int Left() const { return FLeft; }
+  int Top() const { return FTop; }
+  int Width() const { return FWidth; }
+  int Height() const { return FHeight; }
+  void SetLeft(int left) { SetBounds(left, FTop, FWidth, FHeight); }
+  void SetTop(int top) { SetBounds(FLeft, top, FWidth, FHeight); }
+  void SetWidth(int width) { SetBounds(FLeft, FTop, width, FHeight); }
+  void SetHeight(int height) { SetBounds(FLeft, FTop, FWidth, height); }
+  /// The four at once; a negative size is taken as 0.
+  virtual void SetBounds(int left, int top, int width, int height);
+  TRect BoundsRect() const { return {FLeft, FTop, FLeft + FWidth, FTop + FHeight}; }
+  /// The inner rectangle; its top left is (0, 0).
+  virtual TRect ClientRect() const { return {0, 0, FWidth, FHeight}; }
+  int ClientWidth() const { return ClientRect().Right; }
+  int ClientHeight() const { return ClientRect().Bottom; }
+  /// Changes the size so that the inner rectangle gets the given one.
+  void SetClientWidth(int width) { SetClientSize(width, ClientHeight()); }
+  void SetClientHeight(int height) { SetClientSize(ClientWidth(), height); }
+  /// The screen's position of the inner rectangle's top left. Raises EInvalidOperation for a
+  /// control without a parent.
+  virtual TPoint ClientOrigin() const;
+  TPoint ClientToScreen(TPoint point) const;
+  TPoint ScreenToClient(TPoint point) const;
+  TAlign Align() const { return FAlign; }
+  /// Keeps the control along an edge of its parent, or over all that the others leave.
+  void SetAlign(TAlign align);
+
+  // State.
+  bool Enabled() const { return FEnabled; }
+  void SetEnabled(bool enabled);
+  bool Visible() const { return FVisible; }
+  virtual void SetVisible(bool visible);
+  /// True when the control is shown where its parent is: it is visible, or is being designed.
+  bool Seen() const;
+  void Show();
+  void Hide() { SetVisible(false); }
+  TControlStyle ControlStyle() const { return FControlStyle; }
+  TControlState ControlState() const { return FControlState; }
+
+  // Look.
+  TFont* Font() const { return FFont.get(); }
+  void SetFont(const TFont* font);
+  bool ParentFont() const { return FParentFont; }
+  void SetParentFont(bool parentFont);
+  TColor Color() const { return FColor; }
+  /// A colour of the control's own; it no longer follows its parent's.
+  virtual void SetColor(TColor color);
+  bool ParentColor() const { return FParentColor; }
+  void SetParentColor(bool parentColor);
+  TCursor Cursor() const { return FCursor; }
+  void SetCursor(TCursor cursor);
+
+  // Text.
+  /// The control's text, which is its window's text where it has one.
+  std::string Text() const;
+  void SetText(const std::string& text);
+  std::string Caption() const { return Text(); }
+  void SetCaption(const std::string& caption) { SetText(caption); }
+  /// The text's length in bytes.
+  virtual int GetTextLen() const { return static_cast<int>(FText.size()); }
+  /// Copies at most `size` - 1 bytes of the text and a zero; returns the number of bytes copied.
+  virtual int GetTextBuf(char* buffer, int size) const;
+  virtual void SetTextBuf(const char* text);
+  void SetName(const std::string& name) override;
+
+  // Hints.
+  const std::string& Hint() const { return FHint; }
+  /// The text shown when the mouse rests on the control: the part before "|" in a window, the part
+  /// after it (or all) as the application's hint.
+  void SetHint(const std::string& hint) { FHint = hint; }
+  bool ShowHint() const { return FShowHint; }
+  void SetShowHint(bool showHint);
+  bool ParentShowHint() const { return FParentShowHint; }
+  void SetParentShowHint(bool parentShowHint);
+
+  // Painting.
+  /// Has the control painted again when the system next asks for it.
+  virtual void Invalidate();
+  /// Paints now what has been invalidated.
+  virtual void Update();
+  /// Paints the whole control now.
+  virtual void Repaint();
+  void Refresh() { Repaint(); }
+
+  // Messages.
+  /// Sends the control a message, without the system's queue, and returns the answer.
+  LRESULT Perform(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+  /// Where every message to the control arrives. The inherited method turns mouse messages into
+  /// clicks and drags and dispatches the rest.
+  virtual void WndProc(TMessage& message);
+  /// A device context for the control's client rectangle, from the window it lies in, and that
+  /// window.
+  virtual HDC GetDeviceContext(HWND& window);
+
+  // Drag and drop.
+  TDragMode DragMode() const { return FDragMode; }
+  void SetDragMode(TDragMode mode) { FDragMode = mode; }
+  TCursor DragCursor() const { return FDragCursor; }
+  void SetDragCursor(TCursor cursor) { FDragCursor = cursor; }
+  /// Begins to drag the control: at once, or when the mouse has moved by `threshold` pixels with
+  /// the button down (a negative one is the system's).
+  void BeginDrag(bool immediate, int threshold = -1);
+  /// Ends this control's drag with a drop, or cancels it.
+  void EndDrag(bool drop);
+  bool Dragging() const;
+  /// Asks the control whether `source` may be dropped at the position, in its own coordinates.
+  virtual void DragOver(TObject* source, int x, int y, TDragState state, bool& accept);
+  virtual void DragDrop(TObject* source, int x, int y);
+
+  // Popup menu.
+  TPopupMenu* PopupMenu() const { return FPopupMenu; }
+  void SetPopupMenu(TPopupMenu* menu);
+
+  TNotifyEvent OnClick, OnDblClick;
+  TMouseEvent OnMouseDown, OnMouseUp;
+  TMouseMoveEvent OnMouseMove;
+  TDragOverEvent OnDragOver;
+  TDragDropEvent OnDragDrop;
+  TStartDragEvent OnStartDrag;
+  TEndDragEvent OnEndDrag;
+
+ protected:
+  /// A click, by mouse or keyboard. The inherited method fires OnClick.
+  virtual void Click();
+  virtual void DblClick();
+  virtual void MouseDown(TMouseButton button, TShiftState shift, int x, int y);
+  virtual void MouseMove(TShiftState shift, int x, int y);
+  virtual void MouseUp(TMouseButton button, TShiftState shift, int x, int y);
+  /// A press of the left button on a control with dmAutomatic. The inherited method begins the drag
+  /// and leaves nothing of the press to the control.
+  virtual void BeginAutoDrag(TMessage& press);
+  virtual void DoStartDrag(TDragObject*& object);
+  virtual void DoEndDrag(TObject* target, int x, int y);
+
+  /// Handles a message that WndProc has not taken: the notices (CM_...) and the mouse.
+  virtual void Dispatch(TMessage& message);
+  /// What happens to a message that nobody handles.
+  virtual void DefaultHandler(TMessage& message);
+
+  virtual void SetZOrder(bool topmost);
+  virtual void SetClientSize(int width, int height);
+  /// Called after the bounds have changed.
+  virtual void Resize() {}
+  void RequestAlign();
+  void Notification(TComponent* component, TOperation operation) override;
+  void Loaded() override;
+  void ReadState(TReader& reader) override;
+
+  /// Whether the mouse is captured for this control.
+  bool MouseCapture() const;
+  void SetMouseCapture(bool capture);
+  /// The control that the mouse is captured for; null when it is none of ours.
+  static TControl* CaptureControl();
+  void SetControlStyle(TControlStyle style) { FControlStyle = style; }
+  void IncludeState(TControlStateValue state) { FControlState.Include(state); }
+  void ExcludeState(TControlStateValue state) { FControlState.Exclude(state); }
+  /// Stored conditions of the published table: a value that follows the parent's is not written.
+  bool IsFontStored() const { return !FParentFont; }
+  bool IsColorStored() const { return !FParentColor; }
+  bool IsShowHintStored() const { return !FParentShowHint; }
+
+ private:
+  friend class TWinControl;
+  friend class TControlCanvas;
+  friend class TDragSession;
+  void FontChanged(TObject* sender);
+  void ForgetCapture();
+  void Notify(UINT notice);
+  void MouseButtonDown(TMessage& message, TMouseButton button, TShiftState extra);
+  void MouseButtonUp(TMessage& message, TMouseButton button);
+  bool DispatchMouse(TMessage& message);
+  void DispatchNotice(TMessage& message);
+  void FollowParent();
+  void InvalidateArea(bool visible, bool opaque);
+  void PopupMenuAt(TMessage& message);
+
+  TWinControl* FParent = nullptr;
+  int FLeft = 0;
+  int FTop = 0;
+  int FWidth = 0;
+  int FHeight = 0;
+  TAlign FAlign = alNone;
+  bool FEnabled = true;
+  bool FVisible = true;
+  bool FParentFont = true;
+  bool FParentColor = true;
+  bool FShowHint = false;
+  bool FParentShowHint = true;
+  TControlStyle FControlStyle{csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks};
+  TControlState FControlState;
+  std::unique_ptr<TFont> FFont;
+  TColor FColor = clWindow;
+  TCursor FCursor = crDefault;
+  TDragMode FDragMode = dmManual;
+  TCursor FDragCursor = crDrag;
+  TPopupMenu* FPopupMenu = nullptr;
+  std::string FText;
+  std::string FHint;
+};
+
+/// A control without a window of its own: its parent's window paints it and passes it the mouse.
+class VCL_API TGraphicControl : public TControl {
+ public:
+  explicit TGraphicControl(TComponent* owner);
+  ~TGraphicControl() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+ protected:
+  /// Paints the control with `Canvas`, whose (0, 0) is the control's top left.
+  virtual void Paint() {}
+  TCanvas* Canvas() const;
+  void Dispatch(TMessage& message) override;
+
+ private:
+  std::unique_ptr<TControlCanvas> FCanvas;
+};
+
+}  // namespace vcl

@@ -1,0 +1,31 @@
+#include "vcl/controls/controlcanvas.h"
+
+#include <utility>
+
+#include "vcl/controls/control.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/properties.h"
+
+namespace vcl {
+
+TControlCanvas::~TControlCanvas() { FreeHandle(); }
+
+const TClass& TControlCanvas::Class() {
+  static const TClass info = Describe<TControlCanvas, TCanvas>("TControlCanvas", "controls", {});
+  return info;
+}
+
+void TControlCanvas::SetControl(TControl* control) {
+  if (control == FControl) return;
+  FreeHandle();
+  FControl = control;
+}
+
+HDC TControlCanvas::AcquireContext() {
+  if (!FControl) throw EInvalidOperation("The canvas has no control to draw on");
+  return FControl->GetDeviceContext(FWindow);
+}
+
+void TControlCanvas::ReleaseContext(HDC dc) { ::ReleaseDC(std::exchange(FWindow, nullptr), dc); }
+
+}  // namespace vcl

@@ -1,0 +1,248 @@
+// TWinControl: what a window does with the system's messages and the library's notices.
+#include <algorithm>
+
+#include "vcl/controls/wincontrol.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/forms.h"
+#include "vcl/forms/screen.h"
+#include "vcl/graphics/brush.h"
+#include "vcl/rtl/exceptions.h"
+
+namespace vcl {
+namespace {
+
+/// The control that a notification to a parent is about.
+TWinControl* ControlOf(LPARAM window) {
+  return TWinControl::FromHandle(reinterpret_cast<HWND>(window));
+}
+
+bool HasClientPosition(UINT message) {
+  return message >= WM_MOUSEFIRST && message <= WM_MOUSELAST && message != WM_MOUSEWHEEL &&
+         message != WM_MOUSEHWHEEL;
+}
+
+/// The notification's number as the control gets it back (CN_...) and the control; null when it is
+/// no notification, or comes from no control of ours.
+struct TReflection {
+  UINT Message = 0;
+  TWinControl* Control = nullptr;
+};
+
+TReflection Reflect(const TMessage& message) {
+  switch (message.Msg) {
+    case WM_COMMAND:
+    case WM_HSCROLL:
+    case WM_VSCROLL: return {CN_BASE + message.Msg, ControlOf(message.LParam)};
+    case WM_NOTIFY:
+      return {CN_NOTIFY,
+              TWinControl::FromHandle(reinterpret_cast<const NMHDR*>(message.LParam)->hwndFrom)};
+    case WM_DRAWITEM:
+      return {CN_DRAWITEM, TWinControl::FromHandle(
+                               reinterpret_cast<const DRAWITEMSTRUCT*>(message.LParam)->hwndItem)};
+    case WM_CTLCOLORMSGBOX:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLORDLG:
+    case WM_CTLCOLORSCROLLBAR:
+    case WM_CTLCOLORSTATIC: return {CN_CTLCOLOR, ControlOf(message.LParam)};
+    default: return {};
+  }
+}
+
+}  // namespace
+
+void TWinControl::WndProc(TMessage& message) {
+  if (HasClientPosition(message.Msg) && IsControlMouseMessage(message)) return;
+  TControl::WndProc(message);
+}
+
+void TWinControl::Dispatch(TMessage& message) {
+  if (message.Msg >= CM_BASE && message.Msg < CN_BASE) {
+    TWatch watch(this);
+    TControl::Dispatch(message);
+    if (!watch.Gone()) DispatchNotice(message);
+    return;
+  }
+  const TReflection reflection = Reflect(message);
+  if (reflection.Control) {
+    message.Result =
+        reflection.Control->Perform(reflection.Message, message.WParam, message.LParam);
+    return;
+  }
+  DispatchWindow(message);
+}
+
+void TWinControl::DefaultHandler(TMessage& message) {
+  if (!FHandle || message.Msg >= CM_BASE) return;
+  message.Result =
+      ::CallWindowProcW(FDefWndProc, FHandle, message.Msg, message.WParam, message.LParam);
+}
+
+void TWinControl::DispatchWindow(TMessage& message) {
+  switch (message.Msg) {
+    case WM_PAINT: return WMPaint(message);
+    case WM_ERASEBKGND: return WMEraseBkgnd(message);
+    case WM_WINDOWPOSCHANGED: return WMWindowPosChanged(message);
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS: return WMFocus(message);
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+    case WM_CHAR: return DispatchKey(message);
+    case WM_SETCURSOR: return WMSetCursor(message);
+    case WM_CONTEXTMENU: return WMContextMenu(message);
+    case WM_CANCELMODE: return WMCancelMode(message);
+    case CN_CTLCOLOR: return CNCtlColor(message);
+    default: return TControl::Dispatch(message);
+  }
+}
+
+void TWinControl::DispatchNotice(TMessage& message) {
+  switch (message.Msg) {
+    case CM_VISIBLECHANGED:
+      if (!Visible()) GiveUpFocus();
+      return UpdateControlState();
+    case CM_SHOWINGCHANGED:
+      ::SetWindowPos(FHandle, nullptr, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE |
+                         (FShowing ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
+      return;
+    case CM_ENABLEDCHANGED:
+      if (!FEnabled) GiveUpFocus();
+      if (FHandle && !Designing()) ::EnableWindow(FHandle, FEnabled);
+      return;
+    case CM_FONTCHANGED:
+      if (FHandle) {
+        ::SendMessageW(FHandle, WM_SETFONT, reinterpret_cast<WPARAM>(Font()->Handle()), TRUE);
+      }
+      return Broadcast(CM_PARENTFONTCHANGED);
+    case CM_COLORCHANGED: FBrush->SetColor(Color()); return Broadcast(CM_PARENTCOLORCHANGED);
+    case CM_SHOWHINTCHANGED: return Broadcast(CM_PARENTSHOWHINTCHANGED);
+    case CM_PARENTCTL3DCHANGED:
+      if (!FParentCtl3D || !Parent()) return;
+      SetCtl3D(Parent()->FCtl3D);
+      FParentCtl3D = true;
+      return;
+    case CM_CTL3DCHANGED:
+      if (FSingleBorder) RecreateWnd();
+      return Broadcast(CM_PARENTCTL3DCHANGED);
+    case CM_CURSORCHANGED: {
+      POINT at;
+      ::GetCursorPos(&at);
+      if (FHandle && ::WindowFromPoint(at) == FHandle) {
+        ::SendMessageW(FHandle, WM_SETCURSOR, reinterpret_cast<WPARAM>(FHandle), HTCLIENT);
+      }
+      return;
+    }
+    case CM_ENTER: return DoEnter();
+    case CM_EXIT: return DoExit();
+    case CM_SYSCOLORCHANGE:
+    case CM_DIALOGKEY:
+    case CM_DIALOGCHAR:
+    case CM_FOCUSCHANGED: return PassToChildren(message);
+    default: return;
+  }
+}
+
+void TWinControl::GiveUpFocus() {
+  TCustomForm* form = ParentForm();
+  if (form && form != this) form->DefocusControl(this);
+}
+
+void TWinControl::PassToChildren(TMessage& message) {
+  TWatch watch(this);
+  for (std::size_t i = 0; i < FControls.size(); ++i) {
+    if (message.Result != 0) return;
+    FControls[i]->WndProc(message);
+    if (watch.Gone()) return;
+  }
+}
+
+void TWinControl::Broadcast(UINT notice) {
+  for (std::size_t i = 0; i < FControls.size(); ++i) FControls[i]->Perform(notice);
+}
+
+bool TWinControl::IsControlMouseMessage(TMessage& message) {
+  TControl* control = nullptr;
+  if (FHandle && ::GetCapture() == FHandle) {
+    control = CaptureControl();
+    if (control == this) return false;
+  } else {
+    control = ControlAtPos({message.XPos(), message.YPos()}, false);
+    if (dynamic_cast<TWinControl*>(control)) return false;
+  }
+  if (!control) return false;
+  TWatch watch(this);
+  const LPARAM position =
+      MAKELPARAM(message.XPos() - control->Left(), message.YPos() - control->Top());
+  message.Result = control->Perform(message.Msg, message.WParam, position);
+  // The system still does its part, such as asking for the context menu.
+  if (!watch.Gone() && message.Result == 0 && FHandle) {
+    message.Result = ::DefWindowProcW(FHandle, message.Msg, message.WParam, message.LParam);
+  }
+  return true;
+}
+
+void TWinControl::WMWindowPosChanged(TMessage& message) {
+  const int width = Width();
+  const int height = Height();
+  UpdateBounds();
+  TWatch watch(this);
+  DefaultHandler(message);
+  if (watch.Gone() || ControlState().Has(csDestroyingHandle)) return;
+  const auto* place = reinterpret_cast<const WINDOWPOS*>(message.LParam);
+  if (!(place->flags & SWP_NOMOVE) || !(place->flags & SWP_NOSIZE)) RequestAlign();
+  if (watch.Gone() || (place->flags & SWP_NOSIZE)) return;
+  Realign();
+  if (watch.Gone()) return;
+  const bool resized = width != Width() || height != Height();
+  if (resized && !Loading()) Resize();
+}
+
+void TWinControl::WMSetCursor(TMessage& message) {
+  if (reinterpret_cast<HWND>(message.WParam) != FHandle || LOWORD(message.LParam) != HTCLIENT) {
+    return DefaultHandler(message);
+  }
+  POINT at;
+  ::GetCursorPos(&at);
+  ::ScreenToClient(FHandle, &at);
+  const TControl* control = ControlAtPos({static_cast<int>(at.x), static_cast<int>(at.y)}, false);
+  if (!control) control = this;
+  TCursor cursor = Screen()->Cursor();
+  for (; cursor == crDefault && control; control = control->Parent()) cursor = control->Cursor();
+  if (cursor == crDefault) return DefaultHandler(message);
+  ::SetCursor(Screen()->Cursors(cursor));
+  message.Result = 1;
+}
+
+void TWinControl::WMContextMenu(TMessage& message) {
+  if (message.LParam != -1) {
+    const TPoint inside = ScreenToClient({message.XPos(), message.YPos()});
+    TControl* control = ControlAtPos(inside, false);
+    if (control && !dynamic_cast<TWinControl*>(control)) {
+      TWatch watch(this);
+      message.Result = control->Perform(message.Msg, message.WParam, message.LParam);
+      if (watch.Gone() || message.Result != 0) return;
+    }
+  }
+  TControl::Dispatch(message);
+}
+
+void TWinControl::WMCancelMode(TMessage& message) {
+  // The capture may be for a control without a window, which has to end what it does with it.
+  TControl* captured = ::GetCapture() == FHandle ? CaptureControl() : nullptr;
+  TWatch watch(this);
+  if (captured && captured != this) captured->Perform(WM_CANCELMODE);
+  if (!watch.Gone()) TControl::Dispatch(message);
+}
+
+void TWinControl::CNCtlColor(TMessage& message) {
+  const HDC dc = reinterpret_cast<HDC>(message.WParam);
+  ::SetTextColor(dc, ColorToRGB(Font()->Color()));
+  ::SetBkColor(dc, ColorToRGB(FBrush->Color()));
+  message.Result = reinterpret_cast<LRESULT>(FBrush->Handle());
+}
+
+}  // namespace vcl

@@ -1,0 +1,182 @@
+// TDataSet: records of which one is the current one, read and changed through fields.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "vcl/db/field.h"
+#include "vcl/db/fielddefs.h"
+#include "vcl/db/recordstore.h"
+#include "vcl/rtl/component.h"
+
+namespace vcl {
+
+class TDataLink;
+class TDataSource;
+
+/// Base of the data sets.
+///
+/// An operation that the state does not allow raises EDatabaseError; what the database refuses does
+/// too, after OnEditError, OnPostError or OnDeleteError could answer, and then the data set is in
+/// the state it was in before. A handler that frees the data set ends the operation it was called
+/// from with EAbort.
+class VCL_API TDataSet : public TComponent {
+ public:
+  explicit TDataSet(TComponent* owner);
+  /// A class that descends from this one closes in its own destructor, where its records still are.
+  ~TDataSet() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  bool Active() const { return FState != dsInactive; }
+  /// Opens or closes; while a form file is being read, once that is complete.
+  void SetActive(bool active);
+  void Open() { SetActive(true); }
+  /// Gives up what is being edited.
+  void Close() { SetActive(false); }
+  TDataSetState State() const { return FState; }
+
+  const TFields& Fields() const { return FFields; }
+  int FieldCount() const { return FFields.Count(); }
+  /// The field of that name, compared without case; null when there is none.
+  TField* FindField(std::string_view name) const { return FFields.FindField(name); }
+  /// The same; raises EDatabaseError with the name.
+  TField* FieldByName(std::string_view name) const;
+  TFieldValue FieldValues(std::string_view name) const { return FieldByName(name)->Value(); }
+  void SetFieldValues(std::string_view name, const TFieldValue& value);
+  TFieldDefs* FieldDefs() const { return FFieldDefs.get(); }
+  void SetFieldDefs(const TFieldDefs* definitions) { FFieldDefs->Assign(definitions); }
+
+  /// These post what has been changed before they move.
+  void First();
+  void Last();
+  void Next() { MoveBy(1); }
+  void Prior() { MoveBy(-1); }
+  /// Returns by how many records it has moved: fewer when there are no more.
+  int MoveBy(int distance);
+  /// True once it has been tried to move before the first record or behind the last, after First
+  /// resp. Last, and while there are no records.
+  bool Bof() const { return FBof; }
+  bool Eof() const { return FEof; }
+  bool IsEmpty() const;
+  /// -1 when they cannot be counted.
+  int RecordCount() const;
+  /// The current record's number, from 1; 0 without one.
+  int RecNo() const;
+  void SetRecNo(int number);
+  /// True when it can only move forward; First begins anew.
+  virtual bool IsUniDirectional() const { return false; }
+
+  /// Names the current record, until the data set is closed. Raises EDatabaseError while there is
+  /// none, and for a unidirectional data set.
+  TBookmark Bookmark() const;
+  /// Raises EDatabaseError when the record has gone.
+  void GotoBookmark(TBookmark bookmark);
+  bool BookmarkValid(TBookmark bookmark) const;
+
+  /// In an empty data set the same as Insert.
+  void Edit();
+  /// A new record before the current one resp. behind the last. A unidirectional data set inserts
+  /// for both where it stands.
+  void Insert();
+  void Append();
+  /// One with these values, in the order of the fields; posted.
+  void InsertRecord(const TRecord& values);
+  void AppendRecord(const TRecord& values);
+  void Post();
+  void Cancel();
+  void Delete();
+  /// Makes all fields Null.
+  void ClearFields();
+  /// Reads the records again.
+  void Refresh();
+  bool Modified() const { return FModified; }
+  virtual bool CanModify() const { return true; }
+  /// Posts what has been changed, or cancels where nothing has.
+  void CheckBrowseMode();
+  /// Lets the controls write what is being typed into the fields.
+  void UpdateRecord();
+
+  /// Between the two, which nest, controls do not follow.
+  void DisableControls();
+  void EnableControls();
+  bool ControlsDisabled() const { return FDisableCount > 0; }
+
+  TDataSetNotifyEvent BeforeOpen, AfterOpen, BeforeClose, AfterClose;
+  TDataSetNotifyEvent BeforeInsert, AfterInsert, BeforeEdit, AfterEdit;
+  TDataSetNotifyEvent BeforePost, AfterPost, BeforeCancel, AfterCancel;
+  TDataSetNotifyEvent BeforeDelete, AfterDelete, BeforeScroll, AfterScroll;
+  TDataSetNotifyEvent BeforeRefresh, AfterRefresh, OnNewRecord;
+  TDataSetErrorEvent OnDeleteError, OnEditError, OnPostError;
+
+  void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
+
+ protected:
+  /// Opens the data and defines FieldDefs. The records stay valid until InternalClose.
+  virtual TRecordStore& InternalOpen() = 0;
+  virtual void InternalClose() = 0;
+  /// Go back to the first record where moving back is not possible, resp. read anew.
+  virtual void InternalFirst() {}
+  virtual void InternalRefresh() {}
+  /// Change the database before the records here follow. What they write into the new record is
+  /// kept. Raise EDatabaseError.
+  virtual void InternalInsert(TRecord& /*record*/) {}
+  virtual void InternalUpdate(const TRecord& /*before*/, TRecord& /*record*/) {}
+  virtual void InternalDelete(const TRecord& /*record*/) {}
+  void CheckInactive() const;
+  /// Closes without a word, for destructors.
+  void Shut() noexcept;
+  void Loaded() override;
+  /// EDatabaseError with the data set's name in front.
+  [[noreturn]] void Refuse(std::string_view message) const;
+
+ private:
+  friend class TField;
+  friend class TDataLink;
+  friend class TDataSource;
+
+  void DoOpen();
+  void DoClose();
+  void MakeFields();
+  void FreeMadeFields();
+  void CheckActive() const;
+  void CheckCanModify() const;
+  void DataEvent(TDataEvent event, TField* field = nullptr, int distance = 0);
+  void Fire(const TDataSetNotifyEvent& event);
+  bool Editing() const { return FState == dsEdit || FState == dsInsert; }
+  bool GoTo(int index);
+  int Walk(int distance);
+  void Jump(const std::function<void()>& move);
+  const TRecord* ViewAt(int index) const;
+  /// The record that the fields show: the current one, save while a grid looks at others.
+  const TRecord* Shown() const { return Active() ? ViewAt(FShown) : nullptr; }
+  /// Shows a record to the fields; false when there is none.
+  bool Show(int index);
+  void ShowCurrent() { FShown = FIndex; }
+  void BeginInsert(bool atEnd);
+  void SetRecord(const TRecord& values);
+  void Resync();
+  void Attempt(const TDataSetErrorEvent& onError, const std::function<void()>& operation);
+  void Write(TField& field, const TFieldValue& value);
+
+  TFields FFields;
+  std::unique_ptr<TFieldDefs> FFieldDefs;
+  std::vector<TDataSource*> FSources;
+  TRecordStore* FStore = nullptr;
+  TDataSetState FState = dsInactive;
+  TDataSetState FStateBefore = dsInactive;
+  int FIndex = 0;
+  int FShown = 0;
+  TRecord FEdited, FBefore;
+  bool FBof = true;
+  bool FEof = true;
+  bool FModified = false;
+  bool FOpenWhenLoaded = false;
+  bool FFieldsMade = false;
+  int FDisableCount = 0;
+};
+
+}  // namespace vcl

@@ -1,0 +1,111 @@
+// TOdbcQuery: the records that an SQL query of any database with an ODBC driver results in.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "vcl/db/dataset.h"
+#include "vcl/db/params.h"
+#include "vcl/rtl/strings.h"
+
+namespace vcl {
+
+namespace odbc {
+class TConnection;
+class TForwardRows;
+class TLiveTable;
+class TStatement;
+struct TArgument;
+}  // namespace odbc
+
+/// Executes an SQL text over ODBC and, where it is a query, moves through its records.
+///
+/// Records are read as they are asked for. All that were read stay in memory, so that one can move
+/// back; a unidirectional query keeps only the current one and, once it has turned out to be long,
+/// some hundreds that a thread reads ahead, so that millions of records need no more memory than a
+/// thousand. (A driver may collect them on its own; SQLite's does not with "StepAPI=1" in the
+/// connection string.)
+///
+/// A query that has not been read to its end may keep others from writing, as it does with SQLite;
+/// RecordCount reads all of one that is not unidirectional.
+///
+/// The connection is made when it is needed first and stays until Connected or ConnectionString
+/// says otherwise. What ODBC refuses raises EDatabaseError with the driver's message.
+class VCL_API TOdbcQuery : public TDataSet {
+ public:
+  explicit TOdbcQuery(TComponent* owner);
+  ~TOdbcQuery() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  /// As the driver manager takes it: "Driver=...;Database=..." or "DSN=...". A change disconnects.
+  const std::string& ConnectionString() const { return FConnectionString; }
+  void SetConnectionString(const std::string& text);
+  bool Connected() const { return FConnection != nullptr; }
+  /// Raises EDatabaseError while the query is open.
+  void SetConnected(bool connected);
+  /// A change closes the query.
+  TStrings* SQL() const { return FSQL.get(); }
+  void SetSQL(const TStrings* sql) { FSQL->Assign(sql); }
+  /// One for each ":name" in the SQL.
+  TParams* Params() const { return FParams.get(); }
+  void SetParams(const TParams* params) { FParams->Assign(params); }
+  TParam* ParamByName(std::string_view name) const { return FParams->ParamByName(name); }
+  /// Records can be changed where the query's columns are of one table: posted records are written
+  /// into it at once. To change or delete one, its table's primary key must be among the columns.
+  /// What the database fills in on its own is seen after Refresh. A query that is not
+  /// unidirectional is read to its end before anything is changed.
+  bool RequestLive() const { return FRequestLive; }
+  void SetRequestLive(bool requestLive);
+  /// Moves forward only. RecordCount is -1, and inserted records are not seen again once they have
+  /// been left, unless the database itself shows them to a query that is running.
+  bool UniDirectional() const { return FUniDirectional; }
+  void SetUniDirectional(bool uniDirectional);
+  bool IsUniDirectional() const override { return FUniDirectional; }
+  bool CanModify() const override;
+  /// A query for the key that the database has given the record inserted last, such as
+  /// "SELECT last_insert_rowid()". Without one, such a record cannot be changed before Refresh.
+  const std::string& IdentityQuery() const { return FIdentityQuery; }
+  void SetIdentityQuery(const std::string& sql) { FIdentityQuery = sql; }
+
+  /// Executes what is no query, and returns how many records it has changed.
+  int ExecSQL();
+  /// Until the transaction ends, what is posted here can be rolled back. These read all records of
+  /// a query that is open; they raise EDatabaseError for a unidirectional one that has not been
+  /// read to its end.
+  void StartTransaction();
+  void Commit();
+  void Rollback();
+  bool InTransaction() const;
+
+ protected:
+  TRecordStore& InternalOpen() override;
+  void InternalClose() override;
+  void InternalFirst() override;
+  void InternalRefresh() override;
+  void InternalInsert(TRecord& record) override;
+  void InternalUpdate(const TRecord& before, TRecord& record) override;
+  void InternalDelete(const TRecord& record) override;
+
+ private:
+  void SQLChanged();
+  void Prepare();
+  void Pause();
+  void ReadToEnd();
+  void PrepareChange();
+  void Execute();
+  void DefineFields();
+  std::string FreeName(const std::string& name) const;
+
+  std::string FConnectionString, FIdentityQuery, FPrepared;
+  std::unique_ptr<TStringList> FSQL;
+  std::unique_ptr<TParams> FParams;
+  bool FRequestLive = false;
+  bool FUniDirectional = false;
+  std::unique_ptr<odbc::TConnection> FConnection;
+  std::unique_ptr<odbc::TStatement> FStatement;
+  std::unique_ptr<odbc::TLiveTable> FLive;
+  std::unique_ptr<TRecordStore> FRows;
+};
+
+}  // namespace vcl

@@ -1,0 +1,92 @@
+// A connection to a database over ODBC, and statements on it.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "vcl/db/fielddefs.h"
+#include "vcl/db/private/odbcapi.h"
+
+namespace vcl::odbc {
+
+/// A value for a parameter and the kind of data that it is.
+struct TArgument {
+  TFieldValue Value;
+  TFieldType DataType;
+};
+
+class TConnection {
+ public:
+  /// Raises EDatabaseError.
+  explicit TConnection(const std::string& connectionString);
+  ~TConnection();
+
+  SQLHANDLE Handle() const { return FConnection; }
+  /// The name as SQL takes it whatever is in it.
+  std::string Quoted(const std::string& name) const;
+  bool InTransaction() const { return FInTransaction; }
+  void StartTransaction();
+  void EndTransaction(bool commit);
+
+ private:
+  std::string AskQuote() const;
+  void SetAutoCommit(bool on);
+
+  THandle<SQL_HANDLE_ENV> FEnvironment;
+  THandle<SQL_HANDLE_DBC> FConnection;
+  std::string FQuote;
+  bool FInTransaction = false;
+};
+
+/// A column of a result; Table and Base say where it comes from, if from a table, and what it is
+/// called there.
+struct TColumn {
+  std::string Name, Table, Base;
+  TFieldType DataType = ftUnknown;
+  int Size = 0;
+};
+
+class TStatement {
+ public:
+  TStatement(const TConnection& connection, const std::string& sql);
+
+  const std::string& Sql() const { return FSql; }
+  /// Raises EDatabaseError.
+  void Execute(const std::vector<TArgument>& arguments);
+  /// What the executed statement results in; nothing when it is no query.
+  const std::vector<TColumn>& Columns() const { return FColumns; }
+  /// Reads the next record; false behind the last one, and then `record` stays.
+  bool Fetch(TRecord& record);
+  /// How many records the executed statement has changed.
+  int RowsAffected() const;
+  /// Forgets the result.
+  void Close();
+
+ private:
+  struct TBuffer {
+    SQLSMALLINT Type;
+    std::vector<char> Bytes;
+    SQLLEN Length;
+  };
+  struct TBound;
+  void Prepare();
+  void Bind(SQLUSMALLINT number, const TArgument& argument, TBound& bound);
+  void Describe();
+  TColumn DescribeColumn(SQLUSMALLINT number);
+  std::string Attribute(SQLUSMALLINT number, SQLUSMALLINT attribute) const;
+  void BindColumns();
+  void Read(std::size_t column, TFieldValue& value);
+  std::string ReadLong(std::size_t column);
+
+  const TConnection& FConnection;
+  std::string FSql;
+  std::optional<THandle<SQL_HANDLE_STMT>> FStatement;
+  std::vector<TColumn> FColumns;
+  std::vector<TBuffer> FBuffers;
+};
+
+/// The names of the columns that tell a table's records apart.
+std::vector<std::string> PrimaryKey(const TConnection& connection, const std::string& table);
+
+}  // namespace vcl::odbc

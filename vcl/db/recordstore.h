@@ -1,0 +1,58 @@
+// Where a data set's records are while it is open.
+#pragma once
+
+#include <optional>
+
+#include "vcl/db/dbtypes.h"
+
+namespace vcl {
+
+/// Names a record for as long as its data set keeps it; see TDataSet::Bookmark.
+using TBookmark = std::int64_t;
+
+/// Records by index, from 0.
+class VCL_API TRecordStore {
+ public:
+  virtual ~TRecordStore() = default;
+  /// Null behind the last record. The pointer is valid until the next call.
+  virtual const TRecord* At(int index) = 0;
+  virtual int Count() = 0;
+  virtual void Insert(int index, const TRecord& record) = 0;
+  virtual void Replace(int index, const TRecord& record) = 0;
+  virtual void Erase(int index) = 0;
+  virtual TBookmark BookmarkOf(int index) = 0;
+  /// The index of the record; -1 when it has gone.
+  virtual int IndexOf(TBookmark bookmark) = 0;
+};
+
+/// Keeps records in memory. Inserting and erasing cost little where the last of either was.
+class VCL_API TRecordList : public TRecordStore {
+ public:
+  const TRecord* At(int index) override;
+  int Count() override { return Size(); }
+  void Insert(int index, const TRecord& record) override;
+  void Replace(int index, const TRecord& record) override;
+  void Erase(int index) override;
+  TBookmark BookmarkOf(int index) override;
+  int IndexOf(TBookmark bookmark) override;
+  void Clear();
+
+ protected:
+  /// How many are in memory.
+  int Size() const { return static_cast<int>(FBefore.size() + FBehind.size()); }
+
+ private:
+  struct TEntry {
+    TBookmark Bookmark;
+    TRecord Record;
+  };
+  TEntry* Entry(int index);
+  void MoveGap(std::size_t index);
+
+  // The gap between the two, of which the second is in reverse order, moves to where the list
+  // changes.
+  std::vector<TEntry> FBefore, FBehind;
+  TBookmark FLastBookmark = 0;
+};
+
+}  // namespace vcl

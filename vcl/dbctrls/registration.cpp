@@ -1,0 +1,15 @@
+#include "vcl/dbctrls/registration.h"
+
+#include "vcl/db/registration.h"
+#include "vcl/dbctrls/dbedit.h"
+#include "vcl/dbctrls/dbgrid.h"
+#include "vcl/rtl/classregistry.h"
+
+namespace vcl {
+
+void RegisterDataControls() {
+  RegisterDataClasses();
+  RegisterClasses({&TDBEdit::Class(), &TDBGrid::Class()});
+}
+
+}  // namespace vcl

@@ -1,0 +1,7 @@
+#include "vcl/designintf/designer.h"
+
+namespace vcl {
+
+TDesigner::~TDesigner() = default;
+
+}  // namespace vcl

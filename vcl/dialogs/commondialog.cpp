@@ -1,0 +1,94 @@
+#include "vcl/dialogs/commondialog.h"
+
+#include <utility>
+
+#include "vcl/forms/application.h"
+#include "vcl/forms/private/taskwindows.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
+
+namespace vcl {
+
+namespace {
+
+constexpr const wchar_t* DialogProp = L"TCommonDialog";
+
+/// The dialog that is being made; it takes the first window that the hook hears of.
+thread_local TCommonDialog* Starting = nullptr;
+
+TCommonDialog* DialogOf(HWND window) {
+  if (Starting) ::SetPropW(window, DialogProp, std::exchange(Starting, nullptr));
+  return static_cast<TCommonDialog*>(::GetPropW(window, DialogProp));
+}
+
+}  // namespace
+
+const TClass& TCommonDialog::Class() {
+  static const TClass info =
+      Describe<TCommonDialog, TComponent>("TCommonDialog", "dialogs",
+                                          {
+                                              Event<&TCommonDialog::OnClose>("OnClose"),
+                                              Event<&TCommonDialog::OnShow>("OnShow"),
+                                          });
+  return info;
+}
+
+TCommonDialog::TCommonDialog(TComponent* owner) : TComponent(owner) {}
+
+TCommonDialog::~TCommonDialog() {
+  AnnounceEnd();
+  if (Starting == this) Starting = nullptr;
+  if (!FHandle) return;
+  ::RemovePropW(FHandle, DialogProp);
+  // The file dialog's hook has a window of its own inside the dialog.
+  const bool inside = (::GetWindowLongPtrW(FHandle, GWL_STYLE) & WS_CHILD) != 0;
+  ::PostMessageW(inside ? ::GetParent(FHandle) : FHandle, WM_COMMAND, IDCANCEL, 0);
+}
+
+bool TCommonDialog::Run(const std::function<BOOL(HWND)>& show) {
+  if (FRunning) throw EInvalidOperation(Concat("The dialog ", Name(), " is up already"));
+  const TWatch watch(this);
+  FRunning = true;
+  BOOL agreed = FALSE;
+  {
+    const TSystemModal modal;
+    Starting = NeedsHook() ? this : nullptr;
+    agreed = show(modal.Owner());
+    Starting = nullptr;
+  }
+  if (watch.Gone()) return false;
+  FRunning = false;
+  FHandle = nullptr;
+  if (const DWORD error = agreed ? 0 : ::CommDlgExtendedError()) {
+    throw EOutOfResources(
+        Concat("The system cannot show the ", ClassName(), ": error ", std::to_string(error)));
+  }
+  return agreed;
+}
+
+UINT_PTR TCommonDialog::HandleMessage(HWND window, UINT message, LPARAM) {
+  if (message == WM_INITDIALOG) {
+    FHandle = window;
+    OnShow(this);
+  } else if (message == WM_DESTROY) {
+    FHandle = nullptr;
+    OnClose(this);
+  }
+  return 0;
+}
+
+UINT_PTR CALLBACK TCommonDialog::Hook(HWND window, UINT message, WPARAM, LPARAM lParam) {
+  TCommonDialog* const dialog = DialogOf(window);
+  if (!dialog) return 0;
+  if (message == WM_DESTROY) ::RemovePropW(window, DialogProp);
+  const TWatch watch(dialog);
+  try {
+    return dialog->HandleMessage(window, message, lParam);
+  } catch (...) {
+    Application()->HandleCurrentException(watch.Gone() ? nullptr : dialog);
+    return 0;
+  }
+}
+
+}  // namespace vcl

@@ -1,0 +1,8 @@
+// The system's dialogs for files, colours and fonts, messages and questions.
+#pragma once
+
+#include "vcl/dialogs/colordialog.h"
+#include "vcl/dialogs/filedialogs.h"
+#include "vcl/dialogs/fontdialog.h"
+#include "vcl/dialogs/messagedialog.h"
+#include "vcl/forms/application.h"

@@ -1,0 +1,244 @@
+#include "vcl/forms/forms.h"
+
+#include "vcl/controls/controlcanvas.h"
+#include "vcl/controls/propertygroups.h"
+#include "vcl/forms/application.h"
+#include "vcl/forms/screen.h"
+#include "vcl/forms/standardclasses.h"
+#include "vcl/menus/menus.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/formfile.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/resources.h"
+#include "vcl/rtl/text.h"
+
+namespace vcl {
+
+const TClass& TCustomForm::Class() {
+  static const TClass info = Describe<TCustomForm, TWinControl>("TCustomForm", "forms", {});
+  return info;
+}
+
+const TClass& TForm::Class() {
+  static const TClass info = Describe<TForm, TCustomForm>(
+      "TForm", "forms",
+      {
+          // The client size says it all.
+          Inherit("Width").Stored(false),
+          Inherit("Height").Stored(false),
+          Property<&TForm::ActiveControl, &TForm::SetActiveControl>("ActiveControl"),
+          Property<&TForm::BorderIcons, &TForm::SetBorderIcons>("BorderIcons")
+              .Default(TBorderIcons{biSystemMenu, biMinimize, biMaximize}),
+          Property<&TForm::BorderStyle, &TForm::SetBorderStyle>("BorderStyle").Default(bsSizeable),
+          Inherit("Caption"),
+          Property<&TForm::ClientHeight, &TForm::SetFileClientHeight>("ClientHeight"),
+          Property<&TForm::ClientWidth, &TForm::SetFileClientWidth>("ClientWidth"),
+          Inherit("Color").Default(clBtnFace),
+          Inherit("Ctl3D"),
+          Inherit("DoubleBuffered"),
+          Inherit("Enabled"),
+          Inherit("Font"),
+          Property<&TForm::FormStyle, &TForm::SetFormStyle>("FormStyle").Default(fsNormal),
+          Property<&TForm::Icon, &TForm::SetIcon>("Icon"),
+          Property<&TForm::KeyPreview, &TForm::SetKeyPreview>("KeyPreview").Default(false),
+          Property<&TForm::Menu, &TForm::SetMenu>("Menu"),
+          Inherit("PopupMenu"),
+          Property<&TForm::Position, &TForm::SetPosition>("Position").Default(poDesigned),
+          Inherit("ShowHint"),
+          Property<&TForm::FileVisible, &TForm::SetVisible>("Visible").Default(false),
+          Property<&TForm::WindowState, &TForm::SetWindowState>("WindowState").Default(wsNormal),
+          Event<&TForm::OnActivate>("OnActivate"),
+          Inherit("OnClick"),
+          Event<&TForm::OnClose>("OnClose"),
+          Event<&TForm::OnCloseQuery>("OnCloseQuery"),
+          Event<&TForm::OnCreate>("OnCreate"),
+          Inherit("OnDblClick"),
+          Event<&TForm::OnDeactivate>("OnDeactivate"),
+          Event<&TForm::OnDestroy>("OnDestroy"),
+          Inherit("OnDragDrop"),
+          Inherit("OnDragOver"),
+          Event<&TForm::OnHide>("OnHide"),
+          Inherit(KeyEvents),
+          Inherit(MouseEvents),
+          Event<&TForm::OnPaint>("OnPaint"),
+          Inherit("OnResize"),
+          Event<&TForm::OnShow>("OnShow"),
+      });
+  return info;
+}
+
+// Making, reading and ending.
+
+TCustomForm::TCustomForm(TComponent* owner)
+    : TWinControl(owner),
+      FIcon(std::make_unique<TIcon>()),
+      FCanvas(std::make_unique<TControlCanvas>()) {
+  constexpr int width = 320;
+  constexpr int height = 240;
+  SetControlStyle({csAcceptsControls, csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks});
+  FCanvas->SetControl(this);
+  FIcon->OnChange = [this](TObject*) { UpdateIcon(); };
+  TWinControl::SetVisible(false);
+  TWinControl::SetBounds(0, 0, width, height);
+  TWinControl::SetColor(clBtnFace);
+  Screen()->AddForm(this);
+}
+
+TCustomForm::~TCustomForm() {
+  AnnounceEnd();
+  SetMenu(nullptr);
+  // While the form is whole, its window and those inside go in an orderly way; unseen, which is
+  // much quicker where there are many.
+  if (HandleAllocated()) ::ShowWindow(Handle(), SW_HIDE);
+  DestroyHandle();
+  Screen()->RemoveForm(this);
+}
+
+void TCustomForm::LoadForm(HINSTANCE module) {
+  RegisterStandardClasses();
+  TResourceStream stream(module, UpperCase(ClassName()), MAKEINTRESOURCEA(10));  // RT_RCDATA
+  FReadingForm = true;
+  ReadComponentFile(stream, this, ClassName());
+  FReadingForm = false;
+  Created();
+}
+
+void TCustomForm::Created() {
+  if (std::exchange(FCreated, true)) return;
+  try {
+    OnCreate(this);
+  } catch (...) {
+    Application()->HandleCurrentException(this);
+  }
+  SetVisible(FVisibleAsked);
+}
+
+void TCustomForm::Loaded() {
+  TWinControl::Loaded();
+  const int width = std::exchange(FClientWidth, -1);
+  const int height = std::exchange(FClientHeight, -1);
+  UpdateMenu();
+  const TRect client = ClientRect();
+  SetClientSize(width < 0 ? client.Width() : width, height < 0 ? client.Height() : height);
+  if (!FReadingForm) SetVisible(FVisibleAsked);
+}
+
+void TCustomForm::SetFileClientWidth(int width) {
+  Loading() ? void(FClientWidth = width) : SetClientWidth(width);
+}
+
+void TCustomForm::SetFileClientHeight(int height) {
+  Loading() ? void(FClientHeight = height) : SetClientHeight(height);
+}
+
+void TCustomForm::BeforeDestruction() {
+  if (std::exchange(FDestroyed, true)) return;
+  try {
+    SetVisible(false);
+    OnDestroy(this);
+  } catch (...) {
+    Application()->HandleCurrentException(this);
+  }
+}
+
+void TCustomForm::Free() {
+  BeforeDestruction();
+  delete this;
+}
+
+void TCustomForm::Release() {
+  if (!std::exchange(FReleased, true)) Application()->FreeLater(this);
+}
+
+void TCustomForm::Notification(TComponent* component, TOperation operation) {
+  TWinControl::Notification(component, operation);
+  if (operation != opRemove) return;
+  if (component == FActiveControl) FActiveControl = nullptr;
+  // The controls around it may be ending too, and have said so before.
+  if (component == FFocusedControl) {
+    while (FFocusedControl && FFocusedControl->Destroying()) {
+      FFocusedControl = FFocusedControl->Parent();
+    }
+  }
+  if (component == FMenu) SetMenu(nullptr);
+}
+
+void TCustomForm::GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) {
+  TWinControl::GetChildren(each, root);
+  if (root != this) return;
+  // Behind the controls what is seen on the form in a designer only.
+  for (int i = 0; i < ComponentCount(); ++i) {
+    if (!Components(i)->HasParent()) each(Components(i));
+  }
+}
+
+TDesignerHook::~TDesignerHook() = default;
+
+void TCustomForm::SetDesigner(TDesignerHook* designer) {
+  FDesigner = designer;
+  designer ? Include(csDesignInstance) : Exclude(csDesignInstance);
+  SetDesigning(designer != nullptr);
+}
+
+// Properties.
+
+void TCustomForm::SetVisible(bool visible) {
+  FVisibleAsked = visible;
+  if (!Loading() && !FReadingForm && !Designing()) TWinControl::SetVisible(visible);
+}
+
+bool TCustomForm::FileVisible() const {
+  return Loading() || Designing() ? FVisibleAsked : Visible();
+}
+
+void TCustomForm::SetBorderStyle(TBorderStyle style) {
+  if (style == FBorderStyle) return;
+  FBorderStyle = style;
+  Remake();
+}
+
+void TCustomForm::SetBorderIcons(TBorderIcons icons) {
+  if (icons == FBorderIcons) return;
+  FBorderIcons = icons;
+  Remake();
+}
+
+void TCustomForm::SetFormStyle(TFormStyle style) {
+  if (style == FFormStyle) return;
+  const auto inOrAround = [](TFormStyle each) { return each == fsMDIChild || each == fsMDIForm; };
+  if (inOrAround(style) || inOrAround(FFormStyle)) return RemakeAs(style);
+  FFormStyle = style;
+  if (!HandleAllocated() || Designing()) return;
+  ::SetWindowPos(Handle(), style == fsStayOnTop ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void TCustomForm::SetPosition(TPosition position) {
+  if (position == FPosition) return;
+  FPosition = position;
+  FPlaced = false;
+}
+
+void TCustomForm::SetIcon(const TIcon* icon) { FIcon->Assign(icon); }
+
+void TCustomForm::SetMenu(TMainMenu* menu) {
+  if (menu == FMenu) return;
+  if (menu && menu->FForm) menu->FForm->SetMenu(nullptr);
+  if (FMenu) FMenu->FForm = nullptr;
+  FMenu = menu;
+  if (menu) {
+    menu->FForm = this;
+    menu->FreeNotification(this);
+  }
+  UpdateMenu();
+}
+
+TCanvas* TCustomForm::Canvas() const { return FCanvas.get(); }
+
+std::unique_ptr<TBitmap> TCustomForm::GetFormImage() {
+  auto image = std::make_unique<TBitmap>(ClientWidth(), ClientHeight());
+  PaintTo(image->Canvas()->Handle(), 0, 0);
+  return image;
+}
+
+}  // namespace vcl

@@ -1,0 +1,275 @@
+// TCustomForm and TForm: the windows of an application, made from form files.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "vcl/controls/wincontrol.h"
+#include "vcl/forms/designerhook.h"
+
+namespace vcl {
+
+class TMainMenu;
+
+enum TBorderIcon { biSystemMenu, biMinimize, biMaximize, biHelp };
+template <>
+inline constexpr TEnumText EnumText<TBorderIcon>{
+    "TBorderIcon", "biSystemMenu biMinimize biMaximize biHelp", "TBorderIcons"};
+using TBorderIcons = TSet<TBorderIcon>;
+enum TFormStyle { fsNormal, fsMDIChild, fsMDIForm, fsStayOnTop };
+template <>
+inline constexpr TEnumText EnumText<TFormStyle>{"TFormStyle",
+                                                "fsNormal fsMDIChild fsMDIForm fsStayOnTop"};
+/// Tiles lie above each other, or side by side.
+enum TTileMode { tbHorizontal, tbVertical };
+enum TPosition { poDesigned, poDefault, poDefaultPosOnly, poDefaultSizeOnly, poScreenCenter };
+template <>
+inline constexpr TEnumText EnumText<TPosition>{
+    "TPosition", "poDesigned poDefault poDefaultPosOnly poDefaultSizeOnly poScreenCenter"};
+enum TWindowState { wsNormal, wsMinimized, wsMaximized };
+template <>
+inline constexpr TEnumText EnumText<TWindowState>{"TWindowState",
+                                                  "wsNormal wsMinimized wsMaximized"};
+/// What closing a form does with it.
+enum TCloseAction { caNone, caHide, caFree, caMinimize };
+
+using TCloseEvent = TEvent<TObject*, TCloseAction&>;
+using TCloseQueryEvent = TEvent<TObject*, bool&>;
+template <>
+inline constexpr const char* EventName<TCloseEvent> = "TCloseEvent";
+template <>
+inline constexpr const char* EventName<TCloseQueryEvent> = "TCloseQueryEvent";
+
+/// A window of the application. A form class with a form file lists its fields and handlers in its
+/// table (vcl/rtl/properties.h) and calls `LoadForm` in its own constructor, where its fields and
+/// handlers exist:
+///
+///     class TMainForm : public TForm {
+///      public:
+///       explicit TMainForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+///       static const TClass& Class();
+///       const TClass& ClassType() const override { return Class(); }
+///
+///      private:
+///       void OkClick(TObject* sender);
+///       TEdit* Person = nullptr;
+///     };
+///
+///     const TClass& TMainForm::Class() {
+///       static const TClass info = Describe<TMainForm, TForm>("TMainForm", "mainform", {
+///           Field<&TMainForm::Person>("Person"),
+///           Method<&TMainForm::OkClick>("OkClick"),
+///       });
+///       return info;
+///     }
+///
+/// A field makes its component's class known to the form file, beside the classes of this library.
+///
+/// OnDestroy reaches a form's own handlers while the form is whole when it ends by `Free`: closed
+/// with caFree, by `Release`, or at the end of `TApplication::Run`. A plain `delete` of a form
+/// whose handlers are methods of its own class fires nothing: the class's part is gone by then.
+class VCL_API TCustomForm : public TWinControl {
+ public:
+  explicit TCustomForm(TComponent* owner);
+  /// Frees the form's controls and components.
+  ~TCustomForm() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  /// Closes the form as a user would: asks CloseQuery and OnClose. Closing the main form ends the
+  /// application.
+  void Close();
+  /// True when the form and OnCloseQuery agree to close.
+  virtual bool CloseQuery();
+  /// Fires OnDestroy and deletes the form. Not for the form's own handlers: see `Release`.
+  void Free();
+  /// Frees the form once the message in hand is done, which is safe in the form's own handlers.
+  void Release();
+  /// Shows the form and returns when it is closed or gets a ModalResult; the other forms are
+  /// disabled meanwhile. Raises EInvalidOperation for a form that is visible, disabled or modal
+  /// already.
+  int ShowModal();
+  TModalResult ModalResult() const { return FModalResult; }
+  void SetModalResult(TModalResult result) { FModalResult = result; }
+  bool Modal() const { return FModal; }
+
+  bool Active() const { return FActive; }
+  TWinControl* ActiveControl() const { return FActiveControl; }
+  /// The control that has the focus while the form is active. Raises EInvalidOperation for one that
+  /// is not on the form, or cannot have it while the form is shown.
+  void SetActiveControl(TWinControl* control);
+  /// The same, and activates the form.
+  void FocusControl(TWinControl* control);
+  /// Gives up an active control that is the given one or inside it.
+  void DefocusControl(TWinControl* control);
+  void SetFocus() override;
+
+  TBorderStyle BorderStyle() const { return FBorderStyle; }
+  void SetBorderStyle(TBorderStyle style);
+  TBorderIcons BorderIcons() const { return FBorderIcons; }
+  void SetBorderIcons(TBorderIcons icons);
+  TFormStyle FormStyle() const { return FFormStyle; }
+  /// A form that becomes an fsMDIChild becomes visible, inside the main form. Raises
+  /// EInvalidOperation when it is to have a window and the main form is no fsMDIForm.
+  void SetFormStyle(TFormStyle style);
+  TPosition Position() const { return FPosition; }
+  void SetPosition(TPosition position);
+  TWindowState WindowState() const;
+  void SetWindowState(TWindowState state);
+  bool KeyPreview() const { return FKeyPreview; }
+  /// The form's key events come before its controls'.
+  void SetKeyPreview(bool keyPreview) { FKeyPreview = keyPreview; }
+  TIcon* Icon() const { return FIcon.get(); }
+  void SetIcon(const TIcon* icon);
+  TMainMenu* Menu() const { return FMenu; }
+  void SetMenu(TMainMenu* menu);
+  TCanvas* Canvas() const;
+  /// A picture of the form as it stands on the screen or would.
+  std::unique_ptr<TBitmap> GetFormImage();
+
+  // A main form of the style fsMDIForm, and the forms of the style fsMDIChild inside it. Their
+  // menus stay out of sight, and hiding one destroys its window. Without a main form's window the
+  // calls do nothing.
+  /// The system's window in which the children stand; null in other forms, and without a window.
+  HWND ClientHandle() const { return FClientHandle; }
+  /// The child in front; null for none.
+  TCustomForm* ActiveMDIChild() const;
+  /// All forms of the style fsMDIChild.
+  int MDIChildCount() const;
+  /// By the order in which they were made; null for an index outside.
+  TCustomForm* MDIChildren(int index) const;
+  void Cascade();
+  TTileMode TileMode() const { return FTileMode; }
+  void SetTileMode(TTileMode mode) { FTileMode = mode; }
+  void Tile();
+  void ArrangeIcons();
+  void Next();
+  void Previous();
+
+  /// The designer that shows the form; null for a form that runs.
+  TDesignerHook* Designer() const { return FDesigner; }
+  /// Puts the form, which has no window yet, into the designing state. The designer must outlive
+  /// it. A form file that is read then shows the form.
+  void SetDesigner(TDesignerHook* designer);
+
+  void SetVisible(bool visible) override;
+  void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
+  TRect ClientRect() const override;
+
+  TNotifyEvent OnCreate, OnDestroy, OnShow, OnHide, OnActivate, OnDeactivate, OnPaint;
+  TCloseEvent OnClose;
+  TCloseQueryEvent OnCloseQuery;
+
+ protected:
+  /// Reads the form from the RCDATA resource that is named after its class, in the given module or
+  /// the executable, and fires OnCreate. Raises EResNotFound, and what reading a form file raises,
+  /// with the class's name and the line. Fields are null until then.
+  void LoadForm(HINSTANCE module = nullptr);
+
+  void CreateParams(TCreateParams& params) override;
+  void CreateWnd() override;
+  void DestroyWnd() override;
+  void DestroyWindowHandle() override;
+  void DefaultHandler(TMessage& message) override;
+  void AlignControls(TControl* control, TRect& rect) override;
+  void Dispatch(TMessage& message) override;
+  void WMPaint(TMessage& message) override;
+  void PaintWindow(HDC dc) override;
+  void Notification(TComponent* component, TOperation operation) override;
+  void Loaded() override;
+  virtual void DoClose(TCloseAction& action);
+  virtual void DoShow();
+  virtual void DoHide();
+  virtual void Activate();
+  virtual void Deactivate();
+  // What form files hold: sizes wait for the border and the menu, showing for the whole form.
+  void SetFileClientWidth(int width);
+  void SetFileClientHeight(int height);
+  bool FileVisible() const;
+
+ private:
+  friend class TApplication;
+  friend class TScreen;
+  friend class TWinControl;
+  friend class TMainMenu;
+  // Reading and ending.
+  void Created();
+  void BeforeDestruction();
+  // The window's look.
+  void AddFrame(TCreateParams& params) const;
+  TSize FrameSize() const;
+  void UpdateMenu();
+  void UpdateIcon();
+  void Remake();
+  // Windows inside a window.
+  bool StandsInside() const;
+  HWND WindowAround() const;
+  bool InsideWindow() const { return StandsInside() || FDesigner; }
+  void CreateClient();
+  void DestroyClient();
+  void TellClient(UINT message, WPARAM wParam = 0);
+  void RemakeAs(TFormStyle style);
+  void ActivateInside();
+  void WMMDIActivate(TMessage& message);
+  // Messages.
+  bool DispatchWindow(TMessage& message);
+  bool DispatchNotice(TMessage& message);
+  void WMSysCommand(TMessage& message);
+  void WMSize(TMessage& message);
+  // Focus.
+  void SetActive(bool active);
+  void SetWindowFocus();
+  /// The system has given the control the focus: keeps it as the active one and sends CM_EXIT and
+  /// CM_ENTER along the way there. Called by TWinControl.
+  void SetFocusedControl(TWinControl* control);
+  bool StepTo(TWinControl* entered, TWinControl* target, UINT notice);
+  bool IsTarget(const TWinControl* control) const;
+  bool DialogKey(WPARAM key);
+  bool MoveByArrow(bool forward);
+  // Showing.
+  void ShowingChanged();
+  void ShowWindowNow();
+  void HideWindowNow();
+  void PlaceOnScreen();
+  // Modal.
+  void CheckCanShowModal() const;
+  TModalResult RunModal();
+  void CloseModal();
+
+  TBorderStyle FBorderStyle = bsSizeable;
+  TBorderIcons FBorderIcons{biSystemMenu, biMinimize, biMaximize};
+  TFormStyle FFormStyle = fsNormal;
+  TPosition FPosition = poDesigned;
+  TWindowState FWindowState = wsNormal;
+  TModalResult FModalResult = mrNone;
+  bool FModal = false;
+  bool FActive = false;
+  bool FKeyPreview = false;
+  bool FReadingForm = false;
+  bool FCreated = false;
+  bool FDestroyed = false;
+  bool FReleased = false;
+  bool FRemaking = false;      // The window is made anew, which is no news to handlers.
+  bool FPlaced = false;        // Position has been acted on.
+  bool FVisibleAsked = false;  // What a form file or a designer says, until the form may be shown.
+  int FClientWidth = -1;       // As a form file gives it, until the whole file is read.
+  int FClientHeight = -1;
+  TWinControl* FActiveControl = nullptr;
+  TWinControl* FFocusedControl = nullptr;  // Where CM_ENTER has been sent to last.
+  HWND FClientHandle = nullptr;
+  TTileMode FTileMode = tbHorizontal;
+  TMainMenu* FMenu = nullptr;
+  TDesignerHook* FDesigner = nullptr;
+  std::unique_ptr<TIcon> FIcon;
+  std::unique_ptr<TControlCanvas> FCanvas;
+};
+
+/// A form as applications derive theirs from.
+class VCL_API TForm : public TCustomForm {
+ public:
+  explicit TForm(TComponent* owner) : TCustomForm(owner) {}
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+};
+
+}  // namespace vcl

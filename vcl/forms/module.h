@@ -1,0 +1,12 @@
+// Which DLL or executable a piece of code or data lies in.
+#pragma once
+
+#include "vcl/rtl/api.h"
+#include "vcl/rtl/win32.h"
+
+namespace vcl {
+
+/// The module that holds the address; null for one that no module holds.
+VCL_API HINSTANCE ModuleOf(const void* address);
+
+}  // namespace vcl

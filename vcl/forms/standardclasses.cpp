@@ -1,0 +1,32 @@
+// The list of the classes that every form file may name.
+#include "vcl/forms/standardclasses.h"
+
+#include "vcl/dialogs/dialogs.h"
+#include "vcl/graphics/imagelist.h"
+#include "vcl/menus/menus.h"
+#include "vcl/rtl/classregistry.h"
+#include "vcl/stdctrls/buttons.h"
+#include "vcl/stdctrls/comctrls.h"
+#include "vcl/stdctrls/extctrls.h"
+#include "vcl/stdctrls/stdctrls.h"
+
+namespace vcl {
+
+void RegisterStandardClasses() {
+  static const bool done = [] {
+    RegisterClasses({&TBevel::Class(),      &TBitBtn::Class(),      &TButton::Class(),
+                     &TCheckBox::Class(),   &TColorDialog::Class(), &TComboBox::Class(),
+                     &TEdit::Class(),       &TFontDialog::Class(),  &TGroupBox::Class(),
+                     &TImage::Class(),      &TImageList::Class(),   &TLabel::Class(),
+                     &TListBox::Class(),    &TMainMenu::Class(),    &TMemo::Class(),
+                     &TMenuItem::Class(),   &TOpenDialog::Class(),  &TPageControl::Class(),
+                     &TPanel::Class(),      &TPopupMenu::Class(),   &TRadioButton::Class(),
+                     &TSaveDialog::Class(), &TSpeedButton::Class(), &TStatusBar::Class(),
+                     &TTabSheet::Class(),   &TTimer::Class(),       &TTrackBar::Class(),
+                     &TTreeView::Class()});
+    return true;
+  }();
+  static_cast<void>(done);
+}
+
+}  // namespace vcl

@@ -1,0 +1,22 @@
+#include "vcl/graphics/fontmetrics.h"
+
+#include "vcl/rtl/utf16.h"
+
+namespace vcl {
+
+int FontHeight(const TFont& font) {
+  TWindowDC screen(nullptr);
+  TSelection selection(screen.Get(), font.Handle());
+  TEXTMETRICW metrics{};
+  ::GetTextMetricsW(screen.Get(), &metrics);
+  return static_cast<int>(metrics.tmHeight);
+}
+
+void DrawTextOn(TCanvas* canvas, const std::string& text, TRect& rect, UINT flags) {
+  const std::wstring wide = ToUtf16(text);
+  RECT area = rect;
+  ::DrawTextW(canvas->Handle(), wide.data(), static_cast<int>(wide.size()), &area, flags);
+  rect = area;
+}
+
+}  // namespace vcl

@@ -1,0 +1,24 @@
+#include "vcl/graphics/graphicsobject.h"
+
+#include "vcl/rtl/properties.h"
+
+namespace vcl {
+
+COLORREF ColorToRGB(TColor color) {
+  const auto bits = static_cast<std::uint32_t>(color);
+  if (bits & 0x80000000) return ::GetSysColor(static_cast<int>(bits & 0xFF));
+  return bits & 0xFFFFFF;
+}
+
+const TClass& TGraphicsObject::Class() {
+  static const TClass info =
+      Describe<TGraphicsObject, TPersistent>("TGraphicsObject", "graphics", {});
+  return info;
+}
+
+void TGraphicsObject::Changed() {
+  ++FVersion;
+  OnChange(this);
+}
+
+}  // namespace vcl

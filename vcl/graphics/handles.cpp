@@ -1,0 +1,28 @@
+#include "vcl/graphics/handles.h"
+
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/os.h"
+#include "vcl/rtl/text.h"
+
+namespace vcl {
+
+void RaiseOutOfResources(const std::string& what) {
+  // GDI refuses many things without leaving an error code.
+  const std::string reason = ::GetLastError() ? os::LastErrorText() : "no reason is given";
+  throw EOutOfResources(Concat("The system refused ", what, ": ", reason));
+}
+
+TMemoryDC::TMemoryDC() : FHandle(CheckHandle(::CreateCompatibleDC(nullptr), "a memory context")) {}
+
+TWindowDC::TWindowDC(HWND window)
+    : FWindow(window), FHandle(CheckHandle(::GetDC(window), "a window's device context")) {}
+
+TWindowDC::~TWindowDC() { ::ReleaseDC(FWindow, FHandle); }
+
+TSelection::TSelection(HDC dc, HGDIOBJ object)
+    : FDC(dc),
+      FFormer(CheckHandle(::SelectObject(dc, object), "to select an object for drawing")) {}
+
+TSelection::~TSelection() { ::SelectObject(FDC, FFormer); }
+
+}  // namespace vcl

@@ -1,0 +1,107 @@
+// TImageList: pictures of one size, kept together for trees, lists, menus and buttons.
+#pragma once
+
+#include <vector>
+
+#include "vcl/graphics/canvas.h"
+#include "vcl/rtl/component.h"
+#include "vcl/rtl/win32.h"
+
+namespace vcl {
+
+class TBitmap;
+class TIcon;
+class TStream;
+
+class TImageList;
+
+/// Tells a user of a list of pictures that they have changed (`TImageList::RegisterChanges`).
+class VCL_API TChangeLink {
+ public:
+  TChangeLink() = default;
+  ~TChangeLink();
+  TChangeLink(const TChangeLink&) = delete;
+  TChangeLink& operator=(const TChangeLink&) = delete;
+  /// The list that it listens to; null for none, also when the list has been freed.
+  TImageList* Sender() const { return FSender; }
+  /// Gets the list. Its handle may be another one.
+  TNotifyEvent OnChange;
+
+ private:
+  friend class TImageList;
+  TImageList* FSender = nullptr;
+};
+
+/// A list of pictures. Indexes run from 0.
+class VCL_API TImageList : public TComponent {
+ public:
+  /// Pictures of 16 by 16 pixels unless set.
+  explicit TImageList(TComponent* owner);
+  TImageList(TComponent* owner, int width, int height);
+  ~TImageList() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+  /// Copies another list's size and pictures; null makes it empty.
+  void Assign(const TPersistent* source) override;
+
+  /// The common-controls image list, which stays this list's own. Raises EOutOfResources.
+  HIMAGELIST Handle() const;
+  bool HandleAllocated() const { return FHandle != nullptr; }
+  int Width() const { return FWidth; }
+  int Height() const { return FHeight; }
+  /// Change the size and empty the list. Raise EInvalidOperation for less than 1 or more than
+  /// 32767.
+  void SetWidth(int width) { SetSize(width, FHeight); }
+  void SetHeight(int height) { SetSize(FWidth, height); }
+  void SetSize(int width, int height);
+  int Count() const;
+  TColor BkColor() const { return FBkColor; }
+  /// What see-through parts are filled with; clNone leaves them see-through.
+  void SetBkColor(TColor color);
+
+  /// Appends as many pictures as stand side by side in the bitmap, which stays as it was, and
+  /// returns the first one's index. Raise EInvalidOperation for an empty bitmap, one that is lower
+  /// than the list or narrower than one picture. What the mask (null for none) has white is
+  /// see-through.
+  int Add(TBitmap* image, TBitmap* mask);
+  /// The bitmap's pixels of the colour are see-through.
+  int AddMasked(TBitmap* image, TColor maskColor);
+  int AddIcon(TIcon* icon);
+  /// Raises EArgumentOutOfRangeException outside the list.
+  void Delete(int index);
+  void Clear();
+
+  /// Draws one picture; not enabled, its dark parts embossed. An index outside draws nothing.
+  void Draw(TCanvas* canvas, int x, int y, int index, bool enabled = true);
+  /// Draws one picture on a new bitmap of its size, on a background of that colour.
+  void GetBitmap(int index, TBitmap* image, TColor background = clWhite) const;
+  void GetIcon(int index, TIcon* icon) const;
+
+  /// The link hears of every change, before OnChange; it leaves the list that it listened to.
+  void RegisterChanges(TChangeLink* link);
+  void UnRegisterChanges(TChangeLink* link);
+
+  /// The pictures have changed.
+  TNotifyEvent OnChange;
+
+ protected:
+  /// Keeps the pictures in form files, as the bytes of the property "Bitmap".
+  void DefineProperties(TFiler& filer) override;
+  virtual void Changed();
+
+ private:
+  void ReadData(TStream& stream);
+  void WriteData(TStream& stream) const;
+  void CheckStrip(const TBitmap* image) const;
+  int Added(int index);
+  void DrawDisabled(TCanvas* canvas, int x, int y, int index);
+  void Replace(HIMAGELIST handle, int width, int height);
+
+  mutable HIMAGELIST FHandle = nullptr;
+  std::vector<TChangeLink*> FLinks;
+  int FWidth = 16;
+  int FHeight = 16;
+  TColor FBkColor = clNone;
+};
+
+}  // namespace vcl

@@ -1,0 +1,292 @@
+#include <algorithm>
+#include <bitset>
+
+#include "vcl/graphics/handles.h"
+#include "vcl/menus/menus.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
+
+namespace vcl {
+
+namespace {
+
+// Numbers of items are unique in the program, so that a WM_COMMAND needs no look at its window. The
+// lowest ones are the system's own for the buttons of dialogs, the highest ones for system menus.
+constexpr std::size_t FirstCommand = 0x0100;
+constexpr std::size_t EndOfCommands = 0xF000;
+
+std::bitset<EndOfCommands>& UsedCommands() {
+  static std::bitset<EndOfCommands> used;
+  return used;
+}
+
+std::uint16_t TakeCommand() {
+  auto& used = UsedCommands();
+  std::size_t command = FirstCommand;
+  while (command < EndOfCommands && used[command]) ++command;
+  if (command == EndOfCommands) throw EOutOfResources("There are too many menu items");
+  used.set(command);
+  return static_cast<std::uint16_t>(command);
+}
+
+}  // namespace
+
+const TClass& TMenuItem::Class() {
+  static const TClass info = Describe<TMenuItem, TComponent>(
+      "TMenuItem", "menus",
+      {
+          Property<&TMenuItem::Caption, &TMenuItem::SetCaption>("Caption").Type("TCaption"),
+          Property<&TMenuItem::Checked, &TMenuItem::SetChecked>("Checked").Default(false),
+          Property<&TMenuItem::Default, &TMenuItem::SetDefault>("Default").Default(false),
+          Property<&TMenuItem::Enabled, &TMenuItem::SetEnabled>("Enabled").Default(true),
+          Property<&TMenuItem::GroupIndex, &TMenuItem::SetGroupIndex>("GroupIndex").Default(0),
+          Property<&TMenuItem::Hint, &TMenuItem::SetHint>("Hint"),
+          Property<&TMenuItem::RadioItem, &TMenuItem::SetRadioItem>("RadioItem").Default(false),
+          Property<&TMenuItem::ShortCut, &TMenuItem::SetShortCut>("ShortCut").Default(scNone),
+          Property<&TMenuItem::Visible, &TMenuItem::SetVisible>("Visible").Default(true),
+          Event<&TMenuItem::OnClick>("OnClick"),
+      });
+  return info;
+}
+
+TMenuItem::TMenuItem(TComponent* owner) : TComponent(owner), FCommand(TakeCommand()) {}
+
+TMenuItem::~TMenuItem() {
+  AnnounceEnd();
+  if (FParent) FParent->Remove(this);
+  Clear();
+  if (FHandle) ::DestroyMenu(FHandle);
+  UsedCommands().reset(FCommand);
+}
+
+// Properties.
+
+template <class T>
+void TMenuItem::Change(T& field, const T& value) {
+  if (field == value) return;
+  field = value;
+  Changed();
+}
+
+void TMenuItem::SetCaption(const std::string& caption) { Change(FCaption, caption); }
+void TMenuItem::SetEnabled(bool enabled) { Change(FEnabled, enabled); }
+void TMenuItem::SetVisible(bool visible) { Change(FVisible, visible); }
+void TMenuItem::SetShortCut(TShortCut shortCut) { Change(FShortCut, shortCut); }
+
+void TMenuItem::SetChecked(bool checked) {
+  if (checked && FRadioItem) ClearSiblings(&TMenuItem::FChecked, true);
+  Change(FChecked, checked);
+}
+
+void TMenuItem::SetDefault(bool isDefault) {
+  if (isDefault) ClearSiblings(&TMenuItem::FDefault, false);
+  Change(FDefault, isDefault);
+}
+
+void TMenuItem::SetRadioItem(bool radioItem) {
+  if (radioItem && FChecked) ClearSiblings(&TMenuItem::FChecked, true);
+  Change(FRadioItem, radioItem);
+}
+
+void TMenuItem::SetGroupIndex(int groupIndex) {
+  Change(FGroupIndex, groupIndex);
+  if (FChecked && FRadioItem) ClearSiblings(&TMenuItem::FChecked, true);
+}
+
+// Takes the mark away from the other items of the menu; with `sameGroup` only from radio items of
+// the group.
+void TMenuItem::ClearSiblings(bool TMenuItem::*flag, bool sameGroup) {
+  if (!FParent) return;
+  for (TMenuItem* item : FParent->FItems) {
+    const bool concerned = !sameGroup || (item->FRadioItem && item->FGroupIndex == FGroupIndex);
+    if (item != this && concerned) item->Change(item->*flag, false);
+  }
+}
+
+// The items inside.
+
+TMenuItem* TMenuItem::Items(int index) const {
+  if (index < 0 || index >= Count()) {
+    throw EListError(Concat("A menu of ", std::to_string(Count()), " items has none at index ",
+                            std::to_string(index)));
+  }
+  return FItems[static_cast<std::size_t>(index)];
+}
+
+void TMenuItem::Insert(int index, TMenuItem* item) {
+  if (item->FParent) {
+    throw EInvalidOperation(Concat("The menu item \"", item->FCaption, "\" is in a menu already"));
+  }
+  for (const TMenuItem* around = this; around; around = around->FParent) {
+    if (around == item) {
+      throw EInvalidOperation(Concat("The menu item \"", item->FCaption, "\" can't hold itself"));
+    }
+  }
+  if (index < 0 || index > Count()) {
+    throw EListError(Concat("A menu of ", std::to_string(Count()),
+                            " items can't take one at index ", std::to_string(index)));
+  }
+  FItems.insert(FItems.begin() + index, item);
+  item->FParent = this;
+  ItemsChanged();
+}
+
+void TMenuItem::Remove(TMenuItem* item) {
+  const auto found = std::find(FItems.begin(), FItems.end(), item);
+  if (found == FItems.end()) {
+    throw EInvalidOperation(Concat("The menu item \"", item->FCaption, "\" is not in this menu"));
+  }
+  FItems.erase(found);
+  item->FParent = nullptr;
+  ItemsChanged();
+}
+
+void TMenuItem::Delete(int index) { Remove(Items(index)); }
+
+void TMenuItem::Clear() {
+  while (!FItems.empty()) delete FItems.back();
+}
+
+int TMenuItem::IndexOf(const TMenuItem* item) const {
+  const auto found = std::find(FItems.begin(), FItems.end(), item);
+  return found == FItems.end() ? -1 : static_cast<int>(found - FItems.begin());
+}
+
+int TMenuItem::MenuIndex() const { return FParent ? FParent->IndexOf(this) : -1; }
+
+void TMenuItem::SetMenuIndex(int index) {
+  if (!FParent || index == MenuIndex()) return;
+  TMenuItem* parent = FParent;
+  parent->Items(index);  // Refuses a wrong index before anything changes.
+  parent->Remove(this);
+  parent->Insert(index, this);
+}
+
+TMenu* TMenuItem::GetParentMenu() const {
+  const TMenuItem* item = this;
+  while (item->FParent) item = item->FParent;
+  return item->FMenu;
+}
+
+TMenuItem* TMenuItem::Find(const std::function<bool(const TMenuItem&)>& wanted) {
+  if (wanted(*this)) return this;
+  for (TMenuItem* item : FItems) {
+    if (TMenuItem* found = item->Find(wanted)) return found;
+  }
+  return nullptr;
+}
+
+// The system's menu.
+
+HMENU TMenuItem::Handle() {
+  if (!FHandle) {
+    FHandle = CheckHandle(FMenu ? FMenu->CreateHandle() : ::CreatePopupMenu(), "A menu");
+    Fill();
+  }
+  return FHandle;
+}
+
+// The item's own line has changed.
+void TMenuItem::Changed() {
+  if (FParent) FParent->ItemsChanged();
+}
+
+// The lines of the submenu have changed, and perhaps whether it is one.
+void TMenuItem::ItemsChanged() {
+  if (FHandle) Fill();
+  if (FParent && FParent->FHandle) FParent->Fill();
+  if (TMenu* menu = GetParentMenu()) menu->MenuChanged();
+}
+
+// Fills the menu again in place: it may be on the screen. Lines are removed rather than deleted,
+// for the handles of submenus belong to their items.
+void TMenuItem::Fill() {
+  while (::RemoveMenu(FHandle, 0, MF_BYPOSITION)) {
+  }
+  for (TMenuItem* item : FItems) {
+    if (item->FVisible) item->AppendTo(FHandle);
+  }
+}
+
+void TMenuItem::AppendTo(HMENU menu) {
+  std::string text = FCaption;
+  if (FShortCut != scNone) text += "\t" + ShortCutToText(FShortCut);
+  MENUITEMINFOA info{};
+  info.cbSize = sizeof info;
+  info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_STRING;
+  info.fType = static_cast<UINT>(IsLine() ? MFT_SEPARATOR : MFT_STRING);
+  if (FRadioItem) info.fType |= MFT_RADIOCHECK;
+  info.fState = static_cast<UINT>((FEnabled ? MFS_ENABLED : MFS_DISABLED) |
+                                  (FChecked ? MFS_CHECKED : 0) | (FDefault ? MFS_DEFAULT : 0));
+  info.wID = FCommand;
+  info.dwTypeData = text.data();
+  if (IsLine()) info.fMask &= ~static_cast<UINT>(MIIM_STRING);
+  if (!FItems.empty()) {
+    info.fMask |= MIIM_SUBMENU;
+    info.hSubMenu = Handle();
+  }
+  ::InsertMenuItemA(menu, static_cast<UINT>(::GetMenuItemCount(menu)), TRUE, &info);
+}
+
+// Choosing.
+
+bool TMenuItem::EnabledWithParents() const {
+  for (const TMenuItem* item = this; item; item = item->FParent) {
+    if (!item->FEnabled) return false;
+  }
+  return true;
+}
+
+void TMenuItem::Click() {
+  if (EnabledWithParents()) OnClick(this);
+}
+
+// Chooses the item by its shortcut. The menus around it are clicked first, as they are when they
+// open, for their handlers may disable it. False when it is disabled.
+bool TMenuItem::ChosenByKey() {
+  TWatch watch(this);
+  std::vector<TMenuItem*> around;
+  for (TMenuItem* item = FParent; item && item->FParent; item = item->FParent) {
+    around.push_back(item);
+  }
+  while (!around.empty()) {
+    TMenuItem* outermost = around.back();
+    around.pop_back();
+    outermost->Click();
+    // The handler may have rearranged the menu: go on only along items that are still around.
+    if (watch.Gone()) return true;
+    std::erase_if(around, [this](TMenuItem* item) {
+      for (TMenuItem* parent = FParent; parent; parent = parent->FParent) {
+        if (parent == item) return false;
+      }
+      return true;
+    });
+  }
+  if (!EnabledWithParents()) return false;
+  Click();
+  return true;
+}
+
+// The component.
+
+void TMenuItem::GetChildren(const std::function<void(TComponent*)>& each, TComponent*) {
+  for (TMenuItem* item : FItems) each(item);
+}
+
+TComponent* TMenuItem::GetParentComponent() const {
+  if (FParent && FParent->FMenu) return FParent->FMenu;
+  return FParent;
+}
+
+void TMenuItem::SetParentComponent(TComponent* parent) {
+  TMenuItem* item = dynamic_cast<TMenuItem*>(parent);
+  if (auto* menu = dynamic_cast<TMenu*>(parent)) item = menu->Items();
+  if (!item && parent) {
+    throw EInvalidOperation(Concat("A menu item can't stand in a ", parent->ClassName()));
+  }
+  if (FParent) FParent->Remove(this);
+  if (item) item->Add(this);
+}
+
+}  // namespace vcl

@@ -1,0 +1,194 @@
+// Sockets: a client's connection, what it says and hears, and the stream over it.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "vcl/rtl/component.h"
+#include "vcl/rtl/events.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/streams.h"
+
+namespace vcl {
+
+namespace os {
+class TSocketHandle;
+struct TSocketAddress;
+struct TSocketError;
+}  // namespace os
+
+class TClientSocket;
+class TCustomWinSocket;
+
+/// What the system refused a socket. The message has the system's words and its number.
+class VCL_API ESocketError : public Exception {
+ public:
+  explicit ESocketError(const std::string& message, int errorCode = 0)
+      : Exception(message), FErrorCode(errorCode) {}
+  ~ESocketError() override;
+  /// The system's number; 0 when it was not the system that refused.
+  int ErrorCode() const { return FErrorCode; }
+
+ private:
+  int FErrorCode;
+};
+
+/// During what a socket failed.
+enum TErrorEvent { eeGeneral, eeSend, eeReceive, eeConnect, eeDisconnect, eeAccept };
+
+using TSocketNotifyEvent = TEvent<TObject*, TCustomWinSocket*>;
+template <>
+inline constexpr const char* EventName<TSocketNotifyEvent> = "TSocketNotifyEvent";
+/// The last argument is the system's error number: a handler that sets it to 0 has dealt with the
+/// error, which is then not raised.
+using TSocketErrorEvent = TEvent<TObject*, TCustomWinSocket*, TErrorEvent, int&>;
+template <>
+inline constexpr const char* EventName<TSocketErrorEvent> = "TSocketErrorEvent";
+
+/// How a client socket waits.
+enum TClientType {
+  ctNonBlocking,  ///< Reading and writing never wait; events tell when they can be done.
+  ctBlocking      ///< Opening, reading and writing wait until they are done.
+};
+template <>
+inline constexpr TEnumText EnumText<TClientType>{"TClientType", "ctNonBlocking ctBlocking"};
+
+/// A connection. Its client socket opens it.
+class VCL_API TCustomWinSocket : public TObject {
+ public:
+  ~TCustomWinSocket() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  bool Connected() const { return FHandle != nullptr; }
+  /// Closes the connection, of which OnDisconnect tells. Nothing when it is closed.
+  void Close();
+  void Disconnect() { Close(); }
+
+  /// This machine's name, connected or not.
+  static std::string GetLocalHost();
+  std::string LocalHost() const { return GetLocalHost(); }
+  /// The two ends of the connection, or of the last one: digits and ports, empty and 0 before the
+  /// first; and the peer's name, which is looked up.
+  std::string LocalAddress() const;
+  int LocalPort() const;
+  std::string RemoteAddress() const;
+  int RemotePort() const;
+  std::string RemoteHost() const;
+
+  // These wait until they are done and raise ESocketError when the connection is closed or fails.
+  /// Sends all bytes and returns their number.
+  int SendBuf(const void* buffer, int count);
+  int SendText(std::string_view bytes);
+  /// Receives what has come, at most `count` bytes; 0 when the peer sends no more.
+  int ReceiveBuf(void* buffer, int count);
+  /// What has come, at most 4096 bytes; empty when the peer sends no more.
+  std::string ReceiveText();
+
+ private:
+  friend class TClientSocket;
+  friend class TWinSocketStream;
+  explicit TCustomWinSocket(TClientSocket* client);
+  os::TSocketHandle& Handle() const;
+  /// Connects to the first of the addresses that answers.
+  os::TSocketError Connect(const std::string& host, const std::string& service);
+  /// One attempt, which does not wait: the number of bytes, or -1 when it would have to.
+  int TrySend(const void* buffer, int count);
+  int TryReceive(void* buffer, int count);
+
+  TClientSocket* FClient;
+  std::shared_ptr<os::TSocketHandle> FHandle;
+  std::unique_ptr<os::TSocketAddress> FLocal, FRemote;
+};
+
+/// A client's socket: connects to a host's port. Freed, it closes the connection without a word.
+///
+/// A handler may free the socket or close it.
+class VCL_API TClientSocket : public TComponent {
+ public:
+  explicit TClientSocket(TComponent* owner);
+  ~TClientSocket() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  /// The connection, open or not.
+  TCustomWinSocket* Socket() const { return FSocket.get(); }
+  /// Connects: OnLookup, OnConnecting and OnConnect tell of it. A failure is told to OnError
+  /// (eeConnect) and then raised as ESocketError unless the handler has set the code to 0. Nothing
+  /// when it is open.
+  void Open() { SetActive(true); }
+  /// Closes the connection; OnDisconnect tells of it.
+  void Close() { SetActive(false); }
+  bool Active() const;
+  /// Opens resp. closes; a form file's value takes effect when the form has been read.
+  void SetActive(bool active);
+
+  // The target; none of it can be changed while the socket is open: that raises ESocketError.
+  /// An address in digits, of IPv4 or IPv6; used when Host is empty.
+  const std::string& Address() const { return FAddress; }
+  void SetAddress(const std::string& address);
+  const std::string& Host() const { return FHost; }
+  void SetHost(const std::string& host);
+  int Port() const { return FPort; }
+  /// Raises ESocketError outside 0 to 65535.
+  void SetPort(int port);
+  /// A service's name, such as "smtp"; used instead of the port when it is not empty.
+  const std::string& Service() const { return FService; }
+  void SetService(const std::string& service);
+  TClientType ClientType() const { return ctBlocking; }
+  /// Sockets here are blocking ones: ctNonBlocking raises ESocketError.
+  void SetClientType(TClientType clientType);
+
+  TSocketNotifyEvent OnLookup;
+  TSocketNotifyEvent OnConnecting;
+  TSocketNotifyEvent OnConnect;
+  TSocketNotifyEvent OnDisconnect;
+  TSocketErrorEvent OnError;
+
+ protected:
+  void Loaded() override;
+
+ private:
+  void CheckClosed() const;
+  void DoOpen();
+  void Fail(const std::string& host, const std::string& service, const os::TSocketError& error);
+
+  std::unique_ptr<TCustomWinSocket> FSocket;
+  std::string FAddress, FHost, FService;
+  int FPort = 0;
+  bool FActiveWhenLoaded = false;
+};
+
+/// The bytes of a connection in order. Nothing can be sought, and the size is not known.
+class VCL_API TWinSocketStream : public TStream {
+ public:
+  /// Reading and writing wait at most so many milliseconds. The connection outlives the stream.
+  TWinSocketStream(TCustomWinSocket* socket, int timeOut) : FSocket(socket), FTimeOut(timeOut) {}
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  /// Waits until there is something to read, or the peer sends no more; false when the milliseconds
+  /// are over. Raises ESocketError when the connection is closed.
+  bool WaitForData(int milliseconds);
+  /// What has come, at most `count` bytes; 0 when nothing comes in time or the peer sends no more
+  /// (`AtEnd`). Raises ESocketError when the connection fails or is closed.
+  std::int64_t Read(void* buffer, std::int64_t count) override;
+  /// Returns how many bytes the system took in time, which may be fewer than `count`. Raises
+  /// ESocketError when the connection fails or is closed.
+  std::int64_t Write(const void* buffer, std::int64_t count) override;
+  /// True once all that the peer sends has been read.
+  bool AtEnd() const { return FAtEnd; }
+  int TimeOut() const { return FTimeOut; }
+  void SetTimeOut(int timeOut) { FTimeOut = timeOut; }
+  /// These raise EStreamError.
+  std::int64_t Seek(std::int64_t offset, TSeekOrigin origin) override;
+  std::int64_t Size() const override;
+
+ private:
+  TCustomWinSocket* FSocket;
+  int FTimeOut;
+  bool FAtEnd = false;
+};
+
+}  // namespace vcl

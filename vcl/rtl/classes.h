@@ -1,0 +1,21 @@
+// The usual headers of the window-free half of the class library in one.
+#pragma once
+
+#include "vcl/rtl/classregistry.h"
+#include "vcl/rtl/collection.h"
+#include "vcl/rtl/colors.h"
+#include "vcl/rtl/component.h"
+#include "vcl/rtl/convert.h"
+#include "vcl/rtl/datetime.h"
+#include "vcl/rtl/events.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filer.h"
+#include "vcl/rtl/formfile.h"
+#include "vcl/rtl/inifile.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/reader.h"
+#include "vcl/rtl/streams.h"
+#include "vcl/rtl/strings.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/thread.h"
+#include "vcl/rtl/writer.h"

@@ -1,0 +1,204 @@
+#include "vcl/rtl/component.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filer.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/reader.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/writer.h"
+
+namespace vcl {
+
+const TClass& TComponent::Class() {
+  static const TClass info = Describe<TComponent, TPersistent>(
+      "TComponent", "component",
+      {
+          // The name stands in the heading of the component's part of the file.
+          Property<&TComponent::Name, &TComponent::SetName>("Name")
+              .Type("TComponentName")
+              .Stored(false),
+          Property<&TComponent::Tag, &TComponent::SetTag>("Tag").Default(0),
+      });
+  return info;
+}
+
+TComponent::TComponent(TComponent* owner) {
+  if (owner) owner->InsertComponent(this);
+}
+
+TComponent::~TComponent() {
+  AnnounceEnd();
+  DestroyComponents();
+  if (FOwner) FOwner->RemoveComponent(this);
+  while (FWatches) {
+    FWatches->FComponent = nullptr;
+    FWatches = FWatches->FNext;
+  }
+}
+
+void TComponent::AnnounceEnd() {
+  if (FEndAnnounced) return;
+  FEndAnnounced = true;
+  MarkDestroying();
+  // A listener may ask again or take back what it asked while the news goes round.
+  while (!FFreeNotifies.empty()) {
+    TComponent* listener = FFreeNotifies.back();
+    RemoveFreeNotification(listener);
+    listener->Notification(this, opRemove);
+  }
+  if (FOwner) FOwner->Notification(this, opRemove);
+}
+
+void TComponent::MarkDestroying() {
+  Include(csDestroying);
+  for (TComponent* component : FComponents) component->MarkDestroying();
+}
+
+void TComponent::SetName(const std::string& name) {
+  if (name == FName) return;
+  if (!name.empty() && !IsValidIdent(name)) {
+    throw EComponentError(Concat("'", name, "' is not a valid component name"));
+  }
+  if (FOwner) FOwner->ValidateRename(this, FName, name);
+  ValidateRename(nullptr, FName, name);
+  FName = name;
+}
+
+void TComponent::ValidateRename(TComponent* component, const std::string&,
+                                const std::string& newName) {
+  if (!component || newName.empty()) return;
+  const TComponent* holder = FindComponent(newName);
+  if (holder && holder != component) {
+    throw EComponentError(Concat("A component named ", newName, " already exists"));
+  }
+}
+
+TComponent* TComponent::Components(int index) const {
+  if (index < 0 || index >= ComponentCount()) {
+    throw EListError(Concat("Component index ", std::to_string(index), " is out of bounds: ",
+                            Name(), " has ", std::to_string(ComponentCount())));
+  }
+  return FComponents[static_cast<std::size_t>(index)];
+}
+
+int TComponent::ComponentIndex() const {
+  if (!FOwner) return -1;
+  return static_cast<int>(std::ranges::find(FOwner->FComponents, this) -
+                          FOwner->FComponents.begin());
+}
+
+void TComponent::SetComponentIndex(int index) {
+  if (!FOwner) return;
+  auto& siblings = FOwner->FComponents;
+  std::erase(siblings, this);
+  const int last = static_cast<int>(siblings.size());
+  siblings.insert(siblings.begin() + std::clamp(index, 0, last), this);
+}
+
+TComponent* TComponent::FindComponent(std::string_view name) const {
+  if (name.empty()) return nullptr;
+  const auto found = std::ranges::find_if(
+      FComponents, [&](const TComponent* each) { return SameText(each->Name(), name); });
+  return found == FComponents.end() ? nullptr : *found;
+}
+
+void TComponent::InsertComponent(TComponent* component) {
+  ValidateRename(component, {}, component->Name());
+  if (component->FOwner) component->FOwner->RemoveComponent(component);
+  FComponents.push_back(component);
+  component->FOwner = this;
+  if (Designing()) component->SetDesigning(true);
+  Notification(component, opInsert);
+}
+
+void TComponent::RemoveComponent(TComponent* component) {
+  if (component->FOwner != this) return;
+  if (!component->FEndAnnounced) Notification(component, opRemove);
+  std::erase(FComponents, component);
+  component->FOwner = nullptr;
+}
+
+void TComponent::DestroyComponents() {
+  while (!FComponents.empty()) delete FComponents.back();
+}
+
+void TComponent::SetDesignPosition(int left, int top) {
+  constexpr int lowest = std::numeric_limits<std::int16_t>::min();
+  constexpr int highest = std::numeric_limits<std::int16_t>::max();
+  FDesignLeft = static_cast<std::int16_t>(std::clamp(left, lowest, highest));
+  FDesignTop = static_cast<std::int16_t>(std::clamp(top, lowest, highest));
+}
+
+TKeptData& TComponent::Keep() {
+  if (!FKept) FKept = std::make_unique<TKeptData>();
+  return *FKept;
+}
+
+const std::string& TComponent::FileClassName() const {
+  return FKept && !FKept->ClassName.empty() ? FKept->ClassName : ClassName();
+}
+
+void TComponent::SetDesigning(bool designing) {
+  designing ? Include(csDesigning) : Exclude(csDesigning);
+  for (TComponent* component : FComponents) component->SetDesigning(designing);
+}
+
+void TComponent::FreeNotification(TComponent* component) {
+  if (!component || component == this || std::ranges::count(FFreeNotifies, component) > 0) return;
+  FFreeNotifies.push_back(component);
+  // The asker is told to this one in turn, so that a dead asker is never called.
+  component->FreeNotification(this);
+}
+
+void TComponent::RemoveFreeNotification(TComponent* component) {
+  if (std::erase(FFreeNotifies, component) > 0) component->RemoveFreeNotification(this);
+}
+
+void TComponent::GetChildren(const std::function<void(TComponent*)>&, TComponent*) {}
+
+void TComponent::Notification(TComponent* component, TOperation operation) {
+  if (operation == opRemove) RemoveFreeNotification(component);
+  // Indexed, because a component may free another when it hears the news.
+  for (std::size_t i = FComponents.size(); i-- > 0;) {
+    if (i < FComponents.size()) FComponents[i]->Notification(component, operation);
+  }
+}
+
+void TComponent::Loaded() { Exclude(csLoading); }
+
+void TComponent::ReadState(TReader& reader) { reader.ReadData(this); }
+
+void TComponent::WriteState(TWriter& writer) { writer.WriteData(this); }
+
+void TComponent::DefineProperties(TFiler& filer) {
+  TPersistent::DefineProperties(filer);
+  if (HasParent()) return;
+  DefinePosition(filer, "Left", FDesignLeft);
+  DefinePosition(filer, "Top", FDesignTop);
+}
+
+void TComponent::DefinePosition(TFiler& filer, const char* name, std::int16_t& coordinate) {
+  filer.DefineProperty(
+      name,
+      [&coordinate](TReader& reader) {
+        coordinate = static_cast<std::int16_t>(reader.ReadInteger());
+      },
+      [&coordinate](TWriter& writer) { writer.WriteInteger(coordinate); }, coordinate != 0);
+}
+
+TWatch::TWatch(TComponent* component) : FComponent(component), FNext(component->FWatches) {
+  component->FWatches = this;
+}
+
+TWatch::~TWatch() {
+  if (!FComponent) return;
+  // Watches end in the opposite order of their making, save across coroutines, which nobody uses.
+  TWatch** link = &FComponent->FWatches;
+  while (*link != this) link = &(*link)->FNext;
+  *link = FNext;
+}
+
+}  // namespace vcl

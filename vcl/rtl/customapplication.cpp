@@ -1,0 +1,77 @@
+#include "vcl/rtl/customapplication.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/os.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
+
+namespace vcl {
+namespace {
+
+TCustomApplication* Current = nullptr;
+
+TCustomApplication& MakeStandIn() {
+  static TCustomApplication standIn(nullptr);
+  // A program that makes an application later gets that one.
+  Current = nullptr;
+  return standIn;
+}
+
+}  // namespace
+
+const TClass& TCustomApplication::Class() {
+  static const TClass info =
+      Describe<TCustomApplication, TComponent>("TCustomApplication", "customapplication", {});
+  return info;
+}
+
+TCustomApplication::TCustomApplication(TComponent* owner) : TComponent(owner) {
+  if (!Current) Current = this;
+}
+
+TCustomApplication::~TCustomApplication() {
+  if (Current == this) Current = nullptr;
+}
+
+std::string TCustomApplication::Title() const {
+  if (!FTitle.empty()) return FTitle;
+  std::string name = ExeName();
+  name.erase(0, name.find_last_of("/\\") + 1);
+  return name.substr(0, name.rfind('.'));
+}
+
+std::string TCustomApplication::ExeName() const { return os::ExeName(); }
+
+void TCustomApplication::HandleException(TObject*, const std::exception& error) {
+  if (dynamic_cast<const EAbort*>(&error)) return;
+  std::fprintf(stderr, "%s\n", error.what());
+}
+
+void TCustomApplication::HandleCurrentException(TObject* sender) {
+  try {
+    throw;
+  } catch (const std::exception& error) {
+    HandleException(sender, error);
+  } catch (...) {
+    HandleException(sender, Exception("An error of an unknown kind"));
+  }
+}
+
+int TCustomApplication::MessageBox(const std::string& text, const std::string& caption, int) {
+  constexpr int okButton = 1;
+  std::fprintf(stderr, "%s: %s\n", caption.c_str(), text.c_str());
+  return okButton;
+}
+
+TCustomApplication& BaseApplication() {
+  if (Current) return *Current;
+  static TCustomApplication& standIn = MakeStandIn();
+  return standIn;
+}
+
+void Halt(int exitCode) { std::exit(exitCode); }
+
+}  // namespace vcl

@@ -1,0 +1,10 @@
+#include "vcl/rtl/formatsettings.h"
+
+namespace vcl {
+
+TFormatSettings& FormatSettings() {
+  static TFormatSettings settings = SystemFormatSettings();
+  return settings;
+}
+
+}  // namespace vcl

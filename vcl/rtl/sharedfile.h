@@ -1,0 +1,42 @@
+// Small files that several programs read and change: read at once, changed by one at a time, and
+// replaced whole.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "vcl/rtl/api.h"
+
+namespace vcl::os {
+
+enum class TReading { Done, Missing, Refused };
+
+/// The full name of a settings file. A bare name is one in the system's folder for them, where
+/// there is such a folder; any other is relative to the current one.
+std::string SettingsFileName(const std::string& name);
+
+/// Reads the whole file. When it is refused, LastErrorText says why.
+VCL_API TReading ReadWholeFile(const std::string& name, std::string& contents);
+
+/// While it lives, no other program or thread has one for the same file.
+class TFileTurn {
+ public:
+  explicit TFileTurn(const std::string& fileName);
+  ~TFileTurn();
+  TFileTurn(const TFileTurn&) = delete;
+  TFileTurn& operator=(const TFileTurn&) = delete;
+  /// False when others would not let go for ten seconds, or the system has refused.
+  bool Held() const { return FHeld; }
+
+ private:
+  std::intptr_t FHandle;
+  bool FHeld = false;
+};
+
+/// Replaces the contents: whoever reads the file, and whenever the program ends, it holds either
+/// the former contents or the new ones. They are written to a file beside it, "NAME.~new", which
+/// then takes its place. Call it in one's turn. False when the system refuses; LastErrorText says
+/// why, and the file is as before.
+VCL_API bool ReplaceWholeFile(const std::string& name, const std::string& contents);
+
+}  // namespace vcl::os

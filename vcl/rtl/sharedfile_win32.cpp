@@ -1,0 +1,158 @@
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+#include <cstdio>
+
+#include "vcl/rtl/os.h"
+#include "vcl/rtl/sharedfile.h"
+#include "vcl/rtl/utf16.h"
+
+namespace vcl::os {
+namespace {
+
+constexpr DWORD Patience = 10000;  // Milliseconds.
+/// How often, and after how many milliseconds each, something is tried again that fails while
+/// another program has the file open.
+constexpr int Tries = 400;
+constexpr DWORD BetweenTries = 5;
+constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+HANDLE Handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
+
+bool IsBare(const std::string& name) { return name.find_first_of("\\/:") == std::string::npos; }
+
+std::wstring FullName(const std::wstring& name) {
+  std::wstring full(GetFullPathNameW(name.c_str(), 0, nullptr, nullptr), L'\0');
+  full.resize(
+      GetFullPathNameW(name.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+  return full.empty() ? name : full;
+}
+
+/// Waits a little after a failure that another program's reading may have caused; false when it is
+/// of another kind or has gone on for too long.
+bool WorthAnotherTry(int& tries) {
+  const DWORD error = GetLastError();
+  if (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED) return false;
+  if (++tries > Tries) return false;
+  Sleep(tries < 10 ? 0 : BetweenTries);
+  SetLastError(error);
+  return true;
+}
+
+HANDLE OpenForReading(const std::wstring& name) {
+  for (int tries = 0;;) {
+    const HANDLE file = CreateFileW(name.c_str(), GENERIC_READ, ShareAll, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file != INVALID_HANDLE_VALUE || GetLastError() != ERROR_SHARING_VIOLATION ||
+        !WorthAnotherTry(tries))
+      return file;
+  }
+}
+
+bool WriteBeside(const std::wstring& name, DWORD attributes, const std::string& contents) {
+  const HANDLE file =
+      CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, attributes, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return false;
+  const auto size = static_cast<DWORD>(contents.size());
+  DWORD done = 0;
+  const bool written = ::WriteFile(file, contents.data(), size, &done, nullptr) && done == size;
+  const DWORD error = GetLastError();
+  CloseHandle(file);
+  SetLastError(error);
+  return written;
+}
+
+bool PutInPlace(const std::wstring& beside, const std::wstring& name) {
+  for (int tries = 0;;) {
+    if (MoveFileExW(beside.c_str(), name.c_str(), MOVEFILE_REPLACE_EXISTING)) return true;
+    if (!WorthAnotherTry(tries)) return false;
+  }
+}
+
+/// A name for the file's mutex that is the same in every program: mutexes have no folders, and
+/// their names end at 260 characters.
+std::wstring TurnName(const std::string& fileName) {
+  std::wstring name = FullName(ToUtf16(fileName));
+  CharLowerW(name.data());
+  std::uint64_t hash = 14695981039346656037u;  // FNV-1a.
+  for (const wchar_t each : name) hash = (hash ^ each) * 1099511628211u;
+  wchar_t text[40];
+  std::swprintf(text, 40, L"Global\\vcl.file.%08x%08x", static_cast<unsigned>(hash >> 32),
+                static_cast<unsigned>(hash));
+  return text;
+}
+
+}  // namespace
+
+std::string SettingsFileName(const std::string& name) {
+  const std::wstring wide = ToUtf16(name);
+  if (!IsBare(name)) return ToUtf8(FullName(wide));
+  wchar_t folder[MAX_PATH];
+  const UINT size = GetSystemWindowsDirectoryW(folder, MAX_PATH);
+  return size && size < MAX_PATH ? ToUtf8(std::wstring(folder, size) + L"\\" + wide) : name;
+}
+
+TReading ReadWholeFile(const std::string& name, std::string& contents) {
+  const HANDLE file = OpenForReading(ToUtf16(name));
+  if (file == INVALID_HANDLE_VALUE) {
+    const DWORD error = GetLastError();
+    const bool missing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+    return missing ? TReading::Missing : TReading::Refused;
+  }
+  const DWORD size = GetFileSize(file, nullptr);
+  contents.resize(size == INVALID_FILE_SIZE ? 0 : size);
+  DWORD done = 0;
+  const bool read =
+      ::ReadFile(file, contents.data(), static_cast<DWORD>(contents.size()), &done, nullptr);
+  const DWORD error = GetLastError();
+  CloseHandle(file);
+  SetLastError(error);
+  contents.resize(done);
+  return read ? TReading::Done : TReading::Refused;
+}
+
+TFileTurn::TFileTurn(const std::string& fileName) {
+  // Every user may take his turn.
+  SECURITY_DESCRIPTOR everybody;
+  InitializeSecurityDescriptor(&everybody, SECURITY_DESCRIPTOR_REVISION);
+  SetSecurityDescriptorDacl(&everybody, TRUE, nullptr, FALSE);
+  SECURITY_ATTRIBUTES security{sizeof security, &everybody, FALSE};
+  const HANDLE mutex =
+      CreateMutexExW(&security, TurnName(fileName).c_str(), 0, SYNCHRONIZE | MUTEX_MODIFY_STATE);
+  FHandle = reinterpret_cast<std::intptr_t>(mutex);
+  if (!mutex) return;
+  const DWORD result = WaitForSingleObject(mutex, Patience);
+  // A program that has ended in its turn has left a whole file.
+  FHeld = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
+  if (result == WAIT_TIMEOUT) SetLastError(ERROR_BUSY);
+}
+
+TFileTurn::~TFileTurn() {
+  if (!FHandle) return;
+  if (FHeld) ReleaseMutex(Handle(FHandle));
+  CloseHandle(Handle(FHandle));
+}
+
+// The new file has the attributes of the former one, and the rights that its folder gives.
+bool ReplaceWholeFile(const std::string& name, const std::string& contents) {
+  const std::wstring wide = ToUtf16(name);
+  const DWORD former = GetFileAttributesW(wide.c_str());
+  const bool exists = former != INVALID_FILE_ATTRIBUTES;
+  if (exists && (former & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY))) {
+    SetLastError(ERROR_ACCESS_DENIED);
+    return false;
+  }
+  const std::wstring beside = wide + L".~new";
+  if (WriteBeside(beside, exists ? former : FILE_ATTRIBUTE_NORMAL, contents) &&
+      PutInPlace(beside, wide))
+    return true;
+  const DWORD error = GetLastError();
+  DeleteFileW(beside.c_str());
+  SetLastError(error);
+  return false;
+}
+
+}  // namespace vcl::os

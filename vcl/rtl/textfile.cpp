@@ -1,0 +1,102 @@
+#include "vcl/rtl/textfile.h"
+
+#include <algorithm>
+
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/os.h"
+#include "vcl/rtl/streams.h"
+#include "vcl/rtl/text.h"
+
+namespace vcl {
+namespace {
+
+constexpr std::size_t BufferSize = 65536;
+
+}  // namespace
+
+TTextFile::~TTextFile() {
+  try {
+    Close();
+  } catch (const EInOutError&) {
+  }
+}
+
+void TTextFile::Fail(const char* what) const {
+  throw EInOutError(Concat("Cannot ", what, " \"", FFileName, "\": ", os::LastErrorText()));
+}
+
+void TTextFile::Open(const std::string& fileName, int mode) {
+  Close();
+  FFileName = fileName;
+  FWriting = mode == fmCreate;
+  FBuffer.clear();
+  FPosition = 0;
+  FHandle = os::OpenFile(fileName, mode);
+  if (FHandle == os::NoFile) Fail(FWriting ? "create" : "open");
+}
+
+void TTextFile::Rewrite(const std::string& fileName) { Open(fileName, fmCreate); }
+void TTextFile::Reset(const std::string& fileName) {
+  Open(fileName, fmOpenRead | fmShareDenyWrite);
+}
+
+void TTextFile::Close() {
+  if (FHandle == os::NoFile) return;
+  struct TCloser {
+    std::intptr_t& Handle;
+    ~TCloser() {
+      os::CloseFile(Handle);
+      Handle = os::NoFile;
+    }
+  } closer{FHandle};
+  if (FWriting) Flush();
+}
+
+void TTextFile::Flush() {
+  const std::string bytes = std::move(FBuffer);
+  FBuffer.clear();
+  for (std::size_t done = 0; done < bytes.size();) {
+    const std::int64_t written =
+        os::WriteFile(FHandle, bytes.data() + done, static_cast<std::int64_t>(bytes.size() - done));
+    if (written <= 0) Fail("write");
+    done += static_cast<std::size_t>(written);
+  }
+}
+
+void TTextFile::WriteLn(std::string_view line) {
+  if (FBuffer.capacity() < BufferSize) FBuffer.reserve(BufferSize);
+  FBuffer.append(line).append("\r\n");
+  if (FBuffer.size() >= BufferSize) Flush();
+}
+
+/// Reads on; false at the end of the file.
+bool TTextFile::Fill() {
+  FBuffer.erase(0, FPosition);
+  FPosition = 0;
+  const std::size_t size = FBuffer.size();
+  FBuffer.resize(size + BufferSize);
+  const std::int64_t read =
+      os::ReadFile(FHandle, FBuffer.data() + size, static_cast<std::int64_t>(BufferSize));
+  FBuffer.resize(size + static_cast<std::size_t>(std::max<std::int64_t>(read, 0)));
+  if (read < 0) Fail("read");
+  return read > 0;
+}
+
+bool TTextFile::Eof() { return FPosition == FBuffer.size() && !Fill(); }
+
+void TTextFile::ReadLn(std::string& line) {
+  // A search goes on where the one before has ended, so that long lines are looked at once.
+  std::size_t searched = 0;
+  std::size_t end;
+  do {
+    end = std::min(FBuffer.find_first_of("\r\n", FPosition + searched), FBuffer.size());
+    searched = end - FPosition;
+    // Behind a CR another byte is needed to know whether LF follows.
+  } while (end + 1 >= FBuffer.size() && !(end < FBuffer.size() && FBuffer[end] == '\n') && Fill());
+  line.assign(FBuffer, FPosition, searched);
+  end = FPosition + searched;
+  if (FBuffer.compare(end, 2, "\r\n") == 0) ++end;
+  FPosition = std::min(end + 1, FBuffer.size());
+}
+
+}  // namespace vcl

@@ -1,0 +1,124 @@
+#include "vcl/stdctrls/button.h"
+
+#include "vcl/controls/private/accelerators.h"
+#include "vcl/controls/propertygroups.h"
+#include "vcl/controls/windowmessages.h"
+#include "vcl/forms/forms.h"
+#include "vcl/rtl/properties.h"
+
+namespace vcl {
+
+const TClass& TButtonControl::Class() {
+  static const TClass info =
+      Describe<TButtonControl, TWinControl>("TButtonControl", "stdctrls", {});
+  return info;
+}
+
+TButtonControl::TButtonControl(TComponent* owner) : TWinControl(owner) {
+  // The system's button captures the mouse and tells of clicks itself.
+  SetControlStyle({csSetCaption, csDoubleClicks});
+}
+
+void TButtonControl::CreateParams(TCreateParams& params) {
+  TWinControl::CreateParams(params);
+  params.SubClassOf = "BUTTON";
+}
+
+void TButtonControl::Dispatch(TMessage& message) {
+  if (message.Msg == CN_COMMAND) {
+    if (HIWORD(message.WParam) == BN_CLICKED) Pressed();
+    return;
+  }
+  if (message.Msg == CM_DIALOGCHAR && IsAccel(message.WParam, Caption()) && CanFocus()) {
+    message.Result = 1;
+    return AccelPressed();
+  }
+  TWinControl::Dispatch(message);
+}
+
+const TClass& TButton::Class() {
+  static const TClass info = Describe<TButton, TButtonControl>(
+      "TButton", "stdctrls",
+      {
+          Property<&TButton::Cancel, &TButton::SetCancel>("Cancel").Default(false),
+          Inherit("Caption"),
+          Property<&TButton::Default, &TButton::SetDefault>("Default").Default(false),
+          Inherit("DragCursor"),
+          Inherit("DragMode"),
+          Inherit("Enabled"),
+          Inherit("Font"),
+          Property<&TButton::ModalResult, &TButton::SetModalResult>("ModalResult").Default(mrNone),
+          Inherit("ParentFont"),
+          Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),
+          Inherit("ShowHint"),
+          Inherit("TabOrder"),
+          Inherit("TabStop").Default(true),
+          Inherit("Visible"),
+          Inherit("OnClick"),
+          Inherit(DragEvents),
+          Inherit(FocusEvents),
+          Inherit(KeyEvents),
+          Inherit(MouseEvents),
+          Inherit("OnStartDrag"),
+      });
+  return info;
+}
+
+TButton::TButton(TComponent* owner) : TButtonControl(owner) {
+  SetBounds(0, 0, 75, 25);
+  SetTabStop(true);
+}
+
+void TButton::SetDefault(bool isDefault) {
+  FDefault = isDefault;
+  TCustomForm* form = ParentForm();
+  if (!form || !HandleAllocated()) return;
+  Perform(CM_FOCUSCHANGED, 0, reinterpret_cast<LPARAM>(form->ActiveControl()));
+}
+
+void TButton::Click() {
+  if (TCustomForm* form = ParentForm()) form->SetModalResult(FModalResult);
+  TButtonControl::Click();
+}
+
+void TButton::CreateParams(TCreateParams& params) {
+  TButtonControl::CreateParams(params);
+  params.Style |= FActive ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+}
+
+void TButton::CreateWnd() {
+  FActive = FDefault;
+  TButtonControl::CreateWnd();
+}
+
+void TButton::SetActive(bool active) {
+  if (active == FActive) return;
+  FActive = active;
+  SetButtonStyle(active);
+}
+
+void TButton::SetButtonStyle(bool active) {
+  SendIfAllocated(*this, BM_SETSTYLE, active ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON, TRUE);
+}
+
+bool TButton::TakesDialogKey(const TMessage& message) const {
+  const bool mine =
+      (message.WParam == VK_RETURN && FActive) || (message.WParam == VK_ESCAPE && FCancel);
+  return mine && KeyDataToShiftState(message.LParam).Empty() && CanFocus();
+}
+
+void TButton::Dispatch(TMessage& message) {
+  if (message.Msg == CM_DIALOGKEY && TakesDialogKey(message)) {
+    message.Result = 1;
+    return Click();
+  }
+  if (message.Msg == CM_FOCUSCHANGED) {
+    // Enter is for the button with the focus, if one has it, and for the default one otherwise.
+    const auto* focused = reinterpret_cast<TWinControl*>(message.LParam);
+    SetActive(dynamic_cast<const TButton*>(focused) ? focused == this : FDefault);
+  }
+  TButtonControl::Dispatch(message);
+}
+
+}  // namespace vcl

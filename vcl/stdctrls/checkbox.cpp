@@ -1,0 +1,172 @@
+#include "vcl/stdctrls/checkbox.h"
+
+#include "vcl/controls/private/narrowed.h"
+#include "vcl/controls/propertygroups.h"
+#include "vcl/controls/windowmessages.h"
+#include "vcl/rtl/properties.h"
+
+namespace vcl {
+namespace {
+
+DWORD TextSide(TAlignment alignment) { return alignment == taLeftJustify ? BS_LEFTTEXT : 0; }
+
+}  // namespace
+
+const TClass& TCustomCheckBox::Class() {
+  using T = TCustomCheckBox;
+  static const TClass info = Describe<T, TButtonControl>(
+      "TCustomCheckBox", "stdctrls",
+      {
+          LeftOrRight(Property<&T::Alignment, &T::SetAlignment>("Alignment"))
+              .Default(taRightJustify)
+              .Unpublished(),
+          Property<&T::AllowGrayed, &T::SetAllowGrayed>("AllowGrayed").Default(false).Unpublished(),
+          Property<&T::Checked, &T::SetChecked>("Checked").Default(false).Unpublished(),
+          Property<&T::State, &T::SetState>("State").Default(cbUnchecked).Unpublished(),
+          Inherit("TabStop").Default(true),
+      });
+  return info;
+}
+
+const TClass& TCheckBox::Class() {
+  static const TClass info = Describe<TCheckBox, TCustomCheckBox>(
+      "TCheckBox", "stdctrls",
+      {
+          Inherit("Alignment"),   Inherit("AllowGrayed"), Inherit("Caption"),
+          Inherit("Checked"),     Inherit("Color"),       Inherit("DragCursor"),
+          Inherit("DragMode"),    Inherit("Enabled"),     Inherit("Font"),
+          Inherit("ParentColor"), Inherit("ParentFont"),  Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),   Inherit("ShowHint"),    Inherit("State"),
+          Inherit("TabOrder"),    Inherit("TabStop"),     Inherit("Visible"),
+          Inherit("OnClick"),     Inherit(DragEvents),    Inherit(FocusEvents),
+          Inherit(KeyEvents),     Inherit(MouseEvents),   Inherit("OnStartDrag"),
+      });
+  return info;
+}
+
+TCustomCheckBox::TCustomCheckBox(TComponent* owner) : TButtonControl(owner) {
+  SetBounds(0, 0, 97, 17);
+  SetTabStop(true);
+}
+
+void TCustomCheckBox::SetAlignment(TAlignment alignment) {
+  CheckLeftOrRight(alignment);
+  if (alignment == FAlignment) return;
+  FAlignment = alignment;
+  RecreateWnd();
+}
+
+void TCustomCheckBox::SetState(TCheckBoxState state) {
+  if (state == FState) return;
+  FState = state;
+  SendIfAllocated(*this, BM_SETCHECK, state);
+  if (!Loading()) Click();
+}
+
+void TCustomCheckBox::Toggle() {
+  const TCheckBoxState afterUnchecked = FAllowGrayed ? cbGrayed : cbChecked;
+  const TCheckBoxState next[] = {afterUnchecked, cbUnchecked, cbChecked};
+  SetState(next[FState]);
+}
+
+void TCustomCheckBox::CreateParams(TCreateParams& params) {
+  TButtonControl::CreateParams(params);
+  params.Style |= BS_3STATE | TextSide(FAlignment);
+}
+
+void TCustomCheckBox::CreateWnd() {
+  TButtonControl::CreateWnd();
+  Send(*this, BM_SETCHECK, FState);
+}
+
+void TCustomCheckBox::AccelPressed() {
+  TWatch watch(this);
+  SetFocus();
+  if (!watch.Gone() && Focused()) Toggle();
+}
+
+const TClass& TRadioButton::Class() {
+  using T = TRadioButton;
+  static const TClass info = Describe<T, TButtonControl>(
+      "TRadioButton", "stdctrls",
+      {
+          LeftOrRight(Property<&T::Alignment, &T::SetAlignment>("Alignment"))
+              .Default(taRightJustify),
+          Inherit("Caption"),
+          Property<&T::Checked, &T::SetChecked>("Checked").Default(false),
+          Inherit("Color"),
+          Inherit("DragCursor"),
+          Inherit("DragMode"),
+          Inherit("Enabled"),
+          Inherit("Font"),
+          Inherit("ParentColor"),
+          Inherit("ParentFont"),
+          Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),
+          Inherit("ShowHint"),
+          Inherit("TabOrder"),
+          Inherit("TabStop"),
+          Inherit("Visible"),
+          Inherit("OnClick"),
+          Inherit("OnDblClick"),
+          Inherit(DragEvents),
+          Inherit(FocusEvents),
+          Inherit(KeyEvents),
+          Inherit(MouseEvents),
+          Inherit("OnStartDrag"),
+      });
+  return info;
+}
+
+TRadioButton::TRadioButton(TComponent* owner) : TButtonControl(owner) { SetBounds(0, 0, 113, 17); }
+
+void TRadioButton::SetAlignment(TAlignment alignment) {
+  CheckLeftOrRight(alignment);
+  if (alignment == FAlignment) return;
+  FAlignment = alignment;
+  RecreateWnd();
+}
+
+void TRadioButton::SetChecked(bool checked) {
+  if (checked == FChecked) return;
+  FChecked = checked;
+  SetTabStop(checked);  // Tab goes to the checked one of a group.
+  SendIfAllocated(*this, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
+  if (!checked) return;
+  UncheckSiblings();
+  if (!Loading()) Click();
+}
+
+void TRadioButton::UncheckSiblings() {
+  for (int i = 0; Parent() && i < Parent()->ControlCount(); ++i) {
+    auto* other = dynamic_cast<TRadioButton*>(Parent()->Controls(i));
+    if (other && other != this) other->SetChecked(false);
+  }
+}
+
+void TRadioButton::CreateParams(TCreateParams& params) {
+  TButtonControl::CreateParams(params);
+  params.Style |= BS_RADIOBUTTON | TextSide(FAlignment);
+}
+
+void TRadioButton::CreateWnd() {
+  TButtonControl::CreateWnd();
+  Send(*this, BM_SETCHECK, FChecked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void TRadioButton::AccelPressed() {
+  TWatch watch(this);
+  SetFocus();
+  if (!watch.Gone() && Focused()) SetChecked(true);
+}
+
+void TRadioButton::Dispatch(TMessage& message) {
+  TWatch watch(this);
+  TButtonControl::Dispatch(message);
+  // The keyboard checks what it goes to. Windows' own radio buttons ask for that, Wine's do not.
+  const bool byKeyboard =
+      message.Msg == WM_SETFOCUS && !watch.Gone() && !ControlState().Has(csLButtonDown);
+  if (byKeyboard) SetChecked(true);
+}
+
+}  // namespace vcl

@@ -1,0 +1,94 @@
+// TCustomComboBox and TComboBox.
+#pragma once
+
+#include <string>
+
+#include "vcl/stdctrls/listcontrol.h"
+
+namespace vcl {
+
+enum TComboBoxStyle {
+  csDropDown,       ///< An edit with a list that drops down.
+  csSimple,         ///< An edit with a list below it.
+  csDropDownList,   ///< The text is one of the items.
+  csOwnerDrawFixed  ///< Like csDropDownList, with the items drawn by OnDrawItem.
+};
+template <>
+inline constexpr TEnumText EnumText<TComboBoxStyle>{
+    "TComboBoxStyle", "csDropDown csSimple csDropDownList csOwnerDrawFixed"};
+
+/// A combo box. OnClick tells that the user has selected an item, OnChange that the text has
+/// changed.
+class VCL_API TCustomComboBox : public TCustomListControl {
+ public:
+  explicit TCustomComboBox(TComponent* owner);
+  ~TCustomComboBox() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  TComboBoxStyle Style() const { return FStyle; }
+  void SetStyle(TComboBoxStyle style);
+  int DropDownCount() const { return FDropDownCount; }
+  /// How many items are seen at most when the list is down. Raises EArgumentOutOfRangeException for
+  /// less than 1.
+  void SetDropDownCount(int count);
+  int MaxLength() const { return FMaxLength; }
+  /// The most UTF-16 units that can be typed; 0 for no limit. Raises EArgumentOutOfRangeException
+  /// for a negative length.
+  void SetMaxLength(int maxLength);
+  bool DroppedDown() const;
+  void SetDroppedDown(bool down);
+  void SetItemIndex(int index) override;
+  void Clear() override;
+  /// The selection in the edit; see TCustomEdit.
+  int SelStart() const;
+  int SelLength() const;
+  void Select(int start, int length);
+  void SelectAll();
+
+  bool Focused() const override;
+  int GetTextLen() const override;
+  int GetTextBuf(char* buffer, int size) const override;
+  /// Without an edit, the text selects the item that is equal to it but for case, or none.
+  void SetTextBuf(const char* text) override;
+
+  TNotifyEvent OnChange, OnDropDown, OnCloseUp;
+
+ protected:
+  virtual void Change();
+  virtual void DropDown();
+  virtual void CloseUp();
+  bool OwnerDraw() const override { return FStyle == csOwnerDrawFixed; }
+  void CreateParams(TCreateParams& params) override;
+  void CreateWnd() override;
+  void DestroyWnd() override;
+  void Dispatch(TMessage& message) override;
+  void DefaultHandler(TMessage& message) override;
+  void Loaded() override;
+
+ private:
+  bool HasEdit() const { return FStyle == csDropDown || FStyle == csSimple; }
+  std::string ItemText() const;
+  void CommandFromWindow(TMessage& message);
+  void ItemChosen();
+  void SubclassEdit();
+  static LRESULT CALLBACK EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                   UINT_PTR id, DWORD_PTR self);
+
+  TComboBoxStyle FStyle = csDropDown;
+  int FDropDownCount = 8;
+  int FMaxLength = 0;
+  std::string FLoadedText;  // Of a list still without its items.
+  HWND FEdit = nullptr;
+  /// The message to the edit that is on its way through this control.
+  const TMessage* FEditMessage = nullptr;
+};
+
+class VCL_API TComboBox : public TCustomComboBox {
+ public:
+  explicit TComboBox(TComponent* owner) : TCustomComboBox(owner) {}
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+};
+
+}  // namespace vcl

@@ -1,0 +1,7 @@
+// The system's common controls: pages, status bars, track bars and tree views.
+#pragma once
+
+#include "vcl/stdctrls/pagecontrol.h"
+#include "vcl/stdctrls/statusbar.h"
+#include "vcl/stdctrls/trackbar.h"
+#include "vcl/stdctrls/treeview.h"

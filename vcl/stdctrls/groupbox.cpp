@@ -1,0 +1,75 @@
+#include "vcl/stdctrls/groupbox.h"
+
+#include "vcl/controls/private/accelerators.h"
+#include "vcl/controls/propertygroups.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/graphics/fontmetrics.h"
+#include "vcl/rtl/properties.h"
+
+namespace vcl {
+
+const TClass& TCustomGroupBox::Class() {
+  static const TClass info =
+      Describe<TCustomGroupBox, TCustomControl>("TCustomGroupBox", "stdctrls", {});
+  return info;
+}
+
+const TClass& TGroupBox::Class() {
+  static const TClass info = Describe<TGroupBox, TCustomGroupBox>(
+      "TGroupBox", "stdctrls",
+      {
+          Inherit("Align"),       Inherit("Caption"),     Inherit("Color"),
+          Inherit("Ctl3D"),       Inherit("DragCursor"),  Inherit("DragMode"),
+          Inherit("Enabled"),     Inherit("Font"),        Inherit("ParentColor"),
+          Inherit("ParentCtl3D"), Inherit("ParentFont"),  Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),   Inherit("ShowHint"),    Inherit("TabOrder"),
+          Inherit("TabStop"),     Inherit("Visible"),     Inherit("OnClick"),
+          Inherit("OnDblClick"),  Inherit(DragEvents),    Inherit(FocusEvents),
+          Inherit(MouseEvents),   Inherit("OnStartDrag"),
+      });
+  return info;
+}
+
+TCustomGroupBox::TCustomGroupBox(TComponent* owner) : TCustomControl(owner) {
+  SetControlStyle({csAcceptsControls, csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks,
+                   csReplicatable});
+  SetBounds(0, 0, 185, 105);
+}
+
+void TCustomGroupBox::Paint() {
+  TCanvas* canvas = Canvas();
+  canvas->SetFont(Font());
+  if (!Enabled()) canvas->Font()->SetColor(clGrayText);
+  const int lineHeight = canvas->TextHeight("0");
+  // An etched line: the light frame one pixel below and to the right of the dark one.
+  TRect frame(1, lineHeight / 2, Width(), Height());
+  canvas->Brush()->SetColor(clBtnHighlight);
+  canvas->FrameRect(frame);
+  frame.Offset(-1, -1);
+  canvas->Brush()->SetColor(clBtnShadow);
+  canvas->FrameRect(frame);
+  const std::string caption = Caption();
+  if (caption.empty()) return;
+  TRect text(8, 0, Width() - 8, lineHeight);
+  canvas->Brush()->SetColor(Color());
+  DrawTextOn(canvas, caption, text, DT_LEFT | DT_SINGLELINE);
+}
+
+void TCustomGroupBox::AdjustClientRect(TRect& rect) const {
+  rect.Top += FontHeight(*Font());
+  rect.Inflate(-1, -1);
+}
+
+void TCustomGroupBox::Dispatch(TMessage& message) {
+  if (message.Msg == CM_DIALOGCHAR && IsAccel(message.WParam, Caption()) && CanFocus()) {
+    message.Result = 1;
+    return SelectNext(nullptr, true, true);
+  }
+  TCustomControl::Dispatch(message);
+  if (message.Msg == CM_TEXTCHANGED) Invalidate();
+  if (message.Msg != CM_FONTCHANGED) return;
+  Invalidate();
+  Realign();
+}
+
+}  // namespace vcl

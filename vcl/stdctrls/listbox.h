@@ -1,0 +1,79 @@
+// TCustomListBox and TListBox.
+#pragma once
+
+#include "vcl/stdctrls/listcontrol.h"
+
+namespace vcl {
+
+/// Drawn by the system, or by OnDrawItem, all items ItemHeight high.
+enum TListBoxStyle { lbStandard, lbOwnerDrawFixed };
+template <>
+inline constexpr TEnumText EnumText<TListBoxStyle>{"TListBoxStyle", "lbStandard lbOwnerDrawFixed"};
+
+/// A list box. OnClick tells that the user has selected.
+class VCL_API TCustomListBox : public TCustomListControl {
+ public:
+  explicit TCustomListBox(TComponent* owner);
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  TBorderStyle BorderStyle() const { return FBorderStyle; }
+  /// Takes bsNone and bsSingle; raises EArgumentOutOfRangeException for the others.
+  void SetBorderStyle(TBorderStyle style);
+  bool ExtendedSelect() const { return FExtendedSelect; }
+  /// With MultiSelect: Shift and Ctrl extend the selection; else every click turns an item.
+  void SetExtendedSelect(bool extended);
+  bool IntegralHeight() const { return FIntegralHeight; }
+  /// True: the height shrinks to whole items.
+  void SetIntegralHeight(bool integral);
+  bool MultiSelect() const { return FMultiSelect; }
+  void SetMultiSelect(bool multiSelect);
+  TListBoxStyle Style() const { return FStyle; }
+  void SetStyle(TListBoxStyle style);
+
+  int ItemIndex() const override;
+  void SetItemIndex(int index) override;
+  /// Whether the item is selected. These raise EStringListError for an index that is not an item's.
+  bool Selected(int index) const;
+  void SetSelected(int index, bool selected);
+  int SelCount() const;
+  /// The first item that is seen.
+  int TopIndex() const;
+  void SetTopIndex(int index);
+  /// The item at the position in the list box; -1 for none (`existing`), else the number of items.
+  int ItemAtPos(TPoint position, bool existing) const;
+  /// Where the item stands in the list box.
+  TRect ItemRect(int index) const;
+
+ protected:
+  bool OwnerDraw() const override { return FStyle != lbStandard; }
+  void KeepSelection() override;
+  void RestoreSelection() override;
+  void CreateParams(TCreateParams& params) override;
+  void Dispatch(TMessage& message) override;
+  /// The press selects before it drags. In a list with several selected items, one on a selected
+  /// item drags them all, and one with Shift or Ctrl only selects.
+  void BeginAutoDrag(TMessage& press) override;
+
+ private:
+  bool DragsSelection(const TMessage& press) const;
+  template <class T>
+  void ChangeStyle(T& field, T value);
+
+  TBorderStyle FBorderStyle = bsSingle;
+  TListBoxStyle FStyle = lbStandard;
+  bool FExtendedSelect = true;
+  bool FIntegralHeight = false;
+  bool FMultiSelect = false;
+  int FCaret = -1;  // While there is no window.
+  int FTopIndex = 0;
+};
+
+class VCL_API TListBox : public TCustomListBox {
+ public:
+  explicit TListBox(TComponent* owner) : TCustomListBox(owner) {}
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+};
+
+}  // namespace vcl

@@ -1,0 +1,165 @@
+#include "vcl/stdctrls/listcontrol.h"
+
+#include "vcl/controls/windowmessages.h"
+#include "vcl/graphics/canvasbinding.h"
+#include "vcl/graphics/handles.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
+#include "vcl/stdctrls/private/listitems.h"
+
+namespace vcl {
+namespace {
+
+TOwnerDrawState StateOf(UINT state) {
+  static constexpr struct {
+    UINT Bit;
+    TOwnerDrawStateValue Value;
+  } values[] = {{ODS_SELECTED, odSelected},
+                {ODS_GRAYED, odGrayed},
+                {ODS_DISABLED, odDisabled},
+                {ODS_CHECKED, odChecked},
+                {ODS_FOCUS, odFocused}};
+  TOwnerDrawState set;
+  for (const auto& each : values) {
+    if (state & each.Bit) set.Include(each.Value);
+  }
+  return set;
+}
+
+}  // namespace
+
+const TClass& TCustomListControl::Class() {
+  using T = TCustomListControl;
+  static const TClass info = Describe<T, TWinControl>(
+      "TCustomListControl", "stdctrls",
+      {
+          Property<&T::ItemHeight, &T::SetItemHeight>("ItemHeight").Default(16).Unpublished(),
+          Property<&T::Sorted, &T::SetSorted>("Sorted").Default(false).Unpublished(),
+          Inherit("ParentColor").Default(false).Unpublished(),
+          Event<&T::OnDrawItem>("OnDrawItem").Unpublished(),
+          Property<&T::Items, &T::SetItems>("Items").Unpublished(),
+          Property<&T::ItemIndex, &T::SetItemIndex>("ItemIndex").Default(-1).Unpublished(),
+          Inherit("TabStop").Default(true),
+      });
+  return info;
+}
+
+TCustomListControl::TCustomListControl(TComponent* owner, const TListMessages& messages)
+    : TWinControl(owner),
+      FMessages(messages),
+      FItems(std::make_unique<TListItems>(*this, messages)),
+      FCanvas(std::make_unique<TCanvas>()) {
+  SetTabStop(true);
+  SetParentColor(false);
+}
+
+TCustomListControl::~TCustomListControl() = default;
+
+TStrings* TCustomListControl::Items() const { return FItems.get(); }
+void TCustomListControl::SetItems(const TStrings* items) { FItems->Assign(items); }
+TCanvas* TCustomListControl::Canvas() const { return FCanvas.get(); }
+void TCustomListControl::Clear() { FItems->Clear(); }
+
+int TCustomListControl::ItemIndex() const {
+  return HandleAllocated() ? static_cast<int>(Send(*this, FMessages.GetSelected))
+                           : FItems->FirstSelected();
+}
+
+void TCustomListControl::SetItemIndex(int index) {
+  const bool known = index >= -1 && index < FItems->Count();
+  if (!known && Loading()) {
+    FLoadedIndex = index;
+    return;
+  }
+  if (!known) {
+    throw EListError(Concat("Item index ", std::to_string(index), " is out of bounds: there are ",
+                            std::to_string(FItems->Count()), " items"));
+  }
+  FItems->SelectOnly(index);
+  SendIfAllocated(*this, FMessages.SetSelected, static_cast<WPARAM>(index));
+}
+
+int TCustomListControl::ItemHeight() const { return FItemHeight; }
+
+void TCustomListControl::SetItemHeight(int height) {
+  if (height < 1 || height > 255) {
+    throw EArgumentOutOfRangeException(
+        Concat("An item cannot be ", std::to_string(height), " pixels high"));
+  }
+  if (height == FItemHeight) return;
+  FItemHeight = height;
+  if (OwnerDraw()) RecreateWnd();
+}
+
+bool TCustomListControl::Sorted() const { return FItems->Sorted(); }
+
+void TCustomListControl::SetSorted(bool sorted) {
+  if (sorted == Sorted()) return;
+  // The selection goes with the items: it is kept with them while the window is made anew.
+  if (HandleAllocated()) KeepSelection();
+  FItems->SetSorted(sorted);
+  if (!HandleAllocated()) return;
+  Send(*this, WM_SETREDRAW, FALSE);
+  Send(*this, FMessages.Reset);
+  FItems->FillWindow();
+  RestoreSelection();
+  Invalidate();
+}
+
+void TCustomListControl::KeepSelection() { FItems->SelectOnly(ItemIndex()); }
+
+void TCustomListControl::RestoreSelection() {
+  Send(*this, FMessages.SetSelected, static_cast<WPARAM>(FItems->FirstSelected()));
+}
+
+void TCustomListControl::CreateWnd() {
+  TWinControl::CreateWnd();
+  if (OwnerDraw()) Send(*this, FMessages.SetItemHeight, 0, FItemHeight);
+  FItems->FillWindow();
+  RestoreSelection();
+}
+
+void TCustomListControl::DestroyWnd() {
+  KeepSelection();
+  TWinControl::DestroyWnd();
+}
+
+void TCustomListControl::DrawItem(int index, const TRect& rect, TOwnerDrawState state) {
+  if (OnDrawItem) {
+    OnDrawItem(this, index, rect, state);
+  } else {
+    FCanvas->TextOut(rect.Left + 2, rect.Top, FItems->Strings(index));
+  }
+}
+
+void TCustomListControl::DrawFromWindow(const DRAWITEMSTRUCT& draw) {
+  const TOwnerDrawState state = StateOf(draw.itemState);
+  const bool selected = state.Has(odSelected);
+  const TRect rect = draw.rcItem;
+  const int index = static_cast<int>(draw.itemID);
+  TWatch watch(this);
+  TSavedDC saved(draw.hDC);
+  TCanvasBinding binding(*this, *FCanvas, draw.hDC);
+  FCanvas->SetFont(Font());
+  FCanvas->Brush()->SetColor(selected ? clHighlight : Color());
+  if (selected) FCanvas->Font()->SetColor(clHighlightText);
+  if (!Enabled()) FCanvas->Font()->SetColor(clGrayText);
+  FCanvas->FillRect(rect);
+  // The system also asks for a drop-down list's field while nothing is selected.
+  if (index >= 0 && index < FItems->Count()) DrawItem(index, rect, state);
+  if (!watch.Gone() && state.Has(odFocused)) FCanvas->DrawFocusRect(rect);
+}
+
+void TCustomListControl::Dispatch(TMessage& message) {
+  if (message.Msg != CN_DRAWITEM) return TWinControl::Dispatch(message);
+  message.Result = 1;
+  DrawFromWindow(*reinterpret_cast<const DRAWITEMSTRUCT*>(message.LParam));
+}
+
+void TCustomListControl::Loaded() {
+  TWinControl::Loaded();
+  if (FLoadedIndex != -1) SetItemIndex(std::exchange(FLoadedIndex, -1));
+}
+
+}  // namespace vcl

@@ -1,0 +1,68 @@
+// TCustomMemo and TMemo: text that the user edits, in many lines.
+#pragma once
+
+#include <memory>
+
+#include "vcl/rtl/strings.h"
+#include "vcl/stdctrls/edit.h"
+
+namespace vcl {
+
+class TMemoLines;
+
+enum TScrollStyle { ssNone, ssHorizontal, ssVertical, ssBoth };
+template <>
+inline constexpr TEnumText EnumText<TScrollStyle>{"TScrollStyle",
+                                                  "ssNone ssHorizontal ssVertical ssBoth"};
+
+class VCL_API TCustomMemo : public TCustomEdit {
+ public:
+  explicit TCustomMemo(TComponent* owner);
+  ~TCustomMemo() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  TAlignment Alignment() const { return FAlignment; }
+  void SetAlignment(TAlignment alignment);
+  /// The lines of the text as its ends of line divide it; where WordWrap breaks a line for show
+  /// does not count. Lines carry no objects: setting one raises EInvalidOperation.
+  TStrings* Lines() const;
+  void SetLines(const TStrings* lines);
+  TScrollStyle ScrollBars() const { return FScrollBars; }
+  void SetScrollBars(TScrollStyle scrollBars);
+  bool WantReturns() const { return FWantReturns; }
+  /// False: Enter goes to the form's default button; Ctrl+Enter begins a line.
+  void SetWantReturns(bool want) { FWantReturns = want; }
+  bool WantTabs() const { return FWantTabs; }
+  /// True: Tab is a character of the text instead of leaving the memo.
+  void SetWantTabs(bool want) { FWantTabs = want; }
+  bool WordWrap() const { return FWordWrap; }
+  /// Lines that are too long go on in the next row. Without effect beside a horizontal scroll bar.
+  void SetWordWrap(bool wordWrap);
+
+ protected:
+  bool MultiLine() const override { return true; }
+  void Change() override;
+  void CreateParams(TCreateParams& params) override;
+  void WndProc(TMessage& message) override;
+  void KeyPress(char32_t& key) override;
+
+ private:
+  DWORD WrapAndScrollStyle() const;
+
+  std::unique_ptr<TMemoLines> FLines;
+  TAlignment FAlignment = taLeftJustify;
+  TScrollStyle FScrollBars = ssNone;
+  bool FWantReturns = true;
+  bool FWantTabs = false;
+  bool FWordWrap = true;
+};
+
+class VCL_API TMemo : public TCustomMemo {
+ public:
+  explicit TMemo(TComponent* owner) : TCustomMemo(owner) {}
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+};
+
+}  // namespace vcl

@@ -1,0 +1,155 @@
+#include "vcl/stdctrls/private/listitems.h"
+
+#include <algorithm>
+
+#include "vcl/controls/windowmessages.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
+
+namespace vcl {
+namespace {
+
+/// The order of the user's language, as the system's own lists sort.
+bool Before(const std::string& a, const std::string& b) {
+  const std::wstring left = ToUtf16(a);
+  const std::wstring right = ToUtf16(b);
+  return ::CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, left.data(),
+                          static_cast<int>(left.size()), right.data(),
+                          static_cast<int>(right.size())) == CSTR_LESS_THAN;
+}
+
+}  // namespace
+
+const TListMessages ListBoxMessages{LB_INSERTSTRING, LB_DELETESTRING, LB_RESETCONTENT,
+                                    LB_GETCURSEL,    LB_SETCURSEL,    LB_GETSEL,
+                                    LB_SETSEL,       LB_SETITEMHEIGHT};
+const TListMessages ComboBoxMessages{
+    CB_INSERTSTRING, CB_DELETESTRING, CB_RESETCONTENT, CB_GETCURSEL, CB_SETCURSEL, 0, 0,
+    CB_SETITEMHEIGHT};
+
+TListItems::TLine& TListItems::Line(int index) {
+  CheckItem(index);
+  return FLines[static_cast<std::size_t>(index)];
+}
+
+const TListItems::TLine& TListItems::Line(int index) const {
+  CheckItem(index);
+  return FLines[static_cast<std::size_t>(index)];
+}
+
+std::string TListItems::Strings(int index) const { return Line(index).Text; }
+TObject* TListItems::Objects(int index) const { return Line(index).Object; }
+void TListItems::SetObjects(int index, TObject* object) { Line(index).Object = object; }
+
+void TListItems::RefuseWhenSorted() const {
+  if (FSorted) throw EStringListError("A sorted list puts its items in their places itself");
+}
+
+void TListItems::SetStrings(int index, const std::string& text) {
+  RefuseWhenSorted();
+  TLine& line = Line(index);
+  if (!FControl.HandleAllocated()) {
+    line.Text = text;
+    return;
+  }
+  // A window cannot change an item's text, only put another item in its place.
+  TObject* object = line.Object;
+  const bool selected = SelectedInWindow(index);
+  Delete(index);
+  InsertLine(index, text, object);
+  if (selected) SelectInWindow(index);
+}
+
+bool TListItems::SelectedInWindow(int index) const {
+  if (FMessages.GetItemSelected == 0) return Send(FControl, FMessages.GetSelected) == index;
+  return Send(FControl, FMessages.GetItemSelected, static_cast<WPARAM>(index)) > 0;
+}
+
+void TListItems::SelectInWindow(int index) {
+  // A list box with one selected item refuses the message that is for many.
+  const bool done =
+      FMessages.SetItemSelected != 0 && Send(FControl, FMessages.SetItemSelected, TRUE, index) >= 0;
+  if (!done) Send(FControl, FMessages.SetSelected, static_cast<WPARAM>(index));
+}
+
+int TListItems::SortedPlace(const std::string& text) const {
+  const auto place =
+      std::upper_bound(FLines.begin(), FLines.end(), text,
+                       [](const std::string& a, const TLine& b) { return Before(a, b.Text); });
+  return static_cast<int>(place - FLines.begin());
+}
+
+int TListItems::AddObject(const std::string& text, TObject* object) {
+  const int index = FSorted ? SortedPlace(text) : Count();
+  InsertLine(index, text, object);
+  return index;
+}
+
+void TListItems::InsertObject(int index, const std::string& text, TObject* object) {
+  RefuseWhenSorted();
+  CheckIndex(index, Count() + 1);
+  InsertLine(index, text, object);
+}
+
+void TListItems::InsertLine(int index, const std::string& text, TObject* object) {
+  // The line comes first: the window may ask for it to be drawn at once.
+  FLines.insert(FLines.begin() + index, TLine{text, object, false});
+  try {
+    if (FControl.HandleAllocated()) TellInserted(index, text);
+  } catch (...) {
+    FLines.erase(FLines.begin() + index);
+    throw;
+  }
+}
+
+void TListItems::TellInserted(int index, const std::string& text) {
+  const std::wstring wide = ToUtf16(text);
+  const LRESULT place = Send(FControl, FMessages.Insert, static_cast<WPARAM>(index),
+                             reinterpret_cast<LPARAM>(wide.c_str()));
+  if (place < 0) throw EOutOfResources(Concat("The list has no room for the item '", text, "'"));
+}
+
+void TListItems::Delete(int index) {
+  CheckItem(index);
+  FLines.erase(FLines.begin() + index);
+  SendIfAllocated(FControl, FMessages.Delete, static_cast<WPARAM>(index));
+}
+
+void TListItems::Clear() {
+  FLines.clear();
+  SendIfAllocated(FControl, FMessages.Reset);
+}
+
+void TListItems::SetSorted(bool sorted) {
+  FSorted = sorted;
+  if (!sorted) return;
+  std::ranges::stable_sort(FLines,
+                           [](const TLine& a, const TLine& b) { return Before(a.Text, b.Text); });
+}
+
+bool TListItems::Selected(int index) const { return Line(index).Selected; }
+void TListItems::SetSelected(int index, bool selected) { Line(index).Selected = selected; }
+
+int TListItems::FirstSelected() const {
+  const auto found = std::ranges::find_if(FLines, [](const TLine& line) { return line.Selected; });
+  return found == FLines.end() ? -1 : static_cast<int>(found - FLines.begin());
+}
+
+void TListItems::SelectOnly(int index) {
+  for (TLine& line : FLines) line.Selected = false;
+  if (index >= 0) Line(index).Selected = true;
+}
+
+void TListItems::FillWindow() {
+  Send(FControl, WM_SETREDRAW, FALSE);
+  for (int i = 0; i < Count(); ++i) TellInserted(i, FLines[static_cast<std::size_t>(i)].Text);
+  Send(FControl, WM_SETREDRAW, TRUE);
+}
+
+void TListItems::SetUpdateState(bool updating) {
+  SendIfAllocated(FControl, WM_SETREDRAW, !updating);
+  if (!updating) FControl.Invalidate();
+}
+
+}  // namespace vcl

@@ -1,0 +1,211 @@
+#include "vcl/stdctrls/speedbutton.h"
+
+#include "vcl/controls/private/accelerators.h"
+#include "vcl/controls/propertygroups.h"
+#include "vcl/controls/wincontrol.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/rtl/properties.h"
+
+namespace vcl {
+
+const TClass& TSpeedButton::Class() {
+  using T = TSpeedButton;
+  // GroupIndex stands before Down, which only a button of a group can be.
+  static const TClass info = Describe<T, TGraphicControl>(
+      "TSpeedButton", "buttons",
+      {
+          Property<&T::AllowAllUp, &T::SetAllowAllUp>("AllowAllUp").Default(false),
+          Property<&T::GroupIndex, &T::SetGroupIndex>("GroupIndex").Default(0),
+          Property<&T::Down, &T::SetDown>("Down").Default(false),
+          Inherit("Caption"),
+          Inherit("Enabled"),
+          Property<&T::Flat, &T::SetFlat>("Flat").Default(false),
+          Inherit("Font"),
+          Property<&T::Glyph, &T::SetGlyph>("Glyph"),
+          Property<&T::Layout, &T::SetLayout>("Layout").Default(blGlyphLeft),
+          Property<&T::Margin, &T::SetMargin>("Margin").Default(-1),
+          Property<&T::NumGlyphs, &T::SetNumGlyphs>("NumGlyphs").Default(1),
+          Inherit("ParentFont"),
+          Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),
+          Inherit("ShowHint"),
+          Property<&T::Spacing, &T::SetSpacing>("Spacing").Default(4),
+          Property<&T::Transparent, &T::SetTransparent>("Transparent").Default(true),
+          Inherit("Visible"),
+          Inherit("OnClick"),
+          Inherit("OnDblClick"),
+          Inherit(MouseEvents),
+      });
+  return info;
+}
+
+TSpeedButton::TSpeedButton(TComponent* owner)
+    : TGraphicControl(owner), FFace(TNotifyEvent(this, &TSpeedButton::Changed)) {
+  // It clicks by itself, when it comes up again.
+  SetControlStyle({csCaptureMouse, csDoubleClicks});
+  SetBounds(0, 0, 23, 22);
+}
+
+TSpeedButton::~TSpeedButton() { AnnounceEnd(); }
+
+void TSpeedButton::Changed(TObject* /*sender*/) { Invalidate(); }
+
+// The group.
+
+void TSpeedButton::SetDown(bool down) {
+  if (FGroupIndex == 0) down = false;
+  if (down == FDown || (FDown && !FAllowAllUp && FGroupIndex != 0)) return;
+  FDown = down;
+  Invalidate();
+  if (down) TellGroup();
+}
+
+void TSpeedButton::SetGroupIndex(int group) {
+  if (group == FGroupIndex) return;
+  FGroupIndex = group;
+  if (group == 0) SetDown(false);
+  TellGroup();
+}
+
+void TSpeedButton::SetAllowAllUp(bool allow) {
+  if (allow == FAllowAllUp) return;
+  FAllowAllUp = allow;
+  TellGroup();
+}
+
+void TSpeedButton::TellGroup() {
+  for (int i = 0; FGroupIndex != 0 && Parent() && i < Parent()->ControlCount(); ++i) {
+    auto* other = dynamic_cast<TSpeedButton*>(Parent()->Controls(i));
+    if (other && other != this && other->FGroupIndex == FGroupIndex) other->Follow(*this);
+  }
+}
+
+void TSpeedButton::Follow(const TSpeedButton& pressed) {
+  if (pressed.FDown && FDown) {
+    FDown = false;
+    Invalidate();
+  }
+  FAllowAllUp = pressed.FAllowAllUp;
+}
+
+// Look.
+
+void TSpeedButton::SetFlat(bool flat) {
+  if (flat == FFlat) return;
+  FFlat = flat;
+  Invalidate();
+}
+
+void TSpeedButton::SetTransparent(bool transparent) {
+  if (transparent == Transparent()) return;
+  const TControlStyle opaque{csOpaque};
+  SetControlStyle(transparent ? ControlStyle() - opaque : ControlStyle() + opaque);
+  Invalidate();
+}
+
+TFaceState TSpeedButton::FaceState() const {
+  if (!Enabled()) return TFaceState::Disabled;
+  if (FDown) return TFaceState::Exclusive;
+  return FPressed ? TFaceState::Down : TFaceState::Up;
+}
+
+bool TSpeedButton::ShowsEdge() const {
+  return !FFlat || FDown || FPressed || Designing() || (FHot && Enabled());
+}
+
+void TSpeedButton::DrawEdge(TRect& rect, bool down) {
+  RECT edge = rect;
+  if (FFlat) {
+    if (!Transparent()) {
+      Canvas()->Brush()->SetColor(clBtnFace);
+      Canvas()->FillRect(rect);
+    }
+    if (ShowsEdge()) {
+      ::DrawEdge(Canvas()->Handle(), &edge, down ? BDR_SUNKENOUTER : BDR_RAISEDINNER, BF_RECT);
+    }
+    rect.Inflate(-1, -1);
+    return;
+  }
+  ::DrawFrameControl(Canvas()->Handle(), &edge, DFC_BUTTON,
+                     DFCS_BUTTONPUSH | DFCS_ADJUSTRECT | (down ? DFCS_PUSHED : 0u));
+  rect = edge;
+}
+
+void TSpeedButton::Paint() {
+  TRect rect = ClientRect();
+  const bool down = FDown || FPressed;
+  DrawEdge(rect, down);
+  const TFaceState state = FaceState();
+  // One that stays down is lighter than its surroundings, save a flat one under the mouse.
+  if (state == TFaceState::Exclusive && !(FFlat && FHot)) {
+    Canvas()->Brush()->SetColor(cl3DLight);
+    Canvas()->FillRect(rect);
+  }
+  Canvas()->SetFont(Font());
+  if (down) rect.Offset(1, 1);
+  FFace.Draw(Canvas(), rect, Caption(), state);
+}
+
+// Input.
+
+void TSpeedButton::SetPressed(bool pressed) {
+  if (pressed == FPressed) return;
+  FPressed = pressed;
+  Repaint();
+}
+
+void TSpeedButton::SetHot(bool hot) {
+  if (hot == FHot) return;
+  FHot = hot;
+  if (FFlat) Invalidate();
+}
+
+void TSpeedButton::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
+  TWatch watch(this);
+  TGraphicControl::MouseDown(button, shift, x, y);
+  if (watch.Gone() || button != mbLeft || !Enabled()) return;
+  FTracking = true;
+  SetPressed(true);
+  if (!watch.Gone() && FDown && shift.Has(ssDouble)) DblClick();
+}
+
+void TSpeedButton::MouseMove(TShiftState shift, int x, int y) {
+  TWatch watch(this);
+  TGraphicControl::MouseMove(shift, x, y);
+  if (!watch.Gone() && FTracking) SetPressed(ClientRect().Contains({x, y}));
+}
+
+void TSpeedButton::MouseUp(TMouseButton button, TShiftState shift, int x, int y) {
+  TWatch watch(this);
+  TGraphicControl::MouseUp(button, shift, x, y);
+  if (watch.Gone() || button != mbLeft || !FTracking) return;
+  FTracking = false;
+  SetPressed(false);
+  if (watch.Gone() || !ClientRect().Contains({x, y})) return;
+  if (FGroupIndex != 0) SetDown(!FDown);
+  Click();
+}
+
+void TSpeedButton::Click() { TGraphicControl::Click(); }
+
+void TSpeedButton::Dispatch(TMessage& message) {
+  const bool accelerated = message.Msg == CM_DIALOGCHAR && IsAccel(message.WParam, Caption()) &&
+                           Enabled() && Visible() && Parent() && Parent()->Showing();
+  if (accelerated) {
+    message.Result = 1;
+    return Click();
+  }
+  TWatch watch(this);
+  TGraphicControl::Dispatch(message);
+  if (watch.Gone()) return;
+  switch (message.Msg) {
+    case CM_MOUSEENTER:
+    case CM_MOUSELEAVE: return SetHot(message.Msg == CM_MOUSEENTER);
+    case CM_TEXTCHANGED: return Invalidate();
+    case CM_ENABLEDCHANGED:
+    case WM_CANCELMODE: FTracking = false; return SetPressed(false);
+    default: return;
+  }
+}
+
+}  // namespace vcl

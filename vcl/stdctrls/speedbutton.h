@@ -1,0 +1,76 @@
+// TSpeedButton: a button without a window, which never takes the focus and may stay down.
+#pragma once
+
+#include "vcl/controls/control.h"
+#include "vcl/stdctrls/buttonface.h"
+
+namespace vcl {
+
+/// A button of a tool bar. Those of one parent with the same GroupIndex, other than 0, are a group:
+/// they stay down when they are clicked, one at a time. See TButtonFace for the glyph and where it
+/// stands.
+class VCL_API TSpeedButton : public TGraphicControl {
+ public:
+  explicit TSpeedButton(TComponent* owner);
+  ~TSpeedButton() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  bool AllowAllUp() const { return FAllowAllUp; }
+  /// True lets a click take the group's button that is down up again. Holds for the whole group.
+  void SetAllowAllUp(bool allow);
+  int GroupIndex() const { return FGroupIndex; }
+  /// 0 is no group.
+  void SetGroupIndex(int group);
+  bool Down() const { return FDown; }
+  /// Has a button of a group stay down, and takes up the one that was. What is down goes up only
+  /// where AllowAllUp is true.
+  void SetDown(bool down);
+  bool Flat() const { return FFlat; }
+  /// True shows the edge only while the mouse is over the button or it is down.
+  void SetFlat(bool flat);
+  bool Transparent() const { return !ControlStyle().Has(csOpaque); }
+  /// True lets a flat button show what is behind it.
+  void SetTransparent(bool transparent);
+
+  TBitmap* Glyph() const { return FFace.Glyph(); }
+  void SetGlyph(const TBitmap* glyph) { FFace.SetGlyph(glyph); }
+  TNumGlyphs NumGlyphs() const { return FFace.NumGlyphs(); }
+  void SetNumGlyphs(TNumGlyphs count) { FFace.SetNumGlyphs(count); }
+  TButtonLayout Layout() const { return FFace.Layout(); }
+  void SetLayout(TButtonLayout layout) { FFace.SetLayout(layout); }
+  int Margin() const { return FFace.Margin(); }
+  void SetMargin(int margin) { FFace.SetMargin(margin); }
+  int Spacing() const { return FFace.Spacing(); }
+  void SetSpacing(int spacing) { FFace.SetSpacing(spacing); }
+  /// Fires OnClick.
+  void Click() override;
+
+ protected:
+  void Paint() override;
+  void MouseDown(TMouseButton button, TShiftState shift, int x, int y) override;
+  void MouseMove(TShiftState shift, int x, int y) override;
+  void MouseUp(TMouseButton button, TShiftState shift, int x, int y) override;
+  void Dispatch(TMessage& message) override;
+
+ private:
+  void Changed(TObject* sender);
+  TFaceState FaceState() const;
+  bool ShowsEdge() const;
+  void DrawEdge(TRect& rect, bool down);
+  void SetPressed(bool pressed);
+  void SetHot(bool hot);
+  void TellGroup();
+  void Follow(const TSpeedButton& pressed);
+
+  mutable TButtonFace FFace;
+  int FGroupIndex = 0;
+  bool FAllowAllUp = false;
+  bool FDown = false;
+  bool FFlat = false;
+  bool FTracking = false;  // The mouse went down on the button and is still down.
+  bool FPressed = false;   // It looks pressed: the mouse is down, and over the button.
+  bool FHot = false;       // The mouse is over the button.
+};
+
+}  // namespace vcl

@@ -1,0 +1,90 @@
+// TStatusBar: a line at a form's foot that tells how things stand, in one text or in panels.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "vcl/controls/wincontrol.h"
+#include "vcl/rtl/collection.h"
+
+namespace vcl {
+
+enum TStatusPanelBevel { pbNone, pbLowered, pbRaised };
+template <>
+inline constexpr TEnumText EnumText<TStatusPanelBevel>{"TStatusPanelBevel",
+                                                       "pbNone pbLowered pbRaised"};
+
+class VCL_API TStatusPanel : public TCollectionItem {
+ public:
+  explicit TStatusPanel(TCollection* collection) : TCollectionItem(collection) {}
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+  void Assign(const TPersistent* source) override;
+  std::string DisplayName() const override;
+
+  TAlignment Alignment() const { return FAlignment; }
+  void SetAlignment(TAlignment alignment);
+  TStatusPanelBevel Bevel() const { return FBevel; }
+  void SetBevel(TStatusPanelBevel bevel);
+  const std::string& Text() const { return FText; }
+  void SetText(const std::string& text);
+  int Width() const { return FWidth; }
+  /// In pixels; the last panel takes what is left. A negative width is taken as 0.
+  void SetWidth(int width);
+
+ private:
+  template <class T>
+  void Change(T& field, const T& value);
+
+  TAlignment FAlignment = taLeftJustify;
+  TStatusPanelBevel FBevel = pbLowered;
+  std::string FText;
+  int FWidth = 50;
+};
+
+class VCL_API TStatusPanels : public TCollection {
+ public:
+  TStatusPanels() : TCollection(TStatusPanel::Class()) {}
+  /// The panel at the index from 0. Raises EListError outside.
+  TStatusPanel* Items(int index) const {
+    return static_cast<TStatusPanel*>(TCollection::Items(index));
+  }
+  TStatusPanel* Add() { return static_cast<TStatusPanel*>(TCollection::Add()); }
+};
+
+/// The system's status bar.
+class VCL_API TStatusBar : public TWinControl {
+ public:
+  explicit TStatusBar(TComponent* owner);
+  ~TStatusBar() override;
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  TStatusPanels* Panels() const { return FPanels.get(); }
+  void SetPanels(const TCollection* panels) { FPanels->Assign(panels); }
+  bool SimplePanel() const { return FSimplePanel; }
+  /// True: SimpleText takes the whole bar, and the panels are hidden.
+  void SetSimplePanel(bool simple);
+  const std::string& SimpleText() const { return FSimpleText; }
+  void SetSimpleText(const std::string& text);
+  bool SizeGrip() const { return FSizeGrip; }
+  /// A corner to drag the form's size with.
+  void SetSizeGrip(bool sizeGrip);
+
+ protected:
+  void CreateParams(TCreateParams& params) override;
+  void CreateWnd() override;
+
+ private:
+  void PanelsChanged(TCollectionItem* item);
+  void UpdatePanels();
+  void UpdatePanel(const TStatusPanel& panel);
+  void UpdateSimple();
+
+  std::unique_ptr<TStatusPanels> FPanels;
+  std::string FSimpleText;
+  bool FSimplePanel = false;
+  bool FSizeGrip = true;
+};
+
+}  // namespace vcl
