@@ -12,6 +12,7 @@
 #include "vcl/rtl/classregistry.h"
 #include "vcl/rtl/formfile.h"
 #include "vcl/rtl/streams.h"
+#include "vcl/rtl/win32.h"
 
 namespace bench {
 

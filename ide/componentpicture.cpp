@@ -1,6 +1,7 @@
 #include "ide/componentpicture.h"
 
 #include "ide/paletteicons.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

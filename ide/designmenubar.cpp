@@ -4,6 +4,7 @@
 
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ide/cppnames.h"
+#include "ide/cppkeywords.h"
 #include "ide/standins.h"
 #include "vcl/designintf/componenteditor.h"
 #include "vcl/rtl/convert.h"

@@ -1,6 +1,5 @@
 #include "ide/formunit.h"
 
-#include "ide/cppnames.h"
 #include "ide/cpptext.h"
 #include "ide/standins.h"
 #include "vcl/rtl/exceptions.h"
@@ -21,14 +20,15 @@ bool IsKnown(const TComponent& component) {
   return !IsStandIn(component) && (!kept || (kept->Properties.empty() && kept->Children.empty()));
 }
 
+/// What a form's unit includes for a class: one header for all of this library's.
+std::string HeaderOf(const TClass& type) {
+  return type.Header().starts_with("vcl/") ? "vcl/vcl.h" : type.Header();
+}
+
 void AddField(TComponent& component, TUnitForm& form) {
-  const TCppClass type = CppClassOf(component.ClassType());
-  if (type.Name.empty()) {
-    form.Fields.push_back({component.Name(), {}, {}});
-    return;
-  }
-  TUnitField field{component.Name(), {type.Name}, type.Header};
-  for (const TClass* each = component.ClassType().Parent(); each; each = each->Parent()) {
+  const TClass& type = component.ClassType();
+  TUnitField field{component.Name(), {type.CppName()}, HeaderOf(type)};
+  for (const TClass* each = type.Parent(); each; each = each->Parent()) {
     field.Classes.push_back(each->Name());
   }
   form.Fields.push_back(std::move(field));
@@ -67,8 +67,7 @@ TUnitForm UnitFormOf(TComponent& root, const THandlers& handlers, const std::str
     notes.push_back("The form holds what the designer doesn't know; nothing is removed");
   }
   for (const auto& [name, event] : handlers.All(root)) {
-    const std::string type(event->TypeName());
-    form.Handlers.push_back({name, type, std::string(ParametersOf(type))});
+    form.Handlers.push_back({name, std::string(event->TypeName()), std::string(event->Parameters)});
   }
   return form;
 }

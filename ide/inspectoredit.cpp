@@ -1,6 +1,7 @@
 #include "ide/inspectoredit.h"
 
 #include "vcl/controls/windowmessages.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

@@ -6,6 +6,7 @@
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/rtl/strings.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

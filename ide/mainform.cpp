@@ -16,7 +16,7 @@ using namespace vcl;
 const TClass& TMainForm::Class() {
   using T = TMainForm;
   static const TClass info =
-      Describe<T, TForm>("TMainForm", "mainform",
+      Describe<T, TForm>("ide::TMainForm", "ide/mainform.h",
                          {
                              Field<&T::PalettePanel>("PalettePanel"),
                              Field<&T::SidePanel>("SidePanel"),

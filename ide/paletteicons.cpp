@@ -7,6 +7,7 @@
 #include "vcl/forms/module.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/resources.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

@@ -5,6 +5,7 @@
 #include "ide/paletteicons.h"
 #include "vcl/graphics/canvas.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

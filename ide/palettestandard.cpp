@@ -6,7 +6,7 @@
 #include "vcl/db/memorydataset.h"
 #include "vcl/db/odbcquery.h"
 #include "vcl/dbctrls/dbedit.h"
-#include "vcl/dbctrls/dbgrid.h"
+#include "vcl/dbctrls/dbgrids.h"
 #include "vcl/net/sockets.h"
 #include "vcl/stdctrls/buttons.h"
 #include "vcl/vcl.h"

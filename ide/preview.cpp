@@ -12,6 +12,7 @@
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

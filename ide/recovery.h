@@ -7,6 +7,7 @@
 
 #include "ide/settings.h"
 #include "vcl/graphics/handles.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

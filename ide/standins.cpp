@@ -12,13 +12,13 @@ using namespace vcl;
 const TClass& TStandInControl::Class() {
   // The class itself publishes nothing but its place, which is what every control's file gives.
   static const TClass info =
-      Describe<TStandInControl, TCustomControl>("TStandInControl", "standins", {});
+      Describe<TStandInControl, TCustomControl>("ide::TStandInControl", "ide/standins.h", {});
   return info;
 }
 
 const TClass& TStandInComponent::Class() {
   static const TClass info =
-      Describe<TStandInComponent, TComponent>("TStandInComponent", "standins", {});
+      Describe<TStandInComponent, TComponent>("ide::TStandInComponent", "ide/standins.h", {});
   return info;
 }
 

@@ -6,6 +6,7 @@
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 

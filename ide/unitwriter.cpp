@@ -4,7 +4,7 @@
 #include <set>
 #include <utility>
 
-#include "ide/cppnames.h"
+#include "ide/cppkeywords.h"
 #include "ide/unitparts.h"
 #include "vcl/rtl/text.h"
 

@@ -4,6 +4,7 @@
 
 #include "vcl/graphics/graphics.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace ide {
 
@@ -11,7 +12,7 @@ using namespace vcl;
 
 const TClass& TWorkspace::Class() {
   static const TClass info = Describe<TWorkspace, TCustomControl>(
-      "TWorkspace", "workspace", {Inherit("Align"), Inherit("TabOrder")});
+      "ide::TWorkspace", "ide/workspace.h", {Inherit("Align"), Inherit("TabOrder")});
   return info;
 }
 

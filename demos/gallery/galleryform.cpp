@@ -10,7 +10,7 @@ using namespace vcl;
 const TClass& TGalleryForm::Class() {
   using T = TGalleryForm;
   static const TClass info =
-      Describe<T, TForm>("TGalleryForm", "galleryform",
+      Describe<T, TForm>("gallery::TGalleryForm", "demos/gallery/galleryform.h",
                          {
                              Field<&T::Pages>("Pages"),
                              Field<&T::StatusPanel>("StatusPanel"),

@@ -3,6 +3,7 @@
 #include "demos/gallery/galleryform.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/screen.h"
+#include "vcl/rtl/win32.h"
 
 namespace gallery {
 

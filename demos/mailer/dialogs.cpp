@@ -11,7 +11,7 @@ using namespace vcl;
 
 const TClass& TComposeForm::Class() {
   using T = TComposeForm;
-  static const TClass info = Describe<T, TForm>("TComposeForm", "dialogs",
+  static const TClass info = Describe<T, TForm>("mailer::TComposeForm", "demos/mailer/dialogs.h",
                                                 {
                                                     Field<&T::ToEdit>("ToEdit"),
                                                     Field<&T::SubjectEdit>("SubjectEdit"),
@@ -78,7 +78,7 @@ void TComposeForm::SendClick(TObject*) {
 
 const TClass& TAccountForm::Class() {
   using T = TAccountForm;
-  static const TClass info = Describe<T, TForm>("TAccountForm", "dialogs",
+  static const TClass info = Describe<T, TForm>("mailer::TAccountForm", "demos/mailer/dialogs.h",
                                                 {
                                                     Field<&T::NameEdit>("NameEdit"),
                                                     Field<&T::AddressEdit>("AddressEdit"),

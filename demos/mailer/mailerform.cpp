@@ -12,7 +12,7 @@ using namespace vcl;
 const TClass& TMailerForm::Class() {
   using T = TMailerForm;
   static const TClass info =
-      Describe<T, TForm>("TMailerForm", "mailerform",
+      Describe<T, TForm>("mailer::TMailerForm", "demos/mailer/mailerform.h",
                          {
                              Field<&T::ComposeButton>("ComposeButton"),
                              Field<&T::FetchButton>("FetchButton"),

@@ -10,6 +10,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace mailer {
 

@@ -11,7 +11,7 @@ using namespace vcl;
 
 const TClass& TOptionsForm::Class() {
   using T = TOptionsForm;
-  static const TClass info = Describe<T, TForm>("TOptionsForm", "dialogs",
+  static const TClass info = Describe<T, TForm>("notes::TOptionsForm", "demos/notes/dialogs.h",
                                                 {
                                                     Field<&T::KeepEdit>("KeepEdit"),
                                                     Field<&T::EndsCombo>("EndsCombo"),
@@ -39,7 +39,7 @@ void TOptionsForm::Take(TOptions& options) const {
 const TClass& TFindForm::Class() {
   using T = TFindForm;
   static const TClass info =
-      Describe<T, TForm>("TFindForm", "dialogs",
+      Describe<T, TForm>("notes::TFindForm", "demos/notes/dialogs.h",
                          {
                              Field<&T::WhatEdit>("WhatEdit"),
                              Field<&T::MatchCaseBox>("MatchCaseBox"),
@@ -68,7 +68,7 @@ void TFindForm::CloseButtonClick(TObject*) { Close(); }
 
 const TClass& TAboutForm::Class() {
   using T = TAboutForm;
-  static const TClass info = Describe<T, TForm>("TAboutForm", "dialogs",
+  static const TClass info = Describe<T, TForm>("notes::TAboutForm", "demos/notes/dialogs.h",
                                                 {
                                                     Field<&T::PictureImage>("PictureImage"),
                                                     Field<&T::TitleLabel>("TitleLabel"),

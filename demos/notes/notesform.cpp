@@ -6,6 +6,7 @@
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace notes {
 
@@ -22,7 +23,7 @@ constexpr ULONG_PTR FileToOpen = 0x4E6F7465;  // What a copy sends.
 const TClass& TNotesForm::Class() {
   using T = TNotesForm;
   static const TClass info =
-      Describe<T, TForm>("TNotesForm", "notesform",
+      Describe<T, TForm>("notes::TNotesForm", "demos/notes/notesform.h",
                          {
                              Field<&T::Editor>("Editor"),
                              Field<&T::StatusBar>("StatusBar"),

@@ -5,6 +5,7 @@
 #include "demos/notes/notesform.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace notes {
 

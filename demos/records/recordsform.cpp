@@ -21,28 +21,29 @@ std::string NamePart(const std::string& path) { return path.substr(path.find_las
 
 const TClass& TRecordsForm::Class() {
   using T = TRecordsForm;
-  static const TClass info = Describe<T, TForm>("TRecordsForm", "recordsform",
-                                                {
-                                                    Field<&T::Query>("Query"),
-                                                    Field<&T::TransferQuery>("TransferQuery"),
-                                                    Field<&T::Transfer>("Transfer"),
-                                                    Field<&T::Gauge>("Gauge"),
-                                                    Field<&T::StatusBar>("StatusBar"),
-                                                    Field<&T::OpenDialog>("OpenDialog"),
-                                                    Field<&T::SaveDialog>("SaveDialog"),
-                                                    Field<&T::PostButton>("PostButton"),
-                                                    Field<&T::CancelButton>("CancelButton"),
-                                                    Method<&T::StateChange>("StateChange"),
-                                                    Method<&T::AddClick>("AddClick"),
-                                                    Method<&T::PostClick>("PostClick"),
-                                                    Method<&T::CancelClick>("CancelClick"),
-                                                    Method<&T::DeleteClick>("DeleteClick"),
-                                                    Method<&T::ExportClick>("ExportClick"),
-                                                    Method<&T::ImportClick>("ImportClick"),
-                                                    Method<&T::RecordWritten>("RecordWritten"),
-                                                    Method<&T::RecordRead>("RecordRead"),
-                                                    Method<&T::RecordRefused>("RecordRefused"),
-                                                });
+  static const TClass info =
+      Describe<T, TForm>("records::TRecordsForm", "demos/records/recordsform.h",
+                         {
+                             Field<&T::Query>("Query"),
+                             Field<&T::TransferQuery>("TransferQuery"),
+                             Field<&T::Transfer>("Transfer"),
+                             Field<&T::Gauge>("Gauge"),
+                             Field<&T::StatusBar>("StatusBar"),
+                             Field<&T::OpenDialog>("OpenDialog"),
+                             Field<&T::SaveDialog>("SaveDialog"),
+                             Field<&T::PostButton>("PostButton"),
+                             Field<&T::CancelButton>("CancelButton"),
+                             Method<&T::StateChange>("StateChange"),
+                             Method<&T::AddClick>("AddClick"),
+                             Method<&T::PostClick>("PostClick"),
+                             Method<&T::CancelClick>("CancelClick"),
+                             Method<&T::DeleteClick>("DeleteClick"),
+                             Method<&T::ExportClick>("ExportClick"),
+                             Method<&T::ImportClick>("ImportClick"),
+                             Method<&T::RecordWritten>("RecordWritten"),
+                             Method<&T::RecordRead>("RecordRead"),
+                             Method<&T::RecordRefused>("RecordRefused"),
+                         });
   return info;
 }
 

@@ -7,7 +7,7 @@
 #include "qel/data/Qeltdbascii.h"
 #include "vcl/db/odbcquery.h"
 #include "vcl/dbctrls/dbedit.h"
-#include "vcl/dbctrls/dbgrid.h"
+#include "vcl/dbctrls/dbgrids.h"
 #include "vcl/dialogs/dialogs.h"
 #include "vcl/forms/forms.h"
 #include "vcl/stdctrls/comctrls.h"

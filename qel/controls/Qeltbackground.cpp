@@ -5,6 +5,7 @@
 #include "qel/controls/private/picturecache.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -99,7 +100,7 @@ const vcl::TClass& TQELBackground::Class() {
   using T = TQELBackground;
   using namespace vcl;
   static const TClass info = Describe<T, TQELCustomBackground>(
-      "TQELBackground", "Qeltbackground",
+      "qel::TQELBackground", "qel/controls/Qeltbackground.h",
       {
           Property<&T::Texture, &T::SetTexture>("Texture"),
           Property<&T::Gradient, &T::SetGradient>("Gradient"),

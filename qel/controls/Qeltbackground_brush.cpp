@@ -2,6 +2,7 @@
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/private/picturecache.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -77,7 +78,7 @@ const vcl::TClass& TQELBrushFill::Class() {
   using T = TQELBrushFill;
   using namespace vcl;
   static const TClass info = Describe<T, TGraphicsObject>(
-      "TQELBrushFill", "Qeltbackground",
+      "qel::TQELBrushFill", "qel/controls/Qeltbackground.h",
       {
           Property<&T::BrushStyle, &T::SetBrushStyle>("BrushStyle").Default(bsSolid),
           Property<&T::BrushColor, &T::SetBrushColor>("BrushColor").Default(clBtnFace),

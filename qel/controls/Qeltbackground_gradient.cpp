@@ -103,7 +103,7 @@ const vcl::TClass& TQELGradient::Class() {
   using T = TQELGradient;
   using namespace vcl;
   static const TClass info = Describe<T, TGraphicsObject>(
-      "TQELGradient", "Qeltbackground",
+      "qel::TQELGradient", "qel/controls/Qeltbackground.h",
       {
           // The two colours are set by the constructor and have no declared default: always
           // written.

@@ -3,6 +3,7 @@
 
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/private/surface.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 

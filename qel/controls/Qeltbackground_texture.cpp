@@ -6,6 +6,7 @@
 #include "qel/controls/private/picturecache.h"
 #include "qel/core/private/Qelownedsettings.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -165,7 +166,7 @@ const vcl::TClass& TQELTexture::Class() {
   using T = TQELTexture;
   using namespace vcl;
   static const TClass info = Describe<T, TGraphicsObject>(
-      "TQELTexture", "Qeltbackground",
+      "qel::TQELTexture", "qel/controls/Qeltbackground.h",
       {
           Property<&T::Image, &T::SetImage>("Image"),
           Property<&T::ImageStyle, &T::SetImageStyle>("ImageStyle").Default(isTile),

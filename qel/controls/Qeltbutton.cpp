@@ -4,6 +4,7 @@
 #include "vcl/controls/propertygroups.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -27,7 +28,7 @@ const vcl::TClass& TQELButton::Class() {
   using T = TQELButton;
   using namespace vcl;
   static const TClass info = Describe<T, TQELCustomControl>(
-      "TQELButton", "Qeltbutton",
+      "qel::TQELButton", "qel/controls/Qeltbutton.h",
       {
           Inherit("About"),
           Property<&T::Font3D, &T::Set3D>("Font3D"),

@@ -9,6 +9,7 @@
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -40,7 +41,7 @@ const vcl::TClass& TQELGauge::Class() {
   using T = TQELGauge;
   using namespace vcl;
   static const TClass info = Describe<T, TQELGraphicControl>(
-      "TQELGauge", "Qeltgauge",
+      "qel::TQELGauge", "qel/controls/Qeltgauge.h",
       {
           Inherit("Align"),
           Inherit("Cursor"),

@@ -100,7 +100,7 @@ const vcl::TClass& TQELHint::Class() {
   using T = TQELHint;
   using namespace vcl;
   static const TClass info = Describe<T, TQELComponent>(
-      "TQELHint", "Qelthint",
+      "qel::TQELHint", "qel/controls/Qelthint.h",
       {
           Property<&T::Font3D, &T::SetFont3D>("Font3D"),
           Property<&T::Speechbubble, &T::SetSpeechbubble>("Speechbubble"),

@@ -21,7 +21,8 @@ using TOnSelectHintDirection = vcl::TEvent<vcl::TControl*, TQELDirectionB&>;
 }  // namespace qel
 
 template <>
-inline constexpr const char* vcl::EventName<qel::TOnSelectHintDirection> = "TOnSelectHintDirection";
+inline constexpr vcl::TEventText vcl::EventText<qel::TOnSelectHintDirection>{
+    "TOnSelectHintDirection", "vcl::TControl* control, qel::TQELDirectionB& direction"};
 
 namespace qel {
 

@@ -6,6 +6,7 @@
 #include "qel/controls/Qelthint.h"
 #include "qel/controls/private/surface.h"
 #include "qel/core/Qelclasses2.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 

@@ -5,6 +5,7 @@
 
 #include "qel/controls/Qelthint.h"
 #include "vcl/forms/screen.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 

@@ -3,12 +3,13 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/forms.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
 const vcl::TClass& TQELNewHint::Class() {
   static const vcl::TClass info =
-      vcl::Describe<TQELNewHint, THintWindow>("TQELNewHint", "Qelthint", {});
+      vcl::Describe<TQELNewHint, THintWindow>("qel::TQELNewHint", "qel/controls/Qelthint.h", {});
   return info;
 }
 

@@ -4,6 +4,7 @@
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -13,7 +14,7 @@ const vcl::TClass& TQELLabel::Class() {
   using T = TQELLabel;
   using namespace vcl;
   static const TClass info = Describe<T, TCustomLabel>(
-      "TQELLabel", "Qeltlabel",
+      "qel::TQELLabel", "qel/controls/Qeltlabel.h",
       {
           ReadOnly<&T::About>("About"),
           Inherit("Align"),

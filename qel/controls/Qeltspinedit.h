@@ -7,6 +7,7 @@
 
 #include "qel/core/Qelclasses.h"
 #include "qel/core/Qelcontrols.h"
+#include "vcl/rtl/systemmacros.h"
 #include "vcl/stdctrls/edit.h"
 
 namespace qel {

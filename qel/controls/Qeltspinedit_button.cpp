@@ -7,6 +7,7 @@
 #include "qel/core/Qelfunctions.h"
 #include "qel/core/private/arithmetic.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -27,7 +28,7 @@ const vcl::TClass& TQELCustomSpinButton::Class() {
   using T = TQELCustomSpinButton;
   using namespace vcl;
   static const TClass info = Describe<T, TQELGraphicControl>(
-      "TQELCustomSpinButton", "Qeltspinedit",
+      "qel::TQELCustomSpinButton", "qel/controls/Qeltspinedit.h",
       {
           Inherit("Enabled"),
           Inherit("ShowHint"),
@@ -41,7 +42,7 @@ const vcl::TClass& TQELCustomSpinButton::Class() {
 
 const vcl::TClass& TQELSpinButton::Class() {
   static const vcl::TClass info = vcl::Describe<TQELSpinButton, TQELCustomSpinButton>(
-      "TQELSpinButton", "Qeltspinedit", {vcl::Inherit("About")});
+      "qel::TQELSpinButton", "qel/controls/Qeltspinedit.h", {vcl::Inherit("About")});
   return info;
 }
 

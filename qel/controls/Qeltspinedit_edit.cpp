@@ -9,6 +9,7 @@
 #include "vcl/forms/forms.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -29,7 +30,7 @@ const vcl::TClass& TQELCustomSpinEdit::Class() {
   using T = TQELCustomSpinEdit;
   using namespace vcl;
   static const TClass info = Describe<T, TCustomEdit>(
-      "TQELCustomSpinEdit", "Qeltspinedit",
+      "qel::TQELCustomSpinEdit", "qel/controls/Qeltspinedit.h",
       {
           Inherit("AutoSelect"),
           Inherit("AutoSize"),
@@ -73,7 +74,8 @@ const vcl::TClass& TQELCustomSpinEdit::Class() {
 
 const vcl::TClass& TQELSpinEdit::Class() {
   static const vcl::TClass info = vcl::Describe<TQELSpinEdit, TQELCustomSpinEdit>(
-      "TQELSpinEdit", "Qeltspinedit", {vcl::ReadOnly<&TQELSpinEdit::About>("About")});
+      "qel::TQELSpinEdit", "qel/controls/Qeltspinedit.h",
+      {vcl::ReadOnly<&TQELSpinEdit::About>("About")});
   return info;
 }
 

@@ -32,7 +32,7 @@ const vcl::TClass& TQELButtonDetails::Class() {
   using namespace vcl;
   // The constructor leaves ShowHint false: form files say so of all details that keep it.
   static const TClass info = Describe<T, TPersistent>(
-      "TQELButtonDetails", "Qelclasses2",
+      "qel::TQELButtonDetails", "qel/core/Qelclasses2.h",
       {
           Property<&T::Glyph, &T::Setglyph>("Glyph"),
           Property<&T::Visible, &T::SetVisible>("Visible").Default(true),

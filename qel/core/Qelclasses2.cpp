@@ -8,6 +8,7 @@
 #include "vcl/forms/forms.h"
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/imagelist.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 

@@ -58,19 +58,20 @@ void TQELExecComponent::DoExec(const std::string& value) {
 
 const vcl::TClass& TQELAbout::Class() {
   static const vcl::TClass info =
-      vcl::Describe<TQELAbout, TPersistent>("TQELAbout", "Qelclasses", {});
+      vcl::Describe<TQELAbout, TPersistent>("qel::TQELAbout", "qel/core/Qelclasses.h", {});
   return info;
 }
 
 const vcl::TClass& TQELComponent::Class() {
   static const vcl::TClass info = vcl::Describe<TQELComponent, TComponent>(
-      "TQELComponent", "Qelclasses", {vcl::ReadOnly<&TQELComponent::About>("About").Stored(false)});
+      "qel::TQELComponent", "qel/core/Qelclasses.h",
+      {vcl::ReadOnly<&TQELComponent::About>("About").Stored(false)});
   return info;
 }
 
 const vcl::TClass& TQELExecComponent::Class() {
   static const vcl::TClass info = vcl::Describe<TQELExecComponent, TQELComponent>(
-      "TQELExecComponent", "Qelclasses",
+      "qel::TQELExecComponent", "qel/core/Qelclasses.h",
       {vcl::Property<&TQELExecComponent::DesignExecute, &TQELExecComponent::DoExec>("DesignExecute")
            .Stored(false)});
   return info;

@@ -16,7 +16,7 @@ bool TQELCustomDialog::Execute() {
 
 const vcl::TClass& TQELCustomDialog::Class() {
   static const vcl::TClass info = vcl::Describe<TQELCustomDialog, TQELExecComponent>(
-      "TQELCustomDialog", "Qelclasses",
+      "qel::TQELCustomDialog", "qel/core/Qelclasses.h",
       {vcl::Property<&TQELCustomDialog::Sound, &TQELCustomDialog::SetSound>("Sound").Default(
           bNone)});
   return info;

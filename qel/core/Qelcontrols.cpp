@@ -67,8 +67,8 @@ TQELGraphicControl::TQELGraphicControl(vcl::TComponent* owner)
 TQELGraphicControl::~TQELGraphicControl() = default;
 
 const vcl::TClass& TQELCustomBackground::Class() {
-  static const vcl::TClass info =
-      vcl::Describe<TQELCustomBackground, TQELComponent>("TQELCustomBackground", "Qelcontrols", {});
+  static const vcl::TClass info = vcl::Describe<TQELCustomBackground, TQELComponent>(
+      "qel::TQELCustomBackground", "qel/core/Qelcontrols.h", {});
   return info;
 }
 
@@ -76,7 +76,7 @@ const vcl::TClass& TQELCustomControl::Class() {
   using T = TQELCustomControl;
   using namespace vcl;
   static const TClass info = Describe<T, TWinControl>(
-      "TQELCustomControl", "Qelcontrols",
+      "qel::TQELCustomControl", "qel/core/Qelcontrols.h",
       {
           ReadOnly<&T::About>("About").Unpublished(),
           Property<&T::Background, &T::SetBack>("Background").Type("TQELBackground").Unpublished(),
@@ -86,7 +86,8 @@ const vcl::TClass& TQELCustomControl::Class() {
 
 const vcl::TClass& TQELGraphicControl::Class() {
   static const vcl::TClass info = vcl::Describe<TQELGraphicControl, TGraphicControl>(
-      "TQELGraphicControl", "Qelcontrols", {vcl::ReadOnly<&TQELGraphicControl::About>("About")});
+      "qel::TQELGraphicControl", "qel/core/Qelcontrols.h",
+      {vcl::ReadOnly<&TQELGraphicControl::About>("About")});
   return info;
 }
 

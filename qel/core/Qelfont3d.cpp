@@ -6,6 +6,7 @@
 #include "qel/core/private/Qelownedsettings.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -245,7 +246,7 @@ const vcl::TClass& TQELFont3D::Class() {
   using T = TQELFont3D;
   using namespace vcl;
   static const TClass info = Describe<T, TGraphicsObject>(
-      "TQELFont3D", "Qelclasses",
+      "qel::TQELFont3D", "qel/core/Qelclasses.h",
       {
           Property<&T::ThreeDimensional, &T::SetThreeDimensional>("ThreeDimensional").Default(true),
           Property<&T::Style3D, &T::SetStyle3D>("Style3D").Default(fontOnlyHighlight),

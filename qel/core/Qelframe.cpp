@@ -6,6 +6,7 @@
 
 #include "qel/core/private/Qelownedsettings.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -178,7 +179,7 @@ const vcl::TClass& TQELFrame::Class() {
   using T = TQELFrame;
   using namespace vcl;
   static const TClass info = Describe<T, TGraphicsObject>(
-      "TQELFrame", "Qelclasses",
+      "qel::TQELFrame", "qel/core/Qelclasses.h",
       {
           Property<&T::FrameStyle, &T::SetFrameStyle>("FrameStyle")
               .Default(frameRaised)

@@ -1,6 +1,7 @@
 // Small drawing aids.
 #include "qel/core/Qelfunctions.h"
 #include "vcl/graphics/graphics.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 

@@ -11,6 +11,7 @@
 #include "vcl/rtl/component.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -178,7 +179,7 @@ const vcl::TClass& TQELGlyph::Class() {
   using T = TQELGlyph;
   using namespace vcl;
   static const TClass info = Describe<T, TGraphicsObject>(
-      "TQELGlyph", "Qelclasses",
+      "qel::TQELGlyph", "qel/core/Qelclasses.h",
       {
           Property<&T::TransparentColor, &T::SetTransparentColor>("TransparentColor"),
           Property<&T::Bitmap, &T::SetBitmap>("Bitmap"),

@@ -11,7 +11,7 @@ const vcl::TClass& TQELTimer32::Class() {
   // The constructor sets another priority than the declared one: form files say so of every timer
   // that keeps it, and reading it there is what starts a timer whose event has been read before.
   static const TClass info = Describe<T, TQELComponent>(
-      "TQELTimer32", "Qelclasses2",
+      "qel::TQELTimer32", "qel/core/Qelclasses2.h",
       {
           Property<&T::Enabled, &T::SetEnabled>("Enabled").Default(true),
           Property<&T::Interval, &T::SetInterval>("Interval").Default(1000),
@@ -57,7 +57,7 @@ void TQELTimer32::Timer() { OnTimer(this); }
 
 const vcl::TClass& TQELThread::Class() {
   static const vcl::TClass info =
-      vcl::Describe<TQELThread, vcl::TThread>("TQELThread", "Qelclasses2", {});
+      vcl::Describe<TQELThread, vcl::TThread>("qel::TQELThread", "qel/core/Qelclasses2.h", {});
   return info;
 }
 
@@ -67,7 +67,7 @@ void TQELThread::Execute() {
   SetPriority(FOwner->Priority());
   while (!Terminated()) {
     const std::uint16_t interval = FOwner->Interval();
-    Sleep(std::chrono::milliseconds(interval));
+    Sleep(interval);
     // A timer that is being stopped has had no interval.
     if (interval != 0 && !Terminated()) Synchronize([this] { DoTimer(); });
   }

@@ -36,7 +36,7 @@ const vcl::TClass& TQELRegistry::Class() {
   using T = TQELRegistry;
   using namespace vcl;
   static const TClass info = Describe<T, TPersistent>(
-      "TQELRegistry", "Qeltstoredata",
+      "qel::TQELRegistry", "qel/core/Qeltstoredata.h",
       {
           Property<&T::Rootkey, &T::SetRootkey>("Rootkey").Default(hkeyCurrentUser),
           Property<&T::Path, &T::SetPath>("Path"),
@@ -49,7 +49,7 @@ const vcl::TClass& TQELIniFile::Class() {
   using T = TQELIniFile;
   using namespace vcl;
   static const TClass info =
-      Describe<T, TPersistent>("TQELIniFile", "Qeltstoredata",
+      Describe<T, TPersistent>("qel::TQELIniFile", "qel/core/Qeltstoredata.h",
                                {
                                    Property<&T::Filename, &T::SetFilename>("Filename"),
                                    Property<&T::Section, &T::SetSection>("Section"),
@@ -61,7 +61,7 @@ const vcl::TClass& TQELDataStore::Class() {
   using T = TQELDataStore;
   using namespace vcl;
   static const TClass info = Describe<T, TPersistent>(
-      "TQELDataStore", "Qeltstoredata",
+      "qel::TQELDataStore", "qel/core/Qeltstoredata.h",
       {
           Property<&T::ErrorInt, &T::SetErrorInt>("ErrorInt").Default(0),
           Property<&T::ErrorStr, &T::SetErrorStr>("ErrorStr"),
@@ -199,7 +199,7 @@ const vcl::TClass& TQELStoreData::Class() {
   using T = TQELStoreData;
   using namespace vcl;
   static const TClass info =
-      Describe<T, TQELComponent>("TQELStoreData", "Qeltstoredata",
+      Describe<T, TQELComponent>("qel::TQELStoreData", "qel/core/Qeltstoredata.h",
                                  {
                                      Event<&T::OnError>("OnError"),
                                      Property<&T::DataStore, &T::SetDataStore>("DataStore"),

@@ -9,7 +9,7 @@ namespace qel {
 const vcl::TClass& TQELADField::Class() {
   using T = TQELADField;
   static const vcl::TClass info = vcl::Describe<T, TCollectionItem>(
-      "TQELADField", "Qeltdbascii",
+      "qel::TQELADField", "qel/data/Qeltdbascii.h",
       {
           vcl::Property<&T::CSVName, &T::SetCSVName>("CSVName"),
           vcl::Property<&T::DataField, &T::SetDataField>("DataField"),
@@ -44,7 +44,7 @@ void TQELADField::Assign(const vcl::TPersistent* source) {
 
 const vcl::TClass& TQELADFields::Class() {
   static const vcl::TClass info =
-      vcl::Describe<TQELADFields, TCollection>("TQELADFields", "Qeltdbascii", {});
+      vcl::Describe<TQELADFields, TCollection>("qel::TQELADFields", "qel/data/Qeltdbascii.h", {});
   return info;
 }
 
@@ -59,18 +59,23 @@ void TQELADFields::SetItem(int index, const TQELADField* value) { Items(index)->
 const vcl::TClass& TQELDBAscii::Class() {
   using T = TQELDBAscii;
   static const vcl::TClass info = vcl::Describe<T, TQELComponent>(
-      "TQELDBAscii", "Qeltdbascii",
+      "qel::TQELDBAscii", "qel/data/Qeltdbascii.h",
       {
           vcl::Property<&T::Fields, &T::SetFields>("Fields"),
           vcl::Property<&T::Delimiter, &T::SetDelimiter>("Delimiter"),
           vcl::Property<&T::Filename, &T::SetFilename>("Filename"),
           vcl::Property<&T::DataSource, &T::SetDataSource>("DataSource"),
           vcl::Property<&T::PrintHeader, &T::SetPrintHeader>("PrintHeader"),
-          vcl::Event<&T::ImportBeforePost>("ImportBeforePost").Type("TQELImportExportEvent"),
-          vcl::Event<&T::ImportBeforeInsert>("ImportBeforeInsert").Type("TQELImportExportEvent"),
-          vcl::Event<&T::OnImportException>("OnImportException").Type("TQELImportExportEvent"),
-          vcl::Event<&T::OnImportSuccess>("OnImportSuccess").Type("TQELImportExportEvent"),
-          vcl::Event<&T::ExportBeforeWrite>("ExportBeforeWrite").Type("TQELImportExportEvent"),
+          vcl::Event<&T::ImportBeforePost>("ImportBeforePost")
+              .Type("TQELImportExportEvent", "vcl::TObject* sender, std::string line"),
+          vcl::Event<&T::ImportBeforeInsert>("ImportBeforeInsert")
+              .Type("TQELImportExportEvent", "vcl::TObject* sender, std::string line"),
+          vcl::Event<&T::OnImportException>("OnImportException")
+              .Type("TQELImportExportEvent", "vcl::TObject* sender, std::string line"),
+          vcl::Event<&T::OnImportSuccess>("OnImportSuccess")
+              .Type("TQELImportExportEvent", "vcl::TObject* sender, std::string line"),
+          vcl::Event<&T::ExportBeforeWrite>("ExportBeforeWrite")
+              .Type("TQELImportExportEvent", "vcl::TObject* sender, std::string line"),
           vcl::Event<&T::OnExportDone>("OnExportDone"),
       });
   return info;

@@ -5,6 +5,7 @@
 #include "qel/core/Qelcomponent.h"
 #include "vcl/designintf/propertyeditor.h"
 #include "vcl/forms/application.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 namespace {

@@ -28,7 +28,7 @@ std::optional<TColor> ColorOf(const std::string& line) {
 
 const TClass& TQELColorsForm::Class() {
   using T = TQELColorsForm;
-  static const TClass info = Describe<T, TForm>("TQELColorsForm", "colorsform",
+  static const TClass info = Describe<T, TForm>("qel::TQELColorsForm", "qel/design/colorsform.h",
                                                 {
                                                     Field<&T::ColorList>("ColorList"),
                                                     Field<&T::ChangeButton>("ChangeButton"),

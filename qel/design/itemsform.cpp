@@ -48,7 +48,7 @@ TQELItemsForm::TRow::TRow(std::unique_ptr<TPropertyEditor> editor, TWinControl& 
 
 const TClass& TQELItemsForm::Class() {
   using T = TQELItemsForm;
-  static const TClass info = Describe<T, TForm>("TQELItemsForm", "itemsform",
+  static const TClass info = Describe<T, TForm>("qel::TQELItemsForm", "qel/design/itemsform.h",
                                                 {
                                                     Field<&T::ItemList>("ItemList"),
                                                     Field<&T::DeleteButton>("DeleteButton"),

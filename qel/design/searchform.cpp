@@ -50,7 +50,7 @@ class TQELSearchForm : public TForm {
 
 const TClass& TQELSearchForm::Class() {
   using T = TQELSearchForm;
-  static const TClass info = Describe<T, TForm>("TQELSearchForm", "searchform",
+  static const TClass info = Describe<T, TForm>("qel::TQELSearchForm", "searchform",
                                                 {
                                                     Field<&T::SearchEdit>("SearchEdit"),
                                                     Field<&T::TextEdit>("TextEdit"),

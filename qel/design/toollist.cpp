@@ -54,7 +54,7 @@ class TQELToolListForm : public TForm {
 
 const TClass& TQELToolListForm::Class() {
   using T = TQELToolListForm;
-  static const TClass info = Describe<T, TForm>("TQELToolListForm", "toollist",
+  static const TClass info = Describe<T, TForm>("qel::TQELToolListForm", "qel/design/toollist.h",
                                                 {
                                                     Field<&T::Lines>("Lines"),
                                                     Field<&T::Details>("Details"),

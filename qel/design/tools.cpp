@@ -13,6 +13,7 @@
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 

@@ -5,6 +5,7 @@
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 #include <shellapi.h>
 

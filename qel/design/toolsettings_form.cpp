@@ -29,14 +29,15 @@ class TQELToolSettingsForm : public TForm {
 
 const TClass& TQELToolSettingsForm::Class() {
   using T = TQELToolSettingsForm;
-  static const TClass info = Describe<T, TForm>("TQELToolSettingsForm", "toolsettings",
-                                                {
-                                                    Field<&T::FilesMemo>("FilesMemo"),
-                                                    Field<&T::LinksMemo>("LinksMemo"),
-                                                    Field<&T::HomePageEdit>("HomePageEdit"),
-                                                    Field<&T::MailEdit>("MailEdit"),
-                                                    Field<&T::PagerEdit>("PagerEdit"),
-                                                });
+  static const TClass info =
+      Describe<T, TForm>("qel::TQELToolSettingsForm", "qel/design/toolsettings.h",
+                         {
+                             Field<&T::FilesMemo>("FilesMemo"),
+                             Field<&T::LinksMemo>("LinksMemo"),
+                             Field<&T::HomePageEdit>("HomePageEdit"),
+                             Field<&T::MailEdit>("MailEdit"),
+                             Field<&T::PagerEdit>("PagerEdit"),
+                         });
   return info;
 }
 

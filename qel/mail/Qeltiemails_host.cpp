@@ -26,7 +26,7 @@ constexpr int WaitMilliseconds = 200;
 const vcl::TClass& TQELMailHost::Class() {
   using T = TQELMailHost;
   static const vcl::TClass info = vcl::Describe<T, TQELExecComponent>(
-      "TQELMailHost", "Qeltiemails",
+      "qel::TQELMailHost", "qel/mail/Qeltiemails.h",
       {
           vcl::Property<&T::Messages, &T::SetMessages>("Messages"),
           vcl::Event<&T::OnExecute>("OnExecute"),

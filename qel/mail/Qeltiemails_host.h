@@ -142,8 +142,11 @@ class QEL_API TQELMailHost : public TQELExecComponent {
 template <>
 inline constexpr vcl::TIntegerText vcl::IntegerText<qel::TQELPStep>{"TQELPStep"};
 template <>
-inline constexpr const char* vcl::EventName<qel::TQELOnError> = "TQELOnError";
+inline constexpr vcl::TEventText vcl::EventText<qel::TQELOnError>{
+    "TQELOnError", "vcl::TObject* sender, int code, const std::string& message"};
 template <>
-inline constexpr const char* vcl::EventName<qel::TQELOnCodingStart> = "TQELOnCodingStart";
+inline constexpr vcl::TEventText vcl::EventText<qel::TQELOnCodingStart>{
+    "TQELOnCodingStart", "vcl::TObject* sender, const std::string& fileName, int size"};
 template <>
-inline constexpr const char* vcl::EventName<qel::TQELOnCodingProgress> = "TQELOnCodingProgress";
+inline constexpr vcl::TEventText vcl::EventText<qel::TQELOnCodingProgress>{
+    "TQELOnCodingProgress", "vcl::TObject* sender, std::uint16_t percent"};

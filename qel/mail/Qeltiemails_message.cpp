@@ -30,8 +30,9 @@ bool DeleteItem(vcl::TCollection& collection, int index) {
 
 const vcl::TClass& TQELAttachment::Class() {
   using T = TQELAttachment;
-  static const vcl::TClass info = vcl::Describe<T, TCollectionItem>(
-      "TQELAttachment", "Qeltiemails", {vcl::Property<&T::FileName, &T::SetFileName>("FileName")});
+  static const vcl::TClass info =
+      vcl::Describe<T, TCollectionItem>("qel::TQELAttachment", "qel/mail/Qeltiemails.h",
+                                        {vcl::Property<&T::FileName, &T::SetFileName>("FileName")});
   return info;
 }
 
@@ -75,8 +76,8 @@ void TQELAttachment::Assign(const vcl::TPersistent* source) {
 }
 
 const vcl::TClass& TQELAttachments::Class() {
-  static const vcl::TClass info =
-      vcl::Describe<TQELAttachments, TCollection>("TQELAttachments", "Qeltiemails", {});
+  static const vcl::TClass info = vcl::Describe<TQELAttachments, TCollection>(
+      "qel::TQELAttachments", "qel/mail/Qeltiemails.h", {});
   return info;
 }
 
@@ -108,7 +109,7 @@ void TQELAttachments::SeTQELAttachment(int index, const TQELAttachment* value) {
 const vcl::TClass& TQELMessage::Class() {
   using T = TQELMessage;
   static const vcl::TClass info = vcl::Describe<T, TCollectionItem>(
-      "TQELMessage", "Qeltiemails",
+      "qel::TQELMessage", "qel/mail/Qeltiemails.h",
       {
           vcl::Property<&T::FromMail, &T::SetFromMail>("FromMail"),
           vcl::Property<&T::ReplyTo, &T::SetReplyTo>("ReplyTo"),
@@ -156,7 +157,7 @@ void TQELMessage::Assign(const vcl::TPersistent* source) {
 
 const vcl::TClass& TQELMessages::Class() {
   static const vcl::TClass info =
-      vcl::Describe<TQELMessages, TCollection>("TQELMessages", "Qeltiemails", {});
+      vcl::Describe<TQELMessages, TCollection>("qel::TQELMessages", "qel/mail/Qeltiemails.h", {});
   return info;
 }
 

@@ -48,7 +48,7 @@ const vcl::TClass& TQELPOPMail::Class() {
   using T = TQELPOPMail;
   using namespace vcl;
   static const TClass info = Describe<T, TQELMailHost>(
-      "TQELPOPMail", "Qeltiemails",
+      "qel::TQELPOPMail", "qel/mail/Qeltiemails.h",
       {
           Property<&T::Messages, &T::SetMessages>("Messages").Stored(false),
           Property<&T::DeleteOfServer, &T::SetDeleteOfServer>("DeleteOfServer").Default(false),
@@ -60,10 +60,12 @@ const vcl::TClass& TQELPOPMail::Class() {
           Event<&T::OnDecodeStart>("OnDecodeStart"),
           Event<&T::OnDecodeProgress>("OnDecodeProgress"),
           Event<&T::OnDecodeEnd>("OnDecodeEnd"),
-          Event<&T::BeforeRetrieve>("BeforeRetrieve").Type("TQELBeforeRetrieve"),
+          Event<&T::BeforeRetrieve>("BeforeRetrieve")
+              .Type("TQELBeforeRetrieve", "vcl::TObject* sender, std::uint16_t message"),
           Event<&T::AfterRetrieve>("AfterRetrieve"),
           Event<&T::OnRetrieveProgress>("OnRetrieveProgress"),
-          Event<&T::OnDelete>("OnDelete").Type("TQELOnDelete"),
+          Event<&T::OnDelete>("OnDelete")
+              .Type("TQELOnDelete", "vcl::TObject* sender, std::uint16_t message"),
       });
   return info;
 }

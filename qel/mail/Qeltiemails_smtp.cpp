@@ -22,7 +22,7 @@ const vcl::TClass& TQELSMTPMail::Class() {
   using T = TQELSMTPMail;
   using namespace vcl;
   static const TClass info = Describe<T, TQELMailHost>(
-      "TQELSMTPMail", "Qeltiemails",
+      "qel::TQELSMTPMail", "qel/mail/Qeltiemails.h",
       {
           Property<&T::Signature, &T::SetSignature>("Signature"),
           Property<&T::DateTimeFormat, &T::SetDateTimeFormat>("DateTimeFormat"),
@@ -34,7 +34,8 @@ const vcl::TClass& TQELSMTPMail::Class() {
           Event<&T::OnEncodeStart>("OnEncodeStart"),
           Event<&T::OnEncodeProgress>("OnEncodeProgress"),
           Event<&T::OnEncodeEnd>("OnEncodeEnd"),
-          Event<&T::OnSendProgress>("OnSendProgress").Type("TQELSendingProgress"),
+          Event<&T::OnSendProgress>("OnSendProgress")
+              .Type("TQELSendingProgress", "vcl::TObject* sender, std::uint16_t percent"),
       });
   return info;
 }

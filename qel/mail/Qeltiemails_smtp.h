@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "qel/mail/Qeltiemails_host.h"
+#include "vcl/rtl/systemmacros.h"
 
 namespace qel {
 

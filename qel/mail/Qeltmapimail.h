@@ -267,6 +267,8 @@ class QEL_API TQELMapiMail : public TQELExecComponent {
 }  // namespace qel
 
 template <>
-inline constexpr const char* vcl::EventName<qel::TQELOnSendError> = "TQELOnSendError";
+inline constexpr vcl::TEventText vcl::EventText<qel::TQELOnSendError>{
+    "TQELOnSendError", "vcl::TObject* sender, int code, qel::TQELMapiMessage* message"};
 template <>
-inline constexpr const char* vcl::EventName<qel::TQELMapiSend> = "TQELMapiSend";
+inline constexpr vcl::TEventText vcl::EventText<qel::TQELMapiSend>{
+    "TQELMapiSend", "vcl::TObject* sender, qel::TQELMapiMessage* message"};

@@ -8,7 +8,7 @@ namespace qel {
 const vcl::TClass& TQELMapiAttachment::Class() {
   using T = TQELMapiAttachment;
   static const vcl::TClass info =
-      vcl::Describe<T, TCollectionItem>("TQELMapiAttachment", "Qeltmapimail",
+      vcl::Describe<T, TCollectionItem>("qel::TQELMapiAttachment", "qel/mail/Qeltmapimail.h",
                                         {vcl::Property<&T::Filename, &T::SetFilename>("Filename")});
   return info;
 }
@@ -30,8 +30,8 @@ void TQELMapiAttachment::Assign(const vcl::TPersistent* source) {
 }
 
 const vcl::TClass& TQELMapiAttachments::Class() {
-  static const vcl::TClass info =
-      vcl::Describe<TQELMapiAttachments, TCollection>("TQELMapiAttachments", "Qeltmapimail", {});
+  static const vcl::TClass info = vcl::Describe<TQELMapiAttachments, TCollection>(
+      "qel::TQELMapiAttachments", "qel/mail/Qeltmapimail.h", {});
   return info;
 }
 
@@ -55,7 +55,7 @@ void TQELMapiAttachments::SeTQELMapiAttachment(int index, const TQELMapiAttachme
 const vcl::TClass& TQELMapiMessage::Class() {
   using T = TQELMapiMessage;
   static const vcl::TClass info = vcl::Describe<T, TCollectionItem>(
-      "TQELMapiMessage", "Qeltmapimail",
+      "qel::TQELMapiMessage", "qel/mail/Qeltmapimail.h",
       {
           vcl::Property<&T::Message, &T::SetMessage>("Message"),
           vcl::Property<&T::Attachments, &T::SetAttachments>("Attachments"),
@@ -104,8 +104,8 @@ void TQELMapiMessage::Assign(const vcl::TPersistent* source) {
 }
 
 const vcl::TClass& TQELMapiMessages::Class() {
-  static const vcl::TClass info =
-      vcl::Describe<TQELMapiMessages, TCollection>("TQELMapiMessages", "Qeltmapimail", {});
+  static const vcl::TClass info = vcl::Describe<TQELMapiMessages, TCollection>(
+      "qel::TQELMapiMessages", "qel/mail/Qeltmapimail.h", {});
   return info;
 }
 

@@ -25,7 +25,7 @@ TQELExceptAttachmentError::~TQELExceptAttachmentError() = default;
 const vcl::TClass& TQELMapiMail::Class() {
   using T = TQELMapiMail;
   static const vcl::TClass info = vcl::Describe<T, TQELExecComponent>(
-      "TQELMapiMail", "Qeltmapimail",
+      "qel::TQELMapiMail", "qel/mail/Qeltmapimail.h",
       {
           vcl::Property<&T::NewSession, &T::SetNewSession>("NewSession").Default(false),
           vcl::Property<&T::Messages, &T::SetMessages>("Messages"),
@@ -43,10 +43,12 @@ const vcl::TClass& TQELMapiMail::Class() {
           vcl::Event<&T::OnSendError>("OnSendError"),
           vcl::Event<&T::OnLogonSuccess>("OnLogonSuccess"),
           // Of a shape that other units' events have, too, and so named here.
-          vcl::Event<&T::OnLogonFailure>("OnLogonFailure").Type("TQELMapiConnect"),
+          vcl::Event<&T::OnLogonFailure>("OnLogonFailure")
+              .Type("TQELMapiConnect", "vcl::TObject* sender, int code"),
           vcl::Event<&T::OnLogoffSuccess>("OnLogoffSuccess"),
           vcl::Event<&T::OnMapiNotAvailable>("OnMapiNotAvailable"),
-          vcl::Event<&T::OnLogoffFailure>("OnLogoffFailure").Type("TQELMapiConnect"),
+          vcl::Event<&T::OnLogoffFailure>("OnLogoffFailure")
+              .Type("TQELMapiConnect", "vcl::TObject* sender, int code"),
           vcl::Event<&T::BeforeSendMail>("BeforeSendMail"),
           vcl::Event<&T::AfterSendMail>("AfterSendMail"),
           vcl::Event<&T::OnDeleteMail>("OnDeleteMail"),

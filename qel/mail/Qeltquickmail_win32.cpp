@@ -17,7 +17,7 @@ std::string Cut(const std::string& text) { return std::string(vcl::CutUtf8(text,
 const vcl::TClass& TQELQuickMail::Class() {
   using T = TQELQuickMail;
   static const vcl::TClass info = vcl::Describe<T, TQELExecComponent>(
-      "TQELQuickMail", "Qeltquickmail",
+      "qel::TQELQuickMail", "qel/mail/Qeltquickmail.h",
       {
           vcl::Property<&T::ToEmailorFaxAddress, &T::SetToEmailorFaxAddress>("ToEmailorFaxAddress"),
           vcl::Property<&T::ToName, &T::SetToName>("ToName"),

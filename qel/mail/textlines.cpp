@@ -27,7 +27,7 @@ bool TLineReader::Next(std::string_view& line) {
 
 const vcl::TClass& TTextLines::Class() {
   static const vcl::TClass info =
-      vcl::Describe<TTextLines, vcl::TStrings>("TTextLines", "textlines", {});
+      vcl::Describe<TTextLines, vcl::TStrings>("qel::TTextLines", "qel/mail/textlines.h", {});
   return info;
 }
 

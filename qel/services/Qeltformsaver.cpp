@@ -6,6 +6,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/screen.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -66,7 +67,7 @@ const vcl::TClass& TQELFormSaver::Class() {
   using namespace vcl;
   // StoreControls declares no default, although the constructor sets it: form files always say it.
   static const TClass info = Describe<T, TQELComponent>(
-      "TQELFormSaver", "Qeltformsaver",
+      "qel::TQELFormSaver", "qel/services/Qeltformsaver.h",
       {
           ReadOnly<&T::FormStore>("FormStore"),
           Property<&T::StoreSize, &T::SetStoreSize>("StoreSize").Default(true),
@@ -75,7 +76,8 @@ const vcl::TClass& TQELFormSaver::Class() {
           Property<&T::StoreVisible, &T::SetStoreVisible>("StoreVisible").Default(true),
           Property<&T::StoreControls, &T::SetStoreControls>("StoreControls"),
           Event<&T::OnStore>("OnStore"),
-          Event<&T::OnStoreControl>("OnStoreControl").Type("TQELOnStoreControl"),
+          Event<&T::OnStoreControl>("OnStoreControl")
+              .Type("TQELOnStoreControl", "vcl::TObject* sender, bool& store"),
           Event<&T::OnRestore>("OnRestore"),
           Property<&T::KeepOnScreen, &T::SetKeepOnScreen>("KeepOnScreen").Default(false),
           Property<&T::QualifyNames, &T::SetQualifyNames>("QualifyNames").Default(false),

@@ -36,7 +36,7 @@ std::string FileOf(const std::string& line) {
 
 const vcl::TClass& TQELMRUItem::Class() {
   static const vcl::TClass info =
-      vcl::Describe<TQELMRUItem, TMenuItem>("TQELMRUItem", "Qeltmrumenu", {});
+      vcl::Describe<TQELMRUItem, TMenuItem>("qel::TQELMRUItem", "qel/services/Qeltmrumenu.h", {});
   return info;
 }
 
@@ -46,14 +46,15 @@ const vcl::TClass& TQELMRUMenu::Class() {
   // The constructor sets AsSubMenu, whose declared default is false: forms were designed with what
   // comes of that, see SetAsSubMenu.
   static const TClass info = Describe<T, TQELComponent>(
-      "TQELMRUMenu", "Qeltmrumenu",
+      "qel::TQELMRUMenu", "qel/services/Qeltmrumenu.h",
       {
           Property<&T::MaxItems, &T::SetMaxItems>("MaxItems").Default(10),
           Property<&T::RemoveOnClick, &T::SetRemoveOnClick>("RemoveOnClick").Default(true),
           Property<&T::AsSubMenu, &T::SetAsSubMenu>("AsSubMenu").Default(false),
           Property<&T::Separator, &T::SetSeparator>("Separator").Default(true),
           Property<&T::SubMenuname, &T::SetSubMenuname>("SubMenuname"),
-          Event<&T::OnItemClick>("OnItemClick").Type("TQELMRUItemClick"),
+          Event<&T::OnItemClick>("OnItemClick")
+              .Type("TQELMRUItemClick", "vcl::TObject* sender, std::string fileName"),
           // Who reads the property by its table may look at the item itself.
           Property<&T::LiveMenu, &T::SetAttachToMenu>("AttachToMenu"),
           ReadOnly<&T::MRUStore>("MRUStore"),

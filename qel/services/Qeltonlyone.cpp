@@ -6,6 +6,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 
@@ -92,11 +93,12 @@ const vcl::TClass& TQELOnlyOne::Class() {
   using T = TQELOnlyOne;
   using namespace vcl;
   static const TClass info = Describe<T, TQELComponent>(
-      "TQELOnlyOne", "Qeltonlyone",
+      "qel::TQELOnlyOne", "qel/services/Qeltonlyone.h",
       {
           Property<&T::Instances, &T::SetInstances>("Instances"),
           Property<&T::OnExceed, &T::SetOnExceed>("OnExceed").Default(aRestoreAndExit),
-          Event<&T::OnExceeded>("OnExceeded").Type("TQELOnExceeded"),
+          Event<&T::OnExceeded>("OnExceeded")
+              .Type("TQELOnExceeded", "vcl::TObject* sender, int instances"),
       });
   return info;
 }

@@ -1,12 +1,15 @@
 #include "qel/services/Qeltsystemtray.h"
 
-#include <cstring>
-
 #include "vcl/controls/messagewindow.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
+// It needs what stands above.
+#include <shellapi.h>
+
+#include <cstring>
 
 namespace qel {
 
@@ -40,7 +43,7 @@ const vcl::TClass& TQELSystemTray::Class() {
   using T = TQELSystemTray;
   using namespace vcl;
   static const TClass info = Describe<T, TQELComponent>(
-      "TQELSystemTray", "Qeltsystemtray",
+      "qel::TQELSystemTray", "qel/services/Qeltsystemtray.h",
       {
           Property<&T::Enabled, &T::SetEnabled>("Enabled").Default(false),
           Property<&T::Hint, &T::SetHint>("Hint"),
@@ -56,7 +59,10 @@ const vcl::TClass& TQELSystemTray::Class() {
 }
 
 TQELSystemTray::TQELSystemTray(vcl::TComponent* owner)
-    : TQELComponent(owner), FIcon(std::make_unique<vcl::TIcon>()), FShellAvailable(HasShell()) {
+    : TQELComponent(owner),
+      FIcon(std::make_unique<vcl::TIcon>()),
+      FRecord(std::make_unique<NOTIFYICONDATAA>()),
+      FShellAvailable(HasShell()) {
   FIcon->Assign(vcl::Application()->Icon());
   if (Designing()) return;
   FIcon->OnChange = {this, &TQELSystemTray::IconChanged};
@@ -84,12 +90,12 @@ void TQELSystemTray::Notification(vcl::TComponent* component, vcl::TOperation op
 // The record is the shell's first version of it, which every system takes, and which has no room
 // for more of a tip than its 64 bytes.
 void TQELSystemTray::FillRecord() {
-  FRecord.cbSize = NOTIFYICONDATAA_V1_SIZE;
+  FRecord->cbSize = NOTIFYICONDATAA_V1_SIZE;
   static_assert(sizeof(void*) != 4 || NOTIFYICONDATAA_V1_SIZE == 88);
-  FRecord.hWnd = FWindow;
-  FRecord.uFlags = NIF_MESSAGE | NIF_ICON;
-  FRecord.uCallbackMessage = IconsMessage;
-  FRecord.hIcon = FIcon->Handle();
+  FRecord->hWnd = FWindow;
+  FRecord->uFlags = NIF_MESSAGE | NIF_ICON;
+  FRecord->uCallbackMessage = IconsMessage;
+  FRecord->hIcon = FIcon->Handle();
   SetTip(vcl::Application()->Title());
 }
 
@@ -98,15 +104,17 @@ void TQELSystemTray::FillRecord() {
 void TQELSystemTray::SetTip(const std::string& tip) {
   constexpr std::size_t room = 64;
   const std::string_view shown = vcl::CutUtf8(tip, room - 1);
-  std::memset(FRecord.szTip, 0, room);
-  std::memcpy(FRecord.szTip, shown.data(), shown.size());
+  std::memset(FRecord->szTip, 0, room);
+  std::memcpy(FRecord->szTip, shown.data(), shown.size());
   // Without the flag the shell leaves the tip that it has until the icon is added anew.
-  FRecord.uFlags &= ~static_cast<UINT>(NIF_TIP);
-  if (!tip.empty()) FRecord.uFlags |= NIF_TIP;
+  FRecord->uFlags &= ~static_cast<UINT>(NIF_TIP);
+  if (!tip.empty()) FRecord->uFlags |= NIF_TIP;
 }
 
 /// The one sender to the shell; false when it refuses. A component in the designer has no icon.
-bool TQELSystemTray::Send(DWORD command) { return ::Shell_NotifyIconA(command, &FRecord) != FALSE; }
+bool TQELSystemTray::Send(DWORD command) {
+  return ::Shell_NotifyIconA(command, FRecord.get()) != FALSE;
+}
 
 void TQELSystemTray::AddIconToTray() {
   if (!FEnabled || !FShellAvailable || !FWindow || !FIconAbsent) return;
@@ -129,7 +137,7 @@ void TQELSystemTray::UpdateTrayIcon() {
 void TQELSystemTray::ShellRestarted() {
   FIconAbsent = true;
   // An icon that was handed to SetIcon may have gone since; the copy is the same picture.
-  FRecord.hIcon = FIcon->Handle();
+  FRecord->hIcon = FIcon->Handle();
   if (!FEnabled || !FShellAvailable || !(FMinimized || FNormalIcon)) return;
   FIconAbsent = !Send(NIM_ADD);
   if (FIconAbsent && FMinimized) ::ShowWindow(vcl::Application()->Handle(), SW_SHOWMINNOACTIVE);
@@ -190,7 +198,7 @@ void TQELSystemTray::MinimizeToTray() {
   vcl::TApplication* const application = vcl::Application();
   // The application takes the tray's icon, not the other way round.
   application->Icon()->Assign(FIcon.get());
-  FRecord.hIcon = FIcon->Handle();
+  FRecord->hIcon = FIcon->Handle();
   ::ShowWindow(application->Handle(), SW_HIDE);
   if (!FIconAbsent) return UpdateTrayIcon();
   try {
@@ -241,12 +249,12 @@ void TQELSystemTray::SetHint(const std::string& hint) {
 void TQELSystemTray::SetIcon(vcl::TIcon* icon) {
   FIcon->Assign(icon);
   if (Designing()) return;
-  FRecord.hIcon = icon ? icon->Handle() : nullptr;
+  FRecord->hIcon = icon ? icon->Handle() : nullptr;
   UpdateTrayIcon();
 }
 
 // Changing the icon frees the handle that it had.
-void TQELSystemTray::IconChanged(vcl::TObject*) { FRecord.hIcon = FIcon->Handle(); }
+void TQELSystemTray::IconChanged(vcl::TObject*) { FRecord->hIcon = FIcon->Handle(); }
 
 void TQELSystemTray::SetPopupMenu(vcl::TPopupMenu* menu) {
   if (FPopupMenu) FPopupMenu->RemoveFreeNotification(this);

@@ -7,9 +7,9 @@
 #include "qel/core/Qelcomponent.h"
 #include "vcl/graphics/icon.h"
 #include "vcl/menus/menus.h"
-#include "vcl/rtl/win32.h"
-// It needs what stands above.
-#include <shellapi.h>
+#include "vcl/rtl/systemtypes.h"
+
+struct _NOTIFYICONDATAA;  // The system's record of an icon.
 
 namespace qel {
 
@@ -95,7 +95,7 @@ class QEL_API TQELSystemTray : public TQELComponent {
   std::unique_ptr<vcl::TIcon> FIcon;
   vcl::TPopupMenu* FPopupMenu = nullptr;
   bool FNormalIcon = false;
-  NOTIFYICONDATAA FRecord{};
+  std::unique_ptr<_NOTIFYICONDATAA> FRecord;
   HWND FWindow = nullptr;  // None in the designer.
   bool FShellAvailable;
   bool FMinimized = false;

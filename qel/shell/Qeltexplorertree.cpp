@@ -13,13 +13,16 @@
 
 namespace qel {
 
+// The header that has no system's header repeats its number.
+static_assert(FILE_ATTRIBUTE_DIRECTORY == 0x10);
+
 using vcl::TTreeNode;
 
 const vcl::TClass& TQELExplorerTree::Class() {
   using T = TQELExplorerTree;
   using namespace vcl;
   static const TClass info = Describe<T, TCustomTreeView>(
-      "TQELExplorerTree", "Qeltexplorertree",
+      "qel::TQELExplorerTree", "qel/shell/Qeltexplorertree.h",
       {
           Property<&T::Network, &T::SetNetAllow>("Network").Default(true),
           Property<&T::FastLoad, &T::SetFastLoad>("FastLoad").Default(false),
@@ -48,10 +51,16 @@ const vcl::TClass& TQELExplorerTree::Class() {
           Inherit("TabOrder"),
           Inherit("TabStop").Default(true),
           Inherit("Visible"),
-          Event<&T::OnAddDirectory>("OnAddDirectory").Type("TQELAddFileEvent"),
-          Event<&T::OnFindDirectory>("OnFindDirectory").Type("TQELFindDirectoryEvent"),
-          Event<&T::OnDeleteItem>("OnDeleteItem").Type("TTVExpandedEvent"),
-          Event<&T::OnGetIcon>("OnGetIcon").Type("TTVExpandedEvent"),
+          Event<&T::OnAddDirectory>("OnAddDirectory")
+              .Type("TQELAddFileEvent", "vcl::TObject* sender, std::string path, bool& add"),
+          Event<&T::OnFindDirectory>("OnFindDirectory")
+              .Type("TQELFindDirectoryEvent",
+                    "vcl::TObject* sender, std::string folder, int first, qel::TQELFoundFile& "
+                    "found, bool& exists"),
+          Event<&T::OnDeleteItem>("OnDeleteItem")
+              .Type("TTVExpandedEvent", "vcl::TObject* sender, vcl::TTreeNode* node"),
+          Event<&T::OnGetIcon>("OnGetIcon")
+              .Type("TTVExpandedEvent", "vcl::TObject* sender, vcl::TTreeNode* node"),
           Inherit("OnChange"),
           Inherit("OnChanging"),
           Inherit("OnClick"),

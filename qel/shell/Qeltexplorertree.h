@@ -18,7 +18,7 @@ using TQELAddFileEvent = vcl::TEvent<vcl::TObject*, std::string, bool&>;
 /// What a handler of OnFindDirectory has found.
 struct TQELFoundFile {
   std::string Name;
-  int Attributes = FILE_ATTRIBUTE_DIRECTORY;  ///< As the system's FILE_ATTRIBUTE_... say it.
+  int Attributes = 0x10;  ///< As the system's FILE_ATTRIBUTE_... say it; a folder's.
 };
 /// Sender, the folder to look in, 1 for its first entry and 0 for each next one, the entry, whether
 /// there was one (false before, which ends the search).

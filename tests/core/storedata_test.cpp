@@ -6,6 +6,7 @@
 
 #include "qel/qel.h"
 #include "tests/support/texts.h"
+#include "vcl/rtl/win32.h"
 
 namespace {
 

@@ -4,8 +4,9 @@
 #include "tests/vcl/standardform.h"
 #include "vcl/db/memorydataset.h"
 #include "vcl/dbctrls/dbedit.h"
-#include "vcl/dbctrls/dbgrid.h"
+#include "vcl/dbctrls/dbgrids.h"
 #include "vcl/graphics/canvas.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {

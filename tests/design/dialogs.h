@@ -5,6 +5,7 @@
 #include <string>
 
 #include "vcl/controls/windowtext.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
 
 namespace dialogs {

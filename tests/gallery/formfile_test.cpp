@@ -4,6 +4,7 @@
 #include "tests/support/registered.h"
 #include "tests/support/texts.h"
 #include "vcl/forms/standardclasses.h"
+#include "vcl/rtl/win32.h"
 
 namespace gallery_test {
 namespace {

@@ -9,6 +9,7 @@
 #include "tests/vcl/standardform.h"
 #include "vcl/designintf/package.h"
 #include "vcl/designintf/registration.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
 
 namespace ide {

@@ -8,6 +8,7 @@
 #include "tests/vcl/standardform.h"
 #include "vcl/designintf/package.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
 
 namespace ide {

@@ -9,6 +9,7 @@
 #include "ide/structurecollection.h"
 #include "tests/support/plaindesigner.h"
 #include "tests/vcl/standardform.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
 
 namespace ide {

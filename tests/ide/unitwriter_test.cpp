@@ -11,7 +11,6 @@
 #include <regex>
 #include <set>
 
-#include "ide/cppnames.h"
 #include "ide/cpptext.h"
 #include "ide/palette.h"
 #include "vcl/designintf/package.h"
@@ -235,17 +234,16 @@ TEST(UnitWriter, EveryClassOfThePaletteHasItsHeaderAndItsEventsParameters) {
   for (const auto& [page, classes] : vcl::RegisteredComponents()) {
     for (const vcl::TClass* type : classes) types.merge(WithItems(*type));
     for (const vcl::TClass* type : classes) {
-      const TCppClass names = CppClassOf(*type);
-      std::ifstream file(std::string(DOCS_FOLDER "/../") + names.Header);
-      EXPECT_TRUE(file.is_open()) << type->Name() << ": " << names.Header;
-      EXPECT_THAT(names.Name, HasSubstr("::" + type->Name()));
+      std::ifstream file(std::string(DOCS_FOLDER "/../") + type->Header());
+      EXPECT_TRUE(file.is_open()) << type->Name() << ": " << type->Header();
+      EXPECT_THAT(type->CppName(), HasSubstr("::" + type->Name()));
     }
   }
   int checked = 0;
   for (const vcl::TClass* type : types) {
     for (const vcl::TPropInfo* event : type->Published()) {
       if (!event->IsEvent()) continue;
-      const std::string written = TypesOf(ParametersOf(event->TypeName()));
+      const std::string written = TypesOf(event->Parameters);
       EXPECT_FALSE(written.empty()) << event->TypeName();
       EXPECT_THAT(TypesOf(*event), HasSubstr("<" + written + ">"))
           << type->Name() << "." << event->Name << " " << event->TypeName();

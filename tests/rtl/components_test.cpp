@@ -96,8 +96,7 @@ TEST(PropertyTables, TakeTheNarrowestDeclarationAndWriteWhatIsNotTheDefault) {
 
 TEST(PropertyTables, RefuseMistakes) {
   for (const auto& mistake :
-       {Inherit("Nothing"),
-        Property<&TBase::Width, &TBase::SetWidth>("Width").Default(std::string())}) {
+       {Inherit("Nothing"), Property<&TBase::Width, &TBase::SetWidth>("Width").Default("")}) {
     EXPECT_THROW((Describe<TBase, TComponent>("TBase", "test", {mistake})), EPropertyError);
   }
 }

@@ -42,7 +42,7 @@ const TClass& TPartItem::Class() {
   static const TClass info = Describe<TPartItem, TCollectionItem>(
       "TPartItem", "samples",
       {
-          Property<&TPartItem::Title, &TPartItem::SetTitle>("Title").Default(std::string()),
+          Property<&TPartItem::Title, &TPartItem::SetTitle>("Title").Default(""),
           Property<&TPartItem::Link, &TPartItem::SetLink>("Link"),
           ReadOnly<&TPartItem::Style>("Style"),
           Event<&TPartItem::OnPick>("OnPick"),
@@ -63,9 +63,7 @@ const TClass& TPart::Class() {
           Property<&TPart::Count, &TPart::SetCount>("Count").Default(0),
           Property<&TPart::Active, &TPart::SetActive>("Active").Default(true),
           Property<&TPart::Ratio, &TPart::SetRatio>("Ratio").Default(1),
-          Property<&TPart::Caption, &TPart::SetCaption>("Caption")
-              .Type("TCaption")
-              .Default(std::string()),
+          Property<&TPart::Caption, &TPart::SetCaption>("Caption").Type("TCaption").Default(""),
           Property<&TPart::Mask, &TPart::SetMask>("Mask").Default(U'\0'),
           Property<&TPart::Shape, &TPart::SetShape>("Shape").Default(shRound),
           Property<&TPart::Shapes, &TPart::SetShapes>("Shapes").Default(TSet<TShape>{shRound}),

@@ -123,7 +123,7 @@ TEST(Thread, SuspendsItselfAndIsEndedWhileItRests) {
     steps = 2;
     self.Suspend();
     steps = 3;
-    EXPECT_FALSE(self.Sleep(std::chrono::hours(1)));
+    EXPECT_FALSE(self.Sleep(3600 * 1000));
   });
   thread.Start();
   ASSERT_TRUE(RunUntil([&] { return steps == 1 && thread.Suspended(); }));
@@ -226,7 +226,7 @@ TEST(Thread, ItsPriorityIsTheSystemsFromItsBegin) {
   std::atomic<bool> begun = false, go = false;
   TWorker thread([&](TWorker& self) {
     begun = true;
-    while (!go) self.Sleep(milliseconds(1));
+    while (!go) self.Sleep(1);
   });
   thread.SetPriority(tpLower);
   thread.Start();
@@ -278,7 +278,7 @@ TEST(Thread, ManyCallNoneIsLost) {
     workers.push_back(std::make_unique<TWorker>([&](TWorker& self) {
       for (int n = 0; n < each; ++n) {
         self.Synchronize([&] { ++calls; });
-        if (n % 50 == 0) self.Sleep(milliseconds(1));
+        if (n % 50 == 0) self.Sleep(1);
       }
     }));
     workers.back()->Start();

@@ -4,6 +4,7 @@
 #include "qel/qel.h"
 #include "tests/support/texts.h"
 #include "vcl/forms/application.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 namespace {

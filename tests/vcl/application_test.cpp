@@ -6,6 +6,8 @@
 
 #include "tests/vcl/testinput.h"
 
+#include "vcl/rtl/win32.h"
+
 namespace vcl {
 namespace {
 

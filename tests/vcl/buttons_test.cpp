@@ -1,6 +1,8 @@
 // Buttons, check boxes, radio buttons and labels: clicks, keys, groups.
 #include "tests/vcl/standardform.h"
 
+#include "vcl/rtl/win32.h"
+
 namespace vcl {
 namespace {
 

@@ -1,6 +1,8 @@
 // Drag and drop with the real mouse.
 #include "tests/vcl/standardform.h"
 
+#include "vcl/rtl/win32.h"
+
 namespace vcl {
 namespace {
 

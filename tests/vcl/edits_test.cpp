@@ -1,6 +1,8 @@
 // Edits and memos: typing, selection, lines, and what outlives a window.
 #include "tests/vcl/standardform.h"
 
+#include "vcl/rtl/win32.h"
+
 namespace vcl {
 namespace {
 

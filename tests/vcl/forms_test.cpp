@@ -4,6 +4,7 @@
 #include "tests/support/texts.h"
 #include "tests/vcl/testinput.h"
 #include "vcl/forms/standardclasses.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {

@@ -3,6 +3,7 @@
 
 #include "tests/support/texts.h"
 #include "tests/vcl/graphics_pixels.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/buttons.h"
 
 namespace vcl::test {

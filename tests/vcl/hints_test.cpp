@@ -1,6 +1,8 @@
 // Hints: their texts, when they come and go, where they stand.
 #include "tests/vcl/standardform.h"
 
+#include "vcl/rtl/win32.h"
+
 namespace vcl {
 namespace {
 

@@ -1,6 +1,7 @@
 // List boxes and combo boxes: items, selection, keys, drawing.
 #include "tests/vcl/standardform.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {

@@ -3,6 +3,8 @@
 
 #include "tests/vcl/testinput.h"
 
+#include "vcl/rtl/win32.h"
+
 namespace {
 
 using namespace vcl;

@@ -3,6 +3,7 @@
 #include "tests/vcl/standardform.h"
 #include "vcl/forms/standardclasses.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {

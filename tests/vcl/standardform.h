@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "tests/vcl/testinput.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

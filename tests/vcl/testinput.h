@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
 
 namespace testinput {

@@ -3,6 +3,8 @@
 
 #include "tests/vcl/standardform.h"
 
+#include "vcl/rtl/win32.h"
+
 namespace vcl {
 namespace {
 
@@ -16,7 +18,7 @@ class TCaller : public TThread {
 
  protected:
   void Execute() override {
-    while (Sleep(std::chrono::milliseconds(3))) Synchronize(FCall);
+    while (Sleep(3)) Synchronize(FCall);
   }
 
  private:

@@ -2,6 +2,7 @@
 #include "tests/support/texts.h"
 #include "tests/vcl/standardform.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {

@@ -8,19 +8,20 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
 const TClass& TControl::Class() {
   static const TClass info = Describe<TControl, TComponent>(
-      "TControl", "controls",
+      "vcl::TControl", "vcl/controls/controls.h",
       {
           Property<&TControl::Left, &TControl::SetLeft>("Left"),
           Property<&TControl::Top, &TControl::SetTop>("Top"),
           Property<&TControl::Width, &TControl::SetWidth>("Width"),
           Property<&TControl::Height, &TControl::SetHeight>("Height"),
           Property<&TControl::Cursor, &TControl::SetCursor>("Cursor").Default(crDefault),
-          Property<&TControl::Hint, &TControl::SetHint>("Hint").Default(std::string()),
+          Property<&TControl::Hint, &TControl::SetHint>("Hint").Default(""),
           Property<&TControl::Align, &TControl::SetAlign>("Align").Default(alNone).Unpublished(),
           Property<&TControl::Caption, &TControl::SetCaption>("Caption")
               .Type("TCaption")
@@ -66,7 +67,9 @@ const TClass& TControl::Class() {
           Event<&TControl::OnDragDrop>("OnDragDrop").Unpublished(),
           Event<&TControl::OnDragOver>("OnDragOver").Unpublished(),
           Event<&TControl::OnStartDrag>("OnStartDrag").Unpublished(),
-          Event<&TControl::OnEndDrag>("OnEndDrag").Type("TEndDragEvent").Unpublished(),
+          Event<&TControl::OnEndDrag>("OnEndDrag")
+              .Type("TEndDragEvent", "vcl::TObject* sender, vcl::TObject* target, int x, int y")
+              .Unpublished(),
       });
   return info;
 }

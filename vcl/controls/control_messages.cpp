@@ -6,6 +6,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/drag.h"
 #include "vcl/menus/menus.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {

@@ -5,13 +5,15 @@
 #include "vcl/controls/control.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
 TControlCanvas::~TControlCanvas() { FreeHandle(); }
 
 const TClass& TControlCanvas::Class() {
-  static const TClass info = Describe<TControlCanvas, TCanvas>("TControlCanvas", "controls", {});
+  static const TClass info =
+      Describe<TControlCanvas, TCanvas>("vcl::TControlCanvas", "vcl/controls/controls.h", {});
   return info;
 }
 

@@ -3,6 +3,7 @@
 #include <span>
 
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

@@ -9,8 +9,8 @@
 #include <string_view>
 
 #include "vcl/rtl/events.h"
+#include "vcl/rtl/systemtypes.h"
 #include "vcl/rtl/typeinfo.h"
-#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -175,18 +175,28 @@ using TStartDragEvent = TEvent<TObject*, TDragObject*&>;
 using TEndDragEvent = TDragDropEvent;
 
 template <>
-inline constexpr const char* EventName<TMouseEvent> = "TMouseEvent";
+inline constexpr TEventText EventText<TMouseEvent>{
+    "TMouseEvent",
+    "vcl::TObject* sender, vcl::TMouseButton button, vcl::TShiftState shift, int x, int y"};
 template <>
-inline constexpr const char* EventName<TMouseMoveEvent> = "TMouseMoveEvent";
+inline constexpr TEventText EventText<TMouseMoveEvent>{
+    "TMouseMoveEvent", "vcl::TObject* sender, vcl::TShiftState shift, int x, int y"};
 template <>
-inline constexpr const char* EventName<TKeyEvent> = "TKeyEvent";
+inline constexpr TEventText EventText<TKeyEvent>{
+    "TKeyEvent", "vcl::TObject* sender, std::uint16_t& key, vcl::TShiftState shift"};
 template <>
-inline constexpr const char* EventName<TKeyPressEvent> = "TKeyPressEvent";
+inline constexpr TEventText EventText<TKeyPressEvent>{"TKeyPressEvent",
+                                                      "vcl::TObject* sender, char32_t& key"};
 template <>
-inline constexpr const char* EventName<TDragOverEvent> = "TDragOverEvent";
+inline constexpr TEventText EventText<TDragOverEvent>{
+    "TDragOverEvent",
+    "vcl::TObject* sender, vcl::TObject* source, int x, int y, vcl::TDragState state, bool& "
+    "accept"};
 template <>
-inline constexpr const char* EventName<TDragDropEvent> = "TDragDropEvent";
+inline constexpr TEventText EventText<TDragDropEvent>{
+    "TDragDropEvent", "vcl::TObject* sender, vcl::TObject* source, int x, int y"};
 template <>
-inline constexpr const char* EventName<TStartDragEvent> = "TStartDragEvent";
+inline constexpr TEventText EventText<TStartDragEvent>{
+    "TStartDragEvent", "vcl::TObject* sender, vcl::TDragObject*& dragObject"};
 
 }  // namespace vcl

@@ -2,11 +2,13 @@
 #include "vcl/controls/controlcanvas.h"
 #include "vcl/graphics/canvasbinding.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
 const TClass& TGraphicControl::Class() {
-  static const TClass info = Describe<TGraphicControl, TControl>("TGraphicControl", "controls", {});
+  static const TClass info =
+      Describe<TGraphicControl, TControl>("vcl::TGraphicControl", "vcl/controls/controls.h", {});
   return info;
 }
 

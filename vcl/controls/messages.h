@@ -1,7 +1,7 @@
 // Messages as controls handle them: the record, and the library's own message numbers.
 #pragma once
 
-#include "vcl/rtl/win32.h"
+#include "vcl/rtl/systemtypes.h"
 
 namespace vcl {
 
@@ -13,8 +13,8 @@ struct TMessage {
   LRESULT Result = 0;
 
   /// The coordinates of a mouse message.
-  int XPos() const { return static_cast<short>(LOWORD(LParam)); }
-  int YPos() const { return static_cast<short>(HIWORD(LParam)); }
+  int XPos() const { return static_cast<short>(LParam & 0xFFFF); }
+  int YPos() const { return static_cast<short>(LParam >> 16 & 0xFFFF); }
 };
 
 // Notices from the library to its controls, sent with Perform. WParam and LParam are 0 unless said.
@@ -52,19 +52,19 @@ inline constexpr UINT CM_DESIGNHITTEST =
 inline constexpr UINT CM_CTL3DCHANGED = CM_BASE + 28;
 inline constexpr UINT CM_PARENTCTL3DCHANGED = CM_BASE + 29;
 
-// Notifications that a window sends to its parent, sent back to the control it came from.
+// Notifications that a window sends to its parent, sent back to the control it came from: CN_BASE
+// and the number of the system's message (WM_COMMAND for CN_COMMAND).
 inline constexpr UINT CN_BASE = 0xBC00;
-inline constexpr UINT CN_COMMAND = CN_BASE + WM_COMMAND;
-inline constexpr UINT CN_NOTIFY = CN_BASE + WM_NOTIFY;
-inline constexpr UINT CN_DRAWITEM = CN_BASE + WM_DRAWITEM;
-inline constexpr UINT CN_MEASUREITEM = CN_BASE + WM_MEASUREITEM;
-inline constexpr UINT CN_HSCROLL = CN_BASE + WM_HSCROLL;
-inline constexpr UINT CN_VSCROLL = CN_BASE + WM_VSCROLL;
-inline constexpr UINT CN_CTLCOLOR =
-    CN_BASE + WM_CTLCOLORMSGBOX;  ///< Any of the WM_CTLCOLOR family.
-inline constexpr UINT CN_KEYDOWN = CN_BASE + WM_KEYDOWN;
-inline constexpr UINT CN_CHAR = CN_BASE + WM_CHAR;
-inline constexpr UINT CN_SYSKEYDOWN = CN_BASE + WM_SYSKEYDOWN;
-inline constexpr UINT CN_SYSCHAR = CN_BASE + WM_SYSCHAR;
+inline constexpr UINT CN_COMMAND = CN_BASE + 0x0111;
+inline constexpr UINT CN_NOTIFY = CN_BASE + 0x004E;
+inline constexpr UINT CN_DRAWITEM = CN_BASE + 0x002B;
+inline constexpr UINT CN_MEASUREITEM = CN_BASE + 0x002C;
+inline constexpr UINT CN_HSCROLL = CN_BASE + 0x0114;
+inline constexpr UINT CN_VSCROLL = CN_BASE + 0x0115;
+inline constexpr UINT CN_CTLCOLOR = CN_BASE + 0x0132;  ///< Any of the WM_CTLCOLOR family.
+inline constexpr UINT CN_KEYDOWN = CN_BASE + 0x0100;
+inline constexpr UINT CN_CHAR = CN_BASE + 0x0102;
+inline constexpr UINT CN_SYSKEYDOWN = CN_BASE + 0x0104;
+inline constexpr UINT CN_SYSCHAR = CN_BASE + 0x0106;
 
 }  // namespace vcl

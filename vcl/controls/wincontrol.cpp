@@ -9,12 +9,13 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
 const TClass& TWinControl::Class() {
   static const TClass info = Describe<TWinControl, TControl>(
-      "TWinControl", "controls",
+      "vcl::TWinControl", "vcl/controls/controls.h",
       {
           Property<&TWinControl::TabOrder, &TWinControl::SetTabOrder>("TabOrder")
               .Default(-1)
@@ -32,7 +33,7 @@ const TClass& TWinControl::Class() {
               .Default(imDontCare)
               .Unpublished(),
           Property<&TWinControl::ImeName, &TWinControl::SetImeName>("ImeName")
-              .Default(std::string())
+              .Default("")
               .Unpublished(),
           Property<&TWinControl::DoubleBuffered, &TWinControl::SetDoubleBuffered>("DoubleBuffered")
               .Default(false)

@@ -198,7 +198,7 @@ class VCL_API TWinControl : public TControl {
     TWinControl& FControl;
   };
   bool TakenByDesigner(TMessage& message);
-  static LRESULT CALLBACK StaticWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT __stdcall StaticWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void Insert(TControl* control);
   void Remove(TControl* control);
   void AlignControl(TControl* control);

@@ -7,6 +7,7 @@
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

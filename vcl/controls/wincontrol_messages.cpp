@@ -7,8 +7,23 @@
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/brush.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
+
+// The header that has no system's header repeats its numbers.
+static_assert(CN_COMMAND == CN_BASE + WM_COMMAND);
+static_assert(CN_NOTIFY == CN_BASE + WM_NOTIFY);
+static_assert(CN_DRAWITEM == CN_BASE + WM_DRAWITEM);
+static_assert(CN_MEASUREITEM == CN_BASE + WM_MEASUREITEM);
+static_assert(CN_HSCROLL == CN_BASE + WM_HSCROLL);
+static_assert(CN_VSCROLL == CN_BASE + WM_VSCROLL);
+static_assert(CN_CTLCOLOR == CN_BASE + WM_CTLCOLORMSGBOX);
+static_assert(CN_KEYDOWN == CN_BASE + WM_KEYDOWN);
+static_assert(CN_CHAR == CN_BASE + WM_CHAR);
+static_assert(CN_SYSKEYDOWN == CN_BASE + WM_SYSKEYDOWN);
+static_assert(CN_SYSCHAR == CN_BASE + WM_SYSCHAR);
+
 namespace {
 
 /// The control that a notification to a parent is about.

@@ -5,6 +5,7 @@
 #include "vcl/graphics/canvasbinding.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -182,7 +183,7 @@ void TWinControl::PaintTo(HDC dc, int x, int y) {
 
 const TClass& TCustomControl::Class() {
   static const TClass info =
-      Describe<TCustomControl, TWinControl>("TCustomControl", "controls", {});
+      Describe<TCustomControl, TWinControl>("vcl::TCustomControl", "vcl/controls/controls.h", {});
   return info;
 }
 

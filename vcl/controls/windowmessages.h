@@ -7,10 +7,8 @@ namespace vcl {
 
 /// Sends the control's window a message; makes the window when there is none. Asking a window
 /// changes nothing of its control, so a const one may do it.
-inline LRESULT Send(const TWinControl& control, UINT message, WPARAM wParam = 0,
-                    LPARAM lParam = 0) {
-  return ::SendMessageW(const_cast<TWinControl&>(control).Handle(), message, wParam, lParam);
-}
+VCL_API LRESULT Send(const TWinControl& control, UINT message, WPARAM wParam = 0,
+                     LPARAM lParam = 0);
 
 /// The same, but only to a window that is there.
 inline void SendIfAllocated(const TWinControl& control, UINT message, WPARAM wParam = 0,

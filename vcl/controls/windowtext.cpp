@@ -1,6 +1,7 @@
 // The texts of windows.
 #include "vcl/controls/windowtext.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

@@ -86,7 +86,8 @@ void TDataLink::SetActiveRecord(int index) {
 }
 
 const TClass& TFieldDataLink::Class() {
-  static const TClass info = Describe<TFieldDataLink, TPersistent>("TFieldDataLink", "dbctrls", {});
+  static const TClass info =
+      Describe<TFieldDataLink, TPersistent>("vcl::TFieldDataLink", "vcl/dbctrls/dbctrls.h", {});
   return info;
 }
 

@@ -14,7 +14,7 @@ namespace vcl {
 const TClass& TDataSet::Class() {
   using T = TDataSet;
   static const TClass info = Describe<T, TComponent>(
-      "TDataSet", "db",
+      "vcl::TDataSet", "vcl/db/db.h",
       {
           Property<&T::Active, &T::SetActive>("Active").Default(false).Unpublished(),
           Property<&T::FieldDefs, &T::SetFieldDefs>("FieldDefs").Unpublished(),

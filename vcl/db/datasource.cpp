@@ -9,7 +9,7 @@ namespace vcl {
 const TClass& TDataSource::Class() {
   using T = TDataSource;
   static const TClass info =
-      Describe<T, TComponent>("TDataSource", "db",
+      Describe<T, TComponent>("vcl::TDataSource", "vcl/db/db.h",
                               {
                                   Property<&T::AutoEdit, &T::SetAutoEdit>("AutoEdit").Default(true),
                                   Property<&T::DataSet, &T::SetDataSet>("DataSet"),

@@ -78,16 +78,23 @@ using TFieldSetTextEvent = TEvent<TField*, const std::string&>;
 using TDataChangeEvent = TEvent<TObject*, TField*>;
 
 template <>
-inline constexpr const char* EventName<TDataSetNotifyEvent> = "TDataSetNotifyEvent";
+inline constexpr TEventText EventText<TDataSetNotifyEvent>{"TDataSetNotifyEvent",
+                                                           "vcl::TDataSet* dataSet"};
 template <>
-inline constexpr const char* EventName<TDataSetErrorEvent> = "TDataSetErrorEvent";
+inline constexpr TEventText EventText<TDataSetErrorEvent>{
+    "TDataSetErrorEvent",
+    "vcl::TDataSet* dataSet, const vcl::EDatabaseError& error, vcl::TDataAction& action"};
 template <>
-inline constexpr const char* EventName<TFieldNotifyEvent> = "TFieldNotifyEvent";
+inline constexpr TEventText EventText<TFieldNotifyEvent>{"TFieldNotifyEvent",
+                                                         "vcl::TField* sender"};
 template <>
-inline constexpr const char* EventName<TFieldGetTextEvent> = "TFieldGetTextEvent";
+inline constexpr TEventText EventText<TFieldGetTextEvent>{
+    "TFieldGetTextEvent", "vcl::TField* sender, std::string& text, bool displayText"};
 template <>
-inline constexpr const char* EventName<TFieldSetTextEvent> = "TFieldSetTextEvent";
+inline constexpr TEventText EventText<TFieldSetTextEvent>{
+    "TFieldSetTextEvent", "vcl::TField* sender, const std::string& text"};
 template <>
-inline constexpr const char* EventName<TDataChangeEvent> = "TDataChangeEvent";
+inline constexpr TEventText EventText<TDataChangeEvent>{"TDataChangeEvent",
+                                                        "vcl::TObject* sender, vcl::TField* field"};
 
 }  // namespace vcl

@@ -25,7 +25,7 @@ int CharacterCount(const std::string& text) {
 const TClass& TField::Class() {
   using T = TField;
   static const TClass info = Describe<T, TComponent>(
-      "TField", "db",
+      "vcl::TField", "vcl/db/db.h",
       {
           Property<&T::DisplayLabel, &T::SetDisplayLabel>("DisplayLabel"),
           Property<&T::DisplayWidth, &T::SetDisplayWidth>("DisplayWidth"),

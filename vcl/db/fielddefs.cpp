@@ -10,7 +10,7 @@ EDatabaseError::~EDatabaseError() = default;
 const TClass& TFieldDef::Class() {
   using T = TFieldDef;
   static const TClass info = Describe<T, TCollectionItem>(
-      "TFieldDef", "db",
+      "vcl::TFieldDef", "vcl/db/db.h",
       {
           Property<&T::Name, &T::SetName>("Name"),
           Property<&T::DataType, &T::SetDataType>("DataType").Default(ftUnknown),
@@ -56,7 +56,8 @@ void TFieldDef::Assign(const TPersistent* source) {
 }
 
 const TClass& TFieldDefs::Class() {
-  static const TClass info = Describe<TFieldDefs, TCollection>("TFieldDefs", "db", {});
+  static const TClass info =
+      Describe<TFieldDefs, TCollection>("vcl::TFieldDefs", "vcl/db/db.h", {});
   return info;
 }
 

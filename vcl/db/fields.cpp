@@ -68,7 +68,7 @@ TField* NewField(TFieldType dataType, TComponent* owner) {
 const TClass& TStringField::Class() {
   using T = TStringField;
   static const TClass info = Describe<T, TField>(
-      "TStringField", "db", {Property<&T::Size, &T::SetSize>("Size").Default(0)});
+      "vcl::TStringField", "vcl/db/db.h", {Property<&T::Size, &T::SetSize>("Size").Default(0)});
   return info;
 }
 
@@ -163,8 +163,8 @@ std::string TCurrencyField::ToText(const TFieldValue& value, bool display) const
 const TClass& TBooleanField::Class() {
   using T = TBooleanField;
   static const TClass info = Describe<T, TField>(
-      "TBooleanField", "db",
-      {Property<&T::DisplayValues, &T::SetDisplayValues>("DisplayValues").Default(std::string())});
+      "vcl::TBooleanField", "vcl/db/db.h",
+      {Property<&T::DisplayValues, &T::SetDisplayValues>("DisplayValues").Default("")});
   return info;
 }
 
@@ -203,8 +203,8 @@ std::string TBooleanField::ToText(const TFieldValue& value, bool) const {
 const TClass& TDateTimeField::Class() {
   using T = TDateTimeField;
   static const TClass info = Describe<T, TField>(
-      "TDateTimeField", "db",
-      {Property<&T::DisplayFormat, &T::SetDisplayFormat>("DisplayFormat").Default(std::string())});
+      "vcl::TDateTimeField", "vcl/db/db.h",
+      {Property<&T::DisplayFormat, &T::SetDisplayFormat>("DisplayFormat").Default("")});
   return info;
 }
 

@@ -7,7 +7,8 @@ namespace vcl {
 
 const TClass& TMemoryDataSet::Class() {
   static const TClass info = Describe<TMemoryDataSet, TDataSet>(
-      "TMemoryDataSet", "db", {Inherit("FieldDefs"), Inherit("Active"), Inherit(DataSetEvents)});
+      "vcl::TMemoryDataSet", "vcl/db/db.h",
+      {Inherit("FieldDefs"), Inherit("Active"), Inherit(DataSetEvents)});
   return info;
 }
 

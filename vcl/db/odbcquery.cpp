@@ -11,9 +11,9 @@ namespace vcl {
 const TClass& TOdbcQuery::Class() {
   using T = TOdbcQuery;
   static const TClass info = Describe<T, TDataSet>(
-      "TOdbcQuery", "db",
+      "vcl::TOdbcQuery", "vcl/db/db.h",
       {Property<&T::ConnectionString, &T::SetConnectionString>("ConnectionString"),
-       Property<&T::IdentityQuery, &T::SetIdentityQuery>("IdentityQuery").Default(std::string()),
+       Property<&T::IdentityQuery, &T::SetIdentityQuery>("IdentityQuery").Default(""),
        Property<&T::RequestLive, &T::SetRequestLive>("RequestLive").Default(false),
        Property<&T::SQL, &T::SetSQL>("SQL"),
        Property<&T::UniDirectional, &T::SetUniDirectional>("UniDirectional").Default(false),

@@ -32,7 +32,7 @@ std::size_t FencedLength(std::string_view text) {
 const TClass& TParam::Class() {
   using T = TParam;
   static const TClass info =
-      Describe<T, TCollectionItem>("TParam", "db",
+      Describe<T, TCollectionItem>("vcl::TParam", "vcl/db/db.h",
                                    {
                                        Property<&T::DataType, &T::SetDataType>("DataType"),
                                        Property<&T::Name, &T::SetName>("Name"),
@@ -54,7 +54,7 @@ void TParam::Assign(const TPersistent* source) {
 }
 
 const TClass& TParams::Class() {
-  static const TClass info = Describe<TParams, TCollection>("TParams", "db", {});
+  static const TClass info = Describe<TParams, TCollection>("vcl::TParams", "vcl/db/db.h", {});
   return info;
 }
 

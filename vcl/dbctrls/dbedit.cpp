@@ -2,13 +2,14 @@
 
 #include "vcl/controls/propertygroups.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
 const TClass& TDBEdit::Class() {
   using T = TDBEdit;
   static const TClass info = Describe<T, TCustomEdit>(
-      "TDBEdit", "dbctrls",
+      "vcl::TDBEdit", "vcl/dbctrls/dbctrls.h",
       {
           Inherit("AutoSelect"),
           Inherit("AutoSize"),

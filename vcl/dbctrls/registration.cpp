@@ -2,7 +2,7 @@
 
 #include "vcl/db/registration.h"
 #include "vcl/dbctrls/dbedit.h"
-#include "vcl/dbctrls/dbgrid.h"
+#include "vcl/dbctrls/dbgrids.h"
 #include "vcl/rtl/classregistry.h"
 
 namespace vcl {

@@ -8,6 +8,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/valuetext.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {

@@ -35,7 +35,7 @@ class TLinesForm : public TForm {
 
 const TClass& TLinesForm::Class() {
   static const TClass info = Describe<TLinesForm, TForm>(
-      "TLinesForm", "textdialog",
+      "vcl::TLinesForm", "vcl/designintf/textdialog.h",
       {Field<&TLinesForm::Memo>("Memo"), Field<&TLinesForm::CountLabel>("CountLabel"),
        Method<&TLinesForm::ShowCount>("ShowCount")});
   return info;

@@ -5,6 +5,7 @@
 
 #include "vcl/graphics/graphicsobject.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -21,7 +22,7 @@ std::string CustomName(int index) { return std::string("Color") + static_cast<ch
 const TClass& TColorDialog::Class() {
   using T = TColorDialog;
   static const TClass info = Describe<T, TCommonDialog>(
-      "TColorDialog", "dialogs",
+      "vcl::TColorDialog", "vcl/dialogs/dialogs.h",
       {
           Property<&T::Color, &T::SetColor>("Color").Default(clBlack),
           Property<&T::CustomColors, &T::SetCustomColors>("CustomColors"),

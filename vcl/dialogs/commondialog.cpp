@@ -26,7 +26,7 @@ TCommonDialog* DialogOf(HWND window) {
 
 const TClass& TCommonDialog::Class() {
   static const TClass info =
-      Describe<TCommonDialog, TComponent>("TCommonDialog", "dialogs",
+      Describe<TCommonDialog, TComponent>("vcl::TCommonDialog", "vcl/dialogs/dialogs.h",
                                           {
                                               Event<&TCommonDialog::OnClose>("OnClose"),
                                               Event<&TCommonDialog::OnShow>("OnShow"),

@@ -6,7 +6,7 @@
 
 #include "vcl/rtl/component.h"
 #include "vcl/rtl/events.h"
-#include "vcl/rtl/win32.h"
+#include "vcl/rtl/systemtypes.h"
 
 namespace vcl {
 
@@ -40,7 +40,7 @@ class VCL_API TCommonDialog : public TComponent {
   /// A message of the dialog; the answer is the hook's.
   virtual UINT_PTR HandleMessage(HWND window, UINT message, LPARAM lParam);
   /// What is given to the system as the hook.
-  static UINT_PTR CALLBACK Hook(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static UINT_PTR __stdcall Hook(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
   HWND FHandle = nullptr;

@@ -5,6 +5,7 @@
 
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -40,18 +41,16 @@ void ReadNames(const wchar_t* names, TStrings& files) {
 const TClass& TOpenDialog::Class() {
   using T = TOpenDialog;
   static const TClass info = Describe<T, TCommonDialog>(
-      "TOpenDialog", "dialogs",
+      "vcl::TOpenDialog", "vcl/dialogs/dialogs.h",
       {
-          Property<&T::DefaultExt, &T::SetDefaultExt>("DefaultExt").Default(std::string()),
-          Property<&T::FileName, &T::SetFileName>("FileName")
-              .Default(std::string())
-              .Type("TFileName"),
-          Property<&T::Filter, &T::SetFilter>("Filter").Default(std::string()),
+          Property<&T::DefaultExt, &T::SetDefaultExt>("DefaultExt").Default(""),
+          Property<&T::FileName, &T::SetFileName>("FileName").Default("").Type("TFileName"),
+          Property<&T::Filter, &T::SetFilter>("Filter").Default(""),
           Property<&T::FilterIndex, &T::SetFilterIndex>("FilterIndex").Default(1),
-          Property<&T::InitialDir, &T::SetInitialDir>("InitialDir").Default(std::string()),
+          Property<&T::InitialDir, &T::SetInitialDir>("InitialDir").Default(""),
           Property<&T::Options, &T::SetOptions>("Options").Default(
               TOpenOptions{ofHideReadOnly, ofEnableSizing}),
-          Property<&T::Title, &T::SetTitle>("Title").Default(std::string()),
+          Property<&T::Title, &T::SetTitle>("Title").Default(""),
           Event<&T::OnCanClose>("OnCanClose"),
           Event<&T::OnFolderChange>("OnFolderChange"),
           Event<&T::OnSelectionChange>("OnSelectionChange"),
@@ -61,7 +60,8 @@ const TClass& TOpenDialog::Class() {
 }
 
 const TClass& TSaveDialog::Class() {
-  static const TClass info = Describe<TSaveDialog, TOpenDialog>("TSaveDialog", "dialogs", {});
+  static const TClass info =
+      Describe<TSaveDialog, TOpenDialog>("vcl::TSaveDialog", "vcl/dialogs/dialogs.h", {});
   return info;
 }
 

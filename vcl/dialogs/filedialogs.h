@@ -80,7 +80,7 @@ class VCL_API TOpenDialog : public TCommonDialog {
   TNotifyEvent OnFolderChange, OnSelectionChange, OnTypeChange;
 
  protected:
-  using TFunction = BOOL(WINAPI*)(OPENFILENAMEW*);
+  using TFunction = BOOL(__stdcall*)(OPENFILENAMEW*);
   bool Choose(TFunction function);
   bool NeedsHook() const override;
   UINT_PTR HandleMessage(HWND window, UINT message, LPARAM lParam) override;

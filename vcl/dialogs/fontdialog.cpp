@@ -1,6 +1,7 @@
 #include "vcl/dialogs/fontdialog.h"
 
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -17,7 +18,7 @@ constexpr DWORD OptionFlags[] = {
 const TClass& TFontDialog::Class() {
   using T = TFontDialog;
   static const TClass info = Describe<T, TCommonDialog>(
-      "TFontDialog", "dialogs",
+      "vcl::TFontDialog", "vcl/dialogs/dialogs.h",
       {
           Property<&T::Font, &T::SetFont>("Font"),
           Property<&T::MinFontSize, &T::SetMinFontSize>("MinFontSize").Default(0),

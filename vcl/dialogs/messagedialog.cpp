@@ -8,6 +8,7 @@
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/graphics/handles.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/button.h"
 #include "vcl/stdctrls/edit.h"
 #include "vcl/stdctrls/image.h"

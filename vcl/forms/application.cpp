@@ -40,8 +40,8 @@ TApplication* Application() {
 bool HasApplication() { return TheApplication != nullptr; }
 
 const TClass& TApplication::Class() {
-  static const TClass info =
-      Describe<TApplication, TCustomApplication>("TApplication", "application", {});
+  static const TClass info = Describe<TApplication, TCustomApplication>(
+      "vcl::TApplication", "vcl/forms/application.h", {});
   return info;
 }
 

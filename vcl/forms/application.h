@@ -11,6 +11,7 @@
 #include "vcl/graphics/graphics.h"
 #include "vcl/graphics/types.h"
 #include "vcl/rtl/customapplication.h"
+#include "vcl/rtl/systemmacros.h"
 
 namespace vcl {
 
@@ -24,9 +25,11 @@ using TIdleEvent = TEvent<TObject*, bool&>;
 /// A message of the program's queue; `handled` keeps it from its window.
 using TMessageEvent = TEvent<MSG&, bool&>;
 template <>
-inline constexpr const char* EventName<TExceptionEvent> = "TExceptionEvent";
+inline constexpr TEventText EventText<TExceptionEvent>{
+    "TExceptionEvent", "vcl::TObject* sender, const std::exception& error"};
 template <>
-inline constexpr const char* EventName<TMessageEvent> = "TMessageEvent";
+inline constexpr TEventText EventText<TMessageEvent>{"TMessageEvent",
+                                                     "MSG& message, bool& handled"};
 
 /// The application. A program has one, `Application()`:
 ///
@@ -134,7 +137,7 @@ class VCL_API TApplication : public TCustomApplication {
 
  private:
   friend class TCustomForm;
-  static LRESULT CALLBACK StaticWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT __stdcall StaticWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT WndProc(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT SysCommand(WPARAM wParam, LPARAM lParam);
   [[noreturn]] static void EndByError();

@@ -4,6 +4,7 @@
 #include "vcl/forms/forms.h"
 #include "vcl/forms/screen.h"
 #include "vcl/rtl/thread.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

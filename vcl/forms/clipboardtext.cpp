@@ -6,6 +6,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

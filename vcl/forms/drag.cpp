@@ -6,6 +6,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/handles.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

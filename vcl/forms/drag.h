@@ -45,7 +45,7 @@ class VCL_API TDragSession : public std::enable_shared_from_this<TDragSession> {
 
  private:
   explicit TDragSession(TControl* control);
-  static LRESULT CALLBACK WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT __stdcall WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void Capture();
   void HandleMessage(UINT message);
   void Start();

@@ -7,6 +7,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

@@ -11,17 +11,19 @@
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/resources.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
 const TClass& TCustomForm::Class() {
-  static const TClass info = Describe<TCustomForm, TWinControl>("TCustomForm", "forms", {});
+  static const TClass info =
+      Describe<TCustomForm, TWinControl>("vcl::TCustomForm", "vcl/forms/forms.h", {});
   return info;
 }
 
 const TClass& TForm::Class() {
   static const TClass info = Describe<TForm, TCustomForm>(
-      "TForm", "forms",
+      "vcl::TForm", "vcl/forms/forms.h",
       {
           // The client size says it all.
           Inherit("Width").Stored(false),

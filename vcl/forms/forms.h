@@ -36,9 +36,11 @@ enum TCloseAction { caNone, caHide, caFree, caMinimize };
 using TCloseEvent = TEvent<TObject*, TCloseAction&>;
 using TCloseQueryEvent = TEvent<TObject*, bool&>;
 template <>
-inline constexpr const char* EventName<TCloseEvent> = "TCloseEvent";
+inline constexpr TEventText EventText<TCloseEvent>{
+    "TCloseEvent", "vcl::TObject* sender, vcl::TCloseAction& action"};
 template <>
-inline constexpr const char* EventName<TCloseQueryEvent> = "TCloseQueryEvent";
+inline constexpr TEventText EventText<TCloseQueryEvent>{"TCloseQueryEvent",
+                                                        "vcl::TObject* sender, bool& canClose"};
 
 /// A window of the application. A form class with a form file lists its fields and handlers in its
 /// table (vcl/rtl/properties.h) and calls `LoadForm` in its own constructor, where its fields and

@@ -4,6 +4,7 @@
 #include "vcl/forms/screen.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

@@ -9,6 +9,7 @@
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

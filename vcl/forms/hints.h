@@ -24,7 +24,8 @@ struct THintInfo {
 /// Text, whether it may be shown, the rest.
 using TShowHintEvent = TEvent<std::string&, bool&, THintInfo&>;
 template <>
-inline constexpr const char* EventName<TShowHintEvent> = "TShowHintEvent";
+inline constexpr TEventText EventText<TShowHintEvent>{
+    "TShowHintEvent", "std::string& hint, bool& canShow, vcl::THintInfo& info"};
 
 /// The part of a hint before its "|", which is shown in a window.
 VCL_API std::string GetShortHint(const std::string& hint);
@@ -83,7 +84,7 @@ class VCL_API THintControl {
 
  private:
   friend class TApplication;
-  static void CALLBACK TimerProc(HWND window, UINT message, UINT_PTR id, DWORD time);
+  static void __stdcall TimerProc(HWND window, UINT message, UINT_PTR id, DWORD time);
   void Enter(TControl* control);
   void SetColor(TColor color);
   void StartTimer(int milliseconds);

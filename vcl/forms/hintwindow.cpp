@@ -6,6 +6,7 @@
 #include "vcl/forms/screen.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -36,7 +37,8 @@ std::string GetLongHint(const std::string& hint) {
 }
 
 const TClass& THintWindow::Class() {
-  static const TClass info = Describe<THintWindow, TCustomControl>("THintWindow", "hints", {});
+  static const TClass info =
+      Describe<THintWindow, TCustomControl>("vcl::THintWindow", "vcl/forms/hints.h", {});
   return info;
 }
 

@@ -1,5 +1,7 @@
 #include "vcl/forms/module.h"
 
+#include "vcl/rtl/win32.h"
+
 namespace vcl {
 
 HINSTANCE ModuleOf(const void* address) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "vcl/rtl/api.h"
-#include "vcl/rtl/win32.h"
+#include "vcl/rtl/systemtypes.h"
 
 namespace vcl {
 

@@ -7,6 +7,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -22,7 +23,8 @@ TRect WorkAreaOf(HMONITOR monitor) {
 }  // namespace
 
 const TClass& TScreen::Class() {
-  static const TClass info = Describe<TScreen, TComponent>("TScreen", "screen", {});
+  static const TClass info =
+      Describe<TScreen, TComponent>("vcl::TScreen", "vcl/forms/screen.h", {});
   return info;
 }
 
@@ -116,7 +118,7 @@ HCURSOR TScreen::Cursors(TCursor cursor) const {
   if (found != FCursors.end()) return found->second.Get();
   if (const HCURSOR system = SystemCursor(cursor)) return system;
   if (HCURSOR drawn = DrawnCursor(cursor)) {
-    return FCursors.emplace(cursor, TOwned<HCURSOR, &::DestroyCursor>(drawn)).first->second.Get();
+    return FCursors.emplace(cursor, TOwnedCursor(drawn)).first->second.Get();
   }
   return cursor == crNone ? nullptr : SystemCursor(crArrow);
 }

@@ -66,7 +66,7 @@ class VCL_API TScreen : public TComponent {
   TCustomForm* FActiveForm = nullptr;
   TWinControl* FActiveControl = nullptr;
   TCursor FCursor = crDefault;
-  mutable std::map<int, TOwned<HCURSOR, &::DestroyCursor>> FCursors;
+  mutable std::map<int, TOwnedCursor> FCursors;
 };
 
 /// The program's screen; made at the first call. It lives as long as the process.

@@ -9,6 +9,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -137,7 +138,8 @@ TBitmap::TBitmap(int width, int height) : TBitmap() { SetSize(width, height); }
 TBitmap::~TBitmap() { LetGo(); }
 
 const TClass& TBitmap::Class() {
-  static const TClass info = Describe<TBitmap, TGraphic>("TBitmap", "graphics", {});
+  static const TClass info =
+      Describe<TBitmap, TGraphic>("vcl::TBitmap", "vcl/graphics/graphics.h", {});
   return info;
 }
 

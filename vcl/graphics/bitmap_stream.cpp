@@ -5,6 +5,7 @@
 #include "vcl/rtl/resources.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

@@ -2,6 +2,7 @@
 
 #include "vcl/graphics/bitmap.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -21,7 +22,7 @@ TBrush::~TBrush() = default;
 
 const TClass& TBrush::Class() {
   static const TClass info = Describe<TBrush, TGraphicsObject>(
-      "TBrush", "graphics",
+      "vcl::TBrush", "vcl/graphics/graphics.h",
       {
           Property<&TBrush::Color, &TBrush::SetColor>("Color").Default(clWhite),
           Property<&TBrush::Style, &TBrush::SetStyle>("Style").Default(bsSolid),

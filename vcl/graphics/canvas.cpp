@@ -5,8 +5,26 @@
 
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
+
+// The header that has no system's header repeats its numbers.
+static_assert(cmBlackness == BLACKNESS);
+static_assert(cmDstInvert == DSTINVERT);
+static_assert(cmMergeCopy == MERGECOPY);
+static_assert(cmMergePaint == MERGEPAINT);
+static_assert(cmNotSrcCopy == NOTSRCCOPY);
+static_assert(cmNotSrcErase == NOTSRCERASE);
+static_assert(cmPatCopy == PATCOPY);
+static_assert(cmPatInvert == PATINVERT);
+static_assert(cmPatPaint == PATPAINT);
+static_assert(cmSrcAnd == SRCAND);
+static_assert(cmSrcCopy == SRCCOPY);
+static_assert(cmSrcErase == SRCERASE);
+static_assert(cmSrcInvert == SRCINVERT);
+static_assert(cmSrcPaint == SRCPAINT);
+static_assert(cmWhiteness == WHITENESS);
 
 // ---- The device context and what is selected in it ----
 
@@ -17,7 +35,8 @@ TCanvas::~TCanvas() {
 }
 
 const TClass& TCanvas::Class() {
-  static const TClass info = Describe<TCanvas, TPersistent>("TCanvas", "graphics", {});
+  static const TClass info =
+      Describe<TCanvas, TPersistent>("vcl::TCanvas", "vcl/graphics/graphics.h", {});
   return info;
 }
 

@@ -9,6 +9,7 @@
 #include "vcl/graphics/font.h"
 #include "vcl/graphics/pen.h"
 #include "vcl/graphics/types.h"
+#include "vcl/rtl/systemmacros.h"
 
 namespace vcl {
 
@@ -17,12 +18,13 @@ class TGraphic;
 
 /// How CopyRect and drawn pictures combine with what is there: a ternary raster operation.
 using TCopyMode = DWORD;
-inline constexpr TCopyMode cmBlackness = BLACKNESS, cmDstInvert = DSTINVERT,
-                           cmMergeCopy = MERGECOPY, cmMergePaint = MERGEPAINT,
-                           cmNotSrcCopy = NOTSRCCOPY, cmNotSrcErase = NOTSRCERASE,
-                           cmPatCopy = PATCOPY, cmPatInvert = PATINVERT, cmPatPaint = PATPAINT,
-                           cmSrcAnd = SRCAND, cmSrcCopy = SRCCOPY, cmSrcErase = SRCERASE,
-                           cmSrcInvert = SRCINVERT, cmSrcPaint = SRCPAINT, cmWhiteness = WHITENESS;
+inline constexpr TCopyMode cmBlackness = 0x00000042, cmDstInvert = 0x00550009,
+                           cmMergeCopy = 0x00C000CA, cmMergePaint = 0x00BB0226,
+                           cmNotSrcCopy = 0x00330008, cmNotSrcErase = 0x001100A6,
+                           cmPatCopy = 0x00F00021, cmPatInvert = 0x005A0049,
+                           cmPatPaint = 0x00FB0A09, cmSrcAnd = 0x008800C6, cmSrcCopy = 0x00CC0020,
+                           cmSrcErase = 0x00440328, cmSrcInvert = 0x00660046,
+                           cmSrcPaint = 0x00EE0086, cmWhiteness = 0x00FF0062;
 
 /// How FloodFill finds its bounds: it fills what has the colour, or up to what has it.
 enum TFillStyle { fsSurface, fsBorder };

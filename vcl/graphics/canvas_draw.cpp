@@ -6,6 +6,7 @@
 #include "vcl/graphics/graphic.h"
 #include "vcl/graphics/private/keyedcopy.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

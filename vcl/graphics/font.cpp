@@ -7,6 +7,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -86,7 +87,7 @@ TFont::~TFont() = default;
 
 const TClass& TFont::Class() {
   static const TClass info = Describe<TFont, TGraphicsObject>(
-      "TFont", "graphics",
+      "vcl::TFont", "vcl/graphics/graphics.h",
       {
           Property<&TFont::Charset, &TFont::SetCharset>("Charset"),
           Property<&TFont::Color, &TFont::SetColor>("Color"),

@@ -86,7 +86,7 @@ class VCL_API TFont : public TGraphicsObject {
   TFontStyles FStyle;
   TColor FColor = clWindowText;
   TFontPitch FPitch = fpDefault;
-  TFontCharset FCharset = TFontCharset(DEFAULT_CHARSET);
+  TFontCharset FCharset = TFontCharset(1);  // DEFAULT_CHARSET
   mutable std::shared_ptr<const TOwnedFont> FHandle;
 };
 

@@ -1,6 +1,7 @@
 #include "vcl/graphics/fontmetrics.h"
 
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

@@ -7,7 +7,8 @@
 namespace vcl {
 
 const TClass& TGraphic::Class() {
-  static const TClass info = Describe<TGraphic, TPersistent>("TGraphic", "graphics", {});
+  static const TClass info =
+      Describe<TGraphic, TPersistent>("vcl::TGraphic", "vcl/graphics/graphics.h", {});
   return info;
 }
 

@@ -1,6 +1,7 @@
 #include "vcl/graphics/graphicsobject.h"
 
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -12,7 +13,7 @@ COLORREF ColorToRGB(TColor color) {
 
 const TClass& TGraphicsObject::Class() {
   static const TClass info =
-      Describe<TGraphicsObject, TPersistent>("TGraphicsObject", "graphics", {});
+      Describe<TGraphicsObject, TPersistent>("vcl::TGraphicsObject", "vcl/graphics/graphics.h", {});
   return info;
 }
 

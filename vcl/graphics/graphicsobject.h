@@ -4,7 +4,7 @@
 #include "vcl/rtl/colors.h"
 #include "vcl/rtl/events.h"
 #include "vcl/rtl/persistent.h"
-#include "vcl/rtl/win32.h"
+#include "vcl/rtl/systemtypes.h"
 
 namespace vcl {
 
@@ -13,7 +13,7 @@ namespace vcl {
 VCL_API COLORREF ColorToRGB(TColor color);
 /// The colour with these channels.
 constexpr TColor RGBToColor(BYTE red, BYTE green, BYTE blue) {
-  return static_cast<TColor>(RGB(red, green, blue));
+  return static_cast<TColor>(red | green << 8 | blue << 16);
 }
 
 /// A font, pen or brush: a description from which a GDI object is made when it is asked for.

@@ -3,6 +3,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/os.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -11,6 +12,11 @@ void RaiseOutOfResources(const std::string& what) {
   const std::string reason = ::GetLastError() ? os::LastErrorText() : "no reason is given";
   throw EOutOfResources(Concat("The system refused ", what, ": ", reason));
 }
+
+void detail::DeleteGdiObject(HGDIOBJ object) { ::DeleteObject(object); }
+void detail::DeleteContext(HDC dc) { ::DeleteDC(dc); }
+void detail::DeleteCursor(HCURSOR cursor) { ::DestroyCursor(cursor); }
+void detail::DeleteIcon(HICON icon) { ::DestroyIcon(icon); }
 
 TMemoryDC::TMemoryDC() : FHandle(CheckHandle(::CreateCompatibleDC(nullptr), "a memory context")) {}
 
@@ -24,5 +30,8 @@ TSelection::TSelection(HDC dc, HGDIOBJ object)
       FFormer(CheckHandle(::SelectObject(dc, object), "to select an object for drawing")) {}
 
 TSelection::~TSelection() { ::SelectObject(FDC, FFormer); }
+
+TSavedDC::TSavedDC(HDC dc) : FDC(dc), FLevel(::SaveDC(dc)) {}
+TSavedDC::~TSavedDC() { ::RestoreDC(FDC, FLevel); }
 
 }  // namespace vcl

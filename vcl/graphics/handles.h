@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "vcl/rtl/api.h"
-#include "vcl/rtl/win32.h"
+#include "vcl/rtl/systemtypes.h"
 
 namespace vcl {
 
@@ -44,13 +44,26 @@ class TOwned {
   H FHandle = nullptr;
 };
 
-using TOwnedBitmap = TOwned<HBITMAP, &::DeleteObject>;
-using TOwnedBrush = TOwned<HBRUSH, &::DeleteObject>;
-using TOwnedFont = TOwned<HFONT, &::DeleteObject>;
-using TOwnedPen = TOwned<HPEN, &::DeleteObject>;
-using TOwnedRegion = TOwned<HRGN, &::DeleteObject>;
-using TOwnedIcon = TOwned<HICON, &::DestroyIcon>;
-using TOwnedDC = TOwned<HDC, &::DeleteDC>;
+namespace detail {
+// The system's own functions are named by sources only.
+VCL_API void DeleteGdiObject(HGDIOBJ object);
+VCL_API void DeleteContext(HDC dc);
+VCL_API void DeleteCursor(HCURSOR cursor);
+VCL_API void DeleteIcon(HICON icon);
+inline void FreeObject(HGDIOBJ object) { DeleteGdiObject(object); }
+inline void FreeContext(HDC dc) { DeleteContext(dc); }
+inline void FreeCursor(HCURSOR cursor) { DeleteCursor(cursor); }
+inline void FreeIcon(HICON icon) { DeleteIcon(icon); }
+}  // namespace detail
+
+using TOwnedBitmap = TOwned<HBITMAP, &detail::FreeObject>;
+using TOwnedBrush = TOwned<HBRUSH, &detail::FreeObject>;
+using TOwnedFont = TOwned<HFONT, &detail::FreeObject>;
+using TOwnedPen = TOwned<HPEN, &detail::FreeObject>;
+using TOwnedRegion = TOwned<HRGN, &detail::FreeObject>;
+using TOwnedIcon = TOwned<HICON, &detail::FreeIcon>;
+using TOwnedCursor = TOwned<HCURSOR, &detail::FreeCursor>;
+using TOwnedDC = TOwned<HDC, &detail::FreeContext>;
 
 /// A memory device context, compatible with the screen.
 class VCL_API TMemoryDC {
@@ -96,8 +109,8 @@ class VCL_API TSelection {
 /// Keeps all of a device context's state, clipping included, and brings it back.
 class VCL_API TSavedDC {
  public:
-  explicit TSavedDC(HDC dc) : FDC(dc), FLevel(::SaveDC(dc)) {}
-  ~TSavedDC() { ::RestoreDC(FDC, FLevel); }
+  explicit TSavedDC(HDC dc);
+  ~TSavedDC();
   TSavedDC(const TSavedDC&) = delete;
   TSavedDC& operator=(const TSavedDC&) = delete;
 

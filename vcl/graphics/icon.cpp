@@ -14,6 +14,7 @@
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -44,7 +45,7 @@ struct TIconParts {
 TIcon::~TIcon() = default;
 
 const TClass& TIcon::Class() {
-  static const TClass info = Describe<TIcon, TGraphic>("TIcon", "graphics", {});
+  static const TClass info = Describe<TIcon, TGraphic>("vcl::TIcon", "vcl/graphics/graphics.h", {});
   return info;
 }
 

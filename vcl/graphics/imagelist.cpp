@@ -8,6 +8,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -62,7 +63,7 @@ TImageList::~TImageList() {
 
 const TClass& TImageList::Class() {
   static const TClass info = Describe<TImageList, TComponent>(
-      "TImageList", "controls",
+      "vcl::TImageList", "vcl/controls/controls.h",
       {
           Property<&TImageList::BkColor, &TImageList::SetBkColor>("BkColor").Default(clNone),
           Property<&TImageList::Height, &TImageList::SetHeight>("Height").Default(16),

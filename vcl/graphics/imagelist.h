@@ -5,7 +5,7 @@
 
 #include "vcl/graphics/canvas.h"
 #include "vcl/rtl/component.h"
-#include "vcl/rtl/win32.h"
+#include "vcl/rtl/systemtypes.h"
 
 namespace vcl {
 

@@ -1,6 +1,7 @@
 #include "vcl/graphics/pen.h"
 
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -8,7 +9,7 @@ TPen::~TPen() = default;
 
 const TClass& TPen::Class() {
   static const TClass info = Describe<TPen, TGraphicsObject>(
-      "TPen", "graphics",
+      "vcl::TPen", "vcl/graphics/graphics.h",
       {
           Property<&TPen::Color, &TPen::SetColor>("Color").Default(clBlack),
           Property<&TPen::Mode, &TPen::SetMode>("Mode").Default(pmCopy),

@@ -37,7 +37,8 @@ std::string Extension(const std::string& fileName) {
 }  // namespace
 
 const TClass& TPicture::Class() {
-  static const TClass info = Describe<TPicture, TPersistent>("TPicture", "graphics", {});
+  static const TClass info =
+      Describe<TPicture, TPersistent>("vcl::TPicture", "vcl/graphics/graphics.h", {});
   return info;
 }
 

@@ -1,7 +1,9 @@
 // Points, sizes and rectangles, in pixels.
 #pragma once
 
-#include "vcl/rtl/win32.h"
+#include <type_traits>
+
+#include "vcl/rtl/systemtypes.h"
 
 namespace vcl {
 
@@ -11,10 +13,15 @@ struct TPoint {
 
   constexpr TPoint() = default;
   constexpr TPoint(int x, int y) : X(x), Y(y) {}
-  // Implicit both ways, so that a point goes into and comes out of a system call as it is.
-  constexpr TPoint(const POINT& p)  // NOLINT(google-explicit-constructor)
+  // Implicit both ways, so that a point goes into and comes out of a system call as it is;
+  // templates, because only callers of the system know what a POINT holds.
+  template <class P, class = std::enable_if_t<std::is_same_v<P, POINT>>>
+  constexpr TPoint(const P& p)  // NOLINT(google-explicit-constructor)
       : X(static_cast<int>(p.x)), Y(static_cast<int>(p.y)) {}
-  constexpr operator POINT() const { return {X, Y}; }  // NOLINT(google-explicit-constructor)
+  template <class P, class = std::enable_if_t<std::is_same_v<P, POINT>>>
+  constexpr operator P() const {  // NOLINT(google-explicit-constructor)
+    return {X, Y};
+  }
 
   friend constexpr bool operator==(const TPoint&, const TPoint&) = default;
   friend constexpr TPoint operator+(TPoint a, TPoint b) { return {a.X + b.X, a.Y + b.Y}; }
@@ -38,12 +45,16 @@ struct TRect {
   constexpr TRect() = default;
   constexpr TRect(int left, int top, int right, int bottom)
       : Left(left), Top(top), Right(right), Bottom(bottom) {}
-  constexpr TRect(const RECT& r)  // NOLINT(google-explicit-constructor): see TPoint.
+  template <class R, class = std::enable_if_t<std::is_same_v<R, RECT>>>
+  constexpr TRect(const R& r)  // NOLINT(google-explicit-constructor): see TPoint.
       : Left(static_cast<int>(r.left)),
         Top(static_cast<int>(r.top)),
         Right(static_cast<int>(r.right)),
         Bottom(static_cast<int>(r.bottom)) {}
-  constexpr operator RECT() const { return {Left, Top, Right, Bottom}; }  // NOLINT
+  template <class R, class = std::enable_if_t<std::is_same_v<R, RECT>>>
+  constexpr operator R() const {  // NOLINT(google-explicit-constructor)
+    return {Left, Top, Right, Bottom};
+  }
 
   constexpr int Width() const { return Right - Left; }
   constexpr int Height() const { return Bottom - Top; }

@@ -2,13 +2,14 @@
 #include "vcl/forms/forms.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
 // TMenu.
 
 const TClass& TMenu::Class() {
-  static const TClass info = Describe<TMenu, TComponent>("TMenu", "menus", {});
+  static const TClass info = Describe<TMenu, TComponent>("vcl::TMenu", "vcl/menus/menus.h", {});
   return info;
 }
 
@@ -90,7 +91,7 @@ void TMenu::GetChildren(const std::function<void(TComponent*)>& each, TComponent
 // TMainMenu.
 
 const TClass& TMainMenu::Class() {
-  static const TClass info = Describe<TMainMenu, TMenu>("TMainMenu", "menus", {});
+  static const TClass info = Describe<TMainMenu, TMenu>("vcl::TMainMenu", "vcl/menus/menus.h", {});
   return info;
 }
 

@@ -6,6 +6,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -34,7 +35,7 @@ std::uint16_t TakeCommand() {
 
 const TClass& TMenuItem::Class() {
   static const TClass info = Describe<TMenuItem, TComponent>(
-      "TMenuItem", "menus",
+      "vcl::TMenuItem", "vcl/menus/menus.h",
       {
           Property<&TMenuItem::Caption, &TMenuItem::SetCaption>("Caption").Type("TCaption"),
           Property<&TMenuItem::Checked, &TMenuItem::SetChecked>("Checked").Default(false),

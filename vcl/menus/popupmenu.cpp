@@ -2,6 +2,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -39,7 +40,7 @@ bool ProgramIsInFront() {
 
 const TClass& TPopupMenu::Class() {
   static const TClass info = Describe<TPopupMenu, TMenu>(
-      "TPopupMenu", "menus",
+      "vcl::TPopupMenu", "vcl/menus/menus.h",
       {
           Property<&TPopupMenu::AutoPopup, &TPopupMenu::SetAutoPopup>("AutoPopup").Default(true),
           Event<&TPopupMenu::OnPopup>("OnPopup"),

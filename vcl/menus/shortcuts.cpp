@@ -4,6 +4,7 @@
 
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

@@ -8,14 +8,14 @@ namespace vcl {
 const TClass& TClientSocket::Class() {
   using T = TClientSocket;
   static const TClass info = Describe<T, TComponent>(
-      "TClientSocket", "sockets",
+      "vcl::TClientSocket", "vcl/net/sockets.h",
       {
           Property<&T::Active, &T::SetActive>("Active").Default(false),
-          Property<&T::Address, &T::SetAddress>("Address").Default(std::string()),
+          Property<&T::Address, &T::SetAddress>("Address").Default(""),
           Property<&T::ClientType, &T::SetClientType>("ClientType").Default(ctBlocking),
-          Property<&T::Host, &T::SetHost>("Host").Default(std::string()),
+          Property<&T::Host, &T::SetHost>("Host").Default(""),
           Property<&T::Port, &T::SetPort>("Port").Default(0),
-          Property<&T::Service, &T::SetService>("Service").Default(std::string()),
+          Property<&T::Service, &T::SetService>("Service").Default(""),
           Event<&T::OnLookup>("OnLookup"),
           Event<&T::OnConnecting>("OnConnecting"),
           Event<&T::OnConnect>("OnConnect"),

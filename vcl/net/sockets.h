@@ -39,12 +39,15 @@ enum TErrorEvent { eeGeneral, eeSend, eeReceive, eeConnect, eeDisconnect, eeAcce
 
 using TSocketNotifyEvent = TEvent<TObject*, TCustomWinSocket*>;
 template <>
-inline constexpr const char* EventName<TSocketNotifyEvent> = "TSocketNotifyEvent";
+inline constexpr TEventText EventText<TSocketNotifyEvent>{
+    "TSocketNotifyEvent", "vcl::TObject* sender, vcl::TCustomWinSocket* socket"};
 /// The last argument is the system's error number: a handler that sets it to 0 has dealt with the
 /// error, which is then not raised.
 using TSocketErrorEvent = TEvent<TObject*, TCustomWinSocket*, TErrorEvent, int&>;
 template <>
-inline constexpr const char* EventName<TSocketErrorEvent> = "TSocketErrorEvent";
+inline constexpr TEventText EventText<TSocketErrorEvent>{
+    "TSocketErrorEvent",
+    "vcl::TObject* sender, vcl::TCustomWinSocket* socket, vcl::TErrorEvent event, int& code"};
 
 /// How a client socket waits.
 enum TClientType {

@@ -15,7 +15,8 @@ int Portion(std::int64_t count) {
 }  // namespace
 
 const TClass& TWinSocketStream::Class() {
-  static const TClass info = Describe<TWinSocketStream, TStream>("TWinSocketStream", "sockets", {});
+  static const TClass info =
+      Describe<TWinSocketStream, TStream>("vcl::TWinSocketStream", "vcl/net/sockets.h", {});
   return info;
 }
 

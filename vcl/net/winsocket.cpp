@@ -21,7 +21,8 @@ constexpr int ForEver = -1;
 ESocketError::~ESocketError() = default;
 
 const TClass& TCustomWinSocket::Class() {
-  static const TClass info = Describe<TCustomWinSocket, TObject>("TCustomWinSocket", "sockets", {});
+  static const TClass info =
+      Describe<TCustomWinSocket, TObject>("vcl::TCustomWinSocket", "vcl/net/sockets.h", {});
   return info;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "vcl/rtl/object.h"
+#include "vcl/rtl/systemmacros.h"
 
 namespace vcl {
 

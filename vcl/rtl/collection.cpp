@@ -10,7 +10,7 @@ namespace vcl {
 
 const TClass& TCollectionItem::Class() {
   static const TClass info =
-      Describe<TCollectionItem, TPersistent>("TCollectionItem", "collection", {});
+      Describe<TCollectionItem, TPersistent>("vcl::TCollectionItem", "vcl/rtl/collection.h", {});
   return info;
 }
 
@@ -47,7 +47,8 @@ void TCollectionItem::Changed(bool allItems) {
 }
 
 const TClass& TCollection::Class() {
-  static const TClass info = Describe<TCollection, TPersistent>("TCollection", "collection", {});
+  static const TClass info =
+      Describe<TCollection, TPersistent>("vcl::TCollection", "vcl/rtl/collection.h", {});
   return info;
 }
 

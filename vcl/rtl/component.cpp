@@ -14,7 +14,7 @@ namespace vcl {
 
 const TClass& TComponent::Class() {
   static const TClass info = Describe<TComponent, TPersistent>(
-      "TComponent", "component",
+      "vcl::TComponent", "vcl/rtl/component.h",
       {
           // The name stands in the heading of the component's part of the file.
           Property<&TComponent::Name, &TComponent::SetName>("Name")

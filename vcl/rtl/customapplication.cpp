@@ -23,8 +23,8 @@ TCustomApplication& MakeStandIn() {
 }  // namespace
 
 const TClass& TCustomApplication::Class() {
-  static const TClass info =
-      Describe<TCustomApplication, TComponent>("TCustomApplication", "customapplication", {});
+  static const TClass info = Describe<TCustomApplication, TComponent>(
+      "vcl::TCustomApplication", "vcl/rtl/customapplication.h", {});
   return info;
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "vcl/rtl/component.h"
+#include "vcl/rtl/systemmacros.h"
 
 namespace vcl {
 

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -55,6 +56,13 @@ class TEvent final : public TEventBase {
   TEvent(T* object, void (C::*method)(A...))
       : FCall([object, method](A... args) { (object->*method)(std::forward<A>(args)...); }) {}
 
+  /// A function that is told the object; the event's handler name stays as it is.
+  void BindTo(TObject& object, void (*function)(TObject&, A...)) {
+    FCall = [object = &object, function](A... args) {
+      function(*object, std::forward<A>(args)...);
+    };
+  }
+
   void operator()(A... args) const {
     if (!FCall) return;
     const auto call = FCall;
@@ -74,10 +82,20 @@ class TEvent final : public TEventBase {
 /// The plain event: something happened to the sender.
 using TNotifyEvent = TEvent<TObject*>;
 
-/// The name under which an event type appears in the reference and in the designer.
+/// The spelling of an event type: the name under which the reference and the designer show it, and
+/// the parameters of its handlers as a declaration has them, which the designer writes. Stands
+/// beside the type:
+///
+///     using TCloseEvent = TEvent<TObject*, TCloseAction&>;
+///     template <> inline constexpr TEventText EventText<TCloseEvent>{
+///         "TCloseEvent", "vcl::TObject* sender, vcl::TCloseAction& action"};
+struct TEventText {
+  std::string_view Name = "TEvent";
+  std::string_view Parameters = {};
+};
 template <class TheEvent>
-inline constexpr const char* EventName = "TEvent";
+inline constexpr TEventText EventText{};
 template <>
-inline constexpr const char* EventName<TNotifyEvent> = "TNotifyEvent";
+inline constexpr TEventText EventText<TNotifyEvent>{"TNotifyEvent", "vcl::TObject* sender"};
 
 }  // namespace vcl

@@ -17,34 +17,47 @@ const Info* FindIn(const std::vector<Info>& infos, std::string_view name) {
 }
 
 /// The line that a descendant gets of an ancestor's property, with what the descendant redeclares.
-TPropInfo Redeclared(const TPropInfo& inherited, TClassEntry& entry) {
+TPropInfo Redeclared(const TPropInfo& inherited, const TClassEntry& entry) {
   TPropInfo info = inherited;
-  if (entry.FNoDefault) info.DefaultValue.reset();
-  if (entry.Prop.DefaultValue) info.DefaultValue = entry.Prop.DefaultValue;
-  if (entry.Prop.AskDefault) info.AskDefault = entry.Prop.AskDefault;
-  if (!entry.Prop.Alias.empty()) info.Alias = entry.Prop.Alias;
-  if (entry.FStored) {
-    info.Stored = *entry.FStored;
-    info.AskStored = entry.Prop.AskStored;
-  }
+  if (entry.WithoutDefault) info.DefaultValue.reset();
+  if (entry.AskDefault) info.AskDefault = entry.AskDefault;
+  if (!entry.Alias.empty()) info.Alias = entry.Alias;
+  if (!entry.Parameters.empty()) info.Parameters = entry.Parameters;
   return info;
 }
 
-/// A whole number may be declared as a float's default; any other value of a wrong sort is a
-/// mistake.
-void CheckDefault(const std::string& className, TPropInfo& prop) {
-  if (!prop.DefaultValue) return;
-  const auto* whole = std::get_if<std::int64_t>(&*prop.DefaultValue);
-  if (whole && prop.Kind() == TTypeKind::Float) prop.DefaultValue = static_cast<double>(*whole);
-  if (prop.DefaultValue->index() == prop.ValueIndex()) return;
-  throw EPropertyError(Concat("The default of ", className, ".", prop.Name,
-                              " is no value of its type: ", prop.TypeName()));
+TPropInfo Declared(const TClassEntry& entry) {
+  TPropInfo info;
+  info.Name = entry.Name;
+  info.Type = &entry.TypeOf();
+  info.Alias = entry.Alias;
+  info.Parameters = entry.Parameters;
+  info.Getter = entry.Getter;
+  info.Setter = entry.Setter;
+  info.EventOf = entry.EventOf;
+  info.Signature = entry.Signature;
+  info.AskDefault = entry.AskDefault;
+  return info;
+}
+
+/// The declared default as a value; a float may be declared by a whole number.
+TValue DefaultOf(const TDeclaredDefault& declared, bool isFloat) {
+  using TSort = TDeclaredDefault::TSort;
+  if (declared.Sort == TSort::Text) return std::string(declared.Text);
+  if (declared.Sort == TSort::Float) return declared.Float;
+  if (isFloat) return static_cast<double>(declared.Ordinal);
+  return declared.Ordinal;
+}
+
+std::string UnitOf(std::string_view header) {
+  header.remove_prefix(header.rfind('/') + 1);
+  return std::string(header.substr(0, header.rfind('.')));
 }
 
 }  // namespace
 
 const TClass& TObject::Class() {
-  static const TClass info("TObject", "object", nullptr, {}, {});
+  static const TClass info("vcl::TObject", "vcl/rtl/object.h", nullptr, {}, nullptr, 0);
   return info;
 }
 
@@ -54,33 +67,53 @@ bool TObject::InheritsFrom(const TClass& ancestor) const {
   return ClassType().InheritsFrom(ancestor);
 }
 
-TClass::TClass(std::string name, std::string unit, const TClass* parent, TMaker maker,
-               std::vector<TClassEntry> entries)
-    : FName(std::move(name)), FUnit(std::move(unit)), FParent(parent), FMaker(maker) {
-  for (TClassEntry& entry : entries) Add(std::move(entry));
+TClass::TClass(std::string_view name, std::string_view header, const TClass* parent, TMaker maker,
+               const TClassEntry* entries, std::size_t count)
+    : FName(name.substr(name.rfind(':') + 1)),
+      FUnit(UnitOf(header)),
+      FHeader(header),
+      FCppName(name),
+      FParent(parent),
+      FMaker(maker) {
+  for (std::size_t i = 0; i < count; ++i) Add(entries[i]);
 }
 
 TClass::TClass(TClass&&) noexcept = default;
 TClass::~TClass() = default;
 
-void TClass::Add(TClassEntry entry) {
-  using Sort = TClassEntry::TSort;
-  if (entry.Sort == Sort::Field) return FFields.push_back(std::move(entry.Field));
-  if (entry.Sort == Sort::Method) return FMethods.push_back(std::move(entry.Method));
-  for (const char* name : entry.Group) Add(Inherit(std::string(name)));
-  if (!entry.Group.empty()) return;
-  if (entry.Sort == Sort::Inherit) {
-    const TPropInfo* inherited = FParent ? FParent->FindDescribed(entry.Prop.Name) : nullptr;
-    if (!inherited) {
-      throw EPropertyError(
-          Concat(FName, " publishes ", entry.Prop.Name, ", which no ancestor describes"));
-    }
-    entry.Prop = Redeclared(*inherited, entry);
-  } else if (entry.FStored) {
-    entry.Prop.Stored = *entry.FStored;
+void TClass::Add(const TClassEntry& entry) {
+  switch (entry.Sort) {
+    case TClassEntry::TSort::Field:
+      return FFields.push_back({entry.Name, entry.FieldClass, entry.AssignField});
+    case TClassEntry::TSort::Method:
+      return FMethods.push_back({entry.Name, entry.Signature, entry.BindMethod});
+    case TClassEntry::TSort::Inherit:
+      if (!entry.Group) return AddProperty(Redeclared(InheritedOf(entry.Name), entry), entry);
+      for (std::size_t i = 0; i < entry.GroupSize; ++i) Add(Inherit(entry.Group[i]));
+      return;
+    case TClassEntry::TSort::Property: return AddProperty(Declared(entry), entry);
   }
-  CheckDefault(FName, entry.Prop);
-  (entry.FUnpublished ? FUnpublished : FPublished).push_back(std::move(entry.Prop));
+}
+
+const TPropInfo& TClass::InheritedOf(std::string_view name) const {
+  const TPropInfo* inherited = FParent ? FParent->FindDescribed(name) : nullptr;
+  if (inherited) return *inherited;
+  throw EPropertyError(Concat(FName, " publishes ", name, ", which no ancestor describes"));
+}
+
+void TClass::AddProperty(TPropInfo prop, const TClassEntry& entry) {
+  if (entry.DefaultValue.Sort != TDeclaredDefault::TSort::None) {
+    prop.DefaultValue = DefaultOf(entry.DefaultValue, prop.Kind() == TTypeKind::Float);
+    if (prop.DefaultValue->index() != prop.ValueIndex()) {
+      throw EPropertyError(Concat("The default of ", FName, ".", prop.Name,
+                                  " is no value of its type: ", prop.TypeName()));
+    }
+  }
+  if (entry.StoredAs) {
+    prop.Stored = *entry.StoredAs;
+    prop.AskStored = entry.AskStored;
+  }
+  (entry.OnlyDescribed ? FUnpublished : FPublished).push_back(std::move(prop));
 }
 
 bool TClass::InheritsFrom(const TClass& ancestor) const {

@@ -48,14 +48,18 @@ struct TMaker {
 /// A class at run time. Instances are made once by `Describe` (properties.h) and live for ever.
 class VCL_API TClass {
  public:
-  TClass(std::string name, std::string unit, const TClass* parent, TMaker maker,
-         std::vector<TClassEntry> entries);
+  TClass(std::string_view name, std::string_view header, const TClass* parent, TMaker maker,
+         const TClassEntry* entries, std::size_t count);
   TClass(TClass&&) noexcept;
   ~TClass();
 
   const std::string& Name() const { return FName; }
-  /// The unit that declares the class.
+  /// The unit that declares the class: the header's name without folders and ending.
   const std::string& Unit() const { return FUnit; }
+  /// What code includes for the class.
+  const std::string& Header() const { return FHeader; }
+  /// The name in C++, with its namespaces.
+  const std::string& CppName() const { return FCppName; }
   /// The class that it descends from; null for TObject.
   const TClass* Parent() const { return FParent; }
   bool InheritsFrom(const TClass& ancestor) const;
@@ -77,10 +81,14 @@ class VCL_API TClass {
   const TClass* FindFieldClass(std::string_view name) const;
 
  private:
-  void Add(TClassEntry entry);
+  void Add(const TClassEntry& entry);
+  const TPropInfo& InheritedOf(std::string_view name) const;
+  void AddProperty(TPropInfo prop, const TClassEntry& entry);
 
   std::string FName;
   std::string FUnit;
+  std::string FHeader;
+  std::string FCppName;
   const TClass* FParent;
   TMaker FMaker;
   std::vector<TPropInfo> FPublished;

@@ -10,7 +10,8 @@ namespace vcl {
 TFiler::~TFiler() = default;
 
 const TClass& TPersistent::Class() {
-  static const TClass info = Describe<TPersistent, TObject>("TPersistent", "persistent", {});
+  static const TClass info =
+      Describe<TPersistent, TObject>("vcl::TPersistent", "vcl/rtl/persistent.h", {});
   return info;
 }
 

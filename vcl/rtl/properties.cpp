@@ -25,11 +25,6 @@ const TTypeInfo& detail::EventTypeInfo() {
   return info;
 }
 
-TClassEntry TClassEntry::Stored(bool stored) && {
-  FStored = stored ? TPropInfo::TStored::Always : TPropInfo::TStored::Never;
-  return std::move(*this);
-}
-
 std::size_t TPropInfo::ValueIndex() const {
   switch (Kind()) {
     case TTypeKind::Float: return 1;

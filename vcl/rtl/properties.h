@@ -2,7 +2,8 @@
 // form files, the designer, the reference and the tests.
 //
 //     const TClass& TGauge::Class() {
-//       static const TClass info = Describe<TGauge, TGraphicControl>("TGauge", "gauge", {
+//       static const TClass info = Describe<TGauge, TGraphicControl>("shapes::TGauge",
+//       "shapes/gauge.h", {
 //           Inherit("Align"),
 //           Property<&TGauge::Max, &TGauge::SetMax>("Max").Default(100),
 //           Event<&TGauge::OnChange>("OnChange"),
@@ -12,8 +13,8 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -41,6 +42,8 @@ class VCL_API TPropInfo {
   const TTypeInfo* Type = nullptr;
   /// Instead of the type's own name: an alias such as TCaption, or an event type.
   std::string_view Alias;
+  /// The parameters of an event's handlers, as a declaration has them.
+  std::string_view Parameters;
   TValue (*Getter)(const TObject&) = nullptr;
   void (*Setter)(TObject&, const TValue&) = nullptr;
   TEventBase& (*EventOf)(TObject&) = nullptr;
@@ -71,55 +74,76 @@ class VCL_API TPropInfo {
 
 /// A form class's field for one of its components.
 struct TFieldInfo {
-  std::string Name;
+  std::string_view Name;
   /// The field's class, which form files of this form class may name without it being registered.
-  const TClass& (*ClassOf)();
+  const TClass& (*ClassOf)() = nullptr;
   /// Stores the component; false when it is of another class than the field.
-  bool (*Assign)(TObject& form, TComponent* component);
+  bool (*Assign)(TObject& form, TComponent* component) = nullptr;
 };
 
 /// A form class's handler.
 struct TMethodInfo {
-  std::string Name;
-  const std::type_info* Signature;
-  void (*Bind)(TObject& target, TEventBase& event);
+  std::string_view Name;
+  const std::type_info* Signature = nullptr;
+  void (*Bind)(TObject& target, TEventBase& event) = nullptr;
 };
 
-/// Names of properties that classes publish together.
-using TPropertyGroup = std::span<const char* const>;
+/// A declared default, as a table holds it.
+struct TDeclaredDefault {
+  enum class TSort { None, Ordinal, Float, Text };
+  TSort Sort = TSort::None;
+  std::int64_t Ordinal = 0;
+  double Float = 0;
+  std::string_view Text;
+};
 
-/// One line of a class's table.
-class VCL_API TClassEntry {
+/// One line of a class's table: plain data that the compiler lays out, so its texts must be
+/// literals.
+class TClassEntry {
  public:
   enum class TSort { Property, Inherit, Field, Method };
 
   /// The declared default; a value equal to it is not written to form files.
   template <class T>
-  TClassEntry Default(T value) &&;
+  constexpr TClassEntry Default(T value) const;
   /// The declared default holds only for objects that say so, as an owner may make them with
   /// another value; of the others the value is always written.
   template <auto Ask>
-  TClassEntry DefaultIf() &&;
+  constexpr TClassEntry DefaultIf() const;
   /// Takes back a default that the ancestor declares: the value is always written.
-  TClassEntry NoDefault() && { return FNoDefault = true, std::move(*this); }
+  constexpr TClassEntry NoDefault() const;
   /// False: never written to form files.
-  TClassEntry Stored(bool stored) &&;
+  constexpr TClassEntry Stored(bool stored) const;
   /// Written only when the object says so.
   template <auto Ask>
-  TClassEntry StoredIf() &&;
+  constexpr TClassEntry StoredIf() const;
   /// Shows another name for the type (TCaption for a string).
-  TClassEntry Type(std::string_view alias) && { return Prop.Alias = alias, std::move(*this); }
+  constexpr TClassEntry Type(std::string_view alias) const;
+  /// Of an event: another name for its type, whose parameters have other names.
+  constexpr TClassEntry Type(std::string_view alias, std::string_view parameters) const;
   /// Describes the property for descendants to publish, without publishing it here.
-  TClassEntry Unpublished() && { return FUnpublished = true, std::move(*this); }
+  constexpr TClassEntry Unpublished() const;
 
   TSort Sort = TSort::Property;
-  TPropInfo Prop;
-  TPropertyGroup Group;  // What an Inherit of several publishes.
-  TFieldInfo Field{};
-  TMethodInfo Method{};
-  bool FUnpublished = false;
-  bool FNoDefault = false;
-  std::optional<TPropInfo::TStored> FStored;
+  std::string_view Name;
+  const TTypeInfo& (*TypeOf)() = nullptr;
+  std::string_view Alias;
+  std::string_view Parameters;
+  TValue (*Getter)(const TObject&) = nullptr;
+  void (*Setter)(TObject&, const TValue&) = nullptr;
+  TEventBase& (*EventOf)(TObject&) = nullptr;
+  const std::type_info* Signature = nullptr;
+  TDeclaredDefault DefaultValue;
+  bool (*AskDefault)(const TObject&) = nullptr;
+  bool (*AskStored)(const TObject&) = nullptr;
+  std::optional<TPropInfo::TStored> StoredAs;
+  bool WithoutDefault = false;
+  bool OnlyDescribed = false;
+  const char* const* Group = nullptr;  // The names that an Inherit of several publishes.
+  std::size_t GroupSize = 0;
+  const TClass& (*FieldClass)() = nullptr;
+  bool (*AssignField)(TObject&, TComponent*) = nullptr;
+  void (*BindMethod)(TObject&, TEventBase&) = nullptr;
 };
 
 namespace detail {
@@ -209,25 +233,37 @@ bool AssignField(TObject& form, TComponent* component) {
   return true;
 }
 
+// An imported function has no address before the program runs; a call of it has.
+template <class C>
+const TClass& ClassOf() {
+  return C::Class();
+}
+
 template <class C, class... A>
-TMethodInfo MethodInfo(std::string name, void (C::*)(A...), void (*bind)(TObject&, TEventBase&)) {
-  return {std::move(name), &typeid(TEvent<A...>), bind};
+constexpr const std::type_info* SignatureOf(void (C::*)(A...)) {
+  return &typeid(TEvent<A...>);
 }
 
+// What binds a handler is compiled once for each type of event; a handler adds no more than a call.
 template <auto Method, class C, class... A>
-void BindTyped(TObject& target, TEventBase& event, void (C::*)(A...)) {
-  static_cast<TEvent<A...>&>(event) = TEvent<A...>(static_cast<C*>(&target), Method);
-}
-
-template <auto Method>
-void BindThunk(TObject& target, TEventBase& event) {
-  BindTyped<Method>(target, event, Method);
+struct HandlerCall {
+  static void Call(TObject& target, A... args) {
+    (static_cast<C&>(target).*Method)(std::forward<A>(args)...);
+  }
+  static void Bind(TObject& target, TEventBase& event) {
+    static_cast<TEvent<A...>&>(event).BindTo(target, &Call);
+  }
+};
+template <auto Method, class C, class... A>
+constexpr auto BinderOf(void (C::*)(A...)) {
+  return &HandlerCall<Method, C, A...>::Bind;
 }
 
 VCL_API const TTypeInfo& EventTypeInfo();
+inline const TTypeInfo& EventType() { return EventTypeInfo(); }  // See ClassOf.
 
 template <class T>
-TMaker MakerOf() {
+constexpr TMaker MakerOf() {
   if constexpr (std::is_abstract_v<T>) {
     return {};
   } else if constexpr (std::is_base_of_v<TComponent, T>) {
@@ -249,101 +285,152 @@ TMaker MakerOf() {
 
 /// A property read by one method and written by another.
 template <auto Get, auto SetMember>
-TClassEntry Property(std::string name) {
+constexpr TClassEntry Property(std::string_view name) {
   TClassEntry entry;
-  entry.Prop.Name = std::move(name);
-  entry.Prop.Type = &TypeInfoOf<typename detail::MemberOf<decltype(Get)>::Result>();
-  entry.Prop.Getter = &detail::GetThunk<Get>;
-  entry.Prop.Setter = &detail::SetThunk<SetMember>;
+  entry.Name = name;
+  entry.TypeOf = &TypeInfoOf<typename detail::MemberOf<decltype(Get)>::Result>;
+  entry.Getter = &detail::GetThunk<Get>;
+  entry.Setter = &detail::SetThunk<SetMember>;
   return entry;
 }
 
 /// A property that can only be read; form files never hold it, but an object behind it keeps its
 /// own published properties there.
 template <auto Get>
-TClassEntry ReadOnly(std::string name) {
+constexpr TClassEntry ReadOnly(std::string_view name) {
   TClassEntry entry;
-  entry.Prop.Name = std::move(name);
-  entry.Prop.Type = &TypeInfoOf<typename detail::MemberOf<decltype(Get)>::Result>();
-  entry.Prop.Getter = &detail::GetThunk<Get>;
+  entry.Name = name;
+  entry.TypeOf = &TypeInfoOf<typename detail::MemberOf<decltype(Get)>::Result>;
+  entry.Getter = &detail::GetThunk<Get>;
   return entry;
 }
 
 /// An event: a public member of a TEvent type.
 template <auto Member>
-TClassEntry Event(std::string name) {
+constexpr TClassEntry Event(std::string_view name) {
   using E = typename detail::MemberOf<decltype(Member)>::Result;
   TClassEntry entry;
-  entry.Prop.Name = std::move(name);
-  entry.Prop.Type = &detail::EventTypeInfo();
-  entry.Prop.Alias = EventName<E>;
-  entry.Prop.EventOf = &detail::EventThunk<Member>;
-  entry.Prop.Signature = &typeid(E);
+  entry.Name = name;
+  entry.TypeOf = &detail::EventType;
+  entry.Alias = EventText<E>.Name;
+  entry.Parameters = EventText<E>.Parameters;
+  entry.EventOf = &detail::EventThunk<Member>;
+  entry.Signature = &typeid(E);
   return entry;
 }
 
 /// Publishes what an ancestor describes or publishes, with its default unless another is declared.
-inline TClassEntry Inherit(std::string name) {
+constexpr TClassEntry Inherit(std::string_view name) {
   TClassEntry entry;
   entry.Sort = TClassEntry::TSort::Inherit;
-  entry.Prop.Name = std::move(name);
+  entry.Name = name;
   return entry;
 }
 
-/// Publishes all of a group, in its order, each as Inherit does.
-inline TClassEntry Inherit(TPropertyGroup group) {
+/// Publishes all of a group of names, in its order, each as Inherit does.
+template <std::size_t Size>
+constexpr TClassEntry Inherit(const char* const (&group)[Size]) {
   TClassEntry entry;
   entry.Sort = TClassEntry::TSort::Inherit;
   entry.Group = group;
+  entry.GroupSize = Size;
   return entry;
 }
 
 /// A form class's field, filled with the component of the same name when a form file is read.
 template <auto Member>
-TClassEntry Field(std::string name) {
+constexpr TClassEntry Field(std::string_view name) {
+  using C = std::remove_pointer_t<typename detail::MemberOf<decltype(Member)>::Result>;
   TClassEntry entry;
   entry.Sort = TClassEntry::TSort::Field;
-  using C = std::remove_pointer_t<typename detail::MemberOf<decltype(Member)>::Result>;
-  entry.Field = {std::move(name), &C::Class, &detail::AssignField<Member>};
+  entry.Name = name;
+  entry.FieldClass = &detail::ClassOf<C>;
+  entry.AssignField = &detail::AssignField<Member>;
   return entry;
 }
 
 /// A form class's handler, bound to the events that a form file names it for.
 template <auto Member>
-TClassEntry Method(std::string name) {
+constexpr TClassEntry Method(std::string_view name) {
   TClassEntry entry;
   entry.Sort = TClassEntry::TSort::Method;
-  entry.Method = detail::MethodInfo(std::move(name), Member, &detail::BindThunk<Member>);
+  entry.Name = name;
+  entry.Signature = detail::SignatureOf(Member);
+  entry.BindMethod = detail::BinderOf<Member>(Member);
   return entry;
 }
 
-/// Describes the class T, which descends from Parent: its name, the unit that declares it, and the
-/// lines of its table. Raises EPropertyError when an inherited name is not described by an
+/// Describes the class T, which descends from Parent: its name in C++, with its namespaces; the
+/// header that code includes for it, whose name without folders and ending is the class's unit; and
+/// the lines of its table. Raises EPropertyError when an inherited name is not described by an
 /// ancestor.
 template <class T, class Parent>
-TClass Describe(std::string name, std::string unit, std::vector<TClassEntry> entries) {
+TClass Describe(std::string_view name, std::string_view header,
+                std::initializer_list<TClassEntry> entries) {
   static_assert(std::is_base_of_v<Parent, T>);
-  return TClass(std::move(name), std::move(unit), &Parent::Class(), detail::MakerOf<T>(),
-                std::move(entries));
+  return TClass(name, header, &Parent::Class(), detail::MakerOf<T>(), entries.begin(),
+                entries.size());
 }
 
 template <class T>
-TClassEntry TClassEntry::Default(T value) && {
-  Prop.DefaultValue = detail::ToValue(value);
-  return std::move(*this);
+constexpr TClassEntry TClassEntry::Default(T value) const {
+  using TSort = TDeclaredDefault::TSort;
+  TClassEntry entry = *this;
+  if constexpr (detail::IsSet<T>::value) {
+    entry.DefaultValue = {TSort::Ordinal, value.Bits(), 0, {}};
+  } else if constexpr (std::is_floating_point_v<T>) {
+    entry.DefaultValue = {TSort::Float, 0, value, {}};
+  } else if constexpr (std::is_convertible_v<T, std::string_view>) {
+    entry.DefaultValue = {TSort::Text, 0, 0, value};
+  } else {
+    entry.DefaultValue = {TSort::Ordinal, static_cast<std::int64_t>(value), 0, {}};
+  }
+  return entry;
 }
 
 template <auto Ask>
-TClassEntry TClassEntry::DefaultIf() && {
-  Prop.AskDefault = &detail::AskThunk<Ask>;
-  return std::move(*this);
+constexpr TClassEntry TClassEntry::DefaultIf() const {
+  TClassEntry entry = *this;
+  entry.AskDefault = &detail::AskThunk<Ask>;
+  return entry;
+}
+
+constexpr TClassEntry TClassEntry::NoDefault() const {
+  TClassEntry entry = *this;
+  entry.WithoutDefault = true;
+  return entry;
+}
+
+constexpr TClassEntry TClassEntry::Stored(bool stored) const {
+  TClassEntry entry = *this;
+  entry.StoredAs = stored ? TPropInfo::TStored::Always : TPropInfo::TStored::Never;
+  return entry;
 }
 
 template <auto Ask>
-TClassEntry TClassEntry::StoredIf() && {
-  FStored = TPropInfo::TStored::Asked;
-  Prop.AskStored = &detail::AskThunk<Ask>;
-  return std::move(*this);
+constexpr TClassEntry TClassEntry::StoredIf() const {
+  TClassEntry entry = *this;
+  entry.StoredAs = TPropInfo::TStored::Asked;
+  entry.AskStored = &detail::AskThunk<Ask>;
+  return entry;
+}
+
+constexpr TClassEntry TClassEntry::Type(std::string_view alias) const {
+  TClassEntry entry = *this;
+  entry.Alias = alias;
+  return entry;
+}
+
+constexpr TClassEntry TClassEntry::Type(std::string_view alias, std::string_view parameters) const {
+  TClassEntry entry = Type(alias);
+  entry.Parameters = parameters;
+  return entry;
+}
+
+constexpr TClassEntry TClassEntry::Unpublished() const {
+  TClassEntry entry = *this;
+  entry.OnlyDescribed = true;
+  return entry;
 }
 
 }  // namespace vcl

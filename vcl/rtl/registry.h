@@ -8,11 +8,8 @@
 
 #include "vcl/rtl/datetime.h"
 #include "vcl/rtl/object.h"
+#include "vcl/rtl/systemtypes.h"
 #include "vcl/rtl/typeinfo.h"
-
-// As the system's headers declare it, which nobody needs to include for this one.
-struct HKEY__;
-using HKEY = HKEY__*;
 
 namespace vcl {
 

@@ -12,7 +12,7 @@
 namespace vcl {
 
 const TClass& TStream::Class() {
-  static const TClass info = Describe<TStream, TObject>("TStream", "streams", {});
+  static const TClass info = Describe<TStream, TObject>("vcl::TStream", "vcl/rtl/streams.h", {});
   return info;
 }
 
@@ -94,7 +94,8 @@ void TCustomMemoryStream::SaveToFile(const std::string& fileName) const {
 }
 
 const TClass& TMemoryStream::Class() {
-  static const TClass info = Describe<TMemoryStream, TStream>("TMemoryStream", "streams", {});
+  static const TClass info =
+      Describe<TMemoryStream, TStream>("vcl::TMemoryStream", "vcl/rtl/streams.h", {});
   return info;
 }
 
@@ -127,7 +128,8 @@ void TMemoryStream::LoadFromFile(const std::string& fileName) {
 }
 
 const TClass& TFileStream::Class() {
-  static const TClass info = Describe<TFileStream, TStream>("TFileStream", "streams", {});
+  static const TClass info =
+      Describe<TFileStream, TStream>("vcl::TFileStream", "vcl/rtl/streams.h", {});
   return info;
 }
 

@@ -8,7 +8,8 @@
 namespace vcl {
 
 const TClass& TStringList::Class() {
-  static const TClass info = Describe<TStringList, TStrings>("TStringList", "strings", {});
+  static const TClass info =
+      Describe<TStringList, TStrings>("vcl::TStringList", "vcl/rtl/strings.h", {});
   return info;
 }
 

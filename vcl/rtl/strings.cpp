@@ -67,7 +67,8 @@ void SkipBlanks(std::string_view& rest) {
 }  // namespace
 
 const TClass& TStrings::Class() {
-  static const TClass info = Describe<TStrings, TPersistent>("TStrings", "strings", {});
+  static const TClass info =
+      Describe<TStrings, TPersistent>("vcl::TStrings", "vcl/rtl/strings.h", {});
   return info;
 }
 

@@ -54,7 +54,7 @@ void AwaitEnd(TThreadState& state) {
 }  // namespace
 
 const TClass& TThread::Class() {
-  static const TClass info = Describe<TThread, TObject>("TThread", "classes", {});
+  static const TClass info = Describe<TThread, TObject>("vcl::TThread", "vcl/rtl/classes.h", {});
   return info;
 }
 
@@ -183,9 +183,9 @@ void TThread::Suspend() {
   if (FState->Started && FState->Thread.get_id() == std::this_thread::get_id()) Rest(*FState, lock);
 }
 
-bool TThread::Sleep(std::chrono::milliseconds time) {
+bool TThread::Sleep(std::int64_t milliseconds) {
   TThreadLock lock = Lock();
-  auto remaining = std::chrono::duration_cast<TClock::duration>(time);
+  TClock::duration remaining = std::chrono::milliseconds(milliseconds);
   for (;;) {
     Rest(*FState, lock);
     if (FState->Terminated) return false;

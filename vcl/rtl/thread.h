@@ -1,7 +1,7 @@
 // TThread: work beside the main thread, and how it calls the main thread.
 #pragma once
 
-#include <chrono>
+#include <cstdint>
 #include <exception>
 #include <functional>
 #include <memory>
@@ -77,9 +77,9 @@ class VCL_API TThread : public TObject {
   void EndThread();
 
   // For the thread itself.
-  /// Waits; the time in which the thread is suspended does not count. False when the thread is to
-  /// end.
-  bool Sleep(std::chrono::milliseconds time);
+  /// Waits so many milliseconds; the time in which the thread is suspended does not count. False
+  /// when the thread is to end.
+  bool Sleep(std::int64_t milliseconds);
   /// Has the main thread run the method (see CheckSynchronize) and waits for it. What the method
   /// raises is raised here. Raises EAbort when the thread is freed meanwhile, even by the method
   /// itself, which then must not use what belongs to the thread any more.

@@ -1,5 +1,7 @@
 #include "vcl/rtl/typeinfo.h"
 
+#include <algorithm>
+
 #include "vcl/rtl/object.h"
 #include "vcl/rtl/text.h"
 

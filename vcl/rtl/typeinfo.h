@@ -1,7 +1,6 @@
 // Types of published properties: their kind, name, and how their values are spelled in a form file.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <limits>
@@ -12,6 +11,7 @@
 
 #include "vcl/rtl/api.h"
 #include "vcl/rtl/sets.h"
+#include "vcl/rtl/systemmacros.h"
 
 namespace vcl {
 
@@ -115,8 +115,9 @@ constexpr std::int64_t CountNames(std::string_view values) {
 template <class T>
 TTypeInfo IntegerInfo() {
   // Values travel as std::int64_t, so the upper half of an unsigned type of its size has no place.
-  constexpr auto max = std::min<std::uint64_t>(std::numeric_limits<T>::max(),
-                                               std::numeric_limits<std::int64_t>::max());
+  constexpr std::uint64_t most = std::numeric_limits<std::int64_t>::max();
+  constexpr std::uint64_t own = std::numeric_limits<T>::max();
+  constexpr std::uint64_t max = own < most ? own : most;
   return {TTypeKind::Integer,
           NumberName<T>(),
           {},

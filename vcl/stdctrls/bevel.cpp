@@ -39,7 +39,7 @@ struct TBevelPainter {
 
 const TClass& TBevel::Class() {
   static const TClass info = Describe<TBevel, TGraphicControl>(
-      "TBevel", "extctrls",
+      "vcl::TBevel", "vcl/stdctrls/extctrls.h",
       {
           Inherit("Align"),
           Inherit("ParentShowHint"),

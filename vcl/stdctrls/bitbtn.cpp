@@ -4,6 +4,7 @@
 #include "vcl/graphics/canvas.h"
 #include "vcl/graphics/canvasbinding.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/private/bitbtnkinds.h"
 
 namespace vcl {
@@ -11,7 +12,7 @@ namespace vcl {
 const TClass& TBitBtn::Class() {
   using T = TBitBtn;
   static const TClass info =
-      Describe<T, TButton>("TBitBtn", "buttons",
+      Describe<T, TButton>("vcl::TBitBtn", "vcl/stdctrls/buttons.h",
                            {
                                Inherit("Cancel").StoredIf<&T::IsCustom>(),
                                Inherit("Caption").StoredIf<&T::IsCaptionStored>(),

@@ -10,7 +10,7 @@ namespace vcl {
 
 const TClass& TButtonControl::Class() {
   static const TClass info =
-      Describe<TButtonControl, TWinControl>("TButtonControl", "stdctrls", {});
+      Describe<TButtonControl, TWinControl>("vcl::TButtonControl", "vcl/stdctrls/stdctrls.h", {});
   return info;
 }
 
@@ -38,7 +38,7 @@ void TButtonControl::Dispatch(TMessage& message) {
 
 const TClass& TButton::Class() {
   static const TClass info = Describe<TButton, TButtonControl>(
-      "TButton", "stdctrls",
+      "vcl::TButton", "vcl/stdctrls/stdctrls.h",
       {
           Property<&TButton::Cancel, &TButton::SetCancel>("Cancel").Default(false),
           Inherit("Caption"),

@@ -5,6 +5,7 @@
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {

@@ -4,6 +4,7 @@
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -15,7 +16,7 @@ DWORD TextSide(TAlignment alignment) { return alignment == taLeftJustify ? BS_LE
 const TClass& TCustomCheckBox::Class() {
   using T = TCustomCheckBox;
   static const TClass info = Describe<T, TButtonControl>(
-      "TCustomCheckBox", "stdctrls",
+      "vcl::TCustomCheckBox", "vcl/stdctrls/stdctrls.h",
       {
           LeftOrRight(Property<&T::Alignment, &T::SetAlignment>("Alignment"))
               .Default(taRightJustify)
@@ -30,7 +31,7 @@ const TClass& TCustomCheckBox::Class() {
 
 const TClass& TCheckBox::Class() {
   static const TClass info = Describe<TCheckBox, TCustomCheckBox>(
-      "TCheckBox", "stdctrls",
+      "vcl::TCheckBox", "vcl/stdctrls/stdctrls.h",
       {
           Inherit("Alignment"),   Inherit("AllowGrayed"), Inherit("Caption"),
           Inherit("Checked"),     Inherit("Color"),       Inherit("DragCursor"),
@@ -88,7 +89,7 @@ void TCustomCheckBox::AccelPressed() {
 const TClass& TRadioButton::Class() {
   using T = TRadioButton;
   static const TClass info = Describe<T, TButtonControl>(
-      "TRadioButton", "stdctrls",
+      "vcl::TRadioButton", "vcl/stdctrls/stdctrls.h",
       {
           LeftOrRight(Property<&T::Alignment, &T::SetAlignment>("Alignment"))
               .Default(taRightJustify),

@@ -17,7 +17,7 @@ namespace vcl {
 const TClass& TCustomComboBox::Class() {
   using T = TCustomComboBox;
   static const TClass info = Describe<T, TCustomListControl>(
-      "TCustomComboBox", "stdctrls",
+      "vcl::TCustomComboBox", "vcl/stdctrls/stdctrls.h",
       {
           Property<&T::Style, &T::SetStyle>("Style").Default(csDropDown).Unpublished(),
           Property<&T::DropDownCount, &T::SetDropDownCount>("DropDownCount")
@@ -33,7 +33,7 @@ const TClass& TCustomComboBox::Class() {
 
 const TClass& TComboBox::Class() {
   static const TClass info = Describe<TComboBox, TCustomComboBox>(
-      "TComboBox", "stdctrls",
+      "vcl::TComboBox", "vcl/stdctrls/stdctrls.h",
       {
           Inherit("Style"),          Inherit("Color"),       Inherit("Ctl3D"),
           Inherit("DragCursor"),     Inherit("DragMode"),    Inherit("DropDownCount"),

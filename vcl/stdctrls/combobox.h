@@ -72,8 +72,8 @@ class VCL_API TCustomComboBox : public TCustomListControl {
   void CommandFromWindow(TMessage& message);
   void ItemChosen();
   void SubclassEdit();
-  static LRESULT CALLBACK EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                   UINT_PTR id, DWORD_PTR self);
+  static LRESULT __stdcall EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                    UINT_PTR id, DWORD_PTR self);
 
   TComboBoxStyle FStyle = csDropDown;
   int FDropDownCount = 8;

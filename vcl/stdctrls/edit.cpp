@@ -10,6 +10,7 @@
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -21,7 +22,7 @@ int Utf16Length(const std::string& text) { return static_cast<int>(ToUtf16(text)
 const TClass& TCustomEdit::Class() {
   using T = TCustomEdit;
   static const TClass info = Describe<T, TWinControl>(
-      "TCustomEdit", "stdctrls",
+      "vcl::TCustomEdit", "vcl/stdctrls/stdctrls.h",
       {
           Property<&T::AutoSelect, &T::SetAutoSelect>("AutoSelect").Default(true).Unpublished(),
           Property<&T::AutoSize, &T::SetAutoSize>("AutoSize").Default(true).Unpublished(),
@@ -46,7 +47,7 @@ const TClass& TCustomEdit::Class() {
 
 const TClass& TEdit::Class() {
   static const TClass info = Describe<TEdit, TCustomEdit>(
-      "TEdit", "stdctrls",
+      "vcl::TEdit", "vcl/stdctrls/stdctrls.h",
       {
           Inherit("AutoSelect"),   Inherit("AutoSize"),      Inherit("BorderStyle"),
           Inherit("CharCase"),     Inherit("Color"),         Inherit("Ctl3D"),

@@ -9,14 +9,14 @@
 namespace vcl {
 
 const TClass& TCustomGroupBox::Class() {
-  static const TClass info =
-      Describe<TCustomGroupBox, TCustomControl>("TCustomGroupBox", "stdctrls", {});
+  static const TClass info = Describe<TCustomGroupBox, TCustomControl>(
+      "vcl::TCustomGroupBox", "vcl/stdctrls/stdctrls.h", {});
   return info;
 }
 
 const TClass& TGroupBox::Class() {
   static const TClass info = Describe<TGroupBox, TCustomGroupBox>(
-      "TGroupBox", "stdctrls",
+      "vcl::TGroupBox", "vcl/stdctrls/stdctrls.h",
       {
           Inherit("Align"),       Inherit("Caption"),     Inherit("Color"),
           Inherit("Ctl3D"),       Inherit("DragCursor"),  Inherit("DragMode"),

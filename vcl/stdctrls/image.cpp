@@ -9,7 +9,7 @@ namespace vcl {
 const TClass& TImage::Class() {
   using T = TImage;
   static const TClass info = Describe<T, TGraphicControl>(
-      "TImage", "extctrls",
+      "vcl::TImage", "vcl/stdctrls/extctrls.h",
       {
           Inherit("Align"),
           Property<&T::AutoSize, &T::SetAutoSize>("AutoSize").Default(false),

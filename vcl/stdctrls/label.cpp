@@ -12,7 +12,7 @@ namespace vcl {
 
 const TClass& TCustomLabel::Class() {
   static const TClass info = Describe<TCustomLabel, TGraphicControl>(
-      "TCustomLabel", "stdctrls",
+      "vcl::TCustomLabel", "vcl/stdctrls/stdctrls.h",
       {
           Property<&TCustomLabel::Alignment, &TCustomLabel::SetAlignment>("Alignment")
               .Default(taLeftJustify)
@@ -40,7 +40,7 @@ const TClass& TCustomLabel::Class() {
 
 const TClass& TLabel::Class() {
   static const TClass info = Describe<TLabel, TCustomLabel>(
-      "TLabel", "stdctrls",
+      "vcl::TLabel", "vcl/stdctrls/stdctrls.h",
       {
           Inherit("Align"),          Inherit("Alignment"),   Inherit("AutoSize"),
           Inherit("Caption"),        Inherit("Color"),       Inherit("DragCursor"),

@@ -12,7 +12,7 @@ namespace vcl {
 const TClass& TCustomListBox::Class() {
   using T = TCustomListBox;
   static const TClass info = Describe<T, TCustomListControl>(
-      "TCustomListBox", "stdctrls",
+      "vcl::TCustomListBox", "vcl/stdctrls/stdctrls.h",
       {
           ControlBorder(Property<&T::BorderStyle, &T::SetBorderStyle>("BorderStyle"))
               .Default(bsSingle)
@@ -31,7 +31,7 @@ const TClass& TCustomListBox::Class() {
 
 const TClass& TListBox::Class() {
   static const TClass info = Describe<TListBox, TCustomListBox>(
-      "TListBox", "stdctrls",
+      "vcl::TListBox", "vcl/stdctrls/stdctrls.h",
       {
           Inherit("Align"),       Inherit("BorderStyle"),    Inherit("Color"),
           Inherit("Ctl3D"),       Inherit("DragCursor"),     Inherit("DragMode"),

@@ -32,7 +32,7 @@ TOwnerDrawState StateOf(UINT state) {
 const TClass& TCustomListControl::Class() {
   using T = TCustomListControl;
   static const TClass info = Describe<T, TWinControl>(
-      "TCustomListControl", "stdctrls",
+      "vcl::TCustomListControl", "vcl/stdctrls/stdctrls.h",
       {
           Property<&T::ItemHeight, &T::SetItemHeight>("ItemHeight").Default(16).Unpublished(),
           Property<&T::Sorted, &T::SetSorted>("Sorted").Default(false).Unpublished(),

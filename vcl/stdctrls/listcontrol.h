@@ -17,7 +17,9 @@ using TOwnerDrawState = TSet<TOwnerDrawStateValue>;
 /// colours of the state, the rectangle filled.
 using TDrawItemEvent = TEvent<TObject*, int, const TRect&, TOwnerDrawState>;
 template <>
-inline constexpr const char* EventName<TDrawItemEvent> = "TDrawItemEvent";
+inline constexpr TEventText EventText<TDrawItemEvent>{
+    "TDrawItemEvent",
+    "vcl::TObject* sender, int index, const vcl::TRect& rect, vcl::TOwnerDrawState state"};
 
 /// A control with a list of items. Items, objects and selection outlive its window.
 class VCL_API TCustomListControl : public TWinControl {

@@ -2,6 +2,7 @@
 
 #include "vcl/controls/propertygroups.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/private/memolines.h"
 
 namespace vcl {
@@ -9,7 +10,7 @@ namespace vcl {
 const TClass& TCustomMemo::Class() {
   using T = TCustomMemo;
   static const TClass info = Describe<T, TCustomEdit>(
-      "TCustomMemo", "stdctrls",
+      "vcl::TCustomMemo", "vcl/stdctrls/stdctrls.h",
       {
           Property<&T::Alignment, &T::SetAlignment>("Alignment")
               .Default(taLeftJustify)
@@ -25,7 +26,7 @@ const TClass& TCustomMemo::Class() {
 
 const TClass& TMemo::Class() {
   static const TClass info = Describe<TMemo, TCustomMemo>(
-      "TMemo", "stdctrls",
+      "vcl::TMemo", "vcl/stdctrls/stdctrls.h",
       {
           Inherit("Align"),         Inherit("Alignment"),   Inherit("BorderStyle"),
           Inherit("Color"),         Inherit("Ctl3D"),       Inherit("DragCursor"),

@@ -16,7 +16,7 @@ namespace vcl {
 const TClass& TPageControl::Class() {
   using T = TPageControl;
   static const TClass info = Describe<T, TWinControl>(
-      "TPageControl", "comctrls",
+      "vcl::TPageControl", "vcl/stdctrls/comctrls.h",
       {
           Property<&T::ActivePage, &T::SetActivePage>("ActivePage"),
           Inherit("Align"),
@@ -33,7 +33,8 @@ const TClass& TPageControl::Class() {
           Inherit("TabStop").Default(true),
           Inherit("Visible"),
           Event<&T::OnChange>("OnChange"),
-          Event<&T::OnChanging>("OnChanging").Type("TTabChangingEvent"),
+          Event<&T::OnChanging>("OnChanging")
+              .Type("TTabChangingEvent", "vcl::TObject* sender, bool& allow"),
           Inherit(DragEvents),
           Inherit(FocusEvents),
           Inherit(MouseEvents),

@@ -10,6 +10,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -41,7 +42,7 @@ void Frame3D(TCanvas* canvas, TRect& rect, TColor topColor, TColor bottomColor, 
 const TClass& TCustomPanel::Class() {
   using T = TCustomPanel;
   static const TClass info = Describe<T, TCustomControl>(
-      "TCustomPanel", "extctrls",
+      "vcl::TCustomPanel", "vcl/stdctrls/extctrls.h",
       {
           Property<&T::Alignment, &T::SetAlignment>("Alignment").Default(taCenter).Unpublished(),
           Property<&T::BevelInner, &T::SetBevelInner>("BevelInner").Default(bvNone).Unpublished(),
@@ -59,7 +60,7 @@ const TClass& TCustomPanel::Class() {
 
 const TClass& TPanel::Class() {
   static const TClass info = Describe<TPanel, TCustomPanel>(
-      "TPanel", "extctrls",
+      "vcl::TPanel", "vcl/stdctrls/extctrls.h",
       {
           Inherit("Align"),       Inherit("Alignment"),  Inherit("BevelInner"),
           Inherit("BevelOuter"),  Inherit("BevelWidth"), Inherit("BorderWidth"),

@@ -12,7 +12,7 @@ const TClass& TSpeedButton::Class() {
   using T = TSpeedButton;
   // GroupIndex stands before Down, which only a button of a group can be.
   static const TClass info = Describe<T, TGraphicControl>(
-      "TSpeedButton", "buttons",
+      "vcl::TSpeedButton", "vcl/stdctrls/buttons.h",
       {
           Property<&T::AllowAllUp, &T::SetAllowAllUp>("AllowAllUp").Default(false),
           Property<&T::GroupIndex, &T::SetGroupIndex>("GroupIndex").Default(0),

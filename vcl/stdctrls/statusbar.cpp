@@ -22,11 +22,11 @@ void SendText(const TWinControl& bar, WPARAM part, const std::string& text) {
 const TClass& TStatusPanel::Class() {
   using T = TStatusPanel;
   static const TClass info = Describe<T, TCollectionItem>(
-      "TStatusPanel", "comctrls",
+      "vcl::TStatusPanel", "vcl/stdctrls/comctrls.h",
       {
           Property<&T::Alignment, &T::SetAlignment>("Alignment").Default(taLeftJustify),
           Property<&T::Bevel, &T::SetBevel>("Bevel").Default(pbLowered),
-          Property<&T::Text, &T::SetText>("Text").Default(std::string()),
+          Property<&T::Text, &T::SetText>("Text").Default(""),
           Property<&T::Width, &T::SetWidth>("Width"),
       });
   return info;
@@ -66,7 +66,7 @@ std::string TStatusPanel::DisplayName() const {
 const TClass& TStatusBar::Class() {
   using T = TStatusBar;
   static const TClass info = Describe<T, TWinControl>(
-      "TStatusBar", "comctrls",
+      "vcl::TStatusBar", "vcl/stdctrls/comctrls.h",
       {
           Inherit("Align").Default(alBottom),
           Inherit("DragCursor"),
@@ -79,7 +79,7 @@ const TClass& TStatusBar::Class() {
           Inherit("PopupMenu"),
           Inherit("ShowHint"),
           Property<&T::SimplePanel, &T::SetSimplePanel>("SimplePanel").Default(false),
-          Property<&T::SimpleText, &T::SetSimpleText>("SimpleText").Default(std::string()),
+          Property<&T::SimpleText, &T::SetSimpleText>("SimpleText").Default(""),
           Property<&T::SizeGrip, &T::SetSizeGrip>("SizeGrip").Default(true),
           Inherit("Visible"),
           Inherit("OnClick"),

@@ -11,7 +11,7 @@ namespace vcl {
 const TClass& TTabSheet::Class() {
   using T = TTabSheet;
   static const TClass info = Describe<T, TWinControl>(
-      "TTabSheet", "comctrls",
+      "vcl::TTabSheet", "vcl/stdctrls/comctrls.h",
       {
           Inherit("Caption"),
           Inherit("Enabled"),

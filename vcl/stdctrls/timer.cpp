@@ -5,6 +5,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -16,7 +17,7 @@ thread_local std::unordered_map<UINT_PTR, TTimer*> running;
 
 const TClass& TTimer::Class() {
   static const TClass info = Describe<TTimer, TComponent>(
-      "TTimer", "extctrls",
+      "vcl::TTimer", "vcl/stdctrls/extctrls.h",
       {
           Property<&TTimer::Enabled, &TTimer::SetEnabled>("Enabled").Default(true),
           Property<&TTimer::Interval, &TTimer::SetInterval>("Interval").Default(1000u),

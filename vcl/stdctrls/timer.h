@@ -3,8 +3,8 @@
 
 #include "vcl/rtl/component.h"
 #include "vcl/rtl/events.h"
+#include "vcl/rtl/systemtypes.h"
 #include "vcl/rtl/typeinfo.h"
-#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -30,7 +30,7 @@ class VCL_API TTimer : public TComponent {
   void Loaded() override;
 
  private:
-  static void CALLBACK TimerProc(HWND window, UINT message, UINT_PTR id, DWORD time);
+  static void __stdcall TimerProc(HWND window, UINT message, UINT_PTR id, DWORD time);
   void Restart();
   void Stop();
 

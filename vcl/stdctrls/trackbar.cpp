@@ -16,7 +16,7 @@ namespace vcl {
 const TClass& TTrackBar::Class() {
   using T = TTrackBar;
   static const TClass info = Describe<T, TWinControl>(
-      "TTrackBar", "comctrls",
+      "vcl::TTrackBar", "vcl/stdctrls/comctrls.h",
       {
           Inherit("Align"),
           Inherit("DragCursor"),

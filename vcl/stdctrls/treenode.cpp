@@ -5,6 +5,7 @@
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/treenodes.h"
 #include "vcl/stdctrls/treeview.h"
 
@@ -13,7 +14,8 @@ namespace vcl {
 ETreeViewError::~ETreeViewError() = default;
 
 const TClass& TTreeNode::Class() {
-  static const TClass info = Describe<TTreeNode, TPersistent>("TTreeNode", "comctrls", {});
+  static const TClass info =
+      Describe<TTreeNode, TPersistent>("vcl::TTreeNode", "vcl/stdctrls/comctrls.h", {});
   return info;
 }
 

@@ -8,12 +8,14 @@
 #include "vcl/forms/application.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/treeview.h"
 
 namespace vcl {
 
 const TClass& TTreeNodes::Class() {
-  static const TClass info = Describe<TTreeNodes, TPersistent>("TTreeNodes", "comctrls", {});
+  static const TClass info =
+      Describe<TTreeNodes, TPersistent>("vcl::TTreeNodes", "vcl/stdctrls/comctrls.h", {});
   return info;
 }
 

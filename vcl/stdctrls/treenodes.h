@@ -9,7 +9,8 @@
 #include "vcl/graphics/types.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/persistent.h"
-#include "vcl/rtl/win32.h"
+#include "vcl/rtl/systemmacros.h"
+#include "vcl/rtl/systemtypes.h"
 
 namespace vcl {
 

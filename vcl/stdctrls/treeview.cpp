@@ -8,13 +8,14 @@
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
 const TClass& TCustomTreeView::Class() {
   using T = TCustomTreeView;
   static const TClass info = Describe<T, TWinControl>(
-      "TCustomTreeView", "comctrls",
+      "vcl::TCustomTreeView", "vcl/stdctrls/comctrls.h",
       {
           Property<&T::ShowButtons, &T::SetShowButtons>("ShowButtons").Default(true).Unpublished(),
           ControlBorder(Property<&T::BorderStyle, &T::SetBorderStyle>("BorderStyle"))
@@ -34,19 +35,44 @@ const TClass& TCustomTreeView::Class() {
           Property<&T::StateImages, &T::SetStateImages>("StateImages").Unpublished(),
           Property<&T::SortType, &T::SetSortType>("SortType").Default(stNone).Unpublished(),
           Property<&T::Items, &T::SetItems>("Items").Unpublished(),
-          Event<&T::OnEditing>("OnEditing").Type("TTVEditingEvent").Unpublished(),
-          Event<&T::OnEdited>("OnEdited").Type("TTVEditedEvent").Unpublished(),
-          Event<&T::OnExpanding>("OnExpanding").Type("TTVExpandingEvent").Unpublished(),
-          Event<&T::OnExpanded>("OnExpanded").Type("TTVExpandedEvent").Unpublished(),
-          Event<&T::OnCollapsing>("OnCollapsing").Type("TTVCollapsingEvent").Unpublished(),
-          Event<&T::OnCompare>("OnCompare").Type("TTVCompareEvent").Unpublished(),
-          Event<&T::OnCollapsed>("OnCollapsed").Type("TTVExpandedEvent").Unpublished(),
-          Event<&T::OnChanging>("OnChanging").Type("TTVChangingEvent").Unpublished(),
-          Event<&T::OnChange>("OnChange").Type("TTVChangedEvent").Unpublished(),
-          Event<&T::OnDeletion>("OnDeletion").Type("TTVExpandedEvent").Unpublished(),
-          Event<&T::OnGetImageIndex>("OnGetImageIndex").Type("TTVExpandedEvent").Unpublished(),
+          Event<&T::OnEditing>("OnEditing")
+              .Type("TTVEditingEvent", "vcl::TObject* sender, vcl::TTreeNode* node, bool& allow")
+              .Unpublished(),
+          Event<&T::OnEdited>("OnEdited")
+              .Type("TTVEditedEvent",
+                    "vcl::TObject* sender, vcl::TTreeNode* node, std::string& text")
+              .Unpublished(),
+          Event<&T::OnExpanding>("OnExpanding")
+              .Type("TTVExpandingEvent", "vcl::TObject* sender, vcl::TTreeNode* node, bool& allow")
+              .Unpublished(),
+          Event<&T::OnExpanded>("OnExpanded")
+              .Type("TTVExpandedEvent", "vcl::TObject* sender, vcl::TTreeNode* node")
+              .Unpublished(),
+          Event<&T::OnCollapsing>("OnCollapsing")
+              .Type("TTVCollapsingEvent", "vcl::TObject* sender, vcl::TTreeNode* node, bool& allow")
+              .Unpublished(),
+          Event<&T::OnCompare>("OnCompare")
+              .Type("TTVCompareEvent",
+                    "vcl::TObject* sender, vcl::TTreeNode* first, vcl::TTreeNode* second, int "
+                    "data, int& order")
+              .Unpublished(),
+          Event<&T::OnCollapsed>("OnCollapsed")
+              .Type("TTVExpandedEvent", "vcl::TObject* sender, vcl::TTreeNode* node")
+              .Unpublished(),
+          Event<&T::OnChanging>("OnChanging")
+              .Type("TTVChangingEvent", "vcl::TObject* sender, vcl::TTreeNode* node, bool& allow")
+              .Unpublished(),
+          Event<&T::OnChange>("OnChange")
+              .Type("TTVChangedEvent", "vcl::TObject* sender, vcl::TTreeNode* node")
+              .Unpublished(),
+          Event<&T::OnDeletion>("OnDeletion")
+              .Type("TTVExpandedEvent", "vcl::TObject* sender, vcl::TTreeNode* node")
+              .Unpublished(),
+          Event<&T::OnGetImageIndex>("OnGetImageIndex")
+              .Type("TTVExpandedEvent", "vcl::TObject* sender, vcl::TTreeNode* node")
+              .Unpublished(),
           Event<&T::OnGetSelectedIndex>("OnGetSelectedIndex")
-              .Type("TTVExpandedEvent")
+              .Type("TTVExpandedEvent", "vcl::TObject* sender, vcl::TTreeNode* node")
               .Unpublished(),
       });
   return info;
@@ -54,7 +80,7 @@ const TClass& TCustomTreeView::Class() {
 
 const TClass& TTreeView::Class() {
   static const TClass info =
-      Describe<TTreeView, TCustomTreeView>("TTreeView", "comctrls",
+      Describe<TTreeView, TCustomTreeView>("vcl::TTreeView", "vcl/stdctrls/comctrls.h",
                                            {
                                                Inherit("ShowButtons"),
                                                Inherit("BorderStyle"),

@@ -158,7 +158,7 @@ class VCL_API TCustomTreeView : public TWinControl {
   // The window's items.
   void InsertItem(TTreeNode* node);
   void InsertItemsBelow(TTreeNode* parent);
-  static int CALLBACK CompareOrder(LPARAM first, LPARAM second, LPARAM);
+  static int __stdcall CompareOrder(LPARAM first, LPARAM second, LPARAM);
   void RemoveItem(TTreeNode* node);
   void RemoveItemsBelow(TTreeNode* parent);
   void ExpandItem(const TTreeNode* node);

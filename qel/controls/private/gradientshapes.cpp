@@ -2,6 +2,8 @@
 // RoundMiddle, Singleflash and DoppelFlash.
 #include "qel/controls/private/gradientsteps.h"
 
+#include "vcl/rtl/win32.h"
+
 namespace qel {
 
 namespace {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "vcl/rtl/win32.h"
+
 namespace qel {
 
 namespace {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace qel {
 

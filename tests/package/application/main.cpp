@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include "qel/qel.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
 
 class TMainForm : public vcl::TForm {

@@ -4,6 +4,8 @@
 #include <array>
 #include <string_view>
 
+#include "vcl/rtl/win32.h"
+
 namespace vcl {
 
 namespace {

@@ -1,12 +1,13 @@
 #include "vcl/controls/private/ime.h"
 
-#include <imm.h>
-
 #include <utility>
 #include <vector>
 
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
+// It needs what stands above.
+#include <imm.h>
 
 namespace vcl {
 namespace {

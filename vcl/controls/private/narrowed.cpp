@@ -1,7 +1,5 @@
 #include "vcl/controls/private/narrowed.h"
 
-#include <utility>
-
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
 
@@ -22,8 +20,8 @@ const TTypeInfo& LeftRightType() {
   return type;
 }
 
-TClassEntry Narrow(TClassEntry entry, const TTypeInfo& type) {
-  entry.Prop.Type = &type;
+TClassEntry Narrow(TClassEntry entry, const TTypeInfo& (*type)()) {
+  entry.TypeOf = type;
   return entry;
 }
 
@@ -35,8 +33,8 @@ void Check(std::int64_t value, const TTypeInfo& type) {
 
 }  // namespace
 
-TClassEntry ControlBorder(TClassEntry entry) { return Narrow(std::move(entry), BorderType()); }
-TClassEntry LeftOrRight(TClassEntry entry) { return Narrow(std::move(entry), LeftRightType()); }
+TClassEntry ControlBorder(TClassEntry entry) { return Narrow(entry, &BorderType); }
+TClassEntry LeftOrRight(TClassEntry entry) { return Narrow(entry, &LeftRightType); }
 void CheckControlBorder(TBorderStyle style) { Check(style, BorderType()); }
 void CheckLeftOrRight(TAlignment alignment) { Check(alignment, LeftRightType()); }
 

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "vcl/graphics/handles.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {

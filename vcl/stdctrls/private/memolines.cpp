@@ -3,6 +3,7 @@
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/memo.h"
 
 namespace vcl {

@@ -1,10 +1,11 @@
-#include "vcl/dbctrls/dbgrid.h"
+#include "vcl/dbctrls/dbgrids.h"
 
 #include <algorithm>
 
 #include "vcl/controls/propertygroups.h"
 #include "vcl/graphics/canvas.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
@@ -30,7 +31,7 @@ constexpr TKeyCommand Keys[] = {{VK_UP, SB_LINEUP},    {VK_DOWN, SB_LINEDOWN},
 const TClass& TDBGrid::Class() {
   using T = TDBGrid;
   static const TClass info =
-      Describe<T, TCustomControl>("TDBGrid", "dbgrids",
+      Describe<T, TCustomControl>("vcl::TDBGrid", "vcl/dbctrls/dbgrids.h",
                                   {
                                       Inherit("Align"),
                                       Inherit("Color"),

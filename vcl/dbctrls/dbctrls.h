@@ -1,0 +1,6 @@
+// Controls that show and edit a data set's record.
+#pragma once
+
+#include "vcl/dbctrls/dbedit.h"
+#include "vcl/dbctrls/dbgrids.h"
+#include "vcl/dbctrls/registration.h"
