@@ -1,3 +1,4 @@
+// The tables of headers, handlers' parameters and keywords for C++ units.
 #include "ide/cppnames.h"
 
 #include <algorithm>

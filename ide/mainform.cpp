@@ -1,3 +1,5 @@
+// TMainForm: what the designer's parts tell each other, packages, keys, and the question at the
+// end.
 #include "ide/mainform.h"
 
 #include <algorithm>
