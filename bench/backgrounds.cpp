@@ -1,3 +1,4 @@
+// Measuring backgrounds: fills against the system's calls, repainting, tiling, and handles.
 #include "bench/backgrounds.h"
 
 #include <cstdio>

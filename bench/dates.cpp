@@ -1,3 +1,4 @@
+// Measuring calendar arithmetic against std::chrono.
 #include "bench/dates.h"
 
 #include <chrono>

@@ -1,3 +1,4 @@
+// Measuring a form of many controls against the system's plain windows.
 #include "bench/forms.h"
 
 #include <memory>

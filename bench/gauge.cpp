@@ -1,3 +1,4 @@
+// Measuring a gauge's progress against repainting the gauge.
 #include "bench/gauge.h"
 
 #include "bench/timing.h"

@@ -1,3 +1,4 @@
+// Measuring base64 and the reading of a large mail against other programs.
 #include "bench/mail.h"
 
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// Measuring the export of records against the database's own shell.
 #include "bench/records.h"
 
 #include <sys/resource.h>

@@ -1,3 +1,4 @@
+// Measuring settings in the registry and in INI files against the system's functions.
 #include "bench/settings.h"
 
 #include <cstdio>

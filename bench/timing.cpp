@@ -1,3 +1,4 @@
+// Taking samples, their medians, and printing them in a table.
 #include "bench/timing.h"
 
 #include <algorithm>

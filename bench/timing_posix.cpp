@@ -1,3 +1,4 @@
+// Waiting for painting, of which there is none here.
 #include "bench/timing.h"
 
 namespace bench {

@@ -1,3 +1,4 @@
+// Waiting until the system has painted what it was told to.
 #include "bench/timing.h"
 #include "vcl/rtl/win32.h"
 

@@ -1,3 +1,4 @@
+// Computing the places of rectangles that are aligned, spaced and sized.
 #include "ide/arrange.h"
 
 #include <algorithm>

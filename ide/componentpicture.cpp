@@ -1,3 +1,4 @@
+// Painting the picture of a component that is not seen at run time.
 #include "ide/componentpicture.h"
 
 #include "ide/paletteicons.h"

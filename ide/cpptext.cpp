@@ -1,3 +1,4 @@
+// TCppText: the tokens of a C++ text, its lines, and changes to it.
 #include "ide/cpptext.h"
 
 #include <algorithm>

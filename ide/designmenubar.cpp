@@ -1,3 +1,4 @@
+// TDesignMenuBar: painting the strip of a form's main menu, and the mouse on it.
 #include "ide/designmenubar.h"
 
 #include <algorithm>

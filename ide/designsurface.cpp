@@ -1,3 +1,5 @@
+// TDesignSurface: which messages of the designed form are the designer's, and what is painted
+// behind it.
 #include "ide/designsurface.h"
 
 #include "vcl/graphics/handles.h"

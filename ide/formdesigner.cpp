@@ -1,3 +1,5 @@
+// TFormDesigner: names, handlers and selection, as editors ask for them, and what happens to the
+// form.
 #include "ide/formdesigner.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// TFormDocument: reading and writing the form, its former states, and the copy for a killed
+// designer.
 #include "ide/formdocument.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// TFormLinks: references of a form to others: noted, fulfilled when those come, and renamed.
 #include "ide/formlinks.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// What of a form its unit names, and writing the unit's two files.
 #include "ide/formunit.h"
 
 #include "ide/cpptext.h"

@@ -1,3 +1,4 @@
+// THandlers: the handlers that a form's events name, and renaming them.
 #include "ide/handlers.h"
 
 #include <algorithm>

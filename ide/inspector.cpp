@@ -1,3 +1,4 @@
+// TObjectInspector: whose properties are shown, the list of components, and the two pages.
 #include "ide/inspector.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// TInspectorEdit: an edit without a border that leaves the wheel to the grid and tells when it
+// loses the focus.
 #include "ide/inspectoredit.h"
 
 #include "vcl/controls/windowmessages.h"

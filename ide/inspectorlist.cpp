@@ -1,3 +1,4 @@
+// TInspectorList: dropping down, following the mouse, and what is chosen.
 #include "ide/inspectorlist.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TInspectorRows: which lines the grid has, read from the editors, and what has changed in them.
 #include "ide/inspectorrows.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TListWindow: its list and its column of buttons.
 #include "ide/listwindow.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TMainForm: what the designer's parts tell each other, packages, keys, and the context menu.
 #include "ide/mainform.h"
 
 #include <algorithm>

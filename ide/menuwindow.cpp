@@ -1,3 +1,4 @@
+// TMenuWindow: listing a menu's items, and making, moving and deleting them.
 #include "ide/menuwindow.h"
 
 #include <algorithm>

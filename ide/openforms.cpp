@@ -1,3 +1,4 @@
+// TOpenForms: forms that come and go, which one is worked on, their names and references.
 #include "ide/openforms.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The dialogs of the tab order and of the creation order.
 #include "ide/orderdialog.h"
 
 #include <algorithm>

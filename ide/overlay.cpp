@@ -1,3 +1,4 @@
+// TOverlay: the window of its own that it is, painted and pressed.
 #include "ide/overlay.h"
 
 #include <string_view>

@@ -1,3 +1,4 @@
+// TPackages: loading packages, and which of them the user wants.
 #include "ide/packages.h"
 
 #include "vcl/rtl/text.h"

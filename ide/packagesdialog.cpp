@@ -1,3 +1,4 @@
+// The form that lists the packages, loads others, and leaves some out at the next start.
 #include "ide/packagesdialog.h"
 
 #include "vcl/dialogs/dialogs.h"

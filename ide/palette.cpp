@@ -1,3 +1,4 @@
+// TComponentPalette: its pages, the filter, and the class that is being placed.
 #include "ide/palette.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Finding the pictures of classes among the resources, and drawing them.
 #include "ide/paletteicons.h"
 
 #include <map>

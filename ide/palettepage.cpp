@@ -1,3 +1,4 @@
+// TPalettePage: where its buttons stand, painting them, the mouse and the hints.
 #include "ide/palettepage.h"
 
 #include <algorithm>

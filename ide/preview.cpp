@@ -1,3 +1,4 @@
+// Starting the preview's process, and running a form in it.
 #include "ide/preview.h"
 
 #include <cstdio>

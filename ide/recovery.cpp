@@ -1,3 +1,4 @@
+// TRecovery: a run's list of unsaved copies, and finding those of runs that are gone.
 #include "ide/recovery.h"
 
 #include "vcl/rtl/convert.h"

@@ -1,3 +1,4 @@
+// Saving the designer's picture.
 #include "ide/screenshot.h"
 
 #include "vcl/forms/formpicture.h"

@@ -1,3 +1,4 @@
+// TSelection: what is selected, and forgetting what is freed.
 #include "ide/selection.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TSettings: the settings file and its lists: packages, recent files, and how often forms are kept.
 #include "ide/settings.h"
 
 #include <algorithm>

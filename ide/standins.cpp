@@ -1,3 +1,4 @@
+// The stand-in for an unknown control, and making stand-ins while a form is read.
 #include "ide/standins.h"
 
 #include "ide/formlinks.h"

@@ -1,3 +1,5 @@
+// TStructureTree: showing the form's structure, following the selection, and dragging controls into
+// others.
 #include "ide/structure.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TCollectionWindow: listing a collection's items, and adding, deleting and moving them.
 #include "ide/structurecollection.h"
 
 #include <algorithm>

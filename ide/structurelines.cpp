@@ -1,3 +1,4 @@
+// Listing what a form consists of.
 #include "ide/structurelines.h"
 
 #include "vcl/rtl/convert.h"

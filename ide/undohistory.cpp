@@ -1,3 +1,4 @@
+// TUndoHistory: going back and forth between states, within a limit of memory.
 #include "ide/undohistory.h"
 
 #include <numeric>

@@ -1,3 +1,4 @@
+// Finding the class, its table and its methods in a unit's text.
 #include "ide/unitparts.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Writing a unit anew, and bringing one up to date without touching what the user wrote.
 #include "ide/unitwriter.h"
 
 #include <algorithm>

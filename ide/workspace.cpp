@@ -1,3 +1,4 @@
+// TWorkspace: the desktop that its forms stand on, and scrolling it.
 #include "ide/workspace.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Reading a program's command line, and where its settings are kept.
 #include "demos/common/commandline.h"
 
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// TGalleryForm: what all pages share: bound settings, and the status bar.
 #include "demos/gallery/galleryform.h"
 
 #include "vcl/forms/application.h"

@@ -1,3 +1,5 @@
+// Finding properties by their paths, their values as texts, and which values there are to choose
+// from.
 #include "demos/gallery/propertytext.h"
 
 #include "vcl/rtl/colors.h"

@@ -1,3 +1,4 @@
+// Saving a picture of each page.
 #include "demos/gallery/screenshots.h"
 
 #include "vcl/forms/formpicture.h"

@@ -1,3 +1,5 @@
+// TSettingBinder: showing properties in controls, applying what the user enters, and marking what
+// is refused.
 #include "demos/gallery/settingbinder.h"
 
 #include "demos/gallery/propertytext.h"

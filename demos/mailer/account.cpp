@@ -1,3 +1,4 @@
+// Keeping the mail account, and what is missing in it for sending or fetching.
 #include "demos/mailer/account.h"
 
 #include "demos/common/storedvalues.h"

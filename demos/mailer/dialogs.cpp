@@ -1,3 +1,4 @@
+// The forms for writing a mail and for the account.
 #include "demos/mailer/dialogs.h"
 
 #include "vcl/rtl/properties.h"

@@ -1,3 +1,4 @@
+// Making a message of a draft.
 #include "demos/mailer/draft.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TMailerForm: the list of mails, the one that is shown, and its attachments.
 #include "demos/mailer/mailerform.h"
 
 #include "demos/common/commandline.h"

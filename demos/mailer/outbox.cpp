@@ -1,3 +1,4 @@
+// TOutbox: copying the files into one folder, and removing it.
 #include "demos/mailer/outbox.h"
 
 #include "demos/mailer/draft.h"

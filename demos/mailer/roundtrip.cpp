@@ -1,3 +1,4 @@
+// Sending a mail to itself, fetching it, comparing, and saving pictures of it.
 #include "demos/mailer/roundtrip.h"
 
 #include <cstdio>

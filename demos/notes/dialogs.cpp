@@ -1,3 +1,4 @@
+// The forms of options, search and about.
 #include "demos/notes/dialogs.h"
 
 #include "vcl/forms/application.h"

@@ -1,3 +1,4 @@
+// TNotesForm: beginning and ending, the tray, other copies of the program, and options.
 #include "demos/notes/notesform.h"
 
 #include "demos/common/commandline.h"

@@ -1,3 +1,4 @@
+// Reading and writing the options.
 #include "demos/notes/options.h"
 
 #include <algorithm>

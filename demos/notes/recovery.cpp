@@ -1,3 +1,4 @@
+// TRecovery: keeping unsaved text in a file, and finding it again.
 #include "demos/notes/recovery.h"
 
 #include <filesystem>

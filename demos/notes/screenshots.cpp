@@ -1,3 +1,4 @@
+// Saving pictures of the program's forms.
 #include "demos/notes/screenshots.h"
 
 #include "demos/notes/notesform.h"

@@ -1,3 +1,4 @@
+// Decoding and encoding text files, and replacing them whole.
 #include "demos/notes/textfile.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Connecting to the database file, and making its table with samples when there is none.
 #include "demos/records/database.h"
 
 #include <filesystem>

@@ -1,3 +1,4 @@
+// TRecordsForm: the buttons for the records, exporting and importing.
 #include "demos/records/recordsform.h"
 
 #include <algorithm>

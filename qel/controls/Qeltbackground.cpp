@@ -1,3 +1,4 @@
+// TQELBackground: its style, and the controls that are painted on it and hear of its changes.
 #include "qel/controls/Qeltbackground.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TQELButton: its properties, painting it, and mouse and keyboard.
 #include "qel/controls/Qeltbutton.h"
 
 #include "qel/core/private/arithmetic.h"

@@ -1,3 +1,5 @@
+// TQELGauge: its settings, where its parts stand, and painting the bar or only what has changed of
+// it.
 #include "qel/controls/Qeltgauge.h"
 
 #include <algorithm>

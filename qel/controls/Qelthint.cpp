@@ -1,3 +1,4 @@
+// TQELHint: the one component that takes over the application's hints, and its settings.
 #include "qel/controls/Qelthint.h"
 
 #include "qel/core/private/Qelownedsettings.h"

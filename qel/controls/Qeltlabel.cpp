@@ -1,3 +1,4 @@
+// TQELLabel: its settings and backgrounds, and painting it.
 #include "qel/controls/Qeltlabel.h"
 
 #include "qel/core/private/Qelownedsettings.h"

@@ -1,3 +1,4 @@
+// TQELButtonDetails: handing its settings on to the button, as long as that lives.
 #include "qel/core/Qelbuttondetails.h"
 
 #include "vcl/rtl/properties.h"

@@ -1,3 +1,5 @@
+// Drawing helpers that several controls share: masked bitmaps, lamps, button frames; cutting texts,
+// centring controls.
 #include "qel/core/Qelclasses2.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The base classes without a window, and the text that TQELAbout shows.
 #include "qel/core/Qelcomponent.h"
 
 #include <iterator>

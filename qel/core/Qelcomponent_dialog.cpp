@@ -1,3 +1,4 @@
+// TQELCustomDialog: the sound that a dialog makes.
 #include <iterator>
 
 #include "qel/core/Qelcomponent.h"

@@ -1,3 +1,4 @@
+// The base controls: which background they are a client of, and painting at once.
 #include "qel/core/Qelcontrols.h"
 
 #include "vcl/graphics/canvasbinding.h"

@@ -1,3 +1,4 @@
+// TQELFont3D: its settings, and the copies of a text that make it look three-dimensional.
 #include "qel/core/Qelfont3d.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TQELFrame: its settings, and the rings that a frame is drawn with.
 #include "qel/core/Qelframe.h"
 
 #include <algorithm>

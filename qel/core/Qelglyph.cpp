@@ -1,3 +1,4 @@
+// TQELGlyph: its strip of images, which one fits a state, drawing it, and greying it.
 #include "qel/core/Qelglyph.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TQELTimer32: its settings, and the thread that waits.
 #include "qel/core/Qeltimer32.h"
 
 #include "vcl/rtl/customapplication.h"

@@ -1,3 +1,4 @@
+// TQELDataStore: reading and writing values in the registry or an INI file; TQELStoreData.
 #include "qel/core/Qeltstoredata.h"
 
 #include <algorithm>

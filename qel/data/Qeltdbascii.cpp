@@ -1,3 +1,4 @@
+// TQELDBAscii: its fields, exporting records to a text file, and importing them.
 #include "qel/data/Qeltdbascii.h"
 
 #include "vcl/rtl/properties.h"

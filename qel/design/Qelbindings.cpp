@@ -1,3 +1,4 @@
+// The table of the package's editors: which is for which property and which component.
 #include "qel/design/Qelbindings.h"
 
 #include "qel/controls/Qeltbackground.h"

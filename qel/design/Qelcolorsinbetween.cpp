@@ -1,3 +1,4 @@
+// The editor of the colours in between: showing its form, and taking its list.
 #include "qel/design/Qelcolorsinbetween.h"
 
 #include "qel/design/colorsform.h"

@@ -1,3 +1,4 @@
+// The package's editors of components: running a component, and the about box.
 #include "qel/design/Qelcomponenteditors.h"
 
 #include <iterator>

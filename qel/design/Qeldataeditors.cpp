@@ -1,3 +1,4 @@
+// Where the choice of field names comes from: the data set behind a data source.
 #include "qel/design/Qeldataeditors.h"
 
 #include "qel/data/Qeltdbascii.h"

@@ -1,3 +1,4 @@
+// The editors of mails and attachments: what their form lists, and what it adds.
 #include "qel/design/Qelmaileditors.h"
 
 #include "qel/design/itemsform.h"

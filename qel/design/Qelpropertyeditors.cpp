@@ -1,3 +1,4 @@
+// The package's editors of single properties: file names, running a component, the about box.
 #include "qel/design/Qelpropertyeditors.h"
 
 #include "qel/core/Qelcomponent.h"

@@ -1,3 +1,4 @@
+// The palette pages with their classes, and the package's entry points.
 #include "qel/design/Qelregistration.h"
 
 #include "qel/controls/Qeltbackground.h"

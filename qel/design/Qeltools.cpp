@@ -1,3 +1,4 @@
+// The add-in: its menu, what each item calls, and the user's files, links and addresses.
 #include "qel/design/Qeltools.h"
 
 #include "qel/design/autosave.h"

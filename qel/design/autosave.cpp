@@ -1,3 +1,4 @@
+// Saving the open forms at intervals that the user chooses.
 #include "qel/design/autosave.h"
 
 #include <algorithm>

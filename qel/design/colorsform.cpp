@@ -1,3 +1,4 @@
+// The form of the colours: adding, changing, ordering and drawing them.
 #include "qel/design/colorsform.h"
 
 #include "vcl/dialogs/dialogs.h"

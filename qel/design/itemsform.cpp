@@ -1,3 +1,5 @@
+// The form of a collection: its items, and the rows in which the selected one's properties are
+// edited.
 #include "qel/design/itemsform.h"
 
 #include <algorithm>

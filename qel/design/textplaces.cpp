@@ -1,3 +1,4 @@
+// Finding texts in a form's components, and replacing them.
 #include "qel/design/textplaces.h"
 
 #include "vcl/rtl/collection.h"

@@ -1,3 +1,4 @@
+// The form that shows a list and the details of what is chosen in it.
 #include "qel/design/toollist.h"
 
 #include "vcl/forms/forms.h"

@@ -1,3 +1,5 @@
+// The tools that show lists or act at once: components without a window, names, paths, INI files,
+// the ASCII table.
 #include "qel/design/tools.h"
 
 #include <filesystem>

@@ -1,3 +1,4 @@
+// Reading and writing the tools' settings in the registry.
 #include "qel/design/toolsettings.h"
 
 #include "qel/core/Qeltstoredata.h"

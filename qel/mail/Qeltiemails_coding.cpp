@@ -1,3 +1,4 @@
+// How the sender encodes attachments: a file's blocks as lines of base64.
 #include <algorithm>
 #include <array>
 #include <limits>

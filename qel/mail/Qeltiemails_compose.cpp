@@ -1,3 +1,4 @@
+// How the sender composes a mail: its header, its text and its parts.
 #include <chrono>
 #include <random>
 

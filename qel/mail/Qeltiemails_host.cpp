@@ -1,3 +1,4 @@
+// TQELMailHost: a session with a server, its connection, its waiting and its end.
 #include <algorithm>
 #include <array>
 

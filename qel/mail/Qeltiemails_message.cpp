@@ -1,3 +1,4 @@
+// TQELMessage and TQELAttachment: a mail, its attachments, and the collections of both.
 #include "qel/mail/Qeltiemails_message.h"
 #include "qel/mail/Qeltiemails_smtp.h"
 #include "qel/mail/private/filenames.h"

@@ -1,3 +1,4 @@
+// How mails are sent: the dialogue with the server.
 #include <chrono>
 #include <thread>
 #include <vector>

@@ -1,3 +1,5 @@
+// TQELMapiMessage and TQELMapiAttachment: mails for the system's mail program, and their
+// collections.
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/private/living.h"
 #include "vcl/rtl/customapplication.h"

@@ -1,3 +1,4 @@
+// TQELMapiMail: whether Simple MAPI is there, logging on with a profile, sending and logging off.
 #include "qel/mail/Qeltmapimail.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// TQELQuickMail: one mail by one call of Simple MAPI.
 #include "qel/mail/Qeltquickmail.h"
 
 #include "qel/mail/private/simplemapi.h"

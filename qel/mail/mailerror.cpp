@@ -1,3 +1,4 @@
+// The destructor of EQELMailError, which gives the class one home for its type information.
 #include "qel/mail/mailerror.h"
 
 namespace qel {

@@ -1,3 +1,4 @@
+// TLineReader and TTextLines: lines of a text held in one piece, found, replaced and added.
 #include "qel/mail/textlines.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TQELFormSaver: which forms and controls it keeps, storing them, and restoring them.
 #include "qel/services/Qeltformsaver.h"
 
 #include <algorithm>

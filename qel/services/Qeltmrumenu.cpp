@@ -1,3 +1,4 @@
+// TQELMRUMenu: the list of files, keeping it, and its lines in the menu.
 #include "qel/services/Qeltmrumenu.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TQELOnlyOne: finding other copies of the program, bringing one to the front, and ending this one.
 #include "qel/services/Qeltonlyone.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// TQELSystemTray: what it tells the shell, the icon's messages, and hiding the application.
 #include "qel/services/Qeltsystemtray.h"
 
 #include "vcl/controls/messagewindow.h"

@@ -1,3 +1,4 @@
+// TQELExplorerTree: the folder it is at, its settings, and the texts and pictures of its nodes.
 #include "qel/shell/Qeltexplorertree.h"
 
 #include <objbase.h>

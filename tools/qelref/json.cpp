@@ -1,3 +1,4 @@
+// The reference as JSON.
 #include <cstdio>
 
 #include "tools/qelref/reference.h"

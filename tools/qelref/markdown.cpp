@@ -1,3 +1,4 @@
+// The reference as Markdown.
 #include "tools/qelref/reference.h"
 
 namespace qelref {

@@ -1,3 +1,4 @@
+// Reading the reference from a package's classes, property by property.
 #include "tools/qelref/reference.h"
 
 #include "vcl/designintf/package.h"

@@ -1,3 +1,4 @@
+// TControl: its place in the form, bounds, look, text, and drag and drop.
 #include "vcl/controls/control.h"
 
 #include "vcl/controls/wincontrol.h"

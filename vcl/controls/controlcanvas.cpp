@@ -1,3 +1,4 @@
+// TControlCanvas: getting and releasing the control's device context.
 #include "vcl/controls/controlcanvas.h"
 
 #include <utility>

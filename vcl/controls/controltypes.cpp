@@ -1,3 +1,4 @@
+// The names of cursors and modal results, and the state of keys from the system's messages.
 #include "vcl/controls/controltypes.h"
 
 #include <span>

@@ -1,3 +1,4 @@
+// TGraphicControl: painting a control that has no window.
 #include "vcl/controls/control.h"
 #include "vcl/controls/controlcanvas.h"
 #include "vcl/graphics/canvasbinding.h"

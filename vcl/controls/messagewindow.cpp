@@ -1,3 +1,4 @@
+// Windows that only receive messages: making them, and passing their messages on.
 #include "vcl/controls/messagewindow.h"
 
 #include <memory>

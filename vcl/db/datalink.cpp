@@ -1,3 +1,5 @@
+// How controls follow a data source: TDataLink with the records that its control shows, and
+// TFieldDataLink, which follows one field.
 #include <algorithm>
 #include <utility>
 

@@ -1,3 +1,4 @@
+// TDataSource: hands on what happens to its data set, to its events and to the links behind it.
 #include "vcl/db/datasource.h"
 
 #include <algorithm>

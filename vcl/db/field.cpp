@@ -1,3 +1,4 @@
+// TField: its place in the data set, reading and writing the current record's value, and its texts.
 #include "vcl/db/field.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// TFieldDef and TFieldDefs: the fields that a data set is going to have.
 #include "vcl/db/fielddefs.h"
 
 #include "vcl/rtl/properties.h"

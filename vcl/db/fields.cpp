@@ -1,3 +1,5 @@
+// The kinds of fields: which values each accepts, how it writes them as text, and which class
+// stands for which data type.
 #include "vcl/db/fields.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TMemoryDataSet: records in memory, rearranged when the field definitions have changed.
 #include "vcl/db/memorydataset.h"
 
 #include "vcl/db/private/propertygroups.h"

@@ -1,3 +1,5 @@
+// TConnection: the connection to a database over ODBC, its transactions, and the primary key of a
+// table.
 #include "vcl/db/private/odbcstatement.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"

@@ -1,3 +1,4 @@
+// TOdbcQuery: running the query, its fields, its records' changes, and its transactions.
 #include "vcl/db/odbcquery.h"
 
 #include "vcl/db/private/odbclive.h"

@@ -1,3 +1,4 @@
+// TParam and TParams: the parameters of an SQL text, and finding them in it.
 #include "vcl/db/params.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TRecordList: records in memory in the order of a data set, with the bookmarks that name them.
 #include "vcl/db/recordstore.h"
 
 namespace vcl {

@@ -1,3 +1,4 @@
+// The list of the data classes that form files may name.
 #include "vcl/db/registration.h"
 
 #include "vcl/db/datasource.h"

@@ -1,3 +1,4 @@
+// TDBEdit: showing a field's value, and writing what was typed when the focus leaves.
 #include "vcl/dbctrls/dbedit.h"
 
 #include "vcl/controls/propertygroups.h"

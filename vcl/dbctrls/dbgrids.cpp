@@ -1,3 +1,4 @@
+// TDBGrid: painting records in rows, and moving through them by keyboard, mouse and scroll bar.
 #include "vcl/dbctrls/dbgrids.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The list of the data-aware controls that form files may name.
 #include "vcl/dbctrls/registration.h"
 
 #include "vcl/db/registration.h"

@@ -1,3 +1,4 @@
+// The base of component editors, the default one, and which editor a component gets.
 #include "vcl/designintf/componenteditor.h"
 
 #include <algorithm>

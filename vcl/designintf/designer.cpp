@@ -1,3 +1,4 @@
+// TDesigner's destructor, which gives the class one home for its type information.
 #include "vcl/designintf/designer.h"
 
 namespace vcl {

@@ -1,3 +1,4 @@
+// The add-ins that packages have registered.
 #include "vcl/designintf/environment.h"
 
 #include "vcl/designintf/registered.h"

@@ -1,3 +1,4 @@
+// TPackage: loading a package's DLL, calling its entry points, and taking back what it registered.
 #include "vcl/designintf/package.h"
 
 #include <algorithm>

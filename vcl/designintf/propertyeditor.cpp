@@ -1,3 +1,5 @@
+// TPropertyEditor: the value of one property of one or several objects, and changing all of them or
+// none.
 #include "vcl/designintf/propertyeditor.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The components that packages have registered, and the palette pages they stand on.
 #include "vcl/designintf/registration.h"
 
 #include <algorithm>

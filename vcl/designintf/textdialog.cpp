@@ -1,3 +1,4 @@
+// The form in which a text of many lines is edited.
 #include "vcl/designintf/textdialog.h"
 
 #include "vcl/forms/forms.h"

@@ -1,3 +1,4 @@
+// TColorDialog: its settings and own colours, to the system's dialog and back.
 #include "vcl/dialogs/colordialog.h"
 
 #include <charconv>

@@ -1,3 +1,4 @@
+// TCommonDialog: running one of the system's dialogs, and hearing its window's messages.
 #include "vcl/dialogs/commondialog.h"
 
 #include <utility>

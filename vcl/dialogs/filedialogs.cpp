@@ -1,3 +1,5 @@
+// TOpenDialog and TSaveDialog: filters, options and the names chosen, to the system's dialog and
+// back.
 #include "vcl/dialogs/filedialogs.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TFontDialog: a font and its options, to the system's dialog and back.
 #include "vcl/dialogs/fontdialog.h"
 
 #include "vcl/rtl/properties.h"

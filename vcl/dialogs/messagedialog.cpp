@@ -1,3 +1,4 @@
+// MessageDlg, InputQuery and InputBox: the form that shows a message or question, and its buttons.
 #include "vcl/dialogs/messagedialog.h"
 
 #include <algorithm>

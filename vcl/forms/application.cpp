@@ -1,3 +1,4 @@
+// TApplication: beginning, running and ending the program, its forms, and its own window.
 #include "vcl/forms/application.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Having the clipboard for oneself, and the text on it.
 #include "vcl/forms/clipboardtext.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A drag from its beginning to the drop: the mouse, the targets that are asked, and who is told.
 #include "vcl/forms/drag.h"
 
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// Taking pictures of forms from the screen, once they stand still.
 #include "vcl/forms/formpicture.h"
 
 #include <cstring>

@@ -1,3 +1,4 @@
+// TCustomForm: made from its form file, ended, and its properties.
 #include "vcl/forms/forms.h"
 
 #include "vcl/controls/controlcanvas.h"

@@ -1,3 +1,4 @@
+// THintControl: whose hint is shown, when it comes and goes, and where it stands.
 #include "vcl/forms/hints.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Asking the system in which module an address lies.
 #include "vcl/forms/module.h"
 
 #include "vcl/rtl/win32.h"

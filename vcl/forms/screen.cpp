@@ -1,3 +1,4 @@
+// TScreen: the screen's measures, the program's forms and the active one, and the mouse pointers.
 #include "vcl/forms/screen.h"
 
 #include <algorithm>

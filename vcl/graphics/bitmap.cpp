@@ -1,3 +1,4 @@
+// TBitmap: its pixels, size and format, its handles, and drawing it.
 #include "vcl/graphics/bitmap.h"
 
 #include <cstring>

@@ -1,3 +1,4 @@
+// TBrush: its settings, and the system's brush that is made of them.
 #include "vcl/graphics/brush.h"
 
 #include "vcl/graphics/bitmap.h"

@@ -1,3 +1,4 @@
+// TCanvas: its device context and what is selected in it; canvases that get a context when needed.
 #include "vcl/graphics/canvas.h"
 
 #include <algorithm>

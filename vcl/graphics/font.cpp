@@ -1,3 +1,4 @@
+// TFont: its settings, the system's font that is made of them, and the names of character sets.
 #include "vcl/graphics/font.h"
 
 #include <algorithm>

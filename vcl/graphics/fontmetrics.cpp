@@ -1,3 +1,4 @@
+// The height of a font, and drawing text with it.
 #include "vcl/graphics/fontmetrics.h"
 
 #include "vcl/rtl/utf16.h"

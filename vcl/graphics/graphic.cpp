@@ -1,3 +1,4 @@
+// TGraphic: files and form files, and telling of changes.
 #include "vcl/graphics/graphic.h"
 
 #include "vcl/rtl/filer.h"

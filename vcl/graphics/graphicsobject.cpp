@@ -1,3 +1,4 @@
+// Colours as GDI takes them, and how fonts, pens and brushes tell of changes.
 #include "vcl/graphics/graphicsobject.h"
 
 #include "vcl/rtl/properties.h"

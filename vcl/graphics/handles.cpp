@@ -1,3 +1,5 @@
+// Contexts and selections that end by themselves, and the error when the system has no handles
+// left.
 #include "vcl/graphics/handles.h"
 
 #include "vcl/rtl/exceptions.h"

@@ -1,3 +1,4 @@
+// TIcon: its images, its handle in a wanted size, files and drawing.
 #include "vcl/graphics/icon.h"
 
 #include <algorithm>

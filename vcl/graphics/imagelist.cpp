@@ -1,3 +1,4 @@
+// TImageList: adding and removing pictures, drawing them, and telling of changes.
 #include "vcl/graphics/imagelist.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// TPen: its settings, and the system's pen that is made of them.
 #include "vcl/graphics/pen.h"
 
 #include "vcl/rtl/properties.h"

@@ -1,3 +1,4 @@
+// TPicture: which kind of graphic a file or form file holds, and keeping one of it.
 #include "vcl/graphics/picture.h"
 
 #include "vcl/rtl/exceptions.h"

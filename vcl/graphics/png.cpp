@@ -1,3 +1,4 @@
+// Writing bitmaps as PNG files, by way of GDI+.
 #include "vcl/graphics/png.h"
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// TMenu and TMainMenu: finding items by command or shortcut, and what menus do with messages.
 #include "vcl/forms/application.h"
 #include "vcl/forms/forms.h"
 #include "vcl/menus/menus.h"

@@ -1,3 +1,4 @@
+// TMenuItem: its properties, the items inside it, and the system's menu that is made of them.
 #include <algorithm>
 #include <bitset>
 

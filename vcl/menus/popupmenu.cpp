@@ -1,3 +1,4 @@
+// TPopupMenu: bringing it up, and the window that gets its messages meanwhile.
 #include "vcl/controls/messagewindow.h"
 #include "vcl/forms/application.h"
 #include "vcl/menus/menus.h"

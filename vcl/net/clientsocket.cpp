@@ -1,3 +1,4 @@
+// TClientSocket: whom it connects to, opening and closing, and what it does about failures.
 #include "vcl/net/private/socketsystem.h"
 #include "vcl/net/sockets.h"
 #include "vcl/rtl/properties.h"

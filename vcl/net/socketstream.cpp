@@ -1,3 +1,4 @@
+// TWinSocketStream: reading and writing a blocking connection, with a limit to the waiting.
 #include <algorithm>
 #include <limits>
 

@@ -1,3 +1,4 @@
+// TCustomWinSocket: a connection, its two ends, sending and receiving.
 #include <array>
 
 #include "vcl/net/private/socketsystem.h"

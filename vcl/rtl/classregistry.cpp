@@ -1,3 +1,4 @@
+// The classes that form files may name, by their names without case.
 #include "vcl/rtl/classregistry.h"
 
 #include <map>

@@ -1,3 +1,4 @@
+// TCollection and TCollectionItem: adding, ordering and freeing items, and telling of changes.
 #include "vcl/rtl/collection.h"
 
 #include <algorithm>

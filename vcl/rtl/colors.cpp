@@ -1,3 +1,4 @@
+// The names of colours, and colours as texts and back.
 #include "vcl/rtl/colors.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TComponent: owning, naming, free notification, what a form file asks of it; and TWatch.
 #include "vcl/rtl/component.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Numbers and truth values as texts and back, whatever the user's language.
 #include "vcl/rtl/convert.h"
 
 #include <charconv>

@@ -1,3 +1,5 @@
+// TCustomApplication: the application as units without a window see it, its stand-in where there is
+// none, and Halt.
 #include "vcl/rtl/customapplication.h"
 
 #include <cstdio>

@@ -1,3 +1,4 @@
+// Dates and times: putting them together, taking them apart, and the clock.
 #include "vcl/rtl/datetime.h"
 
 #include <chrono>

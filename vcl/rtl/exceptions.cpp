@@ -1,3 +1,4 @@
+// The destructors of the exceptions, which give each class one home for its type information.
 #include "vcl/rtl/exceptions.h"
 
 namespace vcl {

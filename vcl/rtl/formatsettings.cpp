@@ -1,3 +1,4 @@
+// The program's formats of dates and times, begun with the user's.
 #include "vcl/rtl/formatsettings.h"
 
 namespace vcl {

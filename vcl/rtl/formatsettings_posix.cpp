@@ -1,3 +1,4 @@
+// How the user writes dates and times: what the locale of a POSIX system says.
 #include <langinfo.h>
 
 #include <clocale>

@@ -1,3 +1,4 @@
+// How the user writes dates and times: what Windows's settings say.
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 

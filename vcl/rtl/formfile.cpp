@@ -1,3 +1,5 @@
+// Form files as a whole: which form a file has, reading it with errors that name it, and writing
+// it.
 #include "vcl/rtl/formfile.h"
 
 #include "vcl/rtl/exceptions.h"

@@ -1,3 +1,4 @@
+// Settings in files: the values of TCustomIniFile as texts, TIniFile and TMemIniFile.
 #include "vcl/rtl/inifile.h"
 
 #include "vcl/rtl/convert.h"

@@ -1,3 +1,4 @@
+// TObject and TClass: the run-time class, and what of its table descendants inherit and redeclare.
 #include "vcl/rtl/object.h"
 
 #include <algorithm>

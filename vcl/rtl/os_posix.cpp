@@ -1,3 +1,4 @@
+// What the library asks of a POSIX system: files, threads, the order of texts, the clock.
 #include "vcl/rtl/os.h"
 
 #include <fcntl.h>

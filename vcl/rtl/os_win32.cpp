@@ -1,3 +1,4 @@
+// What the library asks of Windows: files, threads, the order of texts, the clock.
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif

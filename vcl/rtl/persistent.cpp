@@ -1,3 +1,4 @@
+// TPersistent: assigning one object to another, and what refuses it.
 #include "vcl/rtl/persistent.h"
 
 #include "vcl/rtl/exceptions.h"

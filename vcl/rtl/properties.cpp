@@ -1,3 +1,5 @@
+// Lines of published-property tables: setting a property's value with its checks, and whether a
+// form file needs it.
 #include "vcl/rtl/properties.h"
 
 #include "vcl/rtl/exceptions.h"

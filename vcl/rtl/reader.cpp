@@ -1,3 +1,4 @@
+// TReader: reading a form file as a whole, its values, and undoing everything after an error.
 #include "vcl/rtl/reader.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// TReader: making components, their names, parents and fields.
 #include <tuple>
 #include <utility>
 

@@ -1,3 +1,4 @@
+// TReader: reading properties, events, collections and the values that objects define themselves.
 #include <algorithm>
 #include <utility>
 

@@ -1,3 +1,4 @@
+// TReader: references between components, fulfilled when all of them are there.
 #include "vcl/rtl/collection.h"
 #include "vcl/rtl/private/readerimpl.h"
 #include "vcl/rtl/text.h"

@@ -1,3 +1,4 @@
+// TRegIniFile: a key of the registry treated as a settings file.
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/private/registrykey_win32.h"
 

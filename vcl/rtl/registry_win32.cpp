@@ -1,3 +1,4 @@
+// TRegistry: opening keys, reading and writing their values, and what lies in them.
 #include "vcl/rtl/registry.h"
 
 #include <algorithm>

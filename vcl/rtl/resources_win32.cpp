@@ -1,3 +1,4 @@
+// TResourceStream: the bytes of a resource of an executable or DLL.
 #include "vcl/rtl/resources.h"
 
 #define WIN32_LEAN_AND_MEAN

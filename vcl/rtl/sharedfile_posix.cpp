@@ -1,3 +1,4 @@
+// Reading and replacing small files that several programs use, on a POSIX system.
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>

@@ -1,3 +1,5 @@
+// Reading and replacing small files that several programs use, on Windows, where others may have
+// them open.
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif

@@ -1,3 +1,4 @@
+// TStream and the streams in memory and in files.
 #include "vcl/rtl/streams.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TStringList: texts in memory, sorted if asked.
 #include <algorithm>
 
 #include "vcl/rtl/exceptions.h"

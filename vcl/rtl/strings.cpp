@@ -1,3 +1,5 @@
+// TStrings: what every list of texts can do with its lines: whole texts, comma texts, names and
+// values, files.
 #include "vcl/rtl/strings.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Small operations on texts: comparison without case, trimming, and single characters of UTF-8.
 #include "vcl/rtl/text.h"
 
 #include <algorithm>

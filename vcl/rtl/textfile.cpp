@@ -1,3 +1,4 @@
+// TTextFile: writing and reading lines through a buffer.
 #include "vcl/rtl/textfile.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TThread: beginning, ending, suspending and waiting for a thread.
 #include "vcl/rtl/thread.h"
 
 #include <algorithm>

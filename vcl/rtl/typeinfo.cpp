@@ -1,3 +1,4 @@
+// Types of published properties: their names, and the names of an enumeration's values.
 #include "vcl/rtl/typeinfo.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// How each kind of value is spelled as text, and read again.
 #include "vcl/rtl/valuetext.h"
 
 #include "vcl/rtl/colors.h"

@@ -1,3 +1,4 @@
+// TWriter: writing components, and the values that objects define themselves.
 #include "vcl/rtl/writer.h"
 
 #include <utility>

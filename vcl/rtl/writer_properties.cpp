@@ -1,3 +1,5 @@
+// TWriter: which properties are written and how, references and collections, and what was kept of a
+// file.
 #include <algorithm>
 #include <tuple>
 #include <utility>

@@ -1,3 +1,4 @@
+// TBevel: its shapes, and painting them.
 #include "vcl/stdctrls/bevel.h"
 
 #include <utility>

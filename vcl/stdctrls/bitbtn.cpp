@@ -1,3 +1,4 @@
+// TBitBtn: what its kind says of it, and painting the button with its glyph.
 #include "vcl/stdctrls/bitbtn.h"
 
 #include "vcl/forms/forms.h"

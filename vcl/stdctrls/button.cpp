@@ -1,3 +1,4 @@
+// TButtonControl and TButton: clicks, and which button Enter and Escape press.
 #include "vcl/stdctrls/button.h"
 
 #include "vcl/controls/private/accelerators.h"

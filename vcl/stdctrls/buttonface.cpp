@@ -1,3 +1,4 @@
+// TButtonFace: where glyph and caption stand, the glyph's images, and drawing them.
 #include "vcl/stdctrls/buttonface.h"
 
 #include <utility>

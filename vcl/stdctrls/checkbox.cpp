@@ -1,3 +1,4 @@
+// TCustomCheckBox and TRadioButton: their states, and the group that a radio button belongs to.
 #include "vcl/stdctrls/checkbox.h"
 
 #include "vcl/controls/private/narrowed.h"

@@ -1,3 +1,4 @@
+// TCustomComboBox: its list, its text and selection, and the edit inside it.
 #include "vcl/stdctrls/combobox.h"
 
 #include <algorithm>

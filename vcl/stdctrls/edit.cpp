@@ -1,3 +1,4 @@
+// TCustomEdit: its settings, the selection, the clipboard, and its height.
 #include "vcl/stdctrls/edit.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TCustomGroupBox: its frame with the caption, and the room inside.
 #include "vcl/stdctrls/groupbox.h"
 
 #include "vcl/controls/private/accelerators.h"

@@ -1,3 +1,4 @@
+// TImage: where its picture stands, and painting it.
 #include "vcl/stdctrls/image.h"
 
 #include "vcl/controls/propertygroups.h"

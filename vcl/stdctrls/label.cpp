@@ -1,3 +1,5 @@
+// TCustomLabel: painting its text, its size by the text, and the control that its accelerator
+// focuses.
 #include "vcl/stdctrls/label.h"
 
 #include "vcl/controls/private/accelerators.h"

@@ -1,3 +1,4 @@
+// TCustomListBox: selection, scrolling, and dragging from it.
 #include "vcl/stdctrls/listbox.h"
 
 #include "vcl/controls/private/narrowed.h"

@@ -1,3 +1,5 @@
+// TCustomListControl: the items and their window, the selection, and items that are drawn by
+// events.
 #include "vcl/stdctrls/listcontrol.h"
 
 #include "vcl/controls/windowmessages.h"

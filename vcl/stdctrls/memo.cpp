@@ -1,3 +1,4 @@
+// TCustomMemo: wrapping and scroll bars, and whether it takes Tab and Enter.
 #include "vcl/stdctrls/memo.h"
 
 #include "vcl/controls/propertygroups.h"

@@ -1,3 +1,4 @@
+// TPageControl: its pages, which one is shown, and where the focus goes.
 #include "vcl/stdctrls/pagecontrol.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TCustomPanel: its bevels and caption, and the room inside.
 #include "vcl/stdctrls/panel.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TSpeedButton: its group, its look in each state, and the mouse.
 #include "vcl/stdctrls/speedbutton.h"
 
 #include "vcl/controls/private/accelerators.h"

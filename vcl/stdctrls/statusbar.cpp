@@ -1,3 +1,4 @@
+// TStatusBar and its panels: told to the system's status bar.
 #include "vcl/stdctrls/statusbar.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TTabSheet: its place among the pages and its tab.
 #include <algorithm>
 
 #include "vcl/controls/propertygroups.h"

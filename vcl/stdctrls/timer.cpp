@@ -1,3 +1,4 @@
+// TTimer: starting and stopping the system's timer.
 #include "vcl/stdctrls/timer.h"
 
 #include <unordered_map>

@@ -1,3 +1,4 @@
+// TTrackBar: range, ticks and position, told to the system's track bar and heard from it.
 #include "vcl/stdctrls/trackbar.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TCustomTreeView: its settings, the selected and the expanded nodes, and its events.
 #include "vcl/stdctrls/treeview.h"
 
 #include <utility>

@@ -1,3 +1,5 @@
+// Where a gradient's colours are computed: the steps between two colours, the strips they fill, and
+// which painter a style has.
 #include "qel/controls/private/gradientsteps.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TPictureCache: finding a kept picture, and making room for another one.
 #include "qel/controls/private/picturecache.h"
 
 #include <algorithm>

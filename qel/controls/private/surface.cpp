@@ -1,3 +1,4 @@
+// TSurface: a bitmap in memory, filled by pixels and copied to contexts.
 #include "qel/controls/private/surface.h"
 
 #include <intrin.h>

@@ -1,3 +1,4 @@
+// Having the control repainted that owns changed settings.
 #include "qel/core/private/Qelownedsettings.h"
 
 #include "vcl/controls/control.h"

@@ -1,3 +1,4 @@
+// Base64 by tables: groups of bytes to letters, and clean groups of letters to bytes.
 #include "qel/mail/private/base64.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// Base64 as mails bring it: the letters picked out, pad marks and odd ends.
 #include "qel/mail/private/base64decoder.h"
 
 #include "qel/mail/private/base64.h"

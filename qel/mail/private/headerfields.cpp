@@ -1,3 +1,5 @@
+// Finding the lines of a mail's header, and reading sender, recipients and the other fields from
+// them.
 #include "qel/mail/private/headerfields.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The types of files where there is no registry: none is known.
 #include "qel/mail/private/mimetypes.h"
 
 namespace qel {

@@ -1,3 +1,4 @@
+// The types of files that the registry knows.
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif

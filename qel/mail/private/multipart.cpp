@@ -1,3 +1,4 @@
+// Mails of several parts: boundaries, the parts between them, their kinds and names.
 #include "qel/mail/private/multipart.h"
 
 #include <algorithm>

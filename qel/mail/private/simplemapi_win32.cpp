@@ -1,3 +1,4 @@
+// Whether the system has Simple MAPI, loading its library, and its entry points.
 #include "qel/mail/private/simplemapi.h"
 
 #include <cstring>

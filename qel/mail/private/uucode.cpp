@@ -1,3 +1,4 @@
+// Decoding uuencoded lines, and recognising where they begin and end.
 #include "qel/mail/private/uucode.h"
 
 #include <algorithm>

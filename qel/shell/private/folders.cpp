@@ -1,3 +1,5 @@
+// Folders as the disk and the shell have them: paths, what lies inside, pictures; making, renaming
+// and deleting.
 // The wide entry points of the system are called, because names may be longer in UTF-8 than the
 // narrow ones have room for.
 #include "qel/shell/private/folders.h"

@@ -1,3 +1,4 @@
+// Finding the letter that "&" marks in a caption.
 #include "vcl/controls/private/accelerators.h"
 
 #include "vcl/rtl/utf16.h"

@@ -1,3 +1,4 @@
+// The mouse pointers: which are the system's, and the drawings of the others.
 #include "vcl/controls/private/cursors.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Choosing an input method, and putting it into the state that a control wants.
 #include "vcl/controls/private/ime.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// Published properties that take only the first values of an enumeration: their types and checks.
 #include "vcl/controls/private/narrowed.h"
 
 #include "vcl/rtl/exceptions.h"

@@ -1,3 +1,5 @@
+// Reading a long query ahead on a thread: batches of records, and pausing while others use the
+// connection.
 #include "vcl/db/private/odbcahead.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// Texts for ODBC in UTF-16, and its failures as exceptions.
 #include "vcl/db/private/odbcapi.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Writing a query's changes into its one table: which table and key that is, and the SQL texts.
 #include "vcl/db/private/odbclive.h"
 
 #include <algorithm>

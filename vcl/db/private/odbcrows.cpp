@@ -1,3 +1,4 @@
+// The records of a query: those that are kept once read, and those that are read and forgotten.
 #include "vcl/db/private/odbcrows.h"
 
 namespace vcl::odbc {

@@ -1,3 +1,4 @@
+// A statement over ODBC: its parameters, its columns, and how their values travel both ways.
 #include "vcl/db/private/odbcstatement.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// Disabling the thread's other windows while one is modal, and finding the one that comes to the
+// front next.
 #include "vcl/forms/private/taskwindows.h"
 
 #include <utility>

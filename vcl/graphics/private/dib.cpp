@@ -1,3 +1,4 @@
+// A picture's pixels in memory: the size of rows, and what size is refused.
 #include "vcl/graphics/private/dib.h"
 
 #include <string>

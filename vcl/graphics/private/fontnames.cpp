@@ -1,3 +1,4 @@
+// Asking the system for the names of its fonts.
 #include "vcl/graphics/private/fontnames.h"
 
 #include <set>

@@ -1,3 +1,4 @@
+// ICO files: reading them, choosing the image that fits, and writing them.
 #include "vcl/graphics/private/iconfile.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// Copying pixels save those of one colour, stretched if need be, and with a brush painted behind
+// them if asked.
 #include "vcl/graphics/private/keyedcopy.h"
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// What sockets ask of a POSIX system: errors, connecting, and waiting.
 #include "vcl/net/private/socketsystem.h"
 
 #include <fcntl.h>

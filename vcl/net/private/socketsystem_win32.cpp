@@ -1,3 +1,4 @@
+// What sockets ask of Winsock: errors, connecting, and waiting.
 #include "vcl/net/private/socketsystem.h"
 
 #ifndef NOMINMAX

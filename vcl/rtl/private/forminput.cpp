@@ -1,3 +1,4 @@
+// Reading the binary form of a form file, value by value, with the place in every error.
 #include "vcl/rtl/private/forminput.h"
 
 #include <bit>

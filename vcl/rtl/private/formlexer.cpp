@@ -1,3 +1,4 @@
+// The words of a form file's text form: blanks, names, numbers, quoted texts and character codes.
 #include "vcl/rtl/private/formlexer.h"
 
 #include <charconv>

@@ -1,3 +1,5 @@
+// Writing the binary form of a form file, value by value, whole numbers in as few bytes as hold
+// them.
 #include "vcl/rtl/private/formoutput.h"
 
 #include <bit>

@@ -1,3 +1,4 @@
+// The encodings of settings files: told by their mark, decoded to UTF-8 and encoded again.
 #include "vcl/rtl/private/inicoding.h"
 
 #include "vcl/rtl/text.h"

@@ -1,3 +1,4 @@
+// TIniText: finding sections and values in a settings file's text, and changing them in place.
 #include "vcl/rtl/private/initext.h"
 
 #include <cstring>

@@ -1,3 +1,4 @@
+// The kinds of TBitBtn: caption, result and the strokes that their glyphs are drawn with.
 #include "vcl/stdctrls/private/bitbtnkinds.h"
 
 #include <span>

@@ -1,3 +1,4 @@
+// TListItems: the lines of a list box or combo box, told to its window line by line.
 #include "vcl/stdctrls/private/listitems.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TMemoLines: a memo's text taken as lines, changed in the window where there is one.
 #include "vcl/stdctrls/private/memolines.h"
 
 #include "vcl/controls/windowmessages.h"
