@@ -9,6 +9,7 @@
 #include "vcl/controls/propertygroups.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace qel {
@@ -229,15 +230,8 @@ std::string TQELExplorerTree::GetText(TTreeNode* node) {
 }
 
 void TQELExplorerTree::WMPaint(vcl::TMessage& message) {
-  vcl::TWatch watch(this);
-  FPainting = true;
-  try {
-    TCustomTreeView::WMPaint(message);
-  } catch (...) {
-    if (!watch.Gone()) FPainting = false;
-    throw;
-  }
-  if (!watch.Gone()) FPainting = false;
+  const vcl::TSetFor painting(FPainting, true, this);
+  TCustomTreeView::WMPaint(message);
 }
 
 void TQELExplorerTree::GetImageIndex(TTreeNode* node) {
