@@ -5,6 +5,7 @@
 #include "vcl/graphics/canvasbinding.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 
 namespace vcl {
 namespace {
@@ -196,10 +197,9 @@ TCustomControl::~TCustomControl() { AnnounceEnd(); }
 TCanvas* TCustomControl::Canvas() const { return FCanvas.get(); }
 
 void TCustomControl::WMPaint(TMessage& message) {
-  TWatch watch(this);
   IncludeState(csCustomPaint);
+  const TAtEnd done([this] { ExcludeState(csCustomPaint); }, this);
   TWinControl::WMPaint(message);
-  if (!watch.Gone()) ExcludeState(csCustomPaint);
 }
 
 void TCustomControl::PaintWindow(HDC dc) {

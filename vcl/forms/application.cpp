@@ -10,6 +10,7 @@
 #include "vcl/forms/screen.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/thread.h"
 
 namespace vcl {
@@ -230,6 +231,7 @@ LRESULT TApplication::WndProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 bool TApplication::AskSessionEnd(TCustomForm* form) {
   FSessionEnding = true;
+  const TOnFailure goesOn([this] { FSessionEnding = false; });
   return FSessionEnding = !form || form->CloseQuery();
 }
 

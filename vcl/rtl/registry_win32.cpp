@@ -1,4 +1,5 @@
 #include "vcl/rtl/registry.h"
+#include "vcl/rtl/scope.h"
 
 #include <algorithm>
 #include <cstring>
@@ -123,10 +124,9 @@ std::vector<std::string> TRegistry::ValueNames(HKEY key) const {
 }
 
 void TRegistry::Replace(TStrings& list, const std::vector<std::string>& lines) {
-  list.BeginUpdate();
+  const TUpdating updating(list);
   list.Clear();
   for (const std::string& line : lines) list.Add(line);
-  list.EndUpdate();
 }
 
 bool TRegistry::Load(HKEY key, const std::string& name, TValue& value) const {
