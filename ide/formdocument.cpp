@@ -7,6 +7,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/formfile.h"
 #include "vcl/rtl/os.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/sharedfile.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
@@ -176,14 +177,10 @@ void TFormDocument::Restore(const std::string& state) {
   // A class of which one instance may exist would refuse a second form beside the first.
   Tell(OnRootGoing);
   FRoot.reset();
-  FQuiet = true;
-  try {
+  {
+    const vcl::TSetFor quiet(FQuiet, true);
     Take(Read(state, {}));
-  } catch (...) {
-    FQuiet = false;
-    throw;
   }
-  FQuiet = false;
   Tell(OnChange);
 }
 

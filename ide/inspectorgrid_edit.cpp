@@ -7,6 +7,7 @@
 #include "ide/inspectorlist.h"
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/rtl/convert.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 
@@ -44,11 +45,10 @@ void TInspectorGrid::PlaceEdit() {
 void TInspectorGrid::ShowValue() {
   if (FSelected < 0 || FTyped) return;
   const TInspectorRow& row = Row(FSelected);
-  FShowing = true;
+  const vcl::TSetFor showing(FShowing, true, this);
   FEdit->Font()->SetStyle(row.Default ? vcl::TFontStyles{} : vcl::TFontStyles{vcl::fsBold});
   FEdit->SetReadOnly(row.ReadOnly);
   if (FEdit->Text() != row.Value) FEdit->SetText(row.Value);
-  FShowing = false;
 }
 
 void TInspectorGrid::FocusEdit() {
@@ -129,9 +129,10 @@ void TInspectorGrid::Complete() {
     return vcl::SameText(value.substr(0, typed.size()), typed);
   });
   if (found == values.end()) return;
-  FShowing = true;
-  FEdit->SetText(*found);
-  FShowing = false;
+  {
+    const vcl::TSetFor showing(FShowing, true, this);
+    FEdit->SetText(*found);
+  }
   FEdit->SetSelStart(length);
   FEdit->SetSelLength(static_cast<int>(vcl::ToUtf16(*found).size()) - length);
   if (FList->DroppedDown()) FList->Choose(*found);

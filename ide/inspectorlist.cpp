@@ -6,6 +6,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/fontmetrics.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/win32.h"
 
@@ -33,10 +34,11 @@ void TInspectorList::CreateParams(vcl::TCreateParams& params) {
 void TInspectorList::DropDown(const vcl::TRect& below, const std::vector<std::string>& values,
                               const std::string& current) {
   HandleNeeded();
-  Items()->BeginUpdate();
-  Items()->Clear();
-  for (const std::string& value : values) Items()->Add(value);
-  Items()->EndUpdate();
+  {
+    const vcl::TUpdating updating(*Items(), this);
+    Items()->Clear();
+    for (const std::string& value : values) Items()->Add(value);
+  }
   Choose(current);
   const int count = std::clamp(Items()->Count(), 1, MostItems);
   const int item = ItemRect(0).Height() > 0 ? ItemRect(0).Height() : vcl::FontHeight(*Font());

@@ -6,6 +6,7 @@
 
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 
@@ -96,11 +97,10 @@ void TOpenForms::TabChanged() {
 
 void TOpenForms::ShowOthers(const TFormDesigner* changed) {
   if (FFollowing) return;  // What the others show changes nothing.
-  FFollowing = true;
+  const vcl::TSetFor following(FFollowing, true);
   for (TFormDesigner* each : All()) {
     if (each != changed) each->Try([each] { each->Document().FollowOthers(); });
   }
-  FFollowing = false;
 }
 
 void TOpenForms::Save(TFormDesigner& designer, const std::string& fileName) {

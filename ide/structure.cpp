@@ -6,25 +6,13 @@
 
 #include "vcl/forms/drag.h"
 #include "vcl/forms/forms.h"
+#include "vcl/rtl/scope.h"
 
 namespace ide {
 
 using vcl::TTreeNode;
 
 namespace {
-
-/// What the tree does by itself is no wish of the user.
-class TShowing {
- public:
-  explicit TShowing(bool& flag) : FFlag(flag), FFormer(flag) { flag = true; }
-  ~TShowing() { FFlag = FFormer; }
-  TShowing(const TShowing&) = delete;
-  TShowing& operator=(const TShowing&) = delete;
-
- private:
-  bool& FFlag;
-  bool FFormer;
-};
 
 bool SameShape(const TStructureLine& a, const TStructureLine& b) {
   return a.Depth == b.Depth && a.Object == b.Object && a.Collection == b.Collection;
@@ -51,7 +39,7 @@ void TStructureTree::Refresh() {
   auto lines = FDesigner ? StructureOf(FDesigner->Root()) : std::vector<TStructureLine>();
   const bool same = std::ranges::equal(lines, FLines, SameShape);
   FLines = std::move(lines);
-  if (!same) return Rebuild();
+  if (!same) Rebuild();
   for (std::size_t i = 0; i < FLines.size(); ++i) {
     if (FNodes[i]->Text() != FLines[i].Text) FNodes[i]->SetText(FLines[i].Text);
   }
@@ -59,8 +47,8 @@ void TStructureTree::Refresh() {
 }
 
 void TStructureTree::Rebuild() {
-  const TShowing showing(FShowing);
-  Items()->BeginUpdate();
+  const vcl::TSetFor showing(FShowing, true, this);
+  const vcl::TUpdating updating(*Items(), this);
   Items()->Clear();
   FNodes.clear();
   std::vector<TTreeNode*> parents;  // By depth.
@@ -74,14 +62,12 @@ void TStructureTree::Rebuild() {
     const bool turned = FTurned.contains(FLines[i].Path);
     if (FNodes[i]->Count() > 0) FNodes[i]->SetExpanded(turned == (FLines[i].Collection != nullptr));
   }
-  Items()->EndUpdate();
-  ShowSelection();
 }
 
 void TStructureTree::SelectionChanged() { ShowSelection(); }
 
 void TStructureTree::ShowSelection() {
-  const TShowing showing(FShowing);
+  const vcl::TSetFor showing(FShowing, true, this);
   const auto selected = FDesigner ? FDesigner->Selection() : std::vector<vcl::TPersistent*>();
   TTreeNode* shown = nullptr;
   for (std::size_t i = 0; !selected.empty() && !shown && i < FLines.size(); ++i) {

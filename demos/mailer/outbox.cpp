@@ -3,6 +3,7 @@
 
 #include "demos/mailer/draft.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
@@ -15,16 +16,13 @@ TOutbox::TOutbox(const std::vector<std::string>& files)
     : FFormer(fs::current_path()),
       FFolder(fs::temp_directory_path() /
               vcl::ToUtf16("mailer-" + std::to_string(::GetCurrentProcessId()))) {
+  const vcl::TOnFailure clear([this] { Clear(); });
   try {
     fs::create_directories(FFolder);
     for (const std::string& file : files) CopyHere(file);
     fs::current_path(FFolder);
   } catch (const fs::filesystem_error& error) {
-    Clear();
     throw vcl::EInOutError(error.what());
-  } catch (...) {
-    Clear();
-    throw;
   }
 }
 

@@ -6,6 +6,7 @@
 #include "demos/records/database.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 
@@ -103,12 +104,12 @@ void TRecordsForm::RecordWritten(TObject*, std::string) {
 /// All at once is far faster than each record for itself, and an error in the middle leaves none.
 void TRecordsForm::ImportAtOnce() {
   TransferQuery->StartTransaction();
-  try {
+  {
+    const TOnFailure none([this] {
+      TransferQuery->Close();
+      TransferQuery->Rollback();
+    });
     Transfer->DoImport();
-  } catch (...) {
-    TransferQuery->Close();
-    TransferQuery->Rollback();
-    throw;
   }
   TransferQuery->Commit();
 }
@@ -120,13 +121,10 @@ void TRecordsForm::Import(const std::string& fileName) {
   Transfer->SetFilename(fileName);
   // A query that is half read keeps others from writing.
   Query->Close();
-  try {
+  {
+    const TAtEnd reopen([this] { Query->Open(); });
     ImportAtOnce();
-  } catch (...) {
-    Query->Open();
-    throw;
   }
-  Query->Open();
   FDone = FAll;  // The header and empty lines have counted for nothing.
   ShowProgress();
   std::string text = Concat(IntToStr(FCount - FRefused), " records read from ", NamePart(fileName));

@@ -4,6 +4,7 @@
 #include "vcl/rtl/collection.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/text.h"
 
@@ -100,12 +101,10 @@ void ReplaceIn(const std::vector<TQELTextPlace>& places, const TQELReplacement& 
   former.reserve(places.size());
   for (const TQELTextPlace& each : places) former.push_back(each.Get());
   std::size_t done = 0;
-  try {
-    for (; done < places.size(); ++done) places[done].Set(Replaced(former[done], replacement));
-  } catch (...) {
+  const vcl::TOnFailure undo([&] {
     while (done-- > 0) places[done].Set(former[done]);
-    throw;
-  }
+  });
+  for (; done < places.size(); ++done) places[done].Set(Replaced(former[done], replacement));
 }
 
 }  // namespace qel

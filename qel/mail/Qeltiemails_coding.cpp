@@ -29,7 +29,7 @@ void AddLine(const unsigned char* bytes, std::int64_t count, TTextLines& lines) 
 }  // namespace
 
 void TQELSMTPMail::Base64Encode(TQELAttachment& attachment) {
-  const auto life = attachment.Life();
+  const TLiving living(attachment);
   auto lines = std::make_unique<TTextLines>();
   {
     vcl::TFileStream file(attachment.FileName(), vcl::fmOpenRead | vcl::fmShareDenyNone);
@@ -44,7 +44,7 @@ void TQELSMTPMail::Base64Encode(TQELAttachment& attachment) {
   if (FLastEncodePercent < 100) DoEncodeProgress(100);
   Pump();
   if (Aborted()) return;
-  Living(life).SetLines(std::move(lines));
+  living->SetLines(std::move(lines));
   DoEncodeEnd();
 }
 

@@ -42,7 +42,6 @@ std::string TQELSMTPMail::CreateUIN() const {
 std::string TQELSMTPMail::CreateBounds() { return "---QELMAIL" + RandomLetters(12); }
 
 std::unique_ptr<vcl::TStringList> TQELSMTPMail::InitializeMessage(TQELMessage& message) {
-  const auto life = message.Life();
   auto lines = std::make_unique<vcl::TStringList>();
   AddHeaders(message, *lines);
   const bool multipart = message.Attachments()->Count() > 0;
@@ -98,16 +97,16 @@ void TQELSMTPMail::AddText(const TQELMessage& message, vcl::TStrings& lines) con
 
 bool TQELSMTPMail::AddParts(TQELMessage& message, const std::string& boundary,
                             vcl::TStrings& lines) {
-  const auto life = message.Life();
+  const TLiving living(message);
   lines.Add("");
   lines.Add(boundary);
   // The colon behind "charset" is how these mails have always been written.
   AddLines({"Content-Type: Text/Plain; charset: ISO-8859-1", "Content-Transfer-Encoding: 8bit", ""},
            lines);
   AddText(message, lines);
-  for (int i = 0; i < Living(life).Attachments()->Count(); ++i) {
+  for (int i = 0; i < living->Attachments()->Count(); ++i) {
     lines.Add(boundary);
-    if (!AddAttachment(*Living(life).Attachments()->GeTQELAttachment(i), lines)) return false;
+    if (!AddAttachment(*living->Attachments()->GeTQELAttachment(i), lines)) return false;
   }
   AddLines({""}, lines);
   lines.Add(boundary + "--");
@@ -116,7 +115,7 @@ bool TQELSMTPMail::AddParts(TQELMessage& message, const std::string& boundary,
 }
 
 bool TQELSMTPMail::AddAttachment(TQELAttachment& attachment, vcl::TStrings& lines) {
-  const auto life = attachment.Life();
+  const TLiving living(attachment);
   const std::string& name = attachment.FileName();
   lines.Add(vcl::Concat("Content-Type: ", attachment.MimeType(), "; name=\"", name, "\""));
   lines.Add("Content-Transfer-Encoding: base64");
@@ -124,7 +123,7 @@ bool TQELSMTPMail::AddAttachment(TQELAttachment& attachment, vcl::TStrings& line
   lines.Add("");
   Base64Encode(attachment);
   if (Aborted()) return false;
-  lines.AddStrings(*Living(life).Lines());
+  lines.AddStrings(*living->Lines());
   return true;
 }
 

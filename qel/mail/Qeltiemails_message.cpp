@@ -2,7 +2,6 @@
 #include "qel/mail/Qeltiemails_message.h"
 #include "qel/mail/Qeltiemails_smtp.h"
 #include "qel/mail/private/filenames.h"
-#include "qel/mail/private/living.h"
 #include "qel/mail/private/mimetypes.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/properties.h"
@@ -40,8 +39,7 @@ const vcl::TClass& TQELAttachment::Class() {
 TQELAttachment::TQELAttachment(vcl::TCollection* collection)
     : TCollectionItem(collection),
       FLines(std::make_unique<TTextLines>()),
-      FData(std::make_unique<vcl::TMemoryStream>()),
-      FLife(LifeOf(this)) {}
+      FData(std::make_unique<vcl::TMemoryStream>()) {}
 
 TQELAttachment::~TQELAttachment() = default;
 
@@ -127,8 +125,7 @@ TQELMessage::TQELMessage(vcl::TCollection* collection)
     : TCollectionItem(collection),
       FMessage(std::make_unique<vcl::TStringList>()),
       FHeaders(std::make_unique<vcl::TStringList>()),
-      FAttachments(std::make_unique<TQELAttachments>(this)),
-      FLife(LifeOf(this)) {}
+      FAttachments(std::make_unique<TQELAttachments>(this)) {}
 
 TQELMessage::~TQELMessage() = default;
 

@@ -9,6 +9,7 @@
 #include "vcl/rtl/collection.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/strings.h"
+#include "vcl/rtl/watch.h"
 
 namespace qel {
 
@@ -16,7 +17,7 @@ class TQELMailHost;
 class TQELMessage;
 
 /// A file that travels with a message.
-class QEL_API TQELAttachment : public vcl::TCollectionItem {
+class QEL_API TQELAttachment : public vcl::TCollectionItem, public vcl::TWatched {
  public:
   explicit TQELAttachment(vcl::TCollection* collection);
   ~TQELAttachment() override;
@@ -37,8 +38,6 @@ class QEL_API TQELAttachment : public vcl::TCollectionItem {
   void SetMimeType(const std::string& mimeType) { FMimeType = mimeType; }
   /// The message that it belongs to; null for an attachment of none.
   TQELMessage* Message() const;
-  /// Expires with the attachment: for work that runs events, which may delete it.
-  std::weak_ptr<TQELAttachment> Life() const { return FLife; }
 
   /// Writes Data to a file. A failure is shown by the application's handler and not raised; without
   /// data nothing is written.
@@ -51,7 +50,6 @@ class QEL_API TQELAttachment : public vcl::TCollectionItem {
   std::unique_ptr<TTextLines> FLines;
   std::unique_ptr<vcl::TMemoryStream> FData;
   std::string FMimeType;
-  std::shared_ptr<TQELAttachment> FLife;
 };
 
 /// The attachments of a message.
@@ -80,7 +78,7 @@ class QEL_API TQELAttachments : public vcl::TCollection {
 };
 
 /// A mail. Addresses and texts travel as they are: nothing is encoded in the header.
-class QEL_API TQELMessage : public vcl::TCollectionItem {
+class QEL_API TQELMessage : public vcl::TCollectionItem, public vcl::TWatched {
  public:
   explicit TQELMessage(vcl::TCollection* collection);
   ~TQELMessage() override;
@@ -120,8 +118,6 @@ class QEL_API TQELMessage : public vcl::TCollectionItem {
 
   /// The component that it belongs to; null for a message of none.
   TQELMailHost* Host() const;
-  /// Expires with the message: for work that runs events, which may delete it.
-  std::weak_ptr<TQELMessage> Life() const { return FLife; }
   std::string DisplayName() const override;
   void Assign(const vcl::TPersistent* source) override;
 
@@ -130,7 +126,6 @@ class QEL_API TQELMessage : public vcl::TCollectionItem {
   std::string FMessageId, FInReplyTo, FDate;
   std::unique_ptr<vcl::TStringList> FMessage, FHeaders;
   std::unique_ptr<TQELAttachments> FAttachments;
-  std::shared_ptr<TQELMessage> FLife;
 };
 
 /// The messages of a component.

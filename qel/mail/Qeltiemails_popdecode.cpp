@@ -38,15 +38,14 @@ bool FindLine(const vcl::TStrings& list, int& index, Test test) {
 }  // namespace
 
 void TQELPOPMail::Base64Decode(TQELAttachment& attachment) {
-  const auto life = attachment.Life();
+  const TLiving living(attachment);
   DoDecodeStart(attachment);
-  DataOf(Living(life))
-      .Reserve(static_cast<std::int64_t>(Living(life).Lines()->Letters().size() / 4 * 3));
+  DataOf(*living).Reserve(static_cast<std::int64_t>(living->Lines()->Letters().size() / 4 * 3));
   int threshold = ProgressStep();
   TBase64Decoder decoder;
   std::string bytes;
-  for (std::size_t done = 0; done + 4 <= Living(life).Lines()->Letters().size();) {
-    const TTextLines& lines = *Living(life).Lines();
+  for (std::size_t done = 0; done + 4 <= living->Lines()->Letters().size();) {
+    const TTextLines& lines = *living->Lines();
     // Until there is an event, which tells of the line that completes a group.
     std::size_t end = std::min(done + PumpLetters, lines.Letters().size() / 4 * 4);
     int line = lines.LineOf(done + 3);
@@ -55,7 +54,7 @@ void TQELPOPMail::Base64Decode(TQELAttachment& attachment) {
     end = std::min(end, lines.End(line) / 4 * 4);
     bytes.clear();
     decoder.Decode(lines.Letters().substr(done, end - done), bytes);
-    DataOf(Living(life)).WriteText(bytes);
+    DataOf(*living).WriteText(bytes);
     done = end;
     FDecodePercent = Percent(lines.LineOf(end - 1), lines.Count());
     DoDecodeProgress(FDecodePercent, threshold);
@@ -65,19 +64,19 @@ void TQELPOPMail::Base64Decode(TQELAttachment& attachment) {
 }
 
 void TQELPOPMail::UUDecode(TQELAttachment& attachment) {
-  const auto life = attachment.Life();
+  const TLiving living(attachment);
   DoDecodeStart(attachment);
   int threshold = ProgressStep();
   auto data = std::make_unique<vcl::TMemoryStream>();
   std::array<unsigned char, UULineBytes> bytes;
   const auto ends = [&](int line) {
-    const TTextLines& lines = *Living(life).Lines();
+    const TTextLines& lines = *living->Lines();
     return line >= lines.Count() || lines.Line(line) == "end" || lines.Line(line) == "`";
   };
   int line = 1;  // Behind the one that begins the file.
-  if (line < Living(life).Lines()->Count()) {
+  if (line < living->Lines()->Count()) {
     do {
-      const TTextLines& lines = *Living(life).Lines();
+      const TTextLines& lines = *living->Lines();
       const std::size_t count = DecodeUULine(lines.Line(line), bytes);
       data->WriteBuffer(bytes.data(), static_cast<std::int64_t>(count));
       // A line of one letter can stand for 45 bytes.
@@ -86,7 +85,7 @@ void TQELPOPMail::UUDecode(TQELAttachment& attachment) {
       if (DoDecodeProgress(FDecodePercent, threshold) || line % PumpLines == 0) Pump();
     } while (!ends(++line));
   }
-  Living(life).SetData(std::move(data));
+  living->SetData(std::move(data));
   DoDecodeEnd();
 }
 

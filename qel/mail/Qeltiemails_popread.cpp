@@ -6,6 +6,7 @@
 #include "qel/mail/private/living.h"
 #include "qel/mail/private/multipart.h"
 #include "qel/mail/private/uucode.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace qel {
@@ -64,10 +65,9 @@ std::size_t UndoDotStuffing(char* text, std::size_t size) {
 }
 
 void AppendLines(std::string_view text, vcl::TStrings& lines) {
-  lines.BeginUpdate();
+  const vcl::TUpdating updating(lines);
   std::string_view line;
   for (TLineReader reader(text); reader.Next(line);) lines.Append(std::string(line));
-  lines.EndUpdate();
 }
 
 void TakeFields(const THeaderLines& header, TQELMessage& message) {
@@ -137,25 +137,25 @@ std::unique_ptr<TTextLines> TakeEmbedded(std::string_view line, TLineFilter& tex
 
 TQELMessage* TQELPOPMail::ReadMessage(std::string reply) {
   const std::string_view mail = BehindFirstLine(std::string_view(reply).substr(0, LastLine(reply)));
-  const auto life = Messages()->Add()->Life();
+  const TLiving living(*Messages()->Add());
   THeader read = ReadHeader(mail);
   // A mail without an empty line is all text.
   const THeaderLines header = read.Rest ? std::move(read.Lines) : THeaderLines();
   const std::string_view body = read.Rest.value_or(mail);
   char* const text = reply.data() + (body.data() - reply.data());
   const std::size_t size = UndoDotStuffing(text, body.size());
-  TakeFields(header, Living(life));
+  TakeFields(header, *living);
   if (IsOneText(ContentType(header))) {
-    ReadSinglePart(Living(life), text, size);
+    ReadSinglePart(*living, text, size);
   } else {
-    ReadParts(Living(life), {text, size}, ReadBoundary(header));
+    ReadParts(*living, {text, size}, ReadBoundary(header));
   }
   Fire(AfterRetrieve, this);
-  return life.lock().get();
+  return living.Get();
 }
 
 void TQELPOPMail::ReadSinglePart(TQELMessage& message, char* body, std::size_t size) {
-  const auto life = message.Life();
+  const TLiving living(message);
   TLineFilter text(body, size);
   std::string name;
   for (std::string_view line; text.Next(line);) {
@@ -163,23 +163,23 @@ void TQELPOPMail::ReadSinglePart(TQELMessage& message, char* body, std::size_t s
       text.Keep();
       continue;
     }
-    TQELAttachment* const attachment = Living(life).Attachments()->Add(name);
+    TQELAttachment* const attachment = living->Attachments()->Add(name);
     attachment->SetLines(TakeEmbedded(line, text));
     UUDecode(*attachment);
   }
-  AppendLines(text.Kept(), *Living(life).Message());
+  AppendLines(text.Kept(), *living->Message());
 }
 
 void TQELPOPMail::ReadParts(TQELMessage& message, std::string_view body,
                             const std::string& boundary) {
-  const auto life = message.Life();
+  const TLiving living(message);
   for (const std::string_view part : SplitParts(body, boundary)) {
     const TPartKind kind = ReadPartKind(part);
     if (kind.IsAttachment()) {
-      ReadAttachment(Living(life), part, kind);
+      ReadAttachment(*living, part, kind);
       continue;
     }
-    AppendLines(ReadHeader(part).Rest.value_or(""), *Living(life).Message());
+    AppendLines(ReadHeader(part).Rest.value_or(""), *living->Message());
   }
 }
 

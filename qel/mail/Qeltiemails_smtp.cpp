@@ -100,13 +100,13 @@ void TQELSMTPMail::Disconnect() {
 bool TQELSMTPMail::SendMessage(TQELMessage& message) {
   // Neither a closed connection nor a missing sender or recipient is looked for here: the server
   // answers for them.
-  const auto life = message.Life();
+  const TLiving living(message);
   message.SetDate(vcl::FormatDateTime(FDateTimeFormat, vcl::Now()));
   const std::unique_ptr<vcl::TStringList> lines = InitializeMessage(message);
   if (!lines || Aborted()) return false;
   DoOnBeforeSend();
-  if (!Command("MAIL FROM:<" + Living(life).FromMail() + ">", "250") ||
-      !SendRecipients(Living(life).SendTo()) || !Command("DATA", "354") || !SendLines(*lines) ||
+  if (!Command("MAIL FROM:<" + living->FromMail() + ">", "250") ||
+      !SendRecipients(living->SendTo()) || !Command("DATA", "354") || !SendLines(*lines) ||
       !Command("\r\n.", "250")) {
     return false;
   }

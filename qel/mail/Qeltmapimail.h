@@ -85,7 +85,7 @@ class QEL_API TQELMapiAttachments : public vcl::TCollection {
 };
 
 /// A mail to be sent. The lists are never null, and their setters copy.
-class QEL_API TQELMapiMessage : public vcl::TCollectionItem {
+class QEL_API TQELMapiMessage : public vcl::TCollectionItem, public vcl::TWatched {
  public:
   explicit TQELMapiMessage(vcl::TCollection* collection);
   ~TQELMapiMessage() override;
@@ -121,8 +121,6 @@ class QEL_API TQELMapiMessage : public vcl::TCollectionItem {
   bool Dialog() const { return FDialog; }
   void SetDialog(bool dialog) { FDialog = dialog; }
 
-  /// Expires with the message: for work that runs events, which may delete it.
-  std::weak_ptr<TQELMapiMessage> Life() const { return FLife; }
   std::string DisplayName() const override { return "Outgoing Mail"; }
   void Assign(const vcl::TPersistent* source) override;
 
@@ -133,7 +131,6 @@ class QEL_API TQELMapiMessage : public vcl::TCollectionItem {
   bool FReceipt = false;
   bool FDialog = false;
   std::unique_ptr<TQELMapiAttachments> FAttachments;
-  std::shared_ptr<TQELMapiMessage> FLife;
 };
 
 /// The messages of a component.
@@ -241,15 +238,13 @@ class QEL_API TQELMapiMail : public TQELExecComponent {
   vcl::TNotifyEvent OnMapiNotAvailable;
 
  private:
-  using TLife = std::weak_ptr<TQELMapiMessage>;
-
   /// The library, for a call of the entry point. Raises what CheckMAPI and the methods raise.
   std::shared_ptr<const TMapiLibrary> Library(const char* entry);
   void TakeDefaultProfile();
   unsigned long OpenSession(char* profile, char* password, unsigned long flags);
   bool Resolve(const std::string& line, std::string& displayName);
   /// False when the message is too large, which ends it all.
-  bool SendOne(const TLife& life, int& result);
+  bool SendOne(TQELMapiMessage& message, int& result);
   int HandOver(const TQELMapiMessage& message);
   void DeleteSent();
 

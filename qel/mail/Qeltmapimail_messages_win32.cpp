@@ -77,8 +77,7 @@ TQELMapiMessage::TQELMapiMessage(vcl::TCollection* collection)
       FRecipientsTo(std::make_unique<vcl::TStringList>()),
       FRecipientsCC(std::make_unique<vcl::TStringList>()),
       FRecipientsBC(std::make_unique<vcl::TStringList>()),
-      FAttachments(std::make_unique<TQELMapiAttachments>(this)),
-      FLife(LifeOf(this)) {}
+      FAttachments(std::make_unique<TQELMapiAttachments>(this)) {}
 
 TQELMapiMessage::~TQELMapiMessage() = default;
 
@@ -121,10 +120,10 @@ TQELMapiMessage* TQELMapiMessages::Add() {
 bool TQELMapiMessages::Delete(int index) {
   const vcl::TWatch watch(FOwner);
   try {
-    const auto life = GetQELMapiMessage(index)->Life();
+    const TLiving living(*GetQELMapiMessage(index));
     FOwner->OnDeleteMail(this, GetQELMapiMessage(index));
     // The handler may have deleted the message, alone or with its collection, or moved it.
-    delete life.lock().get();
+    delete living.Get();
     return true;
   } catch (...) {
     vcl::BaseApplication().HandleCurrentException(watch.Gone() ? nullptr : this);

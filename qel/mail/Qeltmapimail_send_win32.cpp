@@ -116,15 +116,16 @@ TQELMapiRecipient Recipient(int i, int to, int cc, const std::string& line,
 
 int TQELMapiMail::SendMapi() {
   CheckMAPI();
-  std::vector<TLife> lives;
+  std::vector<TLiving<TQELMapiMessage>> messages;
   for (int i = 0; i < FMessages->Count(); ++i) {
-    lives.push_back(FMessages->GetQELMapiMessage(i)->Life());
+    messages.emplace_back(*FMessages->GetQELMapiMessage(i));
   }
   int result = SUCCESS_SUCCESS;
-  for (const TLife& life : lives) {
+  for (const auto& each : messages) {
     vcl::TWatch watch(this);
+    TQELMapiMessage* const message = each.Get();
     try {
-      if (!life.expired() && !SendOne(life, result)) return result;
+      if (message && !SendOne(*message, result)) return result;
     } catch (...) {
       if (watch.Gone()) throw;
       Guarded(this, [this] { vcl::BaseApplication().HandleCurrentException(this); });
@@ -134,27 +135,27 @@ int TQELMapiMail::SendMapi() {
   return result;
 }
 
-bool TQELMapiMail::SendOne(const TLife& life, int& result) {
-  TQELMapiMessage* const message = &Living(life);
-  message->SetSent(false);
-  Guarded(this, [&] { BeforeSendMail(this, message); });
-  if (const int excess = Excess(Living(life))) {
+bool TQELMapiMail::SendOne(TQELMapiMessage& message, int& result) {
+  const TLiving living(message);
+  message.SetSent(false);
+  Guarded(this, [&] { BeforeSendMail(this, &message); });
+  if (const int excess = Excess(*living)) {
     result = excess;
     return false;
   }
-  result = HandOver(Living(life));
-  Living(life).SetSent(result == SUCCESS_SUCCESS);
+  result = HandOver(*living);
+  living->SetSent(result == SUCCESS_SUCCESS);
   Guarded(this, [&] {
-    message->Sent() ? AfterSendMail(this, message) : OnSendError(this, result, message);
+    message.Sent() ? AfterSendMail(this, &message) : OnSendError(this, result, &message);
   });
   return true;
 }
 
 int TQELMapiMail::HandOver(const TQELMapiMessage& message) {
-  const TLife life = message.Life();
+  const TLiving living(message);
   std::vector<TQELMapiRecipient> recipients;
   if (message.RecipientCount()) TheRecipients(message, recipients);
-  TMapiRecords records(Living(life), *FSignature, std::move(recipients));
+  TMapiRecords records(*living, *FSignature, std::move(recipients));
   // Without recipients it is the user who knows them.
   const bool ask = message.Dialog() || !records.Record().nRecipCount;
   const auto library = Library("MAPISendMail");

@@ -107,12 +107,12 @@ void TQELFormSaver::TakeForm() {
   if (Designing()) return;
   FPreviousOnShow = FForm->OnShow;
   FPreviousOnClose = FForm->OnClose;
-  const std::weak_ptr<void> alive = FAlive;
-  FForm->OnShow = [this, alive](vcl::TObject* sender) {
-    if (!alive.expired()) MyRestore(sender);
+  const vcl::TWatch watch(this);
+  FForm->OnShow = [this, watch](vcl::TObject* sender) {
+    if (!watch.Gone()) MyRestore(sender);
   };
-  FForm->OnClose = [this, alive](vcl::TObject* sender, vcl::TCloseAction& action) {
-    if (!alive.expired()) MyStore(sender, action);
+  FForm->OnClose = [this, watch](vcl::TObject* sender, vcl::TCloseAction& action) {
+    if (!watch.Gone()) MyStore(sender, action);
   };
 }
 

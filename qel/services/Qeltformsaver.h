@@ -127,7 +127,6 @@ class QEL_API TQELFormSaver : public TQELComponent {
   vcl::TForm* FForm;  // The owner; null when it is no form, and when that has gone.
   vcl::TNotifyEvent FPreviousOnShow;
   vcl::TCloseEvent FPreviousOnClose;
-  std::shared_ptr<void> FAlive = std::make_shared<char>();  // Ends with this.
   TNormalBounds FNormalBounds{};
   bool FBoundsSaved = false;
 };

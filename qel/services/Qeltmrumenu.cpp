@@ -7,6 +7,7 @@
 
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 
 namespace qel {
 
@@ -222,26 +223,15 @@ void TQELMRUMenu::FreeDiscarded() {
                  });
 }
 
-/// The time while a click is handled. The handler may free the component.
-class TQELMRUMenu::TClicking {
- public:
-  explicit TClicking(TQELMRUMenu* menu) : FMenu(menu), FWatch(menu) { ++menu->FClicks; }
-  ~TClicking() {
-    if (!FWatch.Gone() && --FMenu->FClicks == 0) FMenu->FreeDiscarded();
-  }
-  TClicking(const TClicking&) = delete;
-  TClicking& operator=(const TClicking&) = delete;
-
- private:
-  TQELMRUMenu* FMenu;
-  vcl::TWatch FWatch;
-};
-
 void TQELMRUMenu::MRUClicked(vcl::TObject* sender) {
   auto* item = dynamic_cast<TQELMRUItem*>(sender);
   const int index = item ? item->Number() - 1 : -1;
   if (index < 0 || index >= FFiles.Count()) return;
-  const TClicking clicking(this);
+  ++FClicks;
+  const auto clicked = [this] {
+    if (--FClicks == 0) FreeDiscarded();
+  };
+  const vcl::TAtEnd handled(clicked, this);
   const std::string fileName = FFiles.Strings(index);
   if (FRemoveOnClick) {
     FFiles.Delete(index);

@@ -101,7 +101,6 @@ class QEL_API TQELMRUMenu : public TQELComponent {
   void Notification(vcl::TComponent* component, vcl::TOperation operation) override;
 
  private:
-  class TClicking;
   vcl::TMenuItem* LiveMenu() const { return FMenuGone ? nullptr : FAttachToMenu; }
   vcl::TMenuItem* Container() const;
   TQELMRUItem* AddItem(vcl::TMenuItem* container, int position, const std::string& caption,

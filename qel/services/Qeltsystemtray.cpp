@@ -5,6 +5,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
 // It needs what stands above.
@@ -174,7 +175,6 @@ void TQELSystemTray::HandleRightClick(vcl::TObject* sender) {
 // The application.
 
 void TQELSystemTray::TakeOverApplication() {
-  FSelf = std::make_shared<TQELSystemTray*>(this);
   vcl::TApplication* const application = vcl::Application();
   application->OnMinimize = WhileAlive(&TQELSystemTray::HandleMinimize);
   application->OnRestore = WhileAlive(&TQELSystemTray::HandleRestore);
@@ -184,8 +184,8 @@ void TQELSystemTray::TakeOverApplication() {
 /// The component does not know who has the application's events by the time it is freed, so it
 /// leaves them there, with a handler that does nothing from then on.
 vcl::TNotifyEvent TQELSystemTray::WhileAlive(void (TQELSystemTray::*handler)(vcl::TObject*)) {
-  return [alive = std::weak_ptr(FSelf), handler](vcl::TObject* sender) {
-    if (const auto self = alive.lock()) ((*self)->*handler)(sender);
+  return [this, watch = vcl::TWatch(this), handler](vcl::TObject* sender) {
+    if (!watch.Gone()) (this->*handler)(sender);
   };
 }
 
@@ -202,13 +202,10 @@ void TQELSystemTray::MinimizeToTray() {
   FRecord->hIcon = FIcon->Handle();
   ::ShowWindow(application->Handle(), SW_HIDE);
   if (!FIconAbsent) return UpdateTrayIcon();
-  try {
-    AddIconToTray();
-  } catch (...) {
-    // With neither an icon nor a button the user could not come back.
-    ::ShowWindow(application->Handle(), SW_SHOWMINNOACTIVE);
-    throw;
-  }
+  // With neither an icon nor a button the user could not come back.
+  const vcl::TOnFailure comeBack(
+      [application] { ::ShowWindow(application->Handle(), SW_SHOWMINNOACTIVE); });
+  AddIconToTray();
 }
 
 // The mark is set before OnMinimize but cleared after OnRestore: handlers of both see the

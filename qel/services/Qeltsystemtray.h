@@ -100,7 +100,6 @@ class QEL_API TQELSystemTray : public TQELComponent {
   bool FShellAvailable;
   bool FMinimized = false;
   bool FIconAbsent = true;
-  std::shared_ptr<TQELSystemTray*> FSelf;  // Tells the application's events that it is alive.
 };
 
 }  // namespace qel

@@ -10,6 +10,7 @@
 #include "vcl/controls/propertygroups.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace qel {
@@ -239,15 +240,8 @@ std::string TQELExplorerTree::GetText(TTreeNode* node) {
 }
 
 void TQELExplorerTree::WMPaint(vcl::TMessage& message) {
-  vcl::TWatch watch(this);
-  FPainting = true;
-  try {
-    TCustomTreeView::WMPaint(message);
-  } catch (...) {
-    if (!watch.Gone()) FPainting = false;
-    throw;
-  }
-  if (!watch.Gone()) FPainting = false;
+  const vcl::TSetFor painting(FPainting, true, this);
+  TCustomTreeView::WMPaint(message);
 }
 
 void TQELExplorerTree::GetImageIndex(TTreeNode* node) {

@@ -128,8 +128,6 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
 
  private:
   friend class TQELExplorerNode;
-  class TSearching;
-  class TUpdating;
   void ReadTop();
   std::vector<std::string> TopFolders() const;
   bool Fill(TQELExplorerNode* parent, const std::vector<std::string>& folders);
@@ -161,7 +159,7 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
   bool FFastLoad = false;
   bool FDirectoryGiven = false;  // By form file or program.
   bool FTopRead = false;
-  bool FSearching = false;
+  bool FSearching = false;  // A handler may be in the middle of a search, of which it can have one.
   bool FPainting = false;
   bool FComStarted = false;
 };

@@ -37,7 +37,7 @@ TQELExplorerNode* TQELExplorerTree::AddPath(const std::string& path) {
   const std::string above = folders::UpperCased(folders::ParentOf(folder));
   if (here && here->Path() == above) made = ReadChild(here, made->Path());
   if (!made) return nullptr;
-  vcl::TTreeNodeWatch madeWatch(made);
+  vcl::TWatch madeWatch(made);
   made->MakeVisible();
   return madeWatch.Gone() ? nullptr : made;
 }
@@ -50,7 +50,7 @@ void TQELExplorerTree::RenamePath(TQELExplorerNode* node, const std::string& nam
   folders::Rename(node->Folder(), folder);
   MoveFolder(node, folder);
   node->AskShell();
-  vcl::TTreeNodeWatch watch(node);
+  vcl::TWatch watch(node);
   PutInOrder(node);
   if (watch.Gone()) return;
   vcl::TTreeNode* selected = Selected();
@@ -88,7 +88,7 @@ bool TQELExplorerTree::DeletePath(TQELExplorerNode* node) {
   CheckNotOnTop(node, "deleted");
   const std::string question = vcl::Concat("Put the folder '", node->Folder(),
                                            "' and all it contains into the recycle bin?");
-  vcl::TTreeNodeWatch watch(node);
+  vcl::TWatch watch(node);
   if (vcl::MessageDlg(question, vcl::mtConfirmation, {vcl::mbYes, vcl::mbNo}) != vcl::mrYes) {
     return false;
   }
@@ -105,7 +105,7 @@ bool TQELExplorerTree::CanEdit(vcl::TTreeNode* node) {
 }
 
 void TQELExplorerTree::Edit(vcl::TTreeNode* node, std::string text) {
-  vcl::TTreeNodeWatch watch(node);
+  vcl::TWatch watch(node);
   OnEdited(this, node, text);
   if (!watch.Gone() && text != node->Text()) {
     RenamePath(static_cast<TQELExplorerNode*>(node), text);

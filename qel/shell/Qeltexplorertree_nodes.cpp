@@ -9,12 +9,16 @@
 #include "qel/shell/Qeltexplorertree.h"
 #include "qel/shell/private/folders.h"
 #include "qel/shell/private/hourglass.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace qel {
 
+using vcl::TOnFailure;
+using vcl::TSetFor;
 using vcl::TTreeNode;
-using vcl::TTreeNodeWatch;
+using vcl::TUpdating;
+using vcl::TWatch;
 
 // ---- The node ----
 
@@ -121,7 +125,7 @@ TQELExplorerNode* TQELExplorerTree::AddFolder(TQELExplorerNode* parent, TTreeNod
 /// Takes a folder out that is gone. What was selected in it gives way to what held it, or stands
 /// beside it.
 void TQELExplorerTree::DropNode(TQELExplorerNode* node) {
-  TTreeNodeWatch watch(node);
+  TWatch watch(node);
   const TTreeNode* selected = Selected();
   if (selected && (selected == node || selected->HasAsParent(node))) {
     TTreeNode* beside = node->GetPrevSibling() ? node->GetPrevSibling() : node->GetNextSibling();
@@ -150,17 +154,13 @@ bool TQELExplorerTree::DropOthers(TQELExplorerNode* parent,
                                   const std::vector<std::string>& folders) {
   std::unordered_set<std::string> wanted;
   for (const std::string& each : folders) wanted.insert(folders::UpperCased(each));
-  vcl::TWatch tree(this);
-  const auto watched = [](TTreeNode* node) {
-    return node ? std::make_unique<TTreeNodeWatch>(node) : nullptr;
-  };
-  const auto parentWatch = watched(parent);
+  const TWatch tree(this);
+  const TWatch parentWatch(parent);
   for (TQELExplorerNode* each = First(*Items(), parent); each;) {
     auto* next = static_cast<TQELExplorerNode*>(each->GetNextSibling());
-    const auto nextWatch = watched(next);
+    const TWatch nextWatch(next);
     if (!wanted.contains(each->Path())) DropNode(each);
-    if (tree.Gone() || (parentWatch && parentWatch->Gone())) return false;
-    if (nextWatch && nextWatch->Gone()) return false;
+    if (tree.Gone() || parentWatch.Gone() || nextWatch.Gone()) return false;
     each = next;
   }
   return true;
@@ -168,24 +168,19 @@ bool TQELExplorerTree::DropOthers(TQELExplorerNode* parent,
 
 void TQELExplorerTree::GetKids(TQELExplorerNode* node) {
   if (Designing() || node->FRead) return;
-  TTreeNodeWatch watch(node);
+  TWatch watch(node);
   node->DeleteChildren();
   if (watch.Gone()) return;
   node->FRead = true;
-  std::vector<std::string> folders;
-  try {
-    folders = FoldersIn(node->Folder());
-  } catch (...) {
-    if (!watch.Gone()) node->FRead = false;
-    throw;
-  }
+  const TOnFailure unread([node] { node->FRead = false; }, node);
+  const std::vector<std::string> folders = FoldersIn(node->Folder());
   if (watch.Gone()) return;
   Fill(node, folders);
 }
 
 TQELExplorerNode* TQELExplorerTree::ReadChild(TQELExplorerNode* parent, const std::string& path) {
   if (parent) {
-    TTreeNodeWatch watch(parent);
+    TWatch watch(parent);
     GetKids(parent);
     if (watch.Gone()) return nullptr;
   }
@@ -203,40 +198,23 @@ bool TQELExplorerTree::AskAdd(const std::string& path) {
   return accept;
 }
 
-/// Marks that a handler may be in the middle of a search, of which it can have one.
-class TQELExplorerTree::TSearching {
- public:
-  explicit TSearching(TQELExplorerTree& tree)
-      : FWatch(&tree), FTree(tree), FOuter(std::exchange(tree.FSearching, true)) {}
-  ~TSearching() {
-    if (!FWatch.Gone()) FTree.FSearching = FOuter;
-  }
-  TSearching(const TSearching&) = delete;
-  TSearching& operator=(const TSearching&) = delete;
-  bool TreeGone() const { return FWatch.Gone(); }
-
- private:
-  vcl::TWatch FWatch;
-  TQELExplorerTree& FTree;
-  bool FOuter;
-};
-
 /// Calls `each` with the folders in the folder that are to be shown, until it answers false.
 void TQELExplorerTree::Search(const std::string& folder,
                               const std::function<bool(const std::string& path)>& each) {
   const folders::TNoErrorBoxes quiet;
-  const TSearching searching(*this);
+  const TWatch tree(this);
+  const TSetFor searching(FSearching, true, this);
   const auto offer = [&](const std::string& name) {
     const std::string path = folder + name + "\\";
     const bool accepted = AskAdd(path);
-    return !searching.TreeGone() && (!accepted || each(path));
+    return !tree.Gone() && (!accepted || each(path));
   };
   if (!OnFindDirectory) return folders::Scan(folder, offer);
   for (int first = 1;; first = 0) {
     TQELFoundFile entry;
     bool found = false;
     OnFindDirectory(this, folder, first, entry, found);
-    if (!found || searching.TreeGone()) return;
+    if (!found || tree.Gone()) return;
     const bool shown =
         (entry.Attributes & FILE_ATTRIBUTE_DIRECTORY) && entry.Name != "." && entry.Name != "..";
     if (shown && !offer(entry.Name)) return;
@@ -271,29 +249,11 @@ bool TQELExplorerTree::GetBtn(const TQELExplorerNode* node) {
 
 // ---- Expanding, reading again ----
 
-/// Holds painting back, also when it ends by an exception; the tree may be freed meanwhile.
-class TQELExplorerTree::TUpdating {
- public:
-  explicit TUpdating(TQELExplorerTree& tree) : FWatch(&tree), FTree(tree) {
-    FTree.Items()->BeginUpdate();
-  }
-  ~TUpdating() {
-    if (!FWatch.Gone()) FTree.Items()->EndUpdate();
-  }
-  TUpdating(const TUpdating&) = delete;
-  TUpdating& operator=(const TUpdating&) = delete;
-  bool TreeGone() const { return FWatch.Gone(); }
-
- private:
-  vcl::TWatch FWatch;
-  TQELExplorerTree& FTree;
-};
-
 bool TQELExplorerTree::CanExpand(TTreeNode* node) {
-  TTreeNodeWatch watch(node);
+  TWatch watch(node);
   {
     const THourGlass wait;
-    const TUpdating hold(*this);
+    const TUpdating hold(*Items(), this);
     // The new nodes' buttons are looked for when they come into sight.
     GetKids(static_cast<TQELExplorerNode*>(node));
   }
@@ -306,7 +266,7 @@ void TQELExplorerTree::FullExpand() {
 }
 
 void TQELExplorerTree::ReadAgain(TQELExplorerNode* node) {
-  TTreeNodeWatch watch(node);
+  TWatch watch(node);
   if (!node->FRead) {
     node->FButtonKnown = false;
     return;
@@ -315,7 +275,7 @@ void TQELExplorerTree::ReadAgain(TQELExplorerNode* node) {
   if (watch.Gone() || !Fill(node, folders)) return;
   node->SetHasChildren(node->Count() > 0);
   for (TTreeNode* each = node->GetFirstChild(); each; each = each->GetNextSibling()) {
-    TTreeNodeWatch child(each);
+    TWatch child(each);
     ReadAgain(static_cast<TQELExplorerNode*>(each));
     if (watch.Gone() || child.Gone()) return;
   }
@@ -324,11 +284,11 @@ void TQELExplorerTree::ReadAgain(TQELExplorerNode* node) {
 /// Reads a folder anew wherever it is shown: below its drive, and where a folder of the user's has
 /// it on the top level.
 void TQELExplorerTree::ReadAll(const std::string& path) {
-  const TUpdating hold(*this);
+  const TUpdating hold(*Items(), this);
   for (TTreeNode* each = Items()->GetFirstNode(); each; each = each->GetNext()) {
     auto* node = static_cast<TQELExplorerNode*>(each);
     if (node->Path() != path) continue;
-    TTreeNodeWatch watch(node);
+    TWatch watch(node);
     ReadAgain(node);
     if (watch.Gone()) return;
   }
@@ -336,11 +296,11 @@ void TQELExplorerTree::ReadAll(const std::string& path) {
 
 void TQELExplorerTree::ReadNew() {
   const THourGlass wait;
-  const TUpdating hold(*this);
+  const TUpdating hold(*Items(), this);
   FTopRead = true;
   if (!Fill(nullptr, TopFolders())) return;
   for (TTreeNode* each = Items()->GetFirstNode(); each; each = each->GetNextSibling()) {
-    TTreeNodeWatch watch(each);
+    TWatch watch(each);
     ReadAgain(static_cast<TQELExplorerNode*>(each));
     if (watch.Gone()) return;
   }

@@ -8,6 +8,7 @@
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
 
@@ -351,14 +352,11 @@ void TControl::Notification(TComponent* component, TOperation operation) {
 }
 
 void TControl::ReadState(TReader& reader) {
-  IncludeState(csReadingState);
-  try {
+  {
+    IncludeState(csReadingState);
+    const TAtEnd done([this] { ExcludeState(csReadingState); }, this);
     TComponent::ReadState(reader);
-  } catch (...) {
-    ExcludeState(csReadingState);
-    throw;
   }
-  ExcludeState(csReadingState);
   FollowParent();
 }
 

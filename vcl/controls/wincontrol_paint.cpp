@@ -5,6 +5,7 @@
 #include "vcl/graphics/canvasbinding.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
@@ -197,10 +198,9 @@ TCustomControl::~TCustomControl() { AnnounceEnd(); }
 TCanvas* TCustomControl::Canvas() const { return FCanvas.get(); }
 
 void TCustomControl::WMPaint(TMessage& message) {
-  TWatch watch(this);
   IncludeState(csCustomPaint);
+  const TAtEnd done([this] { ExcludeState(csCustomPaint); }, this);
   TWinControl::WMPaint(message);
-  if (!watch.Gone()) ExcludeState(csCustomPaint);
 }
 
 void TCustomControl::PaintWindow(HDC dc) {

@@ -10,6 +10,7 @@
 #include "vcl/forms/module.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
@@ -154,8 +155,8 @@ void TWinControl::DestroyWnd() {
   FText = WindowText(FHandle);
   FShowing = false;
   IncludeState(csDestroyingHandle);
+  const TAtEnd destroyed([this] { ExcludeState(csDestroyingHandle); }, this);
   DestroyWindowHandle();
-  ExcludeState(csDestroyingHandle);
 }
 
 void TWinControl::DestroyWindowHandle() { ::DestroyWindow(FHandle); }

@@ -7,6 +7,7 @@
 #include "vcl/db/datasource.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -97,15 +98,13 @@ void TDataSet::Loaded() {
 
 void TDataSet::DoOpen() {
   Fire(BeforeOpen);
-  try {
+  {
+    const TOnFailure shut([this] { Shut(); }, this);
     FStore = &InternalOpen();
     MakeFields();
     FIndex = 0;
     FBof = true;
     FEof = FStore->At(0) == nullptr;
-  } catch (...) {
-    Shut();
-    throw;
   }
   FState = dsBrowse;
   ShowCurrent();

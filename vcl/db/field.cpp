@@ -7,6 +7,7 @@
 #include "vcl/db/dataset.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -228,17 +229,12 @@ void TField::SetValue(const TFieldValue& value) {
 
 void TField::Write(const TFieldValue& value) {
   if (OnValidate) {
-    TWatch watch(this);
-    FValidating = &value;
-    try {
+    const TWatch watch(this);
+    {
+      const TSetFor validating(FValidating, &value, this);
       OnValidate(this);
-    } catch (...) {
-      if (!watch.Gone()) FValidating = nullptr;
-      throw;
     }
-    if (watch.Gone()) return;
-    FValidating = nullptr;
-    if (!FDataSet || FFieldNo < 0 || !FDataSet->Editing()) return;
+    if (watch.Gone() || !FDataSet || FFieldNo < 0 || !FDataSet->Editing()) return;
   }
   FDataSet->Write(*this, value);
 }

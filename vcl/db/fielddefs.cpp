@@ -2,6 +2,7 @@
 #include "vcl/db/fielddefs.h"
 
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -63,13 +64,12 @@ const TClass& TFieldDefs::Class() {
 }
 
 TFieldDef* TFieldDefs::Add(const std::string& name, TFieldType dataType, int size, bool required) {
-  BeginUpdate();
+  const TUpdating updating(*this);
   auto* definition = static_cast<TFieldDef*>(TCollection::Add());
   definition->SetName(name);
   definition->SetDataType(dataType);
   definition->SetSize(size);
   definition->SetRequired(required);
-  EndUpdate();
   return definition;
 }
 

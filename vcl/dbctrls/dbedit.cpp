@@ -3,6 +3,7 @@
 
 #include "vcl/controls/propertygroups.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
@@ -69,9 +70,8 @@ void TDBEdit::ShowValue() {
   const TField* field = Field();
   const std::string text = !field ? std::string() : FInside ? field->Text() : field->DisplayText();
   if (text == Text()) return;
-  FShowing = true;
+  const TSetFor showing(FShowing, true, this);
   SetText(text);
-  FShowing = false;
 }
 
 void TDBEdit::Change() {
@@ -109,12 +109,13 @@ void TDBEdit::DoEnter() {
 }
 
 void TDBEdit::DoExit() {
-  try {
+  {
+    const auto stay = [this] {
+      SelectAll();
+      SetFocus();
+    };
+    const TOnFailure refused(stay, this);
     FLink.UpdateRecord();
-  } catch (...) {
-    SelectAll();
-    SetFocus();
-    throw;
   }
   FInside = false;
   ShowValue();

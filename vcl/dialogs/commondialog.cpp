@@ -7,6 +7,7 @@
 #include "vcl/forms/private/taskwindows.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -50,17 +51,16 @@ TCommonDialog::~TCommonDialog() {
 bool TCommonDialog::Run(const std::function<BOOL(HWND)>& show) {
   if (FRunning) throw EInvalidOperation(Concat("The dialog ", Name(), " is up already"));
   const TWatch watch(this);
-  FRunning = true;
   BOOL agreed = FALSE;
   {
+    const TSetFor running(FRunning, true, this);
+    const TSetFor handle(FHandle, nullptr, this);
     const TSystemModal modal;
     Starting = NeedsHook() ? this : nullptr;
+    const TAtEnd started([] { Starting = nullptr; });
     agreed = show(modal.Owner());
-    Starting = nullptr;
   }
   if (watch.Gone()) return false;
-  FRunning = false;
-  FHandle = nullptr;
   if (const DWORD error = agreed ? 0 : ::CommDlgExtendedError()) {
     throw EOutOfResources(
         Concat("The system cannot show the ", ClassName(), ": error ", std::to_string(error)));

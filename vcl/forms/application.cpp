@@ -11,6 +11,7 @@
 #include "vcl/forms/screen.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/thread.h"
 
 namespace vcl {
@@ -231,6 +232,7 @@ LRESULT TApplication::WndProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 bool TApplication::AskSessionEnd(TCustomForm* form) {
   FSessionEnding = true;
+  const TOnFailure goesOn([this] { FSessionEnding = false; });
   return FSessionEnding = !form || form->CloseQuery();
 }
 

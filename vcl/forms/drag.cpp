@@ -7,6 +7,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/handles.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
@@ -73,12 +74,12 @@ void TDragSession::Capture() {
 void TDragSession::Start() {
   const auto self = shared_from_this();
   TDragObject* object = nullptr;
-  try {
+  {
+    const TOnFailure cancel([&] {
+      delete object;
+      Finish(false);
+    });
     FControl->DoStartDrag(object);
-  } catch (...) {
-    delete object;
-    Finish(false);
-    throw;
   }
   FObject.reset(object);
   FObjectGiven = object != nullptr;
@@ -176,9 +177,7 @@ void TDragSession::Finish(bool drop) {
   if (FFinished) return;
   FFinished = true;
   if (::GetCapture() == FWindow) ::ReleaseCapture();
-  struct TLeave {
-    ~TLeave() { TheSession().reset(); }
-  } leave;
+  const TAtEnd leave([] { TheSession().reset(); });
   if (FStarted) {
     const bool accepted = drop && FAccepted;
     AskTarget(dsDragLeave);

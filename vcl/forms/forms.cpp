@@ -11,6 +11,7 @@
 #include "vcl/rtl/formfile.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/resources.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
 
@@ -100,9 +101,10 @@ TCustomForm::~TCustomForm() {
 void TCustomForm::LoadForm(HINSTANCE module) {
   RegisterStandardClasses();
   TResourceStream stream(module, UpperCase(ClassName()), MAKEINTRESOURCEA(10));  // RT_RCDATA
-  FReadingForm = true;
-  ReadComponentFile(stream, this, ClassName());
-  FReadingForm = false;
+  {
+    const TSetFor reading(FReadingForm, true, this);
+    ReadComponentFile(stream, this, ClassName());
+  }
   Created();
 }
 

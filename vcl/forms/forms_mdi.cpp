@@ -8,6 +8,7 @@
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
 
@@ -79,17 +80,13 @@ void TCustomForm::DefaultHandler(TMessage& message) {
 
 /// The window goes in the way of its style, and comes in the new one's.
 void TCustomForm::RemakeAs(TFormStyle style) {
-  const bool remade = HandleAllocated() && !Designing();
-  FRemaking = true;
-  if (remade) DestroyHandle();
-  FFormStyle = style;
-  try {
+  {
+    const bool remade = HandleAllocated() && !Designing();
+    const TSetFor remaking(FRemaking, true, this);
+    if (remade) DestroyHandle();
+    FFormStyle = style;
     if (remade) UpdateControlState();
-  } catch (...) {
-    FRemaking = false;
-    throw;
   }
-  FRemaking = false;
   if (style == fsMDIChild) SetVisible(true);
 }
 

@@ -3,6 +3,7 @@
 #include "vcl/forms/forms.h"
 #include "vcl/forms/private/taskwindows.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -66,22 +67,14 @@ int TCustomForm::ShowModal() {
   const HWND own = Handle();
   TWatch watch(this);
   FModalResult = mrNone;
-  FModal = true;
+  const TSetFor modal(FModal, true, this);
   TDisabledWindows others(own);
   TModalResult result = mrCancel;
-  try {
-    Show();
-    if (!watch.Gone()) result = RunModal();
-  } catch (...) {
-    if (!watch.Gone()) FModal = false;
-    throw;
-  }
+  Show();
+  if (!watch.Gone()) result = RunModal();
   others.Enable();
   if (former && ::IsWindow(former) && ::GetActiveWindow() == own) ::SetActiveWindow(former);
-  if (!watch.Gone()) {
-    SetVisible(false);
-    FModal = false;
-  }
+  if (!watch.Gone()) SetVisible(false);
   return result;
 }
 

@@ -8,6 +8,7 @@
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/canvasbinding.h"
 #include "vcl/menus/menus.h"
+#include "vcl/rtl/scope.h"
 
 namespace vcl {
 
@@ -85,14 +86,8 @@ void TCustomForm::DestroyWnd() {
 
 void TCustomForm::Remake() {
   if (!HandleAllocated()) return;
-  FRemaking = true;
-  try {
-    RecreateWnd();
-  } catch (...) {
-    FRemaking = false;
-    throw;
-  }
-  FRemaking = false;
+  const TSetFor remaking(FRemaking, true, this);
+  RecreateWnd();
 }
 
 void TCustomForm::UpdateMenu() {
@@ -133,10 +128,9 @@ TRect TCustomForm::ClientRect() const {
 // Painting.
 
 void TCustomForm::WMPaint(TMessage& message) {
-  TWatch watch(this);
   IncludeState(csCustomPaint);
+  const TAtEnd done([this] { ExcludeState(csCustomPaint); }, this);
   TWinControl::WMPaint(message);
-  if (!watch.Gone()) ExcludeState(csCustomPaint);
 }
 
 void TCustomForm::PaintWindow(HDC dc) {

@@ -14,6 +14,7 @@
 #include "vcl/rtl/inifile.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/reader.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/text.h"

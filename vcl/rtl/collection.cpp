@@ -5,6 +5,7 @@
 
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -77,33 +78,23 @@ TCollectionItem* TCollection::Items(int index) const {
 
 // The item joins the list before its class's part is made; the news waits until it is whole.
 TCollectionItem* TCollection::Add() {
-  BeginUpdate();
-  TCollectionItem* item = nullptr;
-  try {
-    item = static_cast<TCollectionItem*>(FItemClass.Maker().Item(this));
-  } catch (...) {
-    EndUpdate();
-    throw;
-  }
-  EndUpdate();
-  return item;
+  const TUpdating updating(*this);
+  return static_cast<TCollectionItem*>(FItemClass.Maker().Item(this));
 }
 
 TCollectionItem* TCollection::Insert(int index) {
   CheckIndex(index, Count() + 1);
-  BeginUpdate();
+  const TUpdating updating(*this);
   TCollectionItem* item = Add();
   item->SetIndex(index);
-  EndUpdate();
   return item;
 }
 
 void TCollection::Delete(int index) { delete Items(index); }
 
 void TCollection::Clear() {
-  BeginUpdate();
+  const TUpdating updating(*this);
   while (!FItems.empty()) delete FItems.back();
-  EndUpdate();
 }
 
 TCollectionItem* TCollection::FindItemID(int id) const {
@@ -121,10 +112,9 @@ void TCollection::Assign(const TPersistent* source) {
     copies.emplace_back(static_cast<TCollectionItem*>(FItemClass.Maker().Item(nullptr)));
     copies.back()->Assign(item);
   }
-  BeginUpdate();
+  const TUpdating updating(*this);
   Clear();
   for (auto& copy : copies) Attach(copy.release());
-  EndUpdate();
 }
 
 void TCollection::EndUpdate() {

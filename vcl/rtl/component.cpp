@@ -34,10 +34,6 @@ TComponent::~TComponent() {
   AnnounceEnd();
   DestroyComponents();
   if (FOwner) FOwner->RemoveComponent(this);
-  while (FWatches) {
-    FWatches->FComponent = nullptr;
-    FWatches = FWatches->FNext;
-  }
 }
 
 void TComponent::AnnounceEnd() {
@@ -188,18 +184,6 @@ void TComponent::DefinePosition(TFiler& filer, const char* name, std::int16_t& c
         coordinate = static_cast<std::int16_t>(reader.ReadInteger());
       },
       [&coordinate](TWriter& writer) { writer.WriteInteger(coordinate); }, coordinate != 0);
-}
-
-TWatch::TWatch(TComponent* component) : FComponent(component), FNext(component->FWatches) {
-  component->FWatches = this;
-}
-
-TWatch::~TWatch() {
-  if (!FComponent) return;
-  // Watches end in the opposite order of their making, save across coroutines, which nobody uses.
-  TWatch** link = &FComponent->FWatches;
-  while (*link != this) link = &(*link)->FNext;
-  *link = FNext;
 }
 
 }  // namespace vcl

@@ -1,5 +1,4 @@
-// TComponent: named, owned objects that a form file holds and a designer shows, and TWatch, which
-// tells that one has gone.
+// TComponent: named, owned objects that a form file holds and a designer shows.
 #pragma once
 
 #include <cstdint>
@@ -12,6 +11,7 @@
 #include "vcl/rtl/keptdata.h"
 #include "vcl/rtl/persistent.h"
 #include "vcl/rtl/typeinfo.h"
+#include "vcl/rtl/watch.h"
 
 namespace vcl {
 
@@ -29,15 +29,13 @@ enum TComponentStateValue {
 };
 using TComponentState = TSet<TComponentStateValue>;
 
-class TComponent;
-class TWatch;
-
 /// A component: it has a name, unique among its owner's; it owns other components, which it frees;
-/// and it hears when a component that it links to is freed.
+/// and it hears when a component that it links to is freed. Whatever else calls it can watch it
+/// (TWatch).
 ///
 /// A class that others link to calls `AnnounceEnd` first thing in its destructor, while it is
 /// whole.
-class VCL_API TComponent : public TPersistent {
+class VCL_API TComponent : public TPersistent, public TWatched {
  public:
   /// Joins the owner's components, at the end; null for a component that the caller frees.
   explicit TComponent(TComponent* owner);
@@ -130,7 +128,6 @@ class VCL_API TComponent : public TPersistent {
  private:
   friend class TReader;
   friend class TWriter;
-  friend class TWatch;
   bool Unnamed() const { return FName.empty(); }
   void MarkDestroying();
   void DefinePosition(TFiler& filer, const char* name, std::int16_t& coordinate);
@@ -144,27 +141,7 @@ class VCL_API TComponent : public TPersistent {
   bool FEndAnnounced = false;
   std::int16_t FDesignLeft = 0;
   std::int16_t FDesignTop = 0;
-  TWatch* FWatches = nullptr;
   std::unique_ptr<TKeptData> FKept;
-};
-
-/// Watches a component during a call that might free it, such as an event:
-///
-///     TWatch watch(this);
-///     OnClick(this);
-///     if (watch.Gone()) return;
-class VCL_API TWatch {
- public:
-  explicit TWatch(TComponent* component);
-  ~TWatch();
-  TWatch(const TWatch&) = delete;
-  TWatch& operator=(const TWatch&) = delete;
-  bool Gone() const { return FComponent == nullptr; }
-
- private:
-  friend class TComponent;
-  TComponent* FComponent;
-  TWatch* FNext = nullptr;
 };
 
 }  // namespace vcl

@@ -6,6 +6,7 @@
 #include "vcl/rtl/os.h"
 #include "vcl/rtl/private/inicoding.h"
 #include "vcl/rtl/private/initext.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/sharedfile.h"
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/text.h"
@@ -20,10 +21,9 @@ std::string_view Unquoted(std::string_view value) {
 }
 
 void Replace(TStrings& list, const std::vector<std::string>& lines) {
-  list.BeginUpdate();
+  const TUpdating updating(list);
   list.Clear();
   for (const std::string& line : lines) list.Add(line);
-  list.EndUpdate();
 }
 
 std::string FullName(const std::string& fileName) {

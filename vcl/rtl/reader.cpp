@@ -4,20 +4,16 @@
 #include <utility>
 
 #include "vcl/rtl/private/readerimpl.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
 
 template <class Read>
 void TReader::TImpl::AllOrNothing(const Read& read) {
-  try {
-    read();
-  } catch (...) {
-    Undo();
-    Forget();
-    throw;
-  }
-  Forget();
+  const TAtEnd forget([this] { Forget(); });
+  const TOnFailure undo([this] { Undo(); });
+  read();
 }
 
 TReader::TReader(TStream& stream) : FImpl(std::make_unique<TImpl>(*this, stream)) {}

@@ -4,6 +4,7 @@
 
 #include "vcl/rtl/collection.h"
 #include "vcl/rtl/private/readerimpl.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 
@@ -164,16 +165,10 @@ void TReader::TImpl::ReadOwnCollection(TCollection& collection) {
 void TReader::TImpl::ReadCollection(TCollection& collection) {
   const TFormInput::TLevel level(Input);
   Input.Take(TValueType::vaCollection);
-  collection.BeginUpdate();
-  try {
-    collection.Clear();
-    while (!Input.EndOfList()) ReadItem(collection);
-  } catch (...) {
-    collection.EndUpdate();
-    throw;
-  }
+  const TUpdating updating(collection);
+  collection.Clear();
+  while (!Input.EndOfList()) ReadItem(collection);
   Input.Take(TValueType::vaNull);
-  collection.EndUpdate();
 }
 
 void TReader::TImpl::ReadItem(TCollection& collection) {

@@ -1,5 +1,6 @@
 // TRegistry: opening keys, reading and writing their values, and what lies in them.
 #include "vcl/rtl/registry.h"
+#include "vcl/rtl/scope.h"
 
 #include <algorithm>
 #include <cstring>
@@ -124,10 +125,9 @@ std::vector<std::string> TRegistry::ValueNames(HKEY key) const {
 }
 
 void TRegistry::Replace(TStrings& list, const std::vector<std::string>& lines) {
-  list.BeginUpdate();
+  const TUpdating updating(list);
   list.Clear();
   for (const std::string& line : lines) list.Add(line);
-  list.EndUpdate();
 }
 
 bool TRegistry::Load(HKEY key, const std::string& name, TValue& value) const {

@@ -8,25 +8,13 @@
 #include "vcl/rtl/filer.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/reader.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/writer.h"
 
 namespace vcl {
 namespace {
-
-/// Makes a change to a list with its notifications held back until the end.
-template <class Change>
-void Batch(TStrings& list, const Change& change) {
-  list.BeginUpdate();
-  try {
-    change();
-  } catch (...) {
-    list.EndUpdate();
-    throw;
-  }
-  list.EndUpdate();
-}
 
 bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
 
@@ -87,35 +75,32 @@ int TStrings::AddObject(const std::string& text, TObject* object) {
 }
 
 void TStrings::AddStrings(const TStrings& other) {
-  Batch(*this, [&] {
-    // Counted once, because a list may be added to itself.
-    for (int i = 0, count = other.Count(); i < count; ++i)
-      AddObject(other.Strings(i), other.Objects(i));
-  });
+  const TUpdating updating(*this);
+  // Counted once, because a list may be added to itself.
+  for (int i = 0, count = other.Count(); i < count; ++i)
+    AddObject(other.Strings(i), other.Objects(i));
 }
 
 void TStrings::Exchange(int a, int b) {
   CheckIndex(a, Count());
   CheckIndex(b, Count());
-  Batch(*this, [&] {
-    const std::string text = Strings(a);
-    TObject* object = Objects(a);
-    SetStrings(a, Strings(b));
-    SetObjects(a, Objects(b));
-    SetStrings(b, text);
-    SetObjects(b, object);
-  });
+  const TUpdating updating(*this);
+  const std::string text = Strings(a);
+  TObject* object = Objects(a);
+  SetStrings(a, Strings(b));
+  SetObjects(a, Objects(b));
+  SetStrings(b, text);
+  SetObjects(b, object);
 }
 
 void TStrings::Move(int from, int to) {
   CheckIndex(from, Count());
   CheckIndex(to, Count());
-  Batch(*this, [&] {
-    const std::string text = Strings(from);
-    TObject* object = Objects(from);
-    Delete(from);
-    InsertObject(to, text, object);
-  });
+  const TUpdating updating(*this);
+  const std::string text = Strings(from);
+  TObject* object = Objects(from);
+  Delete(from);
+  InsertObject(to, text, object);
 }
 
 int TStrings::IndexOf(std::string_view text) const {
@@ -141,16 +126,15 @@ std::string TStrings::Text() const {
 void TStrings::SetText(std::string_view text) {
   const std::string copy(text);  // The text may be one of the lines that are about to go.
   std::string_view rest = copy;
-  Batch(*this, [&] {
-    Clear();
-    while (!rest.empty()) {
-      const auto end = std::min(rest.find_first_of("\r\n"), rest.size());
-      Add(std::string(rest.substr(0, end)));
-      rest.remove_prefix(end);
-      const std::size_t ending = rest.starts_with("\r\n") ? 2 : 1;
-      rest.remove_prefix(std::min(ending, rest.size()));
-    }
-  });
+  const TUpdating updating(*this);
+  Clear();
+  while (!rest.empty()) {
+    const auto end = std::min(rest.find_first_of("\r\n"), rest.size());
+    Add(std::string(rest.substr(0, end)));
+    rest.remove_prefix(end);
+    const std::size_t ending = rest.starts_with("\r\n") ? 2 : 1;
+    rest.remove_prefix(std::min(ending, rest.size()));
+  }
 }
 
 std::string TStrings::CommaText() const {
@@ -168,20 +152,19 @@ std::string TStrings::CommaText() const {
 void TStrings::SetCommaText(std::string_view text) {
   const std::string copy(text);
   std::string_view rest = copy;
-  Batch(*this, [&] {
-    Clear();
+  const TUpdating updating(*this);
+  Clear();
+  SkipBlanks(rest);
+  bool another = !rest.empty();
+  while (another) {
+    Add(rest.starts_with('"') ? TakeQuoted(rest) : TakePlain(rest));
     SkipBlanks(rest);
-    bool another = !rest.empty();
-    while (another) {
-      Add(rest.starts_with('"') ? TakeQuoted(rest) : TakePlain(rest));
+    another = !rest.empty();
+    if (rest.starts_with(',')) {
+      rest.remove_prefix(1);
       SkipBlanks(rest);
-      another = !rest.empty();
-      if (rest.starts_with(',')) {
-        rest.remove_prefix(1);
-        SkipBlanks(rest);
-      }
     }
-  });
+  }
 }
 
 std::string TStrings::Names(int index) const {
@@ -235,10 +218,9 @@ void TStrings::Assign(const TPersistent* source) {
   const auto* other = dynamic_cast<const TStrings*>(source);
   if (!other) return TPersistent::Assign(source);
   if (other == this) return;
-  Batch(*this, [&] {
-    Clear();
-    AddStrings(*other);
-  });
+  const TUpdating updating(*this);
+  Clear();
+  AddStrings(*other);
 }
 
 bool TStrings::Equals(const TStrings& other) const {
@@ -260,12 +242,11 @@ void TStrings::EndUpdate() {
 
 void TStrings::DefineProperties(TFiler& filer) {
   const auto read = [this](TReader& reader) {
-    Batch(*this, [&] {
-      reader.ReadListBegin();
-      Clear();
-      while (!reader.EndOfList()) Add(reader.ReadString());
-      reader.ReadListEnd();
-    });
+    const TUpdating updating(*this);
+    reader.ReadListBegin();
+    Clear();
+    while (!reader.EndOfList()) Add(reader.ReadString());
+    reader.ReadListEnd();
   };
   const auto write = [this](TWriter& writer) {
     writer.WriteListBegin();

@@ -7,6 +7,7 @@
 #include "vcl/rtl/component.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/private/writerimpl.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 
@@ -15,16 +16,12 @@ namespace vcl {
 template <class Write>
 void TWriter::TImpl::Change(const Write& write) {
   if (Busy) return write(Output);
-  Output = {};
-  Busy = true;
-  KeptLeft.clear();
-  try {
+  {
+    const TSetFor busy(Busy, true);
+    Output = {};
+    KeptLeft.clear();
     write(Output);
-  } catch (...) {
-    Busy = false;
-    throw;
   }
-  Busy = false;
   Stream.WriteText(Output.Bytes());
 }
 
@@ -97,15 +94,9 @@ void TWriter::TImpl::WriteComponent(TComponent* component) {
   heading.Name = component->Name();
   Output.WriteHeading(heading);
   component->Include(csWriting);
-  const std::string outerPrefix = std::exchange(Prefix, {});
-  try {
-    component->WriteState(Self);
-  } catch (...) {
-    component->Exclude(csWriting);
-    throw;
-  }
-  Prefix = outerPrefix;
-  component->Exclude(csWriting);
+  const TAtEnd written([component] { component->Exclude(csWriting); }, component);
+  const TSetFor prefix(Prefix, std::string());
+  component->WriteState(Self);
 }
 
 TWriter::TImpl::TDepth::TDepth(TImpl& impl) : FImpl(impl) {

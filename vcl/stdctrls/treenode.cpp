@@ -134,11 +134,11 @@ void TTreeNode::SetData(void* data) {
 void TTreeNode::SetExpanded(bool expanded) { TreeView()->SetExpanded(this, expanded); }
 
 void TTreeNode::Expand(bool recurse) {
-  TTreeNodeWatch watch(this);
+  TWatch watch(this);
   SetExpanded(true);
   if (!recurse || watch.Gone()) return;
   for (TTreeNode* child = FFirst; child;) {
-    TTreeNodeWatch childWatch(child);
+    TWatch childWatch(child);
     child->Expand(true);
     if (watch.Gone() || childWatch.Gone()) return;
     child = child->FNext;
@@ -146,11 +146,11 @@ void TTreeNode::Expand(bool recurse) {
 }
 
 void TTreeNode::Collapse(bool recurse) {
-  TTreeNodeWatch watch(this);
+  TWatch watch(this);
   SetExpanded(false);
   if (!recurse || watch.Gone()) return;
   for (TTreeNode* child = FFirst; child;) {
-    TTreeNodeWatch childWatch(child);
+    TWatch childWatch(child);
     child->Collapse(true);
     if (watch.Gone() || childWatch.Gone()) return;
     child = child->FNext;
@@ -179,7 +179,7 @@ void TTreeNode::DeleteChildren() { FOwner->DeleteBelow(this); }
 void TTreeNode::AlphaSort() { FOwner->SortChildren(this, false); }
 
 void TTreeNode::MakeVisible() {
-  TTreeNodeWatch watch(this);
+  TWatch watch(this);
   for (TTreeNode* each = Parent(); each; each = each->Parent()) {
     if (!each->FExpanded) each->SetExpanded(true);
     if (watch.Gone()) return;
@@ -199,7 +199,7 @@ TRect TTreeNode::DisplayRect(bool textOnly) const {
 bool TTreeNode::EditText() {
   TCustomTreeView* tree = TreeView();
   if (tree->ReadOnly()) return false;
-  TTreeNodeWatch watch(this);
+  TWatch watch(this);
   if (tree->CanFocus()) tree->SetFocus();
   tree->HandleNeeded();
   return !watch.Gone() && Send(*tree, TVM_EDITLABELW, 0, reinterpret_cast<LPARAM>(FItem)) != 0;

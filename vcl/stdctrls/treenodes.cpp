@@ -7,6 +7,7 @@
 #include "vcl/controls/windowmessages.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/treeview.h"
@@ -26,14 +27,6 @@ TTreeNodes::TTreeNodes(TCustomTreeView* owner)
 
 TTreeNodes::~TTreeNodes() {
   while (FRoot->FFirst) Free(FRoot->FFirst);
-}
-
-TTreeNodeWatch::TTreeNodeWatch(TTreeNode* node) : FNode(node), FNodes(node->Owner()) {
-  FNodes->FWatches.push_back(this);
-}
-
-TTreeNodeWatch::~TTreeNodeWatch() {
-  if (FNode) std::erase(FNodes->FWatches, this);
 }
 
 TTreeNode* TTreeNodes::Item(int index) const {
@@ -243,10 +236,6 @@ void TTreeNodes::Free(TTreeNode* node) {
     while (each->FFirst) each = each->FFirst;
     const bool last = each == node;
     TTreeNode* parent = each->FParent;
-    for (TTreeNodeWatch* watch : FWatches) {
-      if (watch->FNode == each) watch->FNode = nullptr;
-    }
-    std::erase_if(FWatches, [](const TTreeNodeWatch* watch) { return watch->Gone(); });
     FOwner->Forget(each);
     Unlink(each);
     --FCount;
@@ -282,10 +271,8 @@ void TTreeNodes::DeleteBelow(TTreeNode* parent) {
 }
 
 void TTreeNodes::Clear() {
-  TWatch watch(FOwner);
-  BeginUpdate();
+  const TUpdating updating(*this, FOwner);
   DeleteBelow(FRoot.get());
-  if (!watch.Gone()) EndUpdate();
 }
 
 }  // namespace vcl

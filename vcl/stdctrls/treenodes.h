@@ -11,13 +11,13 @@
 #include "vcl/rtl/persistent.h"
 #include "vcl/rtl/systemmacros.h"
 #include "vcl/rtl/systemtypes.h"
+#include "vcl/rtl/watch.h"
 
 namespace vcl {
 
 class TCustomTreeView;
 class TStream;
 class TTreeNodes;
-class TWatch;
 
 /// A node where it cannot be.
 class VCL_API ETreeViewError : public Exception {
@@ -31,7 +31,7 @@ class VCL_API ETreeViewError : public Exception {
 enum TNodeAttachMode { naAdd, naAddFirst, naAddChild, naAddChildFirst, naInsert };
 
 /// An item of a tree view. The tree view makes it and frees it.
-class VCL_API TTreeNode : public TPersistent {
+class VCL_API TTreeNode : public TPersistent, public TWatched {
  public:
   explicit TTreeNode(TTreeNodes* owner) : FOwner(owner) {}
   TTreeNode(const TTreeNode&) = delete;
@@ -156,21 +156,6 @@ class VCL_API TTreeNode : public TPersistent {
   bool FDeleting = false;
 };
 
-/// Follows a node during calls that might free it: the pointer becomes null then.
-class VCL_API TTreeNodeWatch {
- public:
-  explicit TTreeNodeWatch(TTreeNode* node);
-  ~TTreeNodeWatch();
-  TTreeNodeWatch(const TTreeNodeWatch&) = delete;
-  TTreeNodeWatch& operator=(const TTreeNodeWatch&) = delete;
-  bool Gone() const { return FNode == nullptr; }
-
- private:
-  friend class TTreeNodes;
-  TTreeNode* FNode;
-  TTreeNodes* FNodes;
-};
-
 /// The nodes of a tree view. Those that add a node return it; the node that they are given says
 /// where: null is the top level. They raise ETreeViewError for a node of another tree, or one that
 /// is being deleted.
@@ -220,7 +205,6 @@ class VCL_API TTreeNodes : public TPersistent {
 
  private:
   friend class TTreeNode;
-  friend class TTreeNodeWatch;
   friend class TCustomTreeView;
   /// A place among the children of a parent: before one of them, or behind all.
   struct TPlace {
@@ -251,7 +235,6 @@ class VCL_API TTreeNodes : public TPersistent {
   std::unique_ptr<TTreeNode> FRoot;  // The parent of the top level.
   int FCount = 0;
   int FUpdateCount = 0;
-  std::vector<TTreeNodeWatch*> FWatches;
   mutable TTreeNode* FLastFound = nullptr;  // What Item found last.
   mutable int FLastIndex = 0;
 };

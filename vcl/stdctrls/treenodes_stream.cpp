@@ -5,6 +5,7 @@
 
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/filer.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 #include "vcl/stdctrls/treeview.h"
@@ -70,16 +71,10 @@ void TTreeNodes::ReadData(TStream& stream) {
   std::int32_t count = 0;
   stream.ReadBuffer(&count, sizeof count);
   CheckSize(count, stream);
-  BeginUpdate();
-  try {
-    Clear();
-    for (std::int32_t i = 0; i < count; ++i) ReadNode(stream, nullptr, 0);
-  } catch (...) {
-    Clear();
-    EndUpdate();
-    throw;
-  }
-  EndUpdate();
+  const TUpdating updating(*this, FOwner);
+  const TOnFailure none([this] { Clear(); }, FOwner);
+  Clear();
+  for (std::int32_t i = 0; i < count; ++i) ReadNode(stream, nullptr, 0);
 }
 
 void TTreeNodes::CopyChildren(const TTreeNode* from, TTreeNode* to) {
@@ -95,10 +90,9 @@ void TTreeNodes::Assign(const TPersistent* source) {
   if (source == this) return;
   const auto* nodes = dynamic_cast<const TTreeNodes*>(source);
   if (source && !nodes) return TPersistent::Assign(source);
-  BeginUpdate();
+  const TUpdating updating(*this, FOwner);
   Clear();
   if (nodes) CopyChildren(nodes->FRoot.get(), nullptr);
-  EndUpdate();
 }
 
 }  // namespace vcl

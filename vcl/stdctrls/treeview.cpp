@@ -231,7 +231,7 @@ HIMAGELIST TCustomTreeView::NormalImages() const {
 
 void TCustomTreeView::FullExpand() {
   for (TTreeNode* node = FItems->GetFirstNode(); node;) {
-    TTreeNodeWatch watch(node);
+    TWatch watch(node);
     node->Expand(true);
     if (watch.Gone()) return;
     node = node->GetNextSibling();
@@ -240,7 +240,7 @@ void TCustomTreeView::FullExpand() {
 
 void TCustomTreeView::FullCollapse() {
   for (TTreeNode* node = FItems->GetFirstNode(); node;) {
-    TTreeNodeWatch watch(node);
+    TWatch watch(node);
     node->Collapse(true);
     if (watch.Gone()) return;
     node = node->GetNextSibling();
@@ -273,7 +273,7 @@ void TCustomTreeView::SetSelected(TTreeNode* node) {
 
 void TCustomTreeView::SetExpanded(TTreeNode* node, bool expand) {
   if (node->FExpanded == expand || (expand && !node->HasChildren())) return;
-  TTreeNodeWatch watch(node);
+  TWatch watch(node);
   if (!(expand ? CanExpand(node) : CanCollapse(node)) || watch.Gone()) return;
   if (expand && !node->FFirst) return;
   node->FExpanded = expand;
@@ -317,7 +317,7 @@ bool TCustomTreeView::CanEdit(TTreeNode* node) {
 }
 
 void TCustomTreeView::Edit(TTreeNode* node, std::string text) {
-  TTreeNodeWatch watch(node);
+  TWatch watch(node);
   OnEdited(this, node, text);
   if (!watch.Gone()) node->SetText(text);
 }

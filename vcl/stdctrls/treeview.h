@@ -129,10 +129,8 @@ class VCL_API TCustomTreeView : public TWinControl {
  private:
   friend class TTreeNode;
   friend class TTreeNodes;
-  /// While one is alive, what the window tells is our own doing.
-  class TOwnDoing;
   struct TPending {
-    std::unique_ptr<TTreeNodeWatch> Watch;
+    TWatch Node;
     std::function<void()> Tell;
   };
   struct TLinkedImages {
@@ -185,8 +183,8 @@ class VCL_API TCustomTreeView : public TWinControl {
   TBorderStyle FBorderStyle = bsSingle;
   TSortType FSortType = stNone;
   int FIndent = 19;
-  int FOwnDoing = 0;
-  int FInWindow = 0;  // How deep in the window's own procedure.
+  bool FOwnDoing = false;  // What the window tells now is our own doing.
+  bool FInWindow = false;  // In the window's own procedure.
   bool FHideSelection = true;
   bool FReadOnly = false;
   bool FRightClickSelect = false;

@@ -2,22 +2,12 @@
 #include <utility>
 
 #include "vcl/controls/windowmessages.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/stdctrls/private/commoncontrols.h"
 #include "vcl/stdctrls/treeview.h"
 
 namespace vcl {
-
-class TCustomTreeView::TOwnDoing {
- public:
-  explicit TOwnDoing(TCustomTreeView& tree) : FTree(tree) { ++FTree.FOwnDoing; }
-  ~TOwnDoing() { --FTree.FOwnDoing; }
-  TOwnDoing(const TOwnDoing&) = delete;
-  TOwnDoing& operator=(const TOwnDoing&) = delete;
-
- private:
-  TCustomTreeView& FTree;
-};
 
 namespace {
 
@@ -49,7 +39,7 @@ void TCustomTreeView::CreateParams(TCreateParams& params) {
 
 void TCustomTreeView::CreateWnd() {
   TWinControl::CreateWnd();
-  const TOwnDoing own(*this);
+  const TSetFor own(FOwnDoing, true, this);
   Send(*this, TVM_SETUNICODEFORMAT, TRUE);
   Send(*this, TVM_SETINDENT, static_cast<WPARAM>(FIndent));
   SendColors();
@@ -63,7 +53,7 @@ void TCustomTreeView::CreateWnd() {
 
 void TCustomTreeView::DestroyWnd() {
   FTop = TopItem();
-  const TOwnDoing own(*this);
+  const TSetFor own(FOwnDoing, true, this);
   TWinControl::DestroyWnd();
 }
 
@@ -113,7 +103,7 @@ void TCustomTreeView::InsertItemsBelow(TTreeNode* parent) {
 
 void TCustomTreeView::RemoveItem(TTreeNode* node) {
   if (!HandleAllocated() || !node->FItem) return;
-  const TOwnDoing own(*this);
+  const TSetFor own(FOwnDoing, true, this);
   Send(*this, TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(node->FItem));
 }
 
@@ -122,12 +112,12 @@ void TCustomTreeView::RemoveItemsBelow(TTreeNode* parent) {
     for (TTreeNode* each = parent->FFirst; each; each = each->FNext) RemoveItem(each);
     return;
   }
-  const TOwnDoing own(*this);
+  const TSetFor own(FOwnDoing, true, this);
   SendIfAllocated(*this, TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
 }
 
 void TCustomTreeView::ExpandItem(const TTreeNode* node) {
-  const TOwnDoing own(*this);
+  const TSetFor own(FOwnDoing, true, this);
   SendIfAllocated(*this, TVM_EXPAND, node->FExpanded ? TVE_EXPAND : TVE_COLLAPSE,
                   reinterpret_cast<LPARAM>(node->FItem));
 }
@@ -138,7 +128,7 @@ void TCustomTreeView::SelectItem(const TTreeNode* node) {
 
 void TCustomTreeView::Reinsert(TTreeNode* node) {
   if (!HandleAllocated()) return;
-  const TOwnDoing own(*this);
+  const TSetFor own(FOwnDoing, true, this);
   RemoveItem(node);
   InsertItem(node);
   InsertItemsBelow(node);
@@ -249,11 +239,7 @@ void TCustomTreeView::TellItem(NMTVDISPINFOW& asked) {
   TVITEMW& item = asked.item;
   TTreeNode* node = NodeOf(item);
   if (!node) return;
-  const struct TTell {
-    TTreeNode*& Telling;
-    TTreeNode* Former;
-    ~TTell() { Telling = Former; }
-  } tell{FTelling, std::exchange(FTelling, node)};
+  const TSetFor telling(FTelling, node, this);
   if (item.mask & TVIF_TEXT) {
     ::lstrcpynW(item.pszText, ToUtf16(GetText(node)).c_str(), item.cchTextMax);
   }
@@ -271,18 +257,20 @@ void TCustomTreeView::TellItem(NMTVDISPINFOW& asked) {
 /// Keeps an event until the window has done with the message that brought it: a handler may free
 /// the tree, and with it the window.
 void TCustomTreeView::Later(TTreeNode* node, std::function<void()> tell) {
-  FPending.push_back({node ? std::make_unique<TTreeNodeWatch>(node) : nullptr, std::move(tell)});
+  FPending.push_back({TWatch(node), std::move(tell)});
 }
 
 void TCustomTreeView::DefaultHandler(TMessage& message) {
   TWatch watch(this);
-  ++FInWindow;
-  TWinControl::DefaultHandler(message);
-  if (watch.Gone() || --FInWindow > 0) return;
+  {
+    const TSetFor inside(FInWindow, true, this);
+    TWinControl::DefaultHandler(message);
+  }
+  if (watch.Gone() || FInWindow) return;
   while (!watch.Gone() && !FPending.empty()) {
     const TPending next = std::move(FPending.front());
     FPending.erase(FPending.begin());
-    if (!next.Watch || !next.Watch->Gone()) next.Tell();
+    if (!next.Node.Gone()) next.Tell();
   }
 }
 
@@ -302,7 +290,7 @@ void TCustomTreeView::NotifyOfExpansion(const NMTREEVIEWW& told, TMessage& messa
   if (!node) return;
   const bool expand = told.action == TVE_EXPAND || (told.action == TVE_TOGGLE && !node->FExpanded);
   if (told.hdr.code == static_cast<UINT>(TVN_ITEMEXPANDINGW)) {
-    TTreeNodeWatch watch(node);
+    TWatch watch(node);
     // A node that a handler has deleted is not to be expanded any more.
     message.Result = !(expand ? CanExpand(node) : CanCollapse(node)) || watch.Gone();
     return;
@@ -326,7 +314,7 @@ void TCustomTreeView::NotifyFromWindow(TMessage& message) {
   if (header->code == static_cast<UINT>(TVN_GETDISPINFOW)) {
     return TellItem(*reinterpret_cast<NMTVDISPINFOW*>(header));
   }
-  if (FOwnDoing > 0 || Destroying() || ControlState().Has(csDestroyingHandle)) return;
+  if (FOwnDoing || Destroying() || ControlState().Has(csDestroyingHandle)) return;
   const auto& tree = *reinterpret_cast<const NMTREEVIEWW*>(header);
   switch (header->code) {
     case static_cast<UINT>(TVN_SELCHANGINGW):

@@ -1,8 +1,6 @@
 // Components and items that events may delete while something is done with them.
 #pragma once
 
-#include <memory>
-
 #include "vcl/rtl/component.h"
 #include "vcl/rtl/exceptions.h"
 
@@ -16,18 +14,23 @@ void Guarded(vcl::TComponent* component, const Call& call) {
   if (watch.Gone()) throw vcl::EAbort("The component was freed by one of its events");
 }
 
-/// A pointer that owns nothing and only says how long the object lives.
+/// An item that events may delete while it is worked on.
 template <class T>
-std::shared_ptr<T> LifeOf(T* object) {
-  return {object, [](T*) {}};
-}
+class TLiving {
+ public:
+  explicit TLiving(T& item) : FItem(&item), FWatch(&item) {}
+  /// Null when it has been deleted.
+  T* Get() const { return FWatch.Gone() ? nullptr : FItem; }
+  /// The item. Raises EInvalidOperation when it has been deleted.
+  T& operator*() const {
+    if (T* const item = Get()) return *item;
+    throw vcl::EInvalidOperation("The mail was deleted while it was being sent or received");
+  }
+  T* operator->() const { return &**this; }
 
-/// The item. Raises EInvalidOperation when it has been deleted.
-template <class T>
-T& Living(const std::weak_ptr<T>& life) {
-  const std::shared_ptr<T> item = life.lock();
-  if (item) return *item;
-  throw vcl::EInvalidOperation("The mail was deleted while it was being sent or received");
-}
+ private:
+  T* FItem;
+  vcl::TWatch FWatch;
+};
 
 }  // namespace qel

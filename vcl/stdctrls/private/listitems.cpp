@@ -5,6 +5,7 @@
 
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 
@@ -96,12 +97,8 @@ void TListItems::InsertObject(int index, const std::string& text, TObject* objec
 void TListItems::InsertLine(int index, const std::string& text, TObject* object) {
   // The line comes first: the window may ask for it to be drawn at once.
   FLines.insert(FLines.begin() + index, TLine{text, object, false});
-  try {
-    if (FControl.HandleAllocated()) TellInserted(index, text);
-  } catch (...) {
-    FLines.erase(FLines.begin() + index);
-    throw;
-  }
+  const TOnFailure refused([&] { FLines.erase(FLines.begin() + index); }, &FControl);
+  if (FControl.HandleAllocated()) TellInserted(index, text);
 }
 
 void TListItems::TellInserted(int index, const std::string& text) {
