@@ -2,6 +2,7 @@
 
 #include "vcl/forms/formpicture.h"
 #include "vcl/graphics/png.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/text.h"
 
 namespace ide {
@@ -9,7 +10,7 @@ namespace ide {
 using namespace vcl;
 
 std::string SaveScreenshot(TMainForm& form, const std::string& folder) {
-  MakeFolder(folder);
+  ForceDirectories(folder);
   form.SetFormStyle(fsStayOnTop);
   form.Show();
   TBitmap picture;
