@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/formfile.h"
 #include "vcl/rtl/os.h"
 #include "vcl/rtl/scope.h"
@@ -25,11 +25,6 @@ constexpr std::size_t UndoLimit = std::size_t{64} << 20;
 std::string ReadFile(const std::string& fileName) {
   TFileStream file(fileName, fmOpenRead | fmShareDenyWrite);
   return file.ReadRest();
-}
-
-void WriteFile(const std::string& fileName, const std::string& contents) {
-  if (os::ReplaceWholeFile(fileName, contents)) return;
-  throw EInOutError(Concat("The file ", fileName, " cannot be saved: ", os::LastErrorText()));
 }
 
 /// When the file was written last; 0 when there is none.
@@ -115,7 +110,7 @@ void TFormDocument::LoadAutosaved(const std::string& fileName) {
 }
 
 void TFormDocument::Save(const std::string& fileName) {
-  WriteFile(fileName, Text());
+  ReplaceWholeFile(fileName, Text());
   DiscardAutosave();
   FFileName = fileName;
   FFileTime = TimeOf(fileName);
@@ -203,13 +198,13 @@ bool TFormDocument::HasAutosave(const std::string& fileName) {
 
 void TFormDocument::Autosave() {
   if (!Modified() || CopyOf().empty() || FAutosaved == FHistory.Present()) return;
-  WriteFile(AutosaveName(CopyOf()), Text());
+  ReplaceWholeFile(AutosaveName(CopyOf()), Text());
   FAutosaved = FHistory.Present();
 }
 
 void TFormDocument::DiscardAutosave() {
   FAutosaved.clear();
-  if (!CopyOf().empty()) ::DeleteFileW(ToUtf16(AutosaveName(CopyOf())).c_str());
+  if (!CopyOf().empty()) DeleteFile(AutosaveName(CopyOf()));
 }
 
 }  // namespace ide

@@ -3,10 +3,9 @@
 
 #include "ide/cpptext.h"
 #include "ide/standins.h"
-#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/keptdata.h"
-#include "vcl/rtl/os.h"
-#include "vcl/rtl/sharedfile.h"
 #include "vcl/rtl/text.h"
 
 namespace ide {
@@ -36,14 +35,11 @@ void AddField(TComponent& component, TUnitForm& form) {
 }
 
 std::string ReadPresent(const std::string& fileName) {
-  std::string contents;
-  if (os::ReadWholeFile(fileName, contents) != os::TReading::Refused) return contents;
-  throw EInOutError(Concat("The file ", fileName, " cannot be read: ", os::LastErrorText()));
+  return ReadWholeFile(fileName).value_or(std::string());
 }
 
 void Replace(const std::string& fileName, const std::string& before, const std::string& contents) {
-  if (before == contents || os::ReplaceWholeFile(fileName, contents)) return;
-  throw EInOutError(Concat("The file ", fileName, " cannot be saved: ", os::LastErrorText()));
+  if (before != contents) ReplaceWholeFile(fileName, contents);
 }
 
 }  // namespace
@@ -75,13 +71,11 @@ TUnitForm UnitFormOf(TComponent& root, const THandlers& handlers, const std::str
 
 std::vector<std::string> WriteUnitFiles(TComponent& root, const THandlers& handlers,
                                         const std::string& formFile) {
-  const std::size_t name = formFile.find_last_of("/\\") + 1;  // npos + 1 is 0.
-  const std::size_t dot = formFile.rfind('.');
-  const std::string stem =
-      dot == std::string::npos || dot < name ? formFile : formFile.substr(0, dot);
-  const std::string headerFile = stem + ".h", sourceFile = stem + ".cpp";
+  const std::string headerFile = ChangeFileExt(formFile, ".h");
+  const std::string sourceFile = ChangeFileExt(formFile, ".cpp");
+  const std::string unit = ChangeFileExt(ExtractFileName(formFile), {});
   std::vector<std::string> notes;
-  const TUnitForm form = UnitFormOf(root, handlers, stem.substr(name), notes);
+  const TUnitForm form = UnitFormOf(root, handlers, unit, notes);
   const std::string header = ReadPresent(headerFile), source = ReadPresent(sourceFile);
   TUnitTexts texts = WriteUnit(form, header, source);
   // The header last: a source alone, as a broken attempt leaves it, can be brought up to date.

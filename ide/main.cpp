@@ -13,7 +13,7 @@
 #include "ide/screenshot.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/standardclasses.h"
-#include "vcl/rtl/utf16.h"
+#include "vcl/rtl/files.h"
 
 namespace {
 
@@ -62,7 +62,7 @@ bool Parse(int argc, char** argv, TOptions& options) {
 
 int Preview(const TOptions& options) {
   const int code = RunPreview(options.Preview, options.Start.Packages);
-  if (options.Remove) ::DeleteFileW(vcl::ToUtf16(options.Preview).c_str());
+  if (options.Remove) vcl::DeleteFile(options.Preview);
   return code;
 }
 

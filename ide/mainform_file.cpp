@@ -1,10 +1,8 @@
 // TMainForm: files.
-#include <filesystem>
-
 #include "ide/mainform.h"
-#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/text.h"
-#include "vcl/rtl/utf16.h"
 
 namespace ide {
 
@@ -16,19 +14,8 @@ void TMainForm::OpenClick(TObject*) {
   if (OpenDialog->Execute()) Open(OpenDialog->FileName());
 }
 
-namespace {
-
-/// The same wherever the current folder is later.
-std::string FullName(const std::string& fileName) {
-  std::error_code error;
-  const std::filesystem::path full = std::filesystem::absolute(ToUtf16(fileName), error);
-  return error ? fileName : ToUtf8(full.wstring());
-}
-
-}  // namespace
-
 bool TMainForm::Open(const std::string& name) {
-  const std::string fileName = FullName(name);
+  const std::string fileName = ExpandFileName(name);
   if (TFormDesigner* open = FForms->OfFile(fileName)) {
     WorkOn(*open);
     return true;
@@ -103,8 +90,7 @@ void TMainForm::CheckFiles() {
 
 void TMainForm::OfferFile(TFormDocument& document) {
   const std::string name = document.FileName();
-  std::error_code missing;
-  if (!std::filesystem::exists(ToUtf16(name), missing)) {
+  if (!FileExists(name)) {
     Tell(Concat("The file ", name, " is no longer there; saving the form writes it again"));
   } else if (Application()->MessageBox(
                  Concat(name,
@@ -134,11 +120,10 @@ void TMainForm::NoteCopies() {
 /// Offers what former runs lost. A form that has no file and is not wanted is gone then.
 void TMainForm::OfferLost() {
   for (const std::string& file : FRecovery->TakeLost()) {
-    std::error_code missing;
     if (WantsCopy(file)) {
       OpenFile(file, true);
-    } else if (!std::filesystem::exists(ToUtf16(file), missing)) {
-      ::DeleteFileW(ToUtf16(TFormDocument::AutosaveName(file)).c_str());
+    } else if (!FileExists(file)) {
+      DeleteFile(TFormDocument::AutosaveName(file));
     }
   }
   NoteCopies();

@@ -6,6 +6,7 @@
 
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
@@ -144,7 +145,7 @@ std::string ShortName(TFormDesigner& designer) {
   const TFormDocument& document = designer.Document();
   const std::string& name = document.FileName();
   if (name.empty()) return document.Root().Name();
-  return name.substr(name.find_last_of("\\/") + 1);  // npos + 1 is 0.
+  return ExtractFileName(name);
 }
 
 // What is shown.

@@ -7,10 +7,10 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/forms.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/formfile.h"
-#include "vcl/rtl/os.h"
-#include "vcl/rtl/sharedfile.h"
 #include "vcl/rtl/streams.h"
+#include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
@@ -27,7 +27,7 @@ std::string TemporaryFile() {
   wchar_t name[MAX_PATH + 1] = L"";
   ::GetTempPathW(MAX_PATH, folder);
   if (::GetTempFileNameW(folder, L"dfm", 0, name) == 0) {
-    throw EInOutError(Concat("No temporary file can be made: ", os::LastErrorText()));
+    RaiseLastOSError<EInOutError>("No temporary file can be made");
   }
   return ToUtf8(name);
 }
@@ -41,7 +41,7 @@ void StartProcess(const std::string& commandLine) {
   std::wstring line = ToUtf16(commandLine);
   if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
                         &process)) {
-    throw EInOutError(Concat("The preview cannot be started: ", os::LastErrorText()));
+    RaiseLastOSError<EInOutError>("The preview cannot be started");
   }
   ::CloseHandle(process.hThread);
   ::CloseHandle(process.hProcess);
@@ -57,12 +57,9 @@ class TPreviewForm : public TForm {
 
 void StartPreview(const std::string& text, const TPackages& packages) {
   const std::string file = TemporaryFile();
-  if (!os::ReplaceWholeFile(file, text)) {
-    throw EInOutError(Concat("The file ", file, " cannot be written: ", os::LastErrorText()));
-  }
-  wchar_t program[MAX_PATH + 1] = L"";
-  ::GetModuleFileNameW(nullptr, program, MAX_PATH);
-  std::string line = Concat(Quoted(ToUtf8(program)), " --preview ", Quoted(file), " --remove");
+  ReplaceWholeFile(file, text);
+  std::string line =
+      Concat(Quoted(Application()->ExeName()), " --preview ", Quoted(file), " --remove");
   for (const auto& each : packages.Entries()) {
     if (each->Package) line += Concat(" --package ", Quoted(each->FileName));
   }

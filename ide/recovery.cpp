@@ -2,6 +2,7 @@
 #include "ide/recovery.h"
 
 #include "vcl/rtl/convert.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
@@ -45,9 +46,7 @@ TRecovery::~TRecovery() {
 }
 
 std::string TRecovery::NewName() {
-  const std::string& settings = FSettings.FileName();
-  const std::string folder = settings.substr(0, settings.find_last_of("\\/") + 1);
-  return Concat(folder, FRun, "-", IntToStr(++FCount), ".dfm");
+  return Concat(ExtractFilePath(FSettings.FileName()), FRun, "-", IntToStr(++FCount), ".dfm");
 }
 
 void TRecovery::SetFiles(const std::vector<std::string>& files) {

@@ -3,6 +3,7 @@
 
 #include "vcl/forms/formpicture.h"
 #include "vcl/graphics/png.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/text.h"
 
 namespace ide {
@@ -10,7 +11,7 @@ namespace ide {
 using namespace vcl;
 
 std::string SaveScreenshot(TMainForm& form, const std::string& folder) {
-  MakeFolder(folder);
+  ForceDirectories(folder);
   form.SetFormStyle(fsStayOnTop);
   form.Show();
   TBitmap picture;

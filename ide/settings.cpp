@@ -3,14 +3,15 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 
 #include "vcl/rtl/convert.h"
+#include "vcl/rtl/customapplication.h"
+#include "vcl/rtl/filenames.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/inifile.h"
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
-#include "vcl/rtl/win32.h"
 
 namespace ide {
 
@@ -20,21 +21,9 @@ namespace {
 
 constexpr std::size_t RecentLimit = 9;
 
-std::string FolderOf(const std::string& fileName) {
-  return fileName.substr(0, fileName.find_last_of("\\/"));
-}
-
 }  // namespace
 
-std::string ProgramFolder() {
-  std::wstring name(MAX_PATH, L'\0');
-  DWORD size = 0;
-  while ((size = ::GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size()))) ==
-         name.size()) {
-    name.resize(2 * name.size());
-  }
-  return FolderOf(ToUtf8(name.substr(0, size)));
-}
+std::string ProgramFolder() { return ExtractFileDir(BaseApplication().ExeName()); }
 
 std::string TSettings::DefaultFileName() {
   const wchar_t* folder = ::_wgetenv(L"APPDATA");
@@ -52,10 +41,10 @@ std::vector<std::string> TSettings::List(const std::string& section) const {
 }
 
 void TSettings::SetList(const std::string& section, const std::vector<std::string>& lines) const {
-  std::error_code ignored;  // Writing says what is wrong.
-  std::filesystem::create_directories(ToUtf16(FolderOf(FFileName)), ignored);
   TIniFile file(FFileName);
   if (file.SectionExists(section)) file.EraseSection(section);
+  const std::string folder = ExtractFileDir(FFileName);
+  if (!lines.empty() && !folder.empty()) ForceDirectories(folder);
   for (std::size_t i = 0; i < lines.size(); ++i) {
     file.WriteString(section, IntToStr(static_cast<std::int64_t>(i) + 1), lines[i]);
   }

@@ -3,6 +3,7 @@
 
 #include "vcl/forms/formpicture.h"
 #include "vcl/graphics/png.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/text.h"
 
 namespace gallery {
@@ -23,7 +24,7 @@ std::string FileName(const std::string& folder, const std::string& caption) {
 }  // namespace
 
 std::vector<std::string> SaveScreenshots(TGalleryForm& form, const std::string& folder) {
-  vcl::MakeFolder(folder);
+  vcl::ForceDirectories(folder);
   form.SetFormStyle(fsStayOnTop);
   form.Show();
   std::vector<std::string> names;

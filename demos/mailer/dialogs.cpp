@@ -1,6 +1,7 @@
 // The forms for writing a mail and for the account.
 #include "demos/mailer/dialogs.h"
 
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 
@@ -54,9 +55,9 @@ void TComposeForm::AttachClick(TObject*) {
 // All files travel under their names alone.
 void TComposeForm::AddFile(const std::string& fileName) {
   for (const std::string& other : Draft().Files) {
-    if (!SameText(NamePart(other), NamePart(fileName))) continue;
-    MessageDlg(Concat("There is a file ", NamePart(fileName), " in this mail already."), mtWarning,
-               {mbOK});
+    if (!SameText(ExtractFileName(other), ExtractFileName(fileName))) continue;
+    MessageDlg(Concat("There is a file ", ExtractFileName(fileName), " in this mail already."),
+               mtWarning, {mbOK});
     return;
   }
   FileList->Items()->Add(fileName);

@@ -41,8 +41,6 @@ void AddLines(vcl::TStrings& lines, std::string_view paragraph) {
 
 }  // namespace
 
-std::string NamePart(const std::string& path) { return path.substr(path.find_last_of("/\\:") + 1); }
-
 void FillMessage(qel::TQELMessage& message, const TDraft& draft, const TAccount& account) {
   message.SetFromName(account.Name);
   message.SetFromMail(account.Address);

@@ -16,8 +16,6 @@ struct TDraft {
   std::vector<std::string> Files;  ///< To be attached, with their folders.
 };
 
-/// A path's last part. What names a file in a mail may come from a system with other separators.
-std::string NamePart(const std::string& path);
 /// Fills a message with the draft, without its files.
 void FillMessage(qel::TQELMessage& message, const TDraft& draft, const TAccount& account);
 /// The time of now as mails have it (RFC 822), in a form for FormatDateTime that keeps it.

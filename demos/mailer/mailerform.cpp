@@ -3,6 +3,7 @@
 
 #include "demos/common/commandline.h"
 #include "vcl/forms/application.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 
@@ -98,7 +99,8 @@ void TMailerForm::ShowMail(int index) {
   TextMemo->SetText(mail.Message()->Text());
   AttachmentList->Items()->Clear();
   for (int i = 0; i < mail.Attachments()->Count(); ++i) {
-    AttachmentList->Items()->Add(NamePart(mail.Attachments()->GeTQELAttachment(i)->FileName()));
+    AttachmentList->Items()->Add(
+        ExtractFileName(mail.Attachments()->GeTQELAttachment(i)->FileName()));
   }
   if (mail.Attachments()->Count() > 0) AttachmentList->SetItemIndex(0);
   AttachmentListClick(nullptr);
@@ -114,7 +116,7 @@ void TMailerForm::SaveClick(TObject*) {
                                                ->Attachments()
                                                ->GeTQELAttachment(AttachmentList->ItemIndex());
   // The sender has chosen the name, and must not choose a folder with it.
-  SaveDialog->SetFileName(NamePart(attachment.FileName()));
+  SaveDialog->SetFileName(ExtractFileName(attachment.FileName()));
   if (SaveDialog->Execute()) attachment.SaveToFile(SaveDialog->FileName());
 }
 

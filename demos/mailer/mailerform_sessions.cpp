@@ -5,6 +5,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/text.h"
 
 namespace mailer {
@@ -64,7 +65,7 @@ void TMailerForm::Send(const TDraft& draft) {
   Sender->Messages()->Clear();
   qel::TQELMessage& message = *Sender->Messages()->Add();
   FillMessage(message, draft, FAccount);
-  for (const std::string& file : draft.Files) message.Attachments()->Add(NamePart(file));
+  for (const std::string& file : draft.Files) message.Attachments()->Add(ExtractFileName(file));
   Tell("The mail is being sent");
   FSent = false;
   RunSession(*Sender);

@@ -10,8 +10,8 @@
 #include "demos/mailer/mailerform.h"
 #include "demos/mailer/roundtrip.h"
 #include "vcl/forms/application.h"
-#include "vcl/forms/formpicture.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/files.h"
 
 namespace {
 
@@ -39,7 +39,7 @@ int RunUnseen(TMailerForm& form, const std::string& folder) {
 
 int RunMailer() {
   const demos::TCommandLine& line = demos::CommandLine();
-  vcl::MakeFolder(line.SettingsFolder);
+  vcl::ForceDirectories(line.SettingsFolder);
   Application()->Initialize();
   Application()->SetTitle("Mailer");
   auto* form = Application()->CreateForm<TMailerForm>();

@@ -1,10 +1,11 @@
 // TOutbox: copying the files into one folder, and removing it.
 #include "demos/mailer/outbox.h"
 
-#include "demos/mailer/draft.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/scope.h"
-#include "vcl/rtl/text.h"
+#include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
 
@@ -17,24 +18,27 @@ TOutbox::TOutbox(const std::vector<std::string>& files)
       FFolder(fs::temp_directory_path() /
               vcl::ToUtf16("mailer-" + std::to_string(::GetCurrentProcessId()))) {
   const vcl::TOnFailure clear([this] { Clear(); });
-  try {
-    fs::create_directories(FFolder);
-    for (const std::string& file : files) CopyHere(file);
-    fs::current_path(FFolder);
-  } catch (const fs::filesystem_error& error) {
-    throw vcl::EInOutError(error.what());
-  }
+  vcl::ForceDirectories(vcl::ToUtf8(FFolder.wstring()));
+  for (const std::string& file : files) CopyHere(file);
+  Enter();
 }
 
 TOutbox::~TOutbox() { Clear(); }
 
 void TOutbox::CopyHere(const std::string& file) const {
   std::error_code error;
-  const fs::path copy = FFolder / vcl::ToUtf16(NamePart(file));
+  const fs::path copy = FFolder / vcl::ToUtf16(vcl::ExtractFileName(file));
   fs::copy_file(vcl::ToUtf16(file), copy, error);
   if (error) {
-    throw vcl::EInOutError(
-        vcl::Concat("The file ", file, " cannot be attached: ", error.message()));
+    vcl::RaiseOSError<vcl::EInOutError>(error.value(), "The file ", file, " cannot be attached");
+  }
+}
+
+void TOutbox::Enter() const {
+  std::error_code error;
+  fs::current_path(FFolder, error);
+  if (error) {
+    vcl::RaiseOSError<vcl::EInOutError>(error.value(), "The folder of the files cannot be used");
   }
 }
 

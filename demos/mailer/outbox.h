@@ -19,6 +19,7 @@ class TOutbox {
 
  private:
   void CopyHere(const std::string& file) const;
+  void Enter() const;
   void Clear() const;
 
   std::filesystem::path FFormer, FFolder;

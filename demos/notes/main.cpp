@@ -9,7 +9,7 @@
 #include "demos/notes/notesform.h"
 #include "demos/notes/screenshots.h"
 #include "vcl/forms/application.h"
-#include "vcl/forms/formpicture.h"
+#include "vcl/rtl/files.h"
 
 namespace {
 
@@ -18,7 +18,7 @@ using vcl::Application;
 
 int RunNotes() {
   const demos::TCommandLine& line = demos::CommandLine();
-  vcl::MakeFolder(line.SettingsFolder);
+  vcl::ForceDirectories(line.SettingsFolder);
   Application()->Initialize();
   // The guard knows copies of the program by this title.
   Application()->SetTitle("Notes");

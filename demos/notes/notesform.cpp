@@ -4,6 +4,7 @@
 #include "demos/common/commandline.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
@@ -176,9 +177,7 @@ void TNotesForm::GuardExceeded(TObject*, int) {
   const std::string& fileName = demos::CommandLine().FileName;
   const HWND other = fileName.empty() ? nullptr : ::FindWindowW(L"TNotesForm", nullptr);
   if (!other) return;
-  wchar_t full[MAX_PATH] = L"";
-  ::GetFullPathNameW(ToUtf16(fileName).c_str(), MAX_PATH, full, nullptr);
-  std::string text = ToUtf8(full);
+  std::string text = ExpandFileName(fileName);
   COPYDATASTRUCT data{FileToOpen, static_cast<DWORD>(text.size()), text.data()};
   constexpr UINT patience = 5000;
   ::SendMessageTimeoutW(other, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data), SMTO_ABORTIFHUNG,

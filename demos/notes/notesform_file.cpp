@@ -4,6 +4,7 @@
 #include "demos/common/commandline.h"
 #include "demos/notes/notesform.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
@@ -11,18 +12,6 @@
 namespace notes {
 
 using namespace vcl;
-
-namespace {
-
-std::string FullName(const std::string& fileName) {
-  const std::wstring name = ToUtf16(fileName);
-  std::wstring full(::GetFullPathNameW(name.c_str(), 0, nullptr, nullptr), L'\0');
-  full.resize(
-      ::GetFullPathNameW(name.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
-  return full.empty() ? fileName : ToUtf8(full);
-}
-
-}  // namespace
 
 bool TNotesForm::TStamp::operator==(const TStamp& other) const {
   return ::CompareFileTime(&Written, &other.Written) == 0 && Size == other.Size;
@@ -35,7 +24,7 @@ TNotesForm::TStamp TNotesForm::StampOf(const std::string& fileName) {
 }
 
 std::string TNotesForm::DocumentName() const {
-  return FFileName.empty() ? "Untitled" : FFileName.substr(FFileName.find_last_of("\\/") + 1);
+  return FFileName.empty() ? "Untitled" : ExtractFileName(FFileName);
 }
 
 // Opening.
@@ -52,7 +41,7 @@ void TNotesForm::ShowText(const std::string& fileName, const TText& text) {
 }
 
 void TNotesForm::Open(const std::string& fileName) {
-  const std::string full = FullName(fileName);
+  const std::string full = ExpandFileName(fileName);
   const TText text = ReadTextFile(full);
   ShowText(full, text);
   FRecovery.Discard();

@@ -1,12 +1,9 @@
 // TRecovery: keeping unsaved text in a file, and finding it again.
 #include "demos/notes/recovery.h"
 
-#include <filesystem>
-
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/streams.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/text.h"
-#include "vcl/rtl/utf16.h"
 
 namespace notes {
 
@@ -46,23 +43,19 @@ void TRecovery::Keep(const TUnsaved& unsaved) const {
 }
 
 std::optional<TUnsaved> TRecovery::Find() const {
-  const std::filesystem::path path(ToUtf16(FFileName));
-  std::error_code ignored;
-  if (!std::filesystem::exists(path, ignored)) return {};
   try {
-    const std::string bytes = TFileStream(FFileName, fmOpenRead | fmShareDenyNone).ReadRest();
-    return Parse(bytes, FFileName);
+    const auto bytes = ReadWholeFile(FFileName);
+    if (!bytes) return {};
+    return Parse(*bytes, FFileName);
   } catch (const Exception& error) {
     const std::string aside = FFileName + ".damaged";
-    std::filesystem::rename(path, ToUtf16(aside), ignored);
+    DeleteFile(aside);
+    RenameFile(FFileName, aside);
     throw EInOutError(
         Concat("Unsaved text cannot be read: ", error.what(), ". It is in ", aside, " now"));
   }
 }
 
-void TRecovery::Discard() const {
-  std::error_code ignored;
-  std::filesystem::remove(ToUtf16(FFileName), ignored);
-}
+void TRecovery::Discard() const { DeleteFile(FFileName); }
 
 }  // namespace notes

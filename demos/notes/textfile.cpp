@@ -4,10 +4,10 @@
 #include <algorithm>
 
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/streams.h"
+#include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"
-#include "vcl/rtl/utf16.h"
-#include "vcl/rtl/win32.h"
 
 namespace notes {
 
@@ -86,27 +86,6 @@ std::string WithEnds(std::string_view text, TLineEnds ends) {
   return result;
 }
 
-[[noreturn]] void RefuseByError(const std::string& name, const char* what, DWORD error) {
-  wchar_t text[300] = L"";
-  ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0,
-                   text, 300, nullptr);
-  const std::string reason = ToUtf8(text);
-  Refuse(name, Concat(what, ": ", Trim(reason)));
-}
-
-DWORD WriteWhole(const std::wstring& name, const std::string& bytes) {
-  const HANDLE file = ::CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return ::GetLastError();
-  DWORD done = 0;
-  const auto size = static_cast<DWORD>(bytes.size());
-  const bool whole = ::WriteFile(file, bytes.data(), size, &done, nullptr) && done == size &&
-                     ::FlushFileBuffers(file);
-  const DWORD error = whole ? ERROR_SUCCESS : ::GetLastError();
-  ::CloseHandle(file);
-  return whole ? ERROR_SUCCESS : std::max<DWORD>(error, ERROR_INVALID_FUNCTION);
-}
-
 }  // namespace
 
 TText DecodeText(std::string_view bytes, const std::string& name) {
@@ -130,10 +109,8 @@ std::string EncodeText(std::string_view text, const TTextFormat& format) {
 }
 
 TText ReadTextFile(const std::string& fileName) {
-  const DWORD attributes = ::GetFileAttributesW(ToUtf16(fileName).c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES)
-    RefuseByError(fileName, "cannot be opened", ::GetLastError());
-  if (attributes & FILE_ATTRIBUTE_DIRECTORY) Refuse(fileName, "is a folder");
+  if (DirectoryExists(fileName)) Refuse(fileName, "is a folder");
+  if (!FileExists(fileName)) RaiseLastOSError<EInOutError>(fileName, " cannot be opened");
   TFileStream file(fileName, fmOpenRead | fmShareDenyNone);
   if (file.Size() > LargestFile) {
     Refuse(fileName,
@@ -144,24 +121,9 @@ TText ReadTextFile(const std::string& fileName) {
 }
 
 void ReplaceContents(const std::string& fileName, const std::string& bytes) {
-  constexpr const char* failed = "cannot be saved";
-  const std::wstring name = ToUtf16(fileName);
-  const std::wstring beside = name + L".~notes";
-  const DWORD attributes = ::GetFileAttributesW(name.c_str());
-  const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
-  if (exists && attributes & FILE_ATTRIBUTE_DIRECTORY) Refuse(fileName, "is a folder");
-  if (exists && attributes & FILE_ATTRIBUTE_READONLY)
-    Refuse(fileName, "cannot be saved: it may only be read");
-  DWORD error = WriteWhole(beside, bytes);
-  if (error == ERROR_SUCCESS) {
-    if (exists) ::SetFileAttributesW(beside.c_str(), attributes);
-    if (::MoveFileExW(beside.c_str(), name.c_str(),
-                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-      return;
-    error = ::GetLastError();
-  }
-  ::DeleteFileW(beside.c_str());
-  RefuseByError(fileName, failed, error);
+  if (DirectoryExists(fileName)) Refuse(fileName, "is a folder");
+  if (FileIsReadOnly(fileName)) Refuse(fileName, "cannot be saved: it may only be read");
+  ReplaceWholeFile(fileName, bytes);
 }
 
 }  // namespace notes

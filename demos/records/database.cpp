@@ -1,9 +1,8 @@
 // Connecting to the database file, and making its table with samples when there is none.
 #include "demos/records/database.h"
 
-#include <filesystem>
-
 #include "vcl/db/odbcquery.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
@@ -18,8 +17,7 @@ std::string NameForDriver(const std::string& fileName) {
   const auto unixName = reinterpret_cast<TUnixName>(reinterpret_cast<void*>(
       ::GetProcAddress(::GetModuleHandleA("kernel32"), "wine_get_unix_file_name")));
   if (!unixName) return fileName;
-  const std::filesystem::path path = std::filesystem::absolute(vcl::ToUtf16(fileName));
-  char* found = unixName(path.c_str());
+  char* found = unixName(vcl::ToUtf16(vcl::ExpandFileName(fileName)).c_str());
   const std::string name = found ? found : fileName;
   ::HeapFree(::GetProcessHeap(), 0, found);
   return name;

@@ -11,6 +11,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/formpicture.h"
 #include "vcl/graphics/png.h"
+#include "vcl/rtl/files.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ using records::TRecordsForm;
 using vcl::Application;
 
 int TakeScreenshot(TRecordsForm& form, const std::string& folder) {
-  vcl::MakeFolder(folder);
+  vcl::ForceDirectories(folder);
   const std::string text = folder + "\\people.csv";
   form.Open(folder + "\\people.db");
   form.Export(text);

@@ -5,6 +5,7 @@
 
 #include "demos/records/database.h"
 #include "vcl/rtl/convert.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
@@ -13,13 +14,6 @@
 namespace records {
 
 using namespace vcl;
-
-namespace {
-
-/// The status bar has no room for folders.
-std::string NamePart(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
-
-}  // namespace
 
 const TClass& TRecordsForm::Class() {
   using T = TRecordsForm;
@@ -92,7 +86,8 @@ void TRecordsForm::Export(const std::string& fileName) {
   FDone = FCount = 0;
   Transfer->SetFilename(fileName);
   Transfer->DoExport();
-  StatusBar->SetSimpleText(Concat(IntToStr(FCount), " records written to ", NamePart(fileName)));
+  StatusBar->SetSimpleText(
+      Concat(IntToStr(FCount), " records written to ", ExtractFileName(fileName)));
 }
 
 void TRecordsForm::RecordWritten(TObject*, std::string) {
@@ -127,7 +122,8 @@ void TRecordsForm::Import(const std::string& fileName) {
   }
   FDone = FAll;  // The header and empty lines have counted for nothing.
   ShowProgress();
-  std::string text = Concat(IntToStr(FCount - FRefused), " records read from ", NamePart(fileName));
+  std::string text =
+      Concat(IntToStr(FCount - FRefused), " records read from ", ExtractFileName(fileName));
   if (FRefused) text += Concat(", ", IntToStr(FRefused), " refused: ", FWhy);
   StatusBar->SetSimpleText(text);
 }

@@ -2,19 +2,14 @@
 #include "qel/mail/Qeltiemails_message.h"
 #include "qel/mail/Qeltiemails_smtp.h"
 #include "qel/mail/private/filenames.h"
+#include "qel/mail/private/living.h"
 #include "qel/mail/private/mimetypes.h"
 #include "vcl/rtl/customapplication.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
 
 namespace qel {
 namespace {
-
-/// With its dot; empty when there is none.
-std::string Extension(std::string_view path) {
-  const std::string_view name = NamePart(path);
-  const std::size_t dot = name.rfind('.');
-  return dot == name.npos ? std::string() : std::string(name.substr(dot));
-}
 
 bool DeleteItem(vcl::TCollection& collection, int index) {
   try {
@@ -85,7 +80,7 @@ TQELAttachments::TQELAttachments(TQELMessage* owner)
 
 TQELAttachment* TQELAttachments::Add(const std::string& fileName) {
   auto* attachment = static_cast<TQELAttachment*>(TCollection::Add());
-  attachment->SetFileName(std::string(NamePart(fileName)));
+  attachment->SetFileName(vcl::ExtractFileName(fileName));
   attachment->SetMimeType(GetMimeType(fileName));
   return attachment;
 }
@@ -93,7 +88,7 @@ TQELAttachment* TQELAttachments::Add(const std::string& fileName) {
 bool TQELAttachments::Delete(int index) { return DeleteItem(*this, index); }
 
 std::string TQELAttachments::GetMimeType(const std::string& fileName) {
-  const std::string type = RegisteredMimeType(Extension(fileName));
+  const std::string type = RegisteredMimeType(vcl::ExtractFileExt(fileName));
   return type.empty() ? "application/octet-stream" : type;
 }
 

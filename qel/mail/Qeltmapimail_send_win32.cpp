@@ -2,10 +2,11 @@
 #include <utility>
 
 #include "qel/mail/Qeltmapimail.h"
-#include "qel/mail/private/filenames.h"
 #include "qel/mail/private/living.h"
 #include "qel/mail/private/simplemapi.h"
 #include "vcl/rtl/customapplication.h"
+#include "vcl/rtl/filenames.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/text.h"
 
 namespace qel {
@@ -21,11 +22,6 @@ int Excess(const TQELMapiMessage& message) {
   if (message.RecipientCount() > MaxRecipients) return MAPI_E_TOO_MANY_RECIPIENTS;
   if (message.Attachments()->Count() > MaxAttachments) return MAPI_E_TOO_MANY_FILES;
   return SUCCESS_SUCCESS;
-}
-
-bool FileExists(const std::string& name) {
-  const DWORD attributes = ::GetFileAttributesA(name.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
 /// The records of one message, with copies of all that they point to.
@@ -64,7 +60,7 @@ class TMapiRecords {
   void PutFiles(const TQELMapiAttachments& attachments) {
     for (int i = 0; i < attachments.Count(); ++i) {
       const std::string& path = attachments.GeTQELMapiAttachment(i)->Filename();
-      FFiles.push_back(FileExists(path) ? TFile{path, std::string(NamePart(path))} : TFile{});
+      FFiles.push_back(vcl::FileExists(path) ? TFile{path, vcl::ExtractFileName(path)} : TFile{});
     }
     for (TFile& each : FFiles) {
       MapiFileDesc& record = FFileRecords.emplace_back();

@@ -11,6 +11,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/scope.h"
+#include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"
 
 namespace qel {
@@ -122,7 +123,7 @@ void TQELExplorerTree::SetDirectory(const std::string& name) {
     return;
   }
   if (!OnFindDirectory && !folders::Exists(path)) {
-    folders::RaiseInOut("There is no folder", path, ERROR_PATH_NOT_FOUND);
+    vcl::RaiseOSError<vcl::EInOutError>(ERROR_PATH_NOT_FOUND, "There is no folder '", path, "'");
   }
   if (!Allowed(path)) {
     throw vcl::EInOutError(

@@ -10,7 +10,8 @@
 
 namespace {
 
-constexpr const char* Self = "test_notes.exe";
+/// What writes the documents.
+constexpr const char* Library = "qelhost.dll";
 
 [[noreturn]] void EndHere() {
   ::TerminateProcess(::GetCurrentProcess(), 42);
@@ -23,7 +24,7 @@ bool IsDocument(HANDLE file) {
   return std::wcsstr(name, L"document") != nullptr;
 }
 
-/// The system's function, whatever this program's import table has in its place.
+/// The system's function, whatever the library's import table has in its place.
 template <class F>
 F* Real(F*, const char* name) {
   return reinterpret_cast<F*>(
@@ -53,11 +54,11 @@ int RunUntilIt(int count, char** arguments) {
   if (!demos::ReadCommandLine(count, arguments, "Notes")) return 2;
   std::unique_ptr<TImportPatch> patch;
   if (function == "WriteFile")
-    patch = std::make_unique<TImportPatch>(Self, "WriteFile", &HalfWrite);
+    patch = std::make_unique<TImportPatch>(Library, "WriteFile", &HalfWrite);
   if (function == "FlushFileBuffers")
-    patch = std::make_unique<TImportPatch>(Self, "FlushFileBuffers", &NoFlush);
+    patch = std::make_unique<TImportPatch>(Library, "FlushFileBuffers", &NoFlush);
   if (function == "MoveFileExW")
-    patch = std::make_unique<TImportPatch>(Self, "MoveFileExW", &NoMove);
+    patch = std::make_unique<TImportPatch>(Library, "MoveFileExW", &NoMove);
   Application()->Initialize();
   Application()->SetTitle("Notes");
   Application()->CreateForm<notes::TNotesForm>();

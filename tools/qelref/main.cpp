@@ -6,13 +6,13 @@
 #include "tools/qelref/reference.h"
 #include "vcl/designintf/package.h"
 #include "vcl/rtl/customapplication.h"
+#include "vcl/rtl/filenames.h"
 
 namespace {
 
 /// The package lies beside the program, wherever the program is started from.
 std::string PackageFile() {
-  const std::string program = vcl::BaseApplication().ExeName();
-  return program.substr(0, program.find_last_of("/\\") + 1) + "qel.dll";
+  return vcl::ExtractFilePath(vcl::BaseApplication().ExeName()) + "qel.dll";
 }
 
 int Usage() {

@@ -9,7 +9,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/module.h"
 #include "vcl/rtl/classregistry.h"
-#include "vcl/rtl/os.h"
+#include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
@@ -53,8 +53,7 @@ TPackage::TPackage(const std::string& fileName) : FFileName(fileName) {
       ToUtf16(fileName).c_str(), nullptr,
       fileName.find_first_of("/\\") == std::string::npos ? 0 : LOAD_WITH_ALTERED_SEARCH_PATH);
   if (!FModule) {
-    throw EPackageError(
-        Concat("The package ", fileName, " cannot be loaded: ", os::LastErrorText()));
+    RaiseLastOSError<EPackageError>("The package ", fileName, " cannot be loaded");
   }
   const auto refuse = [&](const char* why) {
     ::FreeLibrary(static_cast<HMODULE>(FModule));

@@ -2,7 +2,6 @@
 #include "vcl/forms/formpicture.h"
 
 #include <cstring>
-#include <filesystem>
 
 #include "vcl/forms/application.h"
 #include "vcl/rtl/exceptions.h"
@@ -40,14 +39,6 @@ bool SamePixels(const TBitmap& a, const TBitmap& b) {
 }
 
 }  // namespace
-
-void MakeFolder(const std::string& folder) {
-  std::error_code error;
-  std::filesystem::create_directories(ToUtf16(folder), error);
-  if (error) {
-    throw EInOutError(Concat("The folder ", folder, " cannot be made: ", error.message()));
-  }
-}
 
 void TakePicture(TCustomForm& form, TFormPart part, TBitmap& picture) {
   constexpr int attempts = 50;

@@ -1,16 +1,11 @@
 // Pictures of forms as they stand on the screen, for programs that run unseen.
 #pragma once
 
-#include <string>
-
 #include "vcl/forms/forms.h"
 #include "vcl/graphics/bitmap.h"
 #include "vcl/rtl/api.h"
 
 namespace vcl {
-
-/// Makes the folder, and those around it, when it is not there. Raises EInOutError.
-VCL_API void MakeFolder(const std::string& folder);
 
 /// What of a form is on its picture: its client area, or all with caption and menu.
 enum class TFormPart { Inside, Whole };

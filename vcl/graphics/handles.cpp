@@ -4,14 +4,16 @@
 
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/os.h"
+#include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
 
 void RaiseOutOfResources(const std::string& what) {
+  const int code = LastSystemError();
   // GDI refuses many things without leaving an error code.
-  const std::string reason = ::GetLastError() ? os::LastErrorText() : "no reason is given";
+  const std::string reason = code ? SysErrorMessage(code) : "no reason is given";
   throw EOutOfResources(Concat("The system refused ", what, ": ", reason));
 }
 

@@ -2,6 +2,7 @@
 #include "vcl/graphics/picture.h"
 
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/filer.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/streams.h"
@@ -28,11 +29,6 @@ std::unique_ptr<TGraphic> MakeBy(const char* TKind::*what, const std::string& te
   for (const TKind& kind : Kinds)
     if (SameText(kind.*what, text)) return kind.Make();
   throw EInvalidGraphic(Concat("\"", text, "\" is no known kind of picture"));
-}
-
-std::string Extension(const std::string& fileName) {
-  const auto dot = fileName.find_last_of("./\\:");
-  return dot == std::string::npos || fileName[dot] != '.' ? "" : fileName.substr(dot);
 }
 
 }  // namespace
@@ -70,7 +66,7 @@ TIcon* TPicture::Icon() {
 }
 
 void TPicture::LoadFromFile(const std::string& fileName) {
-  auto graphic = MakeBy(&TKind::Extension, Extension(fileName));
+  auto graphic = MakeBy(&TKind::Extension, ExtractFileExt(fileName));
   graphic->LoadFromFile(fileName);
   Take(std::move(graphic));
 }

@@ -6,7 +6,8 @@
 #include <cstdlib>
 
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/os.h"
+#include "vcl/rtl/filenames.h"
+#include "vcl/rtl/private/os.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 
@@ -40,9 +41,7 @@ TCustomApplication::~TCustomApplication() {
 
 std::string TCustomApplication::Title() const {
   if (!FTitle.empty()) return FTitle;
-  std::string name = ExeName();
-  name.erase(0, name.find_last_of("/\\") + 1);
-  return name.substr(0, name.rfind('.'));
+  return ChangeFileExt(ExtractFileName(ExeName()), {});
 }
 
 std::string TCustomApplication::ExeName() const { return os::ExeName(); }

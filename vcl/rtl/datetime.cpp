@@ -6,7 +6,7 @@
 
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/os.h"
+#include "vcl/rtl/private/os.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {

@@ -3,12 +3,13 @@
 
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/os.h"
 #include "vcl/rtl/private/inicoding.h"
 #include "vcl/rtl/private/initext.h"
+#include "vcl/rtl/private/sharedfile.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/sharedfile.h"
 #include "vcl/rtl/strings.h"
+#include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -32,8 +33,7 @@ std::string FullName(const std::string& fileName) {
 }
 
 [[noreturn]] void Refuse(const char* what, const std::string& fileName) {
-  const std::string reason = os::LastErrorText();
-  throw EIniFileException(Concat("Cannot ", what, " file \"", fileName, "\": ", reason));
+  RaiseLastOSError<EIniFileException>("Cannot ", what, " file \"", fileName, "\"");
 }
 
 /// The file's bytes; none when it is missing.
@@ -50,7 +50,7 @@ class TTurn {
     if (!FTurn.Held()) Refuse("change", fileName);
   }
   void Write(const std::string& bytes) const {
-    if (!os::ReplaceWholeFile(FFileName, bytes)) Refuse("write", FFileName);
+    if (!os::ReplaceWholeFile(FFileName, bytes, os::TWritten::Later)) Refuse("write", FFileName);
   }
 
  private:

@@ -6,8 +6,9 @@
 #include <cstring>
 
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/os.h"
+#include "vcl/rtl/private/os.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -137,10 +138,8 @@ const TClass& TFileStream::Class() {
 TFileStream::TFileStream(const std::string& fileName, int mode)
     : FFileName(fileName), FHandle(os::OpenFile(fileName, mode)) {
   if (FHandle != os::NoFile) return;
-  const std::string reason = os::LastErrorText();
-  if (mode == fmCreate)
-    throw EFCreateError(Concat("Cannot create file \"", fileName, "\": ", reason));
-  throw EFOpenError(Concat("Cannot open file \"", fileName, "\": ", reason));
+  if (mode == fmCreate) RaiseLastOSError<EFCreateError>("Cannot create file \"", fileName, "\"");
+  RaiseLastOSError<EFOpenError>("Cannot open file \"", fileName, "\"");
 }
 
 TFileStream::~TFileStream() { os::CloseFile(FHandle); }
@@ -148,25 +147,25 @@ TFileStream::~TFileStream() { os::CloseFile(FHandle); }
 std::int64_t TFileStream::Read(void* buffer, std::int64_t count) {
   const std::int64_t done = os::ReadFile(FHandle, buffer, std::max<std::int64_t>(count, 0));
   if (done >= 0) return done;
-  throw EReadError(Concat("Cannot read file \"", FFileName, "\": ", os::LastErrorText()));
+  RaiseLastOSError<EReadError>("Cannot read file \"", FFileName, "\"");
 }
 
 std::int64_t TFileStream::Write(const void* buffer, std::int64_t count) {
   const std::int64_t done = os::WriteFile(FHandle, buffer, std::max<std::int64_t>(count, 0));
   if (done >= 0) return done;
-  throw EWriteError(Concat("Cannot write file \"", FFileName, "\": ", os::LastErrorText()));
+  RaiseLastOSError<EWriteError>("Cannot write file \"", FFileName, "\"");
 }
 
 std::int64_t TFileStream::Seek(std::int64_t offset, TSeekOrigin origin) {
   const std::int64_t position = os::SeekFile(FHandle, offset, origin);
   if (position >= 0) return position;
-  throw EStreamError(Concat("Cannot move in file \"", FFileName, "\": ", os::LastErrorText()));
+  RaiseLastOSError<EStreamError>("Cannot move in file \"", FFileName, "\"");
 }
 
 std::int64_t TFileStream::Size() const {
   const std::int64_t size = os::SizeOfFile(FHandle);
   if (size >= 0) return size;
-  throw EStreamError(Concat("Cannot tell the size of \"", FFileName, "\": ", os::LastErrorText()));
+  RaiseLastOSError<EStreamError>("Cannot tell the size of \"", FFileName, "\"");
 }
 
 void TFileStream::SetSize(std::int64_t size) {
@@ -174,7 +173,7 @@ void TFileStream::SetSize(std::int64_t size) {
     if (Position() > size) SetPosition(size);
     return;
   }
-  throw EStreamError(Concat("Cannot set the size of \"", FFileName, "\": ", os::LastErrorText()));
+  RaiseLastOSError<EStreamError>("Cannot set the size of \"", FFileName, "\"");
 }
 
 }  // namespace vcl

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "vcl/rtl/os.h"
+#include "vcl/rtl/private/os.h"
 
 namespace vcl {
 namespace {

@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/os.h"
+#include "vcl/rtl/private/os.h"
 #include "vcl/rtl/streams.h"
-#include "vcl/rtl/text.h"
+#include "vcl/rtl/systemerrors.h"
 
 namespace vcl {
 namespace {
@@ -23,7 +23,7 @@ TTextFile::~TTextFile() {
 }
 
 void TTextFile::Fail(const char* what) const {
-  throw EInOutError(Concat("Cannot ", what, " \"", FFileName, "\": ", os::LastErrorText()));
+  RaiseLastOSError<EInOutError>("Cannot ", what, " \"", FFileName, "\"");
 }
 
 void TTextFile::Open(const std::string& fileName, int mode) {
@@ -56,12 +56,7 @@ void TTextFile::Close() {
 void TTextFile::Flush() {
   const std::string bytes = std::move(FBuffer);
   FBuffer.clear();
-  for (std::size_t done = 0; done < bytes.size();) {
-    const std::int64_t written =
-        os::WriteFile(FHandle, bytes.data() + done, static_cast<std::int64_t>(bytes.size() - done));
-    if (written <= 0) Fail("write");
-    done += static_cast<std::size_t>(written);
-  }
+  if (!os::WriteAll(FHandle, bytes)) Fail("write");
 }
 
 void TTextFile::WriteLn(std::string_view line) {

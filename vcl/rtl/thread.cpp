@@ -7,7 +7,7 @@
 
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/os.h"
+#include "vcl/rtl/private/os.h"
 #include "vcl/rtl/private/threadstate.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"

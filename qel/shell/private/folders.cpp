@@ -10,10 +10,12 @@
 
 #include <algorithm>
 #include <numeric>
-#include <system_error>
 #include <utility>
 
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
+#include "vcl/rtl/files.h"
+#include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 
@@ -25,15 +27,10 @@ using vcl::ToUtf8;
 // ---- Paths ----
 
 std::string Normalized(const std::string& text) {
-  std::wstring wide = ToUtf16(vcl::Trim(text));
-  if (wide.empty()) return {};
-  std::ranges::replace(wide, L'/', L'\\');
+  const std::string_view name = vcl::Trim(text);
+  if (name.empty()) return {};
   // A drive alone would mean its current folder.
-  if (wide.back() != L'\\') wide += L'\\';
-  std::wstring full(::GetFullPathNameW(wide.c_str(), 0, nullptr, nullptr), L'\0');
-  full.resize(
-      ::GetFullPathNameW(wide.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
-  return ToUtf8(full);
+  return vcl::ExpandFileName(vcl::IncludeTrailingPathDelimiter(name));
 }
 
 std::string UpperCased(const std::string& path) {
@@ -43,11 +40,8 @@ std::string UpperCased(const std::string& path) {
 }
 
 std::size_t RootSize(const std::string& path) {
-  if (path.size() >= 3 && path[1] == ':') return 3;
-  if (!path.starts_with("\\\\")) return 0;
-  const std::size_t server = path.find('\\', 2);
-  const std::size_t share = server == std::string::npos ? server : path.find('\\', server + 1);
-  return share == std::string::npos || share == server + 1 ? 0 : share + 1;
+  const std::size_t drive = vcl::ExtractFileDrive(path).size();
+  return drive == 0 || drive == path.size() ? 0 : drive + 1;
 }
 
 std::string ParentOf(const std::string& path) {
@@ -61,17 +55,13 @@ std::string NameOf(const std::string& path) {
 }
 
 std::wstring ForSystem(const std::string& path) {
-  std::wstring wide = ToUtf16(path);
-  if (path.size() > RootSize(path) && wide.back() == L'\\') wide.pop_back();
-  constexpr std::size_t short_ = 240;  // Room for what is appended.
-  if (wide.size() < short_) return wide;
-  return wide.starts_with(L"\\\\") ? L"\\\\?\\UNC" + wide.substr(1) : L"\\\\?\\" + wide;
+  const bool root = path.size() <= RootSize(path);
+  return vcl::SystemFileName(root ? path : vcl::ExcludeTrailingPathDelimiter(path));
 }
 
 bool Exists(const std::string& path) {
   const TNoErrorBoxes quiet;
-  const DWORD attributes = ::GetFileAttributesW(ForSystem(path).c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+  return vcl::DirectoryExists(path);
 }
 
 UINT DriveType(const std::string& path) {
@@ -184,25 +174,15 @@ HIMAGELIST SystemImages() {
 
 // ---- Changes ----
 
-void RaiseInOut(const std::string& what, const std::string& path, DWORD error) {
-  const std::string reason = std::system_category().message(static_cast<int>(error));
-  throw vcl::EInOutError(vcl::Concat(what, " '", path, "': ", reason));
-}
-
 void Make(const std::string& path) {
-  if (Exists(path)) return;
-  const std::string parent = ParentOf(path);
-  if (!parent.empty()) Make(parent);
-  if (::CreateDirectoryW(ForSystem(path).c_str(), nullptr)) return;
-  const DWORD error = ::GetLastError();
-  if (error != ERROR_ALREADY_EXISTS || !Exists(path)) {
-    RaiseInOut("Cannot make the folder", path, error);
-  }
+  const TNoErrorBoxes quiet;
+  vcl::ForceDirectories(path);
 }
 
 void Rename(const std::string& path, const std::string& newPath) {
-  if (::MoveFileW(ForSystem(path).c_str(), ForSystem(newPath).c_str())) return;
-  RaiseInOut("Cannot rename the folder", path, ::GetLastError());
+  const auto plain = vcl::ExcludeTrailingPathDelimiter;
+  if (vcl::RenameFile(plain(path), plain(newPath))) return;
+  vcl::RaiseLastOSError<vcl::EInOutError>("Cannot rename the folder '", path, "'");
 }
 
 bool Recycle(const std::string& path, HWND owner) {
@@ -215,7 +195,7 @@ bool Recycle(const std::string& path, HWND owner) {
   operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_WANTNUKEWARNING | FOF_SILENT;
   const int error = ::SHFileOperationW(&operation);
   if (error != 0 && !operation.fAnyOperationsAborted) {
-    RaiseInOut("Cannot delete the folder", path, static_cast<DWORD>(error));
+    vcl::RaiseOSError<vcl::EInOutError>(error, "Cannot delete the folder '", path, "'");
   }
   return !operation.fAnyOperationsAborted;
 }

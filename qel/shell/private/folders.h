@@ -60,8 +60,6 @@ class TNoErrorBoxes {
   UINT FFormer;
 };
 
-/// Raises EInOutError: what failed, with the path, and the system's reason.
-[[noreturn]] void RaiseInOut(const std::string& what, const std::string& path, DWORD error);
 /// Raise EInOutError. Making a folder makes those above it too.
 void Make(const std::string& path);
 void Rename(const std::string& path, const std::string& newPath);

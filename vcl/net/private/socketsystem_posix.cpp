@@ -1,36 +1,26 @@
-// What sockets ask of a POSIX system: errors, connecting, and waiting.
-#include "vcl/net/private/socketsystem.h"
-
+// What differs on a POSIX system: errors, connecting, and waiting.
 #include <fcntl.h>
-#include <netdb.h>
-#include <netinet/in.h>
 #include <poll.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <system_error>
+
+#include "vcl/net/private/socketcalls.h"
+#include "vcl/rtl/systemerrors.h"
 
 namespace vcl::os {
-namespace {
-
-using TSystemSocket = int;
-using TByteCount = std::size_t;
-constexpr TSystemSocket InvalidSocket = -1;
-/// Sending to a peer that has gone is an error, not a signal.
-constexpr int SendFlags = MSG_NOSIGNAL;
 
 void StartSockets() {}
 
-TSocketError LastError() { return {errno, std::generic_category().message(errno)}; }
+TSocketError LastSocketError() { return {errno, SysErrorMessage(errno)}; }
 
 TSocketError LookUpError(int failure) {
-  return failure == EAI_SYSTEM ? LastError() : TSocketError{failure, gai_strerror(failure)};
+  return failure == EAI_SYSTEM ? LastSocketError() : TSocketError{failure, gai_strerror(failure)};
 }
 
 bool WouldWait(int code) { return code == EAGAIN || code == EWOULDBLOCK || code == EINTR; }
 
-/// A signal does not end the attempt: it goes on, and its outcome is asked for when it has ended.
+// A signal does not end the attempt: it goes on, and its outcome is asked for when it has ended.
 int ConnectBlocking(TSystemSocket socket, const sockaddr* address, socklen_t size) {
   fcntl(socket, F_SETFD, FD_CLOEXEC);
   if (connect(socket, address, size) == 0) return 0;
@@ -47,8 +37,6 @@ int ConnectBlocking(TSystemSocket socket, const sockaddr* address, socklen_t siz
 
 bool StopWaiting(TSystemSocket socket) { return fcntl(socket, F_SETFL, O_NONBLOCK) == 0; }
 
-}  // namespace
-
 TSocketHandle::~TSocketHandle() { close(static_cast<int>(Value)); }
 
 bool WaitForSocket(const TSocketHandle& socket, TWaitFor what, int milliseconds) {
@@ -59,5 +47,3 @@ bool WaitForSocket(const TSocketHandle& socket, TWaitFor what, int milliseconds)
 }
 
 }  // namespace vcl::os
-
-#include "vcl/net/private/bsdsockets.h"

@@ -1,26 +1,8 @@
-// What sockets ask of Winsock: errors, connecting, and waiting.
-#include "vcl/net/private/socketsystem.h"
-
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#define WIN32_LEAN_AND_MEAN
-#include <winsock2.h>
-// It needs what stands above.
-#include <ws2tcpip.h>
-
-#include <iterator>
-
-#include "vcl/rtl/text.h"
-#include "vcl/rtl/utf16.h"
+// What differs with Winsock: errors, connecting, and waiting.
+#include "vcl/net/private/socketcalls.h"
+#include "vcl/rtl/systemerrors.h"
 
 namespace vcl::os {
-namespace {
-
-using TSystemSocket = SOCKET;
-using TByteCount = int;
-constexpr TSystemSocket InvalidSocket = INVALID_SOCKET;
-constexpr int SendFlags = 0;
 
 void StartSockets() {
   static const int started = [] {
@@ -31,17 +13,9 @@ void StartSockets() {
   static_cast<void>(started);
 }
 
-TSocketError ErrorOf(int code) {
-  wchar_t text[512];
-  const DWORD size =
-      FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                     static_cast<DWORD>(code), 0, text, std::size(text), nullptr);
-  if (size == 0) return {code, Concat("System error ", std::to_string(code))};
-  return {code, std::string(Trim(ToUtf8(std::wstring(text, size))))};
-}
-
-TSocketError LastError() { return ErrorOf(WSAGetLastError()); }
-TSocketError LookUpError(int failure) { return ErrorOf(failure); }
+// The numbers of Winsock are among the system's.
+TSocketError LookUpError(int failure) { return {failure, SysErrorMessage(failure)}; }
+TSocketError LastSocketError() { return LookUpError(WSAGetLastError()); }
 bool WouldWait(int code) { return code == WSAEWOULDBLOCK; }
 
 int ConnectBlocking(TSystemSocket socket, const sockaddr* address, socklen_t size) {
@@ -52,8 +26,6 @@ bool StopWaiting(TSystemSocket socket) {
   u_long on = 1;
   return ioctlsocket(socket, static_cast<long>(FIONBIO), &on) == 0;
 }
-
-}  // namespace
 
 TSocketHandle::~TSocketHandle() { closesocket(static_cast<SOCKET>(Value)); }
 
@@ -69,5 +41,3 @@ bool WaitForSocket(const TSocketHandle& socket, TWaitFor what, int milliseconds)
 }
 
 }  // namespace vcl::os
-
-#include "vcl/net/private/bsdsockets.h"

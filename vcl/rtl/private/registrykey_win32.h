@@ -13,8 +13,7 @@
 #include <utility>
 
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/os.h"
-#include "vcl/rtl/text.h"
+#include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/utf16.h"
 
 namespace vcl {
@@ -46,9 +45,7 @@ class TRegistry::TOpened {
   }
   static bool Done(LSTATUS status) { return status == ERROR_SUCCESS; }
   [[noreturn]] static void Refuse(const char* what, const std::string& name, LSTATUS status) {
-    ::SetLastError(static_cast<DWORD>(status));
-    const std::string reason = os::LastErrorText();
-    throw ERegistryException(Concat("Cannot ", what, " \"", name, "\" of the registry: ", reason));
+    RaiseOSError<ERegistryException>(status, "Cannot ", what, " \"", name, "\" of the registry");
   }
 
  private:

@@ -9,7 +9,7 @@
 #include <iterator>
 #include <limits>
 
-#include "vcl/rtl/os.h"
+#include "vcl/rtl/private/os.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
@@ -124,15 +124,6 @@ int CompareText(std::string_view a, std::string_view b) {
                                      static_cast<int>(first.size()), second.c_str(),
                                      static_cast<int>(second.size()));
   return order - CSTR_EQUAL;
-}
-
-std::string LastErrorText() {
-  const DWORD code = GetLastError();
-  wchar_t text[512];
-  const DWORD size = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                                    nullptr, code, 0, text, std::size(text), nullptr);
-  if (size == 0) return Concat("System error ", std::to_string(code));
-  return std::string(Trim(ToUtf8(std::wstring(text, size))));
 }
 
 std::string ExeName() {

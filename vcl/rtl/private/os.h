@@ -5,11 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "vcl/rtl/api.h"
-
 namespace vcl::os {
 
-/// What `OpenFile` returns when the system refuses; LastErrorText says why.
+/// What `OpenFile` returns when the system refuses; LastSystemError says why.
 inline constexpr std::intptr_t NoFile = -1;
 
 /// Opens a file with TFileStream's modes.
@@ -22,6 +20,14 @@ std::int64_t WriteFile(std::intptr_t file, const void* buffer, std::int64_t coun
 std::int64_t SeekFile(std::intptr_t file, std::int64_t offset, int origin);
 std::int64_t SizeOfFile(std::intptr_t file);
 bool SetSizeOfFile(std::intptr_t file, std::int64_t size);
+/// Writes all the bytes at the position; false when the system refuses.
+bool WriteAll(std::intptr_t file, std::string_view bytes);
+/// Reads what is in the file from its beginning, where the position is; false when the system
+/// refuses.
+bool ReadAll(std::intptr_t file, std::string& bytes);
+
+/// Makes one folder; true when there is one now. When the system refuses, LastSystemError says why.
+bool MakeFolder(const std::string& name);
 
 /// The system's number of the calling thread; 0 is none.
 std::uintptr_t CurrentThreadId();
@@ -35,8 +41,6 @@ void AnswerSentMessages();
 /// Compares without case, by the user's language: negative, zero or positive.
 int CompareText(std::string_view a, std::string_view b);
 
-/// The system's words for the calling thread's last failure.
-VCL_API std::string LastErrorText();
 /// The full name of the running program.
 std::string ExeName();
 

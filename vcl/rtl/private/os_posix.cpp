@@ -1,5 +1,5 @@
 // What the library asks of a POSIX system: files, threads, the order of texts, the clock.
-#include "vcl/rtl/os.h"
+#include "vcl/rtl/private/os.h"
 
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -102,8 +102,6 @@ int ThreadPriority(std::uintptr_t thread) {
 void AnswerSentMessages() {}
 
 int CompareText(std::string_view a, std::string_view b) { return Folded(a).compare(Folded(b)); }
-
-std::string LastErrorText() { return std::generic_category().message(errno); }
 
 std::string ExeName() {
   std::error_code failed;

@@ -1,15 +1,13 @@
-// What Winsock and the BSD sockets spell alike. The source of each system includes it once, behind
-// the system's headers and what it calls differently.
-#pragma once
+// What Winsock and the sockets of POSIX spell alike.
+#include "vcl/net/private/socketsystem.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
-#include "vcl/net/private/socketsystem.h"
+#include "vcl/net/private/socketcalls.h"
 
 namespace vcl::os {
-
 namespace {
 
 const sockaddr* Plain(const TSocketAddress& address) {
@@ -28,7 +26,7 @@ TSocketAddress AskAddress(const TSocketHandle& socket, Ask ask) {
 }
 
 int Moved(long long done, TSocketError& error) {
-  error = done < 0 ? LastError() : TSocketError{};
+  error = done < 0 ? LastSocketError() : TSocketError{};
   if (error && WouldWait(error.Code)) error = {};
   return static_cast<int>(done);
 }
@@ -58,12 +56,12 @@ TSocketError LookUp(const std::string& host, const std::string& service,
 TSocketError Connect(const TSocketAddress& address, TSharedSocket& socket) {
   StartSockets();
   const TSystemSocket made = ::socket(Plain(address)->sa_family, SOCK_STREAM, IPPROTO_TCP);
-  if (made == InvalidSocket) return LastError();
+  if (made == InvalidSocket) return LastSocketError();
   auto handle = std::make_shared<TSocketHandle>(static_cast<std::intptr_t>(made));
   if (ConnectBlocking(made, Plain(address), static_cast<socklen_t>(address.Size)) != 0) {
-    return LastError();
+    return LastSocketError();
   }
-  if (!StopWaiting(made)) return LastError();
+  if (!StopWaiting(made)) return LastSocketError();
   socket = std::move(handle);
   return {};
 }

@@ -8,8 +8,9 @@
 
 #include <cstdio>
 
-#include "vcl/rtl/os.h"
-#include "vcl/rtl/sharedfile.h"
+#include "vcl/rtl/filenames.h"
+#include "vcl/rtl/private/os.h"
+#include "vcl/rtl/private/sharedfile.h"
 #include "vcl/rtl/utf16.h"
 
 namespace vcl::os {
@@ -24,14 +25,7 @@ constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELET
 
 HANDLE Handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
 
-bool IsBare(const std::string& name) { return name.find_first_of("\\/:") == std::string::npos; }
-
-std::wstring FullName(const std::wstring& name) {
-  std::wstring full(GetFullPathNameW(name.c_str(), 0, nullptr, nullptr), L'\0');
-  full.resize(
-      GetFullPathNameW(name.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
-  return full.empty() ? name : full;
-}
+bool IsBare(const std::string& name) { return ExtractFilePath(name).empty(); }
 
 /// Waits a little after a failure that another program's reading may have caused; false when it is
 /// of another kind or has gone on for too long.
@@ -54,22 +48,23 @@ HANDLE OpenForReading(const std::wstring& name) {
   }
 }
 
-bool WriteBeside(const std::wstring& name, DWORD attributes, const std::string& contents) {
+bool WriteBeside(const std::wstring& name, DWORD attributes, const std::string& contents,
+                 TWritten when) {
   const HANDLE file =
       CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, attributes, nullptr);
   if (file == INVALID_HANDLE_VALUE) return false;
-  const auto size = static_cast<DWORD>(contents.size());
-  DWORD done = 0;
-  const bool written = ::WriteFile(file, contents.data(), size, &done, nullptr) && done == size;
+  const bool written = WriteAll(reinterpret_cast<std::intptr_t>(file), contents) &&
+                       (when == TWritten::Later || FlushFileBuffers(file));
   const DWORD error = GetLastError();
   CloseHandle(file);
   SetLastError(error);
   return written;
 }
 
-bool PutInPlace(const std::wstring& beside, const std::wstring& name) {
+bool PutInPlace(const std::wstring& beside, const std::wstring& name, TWritten when) {
+  const DWORD through = when == TWritten::OnDisk ? MOVEFILE_WRITE_THROUGH : 0;
   for (int tries = 0;;) {
-    if (MoveFileExW(beside.c_str(), name.c_str(), MOVEFILE_REPLACE_EXISTING)) return true;
+    if (MoveFileExW(beside.c_str(), name.c_str(), MOVEFILE_REPLACE_EXISTING | through)) return true;
     if (!WorthAnotherTry(tries)) return false;
   }
 }
@@ -77,7 +72,7 @@ bool PutInPlace(const std::wstring& beside, const std::wstring& name) {
 /// A name for the file's mutex that is the same in every program: mutexes have no folders, and
 /// their names end at 260 characters.
 std::wstring TurnName(const std::string& fileName) {
-  std::wstring name = FullName(ToUtf16(fileName));
+  std::wstring name = ToUtf16(ExpandFileName(fileName));
   CharLowerW(name.data());
   std::uint64_t hash = 14695981039346656037u;  // FNV-1a.
   for (const wchar_t each : name) hash = (hash ^ each) * 1099511628211u;
@@ -90,11 +85,11 @@ std::wstring TurnName(const std::string& fileName) {
 }  // namespace
 
 std::string SettingsFileName(const std::string& name) {
-  const std::wstring wide = ToUtf16(name);
-  if (!IsBare(name)) return ToUtf8(FullName(wide));
+  if (!IsBare(name)) return ExpandFileName(name);
   wchar_t folder[MAX_PATH];
   const UINT size = GetSystemWindowsDirectoryW(folder, MAX_PATH);
-  return size && size < MAX_PATH ? ToUtf8(std::wstring(folder, size) + L"\\" + wide) : name;
+  if (size == 0 || size >= MAX_PATH) return name;
+  return IncludeTrailingPathDelimiter(ToUtf8(std::wstring(folder, size))) + name;
 }
 
 TReading ReadWholeFile(const std::string& name, std::string& contents) {
@@ -104,15 +99,10 @@ TReading ReadWholeFile(const std::string& name, std::string& contents) {
     const bool missing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
     return missing ? TReading::Missing : TReading::Refused;
   }
-  const DWORD size = GetFileSize(file, nullptr);
-  contents.resize(size == INVALID_FILE_SIZE ? 0 : size);
-  DWORD done = 0;
-  const bool read =
-      ::ReadFile(file, contents.data(), static_cast<DWORD>(contents.size()), &done, nullptr);
+  const bool read = ReadAll(reinterpret_cast<std::intptr_t>(file), contents);
   const DWORD error = GetLastError();
   CloseHandle(file);
   SetLastError(error);
-  contents.resize(done);
   return read ? TReading::Done : TReading::Refused;
 }
 
@@ -139,7 +129,7 @@ TFileTurn::~TFileTurn() {
 }
 
 // The new file has the attributes of the former one, and the rights that its folder gives.
-bool ReplaceWholeFile(const std::string& name, const std::string& contents) {
+bool ReplaceWholeFile(const std::string& name, const std::string& contents, TWritten when) {
   const std::wstring wide = ToUtf16(name);
   const DWORD former = GetFileAttributesW(wide.c_str());
   const bool exists = former != INVALID_FILE_ATTRIBUTES;
@@ -148,8 +138,8 @@ bool ReplaceWholeFile(const std::string& name, const std::string& contents) {
     return false;
   }
   const std::wstring beside = wide + L".~new";
-  if (WriteBeside(beside, exists ? former : FILE_ATTRIBUTE_NORMAL, contents) &&
-      PutInPlace(beside, wide))
+  if (WriteBeside(beside, exists ? former : FILE_ATTRIBUTE_NORMAL, contents, when) &&
+      PutInPlace(beside, wide, when))
     return true;
   const DWORD error = GetLastError();
   DeleteFileW(beside.c_str());

@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <string>
 
-#include "vcl/rtl/api.h"
-
 namespace vcl::os {
 
 enum class TReading { Done, Missing, Refused };
@@ -15,8 +13,8 @@ enum class TReading { Done, Missing, Refused };
 /// there is such a folder; any other is relative to the current one.
 std::string SettingsFileName(const std::string& name);
 
-/// Reads the whole file. When it is refused, LastErrorText says why.
-VCL_API TReading ReadWholeFile(const std::string& name, std::string& contents);
+/// Reads the whole file. When it is refused, LastSystemError says why.
+TReading ReadWholeFile(const std::string& name, std::string& contents);
 
 /// While it lives, no other program or thread has one for the same file.
 class TFileTurn {
@@ -33,10 +31,14 @@ class TFileTurn {
   bool FHeld = false;
 };
 
+/// When contents are on the disk, so that they outlive a power cut: whenever the system comes to
+/// it, or before the function returns, which takes far longer.
+enum class TWritten { Later, OnDisk };
+
 /// Replaces the contents: whoever reads the file, and whenever the program ends, it holds either
 /// the former contents or the new ones. They are written to a file beside it, "NAME.~new", which
-/// then takes its place. Call it in one's turn. False when the system refuses; LastErrorText says
+/// then takes its place. Call it in one's turn. False when the system refuses; LastSystemError says
 /// why, and the file is as before.
-VCL_API bool ReplaceWholeFile(const std::string& name, const std::string& contents);
+bool ReplaceWholeFile(const std::string& name, const std::string& contents, TWritten when);
 
 }  // namespace vcl::os

@@ -1,0 +1,12 @@
+#include <cerrno>
+#include <system_error>
+
+#include "vcl/rtl/systemerrors.h"
+
+namespace vcl {
+
+int LastSystemError() { return errno; }
+
+std::string SysErrorMessage(int code) { return std::generic_category().message(code); }
+
+}  // namespace vcl
