@@ -7,6 +7,7 @@
 #include "qel/mail/private/simplemapi.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace qel {
 namespace {
@@ -24,7 +25,7 @@ int Excess(const TQELMapiMessage& message) {
 }
 
 bool FileExists(const std::string& name) {
-  const DWORD attributes = ::GetFileAttributesA(name.c_str());
+  const DWORD attributes = ::GetFileAttributesW(vcl::ToUtf16(name).c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 

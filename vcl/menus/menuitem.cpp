@@ -6,6 +6,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace vcl {
 
@@ -210,9 +211,9 @@ void TMenuItem::Fill() {
 }
 
 void TMenuItem::AppendTo(HMENU menu) {
-  std::string text = FCaption;
-  if (FShortCut != scNone) text += "\t" + ShortCutToText(FShortCut);
-  MENUITEMINFOA info{};
+  std::wstring text = ToUtf16(FCaption);
+  if (FShortCut != scNone) text += L'\t' + ToUtf16(ShortCutToText(FShortCut));
+  MENUITEMINFOW info{};
   info.cbSize = sizeof info;
   info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_STRING;
   info.fType = static_cast<UINT>(IsLine() ? MFT_SEPARATOR : MFT_STRING);
@@ -226,7 +227,7 @@ void TMenuItem::AppendTo(HMENU menu) {
     info.fMask |= MIIM_SUBMENU;
     info.hSubMenu = Handle();
   }
-  ::InsertMenuItemA(menu, static_cast<UINT>(::GetMenuItemCount(menu)), TRUE, &info);
+  ::InsertMenuItemW(menu, static_cast<UINT>(::GetMenuItemCount(menu)), TRUE, &info);
 }
 
 // Choosing.
