@@ -131,7 +131,6 @@ class VCL_API TComponent : public TPersistent {
   friend class TReader;
   friend class TWriter;
   friend class TWatch;
-  bool Unnamed() const { return FName.empty(); }
   void MarkDestroying();
   void DefinePosition(TFiler& filer, const char* name, std::int16_t& coordinate);
 
