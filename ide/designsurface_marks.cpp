@@ -120,21 +120,21 @@ void TDesignSurface::PlaceGrabbers() {
 }
 
 TDesignSurface::TIcon TDesignSurface::MakeIcon(TComponent& component) {
-  const auto mouse = [this, &component](UINT message, TPoint at) {
-    if (message == WM_LBUTTONDOWN) return Press(component, *FRoot, at);
+  const auto mouse = [this, shown = &component](UINT message, TPoint at) {
+    if (message == WM_LBUTTONDOWN) return Press(*shown, *FRoot, at);
     if (message == WM_LBUTTONDBLCLK) {
-      if (Events.DoubleClick) Events.DoubleClick(component);
+      if (Events.DoubleClick) Events.DoubleClick(*shown);
       return;
     }
-    ShowMenu(component, at);
+    ShowMenu(*shown, at);
   };
-  const auto picture = [this, &component](TCanvas& canvas, const TRect& inside) {
-    PaintComponentPicture(canvas, inside, component, FSelection.Contains(&component));
+  const auto picture = [this, shown = &component](TCanvas& canvas, const TRect& inside) {
+    PaintComponentPicture(canvas, inside, *shown, FSelection.Contains(shown));
   };
-  const auto caption = [&component](TCanvas& canvas, const TRect& inside) {
+  const auto caption = [shown = &component](TCanvas& canvas, const TRect& inside) {
     canvas.Brush()->SetColor(clBtnFace);
     canvas.FillRect(inside);
-    canvas.TextOut(2, 0, component.Name());
+    canvas.TextOut(2, 0, shown->Name());
   };
   const HWND form = FRoot->Handle();
   const auto* arrow = reinterpret_cast<LPCWSTR>(IDC_ARROW);

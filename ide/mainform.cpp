@@ -27,6 +27,13 @@ const TClass& TMainForm::Class() {
                              Field<&T::RecentItem>("RecentItem"),
                              Field<&T::UndoItem>("UndoItem"),
                              Field<&T::RedoItem>("RedoItem"),
+                             Field<&T::CutItem>("CutItem"),
+                             Field<&T::CopyItem>("CopyItem"),
+                             Field<&T::PasteItem>("PasteItem"),
+                             Field<&T::DeleteItem>("DeleteItem"),
+                             Field<&T::FrontItem>("FrontItem"),
+                             Field<&T::BackItem>("BackItem"),
+                             Field<&T::TabOrderItem>("TabOrderItem"),
                              Field<&T::LockItem>("LockItem"),
                              Field<&T::GridItem>("GridItem"),
                              Field<&T::SnapItem>("SnapItem"),
@@ -236,8 +243,6 @@ void TMainForm::AddVerbs() {
 }
 
 void TMainForm::ShowDesignMenu(TPoint screen) {
-  static constexpr const char* commands[] = {"CutItem",   "CopyItem", "PasteItem",   "DeleteItem",
-                                             "FrontItem", "BackItem", "TabOrderItem"};
   DesignMenu->Items()->Clear();
   FDesigner->Try([this] { AddVerbs(); });
   if (DesignMenu->Items()->Count() > 0) {
@@ -245,8 +250,8 @@ void TMainForm::ShowDesignMenu(TPoint screen) {
     line->SetCaption("-");
     DesignMenu->Items()->Add(line);
   }
-  for (const char* name : commands) {
-    auto* original = dynamic_cast<TMenuItem*>(TForm::FindComponent(name));
+  for (TMenuItem* original :
+       {CutItem, CopyItem, PasteItem, DeleteItem, FrontItem, BackItem, TabOrderItem}) {
     auto* item = new TMenuItem(DesignMenu);
     item->SetCaption(original->Caption());
     item->SetHint(original->Hint());

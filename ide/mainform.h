@@ -75,6 +75,13 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   vcl::TMenuItem* RecentItem = nullptr;
   vcl::TMenuItem* UndoItem = nullptr;
   vcl::TMenuItem* RedoItem = nullptr;
+  vcl::TMenuItem* CutItem = nullptr;
+  vcl::TMenuItem* CopyItem = nullptr;
+  vcl::TMenuItem* PasteItem = nullptr;
+  vcl::TMenuItem* DeleteItem = nullptr;
+  vcl::TMenuItem* FrontItem = nullptr;
+  vcl::TMenuItem* BackItem = nullptr;
+  vcl::TMenuItem* TabOrderItem = nullptr;
   vcl::TMenuItem* LockItem = nullptr;
   vcl::TMenuItem* GridItem = nullptr;
   vcl::TMenuItem* SnapItem = nullptr;

@@ -57,8 +57,7 @@ void TComponentPalette::SetPages(const std::vector<vcl::TPaletteEntry>& entries)
 }
 
 TComponentPalette::TPage& TComponentPalette::PageFor(const std::string& name) {
-  const auto found = std::ranges::find_if(
-      FPageList, [&](const TPage& page) { return page.Sheet->Caption() == name; });
+  const auto found = std::ranges::find(FPageList, name, &TPage::Name);
   if (found != FPageList.end()) return *found;
   auto* sheet = new vcl::TTabSheet(this);
   sheet->SetCaption(name);
@@ -71,7 +70,7 @@ TComponentPalette::TPage& TComponentPalette::PageFor(const std::string& name) {
     SelectTool(nullptr);
     if (OnAdd) OnAdd(aClass);
   };
-  FPageList.push_back({sheet, buttons, {}});
+  FPageList.push_back({name, sheet, buttons, {}});
   return FPageList.back();
 }
 
@@ -89,10 +88,8 @@ TPalettePage* TComponentPalette::ActivePage() const {
 }
 
 TPalettePage* TComponentPalette::PageOf(const std::string& name) const {
-  for (const TPage& page : FPageList) {
-    if (page.Sheet->Caption() == name) return page.Buttons;
-  }
-  return nullptr;
+  const auto found = std::ranges::find(FPageList, name, &TPage::Name);
+  return found == FPageList.end() ? nullptr : found->Buttons;
 }
 
 void TComponentPalette::SetFilter(const std::string& filter) {

@@ -50,6 +50,7 @@ class TComponentPalette : public vcl::TWinControl {
  private:
   /// A page with all its classes, those of them that are not shown too.
   struct TPage {
+    std::string Name;
     vcl::TTabSheet* Sheet;
     TPalettePage* Buttons;
     std::vector<const vcl::TClass*> Classes;

@@ -33,21 +33,14 @@ const std::vector<TSetting> BackgroundSettings = {
     {"BackBrushColorBox", "BrushFill.BrushColor"},
 };
 
-/// The pictures to choose from, and the background on the form that has each.
-struct TBackPicture {
-  const char* Title;
-  const char* Background;
-};
-constexpr TBackPicture Pictures[] = {{"Bricks", "StretchedBackground"},
-                                     {"Leaf", "SeeThroughBackground"},
-                                     {"Weave", "TiledBackground"}};
-
 }  // namespace
 
 void TGalleryForm::SetUpBackgrounds() {
   Bind(BackgroundSettings).SetTargets({SharedBackground});
-  for (const TBackPicture& picture : Pictures)
-    BackImageBox->Items()->AddObject(picture.Title, FindComponent(picture.Background));
+  // The pictures to choose from, and the background on the form that has each.
+  BackImageBox->Items()->AddObject("Bricks", StretchedBackground);
+  BackImageBox->Items()->AddObject("Leaf", SeeThroughBackground);
+  BackImageBox->Items()->AddObject("Weave", TiledBackground);
   BackImageBox->Items()->Add(std::string(NoComponent));
   BackImageBox->SetItemIndex(0);
 }

@@ -41,17 +41,6 @@ const std::vector<TSetting> ButtonSettings = {
     {"ButtonFontStyleEdit", "Font.Style"},
 };
 
-/// The items of the popup menu that switch a setting on and off.
-struct TToggle {
-  const char* Item;
-  const char* Path;
-};
-constexpr TToggle Toggles[] = {
-    {"EnabledItem", "Enabled"},
-    {"WordWrapItem", "WordWrap"},
-    {"SunkItem", "ButtonSunk"},
-    {"ThreeDimensionalItem", "Font3D.ThreeDimensional"},
-};
 constexpr const char* StylePath = "Font3D.Style3D";
 
 constexpr int LogLimit = 200;
@@ -94,12 +83,23 @@ void TGalleryForm::ChooseSubject(TQELButton* button) {
 
 // The popup menu.
 
+/// The items of the menu that switch a property.
+struct TGalleryForm::TToggle {
+  TMenuItem* TGalleryForm::*Item;
+  const char* Path;
+};
+const TGalleryForm::TToggle TGalleryForm::Toggles[] = {
+    {&TGalleryForm::EnabledItem, "Enabled"},
+    {&TGalleryForm::WordWrapItem, "WordWrap"},
+    {&TGalleryForm::SunkItem, "ButtonSunk"},
+    {&TGalleryForm::ThreeDimensionalItem, "Font3D.ThreeDimensional"},
+};
+
 void TGalleryForm::ButtonMenuPopup(TObject*) {
   TComponent* button = ButtonMenu->PopupComponent();
   if (!button) return;
   for (const TToggle& toggle : Toggles) {
-    auto* item = dynamic_cast<TMenuItem*>(FindComponent(toggle.Item));
-    item->SetChecked(StrToBool(PropertyText(FindProperty(*button, toggle.Path))));
+    (this->*toggle.Item)->SetChecked(StrToBool(PropertyText(FindProperty(*button, toggle.Path))));
   }
   const std::string style = PropertyText(FindProperty(*button, StylePath));
   for (int i = 0; i < StyleItem->Count(); ++i)
@@ -109,7 +109,7 @@ void TGalleryForm::ButtonMenuPopup(TObject*) {
 void TGalleryForm::ButtonMenuToggle(TObject* sender) {
   const auto* item = dynamic_cast<TMenuItem*>(sender);
   for (const TToggle& toggle : Toggles)
-    if (item->Name() == toggle.Item) SetFromMenu(toggle.Path, BoolToStr(!item->Checked()));
+    if (item == this->*toggle.Item) SetFromMenu(toggle.Path, BoolToStr(!item->Checked()));
 }
 
 void TGalleryForm::ButtonMenuStyle(TObject* sender) {

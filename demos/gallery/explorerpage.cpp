@@ -17,7 +17,9 @@ const std::vector<TSetting> ExplorerSettings = {
 void TGalleryForm::SetUpExplorer() {
   TSettingBinder& settings = Bind(ExplorerSettings);
   settings.SetTargets({SampleExplorer});
-  SampleExplorer->OnChange = [&settings](vcl::TObject*, vcl::TTreeNode*) { settings.Refresh(); };
+  SampleExplorer->OnChange = [shown = &settings](vcl::TObject*, vcl::TTreeNode*) {
+    shown->Refresh();
+  };
 }
 
 void TGalleryForm::ExplorerAddClick(vcl::TObject*) {

@@ -63,12 +63,9 @@ void TGalleryForm::SelectHintDirection(TControl* control, TQELDirectionB& direct
 
 /// Moves the window, beyond the screen where it must be, until the four fields touch the edge.
 void TGalleryForm::HintEdgeClick(TObject* sender) {
-  const auto corner = [this](const char* field, bool far) {
-    const auto* control = dynamic_cast<TControl*>(FindComponent(field));
-    return control->ClientToScreen(far ? TPoint(control->Width(), control->Height()) : TPoint());
-  };
-  const TPoint first = corner("HintUpLeftField", false);
-  const TPoint last = corner("HintDownRightField", true);
+  const TPoint first = HintUpLeftField->ClientToScreen({});
+  const TPoint last = HintDownRightField->ClientToScreen(
+      {HintDownRightField->Width(), HintDownRightField->Height()});
   const std::string& edge = dynamic_cast<const TComponent&>(*sender).Name();
   if (edge == "HintLeftEdgeButton") SetLeft(Left() - first.X);
   if (edge == "HintTopEdgeButton") SetTop(Top() - first.Y);

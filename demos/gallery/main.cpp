@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <memory>
+#include <string>
 
 #include "demos/gallery/galleryform.h"
 #include "demos/gallery/screenshots.h"
@@ -16,14 +18,14 @@ using vcl::Application;
 
 int TakeScreenshots(TGalleryForm& form, const char* folder) {
   // Nobody is there to answer a message box.
-  std::string failure;
-  Application()->OnException = [&](vcl::TObject*, const std::exception& error) {
-    failure = error.what();
+  const auto failure = std::make_shared<std::string>();
+  Application()->OnException = [failure](vcl::TObject*, const std::exception& error) {
+    *failure = error.what();
   };
   const auto names = SaveScreenshots(form, folder);
   form.Free();
   Application()->OnException.Clear();
-  if (!failure.empty()) throw vcl::Exception(failure);
+  if (!failure->empty()) throw vcl::Exception(*failure);
   for (const auto& name : names) std::printf("%s\n", name.c_str());
   return 0;
 }

@@ -59,10 +59,10 @@ TSettingBinder::~TSettingBinder() {
 }
 
 void TSettingBinder::Connect(TBinding& binding) {
-  SetChangeEvent(*binding.Control, [this, &binding](TObject*) { Changed(binding); });
-  binding.Control->OnExit = [this, &binding](TObject*) {
-    if (!binding.Marked) return;
-    Show(binding);
+  SetChangeEvent(*binding.Control, [this, bound = &binding](TObject*) { Changed(*bound); });
+  binding.Control->OnExit = [this, bound = &binding](TObject*) {
+    if (!bound->Marked) return;
+    Show(*bound);
     FTell({});
   };
 }

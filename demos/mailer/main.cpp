@@ -5,6 +5,8 @@
 //   servers of this machine it sends a mail to itself first (see roundtrip.h).
 #include <cstdio>
 #include <exception>
+#include <memory>
+#include <string>
 
 #include "demos/common/commandline.h"
 #include "demos/mailer/mailerform.h"
@@ -20,19 +22,19 @@ using vcl::Application;
 
 // Nobody is there to answer a message box.
 int RunUnseen(TMailerForm& form, const std::string& folder) {
-  std::string failure;
-  Application()->OnException = [&](vcl::TObject*, const std::exception& error) {
-    failure = error.what();
+  const auto failure = std::make_shared<std::string>();
+  Application()->OnException = [failure](vcl::TObject*, const std::exception& error) {
+    *failure = error.what();
   };
   std::vector<std::string> names;
   try {
     names = SaveScreenshots(form, folder);
   } catch (const vcl::EAbort& error) {
-    if (failure.empty()) failure = error.what();
+    if (failure->empty()) *failure = error.what();
   }
   form.Free();
   Application()->OnException.Clear();
-  if (!failure.empty()) throw vcl::Exception(failure);
+  if (!failure->empty()) throw vcl::Exception(*failure);
   for (const auto& name : names) std::printf("%s\n", name.c_str());
   return 0;
 }

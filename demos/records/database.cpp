@@ -15,7 +15,7 @@ namespace {
 std::string NameForDriver(const std::string& fileName) {
   using TUnixName = char*(__cdecl*)(const wchar_t*);
   const auto unixName = reinterpret_cast<TUnixName>(reinterpret_cast<void*>(
-      ::GetProcAddress(::GetModuleHandleA("kernel32"), "wine_get_unix_file_name")));
+      ::GetProcAddress(::GetModuleHandleW(L"kernel32"), "wine_get_unix_file_name")));
   if (!unixName) return fileName;
   char* found = unixName(vcl::ToUtf16(vcl::ExpandFileName(fileName)).c_str());
   const std::string name = found ? found : fileName;

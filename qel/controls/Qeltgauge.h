@@ -25,7 +25,7 @@ class QEL_API TQELGauge : public TQELGraphicControl {
   /// How the number is written.
   TQELFont3D* Font3D() const { return FFont3D.get(); }
   /// Uses that very object from now on, which the gauge then owns; the one that it had is freed.
-  /// Null is ignored. Settings that another control owns are copied instead, as they end with it.
+  /// Null is refused. Settings that another control owns are copied instead, as they end with it.
   void SetFont3D(TQELFont3D* font3D);
   TQELBackground* Background() const { return FBackground; }
   /// The background behind it all, which is not owned; null for none.

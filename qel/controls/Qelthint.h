@@ -51,7 +51,7 @@ class QEL_API TQELHint : public TQELComponent {
 
   TQELFont3D* Font3D() const { return FFont3D.get(); }
   /// Uses that very object from now on, which the hint then owns; the one that it had is freed.
-  /// Null is ignored. Settings that a control owns are copied instead, as they end with it.
+  /// Null is refused. Settings that a control owns are copied instead, as they end with it.
   void SetFont3D(TQELFont3D* font3D);
   bool Speechbubble() const { return FSpeechbubble; }
   /// True: a bubble with round corners and a pointer towards the mouse; false: a box.

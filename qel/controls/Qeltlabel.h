@@ -21,7 +21,7 @@ class QEL_API TQELLabel : public vcl::TCustomLabel {
   TQELAbout* About() const { return FAbout.get(); }
   TQELFont3D* Font3D() const { return FFont3D.get(); }
   /// Uses that very object from now on, which the label then owns; the one that it had is freed.
-  /// Null is ignored. Settings that another control owns are copied instead, as they end with it.
+  /// Null is refused. Settings that another control owns are copied instead, as they end with it.
   void Set3D(TQELFont3D* font3D);
   TQELFrame* Frame() const { return FFrame.get(); }
   /// As Set3D.

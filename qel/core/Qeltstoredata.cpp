@@ -25,9 +25,7 @@ HKEY HandleOf(TQELRootKey rootKey) {
 
 template <class T>
 void Adopt(std::unique_ptr<T>& member, T* object) {
-  if (!object) {
-    throw vcl::EArgumentOutOfRangeException("A store can't be without " + T::Class().Name());
-  }
+  if (!object) return member->Assign(nullptr);  // Refuses it.
   if (object != member.get()) member.reset(object);
 }
 

@@ -80,7 +80,7 @@ class QEL_API TQELDataStore : public vcl::TPersistent {
   TQELRegistry* Registry() const { return FRegistry.get(); }
   TQELIniFile* Inifile() const { return FInifile.get(); }
   /// These take the object itself, which the store owns from then on, and free the former one; they
-  /// copy nothing. Null is refused with EArgumentOutOfRangeException.
+  /// copy nothing. Null is refused with EConvertError.
   void SetRegistry(TQELRegistry* registry);
   void SetInifile(TQELIniFile* inifile);
   int ErrorInt() const { return FErrorInt; }

@@ -1,6 +1,9 @@
 // The add-in: its menu, what each item calls, and the user's files, links and addresses.
 #include "qel/design/Qeltools.h"
 
+#include <array>
+#include <cstddef>
+
 #include "qel/design/autosave.h"
 #include "qel/design/tools.h"
 #include "qel/design/toolsettings.h"
@@ -17,25 +20,23 @@ namespace {
 
 using namespace vcl;
 
-/// An item of the menu. Those without a procedure are the add-in's own.
+/// The tools that the menu itself sees to, with the settings.
+enum TOwnTool : std::size_t { None, AutoSave, Files, Links, Settings, Contact, OwnTools };
+
+/// An item of the menu. Those without a procedure are the menu's own.
 struct TTool {
   const char* Caption;
   void (*Run)(TEnvironment&);
   const char* Hint;
+  TOwnTool Own = None;
 };
-
-constexpr const char* AutoSaveCaption = "Auto Save Files";
-constexpr const char* FilesCaption = "My Personal Files";
-constexpr const char* LinksCaption = "My Personal Links";
-constexpr const char* PropertiesCaption = "Properties...";
-constexpr const char* ContactCaption = "Contact QEL";
 
 constexpr TTool Tools[] = {
     {"Activate Screensaver", &ActivateScreenSaver, "Starts the screen saver"},
     {"Non-Visual Components", &ShowNonVisualComponents,
      "Lists the components that are no controls, and hides their icons"},
     {"Paste Comments...", &PasteComments, "Makes C++ comments of the text on the clipboard"},
-    {AutoSaveCaption, nullptr, "Saves the open forms every few minutes"},
+    {"Auto Save Files", nullptr, "Saves the open forms every few minutes", AutoSave},
     {"Clean Project Paths", &CleanProjectPaths, "Forgets files that are no longer there"},
     {"Search && Replace Text", &SearchAndReplace, "Replaces a text in all components of the form"},
     {"Repair Component Names", &RepairComponentNames,
@@ -45,10 +46,10 @@ constexpr TTool Tools[] = {
     {"View Ascii Table", &ViewAsciiTable, "Shows the characters and their numbers"},
     {"Generate Table Source", &GenerateTableSource,
      "Writes the C++ source that defines the fields of a data set"},
-    {FilesCaption, nullptr, "Opens one of your files"},
-    {LinksCaption, nullptr, "Opens one of your links"},
-    {PropertiesCaption, nullptr, "Sets your files, links and addresses"},
-    {ContactCaption, nullptr, ""},
+    {"My Personal Files", nullptr, "Opens one of your files", Files},
+    {"My Personal Links", nullptr, "Opens one of your links", Links},
+    {"Properties...", nullptr, "Sets your files, links and addresses", Settings},
+    {"Contact QEL", nullptr, "", Contact},
     {"About QEL", &ShowToolsAbout, "Says what the library is"},
 };
 
@@ -95,8 +96,8 @@ class TQELTools : public TExpert {
         FMenu(nullptr) {
     FMenu.SetCaption("QEL &Tools");
     for (const TTool& tool : Tools) AddTool(tool);
-    Item(AutoSaveCaption).OnClick = {this, &TQELTools::ChooseAutoSave};
-    Item(PropertiesCaption).OnClick = {this, &TQELTools::EditProperties};
+    FOwn[AutoSave]->OnClick = {this, &TQELTools::ChooseAutoSave};
+    FOwn[Settings]->OnClick = {this, &TQELTools::EditProperties};
     FAutoSave.SetMinutes(FSettings.AutoSave);
     FillLists();
     environment.MainMenu().Items()->Add(&FMenu);
@@ -107,18 +108,13 @@ class TQELTools : public TExpert {
     TMenuItem* item = AddItem(FMenu, tool.Caption, nullptr);
     item->SetHint(tool.Hint);
     if (tool.Run) item->OnClick = [this, run = tool.Run](TObject*) { run(FEnvironment); };
-  }
-
-  TMenuItem& Item(const std::string& caption) {
-    int index = 0;
-    while (FMenu.Items(index)->Caption() != caption) ++index;
-    return *FMenu.Items(index);
+    if (tool.Own != None) FOwn[tool.Own] = item;
   }
 
   void FillLists() {
-    FillLinks(Item(FilesCaption), FSettings.Files);
-    FillLinks(Item(LinksCaption), FSettings.Links);
-    TMenuItem& contact = Item(ContactCaption);
+    FillLinks(*FOwn[Files], FSettings.Files);
+    FillLinks(*FOwn[Links], FSettings.Links);
+    TMenuItem& contact = *FOwn[Contact];
     contact.Clear();
     for (const auto& [caption, address, protocol] : Contacts) {
       AddContact(contact, caption, FSettings.*address, protocol);
@@ -164,6 +160,7 @@ class TQELTools : public TExpert {
   TQELToolSettings FSettings;
   TQELAutoSave FAutoSave;
   TMenuItem FMenu;
+  std::array<TMenuItem*, OwnTools> FOwn{};
 };
 
 std::unique_ptr<TExpert> MakeTools(TEnvironment& environment) {

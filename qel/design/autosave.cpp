@@ -21,7 +21,7 @@ std::string Caption(int minutes) {
 }  // namespace
 
 TQELAutoSave::TQELAutoSave(vcl::TEnvironment& environment) {
-  FTimer.OnTimer = [&environment](vcl::TObject*) { environment.SaveFiles(); };
+  FTimer.OnTimer = [files = &environment](vcl::TObject*) { files->SaveFiles(); };
   SetMinutes(0);
 }
 

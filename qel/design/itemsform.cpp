@@ -119,13 +119,13 @@ void TQELItemsForm::ShowRows() {
   for (auto& editor : PropertiesOf(*FDesigner, {FItems->Items(index)}, isValue)) {
     const int top = static_cast<int>(FRows.size()) * rowHeight;
     FRows.push_back(std::make_unique<TRow>(std::move(editor), *RowPanel, top));
-    TRow& row = *FRows.back();
-    row.Edit.OnExit = [this, &row](TObject*) { Apply(row); };
+    TRow* const row = FRows.back().get();
+    row->Edit.OnExit = [this, row](TObject*) { Apply(*row); };
     // As in an inspector: the dialog, or the next one of the values to choose from.
-    row.Edit.OnDblClick = row.Button.OnClick = [this, &row](TObject*) {
-      Apply(row);
-      row.Editor->Edit();
-      row.ShowValue();
+    row->Edit.OnDblClick = row->Button.OnClick = [this, row](TObject*) {
+      Apply(*row);
+      row->Editor->Edit();
+      row->ShowValue();
     };
   }
 }

@@ -58,9 +58,10 @@ class TCollector {
 
   void AddText(TObject& object, const TPropInfo& property, const std::string& path) {
     if (property.ReadOnly() || !property.IsStored(object)) return;
-    FPlaces.push_back({&FComponent, path,
-                       [&] { return std::get<std::string>(property.Get(object)); },
-                       [&](const std::string& text) { property.Set(object, text); }});
+    FPlaces.push_back(
+        {&FComponent, path,
+         [at = &object, what = &property] { return std::get<std::string>(what->Get(*at)); },
+         [at = &object, what = &property](const std::string& text) { what->Set(*at, text); }});
   }
 
   void AddObject(TObject& object, const std::string& path) {

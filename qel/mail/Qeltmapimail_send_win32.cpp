@@ -8,6 +8,7 @@
 #include "vcl/rtl/filenames.h"
 #include "vcl/rtl/files.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 
 namespace qel {
 namespace {

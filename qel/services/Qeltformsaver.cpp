@@ -151,7 +151,7 @@ void TQELFormSaver::ExtWndProc(vcl::TMessage& message) {
     BeforeMaximize();
   }
   if (!FForm || !FPreviousWndProc) return;
-  message.Result = ::CallWindowProcA(FPreviousWndProc, FForm->Handle(), message.Msg, message.WParam,
+  message.Result = ::CallWindowProcW(FPreviousWndProc, FForm->Handle(), message.Msg, message.WParam,
                                      message.LParam);
 }
 

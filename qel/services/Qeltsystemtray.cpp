@@ -21,7 +21,7 @@ constexpr UINT IconsMessage = WM_USER + 1;  // LParam: the mouse's message.
 
 /// Broadcast by the shell when its taskbar has come, at its start and after its end.
 UINT TaskbarCreated() {
-  static const UINT message = ::RegisterWindowMessageA("TaskbarCreated");
+  static const UINT message = ::RegisterWindowMessageW(L"TaskbarCreated");
   return message;
 }
 

@@ -35,8 +35,6 @@ class QEL_API TQELExplorerNode : public vcl::TTreeNode {
   /// The folder's path in capitals, and as it is spelled; both with a backslash at the end.
   const std::string& Path() const { return FPath; }
   const std::string& Folder() const { return FFolder; }
-  /// Whether the folders in it have been read.
-  bool HasRead() const { return FRead; }
   std::string Text() const override;
   void SetText(const std::string& text) override;
   bool HasChildren() const override;

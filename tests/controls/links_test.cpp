@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/support/registered.h"
+#include "vcl/forms/standardclasses.h"
 
 namespace qel {
 namespace {
@@ -74,11 +75,58 @@ TEST(Settings, AreTakenOverOrCopied) {
                 vcl::TObject* const former = use.Value();
                 use.Set(given.get());
                 EXPECT_EQ(use.Value(), copies ? former : given.release());
-                vcl::TObject* const kept = use.Value();
-                if (!copies) use.Set(nullptr);
-                EXPECT_EQ(use.Value(), kept);
               }));
   }
+}
+
+/// Gives null to a setter of an object that its owner has always.
+void ExpectNullIsAnswered(vcl::TObject& owner, const vcl::TPropInfo& property) {
+  vcl::TObject* const kept = std::get<vcl::TObject*>(property.Get(owner));
+  const auto* picture = dynamic_cast<vcl::TPicture*>(kept);
+  const auto* graphic = dynamic_cast<vcl::TGraphic*>(kept);
+  vcl::TObject* const null = nullptr;
+  if (picture || graphic) {
+    property.Set(owner, null);
+    EXPECT_TRUE(graphic ? graphic->Empty() : !picture->Graphic());
+  } else {
+    EXPECT_THROW(property.Set(owner, null), vcl::EConvertError);
+  }
+  EXPECT_EQ(std::get<vcl::TObject*>(property.Get(owner)), kept);
+}
+
+/// Does it for all published ones of the object and those within; says how many there are.
+int ExpectNullIsAnswered(vcl::TObject& object) {
+  int count = 0;
+  for (const vcl::TPropInfo* property : object.ClassType().Published()) {
+    if (property->Kind() != vcl::TTypeKind::Class &&
+        property->Kind() != vcl::TTypeKind::Collection) {
+      continue;
+    }
+    auto* value = std::get<vcl::TObject*>(property->Get(object));
+    if (!value || dynamic_cast<vcl::TComponent*>(value)) continue;
+    SCOPED_TRACE(object.ClassName() + "." + property->Name);
+    count += ExpectNullIsAnswered(*value);
+    if (property->ReadOnly()) continue;
+    ExpectNullIsAnswered(object, *property);
+    ++count;
+  }
+  return count;
+}
+
+TEST(Settings, NullEmptiesPicturesAndIsRefusedByAllElse) {
+  RegisterAll();
+  vcl::RegisterStandardClasses();
+  int count = 0;
+  for (const vcl::TClass* info : vcl::RegisteredClasses()) {
+    if (!info->Maker().Component) continue;
+    const std::unique_ptr<vcl::TComponent> component(info->Maker().Component(nullptr));
+    count += ExpectNullIsAnswered(*component);
+  }
+  EXPECT_GT(count, 50);
+  vcl::TCanvas canvas;
+  EXPECT_THROW(canvas.SetFont(nullptr), vcl::EConvertError);
+  EXPECT_THROW(canvas.SetPen(nullptr), vcl::EConvertError);
+  EXPECT_THROW(canvas.SetBrush(nullptr), vcl::EConvertError);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "qel/qel.h"
 #include "tests/support/importpatch.h"
+#include "vcl/rtl/utf16.h"
 #include "vcl/vcl.h"
 
 namespace {
@@ -61,10 +62,10 @@ UINT BoxFlags = 99;
 
 TEST(About, NamesItsComponent) {
   const TImportPatch patch(
-      "qelhost.dll", "MessageBoxA",
-      +[](HWND, const char* text, const char* caption, UINT flags) WINAPI -> int {
-        BoxText = text;
-        BoxCaption = caption;
+      "qelhost.dll", "MessageBoxW",
+      +[](HWND, const wchar_t* text, const wchar_t* caption, UINT flags) WINAPI -> int {
+        BoxText = vcl::ToUtf8(text);
+        BoxCaption = vcl::ToUtf8(caption);
         BoxFlags = flags;
         return IDOK;
       });

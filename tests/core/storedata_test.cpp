@@ -195,7 +195,6 @@ TEST(StoreData, TakesOverAnotherPlace) {
   auto* other = new qel::TQELRegistry;
   data.DataStore()->SetRegistry(other);
   EXPECT_EQ(data.DataStore()->Registry(), other);
-  EXPECT_THROW(data.DataStore()->SetRegistry(nullptr), vcl::EArgumentOutOfRangeException);
 }
 
 }  // namespace

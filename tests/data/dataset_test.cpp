@@ -6,6 +6,7 @@
 #include "vcl/db/datasource.h"
 #include "vcl/db/fields.h"
 #include "vcl/db/memorydataset.h"
+#include "vcl/db/params.h"
 #include "vcl/db/registration.h"
 #include "vcl/rtl/classes.h"
 
@@ -81,6 +82,34 @@ TEST(DataSet, EditsInsertsAndDeletes) {
   EXPECT_THAT(Message([&] { people.Delete(); }), HasSubstr("empty"));
   people.Edit();
   EXPECT_EQ(people.State(), dsInsert) << "there is nothing to edit, so a record is made";
+}
+
+TEST(DataSet, ClearsTheFieldsOfARecordThatIsEdited) {
+  TPeople people;
+  EXPECT_EQ(std::get<std::string>(people.FieldValues("name")), "Ann");
+  EXPECT_THAT(Message([&] { people.ClearFields(); }), HasSubstr("edit"));
+  people.DisableControls();
+  EXPECT_TRUE(people.ControlsDisabled());
+  people.EnableControls();
+  EXPECT_FALSE(people.ControlsDisabled());
+  people.Edit();
+  people.ClearFields();
+  EXPECT_TRUE(IsNull(people.FieldValues("name")));
+  EXPECT_TRUE(people.Modified());
+  people.Cancel();
+  EXPECT_EQ(people.Name(), "Ann");
+}
+
+TEST(Params, TakeTheKindOfTheirValue) {
+  TParams params;
+  params.Parse("? ?");
+  TParam &time = *params.Items(0), &bytes = *params.Items(1);
+  time.SetAsTime(EncodeTime(12, 0, 0, 0));
+  bytes.SetAsBlob(std::string("\0x", 2));
+  EXPECT_EQ(time.DataType(), ftTime);
+  EXPECT_EQ(std::get<double>(time.Value()), 0.5);
+  EXPECT_EQ(bytes.DataType(), ftBlob);
+  EXPECT_EQ(std::get<std::string>(bytes.Value()), std::string("\0x", 2));
 }
 
 TEST(DataSet, RefusesWithAMessageAndStaysAsItWas) {
@@ -197,7 +226,7 @@ TEST(Fields, ConvertOrRefuse) {
 
 TEST(Fields, ReadAsOtherTypesAndShowThemselves) {
   TMemoryDataSet data(nullptr);
-  for (const TFieldType type : {ftString, ftFloat, ftCurrency, ftBoolean, ftDate}) {
+  for (const TFieldType type : {ftString, ftFloat, ftCurrency, ftBoolean, ftDate, ftBlob}) {
     data.FieldDefs()->Add("F" + IntToStr(data.FieldDefs()->Count()), type);
   }
   data.Open();
@@ -215,6 +244,7 @@ TEST(Fields, ReadAsOtherTypesAndShowThemselves) {
   EXPECT_THAT(Message([&] { number.AsInteger(); }), HasSubstr("10000000000"));
   money.SetAsCurrency(2.5);
   EXPECT_EQ(money.DisplayText() + " " + money.Text(), "2.50 2.5");
+  EXPECT_EQ(money.AsCurrency(), 2.5);
   static_cast<TBooleanField&>(sure).SetDisplayValues("Yes;No");
   sure.SetAsString("no");
   EXPECT_FALSE(sure.AsBoolean());
@@ -222,6 +252,10 @@ TEST(Fields, ReadAsOtherTypesAndShowThemselves) {
   day.SetAsDateTime(EncodeDate(2000, 2, 29) + 0.75);
   EXPECT_EQ(day.AsDateTime(), EncodeDate(2000, 2, 29));
   EXPECT_THAT(Message([&] { day.AsBoolean(); }), HasSubstr("Boolean"));
+  auto& bytes = dynamic_cast<TBlobField&>(*data.Fields()[5]);
+  EXPECT_EQ(bytes.BlobSize(), 0);
+  bytes.SetAsString(std::string("a\0b", 3));
+  EXPECT_EQ(bytes.BlobSize(), 3);
   text.OnGetText = [](TField*, std::string& shown, bool display) {
     if (display) shown = "<" + shown + ">";
   };

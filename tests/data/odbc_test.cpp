@@ -173,6 +173,9 @@ TEST_F(Odbc, ParametersHaveNames) {
   Query.Open();
   EXPECT_EQ(Dump(Query), "Bob:not|Bob;Cid:not|Cid");
   EXPECT_THAT(Message([&] { Query.ParamByName("nor"); }), HasSubstr("'nor'"));
+  vcl::TOdbcQuery other(nullptr);
+  other.SetParams(Query.Params());
+  EXPECT_EQ(std::get<std::string>(other.ParamByName("WHO")->Value()), "Bob");
   Query.SQL()->SetText("UPDATE people SET score = ?, born = ?");
   Query.ParamByName("1")->SetAsFloat(1.5);
   Query.ParamByName("2")->SetAsDate(vcl::EncodeDate(1999, 12, 31));

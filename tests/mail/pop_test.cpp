@@ -103,6 +103,7 @@ TEST_F(Fetching, SurvivesNonsense) {
       {"RETR", "+OK 9\r\nContent-Type: multipart/mixed\r\n\r\n.\r\n", "Message Format Error"},
       {"RETR", "+OK 9\r\n" + std::string(70'000, 'x') + "\r\n.\r\n", "larger than the 65536 bytes"},
   };
+  EXPECT_EQ(Mail->MaxMessageSize(), std::size_t{256} << 20);
   Mail->SetMaxMessageSize(1 << 16);
   for (const auto& each : cases) {
     EXPECT_FALSE(Execute({{each.Stage, each.Reply}})) << each.Error;

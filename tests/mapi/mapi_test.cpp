@@ -359,33 +359,35 @@ end
 /// whether it has MAPI then.
 const struct TSystem {
   unsigned long Major, Minor;
-  std::string Value;
+  std::wstring Value;
   LSTATUS Status;
   unsigned Setting;
   bool Expected;
-} Systems[] = {{4, 0, {"1\0", 2}, 0, 0, true},   {10, 0, "1", 0, 0, true},
-               {3, 52, "1", 0, 0, true},         {4, 0, {"0\0", 2}, 0, 1, false},
-               {4, 0, {"10\0", 3}, 0, 1, false}, {4, 0, "1", ERROR_MORE_DATA, 1, false},
-               {4, 0, "", 0, 1, false},          {4, 0, "", ERROR_FILE_NOT_FOUND, 1, false},
-               {3, 51, "1", 0, 0, false},        {3, 51, "", 0, 1, true}};
+} Systems[] = {{4, 0, {L"1\0", 2}, 0, 0, true},   {10, 0, L"1", 0, 0, true},
+               {3, 52, L"1", 0, 0, true},         {4, 0, {L"0\0", 2}, 0, 1, false},
+               {4, 0, {L"10\0", 3}, 0, 1, false}, {4, 0, L"1", ERROR_MORE_DATA, 1, false},
+               {4, 0, L"", 0, 1, false},          {4, 0, L"", ERROR_FILE_NOT_FOUND, 1, false},
+               {3, 51, L"1", 0, 0, false},        {3, 51, L"", 0, 1, true}};
 const TSystem* System = Systems;
 
 TEST_F(MapiMail, IsThereWhereTheSystemSaysSo) {
   const TImportPatch version(
-      "qel.dll", "GetVersionExA", +[](OSVERSIONINFOA* info) WINAPI -> BOOL {
+      "qel.dll", "GetVersionExW", +[](OSVERSIONINFOW* info) WINAPI -> BOOL {
         info->dwMajorVersion = System->Major;
         info->dwMinorVersion = System->Minor;
         return TRUE;
       });
   const TImportPatch value(
-      "qel.dll", "RegQueryValueExA",
-      +[](HKEY, LPCSTR, DWORD*, DWORD*, BYTE* data, DWORD* size) WINAPI -> LSTATUS {
-        *size = static_cast<DWORD>(System->Value.copy(reinterpret_cast<char*>(data), *size));
+      "qel.dll", "RegQueryValueExW",
+      +[](HKEY, LPCWSTR, DWORD*, DWORD*, BYTE* data, DWORD* size) WINAPI -> LSTATUS {
+        const std::size_t room = *size / sizeof(wchar_t);
+        *size = static_cast<DWORD>(System->Value.copy(reinterpret_cast<wchar_t*>(data), room) *
+                                   sizeof(wchar_t));
         return System->Status;
       });
   const TImportPatch setting(
-      "qel.dll", "GetProfileIntA",
-      +[](LPCSTR, LPCSTR, INT) WINAPI -> UINT { return System->Setting; });
+      "qel.dll", "GetProfileIntW",
+      +[](LPCWSTR, LPCWSTR, INT) WINAPI -> UINT { return System->Setting; });
   for (const auto& each : Systems) {
     System = &each;
     EXPECT_EQ(TQELMapiMail(nullptr).GetMAPIAvail(), each.Expected) << System - Systems;

@@ -10,6 +10,7 @@
 #include "tests/mail/mailtest.h"
 #include "tests/mapi/provider/provider.h"
 #include "tests/support/importpatch.h"
+#include "vcl/rtl/utf16.h"
 
 struct TMapiTest : testing::Test {
   TMapiTest() {
@@ -23,11 +24,11 @@ struct TMapiTest : testing::Test {
     EXPECT_EQ(Loaded, 0) << "the library was not released";
   }
 
-  static HMODULE WINAPI LoadProvider(LPCSTR name) {
-    Loads.push_back(std::string(name) + ' ' + std::to_string(::GetErrorMode()));
+  static HMODULE WINAPI LoadProvider(LPCWSTR name) {
+    Loads.push_back(vcl::ToUtf8(name) + ' ' + std::to_string(::GetErrorMode()));
     if (!HasLibrary) return nullptr;
     ++Loaded;
-    return ::LoadLibraryA("mapiprovider.dll");
+    return ::LoadLibraryW(L"mapiprovider.dll");
   }
   static BOOL WINAPI Release(HMODULE module) {
     --Loaded;
@@ -41,6 +42,6 @@ struct TMapiTest : testing::Test {
   static inline int Loaded = 0;
   static inline bool HasLibrary = true;
   TTestApplication Application;
-  TImportPatch Loading{"qel.dll", "LoadLibraryA", &LoadProvider};
+  TImportPatch Loading{"qel.dll", "LoadLibraryW", &LoadProvider};
   TImportPatch Releasing{"qel.dll", "FreeLibrary", &Release};
 };

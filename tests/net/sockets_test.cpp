@@ -51,6 +51,10 @@ TEST(ClientSocket, ConnectsByNameAndAddressOfBothProtocols) {
     EXPECT_EQ(socket.Socket()->RemotePort(), server.Port());
     EXPECT_EQ(socket.Socket()->RemoteAddress(), address);
     EXPECT_EQ(socket.Socket()->LocalAddress(), address);
+    EXPECT_GT(socket.Socket()->LocalPort(), 0);
+    EXPECT_NE(socket.Socket()->LocalPort(), server.Port());
+    EXPECT_NE(socket.Socket()->RemoteHost(), "");
+    EXPECT_EQ(socket.Socket()->LocalHost(), vcl::TCustomWinSocket::GetLocalHost());
     EXPECT_EQ(socket.Socket()->ReceiveText(), "hello\r\n");
     EXPECT_THROW(socket.SetHost("elsewhere"), vcl::ESocketError);
     socket.Close();
@@ -129,6 +133,8 @@ TEST(SocketStream, WaitsReadsAndWrites) {
     vcl::TWinSocketStream stream(socket.Socket(), 20);
     char buffer[64];
     EXPECT_FALSE(stream.WaitForData(50));
+    stream.SetTimeOut(30);
+    EXPECT_EQ(stream.TimeOut(), 30);
     EXPECT_EQ(stream.Read(buffer, sizeof buffer), 0) << "nothing came in time";
     EXPECT_FALSE(stream.AtEnd());
     stream.WriteText("go\r\n");

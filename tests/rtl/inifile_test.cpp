@@ -90,6 +90,11 @@ TEST_F(IniFile, ValuesOfOtherKinds) {
   EXPECT_EQ(ini.ReadFloat("S", "f", 0), 0.1);
   EXPECT_EQ(ini.ReadInteger("S", "i", 0), -2147483647 - 1);
   EXPECT_NEAR(ini.ReadDateTime("S", "t", 0), when, 1e-9);
+  ini.WriteDate("S", "day", when);
+  ini.WriteTime("S", "hour", when);
+  EXPECT_EQ(ini.ReadDate("S", "day", 0), vcl::EncodeDate(2024, 2, 29));
+  EXPECT_NEAR(ini.ReadTime("S", "hour", 0), vcl::EncodeTime(13, 14, 15, 0), 1e-9);
+  EXPECT_EQ(ini.ReadTime("S", "none", 0.25), 0.25);
   ini.WriteString("S", "x", "0x1F");
   EXPECT_EQ(ini.ReadInteger("S", "x", 0), 31);
   ini.WriteString("S", "x", "99999999999");

@@ -111,6 +111,8 @@ TEST(Strings, KeepsSorted) {
   list.Add("B");
   EXPECT_EQ(list.Count(), 5);
   list.SetDuplicates(dupError);
+  EXPECT_EQ(list.Duplicates(), dupError);
+  EXPECT_FALSE(list.CaseSensitive());
   EXPECT_THROW(list.Add("C"), EStringListError);
   EXPECT_THROW(list.Insert(0, "z"), EStringListError);
   EXPECT_THROW(list.SetStrings(0, "z"), EStringListError);

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "tests/vcl/testinput.h"
+#include "vcl/controls/windowtext.h"
 
 #include "vcl/rtl/win32.h"
 
@@ -77,7 +78,8 @@ TEST(Application, ErrorsGoToTheHandlerAndItsOwnToABox) {
 }
 
 TEST(Application, AnErrorIsShownInABoxAndTheProgramGoesOn) {
-  Application()->SetTitle("The title");
+  Application()->SetTitle("Τίτλος 日本");
+  EXPECT_EQ(WindowText(Application()->Handle()), "Τίτλος 日本");
   TForm form(nullptr);
   form.OnClick = [](TObject*) { throw Exception("Grüße"); };
   form.SetBounds(200, 200, 200, 200);
@@ -86,14 +88,14 @@ TEST(Application, AnErrorIsShownInABoxAndTheProgramGoesOn) {
   TBoxAnswer box(IDOK);
   Click(&form);
   EXPECT_TRUE(box.Wait());
-  EXPECT_EQ(box.Caption(), "The title");
+  EXPECT_EQ(box.Caption(), "Τίτλος 日本");
   EXPECT_EQ(box.Text(), "Grüße.");
   EXPECT_TRUE(::IsWindowEnabled(form.Handle()));
   EXPECT_TRUE(PumpUntil([&] { return form.Active(); }));
   TBoxAnswer message(IDOK);
   ShowMessage("Grüße");
   EXPECT_TRUE(message.Wait());
-  EXPECT_EQ(message.Caption() + message.Text(), "The titleGrüße");
+  EXPECT_EQ(message.Caption() + message.Text(), "Τίτλος 日本Grüße");
 }
 
 std::atomic<int> raised = 0;

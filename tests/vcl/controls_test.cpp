@@ -160,6 +160,11 @@ TEST_F(Controls, AlignKeepsControlsAlongTheEdges) {
   Form.Show();
   box->SetBounds(10, 10, 250, 120);
   expectAt(250, 120);
+  box->DisableAlign();
+  box->SetBounds(10, 10, 350, 140);
+  expectAt(250, 120);
+  box->EnableAlign();
+  expectAt(350, 140);
   left->SetVisible(false);
   EXPECT_EQ(rest->Left(), 0);
 }

@@ -140,6 +140,8 @@ TEST_F(Dialogs, MessagesAndQuestionsAreAnsweredByKeys) {
     const testinput::TKeysWhen keys(InFront(L"Frage"), {'A', 'B', last});
     EXPECT_EQ(InputQuery("Frage", "Was?", value), agreed);
     EXPECT_EQ(value, "ab");
+    const testinput::TKeysWhen again(InFront(L"Frage"), {'C', last});
+    EXPECT_EQ(InputBox("Frage", "Was?", "offered"), agreed ? "c" : "offered");
   }
 }
 

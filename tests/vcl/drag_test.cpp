@@ -94,6 +94,21 @@ TEST_F(Drag, ARefusedDropAndEscapeEndItWithoutATarget) {
   EXPECT_TRUE(Form.Visible());
 }
 
+TEST_F(Drag, TheProgramEndsItWithOrWithoutADrop) {
+  for (const bool drop : {true, false}) {
+    Log.clear();
+    DragToTarget();
+    Target->EndDrag(drop);
+    EXPECT_TRUE(Source->Dragging()) << "it is not the target's";
+    Source->EndDrag(drop);
+    EXPECT_EQ(TDragSession::Current(), nullptr);
+    TLog expected{"start", "enter", "move", "leave", "end"};
+    if (drop) expected.insert(expected.end() - 1, "drop");
+    EXPECT_EQ(Log, expected);
+    LeftUp();
+  }
+}
+
 TEST_F(Drag, LosingTheMouseCancels) {
   DragToTarget();
   ::SetCapture(Form.Handle());

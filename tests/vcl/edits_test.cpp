@@ -46,6 +46,10 @@ TEST_F(Edits, SelectionCountsUtf16UnitsAndEndsInsideTheText) {
   edit->SetSelLength(5);
   edit->SetSelText("Hallo");
   EXPECT_EQ(edit->Text(), "Hallo 😀!");
+  edit->SetSelStart(0);
+  edit->SetSelLength(6);
+  edit->ClearSelection();
+  EXPECT_EQ(edit->Text(), "😀!");
 }
 
 TEST_F(Edits, StateOutlivesTheWindow) {

@@ -66,6 +66,17 @@ TEST(Bitmap, RowsLieInMemoryFromTheTop) {
   EXPECT_THROW(bitmap.ScanLine(-1), EInvalidOperation);
 }
 
+TEST(Bitmap, TheColourThatIsNotDrawnFollowsACornerOrIsFixed) {
+  TBitmap bitmap;
+  Paint(bitmap, {"GB", "RG"});
+  EXPECT_EQ(bitmap.TransparentColor(), clRed);
+  bitmap.SetTransparentMode(tmFixed);
+  bitmap.Canvas()->SetPixel(0, 1, clBlue);
+  EXPECT_EQ(bitmap.TransparentColor(), clRed);
+  bitmap.SetTransparentMode(tmAuto);
+  EXPECT_EQ(bitmap.TransparentColor(), RGBToColor(0, 0, 255));
+}
+
 TEST(Bitmap, CopiesAreTheirOwnAndHandlesChangeHands) {
   TBitmap a;
   Paint(a, {"RG"});

@@ -56,6 +56,10 @@ TEST(Font, HandleHasWhatTheFontSays) {
   EXPECT_TRUE(other == font);
   EXPECT_THROW(font.SetName(std::string(32, 'x')), EArgumentOutOfRangeException);
   EXPECT_EQ(font.Name(), "Arial");
+  const char* japanese = "日本語の長い名前の書体";  // More bytes than the system has characters.
+  font.SetName(japanese);
+  other.SetHandle(font.Handle());
+  EXPECT_EQ(other.Name(), japanese);
 }
 
 TEST(Font, CopiesShareTheHandleUntilOneChanges) {

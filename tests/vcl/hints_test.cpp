@@ -70,8 +70,13 @@ TEST_F(Hints, ComesWhenTheMouseRestsAndFollowsIt) {
   EXPECT_STREQ(text, "First");
   EXPECT_EQ(Application()->Hint(), "About the first");
   EXPECT_TRUE(Form.Active());  // The hint takes no focus.
+  const int shortPause = Application()->HintShortPause();
+  Application()->SetHintPause(60000);  // Counts no more while a hint is shown.
+  Application()->SetHintShortPause(20);
+  EXPECT_EQ(Application()->HintHidePause(), 60000);
   MoveMouse(MiddleOf(Second));
   EXPECT_TRUE(Shows(Second));
+  Application()->SetHintShortPause(shortPause);
   MoveMouse({5, 5});
   EXPECT_TRUE(Shows(nullptr));
   EXPECT_EQ(Window(), nullptr);

@@ -84,7 +84,20 @@ TEST_F(Mdi, TheyAreArranged) {
     Main->Tile();
     EXPECT_EQ(a->Left() == b->Left(), mode == tbHorizontal);
     EXPECT_EQ(a->Top() == b->Top(), mode == tbVertical);
+    EXPECT_EQ(Main->TileMode(), mode);
   }
+  const auto place = [a] {
+    RECT rect;
+    ::GetWindowRect(a->Handle(), &rect);
+    return TRect(rect);
+  };
+  a->SetWindowState(wsMinimized);
+  Main->ArrangeIcons();
+  const TRect arranged = place();
+  ::SetWindowPos(a->Handle(), nullptr, 77, 11, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  EXPECT_NE(place(), arranged);
+  Main->ArrangeIcons();
+  EXPECT_EQ(place(), arranged);
 }
 
 TEST_F(Mdi, ClosedTheyAreMinimizedOrWhatTheirHandlerSays) {

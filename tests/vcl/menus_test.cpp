@@ -3,6 +3,7 @@
 
 #include "tests/support/importpatch.h"
 #include "tests/vcl/testinput.h"
+#include "vcl/rtl/utf16.h"
 
 namespace vcl {
 namespace {
@@ -24,9 +25,9 @@ class Menus : public ::testing::Test {
   }
   TMenuItem* Add(const std::string& caption) { return Add(Menu.Items(), caption); }
   static std::string TextAt(HMENU menu, int index) {
-    char text[80] = "";
-    ::GetMenuStringA(menu, static_cast<UINT>(index), text, sizeof text, MF_BYPOSITION);
-    return text;
+    wchar_t text[80] = L"";
+    ::GetMenuStringW(menu, static_cast<UINT>(index), text, 80, MF_BYPOSITION);
+    return ToUtf8(text);
   }
   static UINT StateAt(HMENU menu, int index) {
     return ::GetMenuState(menu, static_cast<UINT>(index), MF_BYPOSITION);
@@ -83,6 +84,14 @@ TEST_F(Menus, TheHandleFollowsTheItems) {
   EXPECT_EQ(::GetMenuItemCount(handle), 1);
 }
 
+TEST_F(Menus, CaptionsAreShownInAnyScript) {
+  const char* captions[] = {"Ändern", "Ω日本", "𝄞 clef"};
+  for (const char* caption : captions) Add(caption)->SetShortCut(ShortCut('S', {ssCtrl}));
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(TextAt(Menu.Items()->Handle(), i), captions[i] + std::string("\tCtrl+S"));
+  }
+}
+
 TEST_F(Menus, RadioItemsOfAGroupExcludeEachOther) {
   for (const char* caption : {"A", "B", "C"}) {
     TMenuItem* item = Add(caption);
@@ -93,7 +102,7 @@ TEST_F(Menus, RadioItemsOfAGroupExcludeEachOther) {
   for (int i = 0; i < 3; ++i) EXPECT_EQ(Menu.Items()->Items(i)->Checked(), i > 0) << i;
 }
 
-TEST_F(Menus, WrongPlacesAreRefused) {
+TEST_F(Menus, ItemsMoveAndWrongPlacesAreRefused) {
   TMenuItem* item = Add("Item");
   TMenuItem* inside = Add(item, "Inside");
   TMenuItem loose(nullptr);
@@ -105,6 +114,12 @@ TEST_F(Menus, WrongPlacesAreRefused) {
   EXPECT_THROW(inside->Add(item), EInvalidOperation);
   Menu.Items()->Add(item);
   EXPECT_EQ(inside->GetParentMenu(), &Menu);
+  TMenuItem* second = Add("Second");
+  second->SetMenuIndex(0);
+  EXPECT_EQ(item->MenuIndex(), 1);
+  EXPECT_EQ(TextAt(Menu.Handle(), 0), "Second");
+  EXPECT_THROW(second->SetMenuIndex(2), EListError);
+  EXPECT_EQ(second->MenuIndex(), 0);
 }
 
 TEST_F(Menus, CommandsReachTheirItemsUnlessDisabled) {

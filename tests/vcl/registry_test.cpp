@@ -46,6 +46,28 @@ TEST_F(Registry, KeysAreOpenedRelativeToTheCurrentOne) {
   EXPECT_EQ(registry.CurrentPath(), "");
 }
 
+TEST_F(Registry, NamesOfValuesReplaceTheLines) {
+  TRegistry registry;
+  ASSERT_TRUE(registry.OpenKey(Key, true));
+  vcl::TStringList list;
+  list.SetText("former");
+  registry.GetValueNames(list);
+  EXPECT_EQ(list.Count(), 0);
+  for (const char* name : {"a", "\u65e5\u672c"}) registry.WriteString(name, "value");
+  registry.GetValueNames(list);
+  list.Sort();
+  EXPECT_EQ(list.CommaText(), "a,\u65e5\u672c");
+}
+
+TEST_F(Registry, KeysAreOpenedWithTheRightsAskedFor) {
+  TRegistry registry;
+  ASSERT_TRUE(registry.CreateKey(Key));
+  registry.SetAccess(KEY_READ);
+  EXPECT_EQ(registry.Access(), static_cast<std::uint32_t>(KEY_READ));
+  ASSERT_TRUE(registry.OpenKey(Key, false));
+  EXPECT_THROW(registry.WriteString("a", "b"), ERegistryException);
+}
+
 TEST_F(Registry, ValuesHaveTypes) {
   TRegistry registry;
   ASSERT_TRUE(registry.OpenKey(Key, true));

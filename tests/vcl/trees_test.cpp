@@ -215,6 +215,56 @@ TEST_F(Trees, SortedTreesStaySorted) {
   EXPECT_EQ(Items(), "0aa 0a 1a2 2a21 1a11 1a1 0A0 ");
 }
 
+TEST_F(Trees, NodesKnowTheirNeighbours) {
+  TTreeNode *a1 = A->GetFirstChild(), *a2 = A->GetLastChild();
+  EXPECT_EQ(A->GetNextChild(a1), a2);
+  EXPECT_EQ(A->GetNextChild(a2), nullptr);
+  EXPECT_EQ(A->GetPrevChild(a2), a1);
+  EXPECT_EQ(A->GetPrevChild(nullptr), nullptr);
+  EXPECT_EQ(A->GetNextVisible(), B);
+  EXPECT_EQ(B->GetPrevVisible(), A);
+  A->SetExpanded(true);
+  EXPECT_EQ(A->GetNextVisible(), a1);
+  EXPECT_EQ(B->GetPrevVisible(), a2);
+  EXPECT_EQ(B->GetNextVisible(), nullptr);
+  Tree->FullExpand();
+  EXPECT_EQ(B->GetPrevVisible(), a2->GetFirstChild());
+  Tree->FullCollapse();
+  EXPECT_EQ(B->GetPrevVisible(), A);
+  EXPECT_FALSE(a2->Expanded());
+}
+
+TEST_F(Trees, NodesAreAddedWithDataOnEitherSide) {
+  TTreeNodes* items = Tree->Items();
+  int data = 0;
+  TTreeNode* const added[] = {items->AddObjectFirst(B, "first", &data),
+                              items->AddChildObject(B, "b2", &data),
+                              items->AddChildObjectFirst(B, "b1", &data)};
+  EXPECT_EQ(Nodes(), "0first 0a 1a1 1a2 2a21 0b 1b1 1b2 ");
+  for (const TTreeNode* each : added) EXPECT_EQ(each->Data(), &data);
+}
+
+TEST_F(Trees, WhatTheWindowIsAtIsSaidOfTheNodes) {
+  EXPECT_EQ(A->ItemId(), nullptr);
+  ShowForm();
+  EXPECT_EQ(Tree->Items()->GetNode(A->ItemId()), A);
+  B->SetFocused(true);
+  EXPECT_EQ(Tree->Selected(), B);
+  Tree->SetDropTarget(A);
+  EXPECT_EQ(Tree->DropTarget(), A);
+  Tree->SetDropTarget(nullptr);
+  EXPECT_EQ(Tree->DropTarget(), nullptr);
+  EXPECT_TRUE(B->EditText());
+  EXPECT_TRUE(Tree->IsEditing());
+  B->EndEdit(true);
+  EXPECT_FALSE(Tree->IsEditing());
+  bool deleting = false;
+  Tree->OnDeletion = [&](TObject*, TTreeNode* node) { deleting = node->Deleting(); };
+  EXPECT_FALSE(B->Deleting());
+  B->Delete();
+  EXPECT_TRUE(deleting);
+}
+
 TEST_F(Trees, HandlersThatDeleteHarmNothing) {
   ShowForm();
   Tree->OnExpanding = [](TObject*, TTreeNode* node, bool&) { node->Delete(); };

@@ -188,7 +188,7 @@ void TWinControl::UpdateBounds() {
   if (!HandleAllocated() || ::IsIconic(FHandle)) return;
   RECT rect;
   ::GetWindowRect(FHandle, &rect);
-  if (::GetWindowLongA(FHandle, GWL_STYLE) & WS_CHILD) {
+  if (::GetWindowLongW(FHandle, GWL_STYLE) & WS_CHILD) {
     ::MapWindowPoints(nullptr, ::GetParent(FHandle), reinterpret_cast<POINT*>(&rect), 2);
   }
   FLeft = rect.left;

@@ -74,8 +74,8 @@ void TWinControl::SetTabStop(bool tabStop) {
   if (tabStop == FTabStop) return;
   FTabStop = tabStop;
   if (!FHandle) return;
-  const LONG style = ::GetWindowLongA(FHandle, GWL_STYLE);
-  ::SetWindowLongA(FHandle, GWL_STYLE, tabStop ? style | WS_TABSTOP : style & ~WS_TABSTOP);
+  const LONG style = ::GetWindowLongW(FHandle, GWL_STYLE);
+  ::SetWindowLongW(FHandle, GWL_STYLE, tabStop ? style | WS_TABSTOP : style & ~WS_TABSTOP);
 }
 
 void TWinControl::GetTabOrderList(std::vector<TWinControl*>& list) const {

@@ -66,7 +66,8 @@ class TMessageForm : public TForm {
   }
   void PutIcon(LPCSTR icon) {
     auto* image = Put<TImage>(Margin, Margin, 32, 32);
-    image->Picture()->Icon()->SetHandle(::CopyIcon(::LoadIconA(nullptr, icon)));
+    const HICON shared = ::LoadIconW(nullptr, reinterpret_cast<LPCWSTR>(icon));
+    image->Picture()->Icon()->SetHandle(::CopyIcon(shared));
   }
   /// Adds text and returns its rectangle.
   TRect PutText(int left, const std::string& text) {

@@ -6,11 +6,13 @@
 #include <exception>
 #include <utility>
 
+#include "vcl/controls/windowtext.h"
 #include "vcl/forms/forms.h"
 #include "vcl/forms/private/taskwindows.h"
 #include "vcl/forms/screen.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/resources.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/thread.h"
 
@@ -53,10 +55,10 @@ TApplication::TApplication(TComponent* owner)
       FHints(std::make_unique<THintControl>(this)) {
   TheApplication = this;
   constexpr const char* mainIcon = "MAINICON";
-  if (::FindResourceA(nullptr, mainIcon, MAKEINTRESOURCEA(14))) {  // RT_GROUP_ICON
+  if (ResourceExists(nullptr, mainIcon, RT_GROUP_ICON)) {
     FIcon->LoadFromResourceName(nullptr, mainIcon);
   } else {
-    FIcon->SetHandle(::CopyIcon(::LoadIconA(nullptr, IDI_APPLICATION)));
+    FIcon->SetHandle(::CopyIcon(::LoadIconW(nullptr, reinterpret_cast<LPCWSTR>(IDI_APPLICATION))));
   }
   FIcon->OnChange = {this, &TApplication::IconChanged};
   FHints->SetEnabled(FShowHint);
@@ -162,7 +164,7 @@ void TApplication::CreateHandle() {
                         WS_POPUP | WS_CAPTION | WS_CLIPSIBLINGS | WS_SYSMENU | WS_MINIMIZEBOX, x, y,
                         0, 0, nullptr, nullptr, ::GetModuleHandleW(nullptr), nullptr),
       "The application's window");
-  ::SetWindowTextA(FHandle, Title().c_str());
+  SetWindowTextUtf8(FHandle, Title());
   IconChanged(nullptr);
   CalledWindow = FHandle;
   SetWakeMainThread(&PostThreadsCall);
@@ -170,7 +172,7 @@ void TApplication::CreateHandle() {
 
 void TApplication::SetTitle(const std::string& title) {
   TCustomApplication::SetTitle(title);
-  if (FHandle) ::SetWindowTextA(FHandle, Title().c_str());
+  if (FHandle) SetWindowTextUtf8(FHandle, Title());
 }
 
 void TApplication::IconChanged(TObject*) {

@@ -8,6 +8,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/private/taskwindows.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/utf16.h"
 
 namespace vcl {
 
@@ -57,7 +58,8 @@ void TApplication::ShowException(const std::exception& error) {
 
 int TApplication::MessageBox(const std::string& text, const std::string& caption, int flags) {
   const TSystemModal modal;
-  return ::MessageBoxA(modal.Owner(), text.c_str(), caption.c_str(), static_cast<UINT>(flags));
+  return ::MessageBoxW(modal.Owner(), ToUtf16(text).c_str(), ToUtf16(caption).c_str(),
+                       static_cast<UINT>(flags));
 }
 
 void ShowMessage(const std::string& text) {

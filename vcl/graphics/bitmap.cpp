@@ -56,7 +56,7 @@ TBitmapInfo InfoFor(int width, int height, int bitCount, bool sixBitGreen) {
 
 DIBSECTION Section(HBITMAP bitmap) {
   DIBSECTION section{};
-  if (::GetObjectA(bitmap, sizeof section, &section) != sizeof section) {
+  if (::GetObjectW(bitmap, sizeof section, &section) != sizeof section) {
     RaiseOutOfResources("to describe a bitmap");
   }
   return section;
@@ -77,7 +77,7 @@ TOwnedBitmap MakeSection(const TDib& dib) {
 /// The picture of any GDI bitmap that is selected nowhere.
 TDib ReadHandle(HBITMAP handle) {
   DIBSECTION description{};
-  const int got = ::GetObjectA(handle, sizeof description, &description);
+  const int got = ::GetObjectW(handle, sizeof description, &description);
   if (!got) throw EInvalidGraphic("The handle is none of a bitmap");
   const BITMAP& bitmap = description.dsBm;
   const bool section = got == sizeof description;

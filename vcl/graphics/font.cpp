@@ -3,11 +3,11 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
@@ -47,7 +47,7 @@ constexpr TCharsetName CharsetNames[] = {
     {OEM_CHARSET, "OEM_CHARSET"},
 };
 
-TFontStyles StylesOf(const LOGFONTA& font) {
+TFontStyles StylesOf(const LOGFONTW& font) {
   TFontStyles styles;
   if (font.lfWeight > FW_MEDIUM) styles.Include(fsBold);
   if (font.lfItalic) styles.Include(fsItalic);
@@ -56,7 +56,7 @@ TFontStyles StylesOf(const LOGFONTA& font) {
   return styles;
 }
 
-TFontPitch PitchOf(const LOGFONTA& font) {
+TFontPitch PitchOf(const LOGFONTW& font) {
   static constexpr TFontPitch pitches[] = {fpDefault, fpFixed, fpVariable, fpDefault};
   return pitches[font.lfPitchAndFamily & 3];
 }
@@ -124,9 +124,9 @@ bool TFont::operator==(const TFont& other) const {
          FColor == other.FColor && FPitch == other.FPitch && FCharset == other.FCharset;
 }
 
-LOGFONTA TFont::LogFont() const {
+LOGFONTW TFont::LogFont() const {
   static constexpr BYTE pitches[] = {DEFAULT_PITCH, VARIABLE_PITCH, FIXED_PITCH};
-  LOGFONTA font{};
+  LOGFONTW font{};
   font.lfHeight = FHeight;
   font.lfWeight = FStyle.Has(fsBold) ? FW_BOLD : FW_NORMAL;
   font.lfItalic = FStyle.Has(fsItalic);
@@ -134,15 +134,15 @@ LOGFONTA TFont::LogFont() const {
   font.lfStrikeOut = FStyle.Has(fsStrikeOut);
   font.lfCharSet = FCharset;
   font.lfPitchAndFamily = pitches[FPitch];
-  std::memcpy(font.lfFaceName, FName.data(), FName.size());
+  ToUtf16(FName).copy(font.lfFaceName, LF_FACESIZE - 1);
   return font;
 }
 
 std::shared_ptr<const TOwnedFont> TFont::Share() const {
   if (!FHandle) {
-    const LOGFONTA font = LogFont();
+    const LOGFONTW font = LogFont();
     FHandle =
-        std::make_shared<const TOwnedFont>(CheckHandle(::CreateFontIndirectA(&font), "a font"));
+        std::make_shared<const TOwnedFont>(CheckHandle(::CreateFontIndirectW(&font), "a font"));
   }
   return FHandle;
 }
@@ -150,9 +150,9 @@ std::shared_ptr<const TOwnedFont> TFont::Share() const {
 HFONT TFont::Handle() const { return Share()->Get(); }
 
 void TFont::SetHandle(HFONT handle) {
-  LOGFONTA font;
-  if (!::GetObjectA(handle, sizeof font, &font)) RaiseOutOfResources("to describe a font");
-  FName = font.lfFaceName;
+  LOGFONTW font;
+  if (!::GetObjectW(handle, sizeof font, &font)) RaiseOutOfResources("to describe a font");
+  FName = ToUtf8(font.lfFaceName);
   FHeight = static_cast<int>(font.lfHeight);
   FStyle = StylesOf(font);
   FPitch = PitchOf(font);
@@ -167,9 +167,10 @@ void TFont::Remake() {
 
 void TFont::SetName(const std::string& name) {
   if (name == FName) return;
-  if (name.size() >= LF_FACESIZE) {
-    throw EArgumentOutOfRangeException(Concat(
-        "A font's name has less than ", std::to_string(LF_FACESIZE), " bytes: \"", name, "\""));
+  if (ToUtf16(name).size() >= LF_FACESIZE) {
+    throw EArgumentOutOfRangeException(Concat("A font's name has less than ",
+                                              std::to_string(LF_FACESIZE), " UTF-16 units: \"",
+                                              name, "\""));
   }
   FName = name;
   Remake();

@@ -52,7 +52,7 @@ class VCL_API TFont : public TGraphicsObject {
   std::shared_ptr<const TOwnedFont> Share() const;
 
   const std::string& Name() const { return FName; }
-  /// The face. Raises EArgumentOutOfRangeException for a name of 32 bytes or more.
+  /// The face. Raises EArgumentOutOfRangeException for a name of 32 UTF-16 units or more.
   void SetName(const std::string& name);
   int Height() const { return FHeight; }
   /// In pixels: negative without, positive with the internal leading (as LOGFONT's lfHeight).
@@ -78,7 +78,7 @@ class VCL_API TFont : public TGraphicsObject {
  private:
   /// The look has changed: the handle is given up.
   void Remake();
-  LOGFONTA LogFont() const;
+  LOGFONTW LogFont() const;
 
   std::string FName = "Tahoma";
   int FHeight;

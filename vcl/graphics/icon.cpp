@@ -15,6 +15,7 @@
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
@@ -32,7 +33,7 @@ struct TIconParts {
   }
   TSize Size() const {
     BITMAP bitmap{};
-    ::GetObjectA(Color ? Color.Get() : Mask.Get(), sizeof bitmap, &bitmap);
+    ::GetObjectW(Color ? Color.Get() : Mask.Get(), sizeof bitmap, &bitmap);
     const int height = static_cast<int>(bitmap.bmHeight);
     // Without a bitmap of colours, the mask holds two pictures one above the other.
     return {static_cast<int>(bitmap.bmWidth), Color ? height : height / 2};
@@ -129,7 +130,8 @@ void TIcon::LoadFromResourceName(HINSTANCE instance, const std::string& name) {
   const TSize size = Wanted();
   // Here null would be the system's own module instead of the program.
   if (!instance) instance = ::GetModuleHandleW(nullptr);
-  const HANDLE icon = ::LoadImageA(instance, name.c_str(), IMAGE_ICON, size.cx, size.cy, 0);
+  const HANDLE icon =
+      ::LoadImageW(instance, ToUtf16(name).c_str(), IMAGE_ICON, size.cx, size.cy, 0);
   if (!icon) throw EResNotFound(Concat("There is no icon \"", name, "\" in the module"));
   SetHandle(static_cast<HICON>(icon));
 }

@@ -7,6 +7,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
@@ -212,9 +213,9 @@ void TMenuItem::Fill() {
 }
 
 void TMenuItem::AppendTo(HMENU menu) {
-  std::string text = FCaption;
-  if (FShortCut != scNone) text += "\t" + ShortCutToText(FShortCut);
-  MENUITEMINFOA info{};
+  std::wstring text = ToUtf16(FCaption);
+  if (FShortCut != scNone) text += L'\t' + ToUtf16(ShortCutToText(FShortCut));
+  MENUITEMINFOW info{};
   info.cbSize = sizeof info;
   info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_STRING;
   info.fType = static_cast<UINT>(IsLine() ? MFT_SEPARATOR : MFT_STRING);
@@ -228,7 +229,7 @@ void TMenuItem::AppendTo(HMENU menu) {
     info.fMask |= MIIM_SUBMENU;
     info.hSubMenu = Handle();
   }
-  ::InsertMenuItemA(menu, static_cast<UINT>(::GetMenuItemCount(menu)), TRUE, &info);
+  ::InsertMenuItemW(menu, static_cast<UINT>(::GetMenuItemCount(menu)), TRUE, &info);
 }
 
 // Choosing.

@@ -128,7 +128,6 @@ class VCL_API TComponent : public TPersistent, public TWatched {
  private:
   friend class TReader;
   friend class TWriter;
-  bool Unnamed() const { return FName.empty(); }
   void MarkDestroying();
   void DefinePosition(TFiler& filer, const char* name, std::int16_t& coordinate);
 

@@ -16,7 +16,10 @@ class VCL_API TPersistent : public TObject {
 
   /// Copies the other object's state into this one. A class overrides it for the sources that it
   /// knows and leaves others to the inherited method, which asks the source (`AssignTo`). Raises
-  /// EConvertError when neither knows how, or the source is null.
+  /// EConvertError when neither knows how. Null is answered in one way, by this method and by every
+  /// setter of an object that its owner has always, be it copied or taken over: a picture
+  /// (TGraphic, TPicture, TImageList) is empty afterwards, everything else refuses null with
+  /// EConvertError and stays as it was.
   virtual void Assign(const TPersistent* source);
 
  protected:

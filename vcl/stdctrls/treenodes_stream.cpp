@@ -89,10 +89,10 @@ void TTreeNodes::CopyChildren(const TTreeNode* from, TTreeNode* to) {
 void TTreeNodes::Assign(const TPersistent* source) {
   if (source == this) return;
   const auto* nodes = dynamic_cast<const TTreeNodes*>(source);
-  if (source && !nodes) return TPersistent::Assign(source);
+  if (!nodes) return TPersistent::Assign(source);
   const TUpdating updating(*this, FOwner);
   Clear();
-  if (nodes) CopyChildren(nodes->FRoot.get(), nullptr);
+  CopyChildren(nodes->FRoot.get(), nullptr);
 }
 
 }  // namespace vcl

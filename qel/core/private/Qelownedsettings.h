@@ -11,12 +11,13 @@ namespace qel {
 void InvalidateOwner(vcl::TObject* owner);
 
 /// Puts settings in the place of those that a control has, which are freed, and has it painted
-/// again. Null is ignored. Settings that another control owns are copied instead, as they end with
-/// it.
+/// again. Settings that another control owns are copied instead, as they end with it. Null is
+/// refused as TPersistent::Assign does.
 template <class Settings>
 void TakeOver(std::unique_ptr<Settings>& field, Settings* settings, vcl::TObject* owner) {
-  if (!settings || settings == field.get()) return;
-  if (settings->Owner() && settings->Owner() != owner) return field->Assign(settings);
+  if (settings == field.get()) return;
+  const bool ofAnother = settings && settings->Owner() && settings->Owner() != owner;
+  if (!settings || ofAnother) return field->Assign(settings);
   settings->SetOwner(owner);
   field.reset(settings);
   InvalidateOwner(owner);

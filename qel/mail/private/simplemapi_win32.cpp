@@ -7,29 +7,30 @@
 namespace qel {
 namespace {
 
-constexpr const char* SubsystemKey = "SOFTWARE\\Microsoft\\Windows Messaging Subsystem";
+constexpr const wchar_t* SubsystemKey = L"SOFTWARE\\Microsoft\\Windows Messaging Subsystem";
 
 /// From Windows NT 3.51 on the registry says whether there is MAPI; before, the system's settings
 /// file did.
 bool RegistrySpeaksOfMapi() {
-  OSVERSIONINFOA version{};
+  OSVERSIONINFOW version{};
   version.dwOSVersionInfoSize = sizeof version;
-  ::GetVersionExA(&version);
+  ::GetVersionExW(&version);
   return version.dwMajorVersion > 3 || (version.dwMajorVersion == 3 && version.dwMinorVersion > 51);
 }
 
 bool RegistryHasMapi() {
   HKEY key = nullptr;
-  if (::RegOpenKeyExA(HKEY_LOCAL_MACHINE, SubsystemKey, 0, KEY_READ, &key) != ERROR_SUCCESS) {
+  if (::RegOpenKeyExW(HKEY_LOCAL_MACHINE, SubsystemKey, 0, KEY_READ, &key) != ERROR_SUCCESS) {
     return false;
   }
-  char value[9] = {};
+  wchar_t value[9] = {};
   DWORD size = sizeof value;
   const LSTATUS status =
-      ::RegQueryValueExA(key, "MAPI", nullptr, nullptr, reinterpret_cast<BYTE*>(value), &size);
+      ::RegQueryValueExW(key, L"MAPI", nullptr, nullptr, reinterpret_cast<BYTE*>(value), &size);
   ::RegCloseKey(key);
   // The registry ends a text with a zero only when it was written with one.
-  return status == ERROR_SUCCESS && std::string(value, ::strnlen(value, size)) == "1";
+  return status == ERROR_SUCCESS &&
+         std::wstring(value, ::wcsnlen(value, size / sizeof *value)) == L"1";
 }
 
 /// While it lives, no box of the system tells the user of files that can't be opened.
@@ -46,14 +47,14 @@ class TQuietErrors {
 
 HMODULE LoadMapi() {
   const TQuietErrors quiet;
-  const HMODULE library = ::LoadLibraryA("mapi32");
-  return library ? library : ::LoadLibraryA("mapi32.dll");
+  const HMODULE library = ::LoadLibraryW(L"mapi32");
+  return library ? library : ::LoadLibraryW(L"mapi32.dll");
 }
 
 }  // namespace
 
 bool MapiIsInstalled() {
-  return RegistrySpeaksOfMapi() ? RegistryHasMapi() : ::GetProfileIntA("Mail", "MAPI", 0) != 0;
+  return RegistrySpeaksOfMapi() ? RegistryHasMapi() : ::GetProfileIntW(L"Mail", L"MAPI", 0) != 0;
 }
 
 std::shared_ptr<const TMapiLibrary> TMapiLibrary::Open() {

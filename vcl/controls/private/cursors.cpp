@@ -146,7 +146,7 @@ HCURSOR Make(const TDrawing& drawing) {
 
 HCURSOR SystemCursor(TCursor cursor) {
   for (const auto& [number, name] : SystemCursors) {
-    if (number == cursor) return ::LoadCursorA(nullptr, name);
+    if (number == cursor) return ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(name));
   }
   return nullptr;
 }
