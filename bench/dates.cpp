@@ -38,15 +38,15 @@ void IncrementPlainly() {
   for (int i = 0; i < Count; ++i) {
     const year_month_day from(zero + days(DayOf(i)));
     const sys_days to = sys_days(from + months(MonthsOf(i)) + years(YearsOf(i))) + days(DaysOf(i));
-    Sink = (to - zero).count();
+    Sink = static_cast<double>((to - zero).count());
   }
 }
 
 void Subtract() {
-  int days = 0, months = 0, years = 0;
+  int wholeDays = 0, wholeMonths = 0, wholeYears = 0;
   for (int i = 0; i < Count; ++i) {
-    qel::QELDateDiff(DayOf(i), LaterDayOf(i), days, months, years);
-    Sink = days + months + years;
+    qel::QELDateDiff(DayOf(i), LaterDayOf(i), wholeDays, wholeMonths, wholeYears);
+    Sink = wholeDays + wholeMonths + wholeYears;
   }
 }
 
@@ -58,7 +58,7 @@ void SubtractPlainly() {
                      std::chrono::year_month(from.year(), from.month());
     if (to.day() < from.day()) between -= months(1);
     const sys_days whole = from + between;
-    Sink = between.count() + (sys_days(to) - whole).count();
+    Sink = static_cast<double>(between.count() + (sys_days(to) - whole).count());
   }
 }
 

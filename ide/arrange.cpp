@@ -64,7 +64,9 @@ void Arrange(std::vector<TRect>& rects, const TSpan& span, TArrangement arrangem
     case TArrangement::None: return;
     case TArrangement::Spread: return Spread(rects, span);
     case TArrangement::Centre: return Centre(rects, span, around);
-    default: Level(rects, span, arrangement);
+    case TArrangement::Low:
+    case TArrangement::Middle:
+    case TArrangement::High: Level(rects, span, arrangement);
   }
 }
 

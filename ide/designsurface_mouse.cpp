@@ -88,7 +88,8 @@ void TDesignSurface::MouseMove(TPoint screen) {
       return Move(by);
     case TMode::Moving: return Move(by);
     case TMode::Sizing: return Size(by);
-    default: ShowBand(Band(screen));
+    case TMode::Placing:
+    case TMode::Banding: ShowBand(Band(screen));
   }
 }
 

@@ -91,13 +91,12 @@ void SetPropertyText(const TPropertyRef& ref, const std::string& text, const TCo
 }
 
 std::vector<std::string> PropertyChoices(const TPropertyRef& ref, const TComponent& root) {
-  switch (ref.Property->Kind()) {
-    case TTypeKind::Enumeration:
-    case TTypeKind::Boolean: return EnumNames(*ref.Property->Type);
-    case TTypeKind::Color: return ColorNames();
-    case TTypeKind::Component: return ComponentNames(ref.Property->Type->ClassOf(), root);
-    default: return {};
-  }
+  const TTypeInfo& type = *ref.Property->Type;
+  const TTypeKind kind = ref.Property->Kind();
+  if (kind == TTypeKind::Enumeration || kind == TTypeKind::Boolean) return EnumNames(type);
+  if (kind == TTypeKind::Color) return ColorNames();
+  if (kind == TTypeKind::Component) return ComponentNames(type.ClassOf(), root);
+  return {};
 }
 
 }  // namespace gallery

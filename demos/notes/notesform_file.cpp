@@ -110,15 +110,13 @@ bool TNotesForm::SaveIn(const std::string& fileName) {
 
 bool TNotesForm::MayLoseText() {
   if (!Editor->Modified()) return true;
-  switch (MessageDlg(Concat("Save the changes in ", DocumentName(), "?"), mtConfirmation,
-                     {mbYes, mbNo, mbCancel})) {
-    case mrYes: return Save();
-    case mrNo:
-      FRecovery.Discard();
-      FKeptChanges = -1;  // Should the text stay after all, it is kept anew.
-      return true;
-    default: return false;
-  }
+  const TModalResult answer = MessageDlg(Concat("Save the changes in ", DocumentName(), "?"),
+                                         mtConfirmation, {mbYes, mbNo, mbCancel});
+  if (answer == mrYes) return Save();
+  if (answer != mrNo) return false;
+  FRecovery.Discard();
+  FKeptChanges = -1;  // Should the text stay after all, it is kept anew.
+  return true;
 }
 
 // Unsaved text.

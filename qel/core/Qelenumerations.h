@@ -35,8 +35,8 @@ enum TQELWipeType {
 
 enum TQELFade { FadeIn, FadeOut };
 
-/// Where a hint stands, seen from what it points at.
-enum TQELDirectionB { dUpRight, dUpLeft, dDownRight, dDownLeft };
+/// Where a hint stands, seen from what it points at. Handlers choose it and may give any number.
+enum TQELDirectionB : int { dUpRight, dUpLeft, dDownRight, dDownLeft };
 
 /// What a label that launches its own caption makes of it: a mail address, a web, FTP or file
 /// address, or an event of its own.

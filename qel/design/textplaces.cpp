@@ -46,14 +46,10 @@ class TCollector {
 
  private:
   void AddProperty(TObject& object, const TPropInfo& property, const std::string& path) {
-    switch (property.Kind()) {
-      case TTypeKind::String: return AddText(object, property, path);
-      case TTypeKind::Class:
-      case TTypeKind::Collection:
-        if (auto* value = std::get<TObject*>(property.Get(object))) AddObject(*value, path);
-        return;
-      default: return;
-    }
+    const TTypeKind kind = property.Kind();
+    if (kind == TTypeKind::String) return AddText(object, property, path);
+    if (kind != TTypeKind::Class && kind != TTypeKind::Collection) return;
+    if (auto* value = std::get<TObject*>(property.Get(object))) AddObject(*value, path);
   }
 
   void AddText(TObject& object, const TPropInfo& property, const std::string& path) {

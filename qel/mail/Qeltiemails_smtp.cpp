@@ -174,8 +174,13 @@ void TQELSMTPMail::DoEncodeStart(const std::string& fileName, int count) {
   Fire(OnEncodeStart, this, fileName, count);
 }
 
-void TQELSMTPMail::DoEncodeProgress(int percent) { Fire(OnEncodeProgress, this, percent); }
+// Percentages are from 0 to 100: the events' narrower type holds them.
+void TQELSMTPMail::DoEncodeProgress(int percent) {
+  Fire(OnEncodeProgress, this, static_cast<std::uint16_t>(percent));
+}
 
-void TQELSMTPMail::DoSendProgress(int percent) { Fire(OnSendProgress, this, percent); }
+void TQELSMTPMail::DoSendProgress(int percent) {
+  Fire(OnSendProgress, this, static_cast<std::uint16_t>(percent));
+}
 
 }  // namespace qel

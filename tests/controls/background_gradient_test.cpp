@@ -90,6 +90,6 @@ TEST_P(Gradients, AreThePlainCallsPixelByPixel) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AllStyles, Gradients, testing::Range(0, StyleCount),
-                         [](const auto& info) { return NameOf(info.param); });
+                         [](const auto& test) { return NameOf(test.param); });
 
 }  // namespace

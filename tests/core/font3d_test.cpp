@@ -97,7 +97,7 @@ const TCase Cases[] = {
 // clang-format on
 
 INSTANTIATE_TEST_SUITE_P(Cases, Font3D, testing::ValuesIn(Cases),
-                         [](const auto& info) { return info.param.Name; });
+                         [](const auto& test) { return test.param.Name; });
 
 TEST(Font3DWrite, LeavesTheContextAsItWas) {
   const plain::TDib dib(Width, Height);

@@ -94,6 +94,7 @@ TEST_F(DataControls, AGridMovesByKeysMouseAndScrollBar) {
   const int row = std::abs(grid->Font()->Height()) + 8;
   const int page = grid->ClientHeight() / row - 1;
   const auto scroll = [&](int command) { grid->Perform(WM_VSCROLL, command, 0); };
+  const auto twoDown = static_cast<WORD>(-2 * WHEEL_DELTA);
   struct TCase {
     const char* What;
     std::function<void()> Move;
@@ -107,7 +108,7 @@ TEST_F(DataControls, AGridMovesByKeysMouseAndScrollBar) {
       {"dragged to the beginning", [&] { scroll(MAKELONG(SB_THUMBPOSITION, 0)); }, 1},
       {"dragged to the end", [&] { scroll(MAKELONG(SB_THUMBPOSITION, 4)); }, 20},
       {"home", [&] { Key(VK_HOME); }, 1},
-      {"wheel", [&] { grid->Perform(WM_MOUSEWHEEL, MAKELONG(0, -2 * WHEEL_DELTA), 0); }, 3},
+      {"wheel", [&] { grid->Perform(WM_MOUSEWHEEL, MAKELONG(0, twoDown), 0); }, 3},
       {"row under the titles", [&] { Click(*grid, 10, row + 5); }, 1},
       {"other button", [&] { grid->Perform(WM_RBUTTONDOWN, 0, MAKELONG(10, 2 * row + 5)); }, 1},
   };

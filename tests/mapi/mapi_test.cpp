@@ -32,20 +32,20 @@ void Say(const std::string& what) { Provider().Calls.push_back(what); }
 struct MapiMail : TMapiTest {
   MapiMail() {
     Mail->SetDefaultProfile(false);
-    const auto mail = [](const char* what) {
+    const auto sayMail = [](const char* what) {
       return [=](vcl::TObject*, TQELMapiMessage* mail) { Say(what + mail->Subject()); };
     };
-    const auto failure = [](const char* what) {
+    const auto sayFailure = [](const char* what) {
       return [=](vcl::TObject*, int no) { Say(what + std::to_string(no)); };
     };
     for (const auto& [name, event] : Notices) {
       Mail.get()->*event = [text = name](vcl::TObject*) { Say(text); };
     }
-    Mail->BeforeSendMail = mail("Before ");
-    Mail->AfterSendMail = mail("After ");
-    Mail->OnDeleteMail = mail("Delete ");
-    Mail->OnLogonFailure = failure("LogonFailure ");
-    Mail->OnLogoffFailure = failure("LogoffFailure ");
+    Mail->BeforeSendMail = sayMail("Before ");
+    Mail->AfterSendMail = sayMail("After ");
+    Mail->OnDeleteMail = sayMail("Delete ");
+    Mail->OnLogonFailure = sayFailure("LogonFailure ");
+    Mail->OnLogoffFailure = sayFailure("LogoffFailure ");
     Mail->OnSendError = [](vcl::TObject*, int no, TQELMapiMessage* mail) {
       Say("Error " + std::to_string(no) + ' ' + mail->Subject());
     };

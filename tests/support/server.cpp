@@ -53,8 +53,8 @@ void TPeer::Say(const std::string& bytes) {
 }
 
 void TPeer::SayBytewise(const std::string& bytes) {
-  for (const char byte : bytes) {
-    Say({byte});
+  for (const char each : bytes) {
+    Say({each});
     std::this_thread::sleep_for(std::chrono::milliseconds(3));
   }
 }

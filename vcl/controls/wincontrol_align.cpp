@@ -13,6 +13,8 @@ bool ComesBefore(const TControl* a, const TControl* b, TAlign align) {
     case alBottom: return a->Top() + a->Height() > b->Top() + b->Height();
     case alLeft: return a->Left() < b->Left();
     case alRight: return a->Left() + a->Width() > b->Left() + b->Width();
+    case alNone:
+    case alClient:
     default: return false;
   }
 }

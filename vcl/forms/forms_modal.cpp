@@ -32,11 +32,9 @@ void TCustomForm::Close() {
   DoClose(action);
   if (watch.Gone() || action == caNone) return;
   if (this == Application()->MainForm()) return Application()->Terminate();
-  switch (action) {
-    case caFree: return Release();
-    case caMinimize: return SetWindowState(wsMinimized);
-    default: return SetVisible(false);
-  }
+  if (action == caFree) return Release();
+  if (action == caMinimize) return SetWindowState(wsMinimized);
+  SetVisible(false);
 }
 
 // Modal forms.

@@ -117,6 +117,8 @@ void TFormParser::ParseValue() {
     case TFormToken::Float: FOutput.WriteFloat(FLexer.Float()); return FLexer.Next();
     case TFormToken::Ident: return ParseWord();
     case TFormToken::String: return ParseString();
+    case TFormToken::End:
+    case TFormToken::Symbol:
     default: return ParseSymbol();
   }
 }

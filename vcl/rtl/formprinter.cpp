@@ -104,6 +104,11 @@ void TFormPrinter::PrintValue() {
     case TValueType::vaFalse:
     case TValueType::vaTrue: return static_cast<void>(FText += BoolToStr(FInput.ReadBoolean()));
     case TValueType::vaNil: FInput.SkipValue(); return static_cast<void>(FText += "nil");
+    case TValueType::vaNull:
+    case TValueType::vaInt8:
+    case TValueType::vaInt16:
+    case TValueType::vaInt32:
+    case TValueType::vaInt64:
     default: FText += IntToStr(FInput.ReadInteger());
   }
 }

@@ -34,6 +34,13 @@ std::size_t TPropInfo::ValueIndex() const {
     case TTypeKind::Class:
     case TTypeKind::Component:
     case TTypeKind::Collection: return 3;
+    case TTypeKind::Integer:
+    case TTypeKind::Enumeration:
+    case TTypeKind::Set:
+    case TTypeKind::Char:
+    case TTypeKind::Color:
+    case TTypeKind::Event:
+    case TTypeKind::Boolean:
     default: return 0;
   }
 }

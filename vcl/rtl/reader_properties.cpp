@@ -191,6 +191,12 @@ TValue TReader::TImpl::ReadValue(const TPropInfo& prop) {
     case TTypeKind::Boolean: return static_cast<std::int64_t>(Input.ReadBoolean());
     case TTypeKind::Set: return ReadSet(prop);
     case TTypeKind::Enumeration: return Ordinal(prop, Input.ReadIdent());
+    case TTypeKind::Integer:
+    case TTypeKind::Color:
+    case TTypeKind::Class:
+    case TTypeKind::Component:
+    case TTypeKind::Collection:
+    case TTypeKind::Event:
     default: return ReadOrdinal(prop);
   }
 }

@@ -14,6 +14,10 @@ namespace {
   throw EConvertError(Concat("'", text, "' is not a value of ", type.Name()));
 }
 
+bool IsEnumerated(const TTypeInfo& type) {
+  return type.Kind == TTypeKind::Enumeration || type.Kind == TTypeKind::Boolean;
+}
+
 std::string SetToText(const TTypeInfo& type, std::int64_t bits) {
   std::string text = "[";
   for (std::int64_t i = 0; const auto name = type.EnumName(i); ++i) {
@@ -25,17 +29,14 @@ std::string SetToText(const TTypeInfo& type, std::int64_t bits) {
 }
 
 std::string OrdinalToText(const TTypeInfo& type, std::int64_t value) {
-  switch (type.Kind) {
-    case TTypeKind::Set: return SetToText(type, value);
-    case TTypeKind::Enumeration:
-    case TTypeKind::Boolean:
-      if (const auto name = type.EnumName(value)) return std::string(*name);
-      break;
-    case TTypeKind::Char:
-      // A control character has no form of its own to show.
-      return value < ' ' ? Concat("#", IntToStr(value)) : Utf8(static_cast<char32_t>(value));
-    case TTypeKind::Color: return ColorToString(static_cast<TColor>(value));
-    default: break;
+  if (type.Kind == TTypeKind::Set) return SetToText(type, value);
+  if (type.Kind == TTypeKind::Color) return ColorToString(static_cast<TColor>(value));
+  if (type.Kind == TTypeKind::Char) {
+    // A control character has no form of its own to show.
+    return value < ' ' ? Concat("#", IntToStr(value)) : Utf8(static_cast<char32_t>(value));
+  }
+  if (IsEnumerated(type)) {
+    if (const auto name = type.EnumName(value)) return std::string(*name);
   }
   if (type.Integer.ToIdent) {
     if (const auto ident = type.Integer.ToIdent(value)) return *ident;
@@ -74,22 +75,20 @@ std::int64_t TextToInteger(const TTypeInfo& type, std::string_view text) {
   return value;
 }
 
+std::int64_t TextToCharacter(const TTypeInfo& type, std::string_view text) {
+  if (text.size() > 1 && text.front() == '#') return TextToInteger(type, text.substr(1));
+  const auto character = OnlyCharacter(text);
+  if (!character) Refuse(type, text);
+  return static_cast<std::int64_t>(*character);
+}
+
 std::int64_t TextToOrdinal(const TTypeInfo& type, std::string_view text) {
-  switch (type.Kind) {
-    case TTypeKind::Set: return TextToSet(type, text);
-    case TTypeKind::Enumeration:
-    case TTypeKind::Boolean:
-      if (const auto ordinal = type.EnumOrdinal(Trim(text))) return *ordinal;
-      Refuse(type, text);
-    case TTypeKind::Char: {
-      if (text.size() > 1 && text.front() == '#') return TextToInteger(type, text.substr(1));
-      const auto character = OnlyCharacter(text);
-      if (!character) Refuse(type, text);
-      return static_cast<std::int64_t>(*character);
-    }
-    case TTypeKind::Color: return StringToColor(text);
-    default: return TextToInteger(type, text);
-  }
+  if (type.Kind == TTypeKind::Set) return TextToSet(type, text);
+  if (type.Kind == TTypeKind::Char) return TextToCharacter(type, text);
+  if (type.Kind == TTypeKind::Color) return StringToColor(text);
+  if (!IsEnumerated(type)) return TextToInteger(type, text);
+  if (const auto ordinal = type.EnumOrdinal(Trim(text))) return *ordinal;
+  Refuse(type, text);
 }
 
 }  // namespace
@@ -109,6 +108,12 @@ TValue TextToValue(const TTypeInfo& type, std::string_view text) {
     case TTypeKind::Event: Refuse(type, text);
     case TTypeKind::String: return std::string(text);
     case TTypeKind::Float: return StrToFloat(text);
+    case TTypeKind::Integer:
+    case TTypeKind::Enumeration:
+    case TTypeKind::Set:
+    case TTypeKind::Char:
+    case TTypeKind::Color:
+    case TTypeKind::Boolean:
     default: return TextToOrdinal(type, text);
   }
 }

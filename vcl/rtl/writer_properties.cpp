@@ -163,6 +163,12 @@ void TWriter::TImpl::WriteValue(const TPropInfo& prop, const TValue& value) {
     case TTypeKind::Set: return WriteSet(prop, std::get<std::int64_t>(value));
     case TTypeKind::Enumeration:
       return Output.WriteIdent(EnumName(prop, std::get<std::int64_t>(value)));
+    case TTypeKind::Integer:
+    case TTypeKind::Color:
+    case TTypeKind::Class:
+    case TTypeKind::Component:
+    case TTypeKind::Collection:
+    case TTypeKind::Event:
     default: return WriteOrdinal(prop, std::get<std::int64_t>(value));
   }
 }

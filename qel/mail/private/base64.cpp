@@ -49,10 +49,11 @@ std::uint32_t BigEndian(const unsigned char* four) {
 /// The first six of eight bytes: their 48 bits are four pairs of letters.
 void EncodeTwoGroups(const unsigned char* bytes, char* text) {
   const std::uint64_t eight = std::uint64_t{BigEndian(bytes)} << 32 | BigEndian(bytes + 4);
-  std::memcpy(text, Pairs[eight >> 52].data(), 2);
-  std::memcpy(text + 2, Pairs[eight >> 40 & 4095].data(), 2);
-  std::memcpy(text + 4, Pairs[eight >> 28 & 4095].data(), 2);
-  std::memcpy(text + 6, Pairs[eight >> 16 & 4095].data(), 2);
+  const auto pair = [eight](int shift) { return Pairs[eight >> shift & 4095].data(); };
+  std::memcpy(text, pair(52), 2);
+  std::memcpy(text + 2, pair(40), 2);
+  std::memcpy(text + 4, pair(28), 2);
+  std::memcpy(text + 6, pair(16), 2);
 }
 
 }  // namespace

@@ -56,6 +56,9 @@ TTransport TransportOf(TFieldType dataType) {
     case ftTime: return {SQL_C_TYPE_TIME, SQL_TYPE_TIME};
     case ftDateTime: return {SQL_C_TYPE_TIMESTAMP, SQL_TYPE_TIMESTAMP};
     case ftBlob: return {SQL_C_BINARY, SQL_LONGVARBINARY};
+    case ftUnknown:
+    case ftString:
+    case ftMemo:
     default: return {SQL_C_WCHAR, SQL_WVARCHAR};
   }
 }

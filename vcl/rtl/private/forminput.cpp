@@ -133,13 +133,11 @@ std::string TFormInput::ReadName() {
 
 std::int64_t TFormInput::ReadInteger() {
   const TValueType sort = TakeSort();
-  switch (sort) {
-    case TValueType::vaInt8: return Number<std::int8_t>();
-    case TValueType::vaInt16: return Number<std::int16_t>();
-    case TValueType::vaInt32: return Number<std::int32_t>();
-    case TValueType::vaInt64: return Number<std::int64_t>();
-    default: FailSort("an integer", sort);
-  }
+  if (sort == TValueType::vaInt8) return Number<std::int8_t>();
+  if (sort == TValueType::vaInt16) return Number<std::int16_t>();
+  if (sort == TValueType::vaInt32) return Number<std::int32_t>();
+  if (sort == TValueType::vaInt64) return Number<std::int64_t>();
+  FailSort("an integer", sort);
 }
 
 double TFormInput::ReadFloat() {
@@ -199,6 +197,7 @@ void TFormInput::SkipValue() {
     case TValueType::vaFalse:
     case TValueType::vaTrue:
     case TValueType::vaNil: return static_cast<void>(TakeSort());
+    case TValueType::vaNull:
     default: FMark = FPosition; FailSort("a value", sort);
   }
 }
