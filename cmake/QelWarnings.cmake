@@ -2,7 +2,9 @@
 if(MSVC)
   add_compile_options(/W4 /utf-8 /permissive-)
 else()
-  add_compile_options(-Wall -Wextra -Wpedantic)
+  # A change of the sign alone is no reason for a cast; clang's -Wconversion would report it.
+  add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
+                      -Wold-style-cast -Wswitch-enum)
 endif()
 if(QEL_WERROR)
   set(CMAKE_COMPILE_WARNING_AS_ERROR ON)

@@ -89,7 +89,8 @@ void TWinControl::AlignGroup(TControl* control, TAlign align, TRect& rect) {
     if (each->Align() == align && (each->Visible() || each->Designing())) group.push_back(each);
   }
   // The control that asks goes in front of those that it has been moved level with.
-  std::ranges::stable_partition(group, [&](TControl* each) { return each == control; });
+  std::stable_partition(group.begin(), group.end(),
+                        [&](TControl* each) { return each == control; });
   std::ranges::stable_sort(group,
                            [&](TControl* a, TControl* b) { return ComesBefore(a, b, align); });
   // What hears of its new size may free any of them, and this control too.
