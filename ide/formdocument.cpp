@@ -6,9 +6,7 @@
 
 #include "vcl/rtl/files.h"
 #include "vcl/rtl/formfile.h"
-#include "vcl/rtl/os.h"
 #include "vcl/rtl/scope.h"
-#include "vcl/rtl/sharedfile.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"

@@ -15,6 +15,7 @@
 #include "vcl/dialogs/dialogs.h"
 #include "vcl/forms/forms.h"
 #include "vcl/menus/menus.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/comctrls.h"
 #include "vcl/stdctrls/extctrls.h"
 #include "vcl/stdctrls/stdctrls.h"

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "demos/common/storedvalues.h"
+#include "vcl/rtl/win32.h"
 
 namespace notes {
 

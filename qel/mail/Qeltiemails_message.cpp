@@ -1,7 +1,6 @@
 // TQELMessage and TQELAttachment: a mail, its attachments, and the collections of both.
 #include "qel/mail/Qeltiemails_message.h"
 #include "qel/mail/Qeltiemails_smtp.h"
-#include "qel/mail/private/filenames.h"
 #include "qel/mail/private/living.h"
 #include "qel/mail/private/mimetypes.h"
 #include "vcl/rtl/customapplication.h"

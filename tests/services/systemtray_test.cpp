@@ -4,6 +4,9 @@
 #include "qel/services/Qeltsystemtray.h"
 #include "tests/support/importpatch.h"
 #include "tests/vcl/testinput.h"
+#include "vcl/rtl/win32.h"
+// It needs what stands above.
+#include <shellapi.h>
 
 namespace qel {
 namespace {

@@ -1,8 +1,6 @@
 // The explorer tree on real folders.
 #include "qel/shell/Qeltexplorertree.h"
 
-#include <shellapi.h>
-
 #include <filesystem>
 #include <iostream>
 
@@ -13,6 +11,9 @@
 #include "vcl/rtl/formfile.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
+// It needs what stands above.
+#include <shellapi.h>
 
 namespace {
 

@@ -3,7 +3,6 @@
 #include "vcl/graphics/handles.h"
 
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/os.h"
 #include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"

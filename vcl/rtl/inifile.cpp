@@ -7,7 +7,6 @@
 #include "vcl/rtl/private/initext.h"
 #include "vcl/rtl/private/sharedfile.h"
 #include "vcl/rtl/scope.h"
-#include "vcl/rtl/sharedfile.h"
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"

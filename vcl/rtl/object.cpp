@@ -43,9 +43,9 @@ TPropInfo Declared(const TClassEntry& entry) {
 
 /// The declared default as a value; a float may be declared by a whole number.
 TValue DefaultOf(const TDeclaredDefault& declared, bool isFloat) {
-  using TSort = TDeclaredDefault::TSort;
-  if (declared.Sort == TSort::Text) return std::string(declared.Text);
-  if (declared.Sort == TSort::Float) return declared.Float;
+  using TKind = TDeclaredDefault::TKind;
+  if (declared.Kind == TKind::Text) return std::string(declared.Text);
+  if (declared.Kind == TKind::Float) return declared.Float;
   if (isFloat) return static_cast<double>(declared.Ordinal);
   return declared.Ordinal;
 }
@@ -103,7 +103,7 @@ const TPropInfo& TClass::InheritedOf(std::string_view name) const {
 }
 
 void TClass::AddProperty(TPropInfo prop, const TClassEntry& entry) {
-  if (entry.DefaultValue.Sort != TDeclaredDefault::TSort::None) {
+  if (entry.DefaultValue.Kind != TDeclaredDefault::TKind::None) {
     prop.DefaultValue = DefaultOf(entry.DefaultValue, prop.Kind() == TTypeKind::Float);
     if (prop.DefaultValue->index() != prop.ValueIndex()) {
       throw EPropertyError(Concat("The default of ", FName, ".", prop.Name,

@@ -90,8 +90,8 @@ struct TMethodInfo {
 
 /// A declared default, as a table holds it.
 struct TDeclaredDefault {
-  enum class TSort { None, Ordinal, Float, Text };
-  TSort Sort = TSort::None;
+  enum class TKind { None, Ordinal, Float, Text };
+  TKind Kind = TKind::None;
   std::int64_t Ordinal = 0;
   double Float = 0;
   std::string_view Text;
@@ -374,16 +374,16 @@ TClass Describe(std::string_view name, std::string_view header,
 
 template <class T>
 constexpr TClassEntry TClassEntry::Default(T value) const {
-  using TSort = TDeclaredDefault::TSort;
+  using TKind = TDeclaredDefault::TKind;
   TClassEntry entry = *this;
   if constexpr (detail::IsSet<T>::value) {
-    entry.DefaultValue = {TSort::Ordinal, value.Bits(), 0, {}};
+    entry.DefaultValue = {TKind::Ordinal, value.Bits(), 0, {}};
   } else if constexpr (std::is_floating_point_v<T>) {
-    entry.DefaultValue = {TSort::Float, 0, value, {}};
+    entry.DefaultValue = {TKind::Float, 0, value, {}};
   } else if constexpr (std::is_convertible_v<T, std::string_view>) {
-    entry.DefaultValue = {TSort::Text, 0, 0, value};
+    entry.DefaultValue = {TKind::Text, 0, 0, value};
   } else {
-    entry.DefaultValue = {TSort::Ordinal, static_cast<std::int64_t>(value), 0, {}};
+    entry.DefaultValue = {TKind::Ordinal, static_cast<std::int64_t>(value), 0, {}};
   }
   return entry;
 }

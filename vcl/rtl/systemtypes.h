@@ -22,7 +22,7 @@ struct HWND__;
 struct _IMAGELIST;
 struct _TREEITEM;
 struct tagDRAWITEMSTRUCT;
-struct tagLOGFONTA;
+struct tagLOGFONTW;
 struct tagMSG;
 struct tagNMTREEVIEWW;
 struct tagOFNW;
@@ -47,7 +47,7 @@ using HIMAGELIST = _IMAGELIST*;
 using HTREEITEM = _TREEITEM*;
 
 using DRAWITEMSTRUCT = tagDRAWITEMSTRUCT;
-using LOGFONTA = tagLOGFONTA;
+using LOGFONTW = tagLOGFONTW;
 using MSG = tagMSG;
 using NMTREEVIEWW = tagNMTREEVIEWW;
 using NMTVDISPINFOW = tagTVDISPINFOW;

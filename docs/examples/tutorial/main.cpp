@@ -1,5 +1,5 @@
-#include "mainform.h"
 #include "vcl/vcl.h"
+#include "mainform.h"
 
 int main() {
   vcl::Application()->Initialize();

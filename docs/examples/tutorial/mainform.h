@@ -1,12 +1,12 @@
 // TMainForm: the form of mainform.dfm.
 #pragma once
 
+#include "vcl/vcl.h"
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/Qeltbutton.h"
 #include "qel/controls/Qeltgauge.h"
 #include "qel/controls/Qeltlabel.h"
 #include "qel/services/Qeltformsaver.h"
-#include "vcl/vcl.h"
 
 class TMainForm : public vcl::TForm {
  public:
