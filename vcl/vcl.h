@@ -1,18 +1,26 @@
-// What an application of forms uses, in one include.
+// All that an application of forms uses, in one include. What calls the system itself includes
+// "vcl/rtl/win32.h" beside it.
 #pragma once
 
 #include "vcl/controls/controls.h"
+#include "vcl/db/db.h"
+#include "vcl/dbctrls/dbctrls.h"
 #include "vcl/dialogs/dialogs.h"
 #include "vcl/forms/application.h"
+#include "vcl/forms/clipboardtext.h"
 #include "vcl/forms/drag.h"
 #include "vcl/forms/forms.h"
 #include "vcl/forms/hints.h"
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/graphics.h"
 #include "vcl/graphics/imagelist.h"
+#include "vcl/graphics/picture.h"
 #include "vcl/menus/menus.h"
+#include "vcl/net/sockets.h"
 #include "vcl/rtl/classes.h"
+#include "vcl/rtl/registry.h"
 #include "vcl/rtl/resources.h"
+#include "vcl/stdctrls/buttons.h"
 #include "vcl/stdctrls/comctrls.h"
 #include "vcl/stdctrls/extctrls.h"
 #include "vcl/stdctrls/stdctrls.h"

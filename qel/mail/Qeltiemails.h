@@ -5,3 +5,4 @@
 #include "qel/mail/Qeltiemails_message.h"
 #include "qel/mail/Qeltiemails_pop.h"
 #include "qel/mail/Qeltiemails_smtp.h"
+#include "qel/mail/mailerror.h"

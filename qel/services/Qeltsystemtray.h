@@ -9,7 +9,8 @@
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/systemtypes.h"
 
-struct _NOTIFYICONDATAA;  // The system's record of an icon.
+// The system's record of an icon.
+struct _NOTIFYICONDATAA;  // NOLINT(bugprone-reserved-identifier)
 
 namespace qel {
 
@@ -95,8 +96,8 @@ class QEL_API TQELSystemTray : public TQELComponent {
   std::unique_ptr<vcl::TIcon> FIcon;
   vcl::TPopupMenu* FPopupMenu = nullptr;
   bool FNormalIcon = false;
-  std::unique_ptr<_NOTIFYICONDATAA> FRecord;
-  HWND FWindow = nullptr;  // None in the designer.
+  std::unique_ptr<_NOTIFYICONDATAA> FRecord;  // NOLINT(bugprone-reserved-identifier)
+  HWND FWindow = nullptr;                     // None in the designer.
   bool FShellAvailable;
   bool FMinimized = false;
   bool FIconAbsent = true;

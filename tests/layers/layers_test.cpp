@@ -3,11 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -138,6 +141,89 @@ TEST(Layers, EachFileLiesInARoom) {
     if (room.empty() || ((room == "vcl" || room == "qel") && !umbrella)) outside.push_back(file);
   }
   EXPECT_THAT(outside, testing::IsEmpty());
+}
+
+/// A file's lines without the comments behind "//".
+std::vector<std::string> CodeOf(const std::string& file) {
+  std::vector<std::string> lines;
+  std::ifstream stream(fs::path(SOURCE_FOLDER) / file);
+  for (std::string line; std::getline(stream, line);)
+    lines.push_back(line.substr(0, line.find("//")));
+  return lines;
+}
+
+/// The identifiers in a line.
+std::set<std::string> WordsOf(const std::string& line) {
+  std::set<std::string> words;
+  std::string word;
+  for (const char c : line + ' ') {
+    if (std::isalnum(static_cast<unsigned char>(c)) || c == '_') {
+      word += c;
+    } else if (!word.empty()) {
+      words.insert(std::exchange(word, {}));
+    }
+  }
+  return words;
+}
+
+TEST(Layers, TheDesignerNamesNothingOfThePackage) {
+  std::vector<std::string> wrong;
+  for (const auto& [file, included] : ReadIncludes()) {
+    if (TopOf(file) != "ide") continue;
+    for (const std::string& line : CodeOf(file)) {
+      for (const std::string& word : WordsOf(line)) {
+        if (word.starts_with("TQEL") || word.starts_with("Qelt"))
+          wrong.push_back(file + ": " + word);
+      }
+    }
+  }
+  EXPECT_THAT(wrong, testing::IsEmpty()) << "another's package must get what ours gets";
+}
+
+TEST(Layers, HeadersWhoseNamesAreMacrosOfTheSystemTakeThoseBack) {
+  std::set<std::string> macros;
+  for (const std::string& line : CodeOf("vcl/rtl/systemmacros.h")) {
+    if (line.starts_with("#undef ")) macros.insert(line.substr(7));
+  }
+  EXPECT_GT(macros.size(), 80u);
+  std::vector<std::string> wrong;
+  for (const auto& [file, included] : ReadIncludes()) {
+    const bool library = TopOf(file) == "vcl" || TopOf(file) == "qel";
+    if (!library || !file.ends_with(".h") || IsPrivate(file) || file == "vcl/rtl/systemmacros.h" ||
+        std::ranges::count(included, "vcl/rtl/systemmacros.h")) {
+      continue;
+    }
+    for (const std::string& line : CodeOf(file)) {
+      for (const std::string& word : WordsOf(line)) {
+        if (macros.contains(word)) wrong.push_back(file + " declares " + word);
+      }
+    }
+  }
+  EXPECT_THAT(wrong, testing::IsEmpty());
+}
+
+TEST(Layers, NoPublicHeaderIncludesTheSystems) {
+  std::vector<std::string> wrong;
+  for (const auto& [file, included] : ReadIncludes()) {
+    const bool library = TopOf(file) == "vcl" || TopOf(file) == "qel";
+    if (!library || !file.ends_with(".h") || IsPrivate(file) || file == "vcl/rtl/win32.h") continue;
+    if (std::ranges::count(included, "vcl/rtl/win32.h")) wrong.push_back(file);
+    for (const std::string& line : CodeOf(file)) {
+      if (line.starts_with("#include <windows.h>")) wrong.push_back(file);
+    }
+  }
+  EXPECT_THAT(wrong, testing::IsEmpty());
+}
+
+TEST(Layers, EachFileSaysInItsFirstLineWhatItHolds) {
+  std::vector<std::string> silent;
+  for (const auto& [file, included] : ReadIncludes()) {
+    std::ifstream stream(fs::path(SOURCE_FOLDER) / file);
+    std::string first;
+    std::getline(stream, first);
+    if (!first.starts_with("// ")) silent.push_back(file);
+  }
+  EXPECT_THAT(silent, testing::IsEmpty());
 }
 
 /// Follows the includes depth first; a file that is met again on the way to itself closes a circle.

@@ -23,7 +23,9 @@ string(REPLACE "LoadForm(); }" [[LoadForm(); OnActivate = [this](vcl::TObject*) 
   More->Perform(WM_LBUTTONUP);
   std::printf("Left %d, %d percent\n", Left(), Progress->Percentage());
   Close();
-}; }]] unit "#include <cstdio>\n${unit}")
+}; }]] unit
+       "${unit}")
+string(PREPEND unit "#include <cstdio>\n#include \"vcl/rtl/win32.h\"\n")
 file(WRITE ${tutorial}/mainform.cpp "${unit}")
 
 run(${CMAKE_COMMAND} -S ${tutorial} -B ${tutorial}/build -G Ninja

@@ -93,7 +93,7 @@ TWinControl* TWinControl::FindNextControl(TWinControl* current, bool goForward, 
   if (!goForward) std::ranges::reverse(list);
   // Round the list, starting behind the current one; without one, at its beginning.
   const auto start = std::ranges::find(list, current);
-  if (start != list.end()) std::ranges::rotate(list, start + 1);
+  if (start != list.end()) std::rotate(list.begin(), start + 1, list.end());
   for (TWinControl* each : list) {
     if (each->CanFocus() && (!checkTabStop || each->TabStop()) &&
         (!checkParent || each->Parent() == this)) {

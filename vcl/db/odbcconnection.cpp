@@ -79,7 +79,8 @@ std::vector<std::string> PrimaryKey(const TConnection& connection, const std::st
     TWideText column(256, u'\0');
     SQLLEN bytes = 0;
     statement.Check(SQLGetData(statement, columnName, SQL_C_WCHAR, column.data(),
-                               static_cast<SQLLEN>(column.size() * sizeof(char16_t)), &bytes));
+                               static_cast<SQLLEN>(column.size()) * SQLLEN{sizeof(char16_t)},
+                               &bytes));
     columns.push_back(ToUtf8(TWideText(column.c_str())));
   }
   return columns;

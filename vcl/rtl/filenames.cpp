@@ -1,3 +1,4 @@
+// Taking names of files apart and putting them together.
 #include "vcl/rtl/filenames.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Whole names of files on a POSIX system.
 #include <filesystem>
 
 #include "vcl/rtl/filenames.h"

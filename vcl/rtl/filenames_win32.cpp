@@ -1,3 +1,4 @@
+// Whole names of files on Windows, and the form that takes long ones.
 #include "vcl/rtl/filenames.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"

@@ -1,3 +1,4 @@
+// Making folders, and reading and replacing files whole.
 #include "vcl/rtl/files.h"
 
 #include "vcl/rtl/exceptions.h"

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "vcl/rtl/api.h"
+#include "vcl/rtl/systemmacros.h"
 
 namespace vcl {
 

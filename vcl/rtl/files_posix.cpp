@@ -1,3 +1,4 @@
+// Questions and changes about files, as a POSIX system answers them.
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// Questions and changes about files, as Windows answers them.
 #include "vcl/rtl/filenames.h"
 #include "vcl/rtl/files.h"
 #include "vcl/rtl/private/os.h"

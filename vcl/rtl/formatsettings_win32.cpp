@@ -50,9 +50,9 @@ void TakeNames(std::array<std::string, Size>& names, LCTYPE first) {
 
 /// The system's weeks begin on Monday.
 void TakeDayNames(std::array<std::string, 7>& names, LCTYPE first) {
-  std::ranges::rotate(names, names.begin() + 1);
+  std::rotate(names.begin(), names.begin() + 1, names.end());
   TakeNames(names, first);
-  std::ranges::rotate(names, names.end() - 1);
+  std::rotate(names.begin(), names.end() - 1, names.end());
 }
 
 }  // namespace

@@ -264,17 +264,12 @@ inline const TTypeInfo& EventType() { return EventTypeInfo(); }  // See ClassOf.
 
 template <class T>
 constexpr TMaker MakerOf() {
-  if constexpr (std::is_abstract_v<T>) {
-    return {};
-  } else if constexpr (std::is_base_of_v<TComponent, T>) {
-    if constexpr (std::is_constructible_v<T, TComponent*>) {
-      return {[](TComponent* owner) -> TComponent* { return new T(owner); }};
-    } else {
-      return {};
-    }
-  } else if constexpr (std::is_constructible_v<T, TCollection*>) {
+  constexpr bool component = std::is_base_of_v<TComponent, T>;
+  if constexpr (component && std::is_constructible_v<T, TComponent*>) {
+    return {[](TComponent* owner) -> TComponent* { return new T(owner); }};
+  } else if constexpr (!component && std::is_constructible_v<T, TCollection*>) {
     return {nullptr, [](TCollection* c) -> TObject* { return new T(c); }};
-  } else if constexpr (std::is_default_constructible_v<T>) {
+  } else if constexpr (!component && std::is_default_constructible_v<T>) {
     return {nullptr, nullptr, []() -> TObject* { return new T; }};
   } else {
     return {};

@@ -1,3 +1,4 @@
+// The texts of a POSIX system's errors.
 #include <cerrno>
 #include <system_error>
 

@@ -1,3 +1,4 @@
+// The texts of Windows's errors.
 #include <iterator>
 
 #include "vcl/rtl/systemerrors.h"

@@ -8,6 +8,7 @@
 
 #include "vcl/rtl/systemmacros.h"
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the system's own names.
 struct HBITMAP__;
 struct HBRUSH__;
 struct HDC__;
@@ -75,3 +76,4 @@ using UINT_PTR = unsigned int;
 using WPARAM = unsigned int;
 #endif
 using WNDPROC = LRESULT(__stdcall*)(HWND, UINT, WPARAM, LPARAM);
+// NOLINTEND(bugprone-reserved-identifier)

@@ -1,3 +1,4 @@
+// TWatched and TWatch: the list of watches, and its end.
 #include "vcl/rtl/watch.h"
 
 namespace vcl {

@@ -14,6 +14,7 @@ class VCL_API TWatched {
  protected:
   TWatched() = default;
   TWatched(const TWatched&) noexcept {}
+  // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): there is nothing to assign.
   TWatched& operator=(const TWatched&) noexcept { return *this; }
   ~TWatched();
 

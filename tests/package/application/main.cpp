@@ -1,8 +1,12 @@
 #include <iostream>
 
+#include "core/api.h"
+#include "data/strings.h"
 #include "qel/qel.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
+
+bool NamesAreOurs();  // behindwindows.cpp
 
 class TMainForm : public vcl::TForm {
  public:
@@ -17,7 +21,9 @@ class TMainForm : public vcl::TForm {
     Hello->Perform(WM_LBUTTONUP);
   }
   void HelloClick(vcl::TObject* /*sender*/) {
-    std::cout << "The button says \"" << Hello->getcaption() << "\"\n";
+    std::cout << "The button says \"" << Hello->getcaption() << "\"\n"
+              << "core/api.h is " << OwnApi << ", data/strings.h " << OwnStrings << "\n"
+              << (NamesAreOurs() ? "Names are ours\n" : "Names are the system's\n");
     Close();
   }
 

@@ -1,3 +1,4 @@
+// Reading and writing to the end, whatever a single call of the system moves.
 #include "vcl/rtl/private/os.h"
 
 namespace vcl::os {

@@ -1,0 +1,4 @@
+// As core/api.h.
+#pragma once
+
+inline constexpr const char* OwnStrings = "the application's";
