@@ -195,7 +195,7 @@ void TInspectorGrid::Dispatch(vcl::TMessage& message) {
     case WM_VSCROLL: return Scroll(message);
     case WM_MOUSEWHEEL:
       return ScrollTo(FTop - GET_WHEEL_DELTA_WPARAM(message.WParam) * wheelRows / WHEEL_DELTA);
-    case WM_ERASEBKGND: message.Result = 1; return;  // Every line fills its own place.
+    case WM_ERASEBKGND:  // Every line fills its own place.
     case vcl::CM_WANTSPECIALKEY: message.Result = 1; return;
     case layout::MessageEditValue: return EditValue();
     case layout::MessageShowError: std::rethrow_exception(std::exchange(FError, nullptr));

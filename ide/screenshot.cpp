@@ -16,7 +16,7 @@ std::string SaveScreenshot(TMainForm& form, const std::string& folder) {
   form.Show();
   TBitmap picture;
   TakePicture(form, TFormPart::Whole, picture);
-  const std::string name = Concat(folder, "/designer.png");
+  std::string name = Concat(folder, "/designer.png");
   SavePng(picture, name);
   return name;
 }

@@ -91,9 +91,9 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
 
 TGalleryForm::~TGalleryForm() { Application()->OnHint.Clear(); }
 
-TSettingBinder& TGalleryForm::Bind(std::vector<TSetting> settings) {
+TSettingBinder& TGalleryForm::Bind(const std::vector<TSetting>& settings) {
   const auto tell = [this](const std::string& message) { ShowStatus(message); };
-  FBinders.push_back(std::make_unique<TSettingBinder>(*this, std::move(settings), tell));
+  FBinders.push_back(std::make_unique<TSettingBinder>(*this, settings, tell));
   return *FBinders.back();
 }
 

@@ -128,7 +128,7 @@ class TGalleryForm : public vcl::TForm {
   void SelectHintDirection(vcl::TControl* control, qel::TQELDirectionB& direction);
 
   // What the pages share.
-  TSettingBinder& Bind(std::vector<TSetting> settings);
+  TSettingBinder& Bind(const std::vector<TSetting>& settings);
   void ShowStatus(const std::string& text);
 
   std::vector<std::unique_ptr<TSettingBinder>> FBinders;

@@ -39,7 +39,7 @@ class TFlag {
 
 }  // namespace
 
-TSettingBinder::TSettingBinder(TComponent& form, std::vector<TSetting> settings, TTell tell)
+TSettingBinder::TSettingBinder(TComponent& form, const std::vector<TSetting>& settings, TTell tell)
     : FForm(form), FTell(std::move(tell)) {
   FBindings.reserve(settings.size());  // The events refer to the bindings.
   for (const TSetting& setting : settings) {

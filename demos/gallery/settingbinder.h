@@ -30,7 +30,7 @@ class TSettingBinder {
 
   /// Binds the controls of `form`, whose events it takes; `form` and its controls outlive the
   /// binder. Raises EComponentError for a control that is not there.
-  TSettingBinder(vcl::TComponent& form, std::vector<TSetting> settings, TTell tell);
+  TSettingBinder(vcl::TComponent& form, const std::vector<TSetting>& settings, TTell tell);
   /// Gives the controls their events back, empty.
   ~TSettingBinder();
   TSettingBinder(const TSettingBinder&) = delete;

@@ -16,7 +16,7 @@ constexpr std::string_view Heading = "Unsaved text of Notes";
 std::string TakeLine(std::string_view& bytes) {
   const auto end = bytes.find('\n');
   if (end == std::string_view::npos) throw EInOutError("it is cut off");
-  const std::string line(bytes.substr(0, end));
+  std::string line(bytes.substr(0, end));
   bytes.remove_prefix(end + 1);
   return line;
 }

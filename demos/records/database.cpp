@@ -18,7 +18,7 @@ std::string NameForDriver(const std::string& fileName) {
       ::GetProcAddress(::GetModuleHandleW(L"kernel32"), "wine_get_unix_file_name")));
   if (!unixName) return fileName;
   char* found = unixName(vcl::ToUtf16(vcl::ExpandFileName(fileName)).c_str());
-  const std::string name = found ? found : fileName;
+  std::string name = found ? found : fileName;
   ::HeapFree(::GetProcessHeap(), 0, found);
   return name;
 }

@@ -102,7 +102,7 @@ std::string MemoryText(int item) {
 std::string DiskText(int item) {
   ULARGE_INTEGER available{}, size{}, free{};
   if (!::GetDiskFreeSpaceExW(nullptr, &available, &size, &free)) return {};
-  constexpr std::uint64_t MB = 1024 * 1024;
+  constexpr std::uint64_t MB = std::uint64_t{1024} * 1024;
   if (item == inDiskSize) return Amount(size.QuadPart, MB, " MB");
   if (item == inDiskFree) return Amount(available.QuadPart, MB, " MB");
   if (size.QuadPart == 0) return {};

@@ -18,7 +18,6 @@ namespace qel {
 
 using vcl::TBitmap;
 using vcl::TColor;
-using vcl::TRect;
 
 namespace {
 

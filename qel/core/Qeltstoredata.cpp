@@ -132,7 +132,7 @@ void TQELDataStore::Perform(Operation operation) {
 // count on it, and who wants to tell them apart chooses an error value that is never stored.
 std::string TQELDataStore::ReadStr(const std::string& ident) {
   DoFix();
-  const std::string error = FErrorStr;
+  std::string error = FErrorStr;
   if (!Ready()) return error;
   std::string value = error;
   bool read = false;

@@ -17,7 +17,7 @@ constexpr int BlockBytes = 40 * LineBytes;
 using TBlock = std::array<unsigned char, BlockBytes>;
 
 /// How many bytes are read from a file at a time: several blocks, as each reading has its price.
-constexpr std::int64_t PortionBytes = 32 * BlockBytes;
+constexpr std::int64_t PortionBytes = std::int64_t{32} * BlockBytes;
 
 void AddLine(const unsigned char* bytes, std::int64_t count, TTextLines& lines) {
   char letters[LineLetters];

@@ -40,7 +40,7 @@ bool FindLine(const vcl::TStrings& list, int& index, Test test) {
 void TQELPOPMail::Base64Decode(TQELAttachment& attachment) {
   const TLiving living(attachment);
   DoDecodeStart(attachment);
-  DataOf(*living).Reserve(static_cast<std::int64_t>(living->Lines()->Letters().size() / 4 * 3));
+  DataOf(*living).Reserve(static_cast<std::int64_t>(living->Lines()->Letters().size()) / 4 * 3);
   int threshold = ProgressStep();
   TBase64Decoder decoder;
   std::string bytes;

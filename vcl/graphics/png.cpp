@@ -17,8 +17,8 @@
 
 #include <algorithm>
 namespace Gdiplus {
-using std::max;
-using std::min;
+using std::max;  // NOLINT(misc-unused-using-decls): its header uses both.
+using std::min;  // NOLINT(misc-unused-using-decls)
 }  // namespace Gdiplus
 #include <gdiplus.h>
 

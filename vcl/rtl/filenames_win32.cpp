@@ -21,7 +21,7 @@ std::string ExpandFileName(const std::string& fileName) {
 
 std::wstring SystemFileName(const std::string& name) {
   constexpr std::size_t plain = 240;  // Room for what is appended.
-  const std::wstring wide = ToUtf16(name);
+  std::wstring wide = ToUtf16(name);
   if (wide.size() < plain || wide.starts_with(L"\\\\?\\")) return wide;
   const std::wstring full = FullName(wide);
   return full.starts_with(L"\\\\") ? L"\\\\?\\UNC" + full.substr(1) : L"\\\\?\\" + full;

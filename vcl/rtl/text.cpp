@@ -24,6 +24,7 @@ int CompareText(std::string_view a, std::string_view b) {
       a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
         return static_cast<unsigned char>(Upper(x)) <=> static_cast<unsigned char>(Upper(y));
       });
+  // NOLINTNEXTLINE(modernize-use-nullptr): an ordering is compared with 0.
   return order < 0 ? -1 : order > 0 ? 1 : 0;
 }
 

@@ -190,6 +190,7 @@ void TTreeNode::MakeVisible() {
 TRect TTreeNode::DisplayRect(bool textOnly) const {
   TreeView()->HandleNeeded();
   RECT rect{};
+  // NOLINTNEXTLINE(bugprone-sizeof-expression): the handle itself is copied.
   std::memcpy(&rect, &FItem, sizeof FItem);  // The message takes its item from there.
   const LRESULT inSight =
       Send(*TreeView(), TVM_GETITEMRECT, textOnly, reinterpret_cast<LPARAM>(&rect));

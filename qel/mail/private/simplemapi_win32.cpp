@@ -64,7 +64,7 @@ std::shared_ptr<const TMapiLibrary> TMapiLibrary::Open() {
   if (auto library = loaded.lock()) return library;
   const HMODULE module = LoadMapi();
   if (!module) return nullptr;
-  const std::shared_ptr<const TMapiLibrary> library(new TMapiLibrary(module));
+  std::shared_ptr<const TMapiLibrary> library(new TMapiLibrary(module));
   loaded = library;
   return library;
 }

@@ -81,7 +81,8 @@ std::vector<unsigned char> ReadIconFile(TStream& stream) {
   if (Little(file, 0, 2) != 0 || Little(file, 2, 2) != 1)
     Invalid("file does not begin as one does");
   if (CountOf(file) == 0) Invalid("file has no image");
-  ReadUpTo(file, stream, static_cast<std::int64_t>(DirectorySize + CountOf(file) * EntrySize));
+  ReadUpTo(file, stream,
+           std::int64_t{DirectorySize} + static_cast<std::int64_t>(CountOf(file)) * EntrySize);
   ReadUpTo(file, stream, EndOf(file));
   return file;
 }
