@@ -20,7 +20,7 @@ using vcl::TColor;
 
 void DrawMasked(vcl::TCanvas* canvas, vcl::TBitmap* bitmap, int x, int y, TColor transparentColor,
                 bool enabled) {
-  if (bitmap->Empty()) return;
+  if (!bitmap || bitmap->Empty()) return;
   vcl::TImageList images(nullptr, bitmap->Width(), bitmap->Height());
   images.AddMasked(bitmap, transparentColor);
   images.Draw(canvas, x, y, 0, enabled);
@@ -51,7 +51,7 @@ void QELDrawTransparentBitmap(vcl::TCanvas* canvas, vcl::TBitmap* bitmap, int x,
 }
 
 void QELDrawDisabledBitmap(vcl::TCanvas* canvas, int x, int y, vcl::TBitmap* bitmap) {
-  DrawMasked(canvas, bitmap, x, y, bitmap->TransparentColor(), false);
+  if (bitmap) DrawMasked(canvas, bitmap, x, y, bitmap->TransparentColor(), false);
 }
 
 void QELDrawLed(vcl::TCanvas* canvas, int x, int y, TColor color) {

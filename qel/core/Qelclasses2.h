@@ -20,12 +20,12 @@ namespace qel {
 
 class TQELCustomBackground;
 
-/// Draws the bitmap at (x, y) without its pixels of the colour.
+/// Draws the bitmap at (x, y) without its pixels of the colour; null draws nothing.
 QEL_API void QELDrawTransparentBitmap(vcl::TCanvas* canvas, vcl::TBitmap* bitmap, int x, int y,
                                       vcl::TColor transparentColor);
 /// Draws the bitmap at (x, y) as a disabled control shows it, engraved: its dark pixels grey, with
 /// a light copy one pixel to the lower right. Its light pixels and those of its TransparentColor
-/// are left out.
+/// are left out. Null draws nothing.
 QEL_API void QELDrawDisabledBitmap(vcl::TCanvas* canvas, int x, int y, vcl::TBitmap* bitmap);
 /// Draws a lamp of the colour in a sunken ring, 12 by 12 pixels from (x, y). The canvas's pen
 /// stays.

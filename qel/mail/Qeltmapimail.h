@@ -256,6 +256,7 @@ class QEL_API TQELMapiMail : public TQELExecComponent {
   std::unique_ptr<vcl::TStringList> FSignature;
   bool FDeleteAfterSend = true;
   std::uintptr_t FSession = 0;
+  bool FLoggingOff = false;  // The system has been told; the handlers have not all.
   std::shared_ptr<const TMapiLibrary> FLibrary;
 };
 

@@ -1,13 +1,12 @@
 // TQELMapiMail: whether Simple MAPI is there, logging on with a profile, sending and logging off.
 #include "qel/mail/Qeltmapimail.h"
 
-#include <utility>
-
 #include "qel/mail/private/living.h"
 #include "qel/mail/private/simplemapi.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/registry.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace qel {
@@ -64,7 +63,7 @@ TQELMapiMail::TQELMapiMail(vcl::TComponent* owner)
 
 TQELMapiMail::~TQELMapiMail() {
   try {
-    if (FSession) Logoff();
+    if (FSession && !FLoggingOff) Logoff();
   } catch (...) {
     vcl::BaseApplication().HandleCurrentException(this);
   }
@@ -161,11 +160,13 @@ unsigned long TQELMapiMail::OpenSession(char* profile, char* password, unsigned 
 int TQELMapiMail::Logoff() {
   CheckMAPI();
   Guarded(this, [this] { BeforeLogoff(this); });
-  if (!FSession) return SUCCESS_SUCCESS;
+  if (!FSession || FLoggingOff) return SUCCESS_SUCCESS;
   const auto library = Library("MAPILogoff");
+  const vcl::TSetFor loggingOff(FLoggingOff, true, this);
+  // However it ends, the session is over; only the handlers still see which one it was.
+  const vcl::TAtEnd over([this] { FSession = 0; }, this);
   unsigned long result = SUCCESS_SUCCESS;
-  // However it ends, the session is over, for the handlers as well.
-  Guarded(this, [&] { result = library->Logoff(std::exchange(FSession, 0), 0, 0, 0); });
+  Guarded(this, [&] { result = library->Logoff(FSession, 0, 0, 0); });
   const int code = static_cast<int>(result);
   Guarded(this, [=, this] { code ? OnLogoffFailure(this, code) : OnLogoffSuccess(this); });
   return code;

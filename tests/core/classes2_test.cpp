@@ -139,6 +139,8 @@ TEST_F(DrawingHelpers, ADisabledBitmapShowsItsDarkPixelsEngraved) {
     EXPECT_EQ(At(x, y), Ground);
   vcl::TBitmap nothing;
   QELDrawDisabledBitmap(Bitmap.Canvas(), 0, 0, &nothing);
+  QELDrawDisabledBitmap(Bitmap.Canvas(), 0, 0, nullptr);
+  QELDrawTransparentBitmap(Bitmap.Canvas(), nullptr, 0, 0, vcl::clBlack);
   EXPECT_EQ(At(0, 0), Ground);
 }
 

@@ -113,6 +113,10 @@ TEST_F(DBAscii, SplitsLinesIntoColumns) {
       {"1;2;3\r\n4;5;6", "4|5|6;1|2|3"},  // Each is inserted before the one that was before it.
       {"1;2;3\n4;5;6\r7;8;9\n", "7|8|9;4|5|6;1|2|3"},
       {"", ""},
+      {"\xEF\xBB\xBF", ""},  // A byte-order mark is no part of the first value.
+      {"\xEF\xBB\xBF"
+       "1;2;3\r\n",
+       "1|2|3"},
   };
   for (const TCase& each : cases) EXPECT_EQ(Import(each.File), each.Records) << each.File;
   Ascii->SetPrintHeader(true);

@@ -126,6 +126,27 @@ TEST_F(MapiMail, LogsOnWithFlagsThatStayAndAsksTheUserWhenThatFails) {
   EXPECT_EQ(Calls(), (TCalls{"BeforeLogoff", "Logoff 7 0 0 0", "LogoffSuccess"}));
 }
 
+TEST_F(MapiMail, TheSessionIsClearedBehindTheEventsOfLoggingOff) {
+  std::vector<std::uintptr_t> seen;
+  Mail->OnLogoffSuccess = [&](vcl::TObject*) {
+    seen.push_back(Mail->Session());
+    Mail->Logoff();
+  };
+  Mail->Logon();
+  EXPECT_EQ(Mail->Logoff(), 0);
+  EXPECT_THAT(seen, ElementsAre(7u)) << "told once of the session that it was";
+  EXPECT_EQ(Mail->Session(), 0u);
+  Mail->OnLogoffSuccess = [](vcl::TObject*) { throw vcl::EInvalidOperation("a handler's"); };
+  Mail->Logon();
+  EXPECT_THROW(Mail->Logoff(), vcl::EInvalidOperation);
+  EXPECT_EQ(Mail->Session(), 0u);
+  Mail->OnLogoffSuccess = [&](vcl::TObject*) { Mail = nullptr; };
+  Mail->Logon();
+  Calls();
+  EXPECT_THROW(Mail->Logoff(), vcl::EAbort);
+  EXPECT_THAT(Only("Logoff "), ElementsAre("Logoff 7 0 0 0")) << "freed by its handler";
+}
+
 TEST_F(MapiMail, TakesTheProfileOfTheRegistry) {
   const std::string plain = "\\Software\\Microsoft\\Windows Messaging Subsystem";
   const std::string nt =

@@ -38,7 +38,9 @@ void TTextFile::Open(const std::string& fileName, int mode) {
 
 void TTextFile::Rewrite(const std::string& fileName) { Open(fileName, fmCreate); }
 void TTextFile::Reset(const std::string& fileName) {
+  constexpr std::string_view mark = "\xEF\xBB\xBF";
   Open(fileName, fmOpenRead | fmShareDenyWrite);
+  if (Fill() && FBuffer.starts_with(mark)) FPosition = mark.size();
 }
 
 void TTextFile::Close() {

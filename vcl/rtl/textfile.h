@@ -21,7 +21,7 @@ class VCL_API TTextFile {
 
   /// Makes the file, or empties the one that is there, to be written.
   void Rewrite(const std::string& fileName);
-  /// Opens the file to be read.
+  /// Opens the file to be read, behind the byte-order mark of UTF-8 if it begins with one.
   void Reset(const std::string& fileName);
   void Close();
 
