@@ -2,9 +2,11 @@
 #include "qel/controls/Qeltbutton.h"
 
 #include "qel/core/private/arithmetic.h"
+#include "vcl/controls/accelerators.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/win32.h"
 
 namespace qel {
@@ -159,6 +161,8 @@ void TQELButton::PaintEdge() {
 
 void TQELButton::SetDown(bool down) {
   FDown = down;
+  // One press gives one click, whatever is released first.
+  if (!down) ExcludeState(vcl::csClicked);
   PaintNow();
 }
 
@@ -176,7 +180,9 @@ void TQELButton::MouseDown(TMouseButton button, TShiftState shift, int x, int y)
   TWatch watch(this);
   TQELCustomControl::MouseDown(button, shift, x, y);
   if (watch.Gone()) return;
-  if (button == vcl::mbLeft && FEnabled && !FDown) SetDown(true);
+  if (button != vcl::mbLeft || !FEnabled || FDown) return;
+  // A handler that shows a box has let the mouse go: its release comes here no more.
+  MouseCapture() ? SetDown(true) : ExcludeState(vcl::csClicked);
 }
 
 void TQELButton::MouseUp(TMouseButton button, TShiftState shift, int x, int y) {
@@ -201,6 +207,32 @@ void TQELButton::KeyUp(std::uint16_t& key, TShiftState shift) {
     if (!watch.Gone()) OnClick(this);
   }
   if (!watch.Gone()) TQELCustomControl::KeyUp(key, shift);
+}
+
+bool TQELButton::TakesAccel(WPARAM character) const {
+  return FEnabled && vcl::IsAccel(character, getcaption()) && CanFocus();
+}
+
+void TQELButton::Dispatch(vcl::TMessage& message) {
+  if (message.Msg == vcl::CM_DIALOGCHAR && TakesAccel(message.WParam)) {
+    message.Result = 1;
+    return Click();
+  }
+  TWatch watch(this);
+  DispatchPress(message);
+  if (watch.Gone() || !FDown) return;
+  const bool ends = message.Msg == WM_CANCELMODE ||
+                    (message.Msg == WM_CAPTURECHANGED && !FReleasing) ||
+                    (message.Msg == WM_KILLFOCUS && !MouseCapture());
+  if (ends) SetDown(false);
+}
+
+void TQELButton::DispatchPress(vcl::TMessage& message) {
+  const bool release =
+      message.Msg == WM_LBUTTONUP || message.Msg == WM_RBUTTONUP || message.Msg == WM_MBUTTONUP;
+  if (!release) return TQELCustomControl::Dispatch(message);
+  const vcl::TSetFor releasing(FReleasing, true, this);
+  TQELCustomControl::Dispatch(message);
 }
 
 }  // namespace qel

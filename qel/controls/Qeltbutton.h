@@ -10,7 +10,9 @@
 namespace qel {
 
 /// A push button with a glyph, a three-dimensional caption and a soft edge, on a background. The
-/// left mouse button and the space bar press it.
+/// left mouse button and the space bar press it, and the letter that "&" marks in its caption
+/// clicks it. What ends a press otherwise (WM_CANCELMODE, the mouse captured for another window,
+/// the focus lost under the space bar) leaves the button up and clicks nothing.
 class QEL_API TQELButton : public TQELCustomControl {
  public:
   explicit TQELButton(vcl::TComponent* owner);
@@ -48,10 +50,13 @@ class QEL_API TQELButton : public TQELCustomControl {
   void MouseUp(vcl::TMouseButton button, vcl::TShiftState shift, int x, int y) override;
   void KeyDown(std::uint16_t& key, vcl::TShiftState shift) override;
   void KeyUp(std::uint16_t& key, vcl::TShiftState shift) override;
+  void Dispatch(vcl::TMessage& message) override;
 
  private:
   void GlyphChange(vcl::TObject* sender);
   void SetDown(bool down);
+  bool TakesAccel(WPARAM character) const;
+  void DispatchPress(vcl::TMessage& message);
   void PaintGlyph(const vcl::TRect& face, bool beforeText);
   void PaintCaption(vcl::TRect face, const std::string& caption);
   void PaintEdge();
@@ -59,6 +64,7 @@ class QEL_API TQELButton : public TQELCustomControl {
   std::unique_ptr<TQELGlyph> FGlyph;
   std::unique_ptr<TQELFont3D> FFont3D;
   bool FDown = false;
+  bool FReleasing = false;  // The mouse is being released: the capture ends by itself.
   bool FWordWrap = false;
   bool FButtonSunk = false;
   bool FEnabled = true;

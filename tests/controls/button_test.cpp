@@ -77,6 +77,100 @@ TEST_F(Button, TheRightButtonOnlyReleasesIt) {
   EXPECT_TRUE(Clicked(1));
   testinput::LeftUp();
   EXPECT_FALSE(It->Down());
+  EXPECT_TRUE(Clicked(1)) << "one press, one click";
+}
+
+TEST_F(Button, WhatEndsThePressLeavesItUpAndClicksNothing) {
+  const std::pair<const char*, std::function<void()>> ends[] = {
+      {"WM_CANCELMODE", [&] { ::SendMessageW(It->Handle(), WM_CANCELMODE, 0, 0); }},
+      {"another window's capture", [&] { ::SetCapture(Form.Handle()); }},
+      {"a message box",
+       [&] {
+         const testinput::TBoxAnswer answer(IDOK);
+         ::MessageBoxW(Form.Handle(), L"text", L"caption", MB_OK);
+       }},
+  };
+  for (const auto& [name, end] : ends) {
+    Press();
+    EXPECT_TRUE(testinput::PumpUntil([&] { return It->Down(); })) << name;
+    end();
+    EXPECT_FALSE(It->Down()) << name;
+    ::ReleaseCapture();
+    testinput::LeftUp();
+    EXPECT_TRUE(Clicked(0)) << name;
+  }
+  Press();
+  EXPECT_TRUE(testinput::PumpUntil([&] { return It->Down(); })) << "the next press counts";
+  testinput::LeftUp();
+  EXPECT_TRUE(Clicked(1));
+}
+
+TEST_F(Button, LosingTheFocusReleasesTheSpaceBarOnly) {
+  It->SetFocus();
+  testinput::SendKey(VK_SPACE, true);
+  EXPECT_TRUE(testinput::PumpUntil([&] { return It->Down(); }));
+  Other->SetFocus();
+  EXPECT_FALSE(It->Down());
+  testinput::SendKey(VK_SPACE, false);
+  EXPECT_TRUE(Clicked(0));
+  It->SetFocus();
+  Press();
+  EXPECT_TRUE(testinput::PumpUntil([&] { return It->Down(); }));
+  Other->SetFocus();
+  EXPECT_TRUE(It->Down()) << "the mouse still holds it";
+  testinput::LeftUp();
+  EXPECT_TRUE(Clicked(1));
+}
+
+TEST_F(Button, StaysUpWhenItsOnMouseDownShowsABox) {
+  It->OnMouseDown = [&](vcl::TObject*, vcl::TMouseButton, vcl::TShiftState, int, int) {
+    const testinput::TBoxAnswer answer(IDOK);
+    ::MessageBoxW(Form.Handle(), L"text", L"caption", MB_OK);
+  };
+  Press();
+  EXPECT_FALSE(It->Down());
+  testinput::LeftUp();
+  EXPECT_TRUE(Clicked(0));
+}
+
+TEST_F(Button, ItsMnemonicClicksIt) {
+  Other->SetFocus();
+  It->Setcaption("&Hello");
+  testinput::TypeKey('H', {VK_MENU});
+  EXPECT_TRUE(Clicked(1));
+  EXPECT_TRUE(Other->Focused());
+  EXPECT_FALSE(It->Down());
+  const std::pair<const char*, std::function<void()>> refusals[] = {
+      {"another letter", [&] { It->Setcaption("H&ello"); }},
+      {"two ampersands", [&] { It->Setcaption("&&Hello"); }},
+      {"disabled",
+       [&] {
+         It->Setcaption("&Hello");
+         It->SetEnabled(false);
+       }},
+      {"hidden",
+       [&] {
+         It->SetEnabled(true);
+         It->SetVisible(false);
+       }},
+  };
+  for (const auto& [name, refuse] : refusals) {
+    refuse();
+    testinput::TypeKey('H', {VK_MENU});
+    EXPECT_TRUE(Clicked(1)) << name;
+  }
+}
+
+TEST_F(Button, ALabelsMnemonicFocusesItsControl) {
+  auto* label = new qel::TQELLabel(&Form);
+  label->SetParent(&Form);
+  label->SetCaption("&Name");
+  testinput::TypeKey('N', {VK_MENU});
+  EXPECT_FALSE(Other->Focused()) << "it has none yet";
+  label->SetFocusControl(Other);
+  testinput::TypeKey('N', {VK_MENU});
+  EXPECT_TRUE(Other->Focused());
+  EXPECT_EQ(Clicks, 0);
 }
 
 TEST_F(Button, ADisabledOneIgnoresTheMouseButNotTheSpaceBar) {

@@ -1,11 +1,12 @@
 // TButtonControl and TButton: clicks, and which button Enter and Escape press.
 #include "vcl/stdctrls/button.h"
 
-#include "vcl/controls/private/accelerators.h"
+#include "vcl/controls/accelerators.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/windowmessages.h"
 #include "vcl/forms/forms.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

@@ -1,11 +1,12 @@
 // TCustomGroupBox: its frame with the caption, and the room inside.
 #include "vcl/stdctrls/groupbox.h"
 
-#include "vcl/controls/private/accelerators.h"
+#include "vcl/controls/accelerators.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/graphics/canvas.h"
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

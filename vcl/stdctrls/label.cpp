@@ -2,13 +2,14 @@
 // focuses.
 #include "vcl/stdctrls/label.h"
 
-#include "vcl/controls/private/accelerators.h"
+#include "vcl/controls/accelerators.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/graphics/canvas.h"
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

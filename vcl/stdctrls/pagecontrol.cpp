@@ -3,13 +3,14 @@
 
 #include <algorithm>
 
-#include "vcl/controls/private/accelerators.h"
+#include "vcl/controls/accelerators.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/windowmessages.h"
 #include "vcl/forms/forms.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/private/commoncontrols.h"
 
 namespace vcl {

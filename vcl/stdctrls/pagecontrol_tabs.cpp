@@ -1,9 +1,10 @@
 // TPageControl: the system's tabs.
 #include <algorithm>
 
-#include "vcl/controls/private/accelerators.h"
+#include "vcl/controls/accelerators.h"
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/pagecontrol.h"
 #include "vcl/stdctrls/private/commoncontrols.h"
 

@@ -1,11 +1,12 @@
 // TSpeedButton: its group, its look in each state, and the mouse.
 #include "vcl/stdctrls/speedbutton.h"
 
-#include "vcl/controls/private/accelerators.h"
+#include "vcl/controls/accelerators.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/graphics/canvas.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 

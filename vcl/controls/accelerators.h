@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "vcl/rtl/api.h"
-#include "vcl/rtl/win32.h"
+#include "vcl/rtl/systemtypes.h"
 
 namespace vcl {
 

@@ -1,7 +1,8 @@
 // Finding the letter that "&" marks in a caption.
-#include "vcl/controls/private/accelerators.h"
+#include "vcl/controls/accelerators.h"
 
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 
 namespace vcl {
 namespace {
