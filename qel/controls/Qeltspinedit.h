@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 #include "qel/core/Qelclasses.h"
@@ -73,7 +74,8 @@ class QEL_API TQELSpinButton : public TQELCustomSpinButton {
 
 /// An edit for a whole number with sign. The button and the arrow keys step the number, the page
 /// keys by more. It is kept within bounds when it is set or stepped and when the focus leaves; what
-/// is typed in between is not.
+/// is typed or pasted in between is not, and a text that is no number is then replaced by the value
+/// that it is read as.
 class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
  public:
   explicit TQELCustomSpinEdit(vcl::TComponent* owner);
@@ -86,7 +88,8 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   vcl::TColor ArrowColor() const { return FButton->ArrowColor(); }
   void SetArrowColor(vcl::TColor color) { FButton->SetArrowColor(color); }
   bool CutandPaste() const { return FCutandPaste; }
-  /// False: text can be neither cut nor pasted nor typed; buttons and keys still step the number.
+  /// False: text can be neither cut nor pasted nor typed nor deleted; buttons and keys still step
+  /// the number.
   void SetCutandPaste(bool allowed) { FCutandPaste = allowed; }
   int LineSize() const { return FLineSize; }
   /// What the button and the arrow keys add or take. Any number; a negative one turns them round.
@@ -95,8 +98,9 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   /// What the page keys add or take. Any number.
   void SetMultipleLineSize(int size) { FMultipleLineSize = size; }
   int MaxValue() const { return FMaxValue; }
-  /// Refuses, silently, what is not greater than MinValue. A form file may give any two bounds of
-  /// which the maximum is not less than the minimum; with both the same there are no bounds.
+  /// Refuses, silently, what is not greater than MinValue. A form file may give any two bounds, of
+  /// which the same twice stands for none; with a maximum less than the minimum, reading it raises
+  /// EReadError.
   void SetMaxValue(int maxValue);
   int MinValue() const { return FMinValue; }
   /// Refuses, silently, what is not less than MaxValue.
@@ -110,12 +114,16 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   /// The number within the bounds.
   int CheckValue(int value) const;
 
+  void GetChildren(const std::function<void(vcl::TComponent*)>& each,
+                   vcl::TComponent* root) override;
+
   /// One step up, or a beep when the edit is read-only.
   virtual void UpClick(vcl::TObject* sender);
   virtual void DownClick(vcl::TObject* sender);
 
  protected:
-  /// Whether a typed character is taken.
+  /// Whether a typed character is taken. Those that would begin a line or a column are taken here
+  /// and go no further than OnKeyPress.
   virtual bool IsValidChar(char32_t key) const;
   bool MultiLine() const override { return true; }
   /// The least height that the font needs.
@@ -138,7 +146,10 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   void StepLine(std::int64_t difference);
   void StepPage(std::int64_t difference);
   void StepBy(std::int64_t difference);
-  void ClampText();
+  void CheckBounds();
+  void CorrectText();
+  void KeepText(std::uint16_t& key, vcl::TShiftState shift);
+  bool Refuses(const vcl::TMessage& message) const;
 
   int FLineSize = 1;
   int FMultipleLineSize = 10;

@@ -1,28 +1,26 @@
-// TQELCustomSpinEdit and TQELSpinEdit.
+// TQELCustomSpinEdit and TQELSpinEdit: value and bounds, size and window.
 #include <algorithm>
-#include <limits>
+#include <optional>
 #include <utility>
 
 #include "qel/controls/Qeltspinedit.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/windowmessages.h"
-#include "vcl/forms/forms.h"
 #include "vcl/rtl/convert.h"
+#include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
 
 namespace qel {
 
 using vcl::TRect;
-using vcl::TShiftState;
 using vcl::TWatch;
 
 namespace {
 
 constexpr int DefaultMaxValue = 100;
 constexpr int DefaultMinValue = 0;
-
-void Beep() { ::MessageBeep(0); }
 
 }  // namespace
 
@@ -104,11 +102,12 @@ TQELSpinEdit::~TQELSpinEdit() { AnnounceEnd(); }
 
 namespace {
 
-/// The library's conversions know hexadecimal numbers as well; here a letter makes a text no
-/// number.
-int NumberIn(const std::string& text, int otherwise) {
+/// The number that the text says, if it says one. The library's conversions know hexadecimal
+/// numbers as well; here a letter makes a text no number.
+std::optional<int> NumberIn(const std::string& text) {
+  int number = 0;
   const bool decimal = text.find_first_not_of(" +-0123456789") == std::string::npos;
-  return decimal ? vcl::StrToIntDef(text, otherwise) : otherwise;
+  return decimal && vcl::TryStrToInt(text, number) ? std::optional(number) : std::nullopt;
 }
 
 }  // namespace
@@ -118,7 +117,7 @@ int TQELCustomSpinEdit::GetValue() const {
   const int otherwise = FMinValue;
   // Reading changes what is shown here, so that an empty edit never stands for a number.
   if (text.empty()) const_cast<TQELCustomSpinEdit*>(this)->SetText(vcl::IntToStr(otherwise));
-  return NumberIn(text, otherwise);
+  return NumberIn(text).value_or(otherwise);
 }
 
 void TQELCustomSpinEdit::SetValue(int value) {
@@ -127,7 +126,8 @@ void TQELCustomSpinEdit::SetValue(int value) {
 }
 
 int TQELCustomSpinEdit::CheckValue(int value) const {
-  if (FMinValue == FMaxValue) return value;
+  // While a form file is read, one of them may stand there alone.
+  if (FMinValue >= FMaxValue) return value;
   return std::clamp(value, FMinValue, FMaxValue);
 }
 
@@ -154,111 +154,39 @@ void TQELCustomSpinEdit::SetMinValue(int minValue) {
 
 void TQELCustomSpinEdit::Loaded() {
   TCustomEdit::Loaded();
-  if (FMaxValue < FMinValue) {
-    // They can't both stand: each is taken or refused as if it were set by code.
-    const int maxValue = std::exchange(FMaxValue, DefaultMaxValue);
-    const int minValue = std::exchange(FMinValue, DefaultMinValue);
-    SetMaxValue(maxValue);
-    SetMinValue(minValue);
-  }
   AdjustSize();
-  ClampText();
+  CheckBounds();
+  CorrectText();
 }
 
-// A text that is no number reads as the least value, which is within the bounds: it stays as it is.
-void TQELCustomSpinEdit::ClampText() {
+// Who reads on all the same, as a designer does, gets an edit with the bounds of a new one.
+void TQELCustomSpinEdit::CheckBounds() {
+  if (FMaxValue >= FMinValue) return;
+  const int maxValue = std::exchange(FMaxValue, DefaultMaxValue);
+  const int minValue = std::exchange(FMinValue, DefaultMinValue);
+  CorrectText();
+  throw vcl::EReadError(vcl::Concat("MaxValue ", vcl::IntToStr(maxValue), " of ", Name(),
+                                    " is less than its MinValue ", vcl::IntToStr(minValue)));
+}
+
+// What the edit shows is then what it is read as, within the bounds.
+void TQELCustomSpinEdit::CorrectText() {
   TWatch watch(this);
   const int value = GetValue();
-  if (!watch.Gone() && CheckValue(value) != value) SetValue(value);
-}
-
-// Stepping.
-
-void TQELCustomSpinEdit::UpClick(vcl::TObject* /*sender*/) { StepLine(FLineSize); }
-
-void TQELCustomSpinEdit::DownClick(vcl::TObject* /*sender*/) { StepLine(-std::int64_t{FLineSize}); }
-
-void TQELCustomSpinEdit::StepLine(std::int64_t difference) {
-  ReadOnly() ? Beep() : StepBy(difference);
-}
-
-// Other than the arrows, the page keys make no sound in a read-only edit.
-void TQELCustomSpinEdit::StepPage(std::int64_t difference) {
-  if (!ReadOnly()) StepBy(difference);
-}
-
-// The sum may be more than an int holds, with bounds or without.
-void TQELCustomSpinEdit::StepBy(std::int64_t difference) {
-  using TLimits = std::numeric_limits<int>;
-  TWatch watch(this);
-  const std::int64_t sum = GetValue() + difference;
   if (watch.Gone()) return;
-  SetValue(static_cast<int>(std::clamp<std::int64_t>(sum, TLimits::min(), TLimits::max())));
+  if (CheckValue(value) != value || !NumberIn(Text())) SetValue(value);
 }
 
-// Keys and clipboard.
+// What is written, and the size and window.
 
-// The number is stepped before OnKeyDown is fired: a handler can't keep a key from it.
-void TQELCustomSpinEdit::KeyDown(std::uint16_t& key, TShiftState shift) {
-  TWatch watch(this);
-  switch (key) {
-    case VK_PRIOR: StepPage(FMultipleLineSize); break;
-    case VK_NEXT: StepPage(-std::int64_t{FMultipleLineSize}); break;
-    case VK_UP: UpClick(this); break;
-    case VK_DOWN: DownClick(this); break;
-    default: break;
-  }
-  if (!watch.Gone()) TCustomEdit::KeyDown(key, shift);
+// The button is made by every edit itself: nothing of it is written.
+void TQELCustomSpinEdit::GetChildren(const std::function<void(vcl::TComponent*)>& each,
+                                     vcl::TComponent* root) {
+  const auto others = [&](vcl::TComponent* child) {
+    if (child != FButtonWindow) each(child);
+  };
+  TCustomEdit::GetChildren(others, root);
 }
-
-bool TQELCustomSpinEdit::IsValidChar(char32_t key) const {
-  const bool control = key < 32;
-  const bool numeral = key == U'+' || key == U'-' || (key >= U'0' && key <= U'9');
-  if (FCutandPaste) return control || numeral;
-  // Nothing that changes the text. The key Delete sends no character and is not refused.
-  return control && key != VK_BACK;
-}
-
-void TQELCustomSpinEdit::KeyPress(char32_t& key) {
-  if (!IsValidChar(key)) {
-    key = 0;
-    return Beep();
-  }
-  TWatch watch(this);
-  TCustomEdit::KeyPress(key);
-  if (watch.Gone() || (key != VK_RETURN && key != VK_ESCAPE)) return;
-  // The window has many lines for the system and takes these keys from the form, which gets them
-  // back: its default and its cancel button are meant. Escape goes on to the window, too.
-  const char32_t pressed = key;
-  if (pressed == VK_RETURN) key = 0;
-  if (vcl::TCustomForm* form = ParentForm()) form->Perform(vcl::CM_DIALOGKEY, pressed);
-}
-
-void TQELCustomSpinEdit::DoEnter() {
-  // A click puts the caret where it is instead.
-  if (AutoSelect() && !ControlState().Has(vcl::csLButtonDown)) SelectAll();
-  TCustomEdit::DoEnter();
-}
-
-void TQELCustomSpinEdit::DoExit() {
-  TWatch watch(this);
-  ClampText();
-  if (!watch.Gone()) TCustomEdit::DoExit();
-}
-
-void TQELCustomSpinEdit::Dispatch(vcl::TMessage& message) {
-  const bool changing = message.Msg == WM_CUT || message.Msg == WM_PASTE;
-  if (changing && (!FCutandPaste || ReadOnly())) return;
-  TWatch watch(this);
-  TCustomEdit::Dispatch(message);
-  if (watch.Gone()) return;
-  if (message.Msg == vcl::CM_ENABLEDCHANGED) FButton->SetEnabled(Enabled());
-  // The height that the font needs and the border that the button lies in.
-  const bool resizing = message.Msg == vcl::CM_FONTCHANGED || message.Msg == vcl::CM_CTL3DCHANGED;
-  if (resizing && !Loading()) AdjustSize();
-}
-
-// Size and window.
 
 namespace {
 

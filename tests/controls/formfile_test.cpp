@@ -61,9 +61,6 @@ TEST(FormFile, ASpinEditTakesBothBoundsTogether) {
       {"Value = 700", 0, 100, 100},
       // No bounds.
       {"MaxValue = 7 MinValue = 7 Value = 5000", 7, 7, 5000},
-      // What can't stand together is taken or refused one by one.
-      {"MaxValue = -5 MinValue = 10", 10, 100, 10},
-      {"MaxValue = 50 MinValue = 80", 0, 50, 0},
   };
   RegisterAll();
   for (const auto& [lines, minValue, maxValue, value] : cases) {
@@ -79,6 +76,36 @@ TEST(FormFile, ASpinEditTakesBothBoundsTogether) {
     EXPECT_EQ(spin->Height(), 30);
     EXPECT_EQ(FormText(&form).find("object TWin"), std::string::npos) << "nothing of the button";
   }
+}
+
+TEST(FormFile, ASpinEditsMaximumBelowItsMinimumIsAnError) {
+  RegisterAll();
+  const std::pair<const char*, const char*> cases[] = {
+      {"MaxValue = -5 MinValue = 10", "MaxValue -5 of Spin is less than its MinValue 10"},
+      {"MinValue = 80 MaxValue = 50", "MaxValue 50 of Spin is less than its MinValue 80"},
+      {"MaxValue = -1", "MaxValue -1 of Spin is less than its MinValue 0"}};
+  for (const auto& [lines, message] : cases) {
+    vcl::TForm form(nullptr);
+    const std::string text =
+        std::string("object F: TForm object Spin: TQELSpinEdit ") + lines + " end end";
+    EXPECT_THAT([&] { ReadForm(text, &form); },
+                testing::ThrowsMessage<vcl::EReadError>(testing::HasSubstr(message)));
+    EXPECT_EQ(form.ComponentCount(), 0);
+  }
+}
+
+TEST(FormFile, ASpinEditMayBeTheRoot) {
+  TQELSpinEdit spin(nullptr);
+  spin.SetName("Spin");
+  spin.SetAutoSize(false);
+  spin.SetMaxValue(500);
+  spin.SetValue(432);
+  const std::string text = FormText(&spin);
+  TQELSpinEdit read(nullptr);
+  ReadForm(text, &read);
+  EXPECT_EQ(read.GetValue(), 432) << text;
+  EXPECT_EQ(read.MaxValue(), 500);
+  EXPECT_EQ(FormText(&read), text);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // The spin edit under real keys, clipboard, focus and mouse.
+#include <cstring>
 #include <limits>
 
 #include "tests/controls/spinedit_form.h"
@@ -21,6 +22,15 @@ class SpinEdit : public TSpinForm {
   void ClickHalf(bool upper) {
     const int at = upper ? 5 : Spin->Button()->Width() - 5;
     testinput::Click(Spin->Button()->ClientToScreen({at, at}));
+  }
+  /// Opens the menu that the system's edit has and presses an item's key.
+  void ChooseFromMenu(WORD key) {
+    testinput::MoveMouse(Spin->ClientToScreen({30, 8}));
+    testinput::RightDown();
+    const testinput::TKeysWhen keys([] { return ::FindWindowA("#32768", nullptr) != nullptr; },
+                                    {key});
+    testinput::RightUp();
+    testinput::Pump();
   }
   void CopyToClipboard(const std::string& text) {
     Other->SetText(text);
@@ -51,6 +61,60 @@ TEST_F(SpinEdit, WithoutCutandPasteNothingIsTyped) {
   }
   Key(VK_UP);
   EXPECT_EQ(Spin->GetValue(), 1);
+}
+
+/// The system's edit does these without a message of its own: none that could be refused.
+TEST_F(SpinEdit, WithoutCutandPasteKeysAndMenuChangeNothing) {
+  CopyToClipboard("55");
+  Spin->SetFocus();
+  const std::function<void()> changes[] = {[&] { KeyWith(VK_SHIFT, VK_INSERT); },
+                                           [&] { KeyWith(VK_SHIFT, VK_DELETE); },
+                                           [&] { Key(VK_DELETE); },
+                                           [&] { KeyWith(VK_CONTROL, VK_DELETE); },
+                                           [&] { ChooseFromMenu('P'); },
+                                           [&] { ChooseFromMenu('T'); },
+                                           [&] { ChooseFromMenu('D'); }};
+  for (const bool allowed : {false, true}) {
+    Spin->SetCutandPaste(allowed);
+    for (std::size_t i = 0; i < std::size(changes); ++i) {
+      Spin->SetText("12");
+      Spin->SelectAll();
+      Spin->SetSelLength(1);
+      if (i == 3) Spin->SetSelLength(0);
+      changes[i]();
+      EXPECT_EQ(Spin->Text() == "12", !allowed) << i;
+      CopyToClipboard("55");
+      Spin->SetFocus();
+    }
+  }
+  EXPECT_EQ(beeps, 2) << "at the key Delete";
+}
+
+TEST_F(SpinEdit, TakesNoCharactersThatMakeLinesOrColumns) {
+  std::string pressed;
+  Spin->OnKeyPress = [&](vcl::TObject*, char32_t& key) { pressed += std::to_string(key) + " "; };
+  KeyWith(VK_CONTROL, VK_RETURN);
+  KeyWith(VK_CONTROL, 'I');
+  KeyWith(VK_CONTROL, 'J');
+  EXPECT_EQ(Spin->Text(), "0");
+  EXPECT_EQ(pressed, "10 9 10 ");
+  EXPECT_EQ(beeps, 0);
+}
+
+TEST_F(SpinEdit, ATwoLinePasteIsGoneWhenTheFocusLeaves) {
+  Spin->SetMinValue(3);
+  ASSERT_TRUE(::OpenClipboard(Form.Handle()));
+  ::EmptyClipboard();
+  const HGLOBAL lines = ::GlobalAlloc(GMEM_MOVEABLE, 5);
+  std::memcpy(::GlobalLock(lines), "1\r\n2", 5);
+  ::GlobalUnlock(lines);
+  ::SetClipboardData(CF_TEXT, lines);
+  ::CloseClipboard();
+  Spin->SelectAll();
+  KeyWith(VK_CONTROL, 'V');
+  EXPECT_NE(Spin->Text(), "3");
+  Key(VK_TAB);
+  EXPECT_EQ(Spin->Text(), "3");
 }
 
 TEST_F(SpinEdit, KeysStep) {
@@ -103,9 +167,9 @@ TEST_F(SpinEdit, AReadOnlyOneBeepsAtArrowsAndButtonAndIgnoresPageKeys) {
 
 TEST_F(SpinEdit, WhatIsTypedIsKeptWithinTheBoundsWhenTheFocusLeaves) {
   const std::tuple<const char*, const char*, int> cases[] = {
-      {"500", "100", 100}, {"-5", "0", 0},    {"42", "42", 42},
-      {"", "0", 0},        {"+7", "+7", 7},   {"+-", "+-", 0},
-      {"12a", "12a", 0},   {"$1F", "$1F", 0}, {"99999999999", "99999999999", 0},
+      {"500", "100", 100},     {"-5", "0", 0}, {"42", "42", 42},   {"", "0", 0},
+      {"+7", "+7", 7},         {"+-", "0", 0}, {"12a", "0", 0},    {"$1F", "0", 0},
+      {"99999999999", "0", 0}, {"5-", "0", 0}, {"1\r\n2", "0", 0}, {"7\t", "0", 0},
   };
   for (const auto& [text, left, value] : cases) {
     Spin->SetFocus();
@@ -191,6 +255,33 @@ TEST_F(SpinEdit, TheButtonStepsOnReleaseAndLeavesTheFocusAlone) {
   EXPECT_EQ(Spin->GetValue(), 9);
   testinput::LeftUp();
   EXPECT_NE(Spin->GetValue(), 9);
+}
+
+TEST_F(SpinEdit, TheMenuComesUpForTheTextAndNotForTheButton) {
+  vcl::TPopupMenu menu(nullptr);
+  auto* item = new vcl::TMenuItem(&menu);
+  item->SetCaption("Item");
+  menu.Items()->Add(item);
+  int popups = 0;
+  menu.OnPopup = [&](vcl::TObject*) {
+    ++popups;
+    testinput::SendKey(VK_ESCAPE, true);
+    testinput::SendKey(VK_ESCAPE, false);
+  };
+  Spin->SetPopupMenu(&menu);
+  Form.SetPopupMenu(&menu);
+  const auto rightClick = [](vcl::TPoint at) {
+    testinput::MoveMouse(at);
+    testinput::RightDown();
+    testinput::RightUp();
+    testinput::Pump();
+  };
+  rightClick(testinput::MiddleOf(Spin->Button()));
+  EXPECT_EQ(popups, 0);
+  EXPECT_EQ(Spin->GetValue(), 1) << "the release counts as a click of the upper half";
+  rightClick(Spin->ClientToScreen({30, 8}));
+  EXPECT_EQ(popups, 1);
+  Form.SetPopupMenu(nullptr);
 }
 
 TEST_F(SpinEdit, IsDisabledWithItsButton) {
