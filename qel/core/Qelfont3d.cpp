@@ -78,7 +78,9 @@ class TTextLayers {
     RECT box;
     if (!::GetClipBox(FDC, &box)) return {0, copies};
     RECT size = FRect;
-    ::DrawTextExW(FDC, FText.data(), -1, &size, FFlags | DT_CALCRECT, nullptr);
+    // A text that is not at the top is measured with the rectangle's room above it.
+    const unsigned atTop = FFlags & ~unsigned{DT_VCENTER | DT_BOTTOM};
+    ::DrawTextExW(FDC, FText.data(), -1, &size, atTop | DT_CALCRECT, nullptr);
     const std::int64_t width = std::int64_t{size.right} - size.left;
     const std::int64_t height = std::int64_t{size.bottom} - size.top;
     const bool line = FFlags & DT_SINGLELINE;

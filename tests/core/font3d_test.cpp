@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <cstring>
+#include <limits>
 
 #include "qel/qel.h"
 #include "tests/support/importpatch.h"
@@ -169,6 +170,34 @@ TEST(Font3DWrite, TrailsOfAnyLengthTakeNoTime) {
       const auto few = write(1000);
       EXPECT_EQ(std::memcmp(few->Bits(), write(1001)->Bits(), few->Bytes()), 0) << flags;
       EXPECT_EQ(std::memcmp(few->Bits(), write(50'000'000)->Bits(), few->Bytes()), 0) << flags;
+    }
+  }
+}
+
+int copiesDrawn = 0;
+
+/// In a control the rectangle stays what it is and the copies turn it inside out.
+TEST(Font3DWrite, TrailsThatBeginFarBeyondAControlTakeNoTime) {
+  const TImportPatch patch(
+      "qel.dll", "DrawTextExW",
+      +[](HDC dc, wchar_t* text, int length, RECT* rect, UINT flags, DRAWTEXTPARAMS* parameters)
+           WINAPI -> int {
+        copiesDrawn += !(flags & DT_CALCRECT);
+        if (copiesDrawn > 10'000) return 1;
+        return ::DrawTextExW(dc, text, length, rect, flags, parameters);
+      });
+  const plain::TDib dib(Width, Height);
+  vcl::TFont font;
+  TQELFont3D font3D;
+  for (const qel::TQELRepeat repeat : {qel::repeatOnShadow, qel::repeatOnHighLight}) {
+    for (const unsigned flags : {0x8025u, 0x15u, 0x25u, 0x0u, 0x2Au}) {
+      for (const int copies : {100'000'000, std::numeric_limits<int>::max()}) {
+        font3D.SetRepetition(repeat);
+        font3D.SetRepetitionwidth(copies);
+        copiesDrawn = 0;
+        font3D.Write(&font, dib.DC(), Area, "50 %", flags, true);
+        EXPECT_LT(copiesDrawn, 2000) << flags << ", " << copies;
+      }
     }
   }
 }
