@@ -5,6 +5,7 @@
 #include <cstring>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "bench/timing.h"
@@ -61,6 +62,10 @@ void Touch(TQELGradient& gradient) {
 
 void Render(TQELGradient& gradient, HDC dc, int width, int height) {
   gradient.MultiDraw(dc, width, height, nullptr, vcl::clBtnFace, true);
+}
+
+void DrawTexture(TQELTexture& texture, HDC dc, int width, int height) {
+  texture.Draw(dc, width, height, vcl::clBtnFace);
 }
 
 void SystemGradient(HDC dc, int width, int height, ULONG mode) {
@@ -149,12 +154,9 @@ void MeasureRepaint() {
   row("Gradient", gradient, Render);
   TQELTexture texture;
   texture.SetImage(Tile().get());
-  const auto draw = [](TQELTexture& t, HDC dc, int width, int height) {
-    t.Draw(dc, width, height, vcl::clBtnFace);
-  };
-  row("Texture, tiled", texture, draw);
+  row("Texture, tiled", texture, DrawTexture);
   texture.SetImageStyle(qel::isStretched);
-  row("Texture, stretched", texture, draw);
+  row("Texture, stretched", texture, DrawTexture);
 }
 
 void MeasureTiling() {
@@ -173,6 +175,57 @@ void MeasureTiling() {
                   },
                   [&] { std::memcpy(dest.Bits(), source.Bits(), dest.Bytes()); });
             }));
+}
+
+constexpr int Clients = 50;
+
+/// The sizes of controls of which no two are the same.
+TSize ClientSize(int client) { return {60 + 2 * client, 20 + client}; }
+
+/// Paints each of the sizes once, with the settings that the call gives for it.
+template <class SettingsOf, class Paint>
+void PaintClients(HDC dc, SettingsOf settingsOf, Paint paint) {
+  for (int i = 0; i < Clients; ++i) {
+    const TSize size = ClientSize(i);
+    paint(settingsOf(i), dc, size.Width, size.Height);
+  }
+}
+
+void MeasureManySizes() {
+  TTable table("One background painting 50 sizes in turn, against 50 that keep one picture each",
+               "Both into a bitmap, the same 50 sizes. Aim: at most 1.2.", {"50 sizes"});
+  const auto row = [&](const char* name, auto prepare, auto paint) {
+    const plain::TDib dest(200, 100);
+    using TSettings = std::decay_t<decltype(*prepare())>;
+    std::vector<std::unique_ptr<TSettings>> each(Clients);
+    for (auto& settings : each) settings = prepare();
+    const auto shared = prepare();
+    table.Add(name, {Compare(
+                        [&] {
+                          PaintClients(
+                              dest.DC(), [&](int) -> TSettings& { return *shared; }, paint);
+                        },
+                        [&] {
+                          PaintClients(
+                              dest.DC(), [&](int i) -> TSettings& { return *each[i]; }, paint);
+                        })});
+  };
+  const auto gradient = [] {
+    auto made = std::make_unique<TQELGradient>();
+    made->SetFillStyle(qel::Spectral);
+    return made;
+  };
+  row("Gradient", gradient, Render);
+  const auto texture = [](qel::TQELImageStyle style) {
+    auto made = std::make_unique<TQELTexture>();
+    made->SetImage(Tile().get());
+    made->SetImageStyle(style);
+    return made;
+  };
+  row(
+      "Texture, tiled", [&] { return texture(qel::isTile); }, DrawTexture);
+  row(
+      "Texture, stretched", [&] { return texture(qel::isStretched); }, DrawTexture);
 }
 
 struct THandles {
@@ -210,6 +263,7 @@ void Backgrounds() {
   MeasureAgainstGradientFill();
   MeasureAgainstPlainCalls();
   MeasureRepaint();
+  MeasureManySizes();
   MeasureTiling();
   MeasureHandles();
 }

@@ -2,6 +2,7 @@
 // paint themselves on; TQELGradient, TQELTexture and TQELBrushFill, its settings.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -130,9 +131,9 @@ class QEL_API TQELTexture : public vcl::TGraphicsObject {
   void SetTransparentBackground(vcl::TColor color);
 
   /// Paints the area from (0, 0) with the picture; nothing when there is none. Tiles at the right
-  /// and bottom edges are painted whole, beyond the area too where the context shows it; around a
-  /// centred picture nothing is painted. `color` becomes the context's background colour where the
-  /// picture is centred.
+  /// and bottom edges are painted whole, beyond the area too where the context shows it, and the
+  /// area may be as large as an int says; around a centred picture nothing is painted. `color`
+  /// becomes the context's background colour where the picture is centred.
   void Draw(HDC dc, int width, int height, vcl::TColor color);
 
  protected:
@@ -143,6 +144,7 @@ class QEL_API TQELTexture : public vcl::TGraphicsObject {
   void DrawCentered(HDC dc, int width, int height, vcl::TColor color);
   void DrawStretched(HDC dc, int width, int height);
   const TSurface& Source();
+  const TSurface& PictureOfTiles(std::int64_t width, std::int64_t height);
   std::vector<int> Key(int width, int height, int mode) const;
 
   std::unique_ptr<vcl::TBitmap> FImage;

@@ -1,6 +1,8 @@
 // TQELTexture.
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <limits>
 
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/private/picturecache.h"
@@ -23,6 +25,23 @@ void Repeat(TPixel* pixels, std::size_t have, std::size_t all) {
     have += more;
   }
 }
+
+/// A row of tiles, or a column.
+struct TTiles {
+  std::int64_t First;  ///< The number of the first one, from 0.
+  std::int64_t Count;
+
+  /// Those of them that touch what is seen, from the one pixel to before the other.
+  TTiles Seen(std::int64_t from, std::int64_t to, int tile) const {
+    const std::int64_t first = std::max<std::int64_t>(from, 0) / tile;
+    const std::int64_t end = std::min(Count, (std::max<std::int64_t>(to, 0) + tile - 1) / tile);
+    return {first, std::max<std::int64_t>(end - first, 0)};
+  }
+};
+
+/// The tiles that an extent has: those that begin before its end, and one there when they fit it
+/// exactly.
+TTiles TilesOf(int extent, int tile) { return {0, std::int64_t{extent} / tile + 1}; }
 
 /// Copies the tile over the whole surface, whose size is a multiple of the tile's.
 void TileSurface(const TSurface& tile, TSurface& surface) {
@@ -130,16 +149,29 @@ std::vector<int> TQELTexture::Key(int width, int height, int mode) const {
 void TQELTexture::DrawTiled(HDC dc, int width, int height) {
   const int tileWidth = FImage->Width();
   const int tileHeight = FImage->Height();
-  const int allWidth = (width / tileWidth + 1) * tileWidth;
-  const int allHeight = (height / tileHeight + 1) * tileHeight;
-  if (allWidth == tileWidth && allHeight == tileHeight) {
-    Source().CopyTo(dc, 0, 0);
-    return;
+  TTiles columns = TilesOf(width, tileWidth);
+  TTiles rows = TilesOf(height, tileHeight);
+  if (!TPictureCache::Fits(columns.Count * tileWidth, rows.Count * tileHeight)) {
+    // The whole would be too large: of such an area only what is seen is painted.
+    RECT seen{};
+    if (::GetClipBox(dc, &seen) != ERROR) {
+      columns = columns.Seen(seen.left, seen.right, tileWidth);
+      rows = rows.Seen(seen.top, seen.bottom, tileHeight);
+    }
   }
-  FPictures
-      ->Get(Key(allWidth, allHeight, 0), allWidth, allHeight,
-            [&](TSurface& surface) { TileSurface(Source(), surface); })
-      .CopyTo(dc, 0, 0);
+  if (columns.Count == 0 || rows.Count == 0) return;
+  PictureOfTiles(columns.Count * tileWidth, rows.Count * tileHeight)
+      .CopyTo(dc, static_cast<int>(columns.First * tileWidth),
+              static_cast<int>(rows.First * tileHeight));
+}
+
+const TSurface& TQELTexture::PictureOfTiles(std::int64_t width, std::int64_t height) {
+  if (width == FImage->Width() && height == FImage->Height()) return Source();
+  constexpr auto limit = std::int64_t{std::numeric_limits<int>::max()};
+  const int allWidth = static_cast<int>(std::min(width, limit));
+  const int allHeight = static_cast<int>(std::min(height, limit));
+  return FPictures->Get(Key(allWidth, allHeight, 0), allWidth, allHeight,
+                        [&](TSurface& surface) { TileSurface(Source(), surface); });
 }
 
 void TQELTexture::DrawCentered(HDC dc, int width, int height, TColor color) {

@@ -1,5 +1,8 @@
 // The background component: its clients, and its fills save the gradients' pixels.
+#include <limits>
+
 #include "qel/qel.h"
+#include "tests/support/importpatch.h"
 #include "tests/support/kepthandles.h"
 #include "tests/support/plainfill.h"
 
@@ -242,6 +245,28 @@ TEST_F(Texture, TilesCoverTheAreaWhole) {
   }
 }
 
+/// No picture of such an area could be kept; what is seen of it is painted all the same.
+TEST_F(Texture, TilesOfAnEndlessAreaAreThoseThatAreSeen) {
+  Back.Texture()->SetImage(Picture(7, 5).get());
+  for (const int size : {100'000, std::numeric_limits<int>::max()}) {
+    for (const auto& [left, top] : {std::pair(0, 0), std::pair(40'001, 30'002)}) {
+      const TArea area(40, 30);
+      ::SetViewportOrgEx(area.DC(), -left, -top, nullptr);
+      ::IntersectClipRect(area.DC(), left, top, left + 33, top + 30);
+      Back.Draw(area.DC(), size, size, true);
+      for (int y = 0; y < 30; ++y) {
+        for (int x = 0; x < 40; ++x) {
+          ASSERT_EQ(area.Pixel(x, y),
+                    x < 33 ? PicturePixel((left + x) % 7, (top + y) % 5) : GroundPixel)
+              << size << " from " << left << " at " << x << ", " << y;
+        }
+      }
+      ::IntersectClipRect(area.DC(), left - 9, top - 9, left - 8, top - 8);
+      Back.Draw(area.DC(), size, size, true);  // Nothing of it is seen.
+    }
+  }
+}
+
 TEST_F(Texture, ACentredPictureLeavesTheRest) {
   const std::tuple<int, int, int, int> cases[] = {
       {20, 16, 6, 5}, {7, 5, 0, 0}, {3, 14, 0, 4}, {8, 6, 0, 0}, {9, 7, 1, 1}};
@@ -403,6 +428,33 @@ TEST_F(LettersOfBackground, AreOfItsColorWhereItPaintsNothing) {
   Write(area, {10, 20, 110, 100});
   EXPECT_EQ(area.Pixel(60, 40), PixelOf(vcl::clAqua));
   Write(area, {50, 50, 50, 90});  // An empty rectangle has no letters.
+}
+
+int stretched = 0;
+
+TEST(BackgroundPictures, AreKeptForFiftySizesAndNotForAnyNumber) {
+  const TImportPatch patch(
+      "qel.dll", "StretchBlt",
+      +[](HDC, int, int, int, int, HDC, int, int, int, int, DWORD)
+           WINAPI -> BOOL { return ++stretched, TRUE; });
+  qel::TQELTexture texture;
+  texture.SetImage(Picture(5, 5).get());
+  texture.SetImageStyle(qel::isStretched);
+  const TArea area(1, 1);
+  const auto draw = [&](int sizes) {
+    stretched = 0;
+    for (int i = 0; i < sizes; ++i) texture.Draw(area.DC(), 60 + i, 20, vcl::clBtnFace);
+    return stretched;
+  };
+  EXPECT_EQ(draw(50), 50);
+  EXPECT_EQ(draw(50), 0);
+  texture.SetTransparentBackground(vcl::clRed);
+  EXPECT_EQ(draw(50), 50);
+  EXPECT_EQ(draw(50), 0);
+  // Small pictures take little memory, but each a bitmap and a context of the system's.
+  const int before = handles::GdiObjects();
+  draw(3000);
+  EXPECT_LT(handles::GdiObjects() - before, 1000);
 }
 
 TEST(BackgroundHandles, AreAsManyAfterManyRepaints) {
