@@ -66,6 +66,8 @@ function(qel_add_library name)
     target_link_libraries(${name} PRIVATE ${arg_NATIVE_LIBRARIES})
   endif()
   if(MINGW)
+    # A fault in a handler is raised as an exception, which its code must be compiled for.
+    target_compile_options(${name} PUBLIC -fnon-call-exceptions)
     # Only what is marked is exported, even while nothing is marked yet.
     target_link_options(${name} PRIVATE -Wl,--exclude-all-symbols)
   endif()

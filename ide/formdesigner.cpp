@@ -160,7 +160,8 @@ bool TFormDesigner::MethodExists(const std::string& name) const {
 }
 
 void TFormDesigner::CheckMethodName(const std::string& name) const {
-  if (!IsValidIdent(name)) throw EComponentError(Concat("'", name, "' is no name for a handler"));
+  if (!IsValidIdent(name))
+    throw EComponentError(Concat("'", Shown(name), "' is no name for a handler"));
   if (MethodExists(name) || IsNameTaken(name)) {
     throw EComponentError(Concat("The name ", name, " is taken"));
   }

@@ -80,7 +80,7 @@ void TQELThread::DoTimer() {
   try {
     timer->Timer();
   } catch (...) {
-    vcl::BaseApplication().HandleCurrentException(watch.Gone() ? nullptr : timer);
+    vcl::BaseApplication().HandleTimerException(watch.Gone() ? nullptr : timer);
   }
 }
 

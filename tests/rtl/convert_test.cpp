@@ -66,6 +66,13 @@ TEST(Convert, WritesAndReadsTheRest) {
   EXPECT_EQ(StrToBool(BoolToStr(false)), false);
 }
 
+TEST(Convert, CutsLongValuesInItsMessages) {
+  const std::string text = "a" + std::string(99, 'b') + std::string(100'000, 'c');
+  EXPECT_THAT([&] { StrToInt(text); },
+              testing::ThrowsMessage<EConvertError>("'a" + std::string(99, 'b') +
+                                                    "...' is not a valid integer"));
+}
+
 TEST(Colors, HaveNamesOrNumbers) {
   EXPECT_EQ(ColorToString(clBtnFace), "clBtnFace");
   EXPECT_EQ(ColorToString(clLtGray), "clSilver");
@@ -75,8 +82,10 @@ TEST(Colors, HaveNamesOrNumbers) {
   EXPECT_EQ(StringToColor("$FF00000F"), clBtnFace);
   EXPECT_EQ(StringToColor("255"), clRed);
   // The system's indexes, from the documentation of GetSysColor.
-  EXPECT_EQ(static_cast<std::uint32_t>(clBtnFace), 0xFF00000Fu);
-  EXPECT_EQ(static_cast<std::uint32_t>(clInfoBk), 0xFF000018u);
+  EXPECT_EQ(static_cast<std::uint32_t>(clBackground), 0x80000001u);
+  EXPECT_EQ(static_cast<std::uint32_t>(clBtnFace), 0x8000000Fu);
+  EXPECT_EQ(static_cast<std::uint32_t>(clInfoBk), 0x80000018u);
+  EXPECT_EQ(StringToColor("$8000000F"), clBtnFace);
 }
 
 TEST(Colors, AreEachNamedOnce) {

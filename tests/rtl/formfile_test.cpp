@@ -152,6 +152,14 @@ TEST_F(FormFile, HoldsOnlyWhatDiffersFromTheDefault) {
   EXPECT_EQ(stream.DataString(), "object TForm1\n  Style.Color = clBlack\nend\n");
 }
 
+TEST_F(FormFile, KnowsSystemColoursByEitherNumber) {
+  for (const char* number : {"-2147483633", "$8000000F", "-16777201", "$FF00000F", "clBtnFace"}) {
+    const auto part = LoadForm(Concat("object P: TPart Color = ", number, " end"));
+    EXPECT_EQ(dynamic_cast<TPart&>(*part).Color(), clBtnFace) << number;
+    EXPECT_THAT(FormText(part.get()), Not(HasSubstr("  Color"))) << number << " is the default";
+  }
+}
+
 TEST_F(FormFile, AcceptsOtherSpellings) {
   const std::pair<const char*, const char*> cases[] = {
       {"Count=$1f", "Count = 31"},

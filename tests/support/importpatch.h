@@ -41,16 +41,25 @@ class TImportPatch {
  public:
   template <class R, class... A>
   TImportPatch(const char* module, const char* function, R(WINAPI* replacement)(A...))
-      : FSlot(FindSlot(::GetModuleHandleA(module), function)) {
-    if (!FSlot) throw std::runtime_error(std::string(module) + " does not import " + function);
-    FFormer = *FSlot;
-    Write(reinterpret_cast<std::uintptr_t>(replacement));
-  }
+      : TImportPatch(module, function, reinterpret_cast<std::uintptr_t>(replacement)) {}
+#ifndef _WIN64
+  /// The same for a function of the compiler's own convention; there is only one in 64 bits.
+  template <class R, class... A>
+  TImportPatch(const char* module, const char* function, R (*replacement)(A...))
+      : TImportPatch(module, function, reinterpret_cast<std::uintptr_t>(replacement)) {}
+#endif
   ~TImportPatch() { Write(FFormer); }
   TImportPatch(const TImportPatch&) = delete;
   TImportPatch& operator=(const TImportPatch&) = delete;
 
  private:
+  TImportPatch(const char* module, const char* function, std::uintptr_t replacement)
+      : FSlot(FindSlot(::GetModuleHandleA(module), function)) {
+    if (!FSlot) throw std::runtime_error(std::string(module) + " does not import " + function);
+    FFormer = *FSlot;
+    Write(replacement);
+  }
+
   static std::uintptr_t* FindSlot(HMODULE module, const char* function) {
     std::uintptr_t* found = nullptr;
     FindImport(module, [&](const char* name, std::uintptr_t* slot) {

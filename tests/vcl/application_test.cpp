@@ -6,6 +6,7 @@
 
 #include "tests/vcl/testinput.h"
 #include "vcl/controls/windowtext.h"
+#include "vcl/rtl/text.h"
 
 #include "vcl/rtl/win32.h"
 
@@ -142,6 +143,74 @@ TEST(Screen, EveryPointerHasAHandle) {
   Screen()->SetCursors(own, ::CopyIcon(::LoadCursorA(nullptr, IDC_CROSS)));
   EXPECT_NE(Screen()->Cursors(own), Screen()->Cursors(crArrow));
   Screen()->SetCursors(own, nullptr);
+}
+
+/// What the handler's fault is told as.
+template <class Handler>
+std::string ToldOf(Handler handler) {
+  std::string told;
+  Application()->Initialize();
+  Application()->OnException = [&](TObject*, const std::exception& error) {
+    told = Concat(typeid(error) == typeid(EDivByZero) ? "EDivByZero: " : "", error.what());
+  };
+  TForm form(nullptr);
+  form.OnClick = [&](TObject*) { handler(); };
+  for (UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) ::SendMessageW(form.Handle(), message, 0, 0);
+  Application()->OnException = nullptr;
+  return told;
+}
+
+TEST(Faults, OfHandlersAreToldWithTheirPlace) {
+  const std::string here = "test_vcl.exe+";
+  int* volatile nowhere = nullptr;
+  EXPECT_THAT(ToldOf([&] { *nowhere = 1; }),
+              testing::AllOf(testing::HasSubstr("Access violation at "), testing::HasSubstr(here),
+                             testing::HasSubstr("write to address 0000000")));
+  volatile int zero = 0;
+  volatile int sink = 0;
+  EXPECT_THAT(ToldOf([&] { sink = 7 / zero; }),
+              testing::AllOf(testing::StartsWith("EDivByZero: Division by zero at "),
+                             testing::HasSubstr(here)));
+  void (*volatile nobody)() = nullptr;
+  EXPECT_THAT(ToldOf([&] { nobody(); }), testing::HasSubstr("run code at address 0000000"));
+  const TEdit* volatile edit = nullptr;
+  EXPECT_THAT(ToldOf([&] { sink = edit->Left(); }), testing::HasSubstr("Access violation at "));
+}
+
+void FaultInsideTheSystem() {
+  Application()->Initialize();
+  TBoxAnswer box(IDOK, 1, [&box] {
+    std::fprintf(stderr, "told: %s", box.Text().c_str());
+    return true;
+  });
+  const auto length = reinterpret_cast<std::size_t(__cdecl*)(const char*)>(
+      reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleA("msvcrt"), "strlen")));
+  length(nullptr);
+}
+
+TEST(FaultsDeathTest, OfTheSystemAreToldBeforeTheEnd) {
+  EXPECT_EXIT(FaultInsideTheSystem(),
+              ::testing::ExitedWithCode(static_cast<int>(EXCEPTION_ACCESS_VIOLATION)),
+              "told: Access violation at .*msvcrt.dll.*The program can't go on");
+}
+
+TEST(Timers, TellFaultsOfTheProgramOnceAndErrorsAtEveryTick) {
+  int told = 0;
+  Application()->OnException = [&](TObject*, const std::exception&) { ++told; };
+  TTimer timer(nullptr);
+  int ticks = 0;
+  bool known = false;
+  timer.OnTimer = [&](TObject*) {
+    ++ticks;
+    if (known) throw Exception("known");
+    throw 5;
+  };
+  timer.SetInterval(10);
+  EXPECT_TRUE(PumpUntil([&] { return ticks >= 4; }));
+  EXPECT_EQ(told, 1);
+  known = true;
+  EXPECT_TRUE(PumpUntil([&] { return told >= 3; }));
+  Application()->OnException = nullptr;
 }
 
 TEST(ApplicationDeathTest, AnErrorThatNobodyCatchesIsToldAndEndsTheProgram) {

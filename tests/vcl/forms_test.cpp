@@ -456,6 +456,76 @@ TEST(ResourceForms, AreMadeCreatedShownAndDestroyedWhole) {
   EXPECT_EQ(resourceLog, (TLog{"create Item", "show", "destroy Item"}));
 }
 
+/// Its class forgets that it has a table.
+class TUndescribedForm : public TForm {
+ public:
+  explicit TUndescribedForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+  static const TClass& Class() {
+    static const TClass info =
+        Describe<TUndescribedForm, TForm>("TUndescribedForm", "forms_test", {});
+    return info;
+  }
+};
+
+namespace lacking {
+
+/// Lists a component that its form file does not have.
+class TResourceForm : public TForm {
+ public:
+  explicit TResourceForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+  static const TClass& Class() {
+    static const TClass info =
+        Describe<TResourceForm, TForm>("lacking::TResourceForm", "forms_test",
+                                       {
+                                           Field<&TResourceForm::Item1>("Item1"),
+                                           Field<&TResourceForm::Item7>("Item7"),
+                                           Method<&TResourceForm::Ignore>("FormCreate"),
+                                           Method<&TResourceForm::Ignore>("FormDestroy"),
+                                           Method<&TResourceForm::Ignore>("FormShow"),
+                                       });
+    return info;
+  }
+  const TClass& ClassType() const override { return Class(); }
+  void Ignore(TObject*) {}
+  TMenuItem* Item1 = nullptr;
+  TMenuItem* Item7 = nullptr;
+};
+
+}  // namespace lacking
+
+namespace hiding {
+
+class TResourceForm : public TForm {
+ public:
+  explicit TResourceForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+  static const TClass& Class() {
+    static const TClass info = Describe<TResourceForm, TForm>(
+        "hiding::TResourceForm", "forms_test", {Field<&TResourceForm::Caption>("Caption")});
+    return info;
+  }
+  const TClass& ClassType() const override { return Class(); }
+  TMenuItem* Caption = nullptr;
+};
+
+}  // namespace hiding
+
+TEST(ResourceForms, TellWhatTheirClassLacks) {
+  RegisterStandardClasses();
+  const int count = Screen()->FormCount();
+  EXPECT_THAT([] { TUndescribedForm form(nullptr); },
+              testing::ThrowsMessage<EInvalidOperation>(
+                  testing::AllOf(testing::HasSubstr("TUndescribedForm has no ClassType"),
+                                 testing::HasSubstr("vcl::TForm"))));
+  EXPECT_THAT([] { lacking::TResourceForm form(nullptr); },
+              testing::ThrowsMessage<EReadError>(
+                  "The form file of lacking::TResourceForm holds no component for the field Item7: "
+                  "vcl::TMenuItem"));
+  EXPECT_THAT([] { hiding::TResourceForm form(nullptr); },
+              testing::ThrowsMessage<EPropertyError>(
+                  "The field Caption of hiding::TResourceForm hides its property Caption"));
+  EXPECT_EQ(Screen()->FormCount(), count);
+}
+
 class TLostForm : public TForm {
  public:
   explicit TLostForm(TComponent* owner) : TForm(owner) { LoadForm(); }

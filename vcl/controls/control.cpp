@@ -106,10 +106,11 @@ void TControl::SetParent(TWinControl* parent) {
 
 void TControl::FollowParent() {
   if (!FParent || FControlState.Has(csReadingState)) return;
-  Notify(CM_PARENTSHOWHINTCHANGED);
-  Notify(CM_PARENTCOLORCHANGED);
-  Notify(CM_PARENTFONTCHANGED);
-  Notify(CM_PARENTCTL3DCHANGED);
+  const TWatch watch(this);
+  for (const UINT notice : {CM_PARENTSHOWHINTCHANGED, CM_PARENTCOLORCHANGED, CM_PARENTFONTCHANGED,
+                            CM_PARENTCTL3DCHANGED}) {
+    if (!watch.Gone()) Notify(notice);
+  }
 }
 
 TCustomForm* TControl::ParentForm() const {
@@ -362,7 +363,7 @@ void TControl::ReadState(TReader& reader) {
 
 void TControl::Loaded() {
   TComponent::Loaded();
-  RequestAlign();
+  if (FAlign != alNone) RequestAlign();
 }
 
 }  // namespace vcl

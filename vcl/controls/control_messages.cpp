@@ -6,6 +6,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/drag.h"
 #include "vcl/menus/menus.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
@@ -150,20 +151,24 @@ void TControl::MouseUp(TMouseButton button, TShiftState shift, int x, int y) {
 
 void TControl::DispatchNotice(TMessage& message) {
   switch (message.Msg) {
+    // The setters say that the value is the control's own, which is not so here.
     case CM_PARENTFONTCHANGED:
-      if (!FParentFont || !FParent) return;
-      SetFont(FParent->Font());
-      FParentFont = true;
+      if (FParentFont && FParent) {
+        const TAtEnd follows([this] { FParentFont = true; }, this);
+        SetFont(FParent->Font());
+      }
       return;
     case CM_PARENTCOLORCHANGED:
-      if (!FParentColor || !FParent) return;
-      SetColor(FParent->Color());
-      FParentColor = true;
+      if (FParentColor && FParent) {
+        const TAtEnd follows([this] { FParentColor = true; }, this);
+        SetColor(FParent->Color());
+      }
       return;
     case CM_PARENTSHOWHINTCHANGED:
-      if (!FParentShowHint || !FParent) return;
-      SetShowHint(FParent->ShowHint());
-      FParentShowHint = true;
+      if (FParentShowHint && FParent) {
+        const TAtEnd follows([this] { FParentShowHint = true; }, this);
+        SetShowHint(FParent->ShowHint());
+      }
       return;
     case CM_VISIBLECHANGED:
       // What a control that vanishes leaves behind has to be painted.

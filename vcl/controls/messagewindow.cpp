@@ -21,7 +21,8 @@ LRESULT CALLBACK PassOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
   try {
     (*method)(record);
   } catch (...) {
-    Application()->HandleCurrentException(nullptr);
+    message == WM_TIMER ? Application()->HandleTimerException(nullptr)
+                        : Application()->HandleCurrentException(nullptr);
   }
   return record.Result;
 }

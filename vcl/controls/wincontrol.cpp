@@ -80,14 +80,14 @@ namespace {
 bool HasWindow(const TControl* control) {
   return dynamic_cast<const TWinControl*>(control) != nullptr;
 }
+bool HasNoWindow(const TControl* control) { return !HasWindow(control); }
 
 }  // namespace
 
 void TWinControl::Insert(TControl* control) {
   // Controls without windows come first: the windows always lie above them.
-  const auto place = HasWindow(control)
-                         ? FControls.end()
-                         : std::find_if(FControls.begin(), FControls.end(), HasWindow);
+  const auto place =
+      HasWindow(control) ? FControls.end() : std::ranges::partition_point(FControls, HasNoWindow);
   FControls.insert(place, control);
   control->FParent = this;
   if (auto* winControl = dynamic_cast<TWinControl*>(control)) {
@@ -116,7 +116,7 @@ void TWinControl::Remove(TControl* control) {
 void TWinControl::MoveInZOrder(TControl* control, bool topmost) {
   const bool windowed = HasWindow(control);
   std::erase(FControls, control);
-  const auto firstWindow = std::find_if(FControls.begin(), FControls.end(), HasWindow);
+  const auto firstWindow = std::ranges::partition_point(FControls, HasNoWindow);
   const auto place = windowed ? (topmost ? FControls.end() : firstWindow)
                               : (topmost ? firstWindow : FControls.begin());
   FControls.insert(place, control);

@@ -212,6 +212,7 @@ class VCL_API TWinControl : public TControl {
   void MoveInTabList(int place);
   bool HasGraphicChildren() const;
   void PaintDoubleBuffered();
+  bool VisitControls(const std::function<bool(TControl*)>& each);
   void Broadcast(UINT notice);
   void PassToChildren(TMessage& message);
   void GiveUpFocus();

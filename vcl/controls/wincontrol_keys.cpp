@@ -198,7 +198,7 @@ bool TWinControl::PreprocessKey(MSG& message) {
   TCustomForm* form = ParentForm();
   if (form && form->Menu() && form->Menu()->IsShortCut(message)) return true;
   if (watch.Gone()) return true;
-  for (TControl* each = Parent(); each; each = each->Parent()) {
+  for (TControl* each = Parent(); each; each = watch.Gone() ? nullptr : each->Parent()) {
     if (each->Perform(CM_CHILDKEY, message.wParam, reinterpret_cast<LPARAM>(this))) return true;
   }
   return !watch.Gone() && OfferSpecialKey(message.wParam, message.lParam);

@@ -7,6 +7,7 @@
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/brush.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
@@ -116,33 +117,42 @@ void TWinControl::DispatchWindow(TMessage& message) {
 
 void TWinControl::DispatchNotice(TMessage& message) {
   switch (message.Msg) {
-    case CM_VISIBLECHANGED:
+    case CM_VISIBLECHANGED: {
+      const TWatch watch(this);
       if (!Visible()) GiveUpFocus();
-      return UpdateControlState();
+      return watch.Gone() ? void() : UpdateControlState();
+    }
     case CM_SHOWINGCHANGED:
       ::SetWindowPos(FHandle, nullptr, 0, 0, 0, 0,
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE |
                          (FShowing ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
       return;
-    case CM_ENABLEDCHANGED:
+    case CM_ENABLEDCHANGED: {
+      const TWatch watch(this);
       if (!FEnabled) GiveUpFocus();
-      if (FHandle && !Designing()) ::EnableWindow(FHandle, FEnabled);
+      if (!watch.Gone() && FHandle && !Designing()) ::EnableWindow(FHandle, FEnabled);
       return;
-    case CM_FONTCHANGED:
+    }
+    case CM_FONTCHANGED: {
+      const TWatch watch(this);
       if (FHandle) {
         ::SendMessageW(FHandle, WM_SETFONT, reinterpret_cast<WPARAM>(Font()->Handle()), TRUE);
       }
-      return Broadcast(CM_PARENTFONTCHANGED);
+      return watch.Gone() ? void() : Broadcast(CM_PARENTFONTCHANGED);
+    }
     case CM_COLORCHANGED: FBrush->SetColor(Color()); return Broadcast(CM_PARENTCOLORCHANGED);
     case CM_SHOWHINTCHANGED: return Broadcast(CM_PARENTSHOWHINTCHANGED);
     case CM_PARENTCTL3DCHANGED:
-      if (!FParentCtl3D || !Parent()) return;
-      SetCtl3D(Parent()->FCtl3D);
-      FParentCtl3D = true;
+      if (FParentCtl3D && Parent()) {
+        const TAtEnd follows([this] { FParentCtl3D = true; }, this);
+        SetCtl3D(Parent()->FCtl3D);
+      }
       return;
-    case CM_CTL3DCHANGED:
+    case CM_CTL3DCHANGED: {
+      const TWatch watch(this);
       if (FSingleBorder) RecreateWnd();
-      return Broadcast(CM_PARENTCTL3DCHANGED);
+      return watch.Gone() ? void() : Broadcast(CM_PARENTCTL3DCHANGED);
+    }
     case CM_CURSORCHANGED: {
       POINT at;
       ::GetCursorPos(&at);
@@ -166,17 +176,33 @@ void TWinControl::GiveUpFocus() {
   if (form && form != this) form->DefocusControl(this);
 }
 
-void TWinControl::PassToChildren(TMessage& message) {
-  TWatch watch(this);
-  for (std::size_t i = 0; i < FControls.size(); ++i) {
-    if (message.Result != 0) return;
-    FControls[i]->WndProc(message);
-    if (watch.Gone()) return;
+/// Calls `each` for the controls inside, bottom first, until it returns false, and leaves out those
+/// that a former call has freed or moved elsewhere. False when this control has gone.
+bool TWinControl::VisitControls(const std::function<bool(TControl*)>& each) {
+  if (FControls.empty()) return true;
+  const std::vector<TControl*> controls = FControls;
+  const std::vector<TWatch> watches(controls.begin(), controls.end());
+  const TWatch watch(this);
+  for (std::size_t i = 0; i < controls.size() && !watch.Gone(); ++i) {
+    if (!watches[i].Gone() && controls[i]->Parent() == this && !each(controls[i])) break;
   }
+  return !watch.Gone();
+}
+
+/// Until one of them has answered.
+void TWinControl::PassToChildren(TMessage& message) {
+  if (message.Result != 0) return;
+  VisitControls([&message](TControl* control) {
+    control->WndProc(message);
+    return message.Result == 0;
+  });
 }
 
 void TWinControl::Broadcast(UINT notice) {
-  for (std::size_t i = 0; i < FControls.size(); ++i) FControls[i]->Perform(notice);
+  VisitControls([notice](TControl* control) {
+    control->Perform(notice);
+    return true;
+  });
 }
 
 bool TWinControl::IsControlMouseMessage(TMessage& message) {

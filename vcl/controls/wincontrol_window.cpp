@@ -145,10 +145,11 @@ void TWinControl::CreateWnd() {
 void TWinControl::DestroyHandle() {
   if (!FHandle) return;
   // The windows inside go first, each by its own way, so that each can save what only it knows.
-  for (TControl* control : FControls) {
+  const bool here = VisitControls([](TControl* control) {
     if (auto* winControl = dynamic_cast<TWinControl*>(control)) winControl->DestroyHandle();
-  }
-  DestroyWnd();
+    return true;
+  });
+  if (here && FHandle) DestroyWnd();
 }
 
 void TWinControl::DestroyWnd() {
@@ -164,9 +165,10 @@ void TWinControl::DestroyWindowHandle() { ::DestroyWindow(FHandle); }
 void TWinControl::RecreateWnd() {
   if (!FHandle) return;
   const bool focused = Focused();
+  const TWatch watch(this);
   DestroyHandle();
-  UpdateControlState();
-  if (focused && FHandle) ::SetFocus(FHandle);
+  if (!watch.Gone()) UpdateControlState();
+  if (!watch.Gone() && focused && FHandle) ::SetFocus(FHandle);
 }
 
 void TWinControl::UpdateControlState() {
@@ -183,9 +185,11 @@ void TWinControl::UpdateShowing() {
   if (show) {
     Handle();
     // Bottom first, as they lie above each other.
-    for (TControl* control : std::vector<TControl*>(FControls)) {
+    const bool here = VisitControls([](TControl* control) {
       if (auto* winControl = dynamic_cast<TWinControl*>(control)) winControl->UpdateShowing();
-    }
+      return true;
+    });
+    if (!here) return;
   }
   if (!FHandle || show == FShowing) return;
   FShowing = show;
@@ -211,7 +215,9 @@ LRESULT CALLBACK TWinControl::StaticWndProc(HWND window, UINT message, WPARAM wP
   try {
     if (!control->TakenByDesigner(record)) control->WndProc(record);
   } catch (...) {
-    Application()->HandleCurrentException(watch.Gone() ? nullptr : control);
+    TControl* const sender = watch.Gone() ? nullptr : control;
+    message == WM_TIMER ? Application()->HandleTimerException(sender)
+                        : Application()->HandleCurrentException(sender);
   }
   if (message == WM_NCDESTROY) {
     Windows().erase(window);

@@ -127,7 +127,7 @@ void TField::Refuse(const TFieldValue& value, const char* kind) const {
                             : whole ? IntToStr(*whole)
                                     : FloatToStr(std::get<double>(value));
   throw EDatabaseError(
-      Concat("'", shown, "' is not a valid ", kind, " value for field '", FFieldName, "'"));
+      Concat("'", Shown(shown), "' is not a valid ", kind, " value for field '", FFieldName, "'"));
 }
 
 std::string TField::TextOf(const TFieldValue& value, bool display) const {
@@ -246,7 +246,7 @@ void TField::CheckPosted() const {
   }
   const auto* text = std::get_if<std::string>(&value);
   if (text && FSize > 0 && value != OldValue() && CharacterCount(*text) > FSize) {
-    throw EDatabaseError(Concat("'", *text, "' is longer than the ", IntToStr(FSize),
+    throw EDatabaseError(Concat("'", Shown(*text), "' is longer than the ", IntToStr(FSize),
                                 " characters of field '", DisplayLabel(), "'"));
   }
 }

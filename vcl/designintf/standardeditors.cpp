@@ -167,7 +167,7 @@ void TShortCutProperty::SetValue(const std::string& text) {
   const bool none = Trim(text).empty() || SameText(Trim(text), NoShortCut);
   const TShortCut shortCut = none ? scNone : TextToShortCut(text);
   if (!none && shortCut == scNone) {
-    throw EConvertError(Concat("'", text, "' is not a shortcut"));
+    throw EConvertError(Concat("'", Shown(text), "' is not a shortcut"));
   }
   SetAll(std::int64_t{shortCut});
 }

@@ -8,6 +8,7 @@
 
 #include "vcl/controls/windowtext.h"
 #include "vcl/forms/forms.h"
+#include "vcl/forms/private/faults.h"
 #include "vcl/forms/private/taskwindows.h"
 #include "vcl/forms/screen.h"
 #include "vcl/rtl/exceptions.h"
@@ -80,6 +81,7 @@ void TApplication::Initialize() {
   ::InitCommonControlsEx(&controls);
   Handle();
   std::set_terminate(&EndByError);
+  CatchFaults();
 }
 
 void TApplication::Notification(TComponent* component, TOperation operation) {

@@ -52,7 +52,8 @@ class VCL_API TApplication : public TCustomApplication {
 
   /// Prepares the process: common controls, icon, title. From now on an exception that leaves
   /// `main` (a form that can't be read, say) goes to HandleException and ends the process with exit
-  /// code 1.
+  /// code 1. A fault of the program's own code raises EAccessViolation or EDivByZero; where nothing
+  /// can be raised, it is told in a box before it ends the process.
   void Initialize();
   /// Makes a form, owned by the application; the first one is the main form.
   ///

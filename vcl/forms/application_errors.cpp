@@ -8,6 +8,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/private/taskwindows.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 
 namespace vcl {
@@ -40,7 +41,11 @@ void TApplication::HandleException(TObject* sender, const std::exception& error)
 // A timer may raise the same error again and again while its box is up: each text waits once.
 void TApplication::ShowException(const std::exception& error) {
   try {
-    const std::string text = Sentence(error.what());
+    // A box of the system's is as large as its text.
+    constexpr std::size_t enough = 2000;
+    const std::string_view told = error.what();
+    const std::string text =
+        told.size() <= enough ? Sentence(std::string(told)) : Concat(CutUtf8(told, enough), "...");
     if (std::find(FWaitingErrors.begin(), FWaitingErrors.end(), text) == FWaitingErrors.end()) {
       FWaitingErrors.push_back(text);
     }

@@ -9,6 +9,7 @@
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/formfile.h"
+#include "vcl/rtl/private/cppname.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/resources.h"
 #include "vcl/rtl/scope.h"
@@ -98,13 +99,41 @@ TCustomForm::~TCustomForm() {
   Screen()->RemoveForm(this);
 }
 
+namespace {
+
+/// A form class without a table would load its ancestor's file. In its constructor a form is of the
+/// class that loads it.
+void CheckHasTable(const TCustomForm& form) {
+  const TClass& known = form.ClassType();
+  if (known.CppType() == typeid(form)) return;
+  throw EInvalidOperation(Concat("The form class ", CppNameOf(typeid(form)),
+                                 " has no ClassType of its own: it would load the form file of ",
+                                 known.CppName()));
+}
+
+/// Code takes it for granted that each field leads to its component.
+void CheckFields(const TCustomForm& form) {
+  for (const TClass* each = &form.ClassType(); each; each = each->Parent()) {
+    for (const TFieldInfo& field : each->OwnFields()) {
+      if (form.FindComponent(field.Name)) continue;
+      throw EReadError(Concat("The form file of ", each->CppName(),
+                              " holds no component for the field ", field.Name, ": ",
+                              field.ClassOf().CppName()));
+    }
+  }
+}
+
+}  // namespace
+
 void TCustomForm::LoadForm(HINSTANCE module) {
   RegisterStandardClasses();
+  CheckHasTable(*this);
   TResourceStream stream(module, UpperCase(ClassName()), MAKEINTRESOURCEA(10));  // RT_RCDATA
   {
     const TSetFor reading(FReadingForm, true, this);
     ReadComponentFile(stream, this, ClassName());
   }
+  CheckFields(*this);
   Created();
 }
 

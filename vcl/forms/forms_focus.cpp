@@ -62,8 +62,9 @@ void TCustomForm::SetActiveControl(TWinControl* control) {
 }
 
 void TCustomForm::FocusControl(TWinControl* control) {
+  const TWatch watch(this);
   SetActiveControl(control == this ? nullptr : control);
-  SetFocus();
+  if (!watch.Gone()) SetFocus();
 }
 
 void TCustomForm::DefocusControl(TWinControl* control) {

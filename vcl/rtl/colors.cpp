@@ -68,8 +68,15 @@ std::string ColorToString(TColor color) {
 TColor StringToColor(std::string_view text) {
   if (const auto named = IdentToColor(text)) return static_cast<TColor>(*named);
   int number = 0;
-  if (TryStrToInt(text, number)) return static_cast<TColor>(number);
-  throw EConvertError(Concat("'", text, "' is not a valid colour"));
+  if (TryStrToInt(text, number)) return ColorOfNumber(number);
+  throw EConvertError(Concat("'", Shown(text), "' is not a valid colour"));
+}
+
+TColor ColorOfNumber(std::int32_t number) {
+  const auto bits = static_cast<std::uint32_t>(number);
+  constexpr std::uint32_t aboveIndex = 0xFFFFFF00;
+  const bool otherNumber = (bits & aboveIndex) == 0xFF000000;
+  return static_cast<TColor>(otherNumber ? 0x80000000 | (bits & ~aboveIndex) : bits);
 }
 
 void GetColorValues(const std::function<void(const std::string&)>& each) {

@@ -12,7 +12,7 @@
 
 namespace vcl {
 
-/// A colour: 0x00BBGGRR, or 0xFF000000 + n for the system colour of index n (GetSysColor), or
+/// A colour: 0x00BBGGRR, or 0x80000000 + n for the system colour of index n (GetSysColor), or
 /// clNone.
 enum TColor : std::int32_t {
   clBlack = 0x000000,
@@ -36,7 +36,7 @@ enum TColor : std::int32_t {
   clNone = 0x1FFFFFFF,
   clDefault = 0x20000000,
 
-  clScrollBar = static_cast<std::int32_t>(0xFF000000),
+  clScrollBar = static_cast<std::int32_t>(0x80000000),
   clBackground,
   clActiveCaption,
   clInactiveCaption,
@@ -72,6 +72,9 @@ VCL_API std::string ColorToString(TColor color);
 /// The colour that a name or a number says: decimal, or hexadecimal behind "$" or "0x". Raises
 /// EConvertError, with the text, for anything else.
 VCL_API TColor StringToColor(std::string_view text);
+/// The colour of a number from outside, such as a form file's: of the two numbers that system
+/// colours are known by, 0xFF000000 + n becomes 0x80000000 + n, so that equal colours are equal.
+VCL_API TColor ColorOfNumber(std::int32_t number);
 /// Calls `each` for every colour that has a name, in the order of the palette.
 VCL_API void GetColorValues(const std::function<void(const std::string&)>& each);
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <unordered_map>
 
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/filer.h"
@@ -25,6 +26,22 @@ const TClass& TComponent::Class() {
       });
   return info;
 }
+
+/// The owned components that have names, by those in capitals.
+struct TComponent::TNames {
+  explicit TNames(const std::vector<TComponent*>& components) {
+    for (TComponent* each : components) Add(each);
+  }
+  void Add(TComponent* component) {
+    if (!component->Name().empty()) ByName.emplace(UpperCase(component->Name()), component);
+  }
+  void Remove(const TComponent* component) {
+    const auto found = ByName.find(UpperCase(component->Name()));
+    if (found != ByName.end() && found->second == component) ByName.erase(found);
+  }
+
+  std::unordered_map<std::string, TComponent*> ByName;
+};
 
 TComponent::TComponent(TComponent* owner) {
   if (owner) owner->InsertComponent(this);
@@ -57,11 +74,18 @@ void TComponent::MarkDestroying() {
 void TComponent::SetName(const std::string& name) {
   if (name == FName) return;
   if (!name.empty() && !IsValidIdent(name)) {
-    throw EComponentError(Concat("'", name, "' is not a valid component name"));
+    throw EComponentError(Concat("'", Shown(name), "' is not a valid component name"));
   }
   if (FOwner) FOwner->ValidateRename(this, FName, name);
   ValidateRename(nullptr, FName, name);
+  PutName(name);
+}
+
+void TComponent::PutName(const std::string& name) {
+  TNames* const names = FOwner ? FOwner->FNames.get() : nullptr;
+  if (names) names->Remove(this);
   FName = name;
+  if (names) names->Add(this);
 }
 
 void TComponent::ValidateRename(TComponent* component, const std::string&,
@@ -97,9 +121,15 @@ void TComponent::SetComponentIndex(int index) {
 
 TComponent* TComponent::FindComponent(std::string_view name) const {
   if (name.empty()) return nullptr;
-  const auto found = std::ranges::find_if(
-      FComponents, [&](const TComponent* each) { return SameText(each->Name(), name); });
-  return found == FComponents.end() ? nullptr : *found;
+  constexpr std::size_t many = 16;
+  if (FComponents.size() < many) {
+    const auto found = std::ranges::find_if(
+        FComponents, [&](const TComponent* each) { return SameText(each->Name(), name); });
+    return found == FComponents.end() ? nullptr : *found;
+  }
+  if (!FNames) FNames = std::make_unique<TNames>(FComponents);
+  const auto found = FNames->ByName.find(UpperCase(name));
+  return found == FNames->ByName.end() ? nullptr : found->second;
 }
 
 void TComponent::InsertComponent(TComponent* component) {
@@ -107,6 +137,7 @@ void TComponent::InsertComponent(TComponent* component) {
   if (component->FOwner) component->FOwner->RemoveComponent(component);
   FComponents.push_back(component);
   component->FOwner = this;
+  if (FNames) FNames->Add(component);
   if (Designing()) component->SetDesigning(true);
   Notification(component, opInsert);
 }
@@ -114,7 +145,10 @@ void TComponent::InsertComponent(TComponent* component) {
 void TComponent::RemoveComponent(TComponent* component) {
   if (component->FOwner != this) return;
   if (!component->FEndAnnounced) Notification(component, opRemove);
-  std::erase(FComponents, component);
+  if (FNames) FNames->Remove(component);
+  // From the end, where the components stand that an ending owner frees.
+  const auto found = std::find(FComponents.rbegin(), FComponents.rend(), component);
+  FComponents.erase(std::next(found).base());
   component->FOwner = nullptr;
 }
 

@@ -128,13 +128,16 @@ class VCL_API TComponent : public TPersistent, public TWatched {
  private:
   friend class TReader;
   friend class TWriter;
+  struct TNames;
   void MarkDestroying();
+  void PutName(const std::string& name);
   void DefinePosition(TFiler& filer, const char* name, std::int16_t& coordinate);
 
   TComponent* FOwner = nullptr;
   std::string FName;
   std::intptr_t FTag = 0;
   std::vector<TComponent*> FComponents;
+  mutable std::unique_ptr<TNames> FNames;  // Made when many components are looked for by name.
   std::vector<TComponent*> FFreeNotifies;
   TComponentState FState;
   bool FEndAnnounced = false;

@@ -55,7 +55,7 @@ bool ParseInteger(std::string_view text, T& value) {
 }
 
 [[noreturn]] void Refuse(std::string_view text, std::string_view kind) {
-  throw EConvertError(Concat("'", text, "' is not a valid ", kind));
+  throw EConvertError(Concat("'", Shown(text), "' is not a valid ", kind));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // none, and Halt.
 #include "vcl/rtl/customapplication.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -59,6 +60,27 @@ void TCustomApplication::HandleCurrentException(TObject* sender) {
   } catch (...) {
     HandleException(sender, Exception("An error of an unknown kind"));
   }
+}
+
+void TCustomApplication::HandleTimerException(TObject* sender) {
+  try {
+    throw;
+  } catch (const Exception& error) {
+    HandleException(sender, error);
+  } catch (const std::exception& error) {
+    if (IsNewTimerError(sender, error.what())) HandleException(sender, error);
+  } catch (...) {
+    if (IsNewTimerError(sender, {})) HandleCurrentException(sender);
+  }
+}
+
+bool TCustomApplication::IsNewTimerError(const TObject* sender, const std::string& text) {
+  constexpr std::size_t enough = 100;
+  const std::pair error(sender, text);
+  if (std::ranges::count(FTimerErrors, error) > 0) return false;
+  if (FTimerErrors.size() == enough) FTimerErrors.erase(FTimerErrors.begin());
+  FTimerErrors.push_back(error);
+  return true;
 }
 
 int TCustomApplication::MessageBox(const std::string& text, const std::string& caption, int) {

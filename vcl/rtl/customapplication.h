@@ -3,6 +3,8 @@
 
 #include <exception>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "vcl/rtl/component.h"
 #include "vcl/rtl/systemmacros.h"
@@ -32,6 +34,9 @@ class VCL_API TCustomApplication : public TComponent {
   virtual void HandleException(TObject* sender, const std::exception& error);
   /// Like HandleException, for the exception being handled in a catch block, whatever its type.
   void HandleCurrentException(TObject* sender);
+  /// The same for what a timer's handler raised, which it may raise at every tick: errors that are
+  /// no Exception, faults of the program itself, are told once for each sender and text.
+  void HandleTimerException(TObject* sender);
   /// Shows a text in a box and returns the button's number as the system's MessageBox does. Here:
   /// the text goes to standard error and the answer is 1 (OK).
   virtual int MessageBox(const std::string& text, const std::string& caption, int flags);
@@ -44,7 +49,10 @@ class VCL_API TCustomApplication : public TComponent {
   void SetTerminated(bool terminated) { FTerminated = terminated; }
 
  private:
+  bool IsNewTimerError(const TObject* sender, const std::string& text);
+
   std::string FTitle;
+  std::vector<std::pair<const TObject*, std::string>> FTimerErrors;
   bool FTerminated = false;
 };
 

@@ -108,7 +108,7 @@ TDateTime ReadOrRaise(TTryRead read, std::string_view text, const TFormatSetting
                       std::string_view kind) {
   TDateTime value = 0;
   if (read(text, value, settings)) return value;
-  throw EConvertError(Concat("'", text, "' is not a valid ", kind));
+  throw EConvertError(Concat("'", Shown(text), "' is not a valid ", kind));
 }
 
 }  // namespace

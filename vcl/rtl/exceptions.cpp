@@ -12,6 +12,7 @@ EInOutError::~EInOutError() = default;
 EOutOfResources::~EOutOfResources() = default;
 EInvalidOperation::~EInvalidOperation() = default;
 EAccessViolation::~EAccessViolation() = default;
+EDivByZero::~EDivByZero() = default;
 EThread::~EThread() = default;
 EArgumentOutOfRangeException::~EArgumentOutOfRangeException() = default;
 EListError::~EListError() = default;

@@ -37,8 +37,11 @@ VCL_EXCEPTION(EInOutError, Exception);
 VCL_EXCEPTION(EOutOfResources, Exception);
 /// An operation that the object's state does not allow.
 VCL_EXCEPTION(EInvalidOperation, Exception);
-/// A call of what is not there.
+/// A call of what is not there, or an access to memory that is not: what a program with forms hears
+/// of a fault of its own code, with where it was.
 VCL_EXCEPTION(EAccessViolation, Exception);
+/// A whole number was divided by zero.
+VCL_EXCEPTION(EDivByZero, Exception);
 /// A thread that the system refuses, or that is asked for what it can't do.
 VCL_EXCEPTION(EThread, Exception);
 /// A value outside what a property or parameter takes.

@@ -62,7 +62,7 @@ std::string TFormPrinter::Checked(std::string name, bool dotted) {
     if (dot == std::string_view::npos) break;
     rest.remove_prefix(dot + 1);
   }
-  if (!valid) FInput.Fail(Concat("'", name, "' is no name"));
+  if (!valid) FInput.Fail(Concat("'", Shown(name), "' is no name"));
   return name;
 }
 

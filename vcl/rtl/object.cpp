@@ -58,7 +58,8 @@ std::string UnitOf(std::string_view header) {
 }  // namespace
 
 const TClass& TObject::Class() {
-  static const TClass info("vcl::TObject", "vcl/rtl/object.h", nullptr, {}, nullptr, 0);
+  static const TClass info("vcl::TObject", "vcl/rtl/object.h", typeid(TObject), nullptr, {},
+                           nullptr, 0);
   return info;
 }
 
@@ -68,15 +69,22 @@ bool TObject::InheritsFrom(const TClass& ancestor) const {
   return ClassType().InheritsFrom(ancestor);
 }
 
-TClass::TClass(std::string_view name, std::string_view header, const TClass* parent, TMaker maker,
-               const TClassEntry* entries, std::size_t count)
+TClass::TClass(std::string_view name, std::string_view header, const std::type_info& type,
+               const TClass* parent, TMaker maker, const TClassEntry* entries, std::size_t count)
     : FName(name.substr(name.rfind(':') + 1)),
       FUnit(UnitOf(header)),
       FHeader(header),
       FCppName(name),
+      FType(&type),
       FParent(parent),
       FMaker(maker) {
   for (std::size_t i = 0; i < count; ++i) Add(entries[i]);
+  for (const TFieldInfo& field : FFields) {
+    const TPropInfo* hidden = FindPublished(field.Name);
+    if (!hidden) continue;
+    throw EPropertyError(
+        Concat("The field ", field.Name, " of ", FCppName, " hides its property ", hidden->Name));
+  }
 }
 
 TClass::TClass(TClass&&) noexcept = default;

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <typeinfo>
 #include <vector>
 
 #include "vcl/rtl/api.h"
@@ -48,8 +49,8 @@ struct TMaker {
 /// A class at run time. Instances are made once by `Describe` (properties.h) and live for ever.
 class VCL_API TClass {
  public:
-  TClass(std::string_view name, std::string_view header, const TClass* parent, TMaker maker,
-         const TClassEntry* entries, std::size_t count);
+  TClass(std::string_view name, std::string_view header, const std::type_info& type,
+         const TClass* parent, TMaker maker, const TClassEntry* entries, std::size_t count);
   TClass(TClass&&) noexcept;
   ~TClass();
 
@@ -60,6 +61,8 @@ class VCL_API TClass {
   const std::string& Header() const { return FHeader; }
   /// The name in C++, with its namespaces.
   const std::string& CppName() const { return FCppName; }
+  /// The class itself, as C++ knows it.
+  const std::type_info& CppType() const { return *FType; }
   /// The class that it descends from; null for TObject.
   const TClass* Parent() const { return FParent; }
   bool InheritsFrom(const TClass& ancestor) const;
@@ -77,6 +80,8 @@ class VCL_API TClass {
   /// The field or handler that a form class lists under that name; null when there is none.
   const TFieldInfo* FindField(std::string_view name) const;
   const TMethodInfo* FindMethod(std::string_view name) const;
+  /// What this class itself lists as its components, in declared order.
+  const std::vector<TFieldInfo>& OwnFields() const { return FFields; }
   /// The class of that name that one of the listed fields is of; null when there is none.
   const TClass* FindFieldClass(std::string_view name) const;
 
@@ -89,6 +94,7 @@ class VCL_API TClass {
   std::string FUnit;
   std::string FHeader;
   std::string FCppName;
+  const std::type_info* FType;
   const TClass* FParent;
   TMaker FMaker;
   std::vector<TPropInfo> FPublished;

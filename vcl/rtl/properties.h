@@ -172,6 +172,61 @@ struct SetterOf<R (C::*)(A)> {
   using Argument = std::decay_t<A>;
 };
 
+// What tables refuse in one line: the checks stand in front of what would fail inside.
+template <class>
+inline constexpr bool Never = false;
+template <class>
+inline constexpr bool IsGetter = false;
+template <class C, class R>
+inline constexpr bool IsGetter<R (C::*)() const> = !std::is_void_v<R>;
+template <class C, class R>
+inline constexpr bool IsGetter<R (C::*)() const noexcept> = !std::is_void_v<R>;
+
+/// The alternative of TValue that a type's values are of; -1 for a type that no property has.
+template <class T>
+constexpr int SortOf() {
+  if (std::is_pointer_v<T>) return 3;
+  if (std::is_convertible_v<T, std::string>) return 2;
+  if (std::is_floating_point_v<T>) return 1;
+  return std::is_integral_v<T> || std::is_enum_v<T> || IsSet<T>::value ? 0 : -1;
+}
+
+template <class Get>
+constexpr bool ReadsProperty() {
+  if constexpr (IsGetter<Get>) return SortOf<typename MemberOf<Get>::Result>() >= 0;
+  return false;
+}
+
+template <class Set, class Get>
+constexpr bool WritesWhatReads() {
+  if constexpr (requires { typename SetterOf<Set>::Argument; }) {
+    return SortOf<typename SetterOf<Set>::Argument>() == SortOf<typename MemberOf<Get>::Result>();
+  }
+  return false;
+}
+
+template <class Member>
+constexpr bool IsEventMember() {
+  if constexpr (std::is_member_object_pointer_v<Member>) {
+    return std::is_base_of_v<TEventBase, typename MemberOf<Member>::Result>;
+  }
+  return false;
+}
+
+template <class Member>
+constexpr bool IsComponentMember() {
+  if constexpr (std::is_member_object_pointer_v<Member>) {
+    using Result = typename MemberOf<Member>::Result;
+    return std::is_pointer_v<Result> && std::is_class_v<std::remove_pointer_t<Result>>;
+  }
+  return false;
+}
+
+template <class>
+inline constexpr bool IsHandler = false;
+template <class C, class... A>
+inline constexpr bool IsHandler<void (C::*)(A...)> = true;
+
 template <class T>
 TValue ToValue(const T& value) {
   if constexpr (std::is_pointer_v<T>) {
@@ -283,9 +338,19 @@ template <auto Get, auto SetMember>
 constexpr TClassEntry Property(std::string_view name) {
   TClassEntry entry;
   entry.Name = name;
-  entry.TypeOf = &TypeInfoOf<typename detail::MemberOf<decltype(Get)>::Result>;
-  entry.Getter = &detail::GetThunk<Get>;
-  entry.Setter = &detail::SetThunk<SetMember>;
+  if constexpr (!detail::ReadsProperty<decltype(Get)>()) {
+    static_assert(detail::Never<decltype(Get)>,
+                  "Property<getter, setter>: the getter is a const method without parameters that "
+                  "returns a number, an enumeration, a set, a text or an object's pointer");
+  } else if constexpr (!detail::WritesWhatReads<decltype(SetMember), decltype(Get)>()) {
+    static_assert(detail::Never<decltype(Get)>,
+                  "Property<getter, setter>: the setter is a void method with one parameter, of "
+                  "what the getter returns");
+  } else {
+    entry.TypeOf = &TypeInfoOf<typename detail::MemberOf<decltype(Get)>::Result>;
+    entry.Getter = &detail::GetThunk<Get>;
+    entry.Setter = &detail::SetThunk<SetMember>;
+  }
   return entry;
 }
 
@@ -295,22 +360,32 @@ template <auto Get>
 constexpr TClassEntry ReadOnly(std::string_view name) {
   TClassEntry entry;
   entry.Name = name;
-  entry.TypeOf = &TypeInfoOf<typename detail::MemberOf<decltype(Get)>::Result>;
-  entry.Getter = &detail::GetThunk<Get>;
+  if constexpr (!detail::ReadsProperty<decltype(Get)>()) {
+    static_assert(detail::Never<decltype(Get)>,
+                  "ReadOnly<getter>: the getter is a const method without parameters that returns "
+                  "a number, an enumeration, a set, a text or an object's pointer");
+  } else {
+    entry.TypeOf = &TypeInfoOf<typename detail::MemberOf<decltype(Get)>::Result>;
+    entry.Getter = &detail::GetThunk<Get>;
+  }
   return entry;
 }
 
 /// An event: a public member of a TEvent type.
 template <auto Member>
 constexpr TClassEntry Event(std::string_view name) {
-  using E = typename detail::MemberOf<decltype(Member)>::Result;
   TClassEntry entry;
   entry.Name = name;
-  entry.TypeOf = &detail::EventType;
-  entry.Alias = EventText<E>.Name;
-  entry.Parameters = EventText<E>.Parameters;
-  entry.EventOf = &detail::EventThunk<Member>;
-  entry.Signature = &typeid(E);
+  if constexpr (!detail::IsEventMember<decltype(Member)>()) {
+    static_assert(detail::Never<decltype(Member)>, "Event<member>: the member is a TEvent");
+  } else {
+    using E = typename detail::MemberOf<decltype(Member)>::Result;
+    entry.TypeOf = &detail::EventType;
+    entry.Alias = EventText<E>.Name;
+    entry.Parameters = EventText<E>.Parameters;
+    entry.EventOf = &detail::EventThunk<Member>;
+    entry.Signature = &typeid(E);
+  }
   return entry;
 }
 
@@ -335,12 +410,17 @@ constexpr TClassEntry Inherit(const char* const (&group)[Size]) {
 /// A form class's field, filled with the component of the same name when a form file is read.
 template <auto Member>
 constexpr TClassEntry Field(std::string_view name) {
-  using C = std::remove_pointer_t<typename detail::MemberOf<decltype(Member)>::Result>;
   TClassEntry entry;
   entry.Sort = TClassEntry::TSort::Field;
   entry.Name = name;
-  entry.FieldClass = &detail::ClassOf<C>;
-  entry.AssignField = &detail::AssignField<Member>;
+  if constexpr (!detail::IsComponentMember<decltype(Member)>()) {
+    static_assert(detail::Never<decltype(Member)>,
+                  "Field<member>: the member is a pointer to a component");
+  } else {
+    using C = std::remove_pointer_t<typename detail::MemberOf<decltype(Member)>::Result>;
+    entry.FieldClass = &detail::ClassOf<C>;
+    entry.AssignField = &detail::AssignField<Member>;
+  }
   return entry;
 }
 
@@ -350,20 +430,25 @@ constexpr TClassEntry Method(std::string_view name) {
   TClassEntry entry;
   entry.Sort = TClassEntry::TSort::Method;
   entry.Name = name;
-  entry.Signature = detail::SignatureOf(Member);
-  entry.BindMethod = detail::BinderOf<Member>(Member);
+  if constexpr (!detail::IsHandler<decltype(Member)>) {
+    static_assert(detail::Never<decltype(Member)>,
+                  "Method<handler>: the handler is a void method with the event's parameters");
+  } else {
+    entry.Signature = detail::SignatureOf(Member);
+    entry.BindMethod = detail::BinderOf<Member>(Member);
+  }
   return entry;
 }
 
 /// Describes the class T, which descends from Parent: its name in C++, with its namespaces; the
 /// header that code includes for it, whose name without folders and ending is the class's unit; and
 /// the lines of its table. Raises EPropertyError when an inherited name is not described by an
-/// ancestor.
+/// ancestor, or a field hides a property.
 template <class T, class Parent>
 TClass Describe(std::string_view name, std::string_view header,
                 std::initializer_list<TClassEntry> entries) {
-  static_assert(std::is_base_of_v<Parent, T>);
-  return TClass(name, header, &Parent::Class(), detail::MakerOf<T>(), entries.begin(),
+  static_assert(std::is_base_of_v<Parent, T>, "Describe<Class, Ancestor>: no such ancestor");
+  return TClass(name, header, typeid(T), &Parent::Class(), detail::MakerOf<T>(), entries.begin(),
                 entries.size());
 }
 

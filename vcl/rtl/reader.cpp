@@ -58,7 +58,7 @@ std::string TReader::ReadIdent() { return FImpl->Input.ReadIdent(); }
 char32_t TReader::ReadChar() {
   const std::string text = ReadString();
   const auto character = OnlyCharacter(text);
-  if (!character) FImpl->Input.Fail(Concat("'", text, "' is not one character"));
+  if (!character) FImpl->Input.Fail(Concat("'", Shown(text), "' is not one character"));
   return *character;
 }
 
@@ -79,7 +79,7 @@ void TReader::TImpl::Undo() {
     if (part.Watch.Gone()) continue;
     part.Component->Exclude(csLoading);
     part.Component->Exclude(csReading);
-    if (part.Component == Root && !part.Made) part.Component->FName = OldName;
+    if (part.Component == Root && !part.Made) part.Component->PutName(OldName);
     if (part.Made) delete part.Component;
   }
 }

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "vcl/rtl/collection.h"
+#include "vcl/rtl/colors.h"
 #include "vcl/rtl/private/readerimpl.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
@@ -205,9 +206,9 @@ std::int64_t TReader::TImpl::ReadOrdinal(const TPropInfo& prop) {
   if (Input.NextValue() == TValueType::vaIdent) return Ordinal(prop, Input.ReadIdent());
   const std::int64_t value = Input.ReadInteger();
   // A colour's 32 bits may be written without a sign.
-  const bool bits =
-      prop.Kind() == TTypeKind::Color && value > prop.Type->Max && value <= 0xFFFFFFFF;
-  return bits ? static_cast<std::int32_t>(value) : value;
+  const bool color =
+      prop.Kind() == TTypeKind::Color && value >= prop.Type->Min && value <= 0xFFFFFFFF;
+  return color ? std::int64_t{ColorOfNumber(static_cast<std::int32_t>(value))} : value;
 }
 
 std::int64_t TReader::TImpl::ReadSet(const TPropInfo& prop) {

@@ -79,4 +79,10 @@ std::string_view CutUtf8(std::string_view text, std::size_t bytes) {
   return text.substr(0, bytes);
 }
 
+std::string Shown(std::string_view value) {
+  constexpr std::size_t enough = 100;  // Bytes: two lines of a box.
+  if (value.size() <= enough) return std::string(value);
+  return Concat(CutUtf8(value, enough), "...");
+}
+
 }  // namespace vcl

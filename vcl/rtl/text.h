@@ -32,6 +32,8 @@ VCL_API std::optional<char32_t> OnlyCharacter(std::string_view text);
 /// The beginning of a text in UTF-8, as much as fits into so many bytes without cutting a
 /// character.
 VCL_API std::string_view CutUtf8(std::string_view text, std::size_t bytes);
+/// A value as a message shows it: a long one is cut, with "..." at its end.
+VCL_API std::string Shown(std::string_view value);
 /// The pieces joined; what a message is put together with.
 template <class... Pieces>
 std::string Concat(const Pieces&... pieces) {

@@ -11,7 +11,7 @@ namespace vcl {
 namespace {
 
 [[noreturn]] void Refuse(const TTypeInfo& type, std::string_view text) {
-  throw EConvertError(Concat("'", text, "' is not a value of ", type.Name()));
+  throw EConvertError(Concat("'", Shown(text), "' is not a value of ", type.Name()));
 }
 
 bool IsEnumerated(const TTypeInfo& type) {

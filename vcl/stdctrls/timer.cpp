@@ -77,7 +77,7 @@ void CALLBACK TTimer::TimerProc(HWND, UINT, UINT_PTR id, DWORD) {
   try {
     timer->Timer();
   } catch (...) {
-    Application()->HandleCurrentException(watch.Gone() ? nullptr : timer);
+    Application()->HandleTimerException(watch.Gone() ? nullptr : timer);
   }
 }
 

@@ -38,7 +38,7 @@ void TFormLexer::Fail(std::string_view text) const {
 
 void TFormLexer::FailExpected(std::string_view wanted) const {
   if (FToken == TFormToken::End) Fail(Concat(wanted, " is expected, but the text ends"));
-  Fail(Concat(wanted, " is expected, not '", FText, "'"));
+  Fail(Concat(wanted, " is expected, not '", Shown(FText), "'"));
 }
 
 /// The character at the position; a NUL behind the end.
@@ -102,7 +102,8 @@ void TFormLexer::ReadNumber() {
   FPosition += size;
   FToken = isFloat ? TFormToken::Float : TFormToken::Integer;
   const bool read = isFloat ? TryStrToFloat(FText, FFloat) : TryStrToInt64(FText, FInteger);
-  if (!read || IsIdentPart(Peek())) Fail(Concat("'", FText, "' is no number that can be kept"));
+  if (!read || IsIdentPart(Peek()))
+    Fail(Concat("'", Shown(FText), "' is no number that can be kept"));
 }
 
 void TFormLexer::ReadHexNumber(std::size_t sign) {
@@ -111,7 +112,8 @@ void TFormLexer::ReadHexNumber(std::size_t sign) {
   FText = FSource.substr(FPosition, size);
   FPosition += size;
   FToken = TFormToken::Integer;
-  if (!TryStrToInt64(FText, FInteger)) Fail(Concat("'", FText, "' is no number that can be kept"));
+  if (!TryStrToInt64(FText, FInteger))
+    Fail(Concat("'", Shown(FText), "' is no number that can be kept"));
 }
 
 void TFormLexer::ReadString() {
