@@ -4,6 +4,7 @@
 
 #include "qel/mail/Qeltiemails_smtp.h"
 #include "qel/mail/private/living.h"
+#include "qel/mail/private/oneline.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/datetime.h"
 #include "vcl/rtl/text.h"
@@ -28,6 +29,11 @@ void AddUnlessEmpty(const char* field, const std::string& value, vcl::TStrings& 
   if (!value.empty()) lines.Add(field + value);
 }
 
+void CheckAttachment(const TQELAttachment& attachment) {
+  CheckOneLine("FileName", attachment.FileName());
+  CheckOneLine("MimeType", attachment.MimeType());
+}
+
 void AddLines(std::initializer_list<const char*> texts, vcl::TStrings& lines) {
   for (const char* text : texts) lines.Add(text);
 }
@@ -41,7 +47,21 @@ std::string TQELSMTPMail::CreateUIN() const {
 
 std::string TQELSMTPMail::CreateBounds() { return "---QELMAIL" + RandomLetters(12); }
 
+void TQELSMTPMail::CheckMessage(const TQELMessage& message) {
+  CheckOneLine("FromMail", message.FromMail());
+  CheckOneLine("FromName", message.FromName());
+  CheckOneLine("ReplyTo", message.ReplyTo());
+  CheckOneLine("InReplyTo", message.InReplyTo());
+  CheckOneLine("SendTo", message.SendTo());
+  CheckOneLine("Subject", message.Subject());
+  for (int i = 0; i < message.Attachments()->Count(); ++i) {
+    CheckAttachment(*message.Attachments()->GeTQELAttachment(i));
+  }
+}
+
 std::unique_ptr<vcl::TStringList> TQELSMTPMail::InitializeMessage(TQELMessage& message) {
+  CheckMessage(message);
+  CheckOneLine("Date", message.Date());
   auto lines = std::make_unique<vcl::TStringList>();
   AddHeaders(message, *lines);
   const bool multipart = message.Attachments()->Count() > 0;
@@ -115,6 +135,7 @@ bool TQELSMTPMail::AddParts(TQELMessage& message, const std::string& boundary,
 }
 
 bool TQELSMTPMail::AddAttachment(TQELAttachment& attachment, vcl::TStrings& lines) {
+  CheckAttachment(attachment);  // Encoding the one before fired events.
   const TLiving living(attachment);
   const std::string& name = attachment.FileName();
   lines.Add(vcl::Concat("Content-Type: ", attachment.MimeType(), "; name=\"", name, "\""));

@@ -5,6 +5,7 @@
 #include "qel/core/private/arithmetic.h"
 #include "qel/mail/Qeltiemails_host.h"
 #include "qel/mail/private/living.h"
+#include "qel/mail/private/oneline.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/properties.h"
@@ -74,6 +75,7 @@ bool TQELMailHost::RunSession(const std::function<void()>& dialogue) {
     try {
       // A call from inside a running session closes that one, and its owner finds it closed.
       if (!FBusy) {
+        CheckSession();
         BeginSession();
         dialogue();
       }
@@ -87,10 +89,12 @@ bool TQELMailHost::RunSession(const std::function<void()>& dialogue) {
   } catch (...) {
     vcl::BaseApplication().HandleCurrentException(watch.Gone() ? nullptr : this);
   }
-  // The component stays busy: the next call finds nothing to close and only ends this session.
+  // A session that has begun stays busy: the next call finds nothing to close and only ends it.
   if (!watch.Gone()) DropConnection();
   return false;
 }
+
+void TQELMailHost::CheckSession() const { CheckOneLine("Host", FHost); }
 
 void TQELMailHost::DropConnection() {
   FStream = nullptr;

@@ -82,6 +82,9 @@ class QEL_API TQELMailHost : public TQELExecComponent {
   /// closes the session. What is raised is shown by the application's handler, and the connection
   /// dropped. False when something was raised or the session aborted.
   bool RunSession(const std::function<void()>& dialogue);
+  /// Asked before a session begins: raises when what it is to send can't be sent. Nothing is
+  /// connected then. Here: raises EQELMailError when Host breaks its line.
+  virtual void CheckSession() const;
   void CloseConnection();
 
   /// The socket's handlers.

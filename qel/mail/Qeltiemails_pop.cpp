@@ -4,6 +4,8 @@
 
 #include "qel/mail/Qeltiemails_pop.h"
 #include "qel/mail/mailerror.h"
+#include "qel/mail/private/living.h"
+#include "qel/mail/private/oneline.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/properties.h"
@@ -81,14 +83,25 @@ bool TQELPOPMail::Execute() {
   return RunSession([this] {
            Connect();
            if (!Login()) {
-             auto& application = vcl::BaseApplication();
-             application.MessageBox("Unable to connect", application.Title(), 0);
+             ShowRefusal();
              return;
            }
            Init();
            RetrieveAllMessages(Messages());
          }) &&
          done;
+}
+
+void TQELPOPMail::ShowRefusal() {
+  auto& application = vcl::BaseApplication();
+  // The application goes on behind the box.
+  qel::Guarded(this, [&] { application.MessageBox("Unable to connect", application.Title(), 0); });
+}
+
+void TQELPOPMail::CheckSession() const {
+  TQELMailHost::CheckSession();
+  CheckOneLine("Username", FUsername);
+  if (BreaksLine(FPassword)) throw EQELMailError("Password cannot have a line break or a NUL");
 }
 
 void TQELPOPMail::Connect() {

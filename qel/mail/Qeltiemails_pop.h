@@ -104,10 +104,13 @@ class QEL_API TQELPOPMail : public TQELMailHost {
  protected:
   /// Closes the connection and fires OnError with the code and the server's words.
   void DoErr(int code);
+  /// Raises EQELMailError also for a user's name or password that breaks its line.
+  void CheckSession() const override;
   void DoError(vcl::TObject* sender, vcl::TCustomWinSocket* socket, vcl::TErrorEvent errorEvent,
                int& errorCode) override;
 
  private:
+  void ShowRefusal();
   void TakeReply(std::string_view text);
   std::string ReadReply();
   /// True unless the server refuses, which is told with the code; `reply` is all that has come.

@@ -5,9 +5,12 @@
 
 #include "qel/mail/Qeltiemails_smtp.h"
 #include "qel/mail/private/living.h"
+#include "qel/mail/private/oneline.h"
 #include "vcl/rtl/convert.h"
+#include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/datetime.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace qel {
@@ -64,11 +67,18 @@ bool TQELSMTPMail::Execute() {
          done;
 }
 
+void TQELSMTPMail::CheckSession() const {
+  TQELMailHost::CheckSession();
+  CheckOneLine("The application's title", vcl::BaseApplication().Title());
+  CheckOneLine("DateTimeFormat", FDateTimeFormat);
+  for (int i = 0; i < Messages()->Count(); ++i) CheckMessage(*Messages()->GetQELMessage(i));
+}
+
 void TQELSMTPMail::Connect() {
   FError = false;
   TQELMailHost::Connect();
   OpenStream(StreamTimeOut);
-  FInsideLine = false;
+  FInsideLine = FMailUnderWay = false;
   if (!ReadGreeting()) return;
   if (FReplyCode != "220") {
     DoErr(vcl::eeConnect);
@@ -93,7 +103,7 @@ bool TQELSMTPMail::ReadGreeting() {
 
 void TQELSMTPMail::Disconnect() {
   if (!Connected()) return;
-  if (!Aborted()) Command("QUIT", "221", vcl::eeDisconnect);
+  if (!Aborted() && !FMailUnderWay) Command("QUIT", "221", vcl::eeDisconnect);
   CloseConnection();
 }
 
@@ -105,9 +115,9 @@ bool TQELSMTPMail::SendMessage(TQELMessage& message) {
   const std::unique_ptr<vcl::TStringList> lines = InitializeMessage(message);
   if (!lines || Aborted()) return false;
   DoOnBeforeSend();
+  CheckMessage(*living);  // It may be another one by now.
   if (!Command("MAIL FROM:<" + living->FromMail() + ">", "250") ||
-      !SendRecipients(living->SendTo()) || !Command("DATA", "354") || !SendLines(*lines) ||
-      !Command("\r\n.", "250")) {
+      !SendRecipients(living->SendTo()) || !SendMail(*lines)) {
     return false;
   }
   if (FLastSendPercent < 100) DoSendProgress(100);
@@ -132,6 +142,11 @@ bool TQELSMTPMail::SendRecipients(const std::string& sendTo) {
     if (!Command("RCPT TO:<" + recipient + ">", "250")) return false;
   }
   return true;
+}
+
+bool TQELSMTPMail::SendMail(const vcl::TStrings& lines) {
+  const vcl::TSetFor underWay(FMailUnderWay, true, this);
+  return Command("DATA", "354") && SendLines(lines) && Command("\r\n.", "250");
 }
 
 bool TQELSMTPMail::SendLines(const vcl::TStrings& lines) {

@@ -12,6 +12,9 @@
 namespace qel {
 
 /// Sends its messages.
+///
+/// What goes into one line of the dialogue or of a mail's header (addresses, names, subjects) may
+/// have no CR, LF or NUL, behind which anything could stand: that is EQELMailError, with the value.
 class QEL_API TQELSMTPMail : public TQELMailHost {
  public:
   explicit TQELSMTPMail(vcl::TComponent* owner);
@@ -21,8 +24,9 @@ class QEL_API TQELSMTPMail : public TQELMailHost {
 
   /// Sends all messages in one session. False when something was raised, which the application's
   /// handler has shown, or the session was aborted; a refusal of the server is told to OnError
-  /// alone. After an error that was raised, the next call only clears up. Called while it runs, it
-  /// closes the running session.
+  /// alone. After an error that was raised, the next call only clears up; a message that can't be
+  /// sent as it is written is one before the session, for which nothing is connected and nothing
+  /// left to clear up. Called while it runs, it closes the running session.
   bool Execute() override;
 
   /// Lines that end every text. The setter copies.
@@ -37,6 +41,8 @@ class QEL_API TQELSMTPMail : public TQELMailHost {
 
   // For Execute.
   void Connect() override;
+  /// Takes leave of the server, unless the session was aborted or a mail is on its way, in which
+  /// the farewell would be a line like any other: then the connection is only closed.
   void Disconnect() override;
   /// Sends one message; true when the server has taken it.
   bool SendMessage(TQELMessage& message);
@@ -59,6 +65,7 @@ class QEL_API TQELSMTPMail : public TQELMailHost {
   TQELSendingProgress OnSendProgress;
 
  protected:
+  void CheckSession() const override;
   void DoErr(vcl::TErrorEvent kind);
   void DoError(vcl::TObject* sender, vcl::TCustomWinSocket* socket, vcl::TErrorEvent errorEvent,
                int& errorCode) override;
@@ -70,6 +77,7 @@ class QEL_API TQELSMTPMail : public TQELMailHost {
   virtual void DoSendProgress(int percent);
 
  private:
+  static void CheckMessage(const TQELMessage& message);
   void AddHeaders(const TQELMessage& message, vcl::TStrings& lines) const;
   std::string Sender(const TQELMessage& message) const;
   void AddText(const TQELMessage& message, vcl::TStrings& lines) const;
@@ -85,6 +93,7 @@ class QEL_API TQELSMTPMail : public TQELMailHost {
   bool Command(const std::string& command, const char* wanted,
                vcl::TErrorEvent kind = vcl::eeGeneral);
   bool SendRecipients(const std::string& sendTo);
+  bool SendMail(const vcl::TStrings& lines);
   bool SendLines(const vcl::TStrings& lines);
 
   std::unique_ptr<vcl::TStringList> FSignature;
@@ -92,6 +101,8 @@ class QEL_API TQELSMTPMail : public TQELMailHost {
   std::string FReplyCode;
   /// The last reply has been taken before its line ended.
   bool FInsideLine = false;
+  /// The server takes what it gets for a mail's lines.
+  bool FMailUnderWay = false;
   int FLastSendPercent = 0;
   int FLastEncodePercent = 0;
 };

@@ -1,10 +1,13 @@
 // TQELExplorerTree: a tree of the file system's folders.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "qel/core/api.h"
@@ -42,12 +45,18 @@ class QEL_API TQELExplorerNode : public vcl::TTreeNode {
 
  private:
   friend class TQELExplorerTree;
+  /// By what the disk knows the folder, whatever its path: volume and number.
+  using TId = std::pair<std::uint32_t, std::uint64_t>;
+  /// Nothing where the disk has none. Asked when it is needed, once for each reading.
+  const std::optional<TId>& Id();
   void SetFolder(const std::string& folder);
   void AskShell();
   TQELExplorerTree* Tree() const;
 
   std::string FFolder;
   std::string FPath;
+  std::optional<TId> FId;
+  bool FIdKnown = false;
   bool FRead = false;
   bool FShellAsked = false;
   bool FButtonKnown = false;
@@ -56,6 +65,9 @@ class QEL_API TQELExplorerNode : public vcl::TTreeNode {
 /// A tree view of folders: the desktop, the drives and the user's folders on its top level, below
 /// them the folders as they are expanded. F2 and the delete key rename and delete the selected
 /// folder unless ReadOnly; F5 reads what is shown anew. Its nodes are TQELExplorerNode.
+///
+/// A link is a folder like any other. Expanding all stops at one that leads to a folder which it
+/// lies in, and 130 levels below the top.
 class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
  public:
   explicit TQELExplorerTree(vcl::TComponent* owner);
@@ -111,6 +123,7 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
  protected:
   std::unique_ptr<vcl::TTreeNode> CreateNode() override;
   bool CanExpand(vcl::TTreeNode* node) override;
+  bool ExpandsInto(vcl::TTreeNode* node) override;
   bool CanEdit(vcl::TTreeNode* node) override;
   void Change(vcl::TTreeNode* node) override;
   void Edit(vcl::TTreeNode* node, std::string text) override;
@@ -136,7 +149,7 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
   void GetKids(TQELExplorerNode* node);
   bool GetBtn(const TQELExplorerNode* node);
   void ReadAgain(TQELExplorerNode* node);
-  std::vector<std::string> FoldersIn(const std::string& folder);
+  std::vector<std::string> FoldersIn(TQELExplorerNode* node);
   void Search(const std::string& folder, const std::function<bool(const std::string& path)>& each);
   bool AskAdd(const std::string& path);
   bool Allowed(const std::string& path) const;

@@ -30,6 +30,12 @@ void TQELExplorerNode::SetFolder(const std::string& folder) {
   FFolder = folder;
   FPath = folders::UpperCased(folder);
   FShellAsked = false;
+  FIdKnown = false;
+}
+
+const std::optional<TQELExplorerNode::TId>& TQELExplorerNode::Id() {
+  if (!std::exchange(FIdKnown, true)) FId = folders::IdOf(FFolder);
+  return FId;
 }
 
 void TQELExplorerNode::AskShell() {
@@ -173,7 +179,7 @@ void TQELExplorerTree::GetKids(TQELExplorerNode* node) {
   if (watch.Gone()) return;
   node->FRead = true;
   const TOnFailure unread([node] { node->FRead = false; }, node);
-  const std::vector<std::string> folders = FoldersIn(node->Folder());
+  const std::vector<std::string> folders = FoldersIn(node);
   if (watch.Gone()) return;
   Fill(node, folders);
 }
@@ -221,7 +227,9 @@ void TQELExplorerTree::Search(const std::string& folder,
   }
 }
 
-std::vector<std::string> TQELExplorerTree::FoldersIn(const std::string& folder) {
+std::vector<std::string> TQELExplorerTree::FoldersIn(TQELExplorerNode* node) {
+  const std::string folder = node->Folder();  // A handler may delete the node.
+  node->FIdKnown = false;
   std::vector<std::string> found;
   Search(folder, [&found](const std::string& path) {
     found.push_back(path);
@@ -260,6 +268,18 @@ bool TQELExplorerTree::CanExpand(TTreeNode* node) {
   return !watch.Gone() && TCustomTreeView::CanExpand(node);
 }
 
+bool TQELExplorerTree::ExpandsInto(TTreeNode* node) {
+  // A usual path has no room for more folders.
+  constexpr int maxLevel = MAX_PATH / 2;
+  if (node->Level() > maxLevel) return false;
+  const auto id = static_cast<TQELExplorerNode*>(node)->Id();
+  if (!id) return true;
+  for (TTreeNode* each = node->Parent(); each; each = each->Parent()) {
+    if (static_cast<TQELExplorerNode*>(each)->Id() == id) return false;
+  }
+  return true;
+}
+
 void TQELExplorerTree::FullExpand() {
   const THourGlass wait;
   TCustomTreeView::FullExpand();
@@ -271,7 +291,7 @@ void TQELExplorerTree::ReadAgain(TQELExplorerNode* node) {
     node->FButtonKnown = false;
     return;
   }
-  const std::vector<std::string> folders = FoldersIn(node->Folder());
+  const std::vector<std::string> folders = FoldersIn(node);
   if (watch.Gone() || !Fill(node, folders)) return;
   node->SetHasChildren(node->Count() > 0);
   for (TTreeNode* each = node->GetFirstChild(); each; each = each->GetNextSibling()) {

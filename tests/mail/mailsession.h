@@ -11,6 +11,7 @@
 #include "qel/mail/Qeltiemails.h"
 #include "tests/mail/mailtest.h"
 #include "tests/support/server.h"
+#include "vcl/rtl/valuetext.h"
 
 /// What the server says to each command, and first of all (""); an empty text closes.
 using TReplies = std::map<std::string, std::string>;
@@ -58,6 +59,18 @@ class TMailSession : public testing::Test {
     const TTestServer server([&](TPeer& peer) { Serve(peer, replies, bytewise); });
     Mail->SetPort(std::to_string(server.Port()));
     return Mail->Execute();
+  }
+
+  /// A session does not begin, for the property's value breaks a line.
+  void ExpectRefusal(const std::string& property, const std::string& value) {
+    EXPECT_FALSE(Execute()) << property;
+    EXPECT_THAT(Application.Errors,
+                testing::ElementsAre(testing::AllOf(testing::HasSubstr(property),
+                                                    testing::HasSubstr(vcl::FormString(value)))));
+    ASSERT_TRUE(Application.ErrorType) << property;
+    EXPECT_TRUE(*Application.ErrorType == typeid(qel::EQELMailError)) << property;
+    EXPECT_THAT(Events, testing::IsEmpty()) << "nothing is connected";
+    EXPECT_FALSE(Mail->Busy());
   }
 
   const TReplies Polite;

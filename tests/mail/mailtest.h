@@ -7,6 +7,7 @@
 #include <fstream>
 #include <functional>
 #include <string>
+#include <typeinfo>
 #include <vector>
 
 #include "vcl/rtl/customapplication.h"
@@ -19,15 +20,20 @@ class TTestApplication : public vcl::TCustomApplication {
     if (OnPump) OnPump();
   }
   void HandleException(vcl::TObject*, const std::exception& error) override {
-    if (!dynamic_cast<const vcl::EAbort*>(&error)) Errors.push_back(error.what());
+    if (dynamic_cast<const vcl::EAbort*>(&error)) return;
+    Errors.push_back(error.what());
+    ErrorType = &typeid(error);
   }
   int MessageBox(const std::string& text, const std::string&, int) override {
     Errors.push_back(text);
+    if (OnBox) OnBox();
     return 1;
   }
 
-  std::function<void()> OnPump;
+  std::function<void()> OnPump, OnBox;
   std::vector<std::string> Errors;
+  /// Of the last one that was raised.
+  const std::type_info* ErrorType = nullptr;
 };
 
 /// A folder that is the current one and goes with all its files.

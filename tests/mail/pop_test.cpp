@@ -1,4 +1,6 @@
 // The receiver against scripted servers, well-behaved and not.
+#include <utility>
+
 #include "tests/mail/mailsession.h"
 
 namespace {
@@ -88,6 +90,24 @@ TEST_F(Fetching, TellsARefusalAndClosesTheConnection) {
   Mail->SetDeleteOfServer(false);
   EXPECT_TRUE(Execute({{"RETR 2", "-ERR\r\n"}}));
   EXPECT_EQ(Heard.back(), "RETR 2");
+}
+
+TEST_F(Fetching, MayBeFreedWhileItTellsThatItCannotConnect) {
+  Application.OnBox = [this] { delete std::exchange(Mail, nullptr); };
+  EXPECT_FALSE(Execute({{"PASS", Refusal}}));
+  EXPECT_THAT(Application.Errors, ElementsAre("Unable to connect"));
+  EXPECT_EQ(Mail, nullptr);
+}
+
+TEST_F(Fetching, RefusesANameThatBreaksItsLineBeforeItConnects) {
+  const std::string smuggling = "bob\r\nDELE 1";
+  Mail->SetUsername(smuggling);
+  ExpectRefusal("Username", smuggling);
+  Mail->SetUsername("bob");
+  Mail->SetPassword(smuggling);
+  EXPECT_FALSE(Execute());
+  EXPECT_THAT(Application.Errors, ElementsAre(AllOf(HasSubstr("Password"), Not(HasSubstr("bob")))));
+  EXPECT_THAT(Events, IsEmpty());
 }
 
 TEST_F(Fetching, SurvivesNonsense) {

@@ -81,4 +81,67 @@ TEST_F(Sending, IsAbortedInTheMiddleOfAReplyOrAMail) {
   EXPECT_THAT(Heard, Not(Contains(".")));
 }
 
+TEST_F(Sending, EndsWithoutAFarewellInTheMiddleOfAMail) {
+  const std::function<void()> ends[] = {[this] { Mail->Execute(); }, [this] { Mail->Disconnect(); }};
+  for (const auto& end : ends) {
+    for (const std::string stage : {"DATA", "", "."}) {
+      MakeMail();
+      int calls = 0;
+      const auto endOnce = [&] {
+        if (++calls == 1) end();
+        if (calls > 50) Mail->Abort();  // It waits for an answer that doesn't come.
+      };
+      if (stage.empty()) Mail->OnSendProgress = [&](auto*, int) { endOnce(); };
+      Application.OnPump = [&] {
+        if (calls > 0 || (!Heard.empty() && Heard.back() == stage)) endOnce();
+      };
+      EXPECT_FALSE(stage.empty() ? Execute() : Execute({{stage, Silence}})) << stage;
+      Application.OnPump = nullptr;
+      Mail->OnSendProgress = nullptr;
+      EXPECT_LT(calls, 50) << stage;
+      EXPECT_THAT(Events, ElementsAre("connect", "before", "disconnect")) << stage;
+      EXPECT_THAT(Heard, Not(Contains("QUIT"))) << stage;
+      EXPECT_THAT(Application.Errors, ElementsAre(HasSubstr("is closed"))) << stage;
+      if (Mail->Busy()) Mail->Execute();
+      EXPECT_TRUE(Execute()) << "the next one is like any other";
+      EXPECT_THAT(Heard, Contains("QUIT"));
+    }
+  }
+}
+
+/// Texts behind which a command or a header's field could stand.
+const std::string Smuggling[] = {"a\r\nBcc: spy@a.test", "a\rb", "a\nb", std::string("a\0b", 3),
+                                 "a\r\n"};
+
+TEST_F(Sending, RefusesWhatBreaksALineBeforeItConnects) {
+  using TSet = void (qel::TQELMessage::*)(const std::string&);
+  const std::pair<const char*, TSet> properties[] = {
+      {"SendTo", &qel::TQELMessage::SetSendTo},     {"FromMail", &qel::TQELMessage::SetFromMail},
+      {"Subject", &qel::TQELMessage::SetSubject},   {"FromName", &qel::TQELMessage::SetFromName},
+      {"ReplyTo", &qel::TQELMessage::SetReplyTo},   {"InReplyTo", &qel::TQELMessage::SetInReplyTo}};
+  qel::TQELMessage* second = AddMessage();
+  for (const auto& [name, set] : properties) {
+    for (const std::string& value : Smuggling) {
+      (second->*set)(value);
+      ExpectRefusal(name, value);
+      EXPECT_THROW(Mail->InitializeMessage(*second), qel::EQELMailError) << name;
+    }
+    (second->*set)("ann@a.test");
+  }
+  qel::TQELAttachment* file = second->Attachments()->Add("f");
+  file->SetFileName(Smuggling[0]);
+  ExpectRefusal("FileName", Smuggling[0]);
+  second->Attachments()->Clear();
+  EXPECT_TRUE(Execute()) << "nothing is left of the refusals";
+}
+
+TEST_F(Sending, RefusesWhatAHandlerBreaksInTheMiddleOfASession) {
+  Mail->OnBeforeSend = [this](vcl::TObject*) {
+    Mail->Messages()->GetQELMessage(0)->SetSendTo(Smuggling[0]);
+  };
+  EXPECT_FALSE(Execute());
+  EXPECT_THAT(Application.Errors, ElementsAre(HasSubstr("SendTo")));
+  EXPECT_THAT(Heard, ElementsAre(HasSubstr("HELO")));
+}
+
 }  // namespace

@@ -44,7 +44,7 @@ class Files : public testing::Test {
     std::ofstream(PathOf(name), std::ios::binary) << text;
   }
   /// How many files and folders there are.
-  long Count() const { return std::distance(fs::directory_iterator(Folder), {}); }
+  std::ptrdiff_t Count() const { return std::distance(fs::directory_iterator(Folder), {}); }
 
   const fs::path Folder = fs::temp_directory_path() / u8"qel Dateien ä";
 };

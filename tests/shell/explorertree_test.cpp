@@ -50,14 +50,59 @@ HANDLE WINAPI FindFirst(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
   return INVALID_HANDLE_VALUE;
 }
 
+/// What a Unix system calls the file; empty where the disk is Windows's own.
+std::wstring UnixName(const fs::path& file) {
+  const auto unixName = reinterpret_cast<char*(CDECL*)(const wchar_t*)>(reinterpret_cast<void*>(
+      ::GetProcAddress(::GetModuleHandleA("kernel32.dll"), "wine_get_unix_file_name")));
+  return unixName ? vcl::ToUtf16(unixName(file.c_str())) : std::wstring();
+}
+
 /// Where a folder is a Unix system's, each new name is compared with all others there, unless the
 /// folder is named in that system's way.
 std::wstring Plain(const fs::path& folder) {
-  const auto unixName = reinterpret_cast<char*(CDECL*)(const wchar_t*)>(reinterpret_cast<void*>(
-      ::GetProcAddress(::GetModuleHandleA("kernel32.dll"), "wine_get_unix_file_name")));
-  if (!unixName) return folder.wstring();
-  return L"\\\\?\\unix" + vcl::ToUtf16(unixName(folder.c_str()));
+  const std::wstring name = UnixName(folder);
+  return name.empty() ? folder.wstring() : L"\\\\?\\unix" + name;
 }
+
+/// A link to a folder, as the disk's own system has them: what removes all below a folder of
+/// Windows's would follow another system's.
+class TLink {
+ public:
+  TLink(const fs::path& link, const fs::path& folder) : FLink(link) {
+    if (!IsUnix()) {
+      const std::wstring line = Quoted(link.wstring()) + Quoted(folder.wstring());
+      ::_wsystem((L"mklink /J" + line + L" >nul").c_str());
+    } else {
+      RunUnixProgram(L"ln", L"-s" + Quoted(UnixName(folder)) + UnixLink());
+    }
+    EXPECT_TRUE(testinput::PumpUntil([&] { return fs::exists(FLink); }));
+  }
+  ~TLink() {
+    IsUnix() ? RunUnixProgram(L"rm", UnixLink()) : static_cast<void>(fs::remove(FLink));
+    EXPECT_TRUE(testinput::PumpUntil([&] { return !fs::exists(FLink); }));
+  }
+  TLink(const TLink&) = delete;
+  TLink& operator=(const TLink&) = delete;
+
+ private:
+  static std::wstring Quoted(const std::wstring& name) { return L" \"" + name + L"\""; }
+  bool IsUnix() const { return !UnixName(FLink.parent_path()).empty(); }
+  /// The link itself: its own name would be asked for where it leads.
+  std::wstring UnixLink() const {
+    return Quoted(UnixName(FLink.parent_path()) + L"/" + FLink.filename().wstring());
+  }
+  /// It can't be waited for.
+  static void RunUnixProgram(const std::wstring& name, const std::wstring& arguments) {
+    std::wstring line = name + L" " + arguments;
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    ::CreateProcessW((L"\\\\?\\unix\\bin\\" + name).c_str(), line.data(), nullptr, nullptr, FALSE,
+                     0, nullptr, nullptr, &startup, &process);
+  }
+
+  fs::path FLink;
+};
 
 void MakeMany(const fs::path& folder, int count) {
   const std::wstring start = Plain(folder) + L"\\f";
@@ -324,6 +369,42 @@ TEST_F(ExplorerTree, AHandlerSearchesInPlaceOfTheDisk) {
   Tree->SetDrive('Z');
   Tree->SetDrive('C');
   EXPECT_EQ(Tree->Directory(), "C:\\y\\") << "remembered, though not on the disk";
+}
+
+TEST_F(ExplorerTree, ExpandingAllStopsWhereALinkLeadsBack) {
+  const TLink back(Root / L"a/a1/back", Root / L"a");
+  const TLink other(Root / L"a/other", Root / L"b");
+  const TLink backAgain(Root / L"b/back", Root / L"a");
+  ShowForm();
+  Tree->OnAddDirectory = [this](vcl::TObject*, std::string path, bool& accept) {
+    // All expanded, but not the whole disk, and not for ever.
+    accept =
+        (path.starts_with(Path()) || Path().starts_with(path)) && path.size() < Path().size() + 50;
+  };
+  const std::function<void()> actions[] = {[this] { Tree->FullExpand(); },
+                                           [this] { Node(L"a")->Expand(true); }};
+  for (const auto& action : actions) {
+    Tree->FullCollapse();
+    action();
+    for (const wchar_t* whole : {L"a", L"a/a1", L"a/other"}) EXPECT_TRUE(Node(whole)->Expanded());
+    EXPECT_FALSE(Node(L"a/a1/back")->Expanded());
+    EXPECT_FALSE(Node(L"a/other/back")->Expanded());
+  }
+  Node(L"a/a1/back")->Expand(false);
+  EXPECT_TRUE(Node(L"a/a1/back")->Expanded()) << "one by one, there is no end";
+}
+
+TEST_F(ExplorerTree, ExpandingAllComesToAnEndWhereFoldersHaveNone) {
+  std::size_t longest = 0;
+  Tree->OnFindDirectory = [&](vcl::TObject*, std::string folder, int first,
+                              qel::TQELFoundFile& entry, bool& found) {
+    longest = std::max(longest, folder.size());
+    found = first && folder.starts_with("C:\\") && folder.size() < 1000;
+    entry.Name = "d";
+  };
+  Tree->GetNodeFromPath("C:\\")->Expand(true);
+  EXPECT_GT(longest, 200u);
+  EXPECT_LT(longest, 300u);
 }
 
 TEST_F(ExplorerTree, ReadingAnewKeepsWhatIsExpandedAndSelected) {

@@ -139,7 +139,7 @@ void TTreeNode::Expand(bool recurse) {
   if (!recurse || watch.Gone()) return;
   for (TTreeNode* child = FFirst; child;) {
     TWatch childWatch(child);
-    child->Expand(true);
+    if (TreeView()->ExpandsInto(child)) child->Expand(true);
     if (watch.Gone() || childWatch.Gone()) return;
     child = child->FNext;
   }

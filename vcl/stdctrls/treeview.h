@@ -102,6 +102,8 @@ class VCL_API TCustomTreeView : public TWinControl {
   virtual void Change(TTreeNode* node);
   virtual bool CanExpand(TTreeNode* node);
   virtual void Expand(TTreeNode* node);
+  /// Whether expanding a node with all below it goes on into this one below it. Here: true.
+  virtual bool ExpandsInto(TTreeNode*) { return true; }
   virtual bool CanCollapse(TTreeNode* node);
   virtual void Collapse(TTreeNode* node);
   virtual bool CanEdit(TTreeNode* node);

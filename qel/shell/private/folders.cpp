@@ -64,6 +64,20 @@ bool Exists(const std::string& path) {
   return vcl::DirectoryExists(path);
 }
 
+std::optional<std::pair<std::uint32_t, std::uint64_t>> IdOf(const std::string& path) {
+  const TNoErrorBoxes quiet;
+  constexpr DWORD everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const HANDLE folder = ::CreateFileW(ForSystem(path).c_str(), 0, everybody, nullptr,
+                                      OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (folder == INVALID_HANDLE_VALUE) return {};
+  BY_HANDLE_FILE_INFORMATION info{};
+  const BOOL known = ::GetFileInformationByHandle(folder, &info);
+  ::CloseHandle(folder);
+  const std::uint64_t number = std::uint64_t{info.nFileIndexHigh} << 32 | info.nFileIndexLow;
+  if (!known || number == 0) return {};
+  return std::pair(std::uint32_t{info.dwVolumeSerialNumber}, number);
+}
+
 UINT DriveType(const std::string& path) {
   return ::GetDriveTypeA(path.substr(0, RootSize(path)).c_str());
 }

@@ -2,8 +2,11 @@
 // Paths end with a backslash.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "vcl/rtl/win32.h"
@@ -24,6 +27,9 @@ std::string NameOf(const std::string& path);
 /// that may be long when it is.
 std::wstring ForSystem(const std::string& path);
 bool Exists(const std::string& path);
+/// The folder's volume and its number there, which all paths and links to it have in common;
+/// nothing where the disk has no such number.
+std::optional<std::pair<std::uint32_t, std::uint64_t>> IdOf(const std::string& path);
 /// DRIVE_REMOTE and the like, of the drive that the path is on.
 UINT DriveType(const std::string& path);
 
