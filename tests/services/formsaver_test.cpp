@@ -165,6 +165,29 @@ TEST_F(FormSaver, ADescendantMayStoreTheBoundsFromBeforeMaximizing) {
   }
 }
 
+TEST_F(FormSaver, APageControlComesBackWithThePageThatWasActive) {
+  auto* const pages = new vcl::TPageControl(Form);
+  pages->SetParent(Form);
+  pages->SetName("Pages");
+  for (const char* const name : {"One", "Two", "Three"}) {
+    auto* const page = new vcl::TTabSheet(Form);
+    page->SetName(name);
+    page->SetPageControl(pages);
+  }
+  for (const int stored : {0, 1, 2}) {
+    Form->Show();
+    pages->SetActivePageIndex(stored);
+    Form->Close();
+    for (const int begin : {0, 1, 2}) {
+      pages->SetActivePageIndex(begin);
+      Form->Show();
+      EXPECT_EQ(pages->ActivePageIndex(), stored) << begin;
+      for (int i = 0; i < 3; ++i) EXPECT_EQ(pages->Pages(i)->Visible(), i == stored) << begin << i;
+      Form->Hide();
+    }
+  }
+}
+
 TEST_F(FormSaver, SparedControlsAreNotStoredButRead) {
   Form->Saver->OnStoreControl = [](vcl::TObject* sender, bool& result) {
     result = sender->ClassName() != "TGroupBox";
