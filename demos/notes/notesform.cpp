@@ -105,7 +105,11 @@ void TNotesForm::Loaded() {
 void TNotesForm::WndProc(TMessage& message) {
   switch (message.Msg) {
     case WM_BEGIN: return Begin();
-    case WM_OPENWANTED: return OpenIfWanted(std::exchange(FWanted, {}));
+    case WM_OPENWANTED: return OpenNextWanted();
+    case WM_ENABLE:  // A dialog has come or gone.
+      TForm::WndProc(message);
+      if (!FWanted.empty()) ::PostMessageW(Handle(), WM_OPENWANTED, 0, 0);
+      return;
     case WM_COPYDATA:
       TakeFromCopy(*reinterpret_cast<const COPYDATASTRUCT*>(message.LParam));
       message.Result = TRUE;
@@ -136,7 +140,7 @@ void TNotesForm::EnterTray() {
 
 void TNotesForm::FormCloseQuery(TObject*, bool& canClose) {
   if (Application()->SessionEnding()) {
-    canClose = KeepForNextStart();
+    canClose = KeepUnsaved();  // Nobody can be asked.
     return;
   }
   if (FOptions.CloseToTray && Tray->Enabled() && !FExiting) {
@@ -184,11 +188,20 @@ void TNotesForm::GuardExceeded(TObject*, int) {
                         patience, nullptr);
 }
 
-// The copy waits for the answer, so the file is opened afterwards; not while a dialog is up.
+// The copy waits for the answer, so the file is opened afterwards.
 void TNotesForm::TakeFromCopy(const COPYDATASTRUCT& data) {
-  if (data.dwData != FileToOpen || !::IsWindowEnabled(Handle())) return;
-  FWanted.assign(static_cast<const char*>(data.lpData), data.cbData);
+  if (data.dwData != FileToOpen) return;
+  FWanted.emplace_back(static_cast<const char*>(data.lpData), data.cbData);
   ::PostMessageW(Handle(), WM_OPENWANTED, 0, 0);
+}
+
+// Not while a dialog is up: the window hears when that has gone.
+void TNotesForm::OpenNextWanted() {
+  if (FWanted.empty() || !::IsWindowEnabled(Handle())) return;
+  const std::string fileName = FWanted.front();
+  FWanted.erase(FWanted.begin());
+  if (!FWanted.empty()) ::PostMessageW(Handle(), WM_OPENWANTED, 0, 0);
+  OpenIfWanted(fileName);
 }
 
 // Options.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "demos/notes/dialogs.h"
 #include "demos/notes/options.h"
@@ -78,6 +79,7 @@ class TNotesForm : public vcl::TForm {
   // Other copies of the program.
   void GuardExceeded(vcl::TObject* sender, int instances);
   void TakeFromCopy(const COPYDATASTRUCT& data);
+  void OpenNextWanted();
 
   // Files and unsaved text.
   void NewClick(vcl::TObject* sender);
@@ -95,7 +97,6 @@ class TNotesForm : public vcl::TForm {
   void Remember(const std::string& fileName);
   /// False when what is unsaved is not safe.
   bool KeepUnsaved();
-  bool KeepForNextStart();
   void OfferUnsaved();
   std::string DocumentName() const;
 
@@ -128,8 +129,8 @@ class TNotesForm : public vcl::TForm {
   std::string FFileName;       // Empty for a text that has none yet.
   TTextFormat FFormat;
   TStamp FStamp;
-  std::string FWanted;    // What another copy was started with.
-  bool FExiting = false;  // The user wants an end, not the tray.
+  std::vector<std::string> FWanted;  // What other copies were started with.
+  bool FExiting = false;             // The user wants an end, not the tray.
   int FChanges = 0;
   int FKeptChanges = 0;  // Those that are in the recovery file.
   int FShownCaret = -1;

@@ -136,13 +136,6 @@ bool TNotesForm::KeepUnsaved() {
 
 void TNotesForm::RecoveryTimerTick(TObject*) { KeepUnsaved(); }
 
-// Nobody can be asked, and after the answer there may be no time.
-bool TNotesForm::KeepForNextStart() {
-  RecentFiles->Save();
-  WindowSaver->Store();
-  return KeepUnsaved();
-}
-
 void TNotesForm::OfferUnsaved() {
   const auto unsaved = FRecovery.Find();
   if (!unsaved) return;

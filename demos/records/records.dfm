@@ -231,10 +231,16 @@ object RecordsForm: TRecordsForm
     Top = 280
   end
   object OpenDialog: TOpenDialog
+    DefaultExt = 'csv'
+    Filter = 'Text files|*.csv;*.txt|All files|*.*'
+    Options = [ofHideReadOnly, ofPathMustExist, ofFileMustExist, ofEnableSizing]
     Left = 540
     Top = 312
   end
   object SaveDialog: TSaveDialog
+    DefaultExt = 'csv'
+    Filter = 'Text files|*.csv;*.txt|All files|*.*'
+    Options = [ofOverwritePrompt, ofHideReadOnly, ofPathMustExist, ofEnableSizing]
     Left = 572
     Top = 312
   end

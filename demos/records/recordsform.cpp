@@ -4,7 +4,9 @@
 #include <algorithm>
 
 #include "demos/records/database.h"
+#include "vcl/dialogs/messagedialog.h"
 #include "vcl/rtl/convert.h"
+#include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/scope.h"
@@ -25,6 +27,7 @@ const TClass& TRecordsForm::Class() {
                              Field<&T::Transfer>("Transfer"),
                              Field<&T::Gauge>("Gauge"),
                              Field<&T::StatusBar>("StatusBar"),
+                             Field<&T::NameEdit>("NameEdit"),
                              Field<&T::OpenDialog>("OpenDialog"),
                              Field<&T::SaveDialog>("SaveDialog"),
                              Field<&T::PostButton>("PostButton"),
@@ -43,7 +46,10 @@ const TClass& TRecordsForm::Class() {
   return info;
 }
 
-TRecordsForm::TRecordsForm(TComponent* owner) : TForm(owner) { LoadForm(); }
+TRecordsForm::TRecordsForm(TComponent* owner) : TForm(owner) {
+  LoadForm();
+  Transfer->OnImportValueError = {this, &TRecordsForm::ValueRefused};
+}
 
 void TRecordsForm::Open(const std::string& fileName) {
   const std::string connection = ConnectionString(fileName);
@@ -60,10 +66,20 @@ void TRecordsForm::StateChange(TObject*) {
   CancelButton->SetEnabled(editing);
 }
 
-void TRecordsForm::AddClick(TObject*) { Query->Append(); }
+void TRecordsForm::AddClick(TObject*) {
+  Query->Append();
+  NameEdit->SetFocus();
+}
+
 void TRecordsForm::PostClick(TObject*) { Query->Post(); }
 void TRecordsForm::CancelClick(TObject*) { Query->Cancel(); }
-void TRecordsForm::DeleteClick(TObject*) { Query->Delete(); }
+
+void TRecordsForm::DeleteClick(TObject*) {
+  const std::string name = Query->FieldByName("name")->AsString();
+  const std::string what = name.empty() ? "this record" : name;
+  if (MessageDlg(Concat("Delete ", what, "?"), mtConfirmation, {mbYes, mbNo}) == mrYes)
+    Query->Delete();
+}
 
 void TRecordsForm::ExportClick(TObject*) {
   if (SaveDialog->Execute()) Export(SaveDialog->FileName());
@@ -113,7 +129,9 @@ void TRecordsForm::Import(const std::string& fileName) {
   Query->CheckBrowseMode();
   FAll = static_cast<double>(TFileStream(fileName, fmOpenRead | fmShareDenyNone).Size());
   FDone = FCount = FRefused = 0;
+  FAsks = true;
   Transfer->SetFilename(fileName);
+  StatusBar->SetSimpleText(Concat("Nothing is read from ", ExtractFileName(fileName)));
   // A query that is half read keeps others from writing.
   Query->Close();
   {
@@ -134,9 +152,27 @@ void TRecordsForm::RecordRead(TObject*, std::string record) {
   ShowProgress();
 }
 
-void TRecordsForm::RecordRefused(TObject*, std::string) {
+void TRecordsForm::RecordRefused(TObject*, std::string) { Refused(Transfer->ImportError()); }
+
+void TRecordsForm::Refused(const std::string& why) {
   ++FRefused;
-  FWhy = Transfer->ImportError();
+  FWhy = why;
+}
+
+void TRecordsForm::ValueRefused(TObject*, qel::TQELADField* column, bool& goOn) {
+  const std::string why = Concat("Line ", IntToStr(Transfer->ImportLine()), ", ", column->CSVName(),
+                                 ": ", Transfer->ImportError());
+  if (FAsks) {
+    const TModalResult answer =
+        MessageDlg(Concat(why,
+                          "\n\nLeave this record out, or all of that kind, and go on? With "
+                          "\"No\" nothing is imported."),
+                   mtWarning, {mbYes, mbNo, mbAll});
+    if (answer != mrYes && answer != mrAll) throw EAbort("The import is taken back");
+    FAsks = answer == mrYes;
+  }
+  goOn = true;
+  Refused(why);
 }
 
 }  // namespace records

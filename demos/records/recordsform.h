@@ -23,7 +23,8 @@ class TRecordsForm : public vcl::TForm {
 
   /// Shows a database file, which is made when it is not there. Raises vcl::EDatabaseError.
   void Open(const std::string& fileName);
-  /// Write all records to a text file resp. insert those of one, showing how far it has come.
+  /// Write all records to a text file resp. insert those of one, showing how far it has come. The
+  /// user is asked what becomes of a record with a value that its field does not take.
   void Export(const std::string& fileName);
   void Import(const std::string& fileName);
 
@@ -34,6 +35,7 @@ class TRecordsForm : public vcl::TForm {
   qel::TQELDBAscii* Transfer = nullptr;
   qel::TQELGauge* Gauge = nullptr;
   vcl::TStatusBar* StatusBar = nullptr;
+  vcl::TDBEdit* NameEdit = nullptr;
   vcl::TOpenDialog* OpenDialog = nullptr;
   vcl::TSaveDialog* SaveDialog = nullptr;
   vcl::TButton* PostButton = nullptr;
@@ -49,6 +51,8 @@ class TRecordsForm : public vcl::TForm {
   void RecordWritten(vcl::TObject* sender, std::string record);
   void RecordRead(vcl::TObject* sender, std::string record);
   void RecordRefused(vcl::TObject* sender, std::string record);
+  void ValueRefused(vcl::TObject* sender, qel::TQELADField* column, bool& goOn);
+  void Refused(const std::string& why);
   void ImportAtOnce();
   void ShowProgress();
 
@@ -58,6 +62,7 @@ class TRecordsForm : public vcl::TForm {
   int FCount = 0;
   int FRefused = 0;
   std::string FWhy;
+  bool FAsks = true;  // What becomes of a record whose values can't be taken.
 };
 
 }  // namespace records

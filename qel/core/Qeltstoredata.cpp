@@ -110,6 +110,7 @@ void TQELDataStore::Run(Operation operation) const {
   if (FDatatype == sIniFile) {
     if (FInifile->Filename().empty()) return;
     vcl::TIniFile file(FInifile->Filename());
+    file.SetMustRead(FStrict);
     operation(file, FInifile->Section());
   } else {
     if (FRegistry->Path().empty()) return;

@@ -7,6 +7,7 @@
 
 #include "qel/core/Qelcomponent.h"
 #include "vcl/rtl/registry.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/strings.h"
 
 namespace qel {
@@ -106,6 +107,18 @@ class QEL_API TQELDataStore : public vcl::TPersistent {
   /// Deletes one value.
   void DeleteKey(const std::string& ident);
 
+  /// While it lives, a read of an INI file that is there and can't be read raises
+  /// EIniFileException, so that its values are not taken for missing ones, nor waited for one by
+  /// one. Where handlers may free the store, `holder` is freed with it.
+  class TStrictReading {
+   public:
+    explicit TStrictReading(TQELDataStore& store, const vcl::TWatched* holder = nullptr)
+        : FStrict(store.FStrict, true, holder) {}
+
+   private:
+    vcl::TSetFor<bool> FStrict;
+  };
+
   /// The sender is the store.
   vcl::TNotifyEvent OnError;
 
@@ -119,6 +132,7 @@ class QEL_API TQELDataStore : public vcl::TPersistent {
   void Run(Operation operation) const;
 
   bool FEnabled = true;
+  bool FStrict = false;
   TQELDatatype FDatatype = sRegistry;
   std::unique_ptr<TQELRegistry> FRegistry;
   std::unique_ptr<TQELIniFile> FInifile;

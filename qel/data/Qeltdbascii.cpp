@@ -183,10 +183,15 @@ void TQELDBAscii::DoImport() {
 
 void TQELDBAscii::ReadRecords(TRun& run) {
   run.File.Reset(FFilename);
+  FImportLine = 0;
   std::string line;
-  if (FPrintHeader && !run.File.Eof()) run.File.ReadLn(line);
-  while (!run.File.Eof()) {
+  const auto read = [&] {
     run.File.ReadLn(line);
+    ++FImportLine;
+  };
+  if (FPrintHeader && !run.File.Eof()) read();
+  while (!run.File.Eof()) {
+    read();
     if (line.empty()) continue;
     ImportRecord(run, line);
     if (run.Ended()) return;
@@ -196,17 +201,27 @@ void TQELDBAscii::ReadRecords(TRun& run) {
 void TQELDBAscii::ImportRecord(TRun& run, const std::string& record) {
   if (!run.Fire(ImportBeforeInsert, record, this)) return;
   run.Data.Insert();
-  if (!run.Ended()) SetValues(run, record);
+  const bool taken = !run.Ended() && SetValues(run, record);
   if (run.Ended()) return;
-  // ImportBeforePost only says that somebody wants to know: the handler that is called is that of
-  // ExportBeforeWrite, which must then be assigned as well. Programs rely on the pair.
-  if (ImportBeforePost && !run.Fire(ExportBeforeWrite, record, this)) return;
-  PostRecord(run, record);
+  if (taken) {
+    Finish(run, record);
+  } else {
+    run.Data.Cancel();
+  }
   // Also after a failure: the event says that the line has been dealt with.
   if (!run.Ended()) OnImportSuccess(this, record);
 }
 
-void TQELDBAscii::SetValues(const TRun& run, std::string_view rest) const {
+/// Posts the record, behind its event.
+void TQELDBAscii::Finish(TRun& run, const std::string& record) {
+  // ImportBeforePost only says that somebody wants to know: the handler that is called is that of
+  // ExportBeforeWrite, which must then be assigned as well. Programs rely on the pair.
+  if (ImportBeforePost && !run.Fire(ExportBeforeWrite, record, this)) return;
+  PostRecord(run, record);
+}
+
+/// False when the record is to be given up.
+bool TQELDBAscii::SetValues(TRun& run, std::string_view rest) {
   const std::string delimiter = vcl::Utf8(FDelimiter);
   for (int i = 0; !run.Ended() && i < FFields->Count(); ++i) {
     const std::size_t end = rest.find(delimiter);
@@ -216,9 +231,25 @@ void TQELDBAscii::SetValues(const TRun& run, std::string_view rest) const {
     const std::string_view value = last               ? rest
                                    : end == rest.npos ? std::string_view()
                                                       : rest.substr(0, end);
-    run.Data.FieldByName(FFields->GetItem(i)->DataField())->SetAsString(std::string(value));
+    if (!SetValue(run, FFields->GetItem(i), value)) return false;
     if (end != rest.npos) rest.remove_prefix(end + delimiter.size());
   }
+  return true;
+}
+
+bool TQELDBAscii::SetValue(TRun& run, TQELADField* column, std::string_view value) {
+  vcl::TField* const field = run.Data.FieldByName(column->DataField());
+  try {
+    field->SetAsString(std::string(value));
+    return true;
+  } catch (const std::exception& error) {
+    if (run.Ended() || !OnImportValueError) throw;
+    FImportError = error.what();
+    bool goOn = false;
+    OnImportValueError(this, column, goOn);
+    if (!goOn && !run.Ended()) throw;
+  }
+  return false;
 }
 
 void TQELDBAscii::PostRecord(TRun& run, const std::string& record) {

@@ -14,6 +14,9 @@ namespace qel {
 class TQELDBAscii;
 
 using TQELImportExportEvent = vcl::TEvent<vcl::TObject*, std::string>;
+class TQELADField;
+/// Sender, the column, whether the import goes on without the record.
+using TQELImportValueEvent = vcl::TEvent<vcl::TObject*, TQELADField*, bool&>;
 
 /// A column of the file.
 class QEL_API TQELADField : public vcl::TCollectionItem {
@@ -94,11 +97,15 @@ class QEL_API TQELDBAscii : public TQELComponent {
   /// and the data set where it is.
   void DoExport();
   /// Inserts a record for each line of the file that is not empty. A record that cannot be posted
-  /// is told to OnImportException and given up; all else that fails is raised as by DoExport, the
+  /// is told to OnImportException and given up, one with a value that its field does not take is
+  /// given up when OnImportValueError says so; all else that fails is raised as by DoExport, the
   /// record being still inserted then.
   void DoImport();
-  /// Why the last record could not be posted, for OnImportException; at first empty.
+  /// Why the last record could not be posted, or the last value not be taken, for OnImportException
+  /// and OnImportValueError; at first empty.
   const std::string& ImportError() const { return FImportError; }
+  /// The number, from 1, of the file's line that is being imported, or was last.
+  int ImportLine() const { return FImportLine; }
 
   TQELImportExportEvent OnImportSuccess;
   TQELImportExportEvent OnImportException;
@@ -106,6 +113,9 @@ class QEL_API TQELDBAscii : public TQELComponent {
   TQELImportExportEvent ImportBeforeInsert;
   TQELImportExportEvent ExportBeforeWrite;
   vcl::TNotifyEvent OnExportDone;
+  /// A field does not take its column's value. Without a handler, and when it leaves false, what
+  /// the field says is raised. Set by code.
+  TQELImportValueEvent OnImportValueError;
 
  protected:
   void Notification(vcl::TComponent* component, vcl::TOperation operation) override;
@@ -117,12 +127,15 @@ class QEL_API TQELDBAscii : public TQELComponent {
   void WriteRecords(TRun& run);
   void ReadRecords(TRun& run);
   void ImportRecord(TRun& run, const std::string& record);
-  void SetValues(const TRun& run, std::string_view rest) const;
+  bool SetValues(TRun& run, std::string_view rest);
+  bool SetValue(TRun& run, TQELADField* column, std::string_view value);
+  void Finish(TRun& run, const std::string& record);
   void PostRecord(TRun& run, const std::string& record);
 
   std::unique_ptr<vcl::TFieldDataLink> FDataLink;
   std::unique_ptr<TQELADFields> FFields;
   std::string FFilename, FImportError;
+  int FImportLine = 0;
   char32_t FDelimiter = 0;
   bool FPrintHeader = false;
 };

@@ -6,6 +6,7 @@
 
 #include "vcl/forms/application.h"
 #include "vcl/forms/screen.h"
+#include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/win32.h"
 
@@ -31,7 +32,9 @@ class TQELFormSaver::TRound {
  public:
   TRound(TQELFormSaver* saver, vcl::TControl* control)
       : FSaver(saver), FSaverWatch(saver), FControlWatch(control) {}
-  bool GoesOn() const { return !FSaverWatch.Gone() && !FControlWatch.Gone(); }
+  bool GoesOn() const {
+    return !FSaverWatch.Gone() && !FControlWatch.Gone() && !FSaver->FUnreadable;
+  }
   bool Wants(bool TQELFormSaver::*part) const { return GoesOn() && FSaver->*part; }
 
  private:
@@ -173,7 +176,7 @@ void TQELFormSaver::Restore() { MyRestore(FForm); }
 void TQELFormSaver::EachForm(void (TQELFormSaver::*handle)(vcl::TForm*)) {
   vcl::TWatch watch(this);
   const vcl::TApplication* const application = vcl::Application();
-  for (int i = 0; !watch.Gone() && i < application->ComponentCount(); ++i) {
+  for (int i = 0; !watch.Gone() && !FUnreadable && i < application->ComponentCount(); ++i) {
     auto* const form = dynamic_cast<vcl::TForm*>(application->Components(i));
     if (form) (this->*handle)(form);
   }
@@ -201,7 +204,26 @@ void TQELFormSaver::MyStore(vcl::TObject* sender, vcl::TCloseAction& action) {
   FPreviousOnClose(sender, action);
   if (watch.Gone() || !FFormStore->Enabled()) return;
   OnStore(sender);
-  if (!watch.Gone()) EachForm(&TQELFormSaver::StoreWindow);
+  if (!watch.Gone()) StoreForms();
+}
+
+// The form is closing, and must not stay because its place can't be kept.
+void TQELFormSaver::StoreForms() {
+  try {
+    EachForm(&TQELFormSaver::StoreWindow);
+  } catch (const vcl::EIniFileException&) {
+    TellRefusal();
+  } catch (const vcl::ERegistryException&) {
+    TellRefusal();
+  }
+}
+
+void TQELFormSaver::TellRefusal() {
+  if (FFormStore->OnError) {
+    FFormStore->OnError(FFormStore.get());
+  } else {
+    vcl::BaseApplication().HandleCurrentException(this);
+  }
 }
 
 void TQELFormSaver::StoreWindow(vcl::TForm* form) {
@@ -258,8 +280,28 @@ void TQELFormSaver::MyRestore(vcl::TObject* sender) {
   vcl::TWatch watch(this);
   FPreviousOnShow(sender);
   if (watch.Gone()) return;
-  if (FFormStore->Enabled()) EachForm(&TQELFormSaver::RestoreWindow);
+  if (FFormStore->Enabled()) RestoreForms();
   if (!watch.Gone()) OnRestore(sender);
+}
+
+void TQELFormSaver::RestoreForms() {
+  const vcl::TSetFor readable(FUnreadable, false, this);
+  const TQELDataStore::TStrictReading strict(*FFormStore, this);
+  EachForm(&TQELFormSaver::RestoreWindow);
+}
+
+/// The stored value; `current`, when it can't be read.
+template <class T>
+T TQELFormSaver::ReadOr(T current, T (TQELFormSaver::*read)(const std::string&, T),
+                        const std::string& ident) {
+  try {
+    return (this->*read)(ident, current);
+  } catch (const vcl::EIniFileException&) {
+    FUnreadable = true;                       // All of the file.
+  } catch (const vcl::ERegistryException&) {  // NOLINT(bugprone-empty-catch): told below.
+  }
+  FFormStore->OnError(FFormStore.get());
+  return current;
 }
 
 // In another order than they are stored: the state comes behind the bounds, which are thereby the
@@ -279,7 +321,8 @@ void TQELFormSaver::RestoreWindow(vcl::TForm* form) {
 
 // Without a stored state the form becomes normal, whatever it is.
 void TQELFormSaver::RestoreState(vcl::TForm* form, const TRound& round) {
-  const int code = ReadInt(form->ClassName() + StateSuffix, StateCodes[vcl::wsNormal]);
+  const int code =
+      ReadOr(StateCodes[vcl::wsNormal], &TQELFormSaver::ReadInt, form->ClassName() + StateSuffix);
   const auto* const found = std::ranges::find(StateCodes, code);
   if (!round.GoesOn() || found == std::end(StateCodes)) return;
   form->SetWindowState(static_cast<vcl::TWindowState>(found - StateCodes));
@@ -304,14 +347,14 @@ void TQELFormSaver::RestoreParts(vcl::TControl* control, const std::string& name
                                  const TRound& round, TParts& parts) {
   for (const TPart& part : parts) {
     if (!round.GoesOn()) return;
-    const int value = ReadInt(name + part.Suffix, (control->*part.Get)());
+    const int value = ReadOr((control->*part.Get)(), &TQELFormSaver::ReadInt, name + part.Suffix);
     if (round.GoesOn()) (control->*part.Set)(value);
   }
 }
 
 void TQELFormSaver::RestoreVisible(vcl::TControl* control, const std::string& name,
                                    const TRound& round) {
-  const bool visible = ReadBool(name + VisibleSuffix, control->Visible());
+  const bool visible = ReadOr(control->Visible(), &TQELFormSaver::ReadBool, name + VisibleSuffix);
   if (round.GoesOn()) control->SetVisible(visible);
 }
 

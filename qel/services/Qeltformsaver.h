@@ -24,6 +24,11 @@ using TQELOnStoreControl = vcl::TEvent<vcl::TObject*, bool&>;
 /// of two forms therefore share their values, and forms of one class too, unless QualifyNames parts
 /// the former.
 ///
+/// A value that can't be read leaves what it is for alone, as a missing one does, and FormStore's
+/// OnError tells it. An INI file that another program has for itself is waited for and told once,
+/// not for each value: nothing more is restored then. What the store refuses while storing is told
+/// once, too, by OnError or, without a handler, by the application; the form closes all the same.
+///
 /// A form that is minimised or maximised when it is closed has only its state and visibility
 /// stored. One with another Position than poDesigned is placed by it after OnShow.
 class QEL_API TQELFormSaver : public TQELComponent {
@@ -114,6 +119,11 @@ class QEL_API TQELFormSaver : public TQELComponent {
   void RestoreParts(vcl::TControl* control, const std::string& name, const TRound& round,
                     TParts& parts);
   void RestoreVisible(vcl::TControl* control, const std::string& name, const TRound& round);
+  template <class T>
+  T ReadOr(T current, T (TQELFormSaver::*read)(const std::string&, T), const std::string& ident);
+  void RestoreForms();
+  void StoreForms();
+  void TellRefusal();
   void RestoreState(vcl::TForm* form, const TRound& round);
 
   std::unique_ptr<TQELDataStore> FFormStore;
@@ -129,6 +139,7 @@ class QEL_API TQELFormSaver : public TQELComponent {
   vcl::TCloseEvent FPreviousOnClose;
   TNormalBounds FNormalBounds{};
   bool FBoundsSaved = false;
+  bool FUnreadable = false;  // What is being restored from.
 };
 
 }  // namespace qel

@@ -3,9 +3,9 @@
 
 #include <algorithm>
 #include <exception>
-#include <limits>
 
 #include "vcl/rtl/customapplication.h"
+#include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/scope.h"
 
@@ -14,10 +14,6 @@ namespace qel {
 namespace {
 
 constexpr const char* StoreSection = "MRU Items";
-
-/// An item's number must fit into a byte. A store with more names than that was not filled by this
-/// component.
-constexpr int MostFiles = std::numeric_limits<std::uint8_t>::max();
 
 /// Calls `use` with each of the items of the class TQELMRUItem, the last one first; it may free
 /// what it is given, and others with it.
@@ -74,7 +70,7 @@ TQELMRUMenu::TQELMRUMenu(vcl::TComponent* owner)
 TQELMRUMenu::~TQELMRUMenu() {
   AnnounceEnd();
   try {
-    if (!Designing()) Save();
+    SaveAtEnd();
   } catch (...) {
     vcl::BaseApplication().HandleCurrentException(nullptr);
   }
@@ -84,7 +80,15 @@ TQELMRUMenu::~TQELMRUMenu() {
 
 void TQELMRUMenu::Loaded() {
   TQELComponent::Loaded();
-  if (!Designing()) Load();
+  if (Designing()) return;
+  // A store that can't be read now is no reason to do without the form.
+  try {
+    Load();
+  } catch (const vcl::EIniFileException&) {
+    FMRUStore->OnError(FMRUStore.get());
+  } catch (const vcl::ERegistryException&) {
+    FMRUStore->OnError(FMRUStore.get());
+  }
 }
 
 // At run time the reference is kept, as handlers may compare with it; but from now on it is never
@@ -122,27 +126,65 @@ void TQELMRUMenu::Delete(const std::string& fileName) {
 void TQELMRUMenu::Clear() {
   RemoveAllItems();
   FFiles.Clear();
-  Save();
+  if (!FMRUStore->Enabled()) return;
+  vcl::TStringList unread;
+  if (FUnread) ReadStored(unread);
+  WriteAll();
 }
 
 bool TQELMRUMenu::Load() {
   if (!FMRUStore->Enabled()) return false;
+  vcl::TStringList names;
+  if (!ReadStored(names)) return true;
+  // MaxItems is not looked at: it holds from the next change of the list on.
+  FFiles.Assign(&names);
+  PopulateMenu();
+  return true;
+}
+
+/// The names in the order that the store gives them in, whatever their values' numbers. False, and
+/// the component perhaps freed by OnError, when there is no section or no place to read.
+bool TQELMRUMenu::ReadStored(vcl::TStringList& names) {
+  const vcl::TOnFailure unread([this] { FUnread = true; }, this);
+  const TQELDataStore::TStrictReading strict(*FMRUStore, this);
   vcl::TStringList lines;
   lines.AddObject({}, this);
   FMRUStore->ReadStrs(lines);
   const bool untouched = lines.IndexOfObject(this) >= 0;
-  if (untouched) return true;  // A store without a section, or a place.
-  // The names stand in the order that the store gives them in, whatever their values' numbers, and
-  // MaxItems is not looked at: it holds from the next change of the list on.
-  FFiles.Clear();
-  const int count = std::min(lines.Count(), MostFiles);
-  for (int i = 0; i < count; ++i) FFiles.Add(FileOf(lines.Strings(i)));
-  PopulateMenu();
+  if (untouched) return false;
+  FUnread = false;
+  for (int i = 0; i < lines.Count(); ++i) names.Add(FileOf(lines.Strings(i)));
   return true;
 }
 
 bool TQELMRUMenu::Save() {
   if (!FMRUStore->Enabled()) return false;
+  if (FUnread) {
+    TakeInUnread();
+    PopulateMenu();
+  }
+  WriteAll();
+  return true;
+}
+
+/// Puts what is stored before the names that have come since.
+void TQELMRUMenu::TakeInUnread() {
+  vcl::TStringList names;
+  ReadStored(names);
+  for (int i = 0; i < FFiles.Count(); ++i) {
+    if (names.IndexOf(FFiles.Strings(i)) < 0) names.Add(FFiles.Strings(i));
+  }
+  FFiles.Assign(&names);
+}
+
+// Without names of its own the list has nothing to add to what could not be read.
+void TQELMRUMenu::SaveAtEnd() {
+  if (Designing() || !FMRUStore->Enabled() || (FUnread && FFiles.Count() == 0)) return;
+  if (FUnread) TakeInUnread();
+  WriteAll();
+}
+
+void TQELMRUMenu::WriteAll() {
   FMRUStore->Erase();
   std::exception_ptr refused;
   for (int i = 0; i < FFiles.Count(); ++i) {
@@ -154,7 +196,6 @@ bool TQELMRUMenu::Save() {
     }
   }
   if (refused) std::rethrow_exception(refused);
-  return true;
 }
 
 // The menu.
@@ -187,7 +228,7 @@ void TQELMRUMenu::AddNames(vcl::TMenuItem* container, int position) {
 TQELMRUItem* TQELMRUMenu::AddItem(vcl::TMenuItem* container, int position,
                                   const std::string& caption, int number) {
   // Owned by this component, which they call, so that they go when it goes.
-  auto* item = new TQELMRUItem(this, static_cast<std::uint8_t>(number));
+  auto* item = new TQELMRUItem(this, number);
   item->SetCaption(caption);
   container->Insert(position, item);
   return item;

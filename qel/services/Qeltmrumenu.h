@@ -20,23 +20,26 @@ using TQELMRUItemClick = vcl::TEvent<vcl::TObject*, std::string>;
 class QEL_API TQELMRUItem : public vcl::TMenuItem {
  public:
   /// `number` is 1 for the first file of the list, 0 for a separator or a submenu.
-  explicit TQELMRUItem(vcl::TComponent* owner, std::uint8_t number = 0)
+  explicit TQELMRUItem(vcl::TComponent* owner, int number = 0)
       : TMenuItem(owner), FNumber(number) {}
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
-  std::uint8_t Number() const { return FNumber; }
+  int Number() const { return FNumber; }
 
  private:
-  std::uint8_t FNumber;
+  int FNumber;  // A store may have more names than a list with MaxItems has.
 };
 
 /// Keeps a list of files, shows their names in a menu, says when one is clicked, and remembers the
 /// list between runs in its MRUStore, in the values MRU0, MRU1 and so on.
 ///
 /// The list is read when the form has been read, and written when the component is freed and by
-/// Clear; neither happens in the designer. What the store raises reaches the caller; while the
-/// component is being freed it goes to the application.
+/// Clear; neither happens in the designer. What the store raises reaches the caller; while the form
+/// is being read MRUStore's OnError tells it, while the component is being freed the application.
+///
+/// What could not be read is never erased: it is read again before the store is written, and stays
+/// before what has come to the list since; when it still can't be read, the store stays as it is.
 class QEL_API TQELMRUMenu : public TQELComponent {
  public:
   explicit TQELMRUMenu(vcl::TComponent* owner);
@@ -50,13 +53,16 @@ class QEL_API TQELMRUMenu : public TQELComponent {
   void Insert(const std::string& fileName);
   /// Deletes the name, if it is there.
   void Delete(const std::string& fileName);
-  /// Empties the list, and the store.
+  /// Empties the list, and the store unless that can't be read, which is raised.
   void Clear();
-  /// Replaces the list by what the store has, be it more than MaxItems, but at most 255 names. An
-  /// unusable store changes nothing. False when the store is not enabled.
+  /// Replaces the list by what the store has, be it more than MaxItems. An unusable store changes
+  /// nothing. Raises EIniFileException or ERegistryException for one that can't be read, be it one
+  /// value that is no text; the list is as before then. False when the store is not enabled.
   bool Load();
   /// Replaces what the store has by the list. A name that the store refuses is left out and its
-  /// error raised at the end. False when the store is not enabled.
+  /// error raised at the end. Behind a Load that raised, the stored names come to the list first,
+  /// or what they raise is raised again and the store left alone. False when the store is not
+  /// enabled.
   bool Save();
   /// Shows the list in the menu anew.
   virtual void PopulateMenu();
@@ -106,6 +112,10 @@ class QEL_API TQELMRUMenu : public TQELComponent {
   TQELMRUItem* AddItem(vcl::TMenuItem* container, int position, const std::string& caption,
                        int number);
   void AddNames(vcl::TMenuItem* container, int position);
+  bool ReadStored(vcl::TStringList& names);
+  void TakeInUnread();
+  void SaveAtEnd();
+  void WriteAll();
   void Discard(TQELMRUItem* item);
   void FreeDiscarded();
 
@@ -120,6 +130,7 @@ class QEL_API TQELMRUMenu : public TQELComponent {
   int FClicks = 0;  // Being handled.
   std::unique_ptr<TQELDataStore> FMRUStore;
   vcl::TStringList FFiles;
+  bool FUnread = false;  // What is stored was not to be read.
 };
 
 }  // namespace qel

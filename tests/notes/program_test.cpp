@@ -70,6 +70,10 @@ class Notes : public ::testing::Test {
     std::ifstream file(Document, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
+  std::string Settings() const {
+    std::ifstream file(Folder.Path / "settings" / "notes.ini");
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
   std::wstring Arguments(bool document = true) const {
     const std::wstring settings = L" --settings \"" + (Folder.Path / "settings").wstring() + L"\"";
     return document ? L"\"" + Document.wstring() + L"\"" + settings : settings;
@@ -120,6 +124,39 @@ TEST_F(Notes, ASecondStartBringsTheFirstToTheFrontWithItsFile) {
   EXPECT_EQ(first.Window(L"another.txt"), window);
 }
 
+TEST_F(Notes, MinimisedItComesBackWhenItIsStartedAgain) {
+  const TNotes first(Arguments());
+  const HWND window = first.Window(L"document.txt");
+  ASSERT_TRUE(window);
+  ::PostMessageW(window, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+  ASSERT_TRUE(Await([&] { return !::IsWindowVisible(window); }));
+  const TNotes second(Arguments(false));
+  EXPECT_EQ(second.ExitCode(Patience), 0u);
+  EXPECT_TRUE(Await([&] { return ::IsWindowVisible(window) != FALSE; }));
+  EXPECT_TRUE(Await([&] { return ::GetForegroundWindow() == window; }));
+}
+
+TEST_F(Notes, AFileThatIsHandedOverWhileADialogIsUpIsOpenedAfterwards) {
+  const fs::path other = Folder.Path / L"another.txt";
+  std::ofstream(other) << "x";
+  const TNotes first(Arguments());
+  const HWND window = first.Window(L"document.txt");
+  ASSERT_TRUE(window);
+  Type({'X', 'Y'});
+  ASSERT_TRUE(first.Window(L"*document.txt"));
+  ::PostMessageW(window, WM_CLOSE, 0, 0);
+  const HWND dialog = first.Window(L"Confirm");
+  ASSERT_TRUE(dialog);
+  const TNotes second(L"\"" + other.wstring() + L"\"" + Arguments(false));
+  EXPECT_EQ(second.ExitCode(Patience), 0u);
+  ASSERT_EQ(first.Window(L"Confirm"), dialog);
+  Type({VK_ESCAPE});
+  ASSERT_TRUE(Await([&] { return !::IsWindow(dialog); }));
+  ASSERT_TRUE(first.Window(L"Confirm")) << "the text would be lost";
+  Type({'N'});
+  EXPECT_EQ(first.Window(L"another.txt"), window);
+}
+
 TEST_F(Notes, PlaceAndRecentFilesComeBack) {
   RECT left{}, back{};
   for (const bool again : {false, true}) {
@@ -133,8 +170,7 @@ TEST_F(Notes, PlaceAndRecentFilesComeBack) {
     ::PostMessageW(window, WM_CLOSE, 0, 0);
     EXPECT_EQ(notes.ExitCode(Patience), 0u);
   }
-  std::ifstream file(Folder.Path / "settings" / "notes.ini");
-  const std::string settings{std::istreambuf_iterator<char>(file), {}};
+  const std::string settings = Settings();
   EXPECT_NE(settings.find("MRU0=" + Document.string()), std::string::npos) << settings;
 }
 
@@ -164,8 +200,10 @@ TEST_F(Notes, TheEndOfTheSessionKeepsTheTextForTheNextStart) {
     const HWND application = ::GetWindow(window, GW_OWNER);
     for (const HWND each : {window, application})
       EXPECT_EQ(::SendMessageW(each, WM_QUERYENDSESSION, 0, 0), TRUE);
+    ::MoveWindow(window, 77, 55, 500, 333, TRUE);
     ::SendMessageW(application, WM_ENDSESSION, TRUE, 0);
     notes.End();
+    EXPECT_NE(Settings().find("TNotesForm_Left=77"), std::string::npos) << Settings();
     EXPECT_EQ(Read(), "old\n");
   }
   SaveWhatWasUnsaved();

@@ -81,6 +81,27 @@ TEST_F(IniFile, WhatALineCantHoldIsRefused) {
                vcl::EIniFileException);
 }
 
+TEST_F(IniFile, AFileThatOthersHaveOpenForReadingIsWritten) {
+  Put("[S]\na=1\nlong=" + std::string(5000, 'x') + "\n");
+  const std::ifstream reader(Name(), std::ios::binary);  // On Windows it denies deletion.
+  TIniFile ini(Name());
+  ini.WriteString("S", "b", std::string(9000, 'y'));
+  EXPECT_EQ(Text(),
+            "[S]\na=1\nlong=" + std::string(5000, 'x') + "\nb=" + std::string(9000, 'y') + "\n");
+  ini.DeleteKey("S", "b");
+  ini.DeleteKey("S", "long");
+  EXPECT_EQ(Text(), "[S]\na=1\n");
+  const auto files = std::distance(fs::directory_iterator(Folder), fs::directory_iterator());
+  EXPECT_EQ(files, 1) << "nothing is left beside it";
+}
+
+TEST_F(IniFile, WhatMustBeReadIsNotTakenForMissing) {
+  TIniFile ini(Folder.string()), missing(Name());
+  for (TIniFile* each : {&ini, &missing}) each->SetMustRead(true);
+  EXPECT_THROW(ini.ReadString("S", "a", "none"), vcl::EIniFileException);
+  EXPECT_EQ(missing.ReadString("S", "a", "none"), "none");
+}
+
 TEST_F(IniFile, ValuesOfOtherKinds) {
   TIniFile ini(Name());
   ini.WriteFloat("S", "f", 0.1);

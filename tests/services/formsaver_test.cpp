@@ -165,6 +165,29 @@ TEST_F(FormSaver, ADescendantMayStoreTheBoundsFromBeforeMaximizing) {
   }
 }
 
+TEST_F(FormSaver, APageControlComesBackWithThePageThatWasActive) {
+  auto* const pages = new vcl::TPageControl(Form);
+  pages->SetParent(Form);
+  pages->SetName("Pages");
+  for (const char* const name : {"One", "Two", "Three"}) {
+    auto* const page = new vcl::TTabSheet(Form);
+    page->SetName(name);
+    page->SetPageControl(pages);
+  }
+  for (const int stored : {0, 1, 2}) {
+    Form->Show();
+    pages->SetActivePageIndex(stored);
+    Form->Close();
+    for (const int begin : {0, 1, 2}) {
+      pages->SetActivePageIndex(begin);
+      Form->Show();
+      EXPECT_EQ(pages->ActivePageIndex(), stored) << begin;
+      for (int i = 0; i < 3; ++i) EXPECT_EQ(pages->Pages(i)->Visible(), i == stored) << begin << i;
+      Form->Hide();
+    }
+  }
+}
+
 TEST_F(FormSaver, SparedControlsAreNotStoredButRead) {
   Form->Saver->OnStoreControl = [](vcl::TObject* sender, bool& result) {
     result = sender->ClassName() != "TGroupBox";
@@ -219,10 +242,12 @@ TEST_F(FormSaver, KeepOnScreenMovesWhatIsOutOfReach) {
 TEST_F(FormSaver, GivesTheFormItsHandlersAndItsWindowBack) {
   static int emptied;
   emptied = 0;
+  // Where pointers fit into a LONG, the call that takes one is the other's name.
   const TImportPatch patch(
-      "qel.dll", "SetWindowLongA", +[](HWND window, int index, LONG value) WINAPI -> LONG {
+      "qel.dll", sizeof(void*) == sizeof(LONG) ? "SetWindowLongA" : "SetWindowLongPtrA",
+      +[](HWND window, int index, LONG_PTR value) WINAPI -> LONG_PTR {
         emptied += index == GWLP_WNDPROC && value == 0;
-        return ::SetWindowLongA(window, index, value);
+        return ::SetWindowLongPtrA(window, index, value);
       });
   Form->Show();
   delete Form->Saver;
@@ -274,6 +299,50 @@ TEST_F(FormSaver, StoresInTheRegistryAndReadsWithDefaultsThatStay) {
   EXPECT_EQ(Form->Saver->FormStore()->ErrorStr(), "default");
   EXPECT_EQ(Form->Saver->FormStore()->ErrorInt(), 7);  // The left side of the button.
   ::RegDeleteTreeA(HKEY_CURRENT_USER, path.c_str());
+}
+
+TEST_F(FormSaver, AValueOfAnotherTypeIsToldAndTheOthersAreRestored) {
+  const std::string path = "Software\\Form saver test " + std::to_string(::GetCurrentProcessId());
+  Form->Saver->FormStore()->SetDatatype(sRegistry);
+  Form->Saver->FormStore()->Registry()->SetPath(path);
+  Form->Saver->SetStoreLocation(false);
+  ShowAndClose();
+  for (const char* const name : {"TSavedForm_Width", "TSavedForm_WindowState", "Box_Visible"}) {
+    ::RegSetKeyValueA(HKEY_CURRENT_USER, (path + "\\MySection").c_str(), name, REG_DWORD, "abc", 4);
+  }
+  Form->SetBounds(1, 2, 333, 222);
+  Form->Box->SetBounds(1, 2, 33, 22);
+  Form->Button1->SetBounds(1, 2, 33, 22);  // A value as it is would be told, too.
+  Form->Saver->FormStore()->OnError = [this](vcl::TObject*) { Form->Log += "error "; };
+  Form->Log.clear();
+  Form->Show();
+  EXPECT_EQ(Form->Log, "show error error error ");
+  EXPECT_EQ(Form->BoundsRect(), vcl::Bounds(1, 2, 333, 300));
+  EXPECT_EQ(Form->Box->BoundsRect(), vcl::Bounds(1, 2, 200, 100));
+  ::RegDeleteTreeA(HKEY_CURRENT_USER, path.c_str());
+}
+
+TEST_F(FormSaver, ALockedFileIsWaitedForAndToldOnce) {
+  Write("Box_Width=77\n");
+  const HANDLE lock = ::CreateFileA(TSavedForm::IniName().c_str(), GENERIC_READ, 0, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+  Form->Saver->FormStore()->OnError = [this](vcl::TObject*) { Form->Log += "error "; };
+  Form->Saver->OnRestore = [this](vcl::TObject*) { Form->Log += "restored "; };
+  const DWORD start = ::GetTickCount();
+  ShowAndClose();
+  EXPECT_FALSE(Form->Visible());
+  EXPECT_EQ(Form->Log, "show error restored close error ");
+  Form->Saver->FormStore()->OnError = nullptr;
+  vcl::Application()->OnException = [this](vcl::TObject*, const std::exception& error) {
+    Form->Log += error.what();
+  };
+  Form->Log.clear();
+  Form->Saver->Store();
+  EXPECT_LT(::GetTickCount() - start, 12000u) << "not for each value";
+  vcl::Application()->OnException = nullptr;
+  EXPECT_THAT(Form->Log, testing::HasSubstr("Cannot read file")) << "nobody else tells";
+  ::CloseHandle(lock);
+  EXPECT_EQ(Stored(), "Box_Width=77 ");
 }
 
 TEST_F(FormSaver, InADesignerTheFormIsLeftAlone) {

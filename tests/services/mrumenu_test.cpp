@@ -157,8 +157,15 @@ TEST_F(MRUMenu, TheStoreHasTheListFromRunToRun) {
   MRU->MRUStore()->Registry()->SetSection("MRU Items");
   for (int i = 3; i < 1000; ++i) MRU->MRUStore()->WriteStr("X" + std::to_string(i), "x");
   MRU->Load();
-  EXPECT_EQ(File->Items(256)->Caption(), "x");
-  EXPECT_EQ(File->Count(), 258) << "numbers end with 255";
+  EXPECT_EQ(File->Count(), 1003) << "all are shown";
+  std::string clicked;
+  MRU->OnItemClick = [&](vcl::TObject* sender, const std::string& name) {
+    clicked = std::to_string(static_cast<TQELMRUItem*>(sender)->Number()) + name;
+  };
+  MRU->MRUStore()->WriteStr("Y", "last");
+  MRU->Load();
+  File->Items(1002)->Click();
+  EXPECT_EQ(clicked, "1001last");
 }
 
 TEST_F(MRUMenu, WhatTheStoreRefusesReachesTheCallerAndTheRestIsKept) {
@@ -174,6 +181,74 @@ TEST_F(MRUMenu, WhatTheStoreRefusesReachesTheCallerAndTheRestIsKept) {
   MRU.reset();
   EXPECT_EQ(errors, 1);
   vcl::Application()->OnException = nullptr;
+  ::DeleteFileA(file.c_str());
+}
+
+/// A menu that is read with its form.
+struct TLoadedMRU : TQELMRUMenu {
+  using TQELMRUMenu::Loaded;
+  using TQELMRUMenu::TQELMRUMenu;
+};
+
+/// A store that can't be read for a while.
+class MRUMenuUnread : public MRUMenu {
+ protected:
+  MRUMenuUnread() {
+    for (int i = 0; i < 2; ++i) MRU->MRUStore()->WriteStr("MRU" + std::to_string(i), Names[i]);
+  }
+  /// One that has loaded what is there, and OnError's number of calls.
+  int Loaded(std::unique_ptr<TLoadedMRU>& mru) const {
+    int told = 0;
+    mru = std::make_unique<TLoadedMRU>(nullptr);
+    mru->MRUStore()->SetDatatype(MRU->MRUStore()->Datatype());
+    mru->MRUStore()->Inifile()->SetFilename(MRU->MRUStore()->Inifile()->Filename());
+    mru->MRUStore()->Registry()->SetPath(MRU->MRUStore()->Registry()->Path());
+    mru->MRUStore()->OnError = [&](vcl::TObject*) { ++told; };
+    mru->Loaded();
+    mru->MRUStore()->OnError = nullptr;
+    return told;
+  }
+  const std::string Names[2] = {"a", "b"};
+};
+
+TEST_F(MRUMenuUnread, AValueOfAnotherTypeKeepsTheStoreAsItIs) {
+  const auto set = [&](DWORD type) {
+    ::RegSetKeyValueA(HKEY_CURRENT_USER, "Software\\QELTests\\MRU\\MRU Items", "MRU1", type, "b",
+                      4);
+  };
+  set(REG_DWORD);
+  std::unique_ptr<TLoadedMRU> mru;
+  EXPECT_EQ(Loaded(mru), 1);
+  EXPECT_THROW(mru->Load(), vcl::ERegistryException);
+  EXPECT_THROW(mru->Clear(), vcl::ERegistryException);
+  mru.reset();
+  EXPECT_EQ(Loaded(mru), 1) << "it is still there";
+  mru->Insert("c");
+  EXPECT_THROW(mru->Save(), vcl::ERegistryException);
+  set(REG_SZ);
+  mru->Save();
+  EXPECT_THAT(Stored(), ElementsAre("MRU0=a", "MRU1=b", "MRU2=c"));
+}
+
+TEST_F(MRUMenuUnread, ALockedFileIsToldOnceAndKeptWithWhatComesLater) {
+  const std::string file = "C:\\mru_test.ini";
+  MRU->MRUStore()->SetDatatype(sIniFile);
+  MRU->MRUStore()->Inifile()->SetFilename(file);
+  for (int i = 0; i < 2; ++i) MRU->MRUStore()->WriteStr("MRU" + std::to_string(i), Names[i]);
+  const HANDLE lock =
+      ::CreateFileA(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  std::unique_ptr<TLoadedMRU> mru, unused;
+  const DWORD start = ::GetTickCount();
+  EXPECT_EQ(Loaded(mru), 1);
+  EXPECT_EQ(Loaded(unused), 1);
+  EXPECT_LT(::GetTickCount() - start, 8000u);
+  ::CloseHandle(lock);
+  unused.reset();
+  EXPECT_THAT(Stored(), ElementsAre("MRU0=a", "MRU1=b"));
+  mru->Insert("B");
+  mru->Insert("c");
+  mru.reset();
+  EXPECT_THAT(Stored(), ElementsAre("MRU0=a", "MRU1=b", "MRU2=c"));
   ::DeleteFileA(file.c_str());
 }
 

@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <cstdio>
+#include <thread>
 
 #include "tests/vcl/testinput.h"
 #include "vcl/controls/windowtext.h"
@@ -47,6 +48,39 @@ TEST(Application, AMainFormThatRefusesToCloseKeepsTheProgram) {
   main->OnActivate = [&](TObject*) { ::PostMessageW(main->Handle(), WM_CLOSE, 0, 0); };
   Application()->Run();
   EXPECT_EQ(closes, 2);
+}
+
+TEST(Application, TheEndOfTheSessionClosesTheMainFormAndFreesWhatNobodyUses) {
+  const HWND application = Application()->Handle();
+  for (const bool underway : {false, true}) {
+    TLog log;
+    auto* main = Application()->CreateForm<TForm>();
+    main->OnClose = [&](TObject*, TCloseAction& action) {
+      EXPECT_TRUE(Application()->SessionEnding());
+      log.push_back("close");
+      action = caNone;  // Nobody asks any more.
+    };
+    main->OnDestroy = [&](TObject*) { log.push_back("freed"); };
+    const auto end = [&] {
+      ::SendMessageW(application, WM_ENDSESSION, TRUE, 0);
+      log.push_back("ended");
+    };
+    std::thread system;
+    Application()->OnIdle = [&](TObject*, bool&) {
+      if (underway) {
+        end();
+      } else if (!system.joinable()) {
+        system = std::thread(end);
+      }
+    };
+    Application()->Run();
+    if (system.joinable()) system.join();
+    EXPECT_EQ(log,
+              underway ? (TLog{"close", "ended", "freed"}) : (TLog{"close", "freed", "ended"}));
+    Application()->OnIdle = nullptr;
+    ::SendMessageW(application, WM_ENDSESSION, FALSE, 0);
+    EXPECT_FALSE(Application()->SessionEnding());
+  }
 }
 
 TEST(Application, ErrorsGoToTheHandlerAndItsOwnToABox) {

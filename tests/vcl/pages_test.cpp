@@ -135,6 +135,34 @@ TEST_F(Pages, APageFillsWhatTheTabsLeave) {
   EXPECT_EQ(heard, "show hide ");
 }
 
+TEST_F(Pages, ExactlyTheActivePageIsVisible) {
+  auto* pages = Make<TPageControl>(10, 10);
+  auto* others = Make<TPageControl>(10, 250);
+  TTabSheet* sheets[] = {AddPage(pages, "one"), AddPage(pages, "two"), AddPage(pages, "three")};
+  ShowForm();
+  const auto visible = [&] {
+    std::string list;
+    for (TTabSheet* each : sheets) {
+      EXPECT_EQ(each->Visible(), ::IsWindowVisible(each->Handle()) != FALSE) << each->Caption();
+      EXPECT_EQ(each->Visible(), each->PageControl()->ActivePage() == each) << each->Caption();
+      list += each->Visible() ? each->Caption() + " " : "";
+    }
+    return list;
+  };
+  EXPECT_EQ(visible(), "one ");
+  sheets[1]->SetVisible(true);
+  EXPECT_EQ(visible(), "two ");
+  EXPECT_EQ(::SendMessageW(pages->Handle(), TCM_GETCURSEL, 0, 0), 1);
+  sheets[0]->SetVisible(false);
+  EXPECT_EQ(visible(), "two ");
+  sheets[1]->Hide();
+  EXPECT_EQ(visible(), "");
+  sheets[2]->Show();
+  AddPage(others, "another");
+  sheets[2]->SetPageControl(others);
+  EXPECT_EQ(visible(), "two ");
+}
+
 TEST_F(Pages, PanelsDrawTheirBevelsAroundTheControls) {
   auto* panel = Make<TPanel>(0, 0);
   panel->SetBounds(0, 0, 60, 40);

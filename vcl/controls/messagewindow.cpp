@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "vcl/controls/private/handling.h"
 #include "vcl/forms/application.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/win32.h"
@@ -18,6 +19,7 @@ LRESULT CALLBACK PassOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
       reinterpret_cast<const TWndMethod*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
   if (!method) return ::DefWindowProcW(window, message, wParam, lParam);
   TMessage record{message, wParam, lParam, 0};
+  const THandling handling;
   try {
     (*method)(record);
   } catch (...) {

@@ -3,6 +3,7 @@
 #include <map>
 #include <unordered_map>
 
+#include "vcl/controls/private/handling.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/controls/windowtext.h"
 #include "vcl/forms/application.h"
@@ -212,6 +213,7 @@ LRESULT CALLBACK TWinControl::StaticWndProc(HWND window, UINT message, WPARAM wP
   if (!control) return ::DefWindowProcW(window, message, wParam, lParam);
   TMessage record{message, wParam, lParam, 0};
   TWatch watch(control);
+  const THandling handling;
   try {
     if (!control->TakenByDesigner(record)) control->WndProc(record);
   } catch (...) {

@@ -6,6 +6,7 @@
 #include <exception>
 #include <utility>
 
+#include "vcl/controls/private/handling.h"
 #include "vcl/controls/windowtext.h"
 #include "vcl/forms/forms.h"
 #include "vcl/forms/private/faults.h"
@@ -129,6 +130,7 @@ int TApplication::Run() {
     } catch (...) {
       HandleCurrentException(FMainForm);
     }
+    const TSetFor running(FRunning, true);
     while (!Terminated()) HandleMessage();
   }
   FreeForms();
@@ -199,6 +201,7 @@ LRESULT CALLBACK TApplication::StaticWndProc(HWND window, UINT message, WPARAM w
   if (!TheApplication || TheApplication->FHandle != window) {
     return ::DefWindowProcW(window, message, wParam, lParam);
   }
+  const THandling handling;
   try {
     return TheApplication->WndProc(message, wParam, lParam);
   } catch (...) {
@@ -222,11 +225,13 @@ LRESULT TApplication::WndProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_QUERYENDSESSION: return AskSessionEnd(FMainForm);
     case WM_ENDSESSION:
       FSessionEnding = wParam != 0;
-      if (wParam) Terminate();
+      if (wParam) EndSession();
       return 0;
     case WM_SIZE: SizeChanged(wParam); break;
     case WM_ACTIVATEAPP: SetActive(wParam != 0); break;
-    case WM_SETFOCUS: BringToFront(); break;
+    case WM_SETFOCUS:
+      if (!FMinimized) BringToFront();
+      break;
     case WM_SYSCOLORCHANGE:
     case WM_SETTINGCHANGE: TellForms(CM_SYSCOLORCHANGE); break;
     default: break;
@@ -238,6 +243,21 @@ bool TApplication::AskSessionEnd(TCustomForm* form) {
   FSessionEnding = true;
   const TOnFailure goesOn([this] { FSessionEnding = false; });
   return FSessionEnding = !form || form->CloseQuery();
+}
+
+// From the answer on the system may end the process at any time: what closing would do is done
+// before that. Code that is underway still needs the forms; they go when it has returned to Run.
+void TApplication::EndSession() {
+  if (Terminated()) return;
+  try {
+    TCloseAction action = caHide;
+    if (FMainForm) FMainForm->DoClose(action);
+  } catch (...) {
+    HandleCurrentException(FMainForm);
+  }
+  Terminate();
+  const bool onlyThis = THandling::Depth() == 1;
+  if (FRunning && onlyThis) FreeForms();
 }
 
 // The system hands out posted messages before input and painting, and timers after them. Threads
@@ -277,6 +297,8 @@ void TApplication::SetActive(bool active) {
 void TApplication::Minimize() {
   if (::IsIconic(Handle())) return;
   CancelHint();
+  // Who looks for the window that was active last, to restore it, is to find the application's.
+  FMinimized = true;
   ::SetActiveWindow(FHandle);
   ::DefWindowProcW(FHandle, WM_SYSCOMMAND, SC_MINIMIZE, 0);
   OnMinimize(this);

@@ -78,7 +78,8 @@ class VCL_API TApplication : public TCustomApplication {
   void Terminate() override;
   /// True from the moment that the system asks whether the user's session may end until he decides
   /// otherwise: OnCloseQuery should then keep what is unsaved rather than ask, as the process may
-  /// be ended without another word.
+  /// be ended without another word. When it has ended, the main form's OnClose is called, whose
+  /// action counts for nothing, and the forms are freed as at Run's end.
   bool SessionEnding() const { return FSessionEnding; }
   /// The code that Run returns.
   void SetExitCode(int code) { FExitCode = code; }
@@ -145,6 +146,7 @@ class VCL_API TApplication : public TCustomApplication {
   void CreateHandle();
   /// Asks the form whether the session may end; true without one.
   bool AskSessionEnd(TCustomForm* form);
+  void EndSession();
   void SetMainFormIfNone(TCustomForm* form);
   void FreeForms();
   /// Frees the form when the message in hand is done.
@@ -176,6 +178,7 @@ class VCL_API TApplication : public TCustomApplication {
   bool FMinimized = false;
   bool FFormsShown = false;
   bool FHasRun = false;
+  bool FRunning = false;
   bool FSessionEnding = false;
   bool FShowingError = false;
   unsigned FThreadsRounds = 0;

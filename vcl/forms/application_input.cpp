@@ -1,5 +1,6 @@
 // TApplication: the message loop, what it does to input on its way, and the mouse over controls.
 #include "vcl/forms/application.h"
+#include "vcl/controls/private/handling.h"
 #include "vcl/forms/drag.h"
 #include "vcl/forms/forms.h"
 #include "vcl/forms/screen.h"
@@ -67,6 +68,7 @@ void TApplication::HandleMessage() {
 }
 
 void TApplication::Dispatch(MSG& message) {
+  const THandling handling;
   bool handled = false;
   OnMessage(message, handled);
   if (handled || PreprocessInput(message)) return;
@@ -88,6 +90,7 @@ bool TApplication::PreprocessInput(MSG& message) {
 void TApplication::Idle() {
   bool done = true;
   try {
+    const THandling handling;
     CheckSynchronize();
     TrackMouse(nullptr);
     OnIdle(this, done);

@@ -204,7 +204,9 @@ void TIniFile::Look(const std::function<void(const TIniText&)>& look) const {
   constexpr std::size_t worthKeeping = 1 << 20;
   static thread_local std::string kept;
   std::string bytes = std::move(kept);
-  if (os::ReadWholeFile(FFullName, bytes) != os::TReading::Done) bytes.clear();
+  const os::TReading reading = os::ReadWholeFile(FFullName, bytes);
+  if (reading == os::TReading::Refused && FMustRead) Refuse("read", FFullName);
+  if (reading != os::TReading::Done) bytes.clear();
   TIniText text(DecodeIni(std::move(bytes)));
   look(text);
   if (text.Text().size() < worthKeeping) kept = text.TakeText();

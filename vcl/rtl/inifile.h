@@ -85,12 +85,18 @@ class VCL_API TCustomIniFile : public TObject {
 /// UTF-8.
 ///
 /// Several programs and threads may write to one file at a time: each change is made to what the
-/// one before has left. Whenever a program ends, the file is whole. Reading a file that is missing
-/// or can't be read gives the values of `otherwise`.
+/// one before has left. Whenever a program ends, the file is whole. It is replaced or, while
+/// another program has it open and lets it be written but not replaced, written over. Reading a
+/// file that is missing or can't be read gives the values of `otherwise`; a program that has the
+/// file for itself is waited for, up to two seconds by each call.
 class VCL_API TIniFile : public TCustomIniFile {
  public:
   /// Raises EIniFileException for an empty name.
   explicit TIniFile(const std::string& fileName);
+  bool MustRead() const { return FMustRead; }
+  /// True raises EIniFileException where a file is there and can't be read, so that its values are
+  /// not taken for missing ones.
+  void SetMustRead(bool mustRead) { FMustRead = mustRead; }
   /// Nothing is left to write.
   void UpdateFile() override {}
 
@@ -100,6 +106,7 @@ class VCL_API TIniFile : public TCustomIniFile {
 
  private:
   std::string FFullName;
+  bool FMustRead = false;
 };
 
 /// A settings file in memory: many values are read and written at once. The file is named, and its

@@ -151,7 +151,8 @@ void TPageControl::Loaded() {
 void TPageControl::InsertPage(TTabSheet* page) {
   FPages.push_back(page);
   UpdateTabs();
-  if (!FActivePage && page->TabVisible() && !Loading()) SetActivePage(page);
+  if (!FActivePage && page->TabVisible() && !Loading()) return SetActivePage(page);
+  page->SetVisible(false);  // It may have been the active one elsewhere.
 }
 
 void TPageControl::RemovePage(TTabSheet* page) {

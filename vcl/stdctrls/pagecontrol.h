@@ -91,6 +91,9 @@ class VCL_API TTabSheet : public TWinControl {
   void SetPageControl(TPageControl* pageControl);
   /// Raises EInvalidOperation for a parent that is no page control.
   void SetParent(TWinControl* parent) override;
+  /// In a page control the active page is visible, and no other: true makes this one active, false
+  /// leaves none active when this one is.
+  void SetVisible(bool visible) override;
   /// The place among the pages; -1 without a page control.
   int PageIndex() const;
   /// Raises EListError outside. While a form is being read, it is taken from the order there.

@@ -42,7 +42,7 @@ const TClass& TTabSheet::Class() {
 TTabSheet::TTabSheet(TComponent* owner) : TWinControl(owner) {
   SetControlStyle(ControlStyle() + TControlStyle{csAcceptsControls, csNoDesignVisible});
   SetAlign(alClient);
-  SetVisible(false);
+  TWinControl::SetVisible(false);
 }
 
 TTabSheet::~TTabSheet() {
@@ -63,6 +63,13 @@ void TTabSheet::SetParent(TWinControl* parent) {
   TWinControl::SetParent(parent);
   if (former) former->RemovePage(this);
   if (pages) pages->InsertPage(this);
+}
+
+void TTabSheet::SetVisible(bool visible) {
+  TPageControl* pages = PageControl();
+  const bool active = pages && pages->ActivePage() == this;
+  if (!pages || visible == active) return TWinControl::SetVisible(visible);
+  pages->SetActivePage(visible ? this : nullptr);
 }
 
 int TTabSheet::PageIndex() const {

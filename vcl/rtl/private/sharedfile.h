@@ -37,8 +37,9 @@ enum class TWritten { Later, OnDisk };
 
 /// Replaces the contents: whoever reads the file, and whenever the program ends, it holds either
 /// the former contents or the new ones. They are written to a file beside it, "NAME.~new", which
-/// then takes its place. Call it in one's turn. False when the system refuses; LastSystemError says
-/// why, and the file is as before.
+/// then takes its place. Written Later, a file that others have open without letting it be replaced
+/// is written over instead; who reads it in that moment may see some of both. Call it in one's
+/// turn. False when the system refuses; LastSystemError says why, and the file is as before.
 bool ReplaceWholeFile(const std::string& name, const std::string& contents, TWritten when);
 
 }  // namespace vcl::os

@@ -21,6 +21,8 @@ constexpr DWORD Patience = 10000;  // Milliseconds.
 /// another program has the file open.
 constexpr int Tries = 400;
 constexpr DWORD BetweenTries = 5;
+/// As many tries are made without a pause.
+constexpr int ShortTries = 10;
 constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 HANDLE Handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
@@ -33,7 +35,7 @@ bool WorthAnotherTry(int& tries) {
   const DWORD error = GetLastError();
   if (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED) return false;
   if (++tries > Tries) return false;
-  Sleep(tries < 10 ? 0 : BetweenTries);
+  Sleep(tries < ShortTries ? 0 : BetweenTries);
   SetLastError(error);
   return true;
 }
@@ -61,11 +63,57 @@ bool WriteBeside(const std::wstring& name, DWORD attributes, const std::string& 
   return written;
 }
 
-bool PutInPlace(const std::wstring& beside, const std::wstring& name, TWritten when) {
+/// True while a program has the file open without letting others delete it.
+bool DeletionDenied(const std::wstring& name) {
+  const HANDLE file = CreateFileW(name.c_str(), DELETE, ShareAll, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return GetLastError() == ERROR_SHARING_VIOLATION;
+  CloseHandle(file);
+  return false;
+}
+
+/// Has the disk's room for a file that becomes larger before anything of it is changed. A system
+/// that can't do so says it otherwise.
+bool Reserve(HANDLE file, std::size_t bytes) {
+  LARGE_INTEGER former{}, size{};
+  size.QuadPart = static_cast<LONGLONG>(bytes);
+  if (!GetFileSizeEx(file, &former)) return false;
+  return former.QuadPart >= size.QuadPart ||
+         SetFileInformationByHandle(file, FileAllocationInfo, &size, sizeof size) ||
+         GetLastError() != ERROR_DISK_FULL;
+}
+
+/// Writes over what the file holds, and cuts off what is left of it.
+bool WriteOver(const std::wstring& name, const std::string& contents) {
+  const HANDLE file = CreateFileW(name.c_str(), GENERIC_WRITE | FILE_READ_ATTRIBUTES, ShareAll,
+                                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return false;
+  const bool written = Reserve(file, contents.size()) &&
+                       WriteAll(reinterpret_cast<std::intptr_t>(file), contents) &&
+                       SetEndOfFile(file);
+  const DWORD error = GetLastError();
+  CloseHandle(file);
+  SetLastError(error);
+  return written;
+}
+
+/// A program that has the file open and doesn't let it be replaced may still let others write. The
+/// contents stay beside it until they are in it.
+bool WriteThrough(const std::wstring& beside, const std::wstring& name,
+                  const std::string& contents) {
+  if (!DeletionDenied(name) || !WriteOver(name, contents)) return false;
+  DeleteFileW(beside.c_str());
+  return true;
+}
+
+bool PutInPlace(const std::wstring& beside, const std::wstring& name, const std::string& contents,
+                TWritten when) {
   const DWORD through = when == TWritten::OnDisk ? MOVEFILE_WRITE_THROUGH : 0;
   for (int tries = 0;;) {
     if (MoveFileExW(beside.c_str(), name.c_str(), MOVEFILE_REPLACE_EXISTING | through)) return true;
     if (!WorthAnotherTry(tries)) return false;
+    if (when == TWritten::Later && tries >= ShortTries && WriteThrough(beside, name, contents))
+      return true;
   }
 }
 
@@ -139,7 +187,7 @@ bool ReplaceWholeFile(const std::string& name, const std::string& contents, TWri
   }
   const std::wstring beside = wide + L".~new";
   if (WriteBeside(beside, exists ? former : FILE_ATTRIBUTE_NORMAL, contents, when) &&
-      PutInPlace(beside, wide, when))
+      PutInPlace(beside, wide, contents, when))
     return true;
   const DWORD error = GetLastError();
   DeleteFileW(beside.c_str());

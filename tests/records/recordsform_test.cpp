@@ -1,0 +1,127 @@
+// The form of Records with a database of its own: what it asks before something is lost.
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+#include "demos/records/recordsform.h"
+#include "tests/support/program.h"
+#include "tests/vcl/testinput.h"
+#include "vcl/dbctrls/registration.h"
+#include "vcl/vcl.h"
+
+namespace records {
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class Records : public testing::Test {
+ protected:
+  void SetUp() override {
+    vcl::RegisterDataControls();
+    Form = std::make_unique<TRecordsForm>(nullptr);
+    try {
+      Form->Open((Folder.Path / "people.db").string());
+    } catch (const vcl::EDatabaseError& error) {
+      GTEST_SKIP() << "no driver for SQLite: " << error.what();
+    }
+    Form->Show();
+  }
+  ~Records() override { vcl::Application()->OnIdle = nullptr; }
+
+  template <class T>
+  T* Find(const char* name) const {
+    return dynamic_cast<T*>(Form->FindComponent(name));
+  }
+  void Click(const char* button) const { Find<vcl::TButton>(button)->Click(); }
+  vcl::TField* Name() const { return Find<vcl::TOdbcQuery>("Query")->FieldByName("name"); }
+  int Count() const {
+    auto* const query = Find<vcl::TOdbcQuery>("Query");
+    int count = 0;
+    for (query->First(); !query->Eof(); query->Next()) ++count;
+    return count;
+  }
+  std::string Status() const { return Find<vcl::TStatusBar>("StatusBar")->SimpleText(); }
+  /// Imports a file of these lines; the questions are answered with these buttons.
+  std::vector<std::string> Import(const std::string& lines, std::vector<std::string> answers) {
+    const std::string name = (Folder.Path / "people.csv").string();
+    std::ofstream(name, std::ios::binary) << lines;
+    const auto asked = Answering(std::move(answers));
+    try {
+      Form->Import(name);
+    } catch (const vcl::EAbort&) {
+    }
+    return *asked;
+  }
+  /// Presses buttons in the next dialogs, whose texts it collects.
+  static std::shared_ptr<std::vector<std::string>> Answering(std::vector<std::string> answers) {
+    auto asked = std::make_shared<std::vector<std::string>>();
+    vcl::Application()->OnIdle = [=](vcl::TObject*, bool&) {
+      vcl::TCustomForm* const dialog = vcl::Screen()->ActiveForm();
+      if (!dialog || asked->size() >= answers.size() || dialog->ClassName() == "TRecordsForm")
+        return;
+      const std::string wanted = answers[asked->size()];
+      std::string text;
+      vcl::TButton* button = nullptr;
+      for (int i = 0; i < dialog->ControlCount(); ++i) {
+        if (auto* label = dynamic_cast<vcl::TLabel*>(dialog->Controls(i))) text = label->Caption();
+        auto* each = dynamic_cast<vcl::TButton*>(dialog->Controls(i));
+        if (each && each->Caption() == wanted) button = each;
+      }
+      if (!button) return;
+      asked->push_back(text);
+      button->Click();
+    };
+    return asked;
+  }
+
+  const testing_support::TFolder Folder;
+  std::unique_ptr<TRecordsForm> Form;
+};
+
+TEST_F(Records, AreDeletedWhenTheUserAgrees) {
+  const std::string first = Name()->AsString();
+  for (const bool agreed : {false, true}) {
+    const auto asked = Answering({agreed ? "&Yes" : "&No"});
+    Click("DeleteButton");
+    EXPECT_THAT(*asked, ElementsAre("Delete " + first + "?"));
+    EXPECT_EQ(Count(), agreed ? 5 : 6);
+    Find<vcl::TOdbcQuery>("Query")->First();
+  }
+}
+
+TEST_F(Records, ANewOneBeginsWithItsName) {
+  ASSERT_TRUE(testinput::PumpUntil([&] { return Form->Active(); }));
+  Click("AddButton");
+  EXPECT_EQ(Form->ActiveControl(), Find<vcl::TDBEdit>("NameEdit"));
+  EXPECT_TRUE(Find<vcl::TDBEdit>("NameEdit")->Focused());
+  Click("CancelButton");
+}
+
+TEST_F(Records, ExportingAsksBeforeItReplacesAFile) {
+  EXPECT_TRUE(Find<vcl::TSaveDialog>("SaveDialog")->Options().Has(vcl::ofOverwritePrompt));
+  EXPECT_TRUE(Find<vcl::TOpenDialog>("OpenDialog")->Options().Has(vcl::ofFileMustExist));
+}
+
+TEST_F(Records, ABadValueIsToldWithItsPlaceAndTheUserDecides) {
+  const std::string lines =
+      "(Name)(City)(Born)(Balance)\n"
+      "Gunnar;Oslo;;1\n"
+      "\n"
+      "Hilde;Oslo;never;1\n"
+      "Ivar;Oslo;;much\n"
+      "Jorunn;Oslo;;4\n";
+  EXPECT_THAT(Import(lines, {"&Yes", "&No"}),
+              ElementsAre(AllOf(HasSubstr("Line 4, Born: "), HasSubstr("never")),
+                          AllOf(HasSubstr("Line 5, Balance: "), HasSubstr("much"))));
+  EXPECT_EQ(Count(), 6) << "the import is taken back";
+  EXPECT_EQ(Status(), "Nothing is read from people.csv");
+  EXPECT_THAT(Import(lines, {"A&ll"}), ElementsAre(HasSubstr("Line 4")));
+  EXPECT_EQ(Count(), 8);
+  EXPECT_THAT(Status(), AllOf(HasSubstr("2 records read from people.csv, 2 refused"),
+                              HasSubstr("Line 5, Balance: ")));
+}
+
+}  // namespace
+}  // namespace records
