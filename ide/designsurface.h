@@ -115,6 +115,7 @@ class TDesignSurface : public vcl::TDesignerHook {
   void MouseMove(vcl::TPoint screen);
   void MouseUp(vcl::TPoint screen);
   void Move(vcl::TPoint by);
+  vcl::TPoint Reachable(const TDragged& dragged, vcl::TPoint by) const;
   void Size(vcl::TPoint by);
   void EndBand(const vcl::TRect& band);
   void EndMode();

@@ -60,8 +60,8 @@ bool TDesignSurface::Arrow(WPARAM key) {
   BeginDrag();
   for (const TDragged& each : std::exchange(FDragged, {})) {
     TRect bounds = each.Bounds;
-    ctrl ? bounds.Offset(step * arrow->X, step * arrow->Y)
-         : void((bounds.Right += arrow->X, bounds.Bottom += arrow->Y));
+    const TPoint by = Reachable(each, {step * arrow->X, step * arrow->Y});
+    ctrl ? bounds.Offset(by.X, by.Y) : void((bounds.Right += arrow->X, bounds.Bottom += arrow->Y));
     SetBoundsOf(*each.Component, bounds);
   }
   Refresh();

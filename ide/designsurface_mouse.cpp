@@ -93,15 +93,28 @@ void TDesignSurface::MouseMove(TPoint screen) {
   }
 }
 
+/// The way, shortened so far that a piece of what is moved can still be seen and pressed.
+TPoint TDesignSurface::Reachable(const TDragged& dragged, TPoint by) const {
+  const TWinControl* around = ParentOf(*dragged.Component);
+  const TRect inside = (around ? *around : *FRoot).ClientRect();
+  const auto within = [](int way, int low, int high, int limit) {
+    constexpr int piece = GridStep;
+    return std::max(std::min(way, limit - piece - low), piece - high);
+  };
+  const TRect& bounds = dragged.Bounds;
+  return {within(by.X, bounds.Left, bounds.Right, inside.Right),
+          within(by.Y, bounds.Top, bounds.Bottom, inside.Bottom)};
+}
+
 void TDesignSurface::Move(TPoint by) {
   if (FDragged.empty()) return;
   // The first one stands on the grid; the others keep their distance from it.
   const TRect first = FDragged.front().Bounds;
-  const int dx = Snapped(first.Left + by.X) - first.Left;
-  const int dy = Snapped(first.Top + by.Y) - first.Top;
+  by = {Snapped(first.Left + by.X) - first.Left, Snapped(first.Top + by.Y) - first.Top};
+  for (auto each = FDragged.rbegin(); each != FDragged.rend(); ++each) by = Reachable(*each, by);
   for (const TDragged& each : FDragged) {
     TRect bounds = each.Bounds;
-    bounds.Offset(dx, dy);
+    bounds.Offset(by.X, by.Y);
     FMoved = FMoved || bounds != BoundsOf(*each.Component);
     SetBoundsOf(*each.Component, bounds);
   }

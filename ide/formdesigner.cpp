@@ -9,6 +9,7 @@
 #include "vcl/designintf/componenteditor.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/formfile.h"
 #include "vcl/rtl/text.h"
 
 namespace ide {
@@ -108,12 +109,52 @@ std::string TFormDesigner::UniqueName(const std::string& className) const {
   }
 }
 
-std::string TFormDesigner::NameProblem(const TComponent& component) const {
-  const std::string& name = component.Name();
-  if (name.empty()) return "It has no name, so that no handler can reach it";
-  if (IsCppKeyword(name)) return Concat(name, " is a word of C++ itself");
-  if (MethodExists(name)) return Concat(name, " is the name of a handler, too");
+namespace {
+
+/// Why a form file can't hold the name; empty when it can.
+std::string FileProblem(const std::string& name) {
+  constexpr std::size_t longest = 255;
+  if (IsFormWord(name)) return Concat(name, " is a word of form files themselves");
+  if (name.size() > longest) return Concat(name, " is longer than 255 characters");
   return {};
+}
+
+/// What the form's unit declares, calls or derives from itself, whatever stands on the form.
+bool IsOfEveryUnit(const std::string& name) {
+  return SameText(name, "Class") || SameText(name, "ClassType") || SameText(name, "LoadForm") ||
+         SameText(name, TForm::Class().Name());
+}
+
+}  // namespace
+
+/// Why no member of the form's class can be called so; empty when one can.
+std::string TFormDesigner::MemberProblem(const std::string& name) const {
+  if (std::string problem = FileProblem(name); !problem.empty()) return problem;
+  if (IsCppKeyword(name)) return Concat(name, " is a word of C++ itself");
+  if (IsOfEveryUnit(name) || SameText(name, Root().FileClassName())) {
+    return Concat(name, " has a meaning of its own in the form's unit");
+  }
+  if (Root().ClassType().FindPublished(name)) {
+    return Concat(name, " would hide the form's property of that name");
+  }
+  return {};
+}
+
+/// The form's class is called after it.
+std::string TFormDesigner::RootNameProblem(const std::string& name) const {
+  const std::string className = "T" + name;
+  if (std::string problem = FileProblem(className); !problem.empty()) return problem;
+  if (IsOfEveryUnit(className) || Root().FindComponent(className) || MethodExists(className)) {
+    return Concat("The form's class could not be called ", className, ": the name is taken");
+  }
+  return FileProblem(name);
+}
+
+std::string TFormDesigner::NameProblem(const TComponent& component, const std::string& name) const {
+  if (name.empty()) return "It has no name, so that no handler can reach it";
+  if (&component == &Root()) return RootNameProblem(name);
+  if (MethodExists(name)) return Concat(name, " is the name of a handler, too");
+  return MemberProblem(name);
 }
 
 std::vector<std::string> TFormDesigner::ComponentNames(const TClass& aClass) const {
@@ -164,6 +205,9 @@ void TFormDesigner::CheckMethodName(const std::string& name) const {
     throw EComponentError(Concat("'", Shown(name), "' is no name for a handler"));
   if (MethodExists(name) || IsNameTaken(name)) {
     throw EComponentError(Concat("The name ", name, " is taken"));
+  }
+  if (const std::string problem = MemberProblem(name); !problem.empty()) {
+    throw EComponentError(problem);
   }
 }
 

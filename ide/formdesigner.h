@@ -75,7 +75,7 @@ class TFormDesigner : public vcl::TDesigner {
   void Modified() override;
   vcl::TComponent& Root() const override { return FDocument.Root(); }
   std::string UniqueName(const std::string& className) const override;
-  std::string NameProblem(const vcl::TComponent& component) const override;
+  std::string NameProblem(const vcl::TComponent& component, const std::string& name) const override;
   std::vector<std::string> MethodNames(const vcl::TPropInfo& event) const override;
   bool MethodExists(const std::string& name) const override;
   void CreateMethod(const std::string& name, const vcl::TPropInfo& event) override;
@@ -97,6 +97,8 @@ class TFormDesigner : public vcl::TDesigner {
   void RootMade();
   void SelectionChanged();
   void Report(const std::string& message) const;
+  std::string RootNameProblem(const std::string& name) const;
+  std::string MemberProblem(const std::string& name) const;
   void CheckMethodName(const std::string& name) const;
   bool IsNameTaken(const std::string& name) const;
   std::vector<vcl::TComponent*> SelectedOutermost() const;

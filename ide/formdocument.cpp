@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/files.h"
 #include "vcl/rtl/formfile.h"
 #include "vcl/rtl/scope.h"
@@ -25,6 +27,12 @@ std::string ReadFile(const std::string& fileName) {
   return file.ReadRest();
 }
 
+std::string TextOf(TForm& root) {
+  TStringStream stream;
+  WriteComponentText(stream, &root);
+  return stream.DataString();
+}
+
 /// When the file was written last; 0 when there is none.
 ULONGLONG TimeOf(const std::string& fileName) {
   WIN32_FILE_ATTRIBUTE_DATA data{};
@@ -44,6 +52,17 @@ TFormDocument::TFormDocument(TDesignerHook& hook) : FHook(hook), FHistory(UndoLi
 TFormDocument::~TFormDocument() { Tell(OnRootGoing); }
 
 // Reading and writing.
+
+/// A form that could not be saved is not opened.
+std::unique_ptr<TForm> TFormDocument::ReadForm(const std::string& bytes, const std::string& name) {
+  auto root = Read(bytes, name);
+  try {
+    TextOf(*root);
+  } catch (const Exception& error) {
+    throw EReadError(Concat(name, " holds what could not be saved again: ", error.what()));
+  }
+  return root;
+}
 
 std::unique_ptr<TForm> TFormDocument::Read(const std::string& bytes, const std::string& name) {
   auto root = std::make_unique<TForm>(nullptr);
@@ -72,11 +91,7 @@ std::string TFormDocument::State() const {
   return stream.DataString();
 }
 
-std::string TFormDocument::Text() const {
-  TStringStream stream;
-  WriteComponentText(stream, FRoot.get());
-  return stream.DataString();
-}
+std::string TFormDocument::Text() const { return TextOf(*FRoot); }
 
 void TFormDocument::New(const std::string& formName) {
   constexpr const char* place =
@@ -90,7 +105,7 @@ void TFormDocument::New(const std::string& formName) {
 }
 
 void TFormDocument::Load(const std::string& fileName) {
-  Show(Read(ReadFile(fileName), fileName));
+  Show(ReadForm(ReadFile(fileName), fileName));
   FFileName = fileName;
   FFileTime = TimeOf(fileName);
   FHistory.Reset(State());
@@ -98,7 +113,7 @@ void TFormDocument::Load(const std::string& fileName) {
 }
 
 void TFormDocument::LoadAutosaved(const std::string& fileName) {
-  Show(Read(ReadFile(AutosaveName(fileName)), fileName));
+  Show(ReadForm(ReadFile(AutosaveName(fileName)), fileName));
   FFileTime = TimeOf(fileName);
   (FFileTime == 0 ? FCopyName : FFileName) = fileName;
   FHistory.Reset(State());
@@ -118,7 +133,12 @@ void TFormDocument::Save(const std::string& fileName) {
 
 void TFormDocument::Paste(const std::string& text, TWinControl& parent,
                           const std::function<void(TComponent*)>& made) {
-  TStringStream stream(text);
+  TStringStream stream(text), binary, again;
+  // Names that no form file could hold are refused before anything is there.
+  ObjectTextToBinary(stream, binary);
+  binary.SetPosition(0);
+  ObjectBinaryToText(binary, again);
+  stream.SetPosition(0);
   ReadComponentsInto(stream, FRoot.get(), &parent, made, &FKeeper);
 }
 
@@ -196,6 +216,8 @@ bool TFormDocument::HasAutosave(const std::string& fileName) {
 
 void TFormDocument::Autosave() {
   if (!Modified() || CopyOf().empty() || FAutosaved == FHistory.Present()) return;
+  // The settings' folder, where forms without a file have their copies, comes with the first.
+  if (FFileName.empty()) ForceDirectories(ExtractFileDir(FCopyName));
   ReplaceWholeFile(AutosaveName(CopyOf()), Text());
   FAutosaved = FHistory.Present();
 }

@@ -100,6 +100,7 @@ class TFormDocument {
 
  private:
   std::unique_ptr<vcl::TForm> Read(const std::string& bytes, const std::string& name);
+  std::unique_ptr<vcl::TForm> ReadForm(const std::string& bytes, const std::string& name);
   void Show(std::unique_ptr<vcl::TForm> root);
   void Take(std::unique_ptr<vcl::TForm> root);
   void NameClass();

@@ -26,6 +26,7 @@ vcl::TButton* TListWindow::AddButton(const char* caption, const std::function<vo
   button->SetParent(this);
   button->OnClick = vcl::TNotifyEvent([press](vcl::TObject*) { press(); });
   FButtons.push_back(button);
+  Arrange();
   return button;
 }
 
@@ -37,6 +38,10 @@ void TListWindow::CreateParams(vcl::TCreateParams& params) {
 
 void TListWindow::Resize() {
   TForm::Resize();
+  Arrange();
+}
+
+void TListWindow::Arrange() {
   const int left = ClientWidth() - ButtonWidth - Gap;
   FList->SetBounds(Gap, Gap, std::max(left - 2 * Gap, 0), std::max(ClientHeight() - 2 * Gap, 0));
   int top = Gap;

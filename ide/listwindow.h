@@ -23,6 +23,8 @@ class TListWindow : public vcl::TForm {
   void Resize() override;
 
  private:
+  void Arrange();
+
   vcl::TListBox* FList;
   std::vector<vcl::TButton*> FButtons;
 };

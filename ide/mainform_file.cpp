@@ -72,7 +72,7 @@ bool TMainForm::MayReplace(const std::string& fileName) {
   if (fileName != document.FileName() || !document.ChangedOnDisk()) return true;
   return Application()->MessageBox(
              Concat(fileName, " was changed by another program since it was read. Replace it?"),
-             "Designer", MB_YESNO | MB_ICONWARNING) == IDYES;
+             "Designer", MB_YESNO | MB_DEFBUTTON2 | MB_ICONWARNING) == IDYES;
 }
 
 /// Looks, when the user comes back from another program, whether it has changed files.
@@ -129,12 +129,18 @@ void TMainForm::OfferLost() {
   NoteCopies();
 }
 
+/// What fails is told in a box, too: the user would take the form for saved.
 bool TMainForm::SaveIn(const std::string& fileName) {
   bool saved = false;
   if (!FInspector->Apply() || !MayReplace(fileName)) return false;
   FDesigner->Try([&] {
-    FForms->Save(*FDesigner, fileName);
-    saved = true;
+    try {
+      FForms->Save(*FDesigner, fileName);
+      saved = true;
+    } catch (const std::exception& error) {
+      Application()->MessageBox(error.what(), "Designer", MB_OK | MB_ICONERROR);
+      throw;
+    }
     Remember(fileName);
   });
   return saved;

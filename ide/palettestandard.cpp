@@ -7,6 +7,7 @@
 #include "vcl/db/odbcquery.h"
 #include "vcl/dbctrls/dbedit.h"
 #include "vcl/dbctrls/dbgrids.h"
+#include "vcl/dbctrls/registration.h"
 #include "vcl/net/sockets.h"
 #include "vcl/stdctrls/buttons.h"
 #include "vcl/vcl.h"
@@ -15,6 +16,8 @@ namespace ide {
 
 void RegisterStandardPages() {
   using namespace vcl;
+  // The fields of data sets, too, which have no icon.
+  RegisterDataControls();
   const TPaletteEntry pages[] = {
       {"Standard",
        {&TMainMenu::Class(), &TPopupMenu::Class(), &TLabel::Class(), &TEdit::Class(),

@@ -73,12 +73,14 @@ void ShowNonVisualComponents(TEnvironment& environment) {
 
 void RepairComponentNames(TEnvironment& environment) {
   TDesigner& designer = DesignerInFront(environment);
-  const auto wrong = ComponentsOf(designer, [&](const TComponent& component) {
-    return !designer.NameProblem(component).empty();
-  });
+  const auto problemOf = [&](const TComponent& component) {
+    return designer.NameProblem(component, component.Name());
+  };
+  const auto wrong = ComponentsOf(
+      designer, [&](const TComponent& component) { return !problemOf(component).empty(); });
   TQELToolList list{"Repair Component Names", {}, [&](int index) {
                       const TComponent& component = *wrong[static_cast<std::size_t>(index)];
-                      return Concat(designer.NameProblem(component), ".\n", Describe(component));
+                      return Concat(problemOf(component), ".\n", Describe(component));
                     }};
   for (const TComponent* each : wrong) {
     list.Lines.push_back(

@@ -205,12 +205,51 @@ TEST_F(Editors, FilesAreAttachedUnderTheirFullNames) {
   EXPECT_EQ(message.Attachments()->GeTQELAttachment(0)->FileName(), "C:\\folder\\file.txt");
 }
 
+/// A column of anybody's collection.
+class TPlainColumn : public TCollectionItem {
+ public:
+  using TCollectionItem::TCollectionItem;
+  static const TClass& Class() {
+    static const TClass info = Describe<TPlainColumn, TCollectionItem>(
+        "TPlainColumn", "sample",
+        {Property<&TPlainColumn::DataField, &TPlainColumn::SetDataField>("DataField")});
+    return info;
+  }
+  const TClass& ClassType() const override { return Class(); }
+  const std::string& DataField() const { return FDataField; }
+  void SetDataField(const std::string& name) { FDataField = name; }
+
+ private:
+  std::string FDataField;
+};
+
+class TPlainTable : public TComponent {
+ public:
+  using TComponent::TComponent;
+  static const TClass& Class() {
+    static const TClass info = Describe<TPlainTable, TComponent>(
+        "TPlainTable", "sample",
+        {Property<&TPlainTable::Columns, &TPlainTable::SetColumns>("Columns"),
+         Property<&TPlainTable::DataSource, &TPlainTable::SetDataSource>("DataSource")});
+    return info;
+  }
+  const TClass& ClassType() const override { return Class(); }
+  TCollection* Columns() const { return FColumns.get(); }
+  void SetColumns(const TCollection* columns) { FColumns->Assign(columns); }
+  TDataSource* DataSource() const { return FDataSource; }
+  void SetDataSource(TDataSource* source) { FDataSource = source; }
+
+ private:
+  std::unique_ptr<TCollection> FColumns = std::make_unique<TCollection>(TPlainColumn::Class());
+  TDataSource* FDataSource = nullptr;
+};
+
 TEST_F(Editors, ColumnsOfferTheFieldsOfTheirDataSet) {
   TMemoryDataSet data(nullptr);
   data.FieldDefs()->Add("Town", ftString, 20);
   data.FieldDefs()->Add("Area", ftFloat);
   TDataSource source(nullptr);
-  TQELDBAscii ascii(nullptr);
+  TQELDBAscii ascii(&Designer.Form);
   TQELADField& column = *ascii.Fields()->Add();
   const TQELDataFieldProperty own(Designer, Edited(ascii, "Name"));
   const auto ofColumn = MakePropertyEditor(Designer, Edited(column, "DataField"));
@@ -228,6 +267,12 @@ TEST_F(Editors, ColumnsOfferTheFieldsOfTheirDataSet) {
   EXPECT_THAT(offered(), ElementsAre("Town", "Area")) << "closed";
   data.Open();
   EXPECT_THAT(offered(), ElementsAre("Town", "Area")) << "open";
+  TPlainTable table(&Designer.Form);
+  table.SetDataSource(&source);
+  const auto ofAny = MakePropertyEditor(Designer, Edited(*table.Columns()->Add(), "DataField"));
+  std::vector<std::string> names;
+  ofAny->GetValues([&](const std::string& name) { names.push_back(name); });
+  EXPECT_THAT(names, ElementsAre("Town", "Area")) << "whatever the collection is";
 }
 
 }  // namespace

@@ -10,12 +10,14 @@
 #include "vcl/designintf/package.h"
 #include "vcl/designintf/registration.h"
 #include "vcl/designintf/standardeditors.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/buttons.h"
 #include "vcl/vcl.h"
 
 namespace vcl {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::ThrowsMessage;
 
@@ -126,11 +128,46 @@ TEST(PackageRegistrations, GoWithThePackage) {
 
 TEST(PackageRegistrations, AreTakenBackWhenTheRegistrationFails) {
   const TRegistrations before;
-  ::putenv("SAMPLE_PACKAGE_FAILS=1");
-  EXPECT_THAT([] { TPackage("samplepackage.dll"); },
-              ThrowsMessage<EPackageError>(HasSubstr("half-way")));
-  ::putenv("SAMPLE_PACKAGE_FAILS=");
+  const auto fails = [](const char* how, const char* message) {
+    ::putenv(how);
+    EXPECT_THAT([] { TPackage("samplepackage.dll"); },
+                ThrowsMessage<EPackageError>(HasSubstr(message)));
+    ::putenv("SAMPLE_PACKAGE_FAILS=");
+    EXPECT_EQ(::GetModuleHandleW(L"samplepackage.dll"), nullptr);
+  };
+  fails("SAMPLE_PACKAGE_FAILS=1", "half-way");
+  // Its class goes with the package, and so must what the package raised, before.
+  fails("SAMPLE_PACKAGE_FAILS=own", "of its own sort");
   EXPECT_EQ(TRegistrations(), before);
+}
+
+TEST(Packages, AreNotUnloadedWhileTheirComponentsLive) {
+  const TRegistrations before;
+  const auto make = [](TComponent* owner) {
+    TComponent* made = FindClass("TSample").Maker().Component(owner);
+    made->SetName("Sample1");
+    return std::unique_ptr<TComponent>(made);
+  };
+  TComponent owner(nullptr);
+  {
+    TPackage package("samplepackage.dll");
+    auto live = make(&owner);
+    EXPECT_THAT([&] { package.Unload(); },
+                ThrowsMessage<EPackageError>(
+                    AllOf(HasSubstr("samplepackage.dll"), HasSubstr("Sample1, a TSample"))));
+    EXPECT_EQ(TRegistrations(), before.Plus(1)) << "it is as it was";
+    live.reset();
+    package.Unload();
+    EXPECT_EQ(TRegistrations(), before);
+    EXPECT_EQ(::GetModuleHandleW(L"samplepackage.dll"), nullptr);
+  }
+  // Where nobody can be told it stays in memory, for what is there.
+  auto package = std::make_unique<TPackage>("samplepackage.dll");
+  const auto live = make(&owner);
+  package.reset();
+  EXPECT_EQ(TRegistrations(), before);
+  EXPECT_EQ(live->ClassName(), "TSample");
+  EXPECT_EQ(TPackage("samplepackage.dll").Classes().size(), 0u) << "it can be loaded again";
 }
 
 }  // namespace

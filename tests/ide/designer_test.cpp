@@ -9,10 +9,12 @@
 namespace ide {
 namespace {
 
+using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
+using testing::ThrowsMessage;
 
 TEST_F(Designer, FormsAreMadeByMouseAndComeBackFromTheirFile) {
   Place("TQELButton", At(17, 22), At(17, 22));
@@ -69,6 +71,62 @@ TEST_F(Designer, FormsAreMadeByMouseAndComeBackFromTheirFile) {
   EXPECT_THAT(Window->RememberedFiles(), Contains(File("made.dfm")));
   Window->ForgetFile(File("made.dfm"));
   EXPECT_THAT(Window->RememberedFiles(), Not(Contains(File("made.dfm"))));
+}
+
+TEST_F(Designer, NamesThatFormFilesOrUnitsCannotHoldAreRefused) {
+  OpenForm(" object Button1: TButton\n end\n");
+  const std::string before = Document().Text();
+  const auto name = [&](TComponent& component, const std::string& text) {
+    MakePropertyEditor(It(), {{&component, component.ClassType().FindPublished("Name")}})
+        ->SetValue(text);
+  };
+  TComponent& button = *Find<TComponent>("Button1");
+  const TPropInfo& click = *button.ClassType().FindPublished("OnClick");
+  for (const std::string& each :
+       {std::string("Item"), std::string("true"), std::string("False"), std::string("NIL"),
+        std::string("end"), std::string("class"), std::string("Caption"), std::string("OnClick"),
+        std::string("Class"), std::string("LoadForm"), std::string("TForm"), std::string("TF"),
+        std::string(300, 'a')}) {
+    EXPECT_THAT([&] { name(button, each); }, ThrowsMessage<EComponentError>(HasSubstr(each)));
+    EXPECT_THAT([&] { It().CreateMethod(each, click); },
+                ThrowsMessage<EComponentError>(HasSubstr(each)));
+  }
+  It().CreateMethod("Go", click);
+  for (const char* each : {"Form", "Item"}) {
+    EXPECT_THAT([&] { name(Root(), each); }, ThrowsMessage<EComponentError>(HasSubstr(each)));
+  }
+  EXPECT_THROW(name(button, "go"), EComponentError) << "a handler's";
+  EXPECT_EQ(Document().Text(), before);
+  name(button, "TEmpty");
+  EXPECT_THROW(name(Root(), "Empty"), EComponentError) << "its class would be called as the button";
+  name(button, "Class_");  // What only looks alike is a name like others.
+  name(Root(), "Delete");
+  EXPECT_THAT(Document().Text(),
+              AllOf(HasSubstr("object Class_: TButton"), HasSubstr("object Delete: TDelete")));
+}
+
+TEST_F(Designer, WhatIsDraggedOutOfTheFormStaysWithinReach) {
+  OpenForm(
+      " object A: TPanel\n Left = 16\n Top = 16\n Width = 80\n Height = 40\n end\n"
+      " object B: TPanel\n Left = 200\n Top = 16\n Width = 80\n Height = 40\n end\n");
+  const auto seen = [&](const char* name) {
+    return Intersection(Find(name)->BoundsRect(), Root().ClientRect());
+  };
+  for (const TPoint by : {Point(-300, 0), Point(600, 0), Point(0, -200), Point(0, 500)}) {
+    const TPoint from = Find("A")->ClientToScreen({40, 20});
+    Drag(from, from + by);
+    EXPECT_FALSE(seen("A").Empty()) << by.X << ", " << by.Y;
+    It().Undo();
+  }
+  // Those that go together keep their distance, and the arrow keys lead out no more than the mouse.
+  It().SetSelection({Find("A"), Find("B")});
+  const TPoint from = Find("B")->ClientToScreen({40, 20});
+  Drag(from, from + Point(-500, 0));
+  EXPECT_FALSE(seen("A").Empty());
+  EXPECT_EQ(Find("B")->Left() - Find("A")->Left(), 184);
+  It().SetSelection({Find("A")});
+  for (int i = 0; i < 100; ++i) TypeKey(VK_UP, {VK_CONTROL});
+  EXPECT_FALSE(seen("A").Empty());
 }
 
 TEST_F(Designer, SelectsWithTheMouseAndTheKeyboard) {

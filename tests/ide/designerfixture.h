@@ -45,9 +45,9 @@ class UnstartedDesigner : public ::testing::Test {
  protected:
   UnstartedDesigner() { RegisterStandardClasses(); }
   ~UnstartedDesigner() override { Window.reset(); }
-  void Start() {
+  void Start(const char* settings = "designer.ini") {
     TStart start;
-    start.SettingsFile = (Folder.Path / "designer.ini").string();
+    start.SettingsFile = (Folder.Path / settings).string();
     Window = std::make_unique<TMainForm>(nullptr);
     Window->Begin(start, Packages);
     Window->Show();

@@ -66,6 +66,30 @@ TEST_F(DesignedMenus, ItemsAreMadeMovedAndDeleted) {
   EXPECT_FALSE(window.Visible());
 }
 
+/// The buttons of the window stand below each other, beside the list and inside the window.
+void ExpectColumn(TListWindow& window) {
+  TRect former = Rect(0, 0, window.ClientWidth(), 0);
+  for (int i = 0; i < window.ControlCount(); ++i) {
+    if (!dynamic_cast<TButton*>(window.Controls(i))) continue;
+    const TRect bounds = window.Controls(i)->BoundsRect();
+    EXPECT_GE(bounds.Top, former.Bottom) << i;
+    EXPECT_GE(bounds.Left, window.List().BoundsRect().Right) << i;
+    EXPECT_LE(bounds.Bottom, window.ClientHeight()) << i;
+    former = bounds;
+  }
+  EXPECT_GT(former.Top, 0);
+}
+
+TEST_F(Designer, TheWindowsOfMenusAndCollectionsOpenInOrder) {
+  OpenForm(
+      " object Bar: TMainMenu\n end\n object Status: TStatusBar\n Panels = <\n item\n end>\n"
+      " end\n");
+  Window->MenuWindow().ShowMenu(It(), *Find<TMainMenu>("Bar"));
+  ExpectColumn(Window->MenuWindow());
+  Window->Items().ShowItems(It(), *Find<TStatusBar>("Status")->Panels());
+  ExpectColumn(Window->Items());
+}
+
 TEST_F(DesignedMenus, TheFormShowsItsBarAndThePressedItemIsSelected) {
   const int height = ::GetSystemMetrics(SM_CYMENU);
   const std::string before = Document().Text();

@@ -89,10 +89,24 @@ TEST_F(KilledDesigner, OffersTheFormsThatItHadOpen) {
   EXPECT_THAT(TRecovery(TSettings(File("designer.ini"))).TakeLost(), ElementsAre());
 }
 
+TEST_F(UnstartedDesigner, KeepsACopyAlsoWhenItRunsForTheFirstTime) {
+  Start("not there\\yet\\designer.ini");
+  Place("TLabel", At(160, 40), At(160, 40));
+  It().Try([&] { Document().Autosave(); });
+  EXPECT_THAT(Messages(), ElementsAre());
+  EXPECT_TRUE(TFormDocument::HasAutosave(Document().Copied())) << Document().Copied();
+}
+
 BOOL WINAPI WriteToFullDisk(HANDLE, LPCVOID, DWORD, LPDWORD written, LPOVERLAPPED) {
   *written = 0;
   ::SetLastError(ERROR_DISK_FULL);
   return FALSE;
+}
+
+std::string ClassOf(HWND window) {
+  char name[16] = "";
+  ::GetClassNameA(window, name, sizeof name);
+  return name;
 }
 
 class Files : public Designer {
@@ -107,7 +121,10 @@ class Files : public Designer {
 TEST_F(Files, ThatCannotBeWrittenLeaveFormAndFileAsTheyAre) {
   const auto refused = [&](const char* what) {
     Window->MessageList().Items()->Clear();
+    TBoxAnswer box(IDOK);
     TypeKey('S', {VK_CONTROL});
+    EXPECT_TRUE(box.Wait()) << what;
+    EXPECT_THAT(box.Text(), HasSubstr("kept.dfm cannot be saved")) << what;
     EXPECT_THAT(Messages(), ElementsAre(HasSubstr("kept.dfm cannot be saved"))) << what;
     EXPECT_EQ(Read("kept.dfm"), FormText) << what;
     EXPECT_TRUE(Document().Modified()) << what;
@@ -124,8 +141,10 @@ TEST_F(Files, ThatCannotBeWrittenLeaveFormAndFileAsTheyAre) {
     for (int i = 0; i < 2; ++i) It().Try([&] { Document().Autosave(); });
     EXPECT_EQ(Messages().size(), 2u);
     // Ending asks, and goes on when the changes can't be saved.
-    TBoxAnswer yes(IDYES);
+    TBoxAnswer yes(IDYES, 2);
     EXPECT_FALSE(Window->CloseQuery());
+    yes.Wait();
+    EXPECT_THAT(yes.Texts(), ElementsAre(HasSubstr("Save the changes"), HasSubstr("kept.dfm")));
   }
   TypeKey('S', {VK_CONTROL});
   EXPECT_EQ(Read("kept.dfm"), Document().Text());
@@ -154,6 +173,11 @@ TEST_F(Files, ThatOthersChangeAreNotOverwrittenUnasked) {
   change();
   answer(IDNO, [] { TypeKey('S', {VK_CONTROL}); });
   EXPECT_EQ(Read("kept.dfm"), other);
+  {
+    const TKeysWhen enter([] { return ClassOf(::GetForegroundWindow()) == "#32770"; }, {VK_RETURN});
+    TypeKey('S', {VK_CONTROL});
+  }
+  EXPECT_EQ(Read("kept.dfm"), other) << "what is chosen unseen loses nothing";
   answer(IDNO, comeBack);
   EXPECT_EQ(Document().Text(), mine);
   comeBack();  // It is asked once.

@@ -18,8 +18,8 @@ class TPlainDesigner : public vcl::TDesigner {
   std::string UniqueName(const std::string& className) const override {
     return className.substr(1) + "1";
   }
-  std::string NameProblem(const vcl::TComponent& component) const override {
-    return component.Name().empty() ? "nameless" : "";
+  std::string NameProblem(const vcl::TComponent&, const std::string& name) const override {
+    return name.empty() ? "nameless" : "";
   }
   std::vector<std::string> MethodNames(const vcl::TPropInfo& event) const override {
     std::vector<std::string> names;

@@ -21,7 +21,7 @@ class TNoDesigner : public TDesigner {
   void Modified() override {}
   TComponent& Root() const override { return *FRoot; }
   std::string UniqueName(const std::string& className) const override { return className; }
-  std::string NameProblem(const TComponent&) const override { return {}; }
+  std::string NameProblem(const TComponent&, const std::string&) const override { return {}; }
   std::vector<std::string> MethodNames(const TPropInfo&) const override { return {}; }
   bool MethodExists(const std::string&) const override { return false; }
   void CreateMethod(const std::string&, const TPropInfo&) override {}

@@ -1,5 +1,6 @@
 // TWinControl: focus, tab order and the keyboard.
 #include <algorithm>
+#include <functional>
 
 #include "vcl/controls/private/ime.h"
 #include "vcl/controls/wincontrol.h"
@@ -63,11 +64,19 @@ void TWinControl::MoveInTabList(int place) {
   list.insert(list.begin() + (place < 0 ? last : std::min(place, last)), this);
 }
 
+/// Each control comes to the place that the file gives it; those without one, such as status bars,
+/// fill what is left between them.
 void TWinControl::FixupTabList() {
-  const auto order = [](const TWinControl* control) {
-    return static_cast<unsigned>(control->FTabOrder);  // None (-1) comes last.
-  };
-  std::ranges::stable_sort(FTabList, {}, order);
+  const auto placed = [](const TWinControl* control) { return control->FTabOrder >= 0; };
+  std::vector<TWinControl*> others = FTabList;
+  std::erase_if(others, placed);
+  std::erase_if(FTabList, std::not_fn(placed));
+  std::ranges::stable_sort(FTabList, {}, &TWinControl::FTabOrder);
+  std::size_t gap = 0;
+  for (TWinControl* each : others) {
+    while (gap < FTabList.size() && FTabList[gap]->FTabOrder <= static_cast<int>(gap)) ++gap;
+    FTabList.insert(FTabList.begin() + static_cast<std::ptrdiff_t>(gap), each);
+  }
 }
 
 void TWinControl::SetTabStop(bool tabStop) {

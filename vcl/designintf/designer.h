@@ -26,9 +26,9 @@ class VCL_API TDesigner {
   /// A name that no component of the root has, for a new one of that class: "TButton" gives
   /// "Button1".
   virtual std::string UniqueName(const std::string& className) const = 0;
-  /// Why the component's name cannot be that of a member of the form's C++ class; empty when it
-  /// can.
-  virtual std::string NameProblem(const TComponent& component) const = 0;
+  /// Why the component cannot have the name: no form file could hold it, or no member of the form's
+  /// C++ class could be called so. Empty when it can.
+  virtual std::string NameProblem(const TComponent& component, const std::string& name) const = 0;
 
   /// The handlers that an event can be given, which are those of its signature, in order.
   virtual std::vector<std::string> MethodNames(const TPropInfo& event) const = 0;

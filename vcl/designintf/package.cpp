@@ -9,6 +9,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/module.h"
 #include "vcl/rtl/classregistry.h"
+#include "vcl/rtl/private/livecomponents.h"
 #include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
@@ -56,7 +57,7 @@ TPackage::TPackage(const std::string& fileName) : FFileName(fileName) {
     RaiseLastOSError<EPackageError>("The package ", fileName, " cannot be loaded");
   }
   const auto refuse = [&](const char* why) {
-    ::FreeLibrary(static_cast<HMODULE>(FModule));
+    Release();
     throw EPackageError(Concat("The package ", fileName, " cannot be registered: ", why));
   };
   // What the module has registered in another way is not this package's to take back.
@@ -64,22 +65,54 @@ TPackage::TPackage(const std::string& fileName) : FFileName(fileName) {
     refuse("it has no entry point named Register");
   }
   if (!Loaded().insert(FModule).second) refuse("it is loaded already");
-  try {
-    Register();
-  } catch (const std::exception& error) {
+  if (const auto problem = Register()) {
     TakeBack();
-    throw EPackageError(Concat("The package ", fileName, " cannot be registered: ", error.what()));
-  } catch (...) {
-    TakeBack();
-    throw EPackageError(Concat("The package ", fileName, " cannot be registered"));
+    Release();
+    throw EPackageError(Concat("The package ", fileName, " cannot be registered", *problem));
   }
 }
 
-TPackage::~TPackage() { TakeBack(); }
+TPackage::~TPackage() {
+  if (!FModule) return;
+  TakeBack();
+  if (LiveComponent().empty()) Release();
+}
 
-void TPackage::Register() {
-  EntryPoint<TRegisterProc>(FModule, "Register")();
-  if (const auto expert = EntryPoint<TRegisterProc>(FModule, "RegisterExpert")) expert();
+void TPackage::Unload() {
+  const std::string live = LiveComponent();
+  if (!live.empty()) {
+    throw EPackageError(
+        Concat("The package ", FFileName, " cannot be unloaded: there is still ", live));
+  }
+  TakeBack();
+  Release();
+}
+
+/// What the package raises is code and data of its DLL: it has ended when this returns, and only
+/// what it says is left.
+std::optional<std::string> TPackage::Register() const {
+  try {
+    EntryPoint<TRegisterProc>(FModule, "Register")();
+    if (const auto expert = EntryPoint<TRegisterProc>(FModule, "RegisterExpert")) expert();
+    return {};
+  } catch (const std::exception& error) {
+    return Concat(": ", error.what());
+  } catch (...) {
+    return "";
+  }
+}
+
+/// A component of one of the package's classes; empty for none.
+std::string TPackage::LiveComponent() const {
+  std::string found;
+  detail::FindComponent([&](const TComponent& component) {
+    const bool ours = LiesIn(FModule, &component.ClassType());
+    if (ours)
+      found =
+          Concat(component.Name(), component.Name().empty() ? "a " : ", a ", component.ClassName());
+    return ours;
+  });
+  return found;
 }
 
 void TPackage::TakeBack() {
@@ -100,8 +133,9 @@ void TPackage::TakeBack() {
   }
   if (ours(&HintWindowClass())) UsePlainHints();
   Loaded().erase(FModule);
-  ::FreeLibrary(static_cast<HMODULE>(std::exchange(FModule, nullptr)));
 }
+
+void TPackage::Release() { ::FreeLibrary(static_cast<HMODULE>(std::exchange(FModule, nullptr))); }
 
 std::vector<const TClass*> TPackage::Classes() const {
   std::vector<const TClass*> classes;

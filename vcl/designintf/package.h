@@ -1,6 +1,7 @@
 // TPackage: a DLL of components, loaded as a form designer loads it.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,8 +25,9 @@ using TRegisterProc = void (*)();
 /// "ListClasses": calls `each` with every class, and `context` passed through.
 using TListClassesProc = void (*)(void (*each)(const TClass& aClass, void* context), void* context);
 
-/// A loaded package. What it registered is taken back when the object ends; objects made of its
-/// classes, editors and add-ins must have ended before.
+/// A loaded package. What it registered is taken back when the object ends, and the DLL goes out of
+/// memory, unless components of its classes are still there. Its editors and add-ins must have
+/// ended before.
 class VCL_API TPackage {
  public:
   /// Loads the DLL and calls its registration entry point. Raises EPackageError when the file
@@ -36,13 +38,19 @@ class VCL_API TPackage {
   TPackage(const TPackage&) = delete;
   TPackage& operator=(const TPackage&) = delete;
 
+  /// Ends the package before the object ends. Raises EPackageError, with its name, when a component
+  /// of its classes is still there; the package is as before then. Only FileName may be asked
+  /// afterwards.
+  void Unload();
   const std::string& FileName() const { return FFileName; }
   /// The classes that the package declares, in its own order; empty when it does not list them.
   std::vector<const TClass*> Classes() const;
 
  private:
-  void Register();
+  std::optional<std::string> Register() const;
+  std::string LiveComponent() const;
   void TakeBack();
+  void Release();
 
   std::string FFileName;
   void* FModule = nullptr;

@@ -51,6 +51,11 @@ TPropertyAttributes TCaptionProperty::GetAttributes() const {
 
 void TComponentNameProperty::SetValue(const std::string& text) {
   if (text.empty()) throw EComponentError("A component on a form needs a name");
+  for (const TEditedProperty& each : Edited()) {
+    const auto& component = dynamic_cast<const TComponent&>(*each.Object);
+    const std::string problem = Designer().NameProblem(component, text);
+    if (!problem.empty()) throw EComponentError(problem);
+  }
   TStringProperty::SetValue(text);
 }
 

@@ -3,16 +3,39 @@
 
 #include <algorithm>
 #include <limits>
+#include <mutex>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/filer.h"
+#include "vcl/rtl/private/livecomponents.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/reader.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/writer.h"
 
 namespace vcl {
+
+namespace {
+
+/// All of them. It outlives the components that end with the program.
+struct TLive {
+  std::mutex Mutex;
+  std::unordered_set<const TComponent*> Components;
+};
+TLive& Live() {
+  static auto& live = *new TLive;
+  return live;
+}
+
+}  // namespace
+
+bool detail::FindComponent(const std::function<bool(const TComponent&)>& wanted) {
+  const std::scoped_lock lock(Live().Mutex);
+  return std::ranges::any_of(Live().Components,
+                             [&](const TComponent* each) { return wanted(*each); });
+}
 
 const TClass& TComponent::Class() {
   static const TClass info = Describe<TComponent, TPersistent>(
@@ -45,12 +68,16 @@ struct TComponent::TNames {
 
 TComponent::TComponent(TComponent* owner) {
   if (owner) owner->InsertComponent(this);
+  const std::scoped_lock lock(Live().Mutex);
+  Live().Components.insert(this);
 }
 
 TComponent::~TComponent() {
   AnnounceEnd();
   DestroyComponents();
   if (FOwner) FOwner->RemoveComponent(this);
+  const std::scoped_lock lock(Live().Mutex);
+  Live().Components.erase(this);
 }
 
 void TComponent::AnnounceEnd() {

@@ -38,6 +38,10 @@ class VCL_API TFormLines {
   std::vector<std::pair<std::int64_t, int>> FLines;
 };
 
+/// True for the words that the text form keeps for itself, in any case: nothing that it names may
+/// be called so.
+VCL_API bool IsFormWord(std::string_view name);
+
 /// True when the bytes begin as a form file's binary form.
 VCL_API bool IsBinaryForm(std::string_view bytes);
 

@@ -51,11 +51,7 @@ class TFormPrinter {
 };
 
 std::string TFormPrinter::Checked(std::string name, bool dotted) {
-  static constexpr std::string_view reserved[] = {"object", "inherited", "end", "item",
-                                                  "True",   "False",     "nil"};
-  const bool keyword =
-      std::ranges::any_of(reserved, [&](auto word) { return SameText(word, name); });
-  bool valid = !keyword;
+  bool valid = !IsFormWord(name);
   for (std::string_view rest = name; valid;) {
     const auto dot = dotted ? rest.find('.') : std::string_view::npos;
     valid = IsValidIdent(rest.substr(0, dot));
@@ -198,6 +194,12 @@ void TFormPrinter::PrintBinary() {
 }
 
 }  // namespace
+
+bool IsFormWord(std::string_view name) {
+  static constexpr std::string_view words[] = {"object", "inherited", "end", "item",
+                                               "True",   "False",     "nil"};
+  return std::ranges::any_of(words, [&](auto word) { return SameText(word, name); });
+}
 
 void ObjectBinaryToText(TStream& binary, TStream& text) {
   text.WriteText(TFormPrinter(binary).Print());

@@ -69,7 +69,16 @@ void TReader::TImpl::Place(TComponent* component, const TFormHeading& heading) {
                           " is taken; the component is ", component->Name(), " now"));
   }
   if (Parent) component->SetParentComponent(Parent);
+  if (Keeper && Parent && Parent != Root && !component->HasParent()) PlaceOnRoot(component);
   if (component->Owner() == Root) FillField(component, heading.Name);
+}
+
+/// A control in what holds none stands on the form; what needs no parent stays without.
+void TReader::TImpl::PlaceOnRoot(TComponent* component) {
+  component->SetParentComponent(Root);
+  if (!component->HasParent()) return;
+  Keeper->Report(Concat(Input.Place(Input.Mark()), component->Name(), " cannot stand inside ",
+                        Parent->Name(), "; it stands on the form now"));
 }
 
 void TReader::TImpl::FillField(TComponent* component, const std::string& name) {
@@ -82,11 +91,14 @@ void TReader::TImpl::FillField(TComponent* component, const std::string& name) {
   Fields.push_back(field);
 }
 
-/// Reads a component that stands inside another, from its heading to its end.
+/// Reads a component that stands inside another, from its heading to its end; null when the one
+/// around it keeps it as it is.
 TComponent* TReader::TImpl::ReadComponent() {
   const TFormInput::TLevel level(Input);
+  const std::size_t whole = Input.Position();
   const TFormHeading heading = Input.ReadHeading();
   const std::size_t start = Input.Mark();
+  const bool inside = Part && Parent && Parent != Root;
   const auto outer = std::pair(Part, std::exchange(Steps, {}));
   const std::string outerContext =
       std::exchange(Input.Context, heading.Name.empty() ? heading.ClassName : heading.Name);
@@ -94,6 +106,7 @@ TComponent* TReader::TImpl::ReadComponent() {
   TComponent* component = nullptr;
   Placed(start, [&] {
     component = heading.Inherited ? Existing(heading) : MakeOrStandIn(heading, Owner);
+    if (inside && KeepInside(component, whole)) return void(component = nullptr);
     Enter(component, !heading.Inherited);
     if (!heading.Name.empty() && component->Owner() == Root) {
       Named.insert_or_assign(UpperCase(heading.Name), Part);

@@ -101,6 +101,20 @@ void TReader::TImpl::SkipComponent(TKeptData& kept) {
   Input.Take(TValueType::vaNull);
 }
 
+/// Keeps the component that begins at `whole` with the one around it, when that does not take what
+/// stands in for it, as a data set takes nothing but fields; the stand-in is gone then.
+bool TReader::TImpl::KeepInside(TComponent* standIn, std::size_t whole) {
+  if (!Keeper || !standIn->Kept() || standIn->Kept()->ClassName.empty()) return false;
+  standIn->SetParentComponent(Parent);
+  if (standIn->GetParentComponent() == Parent) return false;
+  delete standIn;
+  Input.SetPosition(whole);
+  TKeptData& kept = Parent->Keep();
+  SkipComponent(kept);
+  kept.Children += Input.Slice(whole, Input.Position());
+  return true;
+}
+
 /// Keeps the components inside a stand-in, which only the class that is missing could hold.
 void TReader::TImpl::KeepChildren(TKeptData& kept) {
   const std::size_t start = Input.Position();

@@ -1,6 +1,8 @@
 // A package with one of everything that a package can register. When the environment says so, it
 // fails once it has registered all of it.
 #include <cstdlib>
+#include <exception>
+#include <string_view>
 
 #include "vcl/designintf/componenteditor.h"
 #include "vcl/designintf/environment.h"
@@ -32,6 +34,19 @@ class TSamplePart : public TSample {
   const vcl::TClass& ClassType() const override { return Class(); }
 };
 
+/// An error whose class, and what it says, lies in the package.
+class TSampleError : public std::exception {
+ public:
+  TSampleError() = default;
+  TSampleError(const TSampleError&) = default;
+  TSampleError& operator=(const TSampleError&) = default;
+  ~TSampleError() override { FText[0] = 0; }
+  const char* what() const noexcept override { return FText; }
+
+ private:
+  char FText[16] = "of its own sort";
+};
+
 }  // namespace
 
 extern "C" __declspec(dllexport) void Register() {
@@ -46,5 +61,7 @@ extern "C" __declspec(dllexport) void Register() {
 extern "C" __declspec(dllexport) void RegisterExpert() {
   vcl::RegisterExpertClass(
       {"TSampleExpert", [](vcl::TEnvironment&) { return std::make_unique<vcl::TExpert>(); }});
-  if (std::getenv("SAMPLE_PACKAGE_FAILS")) throw vcl::Exception("half-way");
+  const char* fails = std::getenv("SAMPLE_PACKAGE_FAILS");
+  if (fails && std::string_view(fails) == "own") throw TSampleError();
+  if (fails) throw vcl::Exception("half-way");
 }

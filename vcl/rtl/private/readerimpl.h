@@ -62,6 +62,7 @@ struct TReader::TImpl {
   void Enter(TComponent* component, bool made);
   void NameRoot(TComponent* root, const std::string& name);
   void Place(TComponent* component, const TFormHeading& heading);
+  void PlaceOnRoot(TComponent* component);
   void FillField(TComponent* component, const std::string& name);
   void ReadBody(TComponent* component);
   void ReadChildren(TComponent* component);
@@ -75,6 +76,7 @@ struct TReader::TImpl {
   TComponent* MakeOrStandIn(const TFormHeading& heading, TComponent* owner);
   void SkipComponent(TKeptData& kept);
   void KeepChildren(TKeptData& kept);
+  bool KeepInside(TComponent* standIn, std::size_t whole);
 
   // References (reader_references.cpp).
   void ResolveReferences(bool required);

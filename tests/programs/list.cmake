@@ -1,0 +1,10 @@
+# The programs that ./run lists are those that are tested.
+execute_process(COMMAND ${RUN} help OUTPUT_VARIABLE help COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "\n  [A-Za-z0-9_-]+" listed "${help}")
+list(TRANSFORM listed STRIP)
+list(SORT listed)
+string(REPLACE " " ";" tested "${PROGRAMS}")
+list(SORT tested)
+if(NOT listed STREQUAL tested)
+  message(FATAL_ERROR "./run lists ${listed}; tested are ${tested}")
+endif()
