@@ -299,6 +299,7 @@ void TApplication::Minimize() {
   FMinimized = true;
   ::SetActiveWindow(FHandle);
   ::DefWindowProcW(FHandle, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+  FMinimized = ::IsIconic(FHandle) != FALSE;
   OnMinimize(this);
 }
 
