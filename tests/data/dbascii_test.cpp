@@ -151,6 +151,23 @@ TEST_F(DBAscii, TellsOfEachRecordAndGivesUpWhatCannotBePosted) {
   EXPECT_THAT(error, HasSubstr("longer than"));
 }
 
+TEST_F(DBAscii, AValueThatItsFieldDoesNotTakeGivesTheRecordUpOrIsRaised) {
+  Data.FieldDefs()->Items(2)->SetDataType(vcl::ftInteger);
+  EXPECT_THROW(Import("1;2;three\r\n"), vcl::Exception) << "nobody handles it";
+  Data.Close();
+  Ascii->SetPrintHeader(true);
+  Log.clear();
+  Ascii->OnImportValueError = [&](vcl::TObject*, qel::TQELADField* column, bool& goOn) {
+    Log.push_back(std::to_string(Ascii->ImportLine()) + " " + column->CSVName());
+    EXPECT_THAT(Ascii->ImportError(), HasSubstr("three"));
+    goOn = Ascii->ImportLine() < 5;
+  };
+  EXPECT_EQ(Import("(x)\r\n\r\n1;2;three\r\n4;5;6\r\n"), "4|5|6");
+  EXPECT_THAT(Log, ElementsAre("insert 1;2;three", "3 The Phone", "success 1;2;three",
+                               "insert 4;5;6", "success 4;5;6"));
+  EXPECT_THROW(Import("(x)\r\n\r\n\r\n\r\n1;2;three\r\n"), vcl::Exception);
+}
+
 TEST_F(DBAscii, TheHandlerOfExportBeforeWriteIsCalledBeforePosting) {
   Ascii->ImportBeforePost = Note("post");
   Import("1;2;3");

@@ -301,6 +301,7 @@ void TApplication::Minimize() {
   FMinimized = true;
   ::SetActiveWindow(FHandle);
   ::DefWindowProcW(FHandle, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+  FMinimized = ::IsIconic(FHandle) != FALSE;
   OnMinimize(this);
 }
 

@@ -1,6 +1,6 @@
 // TApplication: the message loop, what it does to input on its way, and the mouse over controls.
-#include "vcl/forms/application.h"
 #include "vcl/controls/private/handling.h"
+#include "vcl/forms/application.h"
 #include "vcl/forms/drag.h"
 #include "vcl/forms/forms.h"
 #include "vcl/forms/screen.h"
