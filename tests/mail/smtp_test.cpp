@@ -82,7 +82,8 @@ TEST_F(Sending, IsAbortedInTheMiddleOfAReplyOrAMail) {
 }
 
 TEST_F(Sending, EndsWithoutAFarewellInTheMiddleOfAMail) {
-  const std::function<void()> ends[] = {[this] { Mail->Execute(); }, [this] { Mail->Disconnect(); }};
+  const std::function<void()> ends[] = {[this] { Mail->Execute(); },
+                                        [this] { Mail->Disconnect(); }};
   for (const auto& end : ends) {
     for (const std::string stage : {"DATA", "", "."}) {
       MakeMail();
@@ -116,9 +117,9 @@ const std::string Smuggling[] = {"a\r\nBcc: spy@a.test", "a\rb", "a\nb", std::st
 TEST_F(Sending, RefusesWhatBreaksALineBeforeItConnects) {
   using TSet = void (qel::TQELMessage::*)(const std::string&);
   const std::pair<const char*, TSet> properties[] = {
-      {"SendTo", &qel::TQELMessage::SetSendTo},     {"FromMail", &qel::TQELMessage::SetFromMail},
-      {"Subject", &qel::TQELMessage::SetSubject},   {"FromName", &qel::TQELMessage::SetFromName},
-      {"ReplyTo", &qel::TQELMessage::SetReplyTo},   {"InReplyTo", &qel::TQELMessage::SetInReplyTo}};
+      {"SendTo", &qel::TQELMessage::SetSendTo},   {"FromMail", &qel::TQELMessage::SetFromMail},
+      {"Subject", &qel::TQELMessage::SetSubject}, {"FromName", &qel::TQELMessage::SetFromName},
+      {"ReplyTo", &qel::TQELMessage::SetReplyTo}, {"InReplyTo", &qel::TQELMessage::SetInReplyTo}};
   qel::TQELMessage* second = AddMessage();
   for (const auto& [name, set] : properties) {
     for (const std::string& value : Smuggling) {

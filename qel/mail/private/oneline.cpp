@@ -14,8 +14,8 @@ bool BreaksLine(std::string_view value) {
 
 void CheckOneLine(const char* name, const std::string& value) {
   if (!BreaksLine(value)) return;
-  throw EQELMailError(vcl::Concat(name, " cannot have a line break or a NUL, as in ",
-                                  vcl::FormString(value)));
+  throw EQELMailError(
+      vcl::Concat(name, " cannot have a line break or a NUL, as in ", vcl::FormString(value)));
 }
 
 }  // namespace qel

@@ -67,8 +67,8 @@ bool Exists(const std::string& path) {
 std::optional<std::pair<std::uint32_t, std::uint64_t>> IdOf(const std::string& path) {
   const TNoErrorBoxes quiet;
   constexpr DWORD everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const HANDLE folder = ::CreateFileW(ForSystem(path).c_str(), 0, everybody, nullptr,
-                                      OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  const HANDLE folder = ::CreateFileW(ForSystem(path).c_str(), 0, everybody, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   if (folder == INVALID_HANDLE_VALUE) return {};
   BY_HANDLE_FILE_INFORMATION info{};
   const BOOL known = ::GetFileInformationByHandle(folder, &info);
