@@ -24,6 +24,12 @@ const TClass& TControl::Class() {
           Property<&TControl::Height, &TControl::SetHeight>("Height"),
           Property<&TControl::Cursor, &TControl::SetCursor>("Cursor").Default(crDefault),
           Property<&TControl::Hint, &TControl::SetHint>("Hint").Default(""),
+          Property<&TControl::Anchors, &TControl::SetAnchors>("Anchors").Default(
+              TAnchors{akLeft, akTop}),
+          Property<&TControl::AlignWithMargins, &TControl::SetAlignWithMargins>("AlignWithMargins")
+              .Default(false),
+          Property<&TControl::Constraints, &TControl::SetConstraints>("Constraints"),
+          Property<&TControl::Margins, &TControl::SetMargins>("Margins"),
           Property<&TControl::Align, &TControl::SetAlign>("Align").Default(alNone).Unpublished(),
           Property<&TControl::Caption, &TControl::SetCaption>("Caption")
               .Type("TCaption")
@@ -62,6 +68,7 @@ const TClass& TControl::Class() {
               .Unpublished(),
           Property<&TControl::PopupMenu, &TControl::SetPopupMenu>("PopupMenu").Unpublished(),
           Event<&TControl::OnClick>("OnClick").Unpublished(),
+          Event<&TControl::OnConstrainedResize>("OnConstrainedResize").Unpublished(),
           Event<&TControl::OnDblClick>("OnDblClick").Unpublished(),
           Event<&TControl::OnMouseDown>("OnMouseDown").Unpublished(),
           Event<&TControl::OnMouseMove>("OnMouseMove").Unpublished(),
@@ -100,6 +107,7 @@ void TControl::SetParent(TWinControl* parent) {
   }
   if (FParent) FParent->Remove(this);
   if (parent) parent->Insert(this);
+  KeepPlace();
   // What is being read has its parent before its properties, which may say that it does not follow.
   if (!ComponentState().Has(csReading)) FollowParent();
 }
@@ -135,16 +143,16 @@ void TControl::SetZOrder(bool topmost) {
 // Bounds.
 
 void TControl::SetBounds(int left, int top, int width, int height) {
-  width = std::max(width, 0);
-  height = std::max(height, 0);
-  if (left == FLeft && top == FTop && width == FWidth && height == FHeight) return;
   const TWatch watch(this);
-  const bool resized = width != FWidth || height != FHeight;
+  const TSize size = ConstrainedSize(width, height);
+  if (watch.Gone() || TRect(left, top, left + size.cx, top + size.cy) == BoundsRect()) return;
+  const bool resized = size != TSize{FWidth, FHeight};
   InvalidateArea(FVisible, false);
   FLeft = left;
   FTop = top;
-  FWidth = width;
-  FHeight = height;
+  FWidth = size.cx;
+  FHeight = size.cy;
+  KeepPlace();
   Invalidate();
   RequestAlign();
   if (!watch.Gone() && resized && !Loading()) Resize();
@@ -358,12 +366,14 @@ void TControl::ReadState(TReader& reader) {
     const TAtEnd done([this] { ExcludeState(csReadingState); }, this);
     TComponent::ReadState(reader);
   }
+  KeepPlace();
   FollowParent();
 }
 
 void TControl::Loaded() {
   TComponent::Loaded();
-  if (FAlign != alNone) RequestAlign();
+  if (FConstraints) LimitsChanged();
+  if (FAlign != alNone || FAnchors != TAnchors{akLeft, akTop}) RequestAlign();
 }
 
 }  // namespace vcl

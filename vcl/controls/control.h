@@ -6,6 +6,7 @@
 #include <string>
 
 #include "vcl/controls/controltypes.h"
+#include "vcl/controls/layout.h"
 #include "vcl/controls/messages.h"
 #include "vcl/graphics/graphics.h"
 #include "vcl/graphics/types.h"
@@ -67,6 +68,21 @@ class VCL_API TControl : public TComponent {
   TAlign Align() const { return FAlign; }
   /// Keeps the control along an edge of its parent, or over all that the others leave.
   void SetAlign(TAlign align);
+
+  // Layout (control_layout.cpp).
+  TAnchors Anchors() const { return FAnchors; }
+  /// The edges of its parent that the control keeps its distance from when the parent's size
+  /// changes: with two opposite ones it grows, with none of two it stays in the middle in
+  /// proportion. Without meaning for an aligned control.
+  void SetAnchors(TAnchors anchors);
+  /// The limits of the control's size.
+  TSizeConstraints* Constraints() const;
+  void SetConstraints(const TSizeConstraints* constraints);
+  bool AlignWithMargins() const { return FAlignWithMargins; }
+  /// An aligned control keeps its Margins free around itself.
+  void SetAlignWithMargins(bool alignWithMargins);
+  TMargins* Margins() const;
+  void SetMargins(const TMargins* margins);
 
   // State.
   bool Enabled() const { return FEnabled; }
@@ -161,6 +177,8 @@ class VCL_API TControl : public TComponent {
   TDragDropEvent OnDragDrop;
   TStartDragEvent OnStartDrag;
   TEndDragEvent OnEndDrag;
+  /// The control's size is about to change: the handler may narrow the limits, or lift them.
+  TConstrainedResizeEvent OnConstrainedResize;
 
  protected:
   /// A click, by mouse or keyboard. The inherited method fires OnClick.
@@ -184,6 +202,8 @@ class VCL_API TControl : public TComponent {
   virtual void SetClientSize(int width, int height);
   /// Called after the bounds have changed.
   virtual void Resize() {}
+  /// The size within Constraints and what OnConstrainedResize makes of them.
+  TSize ConstrainedSize(int width, int height);
   void RequestAlign();
   void Notification(TComponent* component, TOperation operation) override;
   void Loaded() override;
@@ -216,6 +236,21 @@ class VCL_API TControl : public TComponent {
   void FollowParent();
   void InvalidateArea(bool visible, bool opaque);
   void PopupMenuAt(TMessage& message);
+  void LimitsChanged();
+  void KeepPlace();
+  void MoveByAnchors(TSize parentSize);
+
+  /// What the anchors count from: the bounds that somebody gave the control, and the size that the
+  /// parent's inside had then. What the anchors themselves bring about changes neither, so that
+  /// rounding never adds up.
+  struct TPlace {
+    TRect Bounds;
+    TSize Inside;
+    /// The parent's own size, of which its window takes what its inside has not.
+    TSize Parent;
+    bool WithWindow = false;
+    bool Known = false;
+  };
 
   TWinControl* FParent = nullptr;
   int FLeft = 0;
@@ -223,6 +258,12 @@ class VCL_API TControl : public TComponent {
   int FWidth = 0;
   int FHeight = 0;
   TAlign FAlign = alNone;
+  TAnchors FAnchors{akLeft, akTop};
+  bool FAlignWithMargins = false;
+  bool FAnchoring = false;  // The anchors are moving the control.
+  TPlace FPlace;
+  mutable std::unique_ptr<TSizeConstraints> FConstraints;  // Made when asked for.
+  mutable std::unique_ptr<TMargins> FMargins;
   bool FEnabled = true;
   bool FVisible = true;
   bool FParentFont = true;

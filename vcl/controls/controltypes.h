@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "vcl/graphics/types.h"
 #include "vcl/rtl/events.h"
 #include "vcl/rtl/systemtypes.h"
 #include "vcl/rtl/typeinfo.h"
@@ -162,6 +163,13 @@ using TControlState = TSet<TControlStateValue>;
 
 using TMouseEvent = TEvent<TObject*, TMouseButton, TShiftState, int, int>;
 using TMouseMoveEvent = TEvent<TObject*, TShiftState, int, int>;
+/// Sender, keys and buttons, the way that the wheel was turned (120 a notch, positive away from the
+/// user), the position on the screen, and whether the handler has done all that is to be done.
+using TMouseWheelEvent = TEvent<TObject*, TShiftState, int, TPoint, bool&>;
+/// The same for each notch, whose direction the event says.
+using TMouseWheelUpDownEvent = TEvent<TObject*, TShiftState, TPoint, bool&>;
+/// Sender, and the limits that its size is about to be brought within, in pixels; 0 is no limit.
+using TConstrainedResizeEvent = TEvent<TObject*, int&, int&, int&, int&>;
 /// The handler may change the key; 0 takes it away from the control.
 using TKeyEvent = TEvent<TObject*, std::uint16_t&, TShiftState>;
 using TKeyPressEvent = TEvent<TObject*, char32_t&>;
@@ -181,6 +189,19 @@ inline constexpr TEventText EventText<TMouseEvent>{
 template <>
 inline constexpr TEventText EventText<TMouseMoveEvent>{
     "TMouseMoveEvent", "vcl::TObject* sender, vcl::TShiftState shift, int x, int y"};
+template <>
+inline constexpr TEventText EventText<TMouseWheelEvent>{
+    "TMouseWheelEvent",
+    "vcl::TObject* sender, vcl::TShiftState shift, int wheelDelta, vcl::TPoint mousePos, bool& "
+    "handled"};
+template <>
+inline constexpr TEventText EventText<TMouseWheelUpDownEvent>{
+    "TMouseWheelUpDownEvent",
+    "vcl::TObject* sender, vcl::TShiftState shift, vcl::TPoint mousePos, bool& handled"};
+template <>
+inline constexpr TEventText EventText<TConstrainedResizeEvent>{
+    "TConstrainedResizeEvent",
+    "vcl::TObject* sender, int& minWidth, int& minHeight, int& maxWidth, int& maxHeight"};
 template <>
 inline constexpr TEventText EventText<TKeyEvent>{
     "TKeyEvent", "vcl::TObject* sender, std::uint16_t& key, vcl::TShiftState shift"};

@@ -17,6 +17,10 @@ const TClass& TWinControl::Class() {
   static const TClass info = Describe<TWinControl, TControl>(
       "vcl::TWinControl", "vcl/controls/controls.h",
       {
+          Property<&TWinControl::Padding, &TWinControl::SetPadding>("Padding").Unpublished(),
+          Property<&TWinControl::AutoSize, &TWinControl::SetAutoSize>("AutoSize")
+              .Default(false)
+              .Unpublished(),
           Property<&TWinControl::TabOrder, &TWinControl::SetTabOrder>("TabOrder")
               .Default(-1)
               .Unpublished(),
@@ -43,6 +47,9 @@ const TClass& TWinControl::Class() {
           Event<&TWinControl::OnKeyDown>("OnKeyDown").Unpublished(),
           Event<&TWinControl::OnKeyPress>("OnKeyPress").Unpublished(),
           Event<&TWinControl::OnKeyUp>("OnKeyUp").Unpublished(),
+          Event<&TWinControl::OnMouseWheel>("OnMouseWheel").Unpublished(),
+          Event<&TWinControl::OnMouseWheelDown>("OnMouseWheelDown").Unpublished(),
+          Event<&TWinControl::OnMouseWheelUp>("OnMouseWheelUp").Unpublished(),
           Event<&TWinControl::OnResize>("OnResize").Unpublished(),
       });
   return info;
@@ -165,23 +172,34 @@ void TWinControl::ReadState(TReader& reader) {
 // Bounds.
 
 void TWinControl::SetBounds(int left, int top, int width, int height) {
-  width = std::max(width, 0);
-  height = std::max(height, 0);
-  if (left == Left() && top == Top() && width == Width() && height == Height()) return;
+  if (TRect(left, top, left + width, top + height) == BoundsRect()) return CheckLimits();
   if (HandleAllocated() && !::IsIconic(FHandle)) {
-    // The window tells of its new place (WM_WINDOWPOSCHANGED), which then becomes ours.
-    ::SetWindowPos(FHandle, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    // The window asks for its limits (WM_WINDOWPOSCHANGING) and tells of its new place
+    // (WM_WINDOWPOSCHANGED), which then becomes ours.
+    ::SetWindowPos(FHandle, nullptr, left, top, std::max(width, 0), std::max(height, 0),
+                   SWP_NOZORDER | SWP_NOACTIVATE);
     return;
   }
-  const bool resized = width != Width() || height != Height();
+  const TWatch watch(this);
+  const TSize size = ConstrainedSize(width, height);
+  if (watch.Gone()) return;
+  const bool resized = size != TSize{FWidth, FHeight};
   FLeft = left;
   FTop = top;
-  FWidth = width;
-  FHeight = height;
-  const TWatch watch(this);
+  FWidth = size.cx;
+  FHeight = size.cy;
+  KeepPlace();
   if (resized) Realign();
   if (!watch.Gone()) RequestAlign();
   if (!watch.Gone() && resized && !Loading()) Resize();
+}
+
+/// The limits may have changed around a size that stays outside them.
+void TWinControl::CheckLimits() {
+  const TWatch watch(this);
+  const TSize size = ConstrainedSize(FWidth, FHeight);
+  if (watch.Gone() || size == TSize{FWidth, FHeight}) return;
+  SetBounds(FLeft, FTop, size.cx, size.cy);
 }
 
 void TWinControl::UpdateBounds() {
@@ -191,10 +209,12 @@ void TWinControl::UpdateBounds() {
   if (::GetWindowLongW(FHandle, GWL_STYLE) & WS_CHILD) {
     ::MapWindowPoints(nullptr, ::GetParent(FHandle), reinterpret_cast<POINT*>(&rect), 2);
   }
+  const TRect former = BoundsRect();
   FLeft = rect.left;
   FTop = rect.top;
   FWidth = rect.right - rect.left;
   FHeight = rect.bottom - rect.top;
+  if (former != BoundsRect()) KeepPlace();
 }
 
 TRect TWinControl::ClientRect() const {

@@ -60,10 +60,17 @@ class VCL_API TWinControl : public TControl {
   /// The topmost visible control at the position; null when there is none. Disabled ones count only
   /// when `allowDisabled`.
   TControl* ControlAtPos(TPoint position, bool allowDisabled) const;
-  /// Arranges the controls by their Align.
+  /// Arranges the controls by their Align and Anchors.
   void Realign();
   void DisableAlign() { ++FAlignLevel; }
   void EnableAlign();
+  /// What stays free of aligned controls along the edges of the inner rectangle.
+  TPadding* Padding() const;
+  void SetPadding(const TPadding* padding);
+  bool AutoSize() const { return FAutoSize; }
+  /// The control becomes as large as what stands inside needs, Padding included. In a direction in
+  /// which nothing inside has a size of its own, it keeps its own.
+  void SetAutoSize(bool autoSize);
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
 
   // Focus and tab order.
@@ -127,6 +134,10 @@ class VCL_API TWinControl : public TControl {
   TNotifyEvent OnEnter, OnExit, OnResize;
   TKeyEvent OnKeyDown, OnKeyUp;
   TKeyPressEvent OnKeyPress;
+  /// The wheel was turned while the control, or one inside it that left the turn to it, has the
+  /// focus; OnMouseWheelDown and OnMouseWheelUp follow for each whole notch.
+  TMouseWheelEvent OnMouseWheel;
+  TMouseWheelUpDownEvent OnMouseWheelDown, OnMouseWheelUp;
 
  protected:
   // Making the window.
@@ -164,6 +175,8 @@ class VCL_API TWinControl : public TControl {
   virtual void KeyDown(std::uint16_t& key, TShiftState shift);
   virtual void KeyUp(std::uint16_t& key, TShiftState shift);
   virtual void KeyPress(char32_t& key);
+  /// A turn of the wheel; true when it has been used up.
+  virtual bool DoMouseWheel(TShiftState shift, int wheelDelta, TPoint mousePos);
   virtual void DoEnter();
   virtual void DoExit();
 
@@ -203,6 +216,9 @@ class VCL_API TWinControl : public TControl {
   void Remove(TControl* control);
   void AlignControl(TControl* control);
   void AlignGroup(TControl* control, TAlign align, TRect& rect);
+  void AlignByAnchors(TSize inside);
+  void FitToControls();
+  void CheckLimits();
   void MoveInZOrder(TControl* control, bool topmost);
   HWND PrecedingWindow(const TWinControl* control) const;
   void UpdateBounds();
@@ -224,7 +240,9 @@ class VCL_API TWinControl : public TControl {
   bool HandleChar(TMessage& message);
   bool OfferSpecialKey(WPARAM key, LPARAM data);
   bool OfferChar(const MSG& message);
+  void WMWindowPosChanging(TMessage& message);
   void WMWindowPosChanged(TMessage& message);
+  void WMMouseWheel(TMessage& message);
   void WMFocus(TMessage& message);
   void WMSetCursor(TMessage& message);
   void WMContextMenu(TMessage& message);
@@ -247,6 +265,9 @@ class VCL_API TWinControl : public TControl {
   std::string FImeName;
   int FAlignLevel = 0;
   bool FAlignNeeded = false;
+  bool FAutoSize = false;
+  int FWheelRest = 0;                          // What a fine wheel has turned short of a notch.
+  mutable std::unique_ptr<TPadding> FPadding;  // Made when asked for.
   wchar_t FHighSurrogate = 0;  // The first half of a character that comes in two messages.
 };
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "vcl/controls/wincontrol.h"
+#include "vcl/rtl/scope.h"
 
 namespace vcl {
 namespace {
@@ -19,28 +20,43 @@ bool ComesBefore(const TControl* a, const TControl* b, TAlign align) {
   }
 }
 
+/// What the control keeps free around itself at each edge.
+TRect MarginsOf(const TControl& control) {
+  if (!control.AlignWithMargins()) return {};
+  const TMargins& margins = *control.Margins();
+  return {margins.Left(), margins.Top(), margins.Right(), margins.Bottom()};
+}
+
 /// Puts the control along its edge of the rectangle, which becomes what is left of it. A control
 /// that ends as it hears of its new size takes nothing.
 void Place(TControl* control, TRect& rect) {
   const TWatch watch(control);
-  const int width = std::max(rect.Width(), 0);
-  const int height = std::max(rect.Height(), 0);
+  // What the control keeps free around itself lies inside the part that it takes of the rectangle.
+  const TRect around = MarginsOf(*control);
+  const int x = rect.Left + around.Left;
+  const int y = rect.Top + around.Top;
+  const int width = std::max(rect.Width() - around.Left - around.Right, 0);
+  const int height = std::max(rect.Height() - around.Top - around.Bottom, 0);
   switch (control->Align()) {
     case alTop:
-      control->SetBounds(rect.Left, rect.Top, width, control->Height());
-      if (!watch.Gone()) rect.Top += control->Height();
+      control->SetBounds(x, y, width, control->Height());
+      if (!watch.Gone()) rect.Top += around.Top + control->Height() + around.Bottom;
       return;
     case alBottom:
-      rect.Bottom -= control->Height();
-      return control->SetBounds(rect.Left, rect.Bottom, width, control->Height());
+      rect.Bottom -= around.Bottom + control->Height();
+      control->SetBounds(x, rect.Bottom, width, control->Height());
+      rect.Bottom -= around.Top;
+      return;
     case alLeft:
-      control->SetBounds(rect.Left, rect.Top, control->Width(), height);
-      if (!watch.Gone()) rect.Left += control->Width();
+      control->SetBounds(x, y, control->Width(), height);
+      if (!watch.Gone()) rect.Left += around.Left + control->Width() + around.Right;
       return;
     case alRight:
-      rect.Right -= control->Width();
-      return control->SetBounds(rect.Right, rect.Top, control->Width(), height);
-    case alClient: return control->SetBounds(rect.Left, rect.Top, width, height);
+      rect.Right -= around.Right + control->Width();
+      control->SetBounds(rect.Right, y, control->Width(), height);
+      rect.Right -= around.Left;
+      return;
+    case alClient: return control->SetBounds(x, y, width, height);
     case alNone: return;
   }
 }
@@ -64,10 +80,94 @@ void TWinControl::AlignControl(TControl* control) {
     return;
   }
   // Controls that are moved ask for the same again, which this call does already.
-  const TAlignHold hold(*this);
-  TRect rect = ClientRect();
-  AdjustClientRect(rect);
-  AlignControls(control, rect);
+  const TWatch watch(this);
+  {
+    const TAlignHold hold(*this);
+    TRect rect = ClientRect();
+    AlignByAnchors(rect.Size());
+    if (watch.Gone()) return;
+    AdjustClientRect(rect);
+    if (FPadding) rect = FPadding->Inside(rect);
+    AlignControls(control, rect);
+  }
+  if (!watch.Gone() && FAutoSize) FitToControls();
+}
+
+/// Moves the controls that keep their distance from other edges than the left and the top one.
+void TWinControl::AlignByAnchors(TSize inside) {
+  if (Loading()) return;
+  VisitControls([inside](TControl* control) {
+    if (control->Align() == alNone && !control->Loading()) control->MoveByAnchors(inside);
+    return true;
+  });
+}
+
+TPadding* TWinControl::Padding() const {
+  if (!FPadding) {
+    FPadding =
+        std::make_unique<TPadding>([self = const_cast<TWinControl*>(this)] { self->Realign(); });
+  }
+  return FPadding.get();
+}
+
+void TWinControl::SetPadding(const TPadding* padding) { Padding()->Assign(padding); }
+
+void TWinControl::SetAutoSize(bool autoSize) {
+  if (autoSize == FAutoSize) return;
+  FAutoSize = autoSize;
+  if (autoSize) Realign();
+}
+
+namespace {
+
+/// What controls need of the room that they stand in, from its top left corner.
+struct TNeed {
+  int Across = 0;  // In one row: controls along the left and the right edge.
+  int Down = 0;
+  int Right = 0;  // Of what stands freely.
+  int Bottom = 0;
+
+  void Count(const TControl& control, TPoint origin) {
+    const TRect around = MarginsOf(control);
+    const int width = around.Left + control.Width() + around.Right;
+    const int height = around.Top + control.Height() + around.Bottom;
+    switch (control.Align()) {
+      case alLeft:
+      case alRight: Across += width; return;
+      case alTop:
+      case alBottom: Down += height; return;
+      case alNone:
+        // What follows the far edge needs no more than it has.
+        if (!control.Anchors().Has(akRight)) {
+          Right = std::max(Right, control.Left() + control.Width() - origin.X);
+        }
+        if (!control.Anchors().Has(akBottom)) {
+          Bottom = std::max(Bottom, control.Top() + control.Height() - origin.Y);
+        }
+        return;
+      case alClient: return;
+    }
+  }
+  int Width() const { return std::max(Across, Right); }
+  int Height() const { return std::max(Down, Bottom); }
+};
+
+}  // namespace
+
+void TWinControl::FitToControls() {
+  if (Loading()) return;
+  TRect room = ClientRect();
+  AdjustClientRect(room);
+  if (FPadding) room = FPadding->Inside(room);
+  TNeed need;
+  for (const TControl* each : FControls) {
+    if (each->Seen()) need.Count(*each, room.TopLeft());
+  }
+  const int width = need.Width() > 0 ? Width() - room.Width() + need.Width() : Width();
+  const int height = need.Height() > 0 ? Height() - room.Height() + need.Height() : Height();
+  // Its own new size asks for no more than this.
+  const TSetFor fitting(FAutoSize, false, this);
+  SetBounds(Left(), Top(), width, height);
 }
 
 void TWinControl::Realign() { AlignControl(nullptr); }

@@ -1,5 +1,6 @@
 // TWinControl: what a window does with the system's messages and the library's notices.
 #include <algorithm>
+#include <cstdlib>
 
 #include "vcl/controls/wincontrol.h"
 #include "vcl/forms/application.h"
@@ -99,7 +100,9 @@ void TWinControl::DispatchWindow(TMessage& message) {
   switch (message.Msg) {
     case WM_PAINT: return WMPaint(message);
     case WM_ERASEBKGND: return WMEraseBkgnd(message);
+    case WM_WINDOWPOSCHANGING: return WMWindowPosChanging(message);
     case WM_WINDOWPOSCHANGED: return WMWindowPosChanged(message);
+    case WM_MOUSEWHEEL: return WMMouseWheel(message);
     case WM_SETFOCUS:
     case WM_KILLFOCUS: return WMFocus(message);
     case WM_KEYDOWN:
@@ -224,6 +227,43 @@ bool TWinControl::IsControlMouseMessage(TMessage& message) {
     message.Result = ::DefWindowProcW(FHandle, message.Msg, message.WParam, message.LParam);
   }
   return true;
+}
+
+/// Whoever sizes the window, the user included, does so within the control's limits.
+void TWinControl::WMWindowPosChanging(TMessage& message) {
+  const TWatch watch(this);
+  DefaultHandler(message);
+  if (watch.Gone() || ::IsIconic(FHandle)) return;
+  auto* place = reinterpret_cast<WINDOWPOS*>(message.LParam);
+  if (place->flags & SWP_NOSIZE) return;
+  const TSize size = ConstrainedSize(place->cx, place->cy);
+  place->cx = size.cx;
+  place->cy = size.cy;
+}
+
+void TWinControl::WMMouseWheel(TMessage& message) {
+  const TWatch watch(this);
+  const TShiftState shift = KeysToShiftState(LOWORD(message.WParam));
+  const TPoint mouse{message.XPos(), message.YPos()};
+  const bool used = DoMouseWheel(shift, GET_WHEEL_DELTA_WPARAM(message.WParam), mouse);
+  // The system hands what nobody uses to the control around.
+  if (!used && !watch.Gone()) DefaultHandler(message);
+}
+
+bool TWinControl::DoMouseWheel(TShiftState shift, int wheelDelta, TPoint mousePos) {
+  const TWatch watch(this);
+  bool handled = false;
+  OnMouseWheel(this, shift, wheelDelta, mousePos, handled);
+  if (watch.Gone() || handled) return true;
+  FWheelRest += wheelDelta;
+  while (!watch.Gone() && std::abs(FWheelRest) >= WHEEL_DELTA) {
+    const bool up = FWheelRest > 0;
+    FWheelRest += up ? -WHEEL_DELTA : WHEEL_DELTA;
+    bool notchHandled = false;
+    (up ? OnMouseWheelUp : OnMouseWheelDown)(this, shift, mousePos, notchHandled);
+    handled |= notchHandled;
+  }
+  return watch.Gone() || handled;
 }
 
 void TWinControl::WMWindowPosChanged(TMessage& message) {

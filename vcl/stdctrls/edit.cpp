@@ -61,7 +61,7 @@ const TClass& TEdit::Class() {
           Inherit("Text"),         Inherit("Visible"),       Inherit("OnChange"),
           Inherit("OnClick"),      Inherit("OnDblClick"),    Inherit(DragEvents),
           Inherit(FocusEvents),    Inherit(KeyEvents),       Inherit(MouseEvents),
-          Inherit("OnStartDrag"),
+          Inherit(WheelEvents),    Inherit("OnStartDrag"),
       });
   return info;
 }

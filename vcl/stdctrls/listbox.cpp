@@ -45,7 +45,8 @@ const TClass& TListBox::Class() {
           Inherit("TabStop"),     Inherit("Visible"),        Inherit("OnClick"),
           Inherit("OnDblClick"),  Inherit("OnDragDrop"),     Inherit("OnDragOver"),
           Inherit("OnDrawItem"),  Inherit("OnEndDrag"),      Inherit(FocusEvents),
-          Inherit(KeyEvents),     Inherit(MouseEvents),      Inherit("OnStartDrag"),
+          Inherit(KeyEvents),     Inherit(MouseEvents),      Inherit(WheelEvents),
+          Inherit("OnStartDrag"),
       });
   return info;
 }

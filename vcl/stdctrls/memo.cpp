@@ -40,7 +40,8 @@ const TClass& TMemo::Class() {
           Inherit("Visible"),       Inherit("WantReturns"), Inherit("WantTabs"),
           Inherit("WordWrap"),      Inherit("OnChange"),    Inherit("OnClick"),
           Inherit("OnDblClick"),    Inherit(DragEvents),    Inherit(FocusEvents),
-          Inherit(KeyEvents),       Inherit(MouseEvents),   Inherit("OnStartDrag"),
+          Inherit(KeyEvents),       Inherit(MouseEvents),   Inherit(WheelEvents),
+          Inherit("OnStartDrag"),
       });
   return info;
 }

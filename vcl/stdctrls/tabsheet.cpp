@@ -32,6 +32,7 @@ const TClass& TTabSheet::Class() {
           Inherit(FocusEvents),
           Event<&T::OnHide>("OnHide"),
           Inherit(MouseEvents),
+          Inherit(WheelEvents),
           Inherit("OnResize"),
           Event<&T::OnShow>("OnShow"),
           Inherit("OnStartDrag"),

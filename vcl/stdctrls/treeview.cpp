@@ -123,6 +123,7 @@ const TClass& TTreeView::Class() {
                                                Inherit("OnStartDrag"),
                                                Inherit("OnEndDrag"),
                                                Inherit(MouseEvents),
+                                               Inherit(WheelEvents),
                                                Inherit("OnDblClick"),
                                                Inherit(KeyEvents),
                                                Inherit("PopupMenu"),

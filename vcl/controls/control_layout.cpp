@@ -1,0 +1,123 @@
+// TControl: anchors, the limits of its size, margins.
+#include <algorithm>
+
+#include "vcl/controls/control.h"
+#include "vcl/controls/wincontrol.h"
+#include "vcl/rtl/scope.h"
+#include "vcl/rtl/win32.h"
+
+namespace vcl {
+
+// Limits.
+
+TSizeConstraints* TControl::Constraints() const {
+  if (!FConstraints) {
+    FConstraints = std::make_unique<TSizeConstraints>(
+        [self = const_cast<TControl*>(this)] { self->LimitsChanged(); });
+  }
+  return FConstraints.get();
+}
+
+void TControl::SetConstraints(const TSizeConstraints* constraints) {
+  Constraints()->Assign(constraints);
+}
+
+void TControl::LimitsChanged() {
+  if (!Loading()) SetBounds(FLeft, FTop, FWidth, FHeight);
+}
+
+TSize TControl::ConstrainedSize(int width, int height) {
+  int least[2] = {0, 0};
+  int most[2] = {0, 0};
+  if (FConstraints) {
+    least[0] = FConstraints->MinWidth();
+    least[1] = FConstraints->MinHeight();
+    most[0] = FConstraints->MaxWidth();
+    most[1] = FConstraints->MaxHeight();
+  }
+  if (OnConstrainedResize && !Loading()) {
+    OnConstrainedResize(this, least[0], least[1], most[0], most[1]);
+  }
+  const auto within = [&](int size, int axis) {
+    if (most[axis] > 0) size = std::min(size, most[axis]);
+    return std::max({size, least[axis], 0});
+  };
+  return {within(width, 0), within(height, 1)};
+}
+
+// Margins.
+
+TMargins* TControl::Margins() const {
+  if (!FMargins) {
+    FMargins = std::make_unique<TMargins>([self = const_cast<TControl*>(this)] {
+      if (self->FAlignWithMargins) self->RequestAlign();
+    });
+  }
+  return FMargins.get();
+}
+
+void TControl::SetMargins(const TMargins* margins) { Margins()->Assign(margins); }
+
+void TControl::SetAlignWithMargins(bool alignWithMargins) {
+  if (alignWithMargins == FAlignWithMargins) return;
+  FAlignWithMargins = alignWithMargins;
+  RequestAlign();
+}
+
+// Anchors.
+
+void TControl::SetAnchors(TAnchors anchors) {
+  if (anchors == FAnchors) return;
+  FAnchors = anchors;
+  KeepPlace();
+}
+
+/// Remembers the control's place as the one that the anchors keep.
+void TControl::KeepPlace() {
+  if (FAnchoring || !FParent || FAnchors == TAnchors{akLeft, akTop}) return;
+  FPlace.Bounds = BoundsRect();
+  FPlace.Inside = FParent->ClientRect().Size();
+  FPlace.Parent = {FParent->Width(), FParent->Height()};
+  FPlace.WithWindow = FParent->HandleAllocated();
+  FPlace.Known = true;
+}
+
+namespace {
+
+/// Where an edge pair lies when the parent's inside has grown by so much.
+struct TSpan {
+  int Begin;
+  int End;
+};
+
+TSpan Anchored(TSpan span, bool toBegin, bool toEnd, int before, int now) {
+  const int grown = now - before;
+  if (toBegin && toEnd) return {span.Begin, std::max(span.End + grown, span.Begin)};
+  if (toBegin) return span;
+  if (toEnd) return {span.Begin + grown, span.End + grown};
+  // Between the edges the middle keeps its share of the way.
+  const int middle = before == 0 ? 0 : ::MulDiv(span.Begin + span.End, now, before);
+  const int size = span.End - span.Begin;
+  const int begin = before == 0 ? span.Begin : (middle - size) / 2;
+  return {begin, begin + size};
+}
+
+}  // namespace
+
+void TControl::MoveByAnchors(TSize inside) {
+  if (FAnchors == TAnchors{akLeft, akTop}) return;
+  const TSize parent{FParent->Width(), FParent->Height()};
+  // The parent's window has been made since: its border takes what was counted as its inside.
+  const bool onlyBorder =
+      FPlace.Known && !FPlace.WithWindow && FParent->HandleAllocated() && parent == FPlace.Parent;
+  if (!FPlace.Known || onlyBorder) return KeepPlace();
+  const TRect& kept = FPlace.Bounds;
+  const TSpan x = Anchored({kept.Left, kept.Right}, FAnchors.Has(akLeft), FAnchors.Has(akRight),
+                           FPlace.Inside.cx, inside.cx);
+  const TSpan y = Anchored({kept.Top, kept.Bottom}, FAnchors.Has(akTop), FAnchors.Has(akBottom),
+                           FPlace.Inside.cy, inside.cy);
+  const TSetFor anchoring(FAnchoring, true, this);
+  SetBounds(x.Begin, y.Begin, x.End - x.Begin, y.End - y.Begin);
+}
+
+}  // namespace vcl
