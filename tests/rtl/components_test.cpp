@@ -122,7 +122,7 @@ TEST(ClassRegistry, FindsByNameAndRefusesSecondOnes) {
   RegisterClass(TBase::Class());
   RegisterClass(TBase::Class());
   EXPECT_EQ(GetClass("tbase"), &TBase::Class());
-  const TClass impostor("TBASE", "other", &TComponent::Class(), {}, nullptr, 0);
+  const TClass impostor("TBASE", "other", typeid(TBase), &TComponent::Class(), {}, nullptr, 0);
   EXPECT_THROW(RegisterClass(impostor), EFilerError);
   UnRegisterClass(impostor);
   EXPECT_EQ(&FindClass("TBase"), &TBase::Class());
