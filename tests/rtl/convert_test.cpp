@@ -70,7 +70,7 @@ TEST(Convert, CutsLongValuesInItsMessages) {
   const std::string text = "a" + std::string(99, 'b') + std::string(100'000, 'c');
   EXPECT_THAT([&] { StrToInt(text); },
               testing::ThrowsMessage<EConvertError>("'a" + std::string(99, 'b') +
-                                                    "...' is not a valid integer"));
+                                                    "...' is not a valid integer value"));
 }
 
 TEST(Colors, HaveNamesOrNumbers) {

@@ -46,6 +46,7 @@ std::string Hex(std::uintptr_t number) {
 }
 
 HMODULE ModuleAt(std::uintptr_t address) {
+  if (address == 0) return nullptr;  // Which the system would take for the program.
   HMODULE module = nullptr;
   constexpr DWORD asIs =
       GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
@@ -87,7 +88,7 @@ std::string Described(const TFault& fault) {
 
 /// Whether the module uses this library, as its import table tells.
 bool UsesThisLibrary(HMODULE module) {
-  const HMODULE own = ModuleOf(&Current);
+  const HMODULE own = ModuleOf(reinterpret_cast<const void*>(&CatchFaults));
   if (module == own) return true;
   const auto* base = reinterpret_cast<const char*>(module);
   const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
