@@ -182,11 +182,12 @@ TPoint TControl::ScreenToClient(TPoint point) const {
 void TControl::SetAlign(TAlign align) {
   if (align == FAlign) return;
   FAlign = align;
-  RequestAlign();
+  if (FParent) FParent->AlignControl(this);
 }
 
+/// Where a control stands freely, the others stand as they did.
 void TControl::RequestAlign() {
-  if (FParent) FParent->AlignControl(this);
+  if (FParent && (FAlign != alNone || FParent->ArrangesFree())) FParent->AlignControl(this);
 }
 
 // State.
@@ -373,7 +374,8 @@ void TControl::ReadState(TReader& reader) {
 void TControl::Loaded() {
   TComponent::Loaded();
   if (FConstraints) LimitsChanged();
-  if (FAlign != alNone || FAnchors != TAnchors{akLeft, akTop}) RequestAlign();
+  if (FAnchors != TAnchors{akLeft, akTop} && FParent) FParent->AlignControl(this);
+  RequestAlign();
 }
 
 }  // namespace vcl

@@ -189,6 +189,9 @@ class VCL_API TWinControl : public TControl {
   virtual void AdjustClientRect(TRect& /*rect*/) const {}
   /// Called before a control inside is shown by `Show`; a container brings it into view.
   virtual void ShowControl(TControl* control);
+  /// Whether the place or size of a control without Align counts for how the controls inside are
+  /// arranged. Here: with AutoSize.
+  virtual bool ArrangesFree() const { return FAutoSize; }
   /// Arranges one group of controls after another in the rectangle.
   virtual void AlignControls(TControl* control, TRect& rect);
   void ReadState(TReader& reader) override;
