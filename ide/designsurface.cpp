@@ -66,6 +66,12 @@ bool TDesignSurface::IsDesignMessage(TWinControl& sender, TMessage& message) {
   if (!FRoot || &sender == &FHost) return false;
   switch (message.Msg) {
     case WM_SETCURSOR: return SetCursor(message);
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+      // The marks move with what they are on.
+      sender.WndProc(message);
+      Refresh();
+      return true;
     case WM_CONTEXTMENU:
     case WM_MOUSEWHEEL:
     case WM_MOUSEACTIVATE: return message.Msg != WM_MOUSEACTIVATE;
@@ -134,6 +140,9 @@ UINT InsideMessage(UINT message) {
 bool TDesignSurface::IsMouse(TWinControl& sender, TMessage& message) {
   const bool frame = message.Msg >= WM_NCMOUSEMOVE && message.Msg <= WM_NCMBUTTONDBLCLK;
   if (!IsMouseMessage(message.Msg) || (&sender == FRoot && frame)) return false;
+  // What scrolls to the places of controls scrolls here, too.
+  const bool bar = message.WParam == HTHSCROLL || message.WParam == HTVSCROLL;
+  if (frame && bar && dynamic_cast<TScrollingWinControl*>(&sender)) return false;
   const TPoint at{message.XPos(), message.YPos()};
   const TPoint screen = frame ? at : sender.ClientToScreen(at);
   switch (InsideMessage(message.Msg)) {

@@ -30,8 +30,8 @@ TEST_F(Layout, AnchorsKeepTheDistanceFromTheirEdges) {
       {{akLeft, akTop}, {30, 20, 130, 60}},
       {{akRight, akBottom}, {130, 120, 230, 160}},
       {{akLeft, akTop, akRight, akBottom}, {30, 20, 230, 160}},
-      {{akLeft, akRight}, {30, 60, 230, 100}},  // The middle, at 40 of 200, is at 80 of 300.
-      {{}, {57, 60, 157, 100}},                 // And at 107 of 400 instead of 80 of 300.
+      {{akLeft, akRight}, {30, 40, 230, 80}},  // The middle, at 40 of 200, is at 60 of 300.
+      {{}, {57, 40, 157, 80}},                 // And at 106.7 of 400 instead of 80 of 300.
   };
   for (const bool window : {false, true}) {
     for (const auto& [anchors, expected] : cases) {
@@ -70,6 +70,7 @@ TEST_F(Layout, AFormFileKeepsAnchorsAndLimits) {
       "    AlignWithMargins = True\n"
       "    Constraints.MinWidth = 30\n"
       "    Margins.Left = 5\n"
+      "    Caption = ''\n"
       "    Padding.Top = 2\n"
       "    TabOrder = 0\n"
       "  end\n"
@@ -101,13 +102,15 @@ TEST_F(Layout, LimitsHoldWhoeverSizesTheControl) {
   EXPECT_EQ(panel->Width(), 80);
   panel->Constraints()->SetMinWidth(90);
   EXPECT_EQ(panel->Width(), 90) << "at once";
-  panel->OnConstrainedResize = [](TObject*, int& minWidth, int&, int& maxWidth, int&) {
-    EXPECT_EQ(minWidth, 90);
+  int told = 0;
+  panel->OnConstrainedResize = [&](TObject*, int& minWidth, int&, int& maxWidth, int&) {
+    told = minWidth;
     minWidth = 0;
     maxWidth = 70;
   };
   panel->SetWidth(100);
   EXPECT_EQ(panel->Width(), 70);
+  EXPECT_EQ(told, 90);
   panel->Constraints()->SetMaxWidth(50);
   EXPECT_EQ(panel->Constraints()->MinWidth(), 50);
   EXPECT_THROW(panel->Constraints()->SetMinHeight(-1), EArgumentOutOfRangeException);
@@ -150,7 +153,7 @@ TEST_F(Layout, AContainerFitsWhatStandsInside) {
   EXPECT_EQ(panel->Height(), 70) << "the aligned one needs 60, the bevel and the padding the rest";
   top->Hide();
   panel->Realign();
-  EXPECT_EQ(panel->Height(), 55);
+  EXPECT_EQ(panel->Height(), 45);
 }
 
 TEST_F(Layout, TheWheelTurnsByNotches) {

@@ -18,8 +18,8 @@ const TClass& TControl::Class() {
   static const TClass info = Describe<TControl, TComponent>(
       "vcl::TControl", "vcl/controls/controls.h",
       {
-          Property<&TControl::Left, &TControl::SetLeft>("Left"),
-          Property<&TControl::Top, &TControl::SetTop>("Top"),
+          Property<&TControl::FileLeft, &TControl::SetFileLeft>("Left"),
+          Property<&TControl::FileTop, &TControl::SetFileTop>("Top"),
           Property<&TControl::Width, &TControl::SetWidth>("Width"),
           Property<&TControl::Height, &TControl::SetHeight>("Height"),
           Property<&TControl::Cursor, &TControl::SetCursor>("Cursor").Default(crDefault),

@@ -205,6 +205,11 @@ class VCL_API TControl : public TComponent {
   /// The size within Constraints and what OnConstrainedResize makes of them.
   TSize ConstrainedSize(int width, int height);
   void RequestAlign();
+  /// Left and Top as they are when the parent is not scrolled, which is what form files hold.
+  int FileLeft() const;
+  void SetFileLeft(int left);
+  int FileTop() const;
+  void SetFileTop(int top);
   void Notification(TComponent* component, TOperation operation) override;
   void Loaded() override;
   void ReadState(TReader& reader) override;
@@ -239,6 +244,7 @@ class VCL_API TControl : public TComponent {
   void LimitsChanged();
   void KeepPlace();
   void MoveByAnchors(TSize parentSize);
+  void ScrollBounds(int dx, int dy);
 
   /// What the anchors count from: the bounds that somebody gave the control, and the size that the
   /// parent's inside had then. What the anchors themselves bring about changes neither, so that

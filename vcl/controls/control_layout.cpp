@@ -70,6 +70,7 @@ void TControl::SetAnchors(TAnchors anchors) {
   if (anchors == FAnchors) return;
   FAnchors = anchors;
   KeepPlace();
+  if (!Loading()) RequestAlign();
 }
 
 /// Remembers the control's place as the one that the anchors keep.
@@ -96,13 +97,26 @@ TSpan Anchored(TSpan span, bool toBegin, bool toEnd, int before, int now) {
   if (toBegin) return span;
   if (toEnd) return {span.Begin + grown, span.End + grown};
   // Between the edges the middle keeps its share of the way.
-  const int middle = before == 0 ? 0 : ::MulDiv(span.Begin + span.End, now, before);
   const int size = span.End - span.Begin;
-  const int begin = before == 0 ? span.Begin : (middle - size) / 2;
+  const int begin = before == 0 ? span.Begin
+                                : ::MulDiv((span.Begin + span.End) * now - size * before, 1,
+                                           2 * before);
   return {begin, begin + size};
 }
 
 }  // namespace
+
+int TControl::FileLeft() const { return FLeft + (FParent ? FParent->ScrollOffset().X : 0); }
+int TControl::FileTop() const { return FTop + (FParent ? FParent->ScrollOffset().Y : 0); }
+void TControl::SetFileLeft(int left) { SetLeft(left - (FileLeft() - FLeft)); }
+void TControl::SetFileTop(int top) { SetTop(top - (FileTop() - FTop)); }
+
+/// Moves the control with all that its parent holds, which is no news to the anchors.
+void TControl::ScrollBounds(int dx, int dy) {
+  const TSetFor anchoring(FAnchoring, true, this);
+  FPlace.Bounds.Offset(dx, dy);
+  SetBounds(FLeft + dx, FTop + dy, FWidth, FHeight);
+}
 
 void TControl::MoveByAnchors(TSize inside) {
   if (FAnchors == TAnchors{akLeft, akTop}) return;

@@ -3,5 +3,6 @@
 
 #include "vcl/controls/control.h"
 #include "vcl/controls/controlcanvas.h"
+#include "vcl/controls/scrolling.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/graphics/imagelist.h"

@@ -51,6 +51,10 @@ inline constexpr UINT CM_DESIGNHITTEST =
     CM_BASE + 27;  ///< Result 1: the control wants the mouse in the designer.
 inline constexpr UINT CM_CTL3DCHANGED = CM_BASE + 28;
 inline constexpr UINT CM_PARENTCTL3DCHANGED = CM_BASE + 29;
+inline constexpr UINT CM_CONTROLLISTCHANGE =
+    CM_BASE + 61;  ///< LParam: TControl* that came in (WParam 1) or is leaving (0).
+inline constexpr UINT CM_CAPTUREKEY =
+    CM_BASE + 60;  ///< WParam: key pressed while the mouse is captured; Result 1: handled.
 
 // Notifications that a window sends to its parent, sent back to the control it came from: CN_BASE
 // and the number of the system's message (WM_COMMAND for CN_COMMAND).

@@ -103,7 +103,9 @@ void TWinControl::Insert(TControl* control) {
   } else {
     control->Invalidate();
   }
-  AlignControl(control);
+  const TWatch watch(this);
+  Perform(CM_CONTROLLISTCHANGE, 1, reinterpret_cast<LPARAM>(control));
+  if (!watch.Gone()) AlignControl(control);
 }
 
 void TWinControl::Remove(TControl* control) {
@@ -117,6 +119,8 @@ void TWinControl::Remove(TControl* control) {
     control->InvalidateArea(control->Visible(), false);
   }
   control->FParent = nullptr;
+  if (Destroying()) return;
+  Perform(CM_CONTROLLISTCHANGE, 0, reinterpret_cast<LPARAM>(control));
   Realign();
 }
 

@@ -71,6 +71,10 @@ class VCL_API TWinControl : public TControl {
   /// The control becomes as large as what stands inside needs, Padding included. In a direction in
   /// which nothing inside has a size of its own, it keeps its own.
   void SetAutoSize(bool autoSize);
+  /// Moves all controls inside by so many pixels.
+  void ScrollBy(int dx, int dy);
+  /// How far the controls inside are scrolled, to the left and up, in pixels.
+  virtual TPoint ScrollOffset() const { return {}; }
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
 
   // Focus and tab order.
@@ -187,6 +191,8 @@ class VCL_API TWinControl : public TControl {
   void Resize() override;
   /// What the controls inside may take of the client rectangle.
   virtual void AdjustClientRect(TRect& /*rect*/) const {}
+  /// Called before the controls inside are arranged in the client rectangle.
+  virtual void PrepareAlign() {}
   /// Called before a control inside is shown by `Show`; a container brings it into view.
   virtual void ShowControl(TControl* control);
   /// Whether the place or size of a control without Align counts for how the controls inside are

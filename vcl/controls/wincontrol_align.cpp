@@ -1,6 +1,7 @@
 // TWinControl: arranging the controls inside by their Align.
 #include <algorithm>
 
+#include "vcl/controls/private/margins.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/rtl/scope.h"
 
@@ -18,13 +19,6 @@ bool ComesBefore(const TControl* a, const TControl* b, TAlign align) {
     case alClient:
     default: return false;
   }
-}
-
-/// What the control keeps free around itself at each edge.
-TRect MarginsOf(const TControl& control) {
-  if (!control.AlignWithMargins()) return {};
-  const TMargins& margins = *control.Margins();
-  return {margins.Left(), margins.Top(), margins.Right(), margins.Bottom()};
 }
 
 /// Puts the control along its edge of the rectangle, which becomes what is left of it. A control
@@ -83,6 +77,8 @@ void TWinControl::AlignControl(TControl* control) {
   const TWatch watch(this);
   {
     const TAlignHold hold(*this);
+    PrepareAlign();
+    if (watch.Gone()) return;
     TRect rect = ClientRect();
     AlignByAnchors(rect.Size());
     if (watch.Gone()) return;
@@ -168,6 +164,19 @@ void TWinControl::FitToControls() {
   // Its own new size asks for no more than this.
   const TSetFor fitting(FAutoSize, false, this);
   SetBounds(Left(), Top(), width, height);
+}
+
+void TWinControl::ScrollBy(int dx, int dy) {
+  if (dx == 0 && dy == 0) return;
+  const TWatch watch(this);
+  {
+    const TAlignHold hold(*this);
+    VisitControls([dx, dy](TControl* control) {
+      control->ScrollBounds(dx, dy);
+      return true;
+    });
+  }
+  if (!watch.Gone()) Invalidate();
 }
 
 void TWinControl::Realign() { AlignControl(nullptr); }

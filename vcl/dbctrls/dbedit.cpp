@@ -40,6 +40,7 @@ const TClass& TDBEdit::Class() {
           Inherit("OnDblClick"),
           Inherit(FocusEvents),
           Inherit(KeyEvents),
+          Inherit(WheelEvents),
       });
   return info;
 }

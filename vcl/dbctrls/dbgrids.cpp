@@ -48,6 +48,8 @@ const TClass& TDBGrid::Class() {
                                       Inherit("OnDblClick"),
                                       Inherit(FocusEvents),
                                       Inherit("OnKeyDown"),
+                                      Inherit(WheelEvents),
+                                      Inherit("OnResize"),
                                   });
   return info;
 }

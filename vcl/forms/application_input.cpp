@@ -81,6 +81,11 @@ bool TApplication::PreprocessInput(MSG& message) {
   if (IsMouse(message.message)) TrackMouse(&message);
   if (!IsKey(message.message)) return false;
   if (TDragSession::HandleKey(message)) return true;
+  TControl* const captured = TWinControl::CaptureControl();
+  if (message.message == WM_KEYDOWN && captured &&
+      captured->Perform(CM_CAPTUREKEY, message.wParam)) {
+    return true;
+  }
   const HWND client = FMainForm ? FMainForm->ClientHandle() : nullptr;
   if (client && ::TranslateMDISysAccel(client, &message)) return true;
   TWinControl* const control = ControlOf(message.hwnd);

@@ -20,7 +20,8 @@ namespace vcl {
 
 const TClass& TCustomForm::Class() {
   static const TClass info =
-      Describe<TCustomForm, TWinControl>("vcl::TCustomForm", "vcl/forms/forms.h", {});
+      Describe<TCustomForm, TScrollingWinControl>("vcl::TCustomForm",
+                                                                      "vcl/forms/forms.h", {});
   return info;
 }
 
@@ -32,19 +33,21 @@ const TClass& TForm::Class() {
           Inherit("Width").Stored(false),
           Inherit("Height").Stored(false),
           Property<&TForm::ActiveControl, &TForm::SetActiveControl>("ActiveControl"),
+          Inherit("AutoScroll"),
           Inherit("AutoSize"),
           Property<&TForm::BorderIcons, &TForm::SetBorderIcons>("BorderIcons")
               .Default(TBorderIcons{biSystemMenu, biMinimize, biMaximize}),
           Property<&TForm::BorderStyle, &TForm::SetBorderStyle>("BorderStyle").Default(bsSizeable),
           Inherit("Caption"),
-          Property<&TForm::ClientHeight, &TForm::SetFileClientHeight>("ClientHeight"),
-          Property<&TForm::ClientWidth, &TForm::SetFileClientWidth>("ClientWidth"),
+          Property<&TForm::FileClientHeight, &TForm::SetFileClientHeight>("ClientHeight"),
+          Property<&TForm::FileClientWidth, &TForm::SetFileClientWidth>("ClientWidth"),
           Inherit("Color").Default(clBtnFace),
           Inherit("Ctl3D"),
           Inherit("DoubleBuffered"),
           Inherit("Enabled"),
           Inherit("Font"),
           Property<&TForm::FormStyle, &TForm::SetFormStyle>("FormStyle").Default(fsNormal),
+          Inherit("HorzScrollBar"),
           Property<&TForm::Icon, &TForm::SetIcon>("Icon"),
           Property<&TForm::KeyPreview, &TForm::SetKeyPreview>("KeyPreview").Default(false),
           Property<&TForm::Menu, &TForm::SetMenu>("Menu"),
@@ -52,6 +55,7 @@ const TClass& TForm::Class() {
           Inherit("PopupMenu"),
           Property<&TForm::Position, &TForm::SetPosition>("Position").Default(poDesigned),
           Inherit("ShowHint"),
+          Inherit("VertScrollBar"),
           Property<&TForm::FileVisible, &TForm::SetVisible>("Visible").Default(false),
           Property<&TForm::WindowState, &TForm::SetWindowState>("WindowState").Default(wsNormal),
           Event<&TForm::OnActivate>("OnActivate"),
@@ -79,7 +83,7 @@ const TClass& TForm::Class() {
 // Making, reading and ending.
 
 TCustomForm::TCustomForm(TComponent* owner)
-    : TWinControl(owner),
+    : TScrollingWinControl(owner),
       FIcon(std::make_unique<TIcon>()),
       FCanvas(std::make_unique<TControlCanvas>()) {
   constexpr int width = 320;
@@ -87,9 +91,9 @@ TCustomForm::TCustomForm(TComponent* owner)
   SetControlStyle({csAcceptsControls, csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks});
   FCanvas->SetControl(this);
   FIcon->OnChange = [this](TObject*) { UpdateIcon(); };
-  TWinControl::SetVisible(false);
-  TWinControl::SetBounds(0, 0, width, height);
-  TWinControl::SetColor(clBtnFace);
+  TScrollingWinControl::SetVisible(false);
+  TScrollingWinControl::SetBounds(0, 0, width, height);
+  TScrollingWinControl::SetColor(clBtnFace);
   Screen()->AddForm(this);
 }
 
@@ -152,21 +156,31 @@ void TCustomForm::Created() {
 }
 
 void TCustomForm::Loaded() {
-  TWinControl::Loaded();
+  TScrollingWinControl::Loaded();
   const int width = std::exchange(FClientWidth, -1);
   const int height = std::exchange(FClientHeight, -1);
   UpdateMenu();
   const TRect client = ClientRect();
-  SetClientSize(width < 0 ? client.Width() : width, height < 0 ? client.Height() : height);
+  const TSize bars = ScrollBarsSize();
+  SetClientSize(width < 0 ? client.Width() : width - bars.cx,
+                height < 0 ? client.Height() : height - bars.cy);
   if (!FReadingForm) SetVisible(FVisibleAsked);
 }
 
 void TCustomForm::SetFileClientWidth(int width) {
-  Loading() ? void(FClientWidth = width) : SetClientWidth(width);
+  Loading() ? void(FClientWidth = width) : SetClientWidth(width - ScrollBarsSize().cx);
+}
+
+int TCustomForm::FileClientWidth() const {
+  return FClientWidth >= 0 ? FClientWidth : ClientWidth() + ScrollBarsSize().cx;
+}
+
+int TCustomForm::FileClientHeight() const {
+  return FClientHeight >= 0 ? FClientHeight : ClientHeight() + ScrollBarsSize().cy;
 }
 
 void TCustomForm::SetFileClientHeight(int height) {
-  Loading() ? void(FClientHeight = height) : SetClientHeight(height);
+  Loading() ? void(FClientHeight = height) : SetClientHeight(height - ScrollBarsSize().cy);
 }
 
 void TCustomForm::BeforeDestruction() {
@@ -189,7 +203,7 @@ void TCustomForm::Release() {
 }
 
 void TCustomForm::Notification(TComponent* component, TOperation operation) {
-  TWinControl::Notification(component, operation);
+  TScrollingWinControl::Notification(component, operation);
   if (operation != opRemove) return;
   if (component == FActiveControl) FActiveControl = nullptr;
   // The controls around it may be ending too, and have said so before.
@@ -202,7 +216,7 @@ void TCustomForm::Notification(TComponent* component, TOperation operation) {
 }
 
 void TCustomForm::GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) {
-  TWinControl::GetChildren(each, root);
+  TScrollingWinControl::GetChildren(each, root);
   if (root != this) return;
   // Behind the controls what is seen on the form in a designer only.
   for (int i = 0; i < ComponentCount(); ++i) {
@@ -222,7 +236,7 @@ void TCustomForm::SetDesigner(TDesignerHook* designer) {
 
 void TCustomForm::SetVisible(bool visible) {
   FVisibleAsked = visible;
-  if (!Loading() && !FReadingForm && !Designing()) TWinControl::SetVisible(visible);
+  if (!Loading() && !FReadingForm && !Designing()) TScrollingWinControl::SetVisible(visible);
 }
 
 bool TCustomForm::FileVisible() const {

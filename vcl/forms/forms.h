@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "vcl/controls/wincontrol.h"
+#include "vcl/controls/scrolling.h"
 #include "vcl/forms/designerhook.h"
 
 namespace vcl {
@@ -22,10 +22,24 @@ inline constexpr TEnumText EnumText<TFormStyle>{"TFormStyle",
                                                 "fsNormal fsMDIChild fsMDIForm fsStayOnTop"};
 /// Tiles lie above each other, or side by side.
 enum TTileMode { tbHorizontal, tbVertical };
-enum TPosition { poDesigned, poDefault, poDefaultPosOnly, poDefaultSizeOnly, poScreenCenter };
+/// Where a form comes up: where it was designed, where the system puts it, or in the middle of the
+/// screen's work area, of all screens together, of the main form, or of the form that owns it (of
+/// the main form when no form does).
+enum TPosition {
+  poDesigned,
+  poDefault,
+  poDefaultPosOnly,
+  poDefaultSizeOnly,
+  poScreenCenter,
+  poDesktopCenter,
+  poMainFormCenter,
+  poOwnerFormCenter
+};
 template <>
 inline constexpr TEnumText EnumText<TPosition>{
-    "TPosition", "poDesigned poDefault poDefaultPosOnly poDefaultSizeOnly poScreenCenter"};
+    "TPosition",
+    "poDesigned poDefault poDefaultPosOnly poDefaultSizeOnly poScreenCenter poDesktopCenter "
+    "poMainFormCenter poOwnerFormCenter"};
 enum TWindowState { wsNormal, wsMinimized, wsMaximized };
 template <>
 inline constexpr TEnumText EnumText<TWindowState>{"TWindowState",
@@ -70,7 +84,7 @@ inline constexpr TEventText EventText<TCloseQueryEvent>{"TCloseQueryEvent",
 /// OnDestroy reaches a form's own handlers while the form is whole when it ends by `Free`: closed
 /// with caFree, by `Release`, or at the end of `TApplication::Run`. A plain `delete` of a form
 /// whose handlers are methods of its own class fires nothing: the class's part is gone by then.
-class VCL_API TCustomForm : public TWinControl {
+class VCL_API TCustomForm : public TScrollingWinControl {
  public:
   explicit TCustomForm(TComponent* owner);
   /// Frees the form's controls and components.
@@ -186,7 +200,10 @@ class VCL_API TCustomForm : public TWinControl {
   virtual void Activate();
   virtual void Deactivate();
   // What form files hold: sizes wait for the border and the menu, showing for the whole form.
+  // Scroll bars come out of the client rectangle, and are no part of what is stored.
+  int FileClientWidth() const;
   void SetFileClientWidth(int width);
+  int FileClientHeight() const;
   void SetFileClientHeight(int height);
   bool FileVisible() const;
 
@@ -234,6 +251,7 @@ class VCL_API TCustomForm : public TWinControl {
   void ShowWindowNow();
   void HideWindowNow();
   void PlaceOnScreen();
+  TRect AreaToCenterIn() const;
   // Modal.
   void CheckCanShowModal() const;
   TModalResult RunModal();

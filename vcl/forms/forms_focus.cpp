@@ -109,6 +109,9 @@ void TCustomForm::SetFocusedControl(TWinControl* control) {
     while (next->Parent() != FFocusedControl) next = next->Parent();
     if (!StepTo(next, control, CM_ENTER)) return;
   }
+  // What moves under a pressed button would miss its click.
+  if (!IsDown(VK_LBUTTON) && !IsDown(VK_RBUTTON)) TScrollingWinControl::BringIntoView(*control);
+  if (form.Gone() || aim.Gone()) return;
   Perform(CM_FOCUSCHANGED, 0, reinterpret_cast<LPARAM>(control));
 }
 

@@ -60,7 +60,7 @@ void TCustomForm::ActivateInside() {
 }
 
 void TCustomForm::DestroyWindowHandle() {
-  if (!StandsInside()) return TWinControl::DestroyWindowHandle();
+  if (!StandsInside()) return TScrollingWinControl::DestroyWindowHandle();
   FActive = false;
   // Destroyed otherwise, it would be counted on.
   ::SendMessageW(::GetParent(Handle()), WM_MDIDESTROY, reinterpret_cast<WPARAM>(Handle()), 0);
@@ -74,7 +74,7 @@ void TCustomForm::DefaultHandler(TMessage& message) {
   } else if (FClientHandle && msg != WM_SIZE) {  // With which it would lay the client over all.
     message.Result = ::DefFrameProcW(Handle(), FClientHandle, msg, wParam, lParam);
   } else {
-    TWinControl::DefaultHandler(message);
+    TScrollingWinControl::DefaultHandler(message);
   }
 }
 
@@ -116,7 +116,7 @@ void TCustomForm::DestroyClient() {
 /// The client takes what the controls leave.
 void TCustomForm::AlignControls(TControl* control, TRect& rect) {
   TWatch watch(this);
-  TWinControl::AlignControls(control, rect);
+  TScrollingWinControl::AlignControls(control, rect);
   if (watch.Gone() || !FClientHandle) return;
   ::SetWindowPos(FClientHandle, HWND_BOTTOM, rect.Left, rect.Top, rect.Width(), rect.Height(),
                  SWP_NOACTIVATE);

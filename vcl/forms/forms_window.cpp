@@ -54,7 +54,7 @@ void TCustomForm::AddFrame(TCreateParams& params) const {
 }
 
 void TCustomForm::CreateParams(TCreateParams& params) {
-  TWinControl::CreateParams(params);
+  TScrollingWinControl::CreateParams(params);
   AddFrame(params);
   if (Parent()) return;
   params.Style &= ~static_cast<DWORD>(WS_VISIBLE);
@@ -71,7 +71,7 @@ void TCustomForm::CreateParams(TCreateParams& params) {
 }
 
 void TCustomForm::CreateWnd() {
-  TWinControl::CreateWnd();
+  TScrollingWinControl::CreateWnd();
   UpdateIcon();
   UpdateMenu();
   if (FFormStyle == fsMDIForm && !Designing()) CreateClient();
@@ -81,7 +81,7 @@ void TCustomForm::DestroyWnd() {
   DestroyClient();
   // The system frees a menu with its window, but this one belongs to its component.
   if (FMenu && !StandsInside()) ::SetMenu(Handle(), nullptr);
-  TWinControl::DestroyWnd();
+  TScrollingWinControl::DestroyWnd();
 }
 
 void TCustomForm::Remake() {
@@ -114,7 +114,7 @@ TSize TCustomForm::FrameSize() const {
 }
 
 TRect TCustomForm::ClientRect() const {
-  TRect rect = TWinControl::ClientRect();
+  TRect rect = TScrollingWinControl::ClientRect();
   if (!HandleAllocated()) {
     const TSize frame = FrameSize();
     rect.Right = std::max(rect.Right - frame.cx, 0);
@@ -130,7 +130,7 @@ TRect TCustomForm::ClientRect() const {
 void TCustomForm::WMPaint(TMessage& message) {
   IncludeState(csCustomPaint);
   const TAtEnd done([this] { ExcludeState(csCustomPaint); }, this);
-  TWinControl::WMPaint(message);
+  TScrollingWinControl::WMPaint(message);
 }
 
 void TCustomForm::PaintWindow(HDC dc) {
@@ -158,12 +158,23 @@ void TCustomForm::ShowingChanged() {
   Application()->UpdateTaskbar();
 }
 
+/// What the form comes up in the middle of.
+TRect TCustomForm::AreaToCenterIn() const {
+  const TCustomForm* const main = Application()->MainForm();
+  if (StandsInside()) return TRect(0, 0, main->ClientWidth(), main->ClientHeight());
+  const auto* over = FPosition == poOwnerFormCenter ? dynamic_cast<TCustomForm*>(Owner()) : nullptr;
+  if (!over && FPosition >= poMainFormCenter) over = main;
+  if (over && over != this && over->Showing()) return over->BoundsRect();
+  if (FPosition != poDesktopCenter) return Screen()->WorkAreaRect();
+  const int left = ::GetSystemMetrics(SM_XVIRTUALSCREEN);
+  const int top = ::GetSystemMetrics(SM_YVIRTUALSCREEN);
+  return TRect(left, top, left + ::GetSystemMetrics(SM_CXVIRTUALSCREEN),
+               top + ::GetSystemMetrics(SM_CYVIRTUALSCREEN));
+}
+
 void TCustomForm::PlaceOnScreen() {
-  if (std::exchange(FPlaced, true) || FPosition != poScreenCenter || Parent() || Designing())
-    return;
-  const TRect area = StandsInside() ? TRect(0, 0, Application()->MainForm()->ClientWidth(),
-                                            Application()->MainForm()->ClientHeight())
-                                    : Screen()->WorkAreaRect();
+  if (std::exchange(FPlaced, true) || FPosition < poScreenCenter || Parent() || Designing()) return;
+  const TRect area = AreaToCenterIn();
   SetBounds(area.Left + std::max((area.Width() - Width()) / 2, 0),
             area.Top + std::max((area.Height() - Height()) / 2, 0), Width(), Height());
 }
@@ -211,7 +222,7 @@ void TCustomForm::WMSize(TMessage& message) {
   const WPARAM kind = message.WParam;
   if (Showing() && !Designing() && kind <= SIZE_MAXIMIZED) FWindowState = states[kind];
   TWatch watch(this);
-  TWinControl::Dispatch(message);
+  TScrollingWinControl::Dispatch(message);
   // A menu that comes or goes changes the client rectangle in a window of the same size.
   if (!watch.Gone() && kind != SIZE_MINIMIZED) Realign();
 }
@@ -222,7 +233,7 @@ void TCustomForm::WMSysCommand(TMessage& message) {
   if (minimize && !Designing() && this == Application()->MainForm()) {
     Application()->Minimize();
   } else {
-    TWinControl::Dispatch(message);
+    TScrollingWinControl::Dispatch(message);
   }
 }
 
@@ -230,7 +241,7 @@ void TCustomForm::WMSysCommand(TMessage& message) {
 
 void TCustomForm::Dispatch(TMessage& message) {
   if (DispatchWindow(message) || DispatchNotice(message)) return;
-  TWinControl::Dispatch(message);
+  TScrollingWinControl::Dispatch(message);
 }
 
 // The messages that a form handles at its own window; true when nobody else should.

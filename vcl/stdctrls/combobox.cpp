@@ -47,7 +47,7 @@ const TClass& TComboBox::Class() {
           Inherit("OnClick"),        Inherit("OnCloseUp"),   Inherit("OnDblClick"),
           Inherit("OnDragDrop"),     Inherit("OnDragOver"),  Inherit("OnDrawItem"),
           Inherit("OnDropDown"),     Inherit("OnEndDrag"),   Inherit(FocusEvents),
-          Inherit(KeyEvents),        Inherit("OnStartDrag"), Inherit("Items"),
+          Inherit(KeyEvents),        Inherit(WheelEvents), Inherit("OnStartDrag"), Inherit("Items"),
           Inherit("ItemIndex"),
       });
   return info;

@@ -1,7 +1,11 @@
-// Panels, bevels, images and timers.
+// Panels, scroll boxes, splitters, bevels, images and timers.
 #pragma once
 
 #include "vcl/stdctrls/bevel.h"
+#include "vcl/stdctrls/flowpanel.h"
+#include "vcl/stdctrls/gridpanel.h"
 #include "vcl/stdctrls/image.h"
 #include "vcl/stdctrls/panel.h"
+#include "vcl/stdctrls/scrollbox.h"
+#include "vcl/stdctrls/splitter.h"
 #include "vcl/stdctrls/timer.h"

@@ -40,6 +40,7 @@ const TClass& TPageControl::Class() {
           Inherit(DragEvents),
           Inherit(FocusEvents),
           Inherit(MouseEvents),
+          Inherit(WheelEvents),
           Inherit("OnResize"),
           Inherit("OnStartDrag"),
       });

@@ -41,6 +41,7 @@ const TClass& TTrackBar::Class() {
           Inherit(DragEvents),
           Inherit(FocusEvents),
           Inherit(KeyEvents),
+          Inherit(WheelEvents),
           Inherit("OnStartDrag"),
       });
   return info;
