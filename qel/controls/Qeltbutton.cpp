@@ -126,7 +126,7 @@ void TQELButton::Paint() {
   TQELCustomControl::Paint();
   TRect face = ClientRect();
   if (FDown) face.Offset(1, 1);
-  face.Inflate(-FaceMargin, -FaceMargin);
+  face.Inflate(-ScaledPixels(FaceMargin), -ScaledPixels(FaceMargin));
   const std::string caption = getcaption();
   PaintGlyph(face, !caption.empty());
   if (!caption.empty()) PaintCaption(face, caption);
@@ -137,11 +137,11 @@ void TQELButton::PaintGlyph(const TRect& face, bool beforeText) {
   // Without a caption, a pressed glyph moves down but not to the right.
   const int x = beforeText ? face.Left + 1 : Round((Width() - FGlyph->GetWidth()) / 2.0) + 1;
   const int y = Round((Height() - FGlyph->GetHeight()) / 2.0) + (FDown ? 1 : 0);
-  FGlyph->Draw(Canvas(), x + GlyphMargin, y, FEnabled, FDown, false);
+  FGlyph->Draw(Canvas(), x + ScaledPixels(GlyphMargin), y, FEnabled, FDown, false);
 }
 
 void TQELButton::PaintCaption(TRect face, const std::string& caption) {
-  face.Left += FGlyph->GetWidth() + GlyphMargin;
+  face.Left += FGlyph->GetWidth() + ScaledPixels(GlyphMargin);
   const unsigned format = FWordWrap ? Wrapped : OneLine;
   if (FEnabled) {
     FFont3D->Write(Font(), Canvas()->Handle(), face, caption, format, true);

@@ -173,6 +173,13 @@ void TQELGauge::SetPercentage(int percentage) {
   UpdateProgress();
 }
 
+void TQELGauge::ChangeScale(int m, int d) {
+  TQELGraphicControl::ChangeScale(m, d);
+  FBorderwidth = std::max(ScaleMeasure(FBorderwidth, m, d), 1);
+  FSegmentGap = ScaleMeasure(FSegmentGap, m, d);
+  FSegmentWidth = std::max(ScaleMeasure(FSegmentWidth, m, d), 1);
+}
+
 // Places.
 
 /// What lies between the gauge's outer bevel and its inner one, on each side.

@@ -70,6 +70,7 @@ class QEL_API TQELGauge : public TQELGraphicControl {
 
  protected:
   void Paint() override;
+  void ChangeScale(int m, int d) override;
   void Notification(vcl::TComponent* component, vcl::TOperation operation) override;
 
  private:

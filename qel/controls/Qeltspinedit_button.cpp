@@ -1,6 +1,7 @@
 // TQELCustomSpinButton and TQELSpinButton.
 #include "qel/controls/Qeltspinedit.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
@@ -20,7 +21,9 @@ using vcl::TWatch;
 namespace {
 
 constexpr int StateCount = bsDisabled + 1;
-constexpr int ArrowSize = 3;
+constexpr int ArrowSize = 3;  // At 96 dots per inch.
+constexpr int ArrowHalf = 2;
+constexpr int LargestArrow = 15;
 
 }  // namespace
 
@@ -147,12 +150,14 @@ void TQELCustomSpinButton::DrawBevels(vcl::TCanvas* canvas, TQELButtonState stat
 // The arrow of the pressed half moves by one pixel to the right and down.
 void TQELCustomSpinButton::DrawArrows(vcl::TCanvas* canvas, TQELButtonState state) const {
   const bool enabled = state != bsDisabled;
+  const int size = std::min(ScaledPixels(ArrowSize), LargestArrow);
+  const int half = ScaledPixels(ArrowHalf);
   const int up = state == bsTopDown ? 2 : 1;
-  QELGetTriangle(canvas, Round(Width() / 4.0 - 2) + up, Round(Height() / 4.0 - 2) + up, enabled,
-                 false, FArrowColor, ArrowSize);
+  QELGetTriangle(canvas, Round(Width() / 4.0 - half) + up, Round(Height() / 4.0 - half) + up,
+                 enabled, false, FArrowColor, size);
   const int down = state == bsBottomDown ? 0 : -1;
-  QELGetTriangle(canvas, Round(Width() * 0.75 - 2) + down, Round(Height() * 0.75 - 2) + down,
-                 enabled, true, FArrowColor, ArrowSize);
+  QELGetTriangle(canvas, Round(Width() * 0.75 - half) + down, Round(Height() * 0.75 - half) + down,
+                 enabled, true, FArrowColor, size);
 }
 
 // Input.

@@ -83,7 +83,8 @@ const TClass& TControl::Class() {
   return info;
 }
 
-TControl::TControl(TComponent* owner) : TComponent(owner), FFont(std::make_unique<TFont>()) {
+TControl::TControl(TComponent* owner)
+    : TComponent(owner), FFont(std::make_unique<TFont>(DefaultPixelsPerInch)) {
   FFont->OnChange = TNotifyEvent(this, &TControl::FontChanged);
 }
 
@@ -115,6 +116,8 @@ void TControl::SetParent(TWinControl* parent) {
 void TControl::FollowParent() {
   if (!FParent || FControlState.Has(csReadingState)) return;
   const TWatch watch(this);
+  FitFont();
+  if (watch.Gone()) return;
   for (const UINT notice : {CM_PARENTSHOWHINTCHANGED, CM_PARENTCOLORCHANGED, CM_PARENTFONTCHANGED,
                             CM_PARENTCTL3DCHANGED}) {
     if (!watch.Gone()) Notify(notice);

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "vcl/controls/controltypes.h"
 #include "vcl/controls/layout.h"
@@ -83,6 +84,16 @@ class VCL_API TControl : public TComponent {
   void SetAlignWithMargins(bool alignWithMargins);
   TMargins* Margins() const;
   void SetMargins(const TMargins* margins);
+
+  // Dots per inch (control_scale.cpp).
+  /// The dots per inch that the control's measures are in: its form's, else 96.
+  int CurrentPPI() const;
+  /// A measure of 96 dots per inch in the control's own.
+  int ScaledPixels(int pixels) const;
+  /// Makes the control and all inside it m / d as large, with their fonts; a font that follows the
+  /// parent's keeps following it. Rounding never adds up: scaled back, each measure that nobody
+  /// else has changed is what it was. Raises EArgumentOutOfRangeException unless both are above 0.
+  void ScaleBy(int m, int d);
 
   // State.
   bool Enabled() const { return FEnabled; }
@@ -210,6 +221,16 @@ class VCL_API TControl : public TComponent {
   void SetFileLeft(int left);
   int FileTop() const;
   void SetFileTop(int top);
+  /// Scales the control's measures by m / d; a class with measures of its own, such as the widths
+  /// of columns, scales these too, by ScaleMeasure. Fonts are scaled afterwards.
+  virtual void ChangeScale(int m, int d);
+  /// The bounds' part of it.
+  virtual void ScaleBounds(int m, int d);
+  /// For ChangeScale, which asks in the same order each time: the measure by m / d, from what it
+  /// was scaled from itself.
+  int ScaleMeasure(int measure, int m, int d);
+  /// Scales another font than Font in the same way, and lets it count in CurrentPPI.
+  void ScaleFont(TFont& font, int m, int d);
   void Notification(TComponent* component, TOperation operation) override;
   void Loaded() override;
   void ReadState(TReader& reader) override;
@@ -245,6 +266,11 @@ class VCL_API TControl : public TComponent {
   void KeepPlace();
   void MoveByAnchors(TSize parentSize);
   void ScrollBounds(int dx, int dy);
+  void ScaleStep(int m, int d);
+  void ScaleFonts(int m, int d);
+  void ScaleOwnFont(int m, int d);
+  TRect ScaleEdges(const TRect& rect, int m, int d);
+  void FitFont();
 
   /// What the anchors count from: the bounds that somebody gave the control, and the size that the
   /// parent's inside had then. What the anchors themselves bring about changes neither, so that
@@ -268,6 +294,13 @@ class VCL_API TControl : public TComponent {
   bool FAlignWithMargins = false;
   bool FAnchoring = false;  // The anchors are moving the control.
   TPlace FPlace;
+  /// What ScaleMeasure has scaled, in its order, and the font's height.
+  struct TMeasures {
+    std::vector<TScaledMeasure> Scaled;
+    std::size_t Next = 0;
+    TScaledMeasure FontHeight;
+  };
+  std::unique_ptr<TMeasures> FMeasures;  // Made when the control is scaled.
   mutable std::unique_ptr<TSizeConstraints> FConstraints;  // Made when asked for.
   mutable std::unique_ptr<TMargins> FMargins;
   bool FEnabled = true;

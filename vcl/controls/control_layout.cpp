@@ -73,35 +73,42 @@ void TControl::SetAnchors(TAnchors anchors) {
   if (!Loading()) RequestAlign();
 }
 
-/// Remembers the control's place as the one that the anchors keep.
-void TControl::KeepPlace() {
-  if (FAnchoring || !FParent || FAnchors == TAnchors{akLeft, akTop}) return;
-  FPlace.Bounds = BoundsRect();
-  FPlace.Inside = FParent->ClientRect().Size();
-  FPlace.Parent = {FParent->Width(), FParent->Height()};
-  FPlace.WithWindow = FParent->HandleAllocated();
-  FPlace.Known = true;
-}
-
 namespace {
 
-/// Where an edge pair lies when the parent's inside has grown by so much.
+/// Where an edge pair lies.
 struct TSpan {
   int Begin;
   int End;
+  bool operator==(const TSpan&) const = default;
 };
 
-TSpan Anchored(TSpan span, bool toBegin, bool toEnd, int before, int now) {
+/// Which edges of its parent an edge pair follows.
+struct TSides {
+  bool Begin;
+  bool End;
+};
+
+/// Where it lies when the parent's inside has become another.
+TSpan Anchored(TSpan span, TSides to, int before, int now) {
   const int grown = now - before;
-  if (toBegin && toEnd) return {span.Begin, std::max(span.End + grown, span.Begin)};
-  if (toBegin) return span;
-  if (toEnd) return {span.Begin + grown, span.End + grown};
+  if (to.Begin && to.End) return {span.Begin, std::max(span.End + grown, span.Begin)};
+  if (to.Begin) return span;
+  if (to.End) return {span.Begin + grown, span.End + grown};
   // Between the edges the middle keeps its share of the way.
   const int size = span.End - span.Begin;
   const int begin = before == 0 ? span.Begin
                                 : ::MulDiv((span.Begin + span.End) * now - size * before, 1,
                                            2 * before);
   return {begin, begin + size};
+}
+
+/// What would have come there from. What counts from the same inside as before stays the same in
+/// the direction that nobody has moved it.
+void KeepSpan(TSpan& kept, int& before, TSpan span, TSides to, int now) {
+  if (Anchored(kept, to, before, now) == span) return;
+  const int grown = to.Begin || to.End ? now - before : 0;
+  kept = {to.Begin ? span.Begin : span.Begin - grown, to.End ? span.End - grown : span.End};
+  before = now - grown;
 }
 
 }  // namespace
@@ -118,6 +125,27 @@ void TControl::ScrollBounds(int dx, int dy) {
   SetBounds(FLeft + dx, FTop + dy, FWidth, FHeight);
 }
 
+/// Remembers the control's place as the one that the anchors keep.
+void TControl::KeepPlace() {
+  if (FAnchoring || !FParent || FAnchors == TAnchors{akLeft, akTop}) return;
+  const TSize inside = FParent->ClientRect().Size();
+  const bool window = FParent->HandleAllocated();
+  if (!FPlace.Known || FPlace.WithWindow != window) {
+    FPlace.Bounds = BoundsRect();
+    FPlace.Inside = inside;
+  }
+  TSpan x{FPlace.Bounds.Left, FPlace.Bounds.Right};
+  TSpan y{FPlace.Bounds.Top, FPlace.Bounds.Bottom};
+  KeepSpan(x, FPlace.Inside.cx, {FLeft, FLeft + FWidth},
+           {FAnchors.Has(akLeft), FAnchors.Has(akRight)}, inside.cx);
+  KeepSpan(y, FPlace.Inside.cy, {FTop, FTop + FHeight},
+           {FAnchors.Has(akTop), FAnchors.Has(akBottom)}, inside.cy);
+  FPlace.Bounds = {x.Begin, y.Begin, x.End, y.End};
+  FPlace.Parent = {FParent->Width(), FParent->Height()};
+  FPlace.WithWindow = window;
+  FPlace.Known = true;
+}
+
 void TControl::MoveByAnchors(TSize inside) {
   if (FAnchors == TAnchors{akLeft, akTop}) return;
   const TSize parent{FParent->Width(), FParent->Height()};
@@ -126,9 +154,9 @@ void TControl::MoveByAnchors(TSize inside) {
       FPlace.Known && !FPlace.WithWindow && FParent->HandleAllocated() && parent == FPlace.Parent;
   if (!FPlace.Known || onlyBorder) return KeepPlace();
   const TRect& kept = FPlace.Bounds;
-  const TSpan x = Anchored({kept.Left, kept.Right}, FAnchors.Has(akLeft), FAnchors.Has(akRight),
+  const TSpan x = Anchored({kept.Left, kept.Right}, {FAnchors.Has(akLeft), FAnchors.Has(akRight)},
                            FPlace.Inside.cx, inside.cx);
-  const TSpan y = Anchored({kept.Top, kept.Bottom}, FAnchors.Has(akTop), FAnchors.Has(akBottom),
+  const TSpan y = Anchored({kept.Top, kept.Bottom}, {FAnchors.Has(akTop), FAnchors.Has(akBottom)},
                            FPlace.Inside.cy, inside.cy);
   const TSetFor anchoring(FAnchoring, true, this);
   SetBounds(x.Begin, y.Begin, x.End - x.Begin, y.End - y.Begin);

@@ -155,7 +155,7 @@ void TControl::DispatchNotice(TMessage& message) {
     case CM_PARENTFONTCHANGED:
       if (FParentFont && FParent) {
         const TAtEnd follows([this] { FParentFont = true; }, this);
-        SetFont(FParent->Font());
+        FFont->AssignPixels(FParent->Font());
       }
       return;
     case CM_PARENTCOLORCHANGED:

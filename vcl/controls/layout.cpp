@@ -6,7 +6,6 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
-#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -61,8 +60,9 @@ void TSizeConstraints::SetMost(TLimits& limits, int value) {
 }
 
 void TSizeConstraints::Scale(int m, int d) {
+  TScaledMeasure* scaled = FScaled;
   for (int* each : {&FWidth.Least, &FWidth.Most, &FHeight.Least, &FHeight.Most}) {
-    *each = ::MulDiv(*each, m, d);
+    *each = scaled++->Scale(*each, m, d);
   }
 }
 
@@ -107,8 +107,9 @@ TRect TEdges::Inside(const TRect& rect) const {
 }
 
 void TEdges::Scale(int m, int d) {
+  TScaledMeasure* scaled = FScaled;
   for (int* each : {&FEdges.Left, &FEdges.Top, &FEdges.Right, &FEdges.Bottom}) {
-    *each = ::MulDiv(*each, m, d);
+    *each = scaled++->Scale(*each, m, d);
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "vcl/controls/scaling.h"
 #include "vcl/graphics/types.h"
 #include "vcl/rtl/persistent.h"
 #include "vcl/rtl/sets.h"
@@ -38,7 +39,7 @@ class VCL_API TSizeConstraints : public TPersistent {
   int MinWidth() const { return FWidth.Least; }
   void SetMinWidth(int width) { SetLeast(FWidth, width); }
 
-  /// All four by m / d, rounded.
+  /// All four by m / d, rounded; scaled back they are what they were. Without a notice.
   void Scale(int m, int d);
 
  private:
@@ -52,6 +53,7 @@ class VCL_API TSizeConstraints : public TPersistent {
 
   TLimits FWidth;
   TLimits FHeight;
+  TScaledMeasure FScaled[4];
   std::function<void()> FChanged;
 };
 
@@ -76,7 +78,7 @@ class VCL_API TEdges : public TPersistent {
 
   /// The rectangle without what the distances take of it.
   TRect Inside(const TRect& rect) const;
-  /// All four by m / d, rounded.
+  /// All four by m / d, rounded; scaled back they are what they were. Without a notice.
   void Scale(int m, int d);
 
  protected:
@@ -87,6 +89,7 @@ class VCL_API TEdges : public TPersistent {
   void Changed() const;
 
   TRect FEdges;
+  TScaledMeasure FScaled[4];
   std::function<void()> FChanged;
 };
 

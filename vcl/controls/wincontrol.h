@@ -200,6 +200,7 @@ class VCL_API TWinControl : public TControl {
   virtual bool ArrangesFree() const { return FAutoSize; }
   /// Arranges one group of controls after another in the rectangle.
   virtual void AlignControls(TControl* control, TRect& rect);
+  void ChangeScale(int m, int d) override;
   void ReadState(TReader& reader) override;
   TComponent* GetChildParent() override { return this; }
 
@@ -228,6 +229,7 @@ class VCL_API TWinControl : public TControl {
   void AlignByAnchors(TSize inside);
   void FitToControls();
   void CheckLimits();
+  void KeepParentSizes();
   void MoveInZOrder(TControl* control, bool topmost);
   HWND PrecedingWindow(const TWinControl* control) const;
   void UpdateBounds();

@@ -11,7 +11,7 @@
 namespace vcl {
 namespace {
 
-constexpr int Margin = 3;
+constexpr int TextMargin = 3;  // At 96 dots per inch, around a cell's text.
 /// What stands for the place in the data, whose size need not be known: its beginning, somewhere in
 /// the middle, its end.
 constexpr int ScrollBegin = 0, ScrollMiddle = 2, ScrollEnd = 4;
@@ -113,8 +113,10 @@ void TDBGrid::ShowScrollPosition() {
 
 int TDBGrid::RowHeight() {
   const int height = std::abs(Font()->Height());
-  return std::max(height, 8) + 2 * Margin + 2;
+  return std::max(height, ScaledPixels(8)) + 2 * Margin() + 2;
 }
+
+int TDBGrid::Margin() const { return ScaledPixels(TextMargin); }
 
 void TDBGrid::Paint() {
   TCanvas& canvas = *Canvas();
@@ -140,7 +142,7 @@ void TDBGrid::PaintTitles() {
   for (const TField* field : FLink.DataSet()->Fields()) {
     if (!field->Visible()) continue;
     cell.Left = cell.Right;
-    cell.Right += field->DisplayWidth() * canvas.TextWidth("0") + 2 * Margin;
+    cell.Right += field->DisplayWidth() * canvas.TextWidth("0") + 2 * Margin();
     PaintCell(cell, field->DisplayLabel(), false);
   }
 }
@@ -154,16 +156,16 @@ void TDBGrid::PaintRow(int row, bool current) {
   for (const TField* field : FLink.DataSet()->Fields()) {
     if (!field->Visible()) continue;
     cell.Left = cell.Right;
-    cell.Right += field->DisplayWidth() * canvas.TextWidth("0") + 2 * Margin;
+    cell.Right += field->DisplayWidth() * canvas.TextWidth("0") + 2 * Margin();
     PaintCell(cell, field->DisplayText(), IsNumber(field->DataType()));
   }
 }
 
 void TDBGrid::PaintCell(const TRect& rect, const std::string& text, bool right) {
   TCanvas& canvas = *Canvas();
-  const int x = right ? std::max(rect.Left + Margin, rect.Right - Margin - canvas.TextWidth(text))
-                      : rect.Left + Margin;
-  canvas.TextRect({rect.Left, rect.Top, rect.Right - 1, rect.Bottom - 1}, x, rect.Top + Margin,
+  const int x = right ? std::max(rect.Left + Margin(), rect.Right - Margin() - canvas.TextWidth(text))
+                      : rect.Left + Margin();
+  canvas.TextRect({rect.Left, rect.Top, rect.Right - 1, rect.Bottom - 1}, x, rect.Top + Margin(),
                   text);
   canvas.Pen()->SetColor(clBtnShadow);
   canvas.MoveTo(rect.Right - 1, rect.Top);

@@ -46,6 +46,7 @@ class VCL_API TDBGrid : public TCustomControl {
   void DataChanged();
   void ShowScrollPosition();
   int RowHeight();
+  int Margin() const;
   void PaintTitles();
   void PaintRow(int row, bool current);
   void PaintCell(const TRect& rect, const std::string& text, bool right);

@@ -52,8 +52,11 @@ const TClass& TForm::Class() {
           Property<&TForm::KeyPreview, &TForm::SetKeyPreview>("KeyPreview").Default(false),
           Property<&TForm::Menu, &TForm::SetMenu>("Menu"),
           Inherit("Padding"),
+          Property<&TForm::PixelsPerInch, &TForm::SetPixelsPerInch>("PixelsPerInch")
+              .Default(DefaultPixelsPerInch),
           Inherit("PopupMenu"),
           Property<&TForm::Position, &TForm::SetPosition>("Position").Default(poDesigned),
+          Property<&TForm::Scaled, &TForm::SetScaled>("Scaled").Default(true),
           Inherit("ShowHint"),
           Inherit("VertScrollBar"),
           Property<&TForm::FileVisible, &TForm::SetVisible>("Visible").Default(false),
@@ -141,6 +144,7 @@ void TCustomForm::LoadForm(HINSTANCE module) {
     const TSetFor reading(FReadingForm, true, this);
     ReadComponentFile(stream, this, ClassName());
   }
+  ScaleToMonitor();
   CheckFields(*this);
   Created();
 }

@@ -132,6 +132,18 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   void SetPosition(TPosition position);
   TWindowState WindowState() const;
   void SetWindowState(TWindowState state);
+  /// The dots per inch that the measures of the form and of the controls on it are in.
+  int PixelsPerInch() const { return FPixelsPerInch; }
+  /// Says which these are; changes no bounds. A font that nobody has set takes its usual size in
+  /// them. Raises EArgumentOutOfRangeException below 1.
+  void SetPixelsPerInch(int pixels);
+  /// True: the form takes the dots per inch of its monitor, when it has been loaded or is first
+  /// shown, and when it comes to another one. Not while it is designed.
+  bool Scaled() const { return FScaled; }
+  void SetScaled(bool scaled) { FScaled = scaled; }
+  /// Scales the form, with all on it, to so many dots per inch. Raises EArgumentOutOfRangeException
+  /// below 1.
+  void ScaleForPPI(int pixels);
   bool KeyPreview() const { return FKeyPreview; }
   /// The form's key events come before its controls'.
   void SetKeyPreview(bool keyPreview) { FKeyPreview = keyPreview; }
@@ -189,6 +201,8 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   void DestroyWindowHandle() override;
   void DefaultHandler(TMessage& message) override;
   void AlignControls(TControl* control, TRect& rect) override;
+  void ChangeScale(int m, int d) override;
+  void ScaleBounds(int m, int d) override;
   void Dispatch(TMessage& message) override;
   void WMPaint(TMessage& message) override;
   void PaintWindow(HDC dc) override;
@@ -221,6 +235,10 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   void UpdateMenu();
   void UpdateIcon();
   void Remake();
+  // Dots per inch.
+  int MonitorPPI() const;
+  void ScaleToMonitor();
+  void WMDpiChanged(TMessage& message);
   // Windows inside a window.
   bool StandsInside() const;
   HWND WindowAround() const;
@@ -272,6 +290,10 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   bool FReleased = false;
   bool FRemaking = false;      // The window is made anew, which is no news to handlers.
   bool FPlaced = false;        // Position has been acted on.
+  bool FScaled = true;
+  bool FScaledToMonitor = false;  // That is done once; then the system tells.
+  int FPixelsPerInch = DefaultPixelsPerInch;
+  const TRect* FSuggested = nullptr;  // By the system, for the dots per inch in hand.
   bool FVisibleAsked = false;  // What a form file or a designer says, until the form may be shown.
   int FClientWidth = -1;       // As a form file gives it, until the whole file is read.
   int FClientHeight = -1;

@@ -4,6 +4,7 @@
 #include "vcl/controls/controlcanvas.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/forms.h"
+#include "vcl/forms/private/resolution.h"
 #include "vcl/forms/private/taskwindows.h"
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/canvasbinding.h"
@@ -71,6 +72,7 @@ void TCustomForm::CreateParams(TCreateParams& params) {
 }
 
 void TCustomForm::CreateWnd() {
+  ScaleToMonitor();
   TScrollingWinControl::CreateWnd();
   UpdateIcon();
   UpdateMenu();
@@ -109,7 +111,7 @@ TSize TCustomForm::FrameSize() const {
   AddFrame(params);
   RECT frame{0, 0, 0, 0};
   const bool menu = FMenu && FBorderStyle != bsDialog && !Designing();
-  if (!Parent()) ::AdjustWindowRectEx(&frame, params.Style, menu, params.ExStyle);
+  if (!Parent()) AddFrameOf({params.Style, menu, params.ExStyle}, MonitorPPI(), frame);
   return TRect(frame).Size();
 }
 
@@ -265,6 +267,7 @@ bool TCustomForm::DispatchWindow(TMessage& message) {
     case WM_CLOSE: return Close(), true;
     case WM_MDIACTIVATE: return WMMDIActivate(message), true;
     case WM_QUERYENDSESSION: return message.Result = Application()->AskSessionEnd(this), true;
+    case WM_DPICHANGED: return WMDpiChanged(message), true;
     case WM_SIZE: return WMSize(message), true;
     case WM_SYSCOMMAND: return WMSysCommand(message), true;
     default: return false;

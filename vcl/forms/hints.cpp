@@ -174,6 +174,7 @@ bool THintControl::Ask(THintInfo& info) {
 
 void THintControl::Show(const THintInfo& info) {
   FWindow->SetColor(info.HintColor);
+  FWindow->SetPixelsPerInch(info.HintControl->CurrentPPI());
   TRect rect = FWindow->CalcHintRect(info.HintMaxWidth, info.HintStr);
   rect.Offset(info.HintPos.X, info.HintPos.Y);
   FShown = info.HintControl;

@@ -47,6 +47,8 @@ class VCL_API THintWindow : public TCustomControl {
   virtual void ActivateHint(TRect rect, const std::string& text);
   /// Takes the window off the screen.
   virtual void ReleaseHandle();
+  /// The dots per inch of what the hint is about; the text keeps its size in points.
+  void SetPixelsPerInch(int pixels);
 
  protected:
   void CreateParams(TCreateParams& params) override;

@@ -88,6 +88,14 @@ void THintWindow::ActivateHint(TRect rect, const std::string& text) {
   Update();
 }
 
+void THintWindow::SetPixelsPerInch(int pixels) {
+  TFont* font = Canvas()->Font();
+  if (pixels == font->PixelsPerInch()) return;
+  const int points = font->Size();
+  font->SetPixelsPerInch(pixels);
+  font->SetSize(points);
+}
+
 void THintWindow::ReleaseHandle() { DestroyHandle(); }
 
 void THintWindow::Paint() {

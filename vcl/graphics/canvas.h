@@ -55,7 +55,7 @@ class VCL_API TCanvas : public TPersistent {
   const TPen* Pen() const { return &FPen; }
   const TBrush* Brush() const { return &FBrush; }
   /// Setting one of them copies it.
-  void SetFont(const TFont* font) { FFont.Assign(font); }
+  void SetFont(const TFont* font) { FFont.AssignPixels(font); }
   void SetPen(const TPen* pen) { FPen.Assign(pen); }
   void SetBrush(const TBrush* brush) { FBrush.Assign(brush); }
   TCopyMode CopyMode() const { return FCopyMode; }

@@ -80,9 +80,11 @@ void GetCharsetValues(const std::function<void(const std::string&)>& each) {
   for (const TCharsetName& entry : CharsetNames) each(entry.Name);
 }
 
-TFont::TFont()
-    : FHeight(-::MulDiv(DefaultPoints, ScreenPixelsPerInch(), PointsPerInch)),
-      FPixelsPerInch(ScreenPixelsPerInch()) {}
+TFont::TFont() : TFont(ScreenPixelsPerInch()) {}
+
+TFont::TFont(int pixelsPerInch)
+    : FHeight(-::MulDiv(DefaultPoints, pixelsPerInch, PointsPerInch)),
+      FPixelsPerInch(pixelsPerInch) {}
 
 TFont::~TFont() = default;
 
@@ -116,6 +118,13 @@ void TFont::Assign(const TPersistent* source) {
       sameScale ? font->FHeight : ::MulDiv(font->FHeight, FPixelsPerInch, font->FPixelsPerInch);
   FHandle = sameScale ? font->FHandle : nullptr;
   Changed();
+}
+
+void TFont::AssignPixels(const TFont* source) {
+  const bool rescaled = source && FPixelsPerInch != source->FPixelsPerInch;
+  if (rescaled) FPixelsPerInch = source->FPixelsPerInch;
+  // Points count otherwise now, also where all the rest is the same already.
+  rescaled && *source == *this ? Changed() : Assign(source);
 }
 
 bool TFont::operator==(const TFont& other) const {

@@ -38,11 +38,16 @@ inline constexpr TIntegerText IntegerText<TFontCharset>{
 class VCL_API TFont : public TGraphicsObject {
  public:
   TFont();
+  /// The same for a device of so many pixels per inch.
+  explicit TFont(int pixelsPerInch);
   ~TFont() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
-  /// Copies another font; the two share one handle until either changes.
+  /// Copies another font; the two share one handle until either changes. Where the other one has
+  /// another PixelsPerInch, the size in points stays.
   void Assign(const TPersistent* source) override;
+  /// The same with its PixelsPerInch, so that the height in pixels stays as well.
+  void AssignPixels(const TFont* source);
 
   /// The GDI font, which stays the TFont's own. Raises EOutOfResources.
   HFONT Handle() const;

@@ -80,6 +80,13 @@ void TBitBtn::Click() {
 
 // Painting.
 
+void TBitBtn::ChangeScale(int m, int d) {
+  TButton::ChangeScale(m, d);
+  // -1 is no distance.
+  if (Margin() > 0) SetMargin(ScaleMeasure(Margin(), m, d));
+  if (Spacing() > 0) SetSpacing(ScaleMeasure(Spacing(), m, d));
+}
+
 void TBitBtn::CreateParams(TCreateParams& params) {
   TButton::CreateParams(params);
   params.Style = (params.Style & ~static_cast<DWORD>(BS_TYPEMASK)) | BS_OWNERDRAW;

@@ -52,6 +52,7 @@ class VCL_API TBitBtn : public TButton {
   void Click() override;
 
  protected:
+  void ChangeScale(int m, int d) override;
   void CreateParams(TCreateParams& params) override;
   void Dispatch(TMessage& message) override;
   void SetButtonStyle(bool active) override;

@@ -2,6 +2,8 @@
 // events.
 #include "vcl/stdctrls/listcontrol.h"
 
+#include <algorithm>
+
 #include "vcl/controls/windowmessages.h"
 #include "vcl/graphics/canvasbinding.h"
 #include "vcl/graphics/handles.h"
@@ -12,6 +14,8 @@
 
 namespace vcl {
 namespace {
+
+constexpr int MostItemHeight = 255;
 
 TOwnerDrawState StateOf(UINT state) {
   static constexpr struct {
@@ -85,13 +89,18 @@ void TCustomListControl::SetItemIndex(int index) {
 int TCustomListControl::ItemHeight() const { return FItemHeight; }
 
 void TCustomListControl::SetItemHeight(int height) {
-  if (height < 1 || height > 255) {
+  if (height < 1 || height > MostItemHeight) {
     throw EArgumentOutOfRangeException(
         Concat("An item cannot be ", std::to_string(height), " pixels high"));
   }
   if (height == FItemHeight) return;
   FItemHeight = height;
   if (OwnerDraw()) RecreateWnd();
+}
+
+void TCustomListControl::ChangeScale(int m, int d) {
+  TWinControl::ChangeScale(m, d);
+  SetItemHeight(std::clamp(ScaleMeasure(FItemHeight, m, d), 1, MostItemHeight));
 }
 
 bool TCustomListControl::Sorted() const { return FItems->Sorted(); }

@@ -58,6 +58,7 @@ class VCL_API TCustomListControl : public TWinControl {
   /// Bring the selection from the window to the items resp. back.
   virtual void KeepSelection();
   virtual void RestoreSelection();
+  void ChangeScale(int m, int d) override;
   void CreateWnd() override;
   void DestroyWnd() override;
   void Dispatch(TMessage& message) override;

@@ -114,6 +114,11 @@ void TCustomPanel::SetBorderWidth(int width) {
   ChangeFrame(FBorderWidth, width);
 }
 
+void TCustomPanel::ChangeScale(int m, int d) {
+  TCustomControl::ChangeScale(m, d);
+  SetBorderWidth(ScaleMeasure(FBorderWidth, m, d));
+}
+
 void TCustomPanel::SetBorderStyle(TBorderStyle style) {
   CheckControlBorder(style);
   if (style == FBorderStyle) return;

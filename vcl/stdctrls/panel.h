@@ -38,6 +38,7 @@ class VCL_API TCustomPanel : public TCustomControl {
  protected:
   void Paint() override;
   void AdjustClientRect(TRect& rect) const override;
+  void ChangeScale(int m, int d) override;
   void CreateParams(TCreateParams& params) override;
   void Dispatch(TMessage& message) override;
   void Resize() override;

@@ -133,6 +133,13 @@ void TSpeedButton::DrawEdge(TRect& rect, bool down) {
   rect = edge;
 }
 
+void TSpeedButton::ChangeScale(int m, int d) {
+  TGraphicControl::ChangeScale(m, d);
+  // -1 is no distance.
+  if (Margin() > 0) SetMargin(ScaleMeasure(Margin(), m, d));
+  if (Spacing() > 0) SetSpacing(ScaleMeasure(Spacing(), m, d));
+}
+
 void TSpeedButton::Paint() {
   TRect rect = ClientRect();
   const bool down = FDown || FPressed;

@@ -47,6 +47,7 @@ class VCL_API TSpeedButton : public TGraphicControl {
   void Click() override;
 
  protected:
+  void ChangeScale(int m, int d) override;
   void Paint() override;
   void MouseDown(TMouseButton button, TShiftState shift, int x, int y) override;
   void MouseMove(TShiftState shift, int x, int y) override;

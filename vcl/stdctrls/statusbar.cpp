@@ -7,6 +7,7 @@
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/stdctrls/private/commoncontrols.h"
 
@@ -120,6 +121,15 @@ void TStatusBar::SetSizeGrip(bool sizeGrip) {
   if (sizeGrip == FSizeGrip) return;
   FSizeGrip = sizeGrip;
   RecreateWnd();
+}
+
+void TStatusBar::ChangeScale(int m, int d) {
+  TWinControl::ChangeScale(m, d);
+  const TUpdating once(*FPanels);
+  for (int i = 0; i < FPanels->Count(); ++i) {
+    TStatusPanel* panel = FPanels->Items(i);
+    panel->SetWidth(ScaleMeasure(panel->Width(), m, d));
+  }
 }
 
 void TStatusBar::CreateParams(TCreateParams& params) {

@@ -72,6 +72,7 @@ class VCL_API TStatusBar : public TWinControl {
   void SetSizeGrip(bool sizeGrip);
 
  protected:
+  void ChangeScale(int m, int d) override;
   void CreateParams(TCreateParams& params) override;
   void CreateWnd() override;
 

@@ -192,6 +192,11 @@ void TCustomTreeView::SetShowRoot(bool show) {
   ChangeStyle(FShowRoot, show, TVS_LINESATROOT, show);
 }
 
+void TCustomTreeView::ChangeScale(int m, int d) {
+  TWinControl::ChangeScale(m, d);
+  SetIndent(ScaleMeasure(FIndent, m, d));
+}
+
 void TCustomTreeView::SetIndent(int indent) {
   FIndent = indent;
   SendIfAllocated(*this, TVM_SETINDENT, static_cast<WPARAM>(indent));

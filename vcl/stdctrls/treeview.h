@@ -121,6 +121,7 @@ class VCL_API TCustomTreeView : public TWinControl {
   virtual HIMAGELIST NormalImages() const;
 
   void BeginAutoDrag(TMessage& press) override;
+  void ChangeScale(int m, int d) override;
   void CreateParams(TCreateParams& params) override;
   void CreateWnd() override;
   void DestroyWnd() override;

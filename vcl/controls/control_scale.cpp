@@ -1,0 +1,150 @@
+// TControl and TWinControl: measures at other dots per inch.
+#include <algorithm>
+#include <vector>
+
+#include "vcl/controls/wincontrol.h"
+#include "vcl/forms/forms.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/scope.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
+
+namespace vcl {
+
+int TControl::CurrentPPI() const {
+  const TCustomForm* form = ParentForm();
+  return form ? form->PixelsPerInch() : DefaultPixelsPerInch;
+}
+
+int TControl::ScaledPixels(int pixels) const {
+  return ::MulDiv(pixels, CurrentPPI(), DefaultPixelsPerInch);
+}
+
+void TControl::ScaleBy(int m, int d) {
+  if (m < 1 || d < 1) {
+    throw EArgumentOutOfRangeException(Concat("A control can't be scaled by ", std::to_string(m),
+                                              " / ", std::to_string(d)));
+  }
+  if (m == d) return;
+  const TWatch watch(this);
+  ScaleStep(m, d);
+  if (watch.Gone()) return;
+  if (auto* window = dynamic_cast<TWinControl*>(this)) window->KeepParentSizes();
+  // What takes its size from its font does so where it stands already.
+  ScaleFonts(m, d);
+  if (!watch.Gone()) Invalidate();
+}
+
+// Measures.
+
+void TControl::ScaleStep(int m, int d) {
+  if (!FMeasures) FMeasures = std::make_unique<TMeasures>();
+  FMeasures->Next = 0;
+  ChangeScale(m, d);
+}
+
+int TControl::ScaleMeasure(int measure, int m, int d) {
+  if (!FMeasures) FMeasures = std::make_unique<TMeasures>();
+  std::vector<TScaledMeasure>& scaled = FMeasures->Scaled;
+  if (FMeasures->Next == scaled.size()) scaled.emplace_back();
+  return scaled[FMeasures->Next++].Scale(measure, m, d);
+}
+
+void TControl::ChangeScale(int m, int d) {
+  if (FConstraints) FConstraints->Scale(m, d);
+  if (FMargins || FAlignWithMargins) Margins()->Scale(m, d);
+  ScaleBounds(m, d);
+}
+
+/// Edges and no sizes, so that neighbours stay neighbours. What has a size keeps one.
+TRect TControl::ScaleEdges(const TRect& rect, int m, int d) {
+  TRect scaled;
+  scaled.Left = ScaleMeasure(rect.Left, m, d);
+  scaled.Top = ScaleMeasure(rect.Top, m, d);
+  scaled.Right = ScaleMeasure(rect.Right, m, d);
+  scaled.Bottom = ScaleMeasure(rect.Bottom, m, d);
+  scaled.Right = std::max(scaled.Right, scaled.Left + (rect.Width() > 0 ? 1 : 0));
+  scaled.Bottom = std::max(scaled.Bottom, scaled.Top + (rect.Height() > 0 ? 1 : 0));
+  return scaled;
+}
+
+void TControl::ScaleBounds(int m, int d) {
+  if (FAlign != alNone) {
+    // The parent arranges it, by its thickness and by which edge it is nearer to.
+    const int width = ScaleMeasure(FWidth, m, d);
+    const int height = ScaleMeasure(FHeight, m, d);
+    const int right = ::MulDiv(FLeft + FWidth, m, d);
+    const int bottom = ::MulDiv(FTop + FHeight, m, d);
+    return SetBounds(FAlign == alRight ? right - width : ::MulDiv(FLeft, m, d),
+                     FAlign == alBottom ? bottom - height : ::MulDiv(FTop, m, d), width, height);
+  }
+  if (!FParent || !FPlace.Known || FAnchors == TAnchors{akLeft, akTop}) {
+    const TRect edges = ScaleEdges(BoundsRect(), m, d);
+    return SetBounds(edges.Left, edges.Top, edges.Width(), edges.Height());
+  }
+  // The parent moves it by its anchors, once it has its own size.
+  FPlace.Bounds = ScaleEdges(FPlace.Bounds, m, d);
+  FPlace.Inside.cx = ScaleMeasure(FPlace.Inside.cx, m, d);
+  FPlace.Inside.cy = ScaleMeasure(FPlace.Inside.cy, m, d);
+}
+
+void TWinControl::ChangeScale(int m, int d) {
+  const TWatch watch(this);
+  DisableAlign();
+  const TAtEnd enable([this] { EnableAlign(); }, this);
+  if (FPadding) FPadding->Scale(m, d);
+  VisitControls([m, d](TControl* control) {
+    control->ScaleStep(m, d);
+    return true;
+  });
+  if (watch.Gone()) return;
+  TControl::ChangeScale(m, d);
+  if (!watch.Gone()) FAlignNeeded = true;
+}
+
+/// A window that is yet to be made takes its border from sizes as they are now.
+void TWinControl::KeepParentSizes() {
+  for (TControl* each : FControls) {
+    if (!FHandle) each->FPlace.Parent = {Width(), Height()};
+    if (auto* window = dynamic_cast<TWinControl*>(each)) window->KeepParentSizes();
+  }
+}
+
+// Fonts.
+
+void TControl::ScaleFonts(int m, int d) {
+  const TWatch watch(this);
+  if (!FParentFont || !FParent) ScaleOwnFont(m, d);
+  auto* window = watch.Gone() ? nullptr : dynamic_cast<TWinControl*>(this);
+  if (!window) return;
+  window->VisitControls([m, d](TControl* control) {
+    control->ScaleFonts(m, d);
+    return true;
+  });
+}
+
+void TControl::ScaleOwnFont(int m, int d) {
+  const bool follows = FParentFont;
+  const TAtEnd restore([this, follows] { FParentFont = follows; }, this);
+  if (!FMeasures) FMeasures = std::make_unique<TMeasures>();  // It came here meanwhile.
+  const int height = FMeasures->FontHeight.Scale(FFont->Height(), m, d);
+  FFont->SetPixelsPerInch(CurrentPPI());
+  height == FFont->Height() ? FontChanged(this) : FFont->SetHeight(height);
+}
+
+void TControl::ScaleFont(TFont& font, int m, int d) {
+  const int height = ScaleMeasure(font.Height(), m, d);
+  font.SetPixelsPerInch(CurrentPPI());
+  font.SetHeight(height);
+}
+
+/// A font of the control's own counts in the parent's pixels; what a form file says is in these.
+void TControl::FitFont() {
+  const int pixels = FParent->FFont->PixelsPerInch();
+  const int former = FFont->PixelsPerInch();
+  if (FParentFont || pixels == former) return;
+  FFont->SetPixelsPerInch(pixels);
+  if (!Loading()) FFont->SetHeight(::MulDiv(FFont->Height(), pixels, former));
+}
+
+}  // namespace vcl
