@@ -58,12 +58,12 @@ void TCustomForm::ScaleToMonitor() {
 
 void TCustomForm::ChangeScale(int m, int d) {
   if (Parent()) FPixelsPerInch = CurrentPPI();
-  TWinControl::ChangeScale(m, d);
+  TScrollingWinControl::ChangeScale(m, d);
 }
 
 /// A form's inside is what its controls count with. Where it stands on the screen, it stays.
 void TCustomForm::ScaleBounds(int m, int d) {
-  if (Parent()) return TWinControl::ScaleBounds(m, d);
+  if (Parent()) return TScrollingWinControl::ScaleBounds(m, d);
   const int width = ScaleMeasure(ClientWidth(), m, d);
   const int height = ScaleMeasure(ClientHeight(), m, d);
   if (!FSuggested) return SetClientSize(width, height);
@@ -72,7 +72,7 @@ void TCustomForm::ScaleBounds(int m, int d) {
 }
 
 void TCustomForm::WMDpiChanged(TMessage& message) {
-  if (!FScaled || Designing()) return TWinControl::Dispatch(message);
+  if (!FScaled || Designing()) return TScrollingWinControl::Dispatch(message);
   const int pixels = LOWORD(message.WParam);
   const TRect place(*reinterpret_cast<const RECT*>(message.LParam));
   const TWatch watch(this);

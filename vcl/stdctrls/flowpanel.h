@@ -47,6 +47,7 @@ class VCL_API TFlowPanel : public TCustomPanel {
 
  protected:
   void AlignControls(TControl* control, TRect& rect) override;
+  bool ArrangesFree() const override { return true; }
   void Dispatch(TMessage& message) override;
 
  private:

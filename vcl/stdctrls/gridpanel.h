@@ -116,6 +116,7 @@ class VCL_API TGridPanel : public TCustomPanel {
 
  protected:
   void AlignControls(TControl* control, TRect& rect) override;
+  bool ArrangesFree() const override { return true; }
   void Dispatch(TMessage& message) override;
   void Paint() override;
   void Resize() override;
