@@ -26,6 +26,7 @@ if(applications)
   install(TARGETS ${applications} RUNTIME DESTINATION bin)
 endif()
 install(FILES ${QEL_RUNTIME_DLLS} DESTINATION bin)
+install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/sentences.txt DESTINATION bin)
 install(FILES README.md DESTINATION .)
 install(DIRECTORY docs DESTINATION .)
 

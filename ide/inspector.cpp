@@ -4,6 +4,8 @@
 #include <algorithm>
 
 #include "ide/inspectorgrid.h"
+#include "vcl/designintf/sentences.h"
+#include "vcl/graphics/fontmetrics.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/strings.h"
@@ -20,6 +22,9 @@ std::string LineOf(const vcl::TDesigner& designer, vcl::TPersistent* object) {
   const std::string index = item ? vcl::Concat("[", vcl::IntToStr(item->Index()), "]") : "";
   return vcl::Concat(designer.Root().Name(), index, ": ", object->ClassName());
 }
+
+constexpr int HelpLines = 4;   // The property's name and three lines that say what it is.
+constexpr int HelpMargin = 3;  // Around them.
 
 /// What the list says of a selection that is not one of its components; empty when it is.
 std::string SpecialLine(const vcl::TDesigner& designer,
@@ -40,7 +45,9 @@ TObjectInspector::TObjectInspector(vcl::TComponent* owner)
       FComponents(new vcl::TComboBox(this)),
       FPages(new vcl::TPageControl(this)),
       FProperties(MakePage(FPropertiesPage, "Properties", false)),
-      FEvents(MakePage(FEventsPage, "Events", true)) {
+      FEvents(MakePage(FEventsPage, "Events", true)),
+      FHelpName(MakeHelpLabel()),
+      FHelpText(MakeHelpLabel()) {
   using T = TObjectInspector;
   SetBounds(0, 0, 220, 400);
   FComponents->SetStyle(vcl::csDropDownList);
@@ -51,6 +58,8 @@ TObjectInspector::TObjectInspector(vcl::TComponent* owner)
   FPages->SetActivePage(FPropertiesPage);
   FPages->OnChanging = vcl::TTabChangingEvent(this, &T::PageChanging);
   FPages->OnChange = vcl::TNotifyEvent(this, &T::PageChanged);
+  FHelpName->Font()->SetStyle({vcl::fsBold});
+  FHelpText->SetWordWrap(true);
 }
 
 TObjectInspector::~TObjectInspector() { AnnounceEnd(); }
@@ -64,15 +73,35 @@ TInspectorGrid* TObjectInspector::MakePage(vcl::TTabSheet*& sheet, const char* c
       this, [events](const vcl::TPropInfo& property) { return property.IsEvent() == events; });
   grid->SetAlign(vcl::alClient);
   grid->SetParent(sheet);
+  grid->OnSelect = vcl::TNotifyEvent(this, &TObjectInspector::ShowHelp);
   grid->OnSplitter = vcl::TNotifyEvent(this, &TObjectInspector::SplitterMoved);
   return grid;
+}
+
+vcl::TLabel* TObjectInspector::MakeHelpLabel() {
+  auto* label = new vcl::TLabel(this);
+  label->SetAutoSize(false);
+  label->SetShowAccelChar(false);
+  label->SetParent(this);
+  return label;
 }
 
 void TObjectInspector::Resize() {
   TWinControl::Resize();
   const int top = FComponents->Height() + 2;
   FComponents->SetBounds(0, 0, ClientWidth(), FComponents->Height());
-  FPages->SetBounds(0, top, ClientWidth(), std::max(ClientHeight() - top, 0));
+  const int help = HelpLines * vcl::FontHeight(*Font()) + 2 * HelpMargin;
+  // The properties come first where the window is low.
+  const int bottom = ClientHeight() - top >= 3 * help ? ClientHeight() - help : ClientHeight();
+  FPages->SetBounds(0, top, ClientWidth(), std::max(bottom - top, 0));
+  PlaceHelp(bottom + HelpMargin, ClientHeight());
+}
+
+void TObjectInspector::PlaceHelp(int top, int bottom) {
+  const int width = std::max(ClientWidth() - 2 * HelpMargin, 0);
+  const int line = vcl::FontHeight(*Font());
+  FHelpName->SetBounds(HelpMargin, top, width, line);
+  FHelpText->SetBounds(HelpMargin, top + line, width, std::max(bottom - top - line, 0));
 }
 
 // What is shown.
@@ -101,6 +130,19 @@ void TObjectInspector::ShowObjects() {
 void TObjectInspector::Refresh() {
   ActiveGrid().Refresh();
   ListComponents();
+}
+
+void TObjectInspector::ShowHelp(vcl::TObject* sender) {
+  if (sender != &ActiveGrid()) return;
+  const int row = ActiveGrid().SelectedRow();
+  std::string name, text;
+  if (row >= 0) {
+    const vcl::TEditedProperty& edited = ActiveGrid().Row(row).Editor->Edited().front();
+    name = ActiveGrid().Row(row).Name();
+    text = vcl::Sentences().Of(edited.Object->ClassType(), edited.Property->Name);
+  }
+  FHelpName->SetCaption(name);
+  FHelpText->SetCaption(text);
 }
 
 bool TObjectInspector::Apply() { return ActiveGrid().Apply(); }

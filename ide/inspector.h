@@ -13,8 +13,9 @@ namespace ide {
 
 class TInspectorGrid;
 
-/// The list of the form's components, and a page each for properties and events. It shows what the
-/// designer has selected, and asks it for everything.
+/// The list of the form's components, a page each for properties and events, and below them, where
+/// there is room, what the selected property is. It shows what the designer has selected, and asks
+/// it for everything.
 ///
 /// Who selects, changes or frees objects of the form tells the inspector. It forgets components
 /// that are freed by itself, but not items of collections.
@@ -41,6 +42,8 @@ class TObjectInspector : public vcl::TWinControl, public TDesignerPart {
   vcl::TComboBox& Components() const { return *FComponents; }
   TInspectorGrid& Properties() const { return *FProperties; }
   TInspectorGrid& Events() const { return *FEvents; }
+  /// What is said of the selected property; empty when nothing is known.
+  std::string HelpText() const { return FHelpText->Caption(); }
   bool EventsShown() const { return FPages->ActivePage() == FEventsPage; }
   void ShowEvents(bool events);
 
@@ -51,6 +54,9 @@ class TObjectInspector : public vcl::TWinControl, public TDesignerPart {
  private:
   TInspectorGrid* MakePage(vcl::TTabSheet*& sheet, const char* caption, bool events);
   TInspectorGrid& ActiveGrid() const { return EventsShown() ? *FEvents : *FProperties; }
+  vcl::TLabel* MakeHelpLabel();
+  void PlaceHelp(int top, int bottom);
+  void ShowHelp(vcl::TObject* sender);
   void ShowObjects();
   void ListComponents();
   void ComponentChosen(vcl::TObject* sender);
@@ -67,6 +73,8 @@ class TObjectInspector : public vcl::TWinControl, public TDesignerPart {
   vcl::TTabSheet* FEventsPage = nullptr;
   TInspectorGrid* FProperties;
   TInspectorGrid* FEvents;
+  vcl::TLabel* FHelpName;
+  vcl::TLabel* FHelpText;
 };
 
 }  // namespace ide

@@ -79,6 +79,7 @@ void TInspectorGrid::RowsReplaced(const std::string& selectedPath) {
   UpdateScrollBar();
   Invalidate();
   PlaceEdit();
+  OnSelect(this);
 }
 
 bool TInspectorGrid::SelectRow(int row) {
@@ -90,6 +91,7 @@ bool TInspectorGrid::SelectRow(int row) {
     FSelectedPath = Row(row).Path;
     InvalidateRow(row);
     PlaceEdit();
+    OnSelect(this);
     Call([](vcl::TPropertyEditor& editor) { editor.Activate(); });
   }
   ScrollTo(std::clamp(FTop, FSelected - VisibleRows() + 1, std::max(FSelected, 0)));

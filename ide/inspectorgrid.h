@@ -62,6 +62,8 @@ class TInspectorGrid : public vcl::TCustomControl {
   /// Takes the property back to its default.
   void Revert();
 
+  /// Another line may be the selected one now.
+  vcl::TNotifyEvent OnSelect;
   /// The user has moved the splitter.
   vcl::TNotifyEvent OnSplitter;
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "ide/paletteicons.h"
+#include "vcl/designintf/sentences.h"
 #include "vcl/graphics/canvas.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
@@ -18,6 +19,14 @@ constexpr int Margin = 2;  // Around a button's picture.
 constexpr int ButtonSize = IconSize + 2 * Margin;
 constexpr int PointerGap = 6;  // Behind the pointer.
 constexpr int ArrowWidth = 14;
+constexpr int HintWidth = 320;
+
+/// What a class's hint says: its name and its unit, and what it is where that is known.
+std::string HintOf(const vcl::TClass& aClass) {
+  const std::string sentence = vcl::Sentences().Of(aClass);
+  return vcl::Concat(aClass.Name(), "\r\n", aClass.Unit(), sentence.empty() ? "" : "\r\n",
+                     sentence);
+}
 
 }  // namespace
 
@@ -177,7 +186,8 @@ bool TPalettePage::GiveHint(vcl::THintInfo& info) const {
   const int place = PlaceAt(info.CursorPos);
   if (place == NoPlace) return false;
   const vcl::TClass* aClass = ClassAt(place);
-  info.HintStr = aClass ? vcl::Concat(aClass->Name(), "\r\n", aClass->Unit()) : "Select";
+  info.HintStr = aClass ? HintOf(*aClass) : "Select";
+  info.HintMaxWidth = HintWidth;
   info.CursorRect = PlaceRect(place);
   return true;
 }

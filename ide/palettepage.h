@@ -16,7 +16,7 @@ struct TPaletteTool {
 };
 
 /// A row of buttons: the pointer, then the classes; arrows at the right scroll what does not fit.
-/// Each button's hint says its class and unit.
+/// Each button's hint says its class and unit, and what the class is.
 class TPalettePage : public vcl::TCustomControl {
  public:
   /// The tool, which belongs to the palette, is shown pressed.

@@ -74,10 +74,13 @@ class QEL_API TQELGradient : public vcl::TGraphicsObject {
   void Assign(const vcl::TPersistent* source) override;
 
   vcl::TColor BeginColor() const { return FBeginColor; }
+  /// The first colour.
   void SetBeginColor(vcl::TColor color);
   vcl::TColor EndColor() const { return FEndColor; }
+  /// The last colour.
   void SetEndColor(vcl::TColor color);
   TQELFillStyle FillStyle() const { return FFillStyle; }
+  /// The shape of the gradient.
   void SetFillStyle(TQELFillStyle style);
   int ColorCount() const { return FColorCount; }
   /// The number of steps between each two neighbouring colours. With 1, each pair is painted in its
@@ -119,15 +122,18 @@ class QEL_API TQELTexture : public vcl::TGraphicsObject {
   /// Copies another texture's settings and picture.
   void Assign(const vcl::TPersistent* source) override;
 
+  /// The picture that is painted; an empty one paints nothing.
   vcl::TBitmap* Image() const { return FImage.get(); }
   /// Copies the picture; null for none.
   void SetImage(const vcl::TBitmap* image);
   TQELImageStyle ImageStyle() const { return FImageStyle; }
+  /// Whether the picture is tiled, centred or stretched.
   void SetImageStyle(TQELImageStyle style);
   vcl::TColor TransparentColor() const { return FTransparentColor; }
   /// The picture's pixels of this colour are painted in TransparentBackground; clNone for none.
   void SetTransparentColor(vcl::TColor color);
   vcl::TColor TransparentBackground() const { return FTransparentBackground; }
+  /// The colour in which the picture's pixels of TransparentColor are painted.
   void SetTransparentBackground(vcl::TColor color);
 
   /// Paints the area from (0, 0) with the picture; nothing when there is none. Tiles at the right
@@ -166,8 +172,10 @@ class QEL_API TQELBrushFill : public vcl::TGraphicsObject {
   void Assign(const vcl::TPersistent* source) override;
 
   vcl::TBrushStyle BrushStyle() const { return FBrushStyle; }
+  /// The brush's pattern.
   void SetBrushStyle(vcl::TBrushStyle style);
   vcl::TColor BrushColor() const { return FBrushColor; }
+  /// The colour of the brush's pattern.
   void SetBrushColor(vcl::TColor color);
 
  private:
@@ -184,16 +192,21 @@ class QEL_API TQELBackground : public TQELCustomBackground {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// The picture that bTexture fills with.
   TQELTexture* Texture() const { return FTexture.get(); }
+  /// The gradient that bGradient fills with.
   TQELGradient* Gradient() const { return FGradient.get(); }
+  /// The brush of the two fills by brush.
   TQELBrushFill* BrushFill() const { return FBrushFill.get(); }
   /// Copy the given settings.
   void SetTexture(const TQELTexture* texture) { FTexture->Assign(texture); }
   void SetGradient(const TQELGradient* gradient) { FGradient->Assign(gradient); }
   void SetBrushFill(const TQELBrushFill* brushFill) { FBrushFill->Assign(brushFill); }
   vcl::TColor SolidColor() const { return FSolidColor; }
+  /// The colour that bSolidcolor fills with.
   void SetSolidColor(vcl::TColor color);
   TQELBackStyle BackgroundStyle() const { return FBackgroundStyle; }
+  /// What the background fills with.
   void SetBackgroundStyle(TQELBackStyle style);
 
   /// Appends a control to the clients. It is told when the background is freed, and leaves the list

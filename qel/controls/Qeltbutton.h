@@ -20,9 +20,11 @@ class QEL_API TQELButton : public TQELCustomControl {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// How the caption is written.
   TQELFont3D* Font3D() const { return FFont3D.get(); }
   /// Copies the settings.
   void Set3D(const TQELFont3D* font3D);
+  /// The images beside the caption.
   TQELGlyph* Glyph() const { return FGlyph.get(); }
   /// Copies the settings and the images.
   void SetQELGlyph(const TQELGlyph* glyph);
@@ -31,6 +33,7 @@ class QEL_API TQELButton : public TQELCustomControl {
   bool Enabled() const { return FEnabled; }
   void SetEnabled(bool enabled);
   std::string getcaption() const;
+  /// The text on the button.
   void Setcaption(const std::string& caption);
   bool WordWrap() const { return FWordWrap; }
   /// True wraps the caption; false draws it on one line that ends in an ellipsis when it is too

@@ -19,6 +19,7 @@ class QEL_API TQELGauge : public TQELGraphicControl {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// The image beside the bar.
   TQELGlyph* Glyph() const { return FGlyph.get(); }
   /// Copies the settings and the images.
   void SetGlyph(const TQELGlyph* glyph);
@@ -47,14 +48,17 @@ class QEL_API TQELGauge : public TQELGraphicControl {
   TQELKind Kind() const { return FKind; }
   /// The bar grows to the right, or upwards.
   void SetKind(TQELKind kind);
+  /// The distance between two segments, in pixels, plus one.
   int SegmentGap() const { return FSegmentGap; }
   /// Takes only values from 0. A gap is one pixel narrower than this, a segment one wider than
   /// SegmentWidth.
   void SetSegmentGap(int gap);
+  /// The width of a segment, in pixels, minus one.
   int SegmentWidth() const { return FSegmentWidth; }
   /// Takes only values above 0.
   void SetSegmentWidth(int width);
   vcl::TColor SegmentColor() const { return FSegmentColor; }
+  /// The colour of the segments.
   void SetSegmentColor(vcl::TColor color);
   vcl::TColor InsideBackColor() const { return FInsideBackColor; }
   /// The colour of the gaps, and of what the bar has not reached.

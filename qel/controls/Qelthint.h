@@ -49,6 +49,7 @@ class QEL_API TQELHint : public TQELComponent {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// How the hint's text is written.
   TQELFont3D* Font3D() const { return FFont3D.get(); }
   /// Uses that very object from now on, which the hint then owns; the one that it had is freed.
   /// Null is refused. Settings that a control owns are copied instead, as they end with it.
@@ -57,6 +58,7 @@ class QEL_API TQELHint : public TQELComponent {
   /// True: a bubble with round corners and a pointer towards the mouse; false: a box.
   void SetSpeechbubble(bool speechbubble) { FSpeechbubble = speechbubble; }
   bool Shadow() const { return FShadow; }
+  /// True draws a shadow behind the bubble or the box.
   void SetShadow(bool shadow) { FShadow = shadow; }
   /// The side of the mouse on which hints are to stand; after each showing, the one where it stood.
   TQELDirectionB HintDirection() const { return FHintDirection; }
@@ -66,7 +68,9 @@ class QEL_API TQELHint : public TQELComponent {
   /// becomes background, on the screen around the bubble too.
   void SetUnUsedHintColor(vcl::TColor color) { FUnUsedHintColor = color; }
   vcl::TColor HintShadowColor() const { return FHintShadowColor; }
+  /// The colour of the shadow.
   void SetHintShadowColor(vcl::TColor color) { FHintShadowColor = color; }
+  /// The font of the hint's text.
   vcl::TFont* HintFont() const { return FHintFont.get(); }
   /// Copies the font. Any change of it hides the hint that is shown.
   void SetHintFont(const vcl::TFont* font) { FHintFont->Assign(font); }

@@ -18,11 +18,14 @@ class QEL_API TQELLabel : public vcl::TCustomLabel {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// What the label says about the package.
   TQELAbout* About() const { return FAbout.get(); }
+  /// How the caption is written.
   TQELFont3D* Font3D() const { return FFont3D.get(); }
   /// Uses that very object from now on, which the label then owns; the one that it had is freed.
   /// Null is refused. Settings that another control owns are copied instead, as they end with it.
   void Set3D(TQELFont3D* font3D);
+  /// The frame along the label's edge.
   TQELFrame* Frame() const { return FFrame.get(); }
   /// As Set3D.
   void SetFrm(TQELFrame* frame);

@@ -25,6 +25,7 @@ class QEL_API TQELCustomSpinButton : public TQELGraphicControl {
 
   void SetColor(vcl::TColor color) override;
   vcl::TColor ArrowColor() const { return FArrowColor; }
+  /// The colour of the two arrows.
   void SetArrowColor(vcl::TColor color);
   /// What the button looks like now.
   TQELButtonState Down() const { return FState; }
@@ -62,6 +63,7 @@ class QEL_API TQELCustomSpinButton : public TQELGraphicControl {
   vcl::TColor FArrowColor = vcl::clBlack;
 };
 
+/// A spin button for forms.
 class QEL_API TQELSpinButton : public TQELCustomSpinButton {
  public:
   using TQELCustomSpinButton::TQELCustomSpinButton;
@@ -84,8 +86,10 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   const vcl::TClass& ClassType() const override { return Class(); }
 
   vcl::TColor ButtonColor() const { return FButton->Color(); }
+  /// The colour of the button's surface.
   void SetButtonColor(vcl::TColor color) { FButton->SetColor(color); }
   vcl::TColor ArrowColor() const { return FButton->ArrowColor(); }
+  /// The colour of the button's arrows.
   void SetArrowColor(vcl::TColor color) { FButton->SetArrowColor(color); }
   bool CutandPaste() const { return FCutandPaste; }
   /// False: text can be neither cut nor pasted nor typed nor deleted; buttons and keys still step
@@ -97,15 +101,18 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   int MultipleLineSize() const { return FMultipleLineSize; }
   /// What the page keys add or take. Any number.
   void SetMultipleLineSize(int size) { FMultipleLineSize = size; }
+  /// The greatest number; must be greater than MinValue.
   int MaxValue() const { return FMaxValue; }
   /// Refuses, silently, what is not greater than MinValue. A form file may give any two bounds, of
   /// which the same twice stands for none; with a maximum less than the minimum, reading it raises
   /// EReadError.
   void SetMaxValue(int maxValue);
+  /// The least number; must be less than MaxValue.
   int MinValue() const { return FMinValue; }
   /// Refuses, silently, what is not less than MaxValue.
   void SetMinValue(int minValue);
   bool Readonly() const { return ReadOnly(); }
+  /// True: neither typing nor buttons nor keys change the number.
   void SetReadonly(bool readOnly) { SetReadOnly(readOnly); }
   /// The number that the text says; MinValue when it says none. Writes MinValue into an empty text.
   int GetValue() const;
@@ -160,6 +167,7 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   TQELCustomSpinButton* FButton;
 };
 
+/// A spin edit for forms.
 class QEL_API TQELSpinEdit : public TQELCustomSpinEdit {
  public:
   explicit TQELSpinEdit(vcl::TComponent* owner);
@@ -167,6 +175,7 @@ class QEL_API TQELSpinEdit : public TQELCustomSpinEdit {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// What the edit says about the package.
   TQELAbout* About() const { return FAbout.get(); }
 
  private:

@@ -34,6 +34,7 @@ class QEL_API TQELComponent : public vcl::TComponent {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// What the component says about the package.
   TQELAbout* About() const { return FAbout.get(); }
 
  private:
@@ -69,6 +70,7 @@ class QEL_API TQELCustomDialog : public TQELExecComponent {
   /// Plays Sound and returns false.
   bool Execute() override;
   TQELBeeptype Sound() const { return FSound; }
+  /// The system's sound that is played when the dialog is shown; bNone for none.
   void SetSound(TQELBeeptype sound) { FSound = sound; }
 
  private:

@@ -37,6 +37,7 @@ class QEL_API TQELCustomControl : public vcl::TWinControl {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// What the control says about the package.
   TQELAbout* About() const { return FAbout.get(); }
   TQELCustomBackground* Background() const { return FBackground; }
   /// Links the control to a background, which is not owned; null for none.
@@ -67,6 +68,7 @@ class QEL_API TQELGraphicControl : public vcl::TGraphicControl {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// What the control says about the package.
   TQELAbout* About() const { return FAbout.get(); }
 
  private:

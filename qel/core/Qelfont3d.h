@@ -29,13 +29,16 @@ class QEL_API TQELFont3D : public vcl::TGraphicsObject {
   /// False draws the text once, in its own colour.
   void SetThreeDimensional(bool threeDimensional);
   TQELStyle3D Style3D() const { return FStyle3D; }
+  /// On which sides of the text its highlight and its shadow are drawn.
   void SetStyle3D(TQELStyle3D style);
   int Offset() const { return FOffset; }
   /// The distance of highlight and shadow, in pixels. Takes only values above 0.
   void SetOffset(int offset);
   TQELRepeat Repetition() const { return FRepetition; }
+  /// To which side copies of the text trail from it.
   void SetRepetition(TQELRepeat repetition);
   vcl::TColor RepetitionColor() const { return FRepetitionColor; }
+  /// The colour of the trailing copies.
   void SetRepetitionColor(vcl::TColor color);
   int Repetitionwidth() const { return FRepetitionwidth; }
   /// The number of trailing copies, each a pixel further. Takes only values from 0.
@@ -44,8 +47,10 @@ class QEL_API TQELFont3D : public vcl::TGraphicsObject {
   /// For the owning control's own use.
   void SetMaskFont(bool maskFont);
   vcl::TColor Shadow() const { return FShadow; }
+  /// The colour of the text's shadow.
   void SetShadow(vcl::TColor color);
   vcl::TColor Highlight() const { return FHighlight; }
+  /// The colour of the text's highlight.
   void SetHighlight(vcl::TColor color);
   /// How many pixels more than the plain text the drawing takes, in each direction.
   int GetDrawingwidth() const { return 2 * FOffset + FRepetitionwidth; }

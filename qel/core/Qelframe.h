@@ -23,14 +23,17 @@ class QEL_API TQELFrame : public vcl::TGraphicsObject {
   void SetOwner(vcl::TObject* owner) { FOwner = owner; }
 
   TQELFrameStyle FrameStyle() const { return FFrameStyle; }
+  /// Which borders the frame has.
   void SetFrameStyle(TQELFrameStyle style);
   /// Notes the style that the owner gives to its frames when it makes them. Where that is not
   /// frameRaised, form files always hold the style.
   void SetInitialStyle(TQELFrameStyle style) { FInitialStyle = style; }
   bool StyleHasDefault() const { return FInitialStyle == frameRaised; }
   vcl::TColor Highlight() const { return FHighlight; }
+  /// The colour of the sides in the light.
   void SetHighlight(vcl::TColor color);
   vcl::TColor Shadow() const { return FShadow; }
+  /// The colour of the sides in the shadow.
   void SetShadow(vcl::TColor color);
   /// The colour of frameSolid.
   vcl::TColor Solid() const { return FSolid; }

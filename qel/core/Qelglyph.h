@@ -23,18 +23,23 @@ class QEL_API TQELGlyph : public vcl::TGraphicsObject {
 
   vcl::TObject* Owner() const { return FOwner; }
   vcl::TColor TransparentColor() const { return FTransparentColor; }
+  /// With Transparent, the bitmap's pixels of this colour are not drawn.
   void SetTransparentColor(vcl::TColor color);
+  /// The images, in a row of equal ones.
   vcl::TBitmap* Bitmap() const { return FBitmap.get(); }
   /// Copies the bitmap; null for none. In the form designer the number of images (1 when it would
   /// be above 4) follows from the size if that is a row of squares, and the transparent colour is
   /// that of the lower left pixel.
   void SetBitmap(const vcl::TBitmap* bitmap);
   bool Visible() const { return FVisible; }
+  /// False draws no glyph.
   void SetVisible(bool visible);
+  /// How many images the bitmap holds: 0, for no glyph, to 4.
   TQELNumGlyphs NumGlyphs() const { return FNumGlyphs; }
   /// Raises EArgumentOutOfRangeException for more than 4. With 0 nothing is drawn.
   void SetNumGlyphs(TQELNumGlyphs count);
   bool Transparent() const { return FTransparent; }
+  /// True leaves out the pixels of TransparentColor.
   void SetTransparent(bool transparent);
 
   /// The size of one image in pixels; 0 when there is none.

@@ -29,6 +29,7 @@ class QEL_API TQELTimer32 : public TQELComponent {
   const vcl::TClass& ClassType() const override { return Class(); }
 
   bool Enabled() const { return FEnabled; }
+  /// False stops the timer.
   void SetEnabled(bool enabled);
   std::uint16_t Interval() const { return FInterval; }
   /// Milliseconds; 0 stops the timer. Holds from the next interval on.
@@ -37,6 +38,7 @@ class QEL_API TQELTimer32 : public TQELComponent {
   /// The thread's priority when the timer first runs; a later change is kept but not applied.
   void SetThreadPriority(vcl::TThreadPriority priority);
 
+  /// An interval is over.
   vcl::TNotifyEvent OnTimer;
 
  protected:

@@ -31,11 +31,14 @@ class QEL_API TQELRegistry : public vcl::TPersistent {
   const vcl::TClass& ClassType() const override { return Class(); }
 
   TQELRootKey Rootkey() const { return FRootkey; }
+  /// The root key below which Path stands.
   void SetRootkey(TQELRootKey rootkey) { FRootkey = rootkey; }
+  /// The key below the root key, without the section.
   const std::string& Path() const { return FPath; }
   /// A "/" in it becomes a "\" when the store is used next.
   void SetPath(const std::string& path) { FPath = path; }
   const std::string& Section() const { return FSection; }
+  /// The key below Path that holds the values.
   void SetSection(const std::string& section) { FSection = section; }
 
  private:
@@ -54,6 +57,7 @@ class QEL_API TQELIniFile : public vcl::TPersistent {
   /// A name without a folder is a file in the Windows folder.
   void SetFilename(const std::string& filename) { FFilename = filename; }
   const std::string& Section() const { return FSection; }
+  /// The section of the file that holds the values.
   void SetSection(const std::string& section) { FSection = section; }
 
  private:
@@ -75,20 +79,27 @@ class QEL_API TQELDataStore : public vcl::TPersistent {
   const vcl::TClass& ClassType() const override { return Class(); }
 
   bool Enabled() const { return FEnabled; }
+  /// False: nothing is written, and reads give the error values.
   void SetEnabled(bool enabled) { FEnabled = enabled; }
   TQELDatatype Datatype() const { return FDatatype; }
+  /// Whether the values are kept in the registry or in an INI file.
   void SetDatatype(TQELDatatype datatype) { FDatatype = datatype; }
+  /// The place in the registry, for sRegistry.
   TQELRegistry* Registry() const { return FRegistry.get(); }
+  /// The place in an INI file, for sIniFile.
   TQELIniFile* Inifile() const { return FInifile.get(); }
   /// These take the object itself, which the store owns from then on, and free the former one; they
   /// copy nothing. Null is refused with EConvertError.
   void SetRegistry(TQELRegistry* registry);
   void SetInifile(TQELIniFile* inifile);
   int ErrorInt() const { return FErrorInt; }
+  /// What ReadInt gives where there is no such value.
   void SetErrorInt(int value) { FErrorInt = value; }
   const std::string& ErrorStr() const { return FErrorStr; }
+  /// What ReadStr gives where there is no such value.
   void SetErrorStr(const std::string& value) { FErrorStr = value; }
   bool ErrorBool() const { return FErrorBool; }
+  /// What ReadBool gives where there is no such value.
   void SetErrorBool(bool value) { FErrorBool = value; }
 
   /// ReadStr gives ErrorStr and ReadInt ErrorInt where there is no such value, and raise OnError;
@@ -119,7 +130,7 @@ class QEL_API TQELDataStore : public vcl::TPersistent {
     vcl::TSetFor<bool> FStrict;
   };
 
-  /// The sender is the store.
+  /// A value is not there or equals its error value, or Section is empty; the sender is the store.
   vcl::TNotifyEvent OnError;
 
  private:
@@ -149,6 +160,7 @@ class QEL_API TQELStoreData : public TQELComponent {
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
+  /// The store, which says where the values are and reads and writes them.
   TQELDataStore* DataStore() const { return FDataStore.get(); }
   /// Takes the store itself, as its setters take their objects.
   void SetDataStore(TQELDataStore* dataStore);

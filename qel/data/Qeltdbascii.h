@@ -78,6 +78,7 @@ class QEL_API TQELDBAscii : public TQELComponent {
   const vcl::TClass& ClassType() const override { return Class(); }
 
   TQELADFields* Fields() const { return FFields.get(); }
+  /// The columns of the file, in their order.
   void SetFields(const TQELADFields* fields) { FFields->Assign(fields); }
   /// The character between two columns. At first the one with the code 0, so that it must be set.
   char32_t Delimiter() const { return FDelimiter; }
@@ -86,8 +87,10 @@ class QEL_API TQELDBAscii : public TQELComponent {
   bool PrintHeader() const { return FPrintHeader; }
   void SetPrintHeader(bool printHeader) { FPrintHeader = printHeader; }
   const std::string& Filename() const { return FFilename; }
+  /// The text file.
   void SetFilename(const std::string& filename) { FFilename = filename; }
   vcl::TDataSource* DataSource() const { return FDataLink->DataSource(); }
+  /// The source of the data set whose records are exported or imported; null for none.
   void SetDataSource(vcl::TDataSource* dataSource);
   vcl::TFieldDataLink* DataLink() const { return FDataLink.get(); }
 
@@ -107,11 +110,17 @@ class QEL_API TQELDBAscii : public TQELComponent {
   /// The number, from 1, of the file's line that is being imported, or was last.
   int ImportLine() const { return FImportLine; }
 
+  /// A line has been dealt with, also when its record was given up.
   TQELImportExportEvent OnImportSuccess;
+  /// A record could not be posted; ImportError says why.
   TQELImportExportEvent OnImportException;
+  /// Has ExportBeforeWrite called before an imported record is posted; it is not called itself.
   TQELImportExportEvent ImportBeforePost;
+  /// Before a record is inserted for a line of the file.
   TQELImportExportEvent ImportBeforeInsert;
+  /// Before a line is written; and, with ImportBeforePost, before an imported record is posted.
   TQELImportExportEvent ExportBeforeWrite;
+  /// The export has ended, also when there was no data set.
   vcl::TNotifyEvent OnExportDone;
   /// A field does not take its column's value. Without a handler, and when it leaves false, what
   /// the field says is raised. Set by code.

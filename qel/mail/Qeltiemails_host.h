@@ -51,10 +51,12 @@ class QEL_API TQELMailHost : public TQELExecComponent {
   /// The server's port, a decimal number.
   const std::string& Port() const { return FPort; }
   void SetPort(const std::string& port) { FPort = port; }
+  /// By how many percent an event of progress differs from the one before at least: 1 to 100.
   TQELPStep ProgressStep() const { return FProgressStep; }
   /// Raises EArgumentOutOfRangeException outside 1 to 100.
   void SetProgressStep(TQELPStep step);
   TQELMessages* Messages() const { return FMessages.get(); }
+  /// The messages that are exchanged with the server.
   void SetMessages(const TQELMessages* messages) { FMessages->Assign(messages); }
 
   bool Busy() const { return FBusy; }
@@ -71,10 +73,14 @@ class QEL_API TQELMailHost : public TQELExecComponent {
   /// Sends the bytes as they are. Raises ESocketError when the connection fails.
   void SendSocketText(std::string_view text);
 
+  /// Execute has been called.
   vcl::TNotifyEvent OnExecute;
-  // The sender of the first two is the client socket.
+  /// The connection has been made; the sender is the client socket.
   vcl::TNotifyEvent OnConnect;
+  /// The connection is being closed; the sender is the client socket.
   vcl::TNotifyEvent OnDisconnect;
+  /// The server has refused something, or the connection has failed: a code, and what the server
+  /// said last.
   TQELOnError OnError;
 
  protected:

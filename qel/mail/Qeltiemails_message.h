@@ -89,11 +89,13 @@ class QEL_API TQELMessage : public vcl::TCollectionItem, public vcl::TWatched {
   const std::string& FromMail() const { return FFromMail; }
   void SetFromMail(const std::string& fromMail) { FFromMail = fromMail; }
   const std::string& ReplyTo() const { return FReplyTo; }
+  /// The address that answers are to go to.
   void SetReplyTo(const std::string& replyTo) { FReplyTo = replyTo; }
   /// The recipients' addresses, separated by commas.
   const std::string& SendTo() const { return FSendTo; }
   void SetSendTo(const std::string& sendTo) { FSendTo = sendTo; }
   const std::string& Subject() const { return FSubject; }
+  /// The subject line.
   void SetSubject(const std::string& subject) { FSubject = subject; }
   /// The sender's name.
   const std::string& FromName() const { return FFromName; }
@@ -102,6 +104,7 @@ class QEL_API TQELMessage : public vcl::TCollectionItem, public vcl::TWatched {
   vcl::TStrings* Message() const { return FMessage.get(); }
   void SetMessage(const vcl::TStrings* message) { FMessage->Assign(message); }
   TQELAttachments* Attachments() const { return FAttachments.get(); }
+  /// The files that travel with the message.
   void SetAttachments(const TQELAttachments* attachments) { FAttachments->Assign(attachments); }
 
   /// The number that a received mail came with; sending gives a new one and does not look here.

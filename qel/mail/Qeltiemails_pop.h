@@ -33,6 +33,7 @@ class QEL_API TQELPOPMail : public TQELMailHost {
   bool Execute() override;
 
   const std::string& Username() const { return FUsername; }
+  /// The mailbox's name, which the session logs in with.
   void SetUsername(const std::string& username) { FUsername = username; }
   /// Sent as it is, unencrypted.
   const std::string& Password() const { return FPassword; }
@@ -93,12 +94,19 @@ class QEL_API TQELPOPMail : public TQELMailHost {
                                int& position);
   static bool FindInStringListCS(std::string_view key, const vcl::TStrings& list, int& index);
 
+  /// An attachment begins to be decoded: its file name and its number of lines.
   TQELOnCodingStart OnDecodeStart;
+  /// How much of an attachment is decoded, in percent.
   TQELOnCodingProgress OnDecodeProgress;
+  /// An attachment has been decoded.
   vcl::TNotifyEvent OnDecodeEnd;
+  /// Before a mail is fetched: its number, from 1.
   TQELBeforeRetrieve BeforeRetrieve;
+  /// A mail has been fetched and stands in Messages.
   vcl::TNotifyEvent AfterRetrieve;
+  /// How much of a mail is fetched, in percent of the size that the server announced.
   TQELOnCodingProgress OnRetrieveProgress;
+  /// The server has deleted a mail: its number, from 1.
   TQELOnDelete OnDelete;
 
  protected:

@@ -57,11 +57,17 @@ class QEL_API TQELSMTPMail : public TQELMailHost {
   /// Reads a reply; `text` becomes what came of it last.
   void GetSocketText(std::string& text);
 
+  /// Before a message is sent, when its text and attachments are ready.
   vcl::TNotifyEvent OnBeforeSend;
+  /// The server has taken a message.
   vcl::TNotifyEvent OnAfterSend;
+  /// An attachment begins to be encoded: its file name and its size in bytes.
   TQELOnCodingStart OnEncodeStart;
+  /// How much of an attachment is encoded, in percent.
   TQELOnCodingProgress OnEncodeProgress;
+  /// An attachment has been encoded.
   vcl::TNotifyEvent OnEncodeEnd;
+  /// How much of a message is sent, in percent.
   TQELSendingProgress OnSendProgress;
 
  protected:

@@ -101,15 +101,19 @@ class QEL_API TQELMapiMessage : public vcl::TCollectionItem, public vcl::TWatche
   vcl::TStrings* Message() const { return FMessage.get(); }
   void SetMessage(const vcl::TStrings* message) { FMessage->Assign(message); }
   TQELMapiAttachments* Attachments() const { return FAttachments.get(); }
+  /// The files that travel with the message.
   void SetAttachments(const TQELMapiAttachments* attachments) { FAttachments->Assign(attachments); }
   const std::string& Subject() const { return FSubject; }
+  /// The subject line.
   void SetSubject(const std::string& subject) { FSubject = subject; }
   /// The recipients, one a line: names that the mail program looks up, or addresses in brackets.
   vcl::TStrings* RecipientsTo() const { return FRecipientsTo.get(); }
   void SetRecipientsTo(const vcl::TStrings* recipients) { FRecipientsTo->Assign(recipients); }
   vcl::TStrings* RecipientsCC() const { return FRecipientsCC.get(); }
+  /// The recipients of copies, one a line, as in RecipientsTo.
   void SetRecipientsCC(const vcl::TStrings* recipients) { FRecipientsCC->Assign(recipients); }
   vcl::TStrings* RecipientsBC() const { return FRecipientsBC.get(); }
+  /// The recipients of copies of whom the others do not hear, one a line, as in RecipientsTo.
   void SetRecipientsBC(const vcl::TStrings* recipients) { FRecipientsBC->Assign(recipients); }
   /// How many lines the three lists have, empty ones too.
   int RecipientCount() const;
@@ -205,36 +209,53 @@ class QEL_API TQELMapiMail : public TQELExecComponent {
   bool NewSession() const { return FNewSession; }
   void SetNewSession(bool newSession) { FNewSession = newSession; }
   TQELMapiMessages* Messages() const { return FMessages.get(); }
+  /// The messages to send.
   void SetMessages(const TQELMapiMessages* messages) { FMessages->Assign(messages); }
   const std::string& Password() const { return FPassword; }
+  /// The password to log on with.
   void SetPassword(const std::string& password) { FPassword = password; }
   /// The name of the profile to log on with. With DefaultProfile, Logon sets it.
   const std::string& Profile() const { return FProfile; }
   void SetProfile(const std::string& profile) { FProfile = profile; }
   bool DefaultProfile() const { return FDefaultProfile; }
+  /// Logs on with the user's default profile; false lets the user choose one.
   void SetDefaultProfile(bool defaultProfile) { FDefaultProfile = defaultProfile; }
   /// What follows the text of each message.
   vcl::TStrings* Signature() const { return FSignature.get(); }
   void SetSignature(const vcl::TStrings* signature) { FSignature->Assign(signature); }
   bool DeleteAfterSend() const { return FDeleteAfterSend; }
+  /// Deletes the messages that were sent, but never the last one.
   void SetDeleteAfterSend(bool deleteAfterSend) { FDeleteAfterSend = deleteAfterSend; }
   /// MAPI's number of the open session; 0 when there is none.
   std::uintptr_t Session() const { return FSession; }
 
+  /// Before the session is closed; also when none is open.
   vcl::TNotifyEvent BeforeLogoff;
+  /// Execute has sent the messages and is about to log off.
   vcl::TNotifyEvent AfterSendAll;
+  /// Execute has logged on and is about to send the messages.
   vcl::TNotifyEvent BeforeSendAll;
+  /// Before a session is opened; also when one is open.
   vcl::TNotifyEvent BeforeLogon;
+  /// Execute is done, whether it could log on or not.
   vcl::TNotifyEvent AfterExecute;
+  /// A session has been opened.
   vcl::TNotifyEvent OnLogonSuccess;
+  /// The session has been closed.
   vcl::TNotifyEvent OnLogoffSuccess;
+  /// A message could not be sent: MAPI's result code, and the message.
   TQELOnSendError OnSendError;
   /// Before a message is deleted. The sender is the collection.
   TQELMapiSend OnDeleteMail;
+  /// Before a message is sent.
   TQELMapiSend BeforeSendMail;
+  /// A message has been sent.
   TQELMapiSend AfterSendMail;
+  /// No session could be opened: MAPI's result code.
   TQELMapiConnect OnLogonFailure;
+  /// The session could not be closed properly: MAPI's result code.
   TQELMapiConnect OnLogoffFailure;
+  /// The system has no MAPI.
   vcl::TNotifyEvent OnMapiNotAvailable;
 
  private:

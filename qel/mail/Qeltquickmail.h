@@ -30,20 +30,23 @@ class QEL_API TQELQuickMail : public TQELExecComponent {
   /// The recipient's name. Of this and of the subject the first 256 bytes are sent.
   const std::string& ToName() const { return FToName; }
   void SetToName(const std::string& name) { FToName = name; }
-  /// Never null. The setter copies.
+  /// The text, a line an item. Never null; the setter copies.
   vcl::TStrings* TextToSend() const { return FTextToSend.get(); }
   void SetTextToSend(const vcl::TStrings* text) { FTextToSend->Assign(text); }
   const std::string& Subject() const { return FSubject; }
+  /// The subject line, of which the first 256 bytes are sent.
   void SetSubject(const std::string& subject) { FSubject = subject; }
   TQELFaxorMail MailorFax() const { return FMailorFax; }
+  /// Whether the recipient is a mail address or a fax number.
   void SetMailorFax(TQELFaxorMail mailorFax) { FMailorFax = mailorFax; }
   /// MAPI's decimal number for how the last sending went: "0" for well, "2" also when the system
   /// has no MAPI. Empty before the first.
   const std::string& ErrorNo() const { return FErrorNo; }
   void SetErrorNo(const std::string& errorNo) { FErrorNo = errorNo; }
 
+  /// Before the text is sent.
   vcl::TNotifyEvent BeforeSend;
-  /// ErrorNo says what was wrong.
+  /// The text could not be sent; ErrorNo says why.
   vcl::TNotifyEvent OnError;
 
  private:

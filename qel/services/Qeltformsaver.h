@@ -45,14 +45,19 @@ class QEL_API TQELFormSaver : public TQELComponent {
   /// OnRestore are still called.
   TQELDataStore* FormStore() const { return FFormStore.get(); }
   bool StoreSize() const { return FStoreSize; }
+  /// Stores width and height of forms and controls.
   void SetStoreSize(bool store) { FStoreSize = store; }
   bool StoreLocation() const { return FStoreLocation; }
+  /// Stores the place of forms and controls.
   void SetStoreLocation(bool store) { FStoreLocation = store; }
   bool StoreState() const { return FStoreState; }
+  /// Stores whether forms are minimised, maximised or neither.
   void SetStoreState(bool store) { FStoreState = store; }
   bool StoreVisible() const { return FStoreVisible; }
+  /// Stores whether forms and controls are visible.
   void SetStoreVisible(bool store) { FStoreVisible = store; }
   bool StoreControls() const { return FStoreControls; }
+  /// Stores the forms' controls, too.
   void SetStoreControls(bool store) { FStoreControls = store; }
   bool KeepOnScreen() const { return FKeepOnScreen; }
   /// True moves a restored form into the nearest monitor's work area when its title bar would
@@ -74,10 +79,11 @@ class QEL_API TQELFormSaver : public TQELComponent {
   std::string ReadStr(const std::string& ident, const std::string& defaultValue);
   bool ReadBool(const std::string& ident, bool defaultValue);
 
-  /// Sender is the form. OnStore comes before storing, and only when FormStore is enabled;
-  /// OnRestore after restoring, always.
+  /// Before storing, and only when FormStore is enabled; the sender is the form.
   vcl::TNotifyEvent OnStore;
+  /// Before a control is stored; with false it is not, nor what is inside it.
   TQELOnStoreControl OnStoreControl;
+  /// After restoring, also when FormStore is disabled; the sender is the form.
   vcl::TNotifyEvent OnRestore;
 
  protected:

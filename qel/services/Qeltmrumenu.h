@@ -73,6 +73,7 @@ class QEL_API TQELMRUMenu : public TQELComponent {
   /// Puts a number before each name, whose last digit chooses it. Seen when the list is next shown
   /// anew.
   void SetNumbering(bool numbering) { FNumbering = numbering; }
+  /// The greatest number of names in the list.
   std::uint8_t MaxItems() const { return FMaxItems; }
   /// A smaller number than before deletes names at the end of the list.
   void SetMaxItems(std::uint8_t maxItems);
@@ -95,6 +96,7 @@ class QEL_API TQELMRUMenu : public TQELComponent {
   /// another one is set: it can be compared with then and nothing else.
   vcl::TMenuItem* AttachToMenu() const { return FAttachToMenu; }
   void SetAttachToMenu(vcl::TMenuItem* menu);
+  /// Where the list is kept between runs.
   TQELDataStore* MRUStore() const { return FMRUStore.get(); }
 
   /// A name was clicked; with RemoveOnClick it has left the list by now. The item lives until the

@@ -50,6 +50,7 @@ class QEL_API TQELOnlyOne : public TQELComponent {
   /// How many copies may run, this one included. With 0 every copy is one too many.
   void SetInstances(int instances) { FInstances = instances; }
   Qeltonlyone::TQELAction OnExceed() const { return FOnExceed; }
+  /// What is done when there are too many copies.
   void SetOnExceed(Qeltonlyone::TQELAction onExceed) { FOnExceed = onExceed; }
 
   /// Counts the copies and, when there are too many, fires OnExceeded and does what OnExceed says

@@ -9,6 +9,7 @@
 #include "tests/vcl/standardform.h"
 #include "vcl/designintf/package.h"
 #include "vcl/designintf/registration.h"
+#include "vcl/designintf/sentences.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
 
@@ -16,6 +17,7 @@ namespace ide {
 namespace {
 
 using testing::HasSubstr;
+using testing::StartsWith;
 using vcl::TObject;
 
 /// Tells the inspector what the designer application would.
@@ -113,6 +115,27 @@ TEST_F(Inspector, WhatIsTypedHoldsAtTheRightTime) {
   TypeValue("Caption", "Ab");
   EXPECT_EQ(Button->Caption(), "Ab") << "shown while it is typed";
   EXPECT_EQ(Designer.Modifications, 5);
+}
+
+TEST_F(Inspector, TheSelectedPropertyIsExplained) {
+  const vcl::TSentences& known = vcl::Sentences();
+  Select({Button});
+  Grid().SelectRow(Grid().IndexOf("Align"));
+  EXPECT_THAT(Inspected->HelpText(), StartsWith("Keeps the control along an edge of its parent"));
+  // A property inside another one is that object's.
+  Grid().SetExpanded(Grid().IndexOf("Font"), true);
+  Grid().SelectRow(Grid().IndexOf("Font.Size"));
+  EXPECT_EQ(Inspected->HelpText(), known.Of(vcl::TFont::Class(), "Size"));
+  vcl::TTimer timer(&Designer.Form);
+  timer.SetName("Timer1");
+  Select({&timer});
+  Grid().SelectRow(Grid().IndexOf("Interval"));
+  EXPECT_EQ(Inspected->HelpText(), known.Of(vcl::TTimer::Class(), "Interval"));
+  Inspected->ShowEvents(true);
+  EXPECT_EQ(Inspected->HelpText(), known.Of(vcl::TTimer::Class(), "OnTimer"));
+  EXPECT_NE(Inspected->HelpText(), "");
+  Select({});
+  EXPECT_EQ(Inspected->HelpText(), "");
 }
 
 TEST_F(Inspector, ARefusedValueIsToldAndTheOldOneIsBack) {

@@ -142,6 +142,19 @@ expect_class(TQELCustomSpinEdit TCustomEdit "" Qeltspinedit
   OnChange OnClick OnDblClick OnDragDrop OnDragOver OnEndDrag OnEnter OnExit OnKeyDown OnKeyPress
   OnKeyUp OnMouseDown OnMouseMove OnMouseUp)
 
+# What the headers say.
+json_find(gauge TQELGauge classes)
+json_find(color SegmentColor classes ${gauge} published)
+json_expect("The colour of the segments." classes ${gauge} published ${color} sentence)
+# What an ancestor has described.
+json_find(align Align classes ${gauge} published)
+json_expect("Keeps the control along an edge of its parent, or over all that the others leave."
+            classes ${gauge} published ${align} sentence)
+# A class of the class library.
+json_find(timer TTimer classes)
+json_expect(TComponent classes ${timer} ancestor)
+json_expect(vcl/stdctrls/extctrls.h classes ${timer} header)
+
 expect_property(TQELExecComponent DesignExecute string string "" OFF)
 expect_property(TQELCustomDialog Sound enumeration TQELBeeptype bNone ON)
 expect_property(TQELGlyph NumGlyphs integer TQELNumGlyphs 0 ON)

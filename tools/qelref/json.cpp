@@ -31,12 +31,14 @@ std::string QuotedOrNull(const std::optional<std::string>& text) {
 std::string EntryJson(const TEntry& entry) {
   return "{\"name\":" + Quoted(entry.Name) + ",\"kind\":" + Quoted(entry.Kind) +
          ",\"type\":" + Quoted(entry.Type) + ",\"default\":" + QuotedOrNull(entry.Default) +
-         ",\"stored\":" + (entry.Stored ? "true" : "false") + "}";
+         ",\"stored\":" + (entry.Stored ? "true" : "false") +
+         ",\"sentence\":" + Quoted(entry.Sentence) + "}";
 }
 
 std::string ClassJson(const TClassReference& reference) {
   return "{\"name\":" + Quoted(reference.Name) + ",\"ancestor\":" + Quoted(reference.Ancestor) +
          ",\"page\":" + QuotedOrNull(reference.Page) + ",\"unit\":" + Quoted(reference.Unit) +
+         ",\"header\":" + Quoted(reference.Header) + ",\"sentence\":" + Quoted(reference.Sentence) +
          ",\"published\":[\n    " + Joined(reference.Published, ",\n    ", EntryJson) + "]}";
 }
 

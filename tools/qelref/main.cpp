@@ -16,20 +16,26 @@ std::string PackageFile() {
 }
 
 int Usage() {
-  std::fputs("qelref --json | --markdown [PACKAGE]\n", stderr);
+  std::fputs("qelref --html | --json | --markdown | --missing [PACKAGE]\n", stderr);
   return 2;
+}
+
+/// The format of that name; null when there is none. What is missing is what has no doc comment.
+std::string (*FormatOf(const std::string& name))(const qelref::TReference&) {
+  if (name == "--html") return qelref::ToHtml;
+  if (name == "--json") return qelref::ToJson;
+  if (name == "--markdown") return qelref::ToMarkdown;
+  return name == "--missing" ? qelref::WithoutSentence : nullptr;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::string format = argc > 1 ? argv[1] : "";
-  if ((format != "--json" && format != "--markdown") || argc > 3) return Usage();
+  const auto format = FormatOf(argc > 1 ? argv[1] : "");
+  if (!format || argc > 3) return Usage();
   try {
     const vcl::TPackage package(argc > 2 ? argv[2] : PackageFile());
-    const auto reference = qelref::ReferenceOf(package);
-    const std::string text =
-        format == "--json" ? qelref::ToJson(reference) : qelref::ToMarkdown(reference);
+    const std::string text = format(qelref::ReferenceOf(package));
     if (std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0) return 1;
     return 0;
   } catch (const std::exception& error) {

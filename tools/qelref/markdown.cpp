@@ -17,16 +17,26 @@ std::string Escaped(const std::string& text) {
 std::string Row(const TEntry& entry) {
   return "| `" + entry.Name + "` | " + entry.Kind + " | `" + entry.Type + "` | " +
          (entry.Default ? "`" + Escaped(*entry.Default) + "`" : "") + " | " +
-         (entry.Stored ? "" : "no") + " |\n";
+         (entry.Stored ? "" : "no") + " | " + Escaped(entry.Sentence) + " |\n";
+}
+
+/// Which classes the palette shows of the class library says the designer, not a package.
+std::string Place(const TClassReference& reference) {
+  std::string text;
+  if (!reference.Ancestor.empty()) text = "Descends from `" + reference.Ancestor + "`. ";
+  if (reference.FromLibrary) return text + "Header `" + reference.Header + "`.";
+  text += "Unit `" + reference.Unit + "`.";
+  return text + (reference.Page ? " On the palette page \"" + *reference.Page + "\"."
+                                : " On no palette page.");
 }
 
 std::string Section(const TClassReference& reference) {
-  std::string text = "\n## " + reference.Name + "\n\nDescends from `" + reference.Ancestor +
-                     "`. Unit `" + reference.Unit + "`.";
-  text += reference.Page ? " On the palette page \"" + *reference.Page + "\".\n"
-                         : " On no palette page.\n";
+  std::string text = "\n## " + reference.Name + "\n\n";
+  if (!reference.Sentence.empty()) text += reference.Sentence + "\n\n";
+  text += Place(reference) + "\n";
   if (reference.Published.empty()) return text + "\nPublishes nothing of its own.\n";
-  text += "\n| Property | Kind | Type | Default | Stored |\n|---|---|---|---|---|\n";
+  text +=
+      "\n| Property | Kind | Type | Default | Stored | What it is |\n|---|---|---|---|---|---|\n";
   for (const TEntry& entry : reference.Published) text += Row(entry);
   return text;
 }
@@ -53,8 +63,10 @@ std::string ComponentEditorRow(const TComponentEditorReference& each) {
 
 std::string ToMarkdown(const TReference& reference) {
   std::string text =
-      "# Reference\n\nWhat the package brings into a form designer, and its classes. Printed by "
-      "`./run qelref --markdown`.\n\n## Palette\n\n| Page | Components, in order |\n|---|---|\n";
+      "# Reference\n\nWhat the package brings into a form designer, its classes, and those of the "
+      "class library. Printed by `./run qelref --markdown`; `./run reference` makes a page of it "
+      "that "
+      "can be searched.\n\n## Palette\n\n| Page | Components, in order |\n|---|---|\n";
   text += Joined(reference.Pages, "", PageRow);
   text +=
       "\n## Property editors\n\nIn the order of their registration. An editor is for the property "
@@ -68,7 +80,13 @@ std::string ToMarkdown(const TReference& reference) {
   text +=
       "\n# Classes\n\nWhat each of them declares or publishes, in declared order. A value equal to "
       "its default is not written to form files; one without a default always is.\n";
-  return text + Joined(reference.Classes, "", Section);
+  bool library = false;
+  for (const TClassReference& each : reference.Classes) {
+    if (each.FromLibrary && !library) text += "\n# Classes of the class library\n";
+    library = each.FromLibrary;
+    text += Section(each);
+  }
+  return text;
 }
 
 }  // namespace qelref

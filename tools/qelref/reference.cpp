@@ -1,8 +1,9 @@
-// Reading the reference from a package's classes, property by property.
+// Reading the reference from the classes, property by property.
 #include "tools/qelref/reference.h"
 
 #include "vcl/designintf/package.h"
 #include "vcl/designintf/registration.h"
+#include "vcl/designintf/sentences.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/valuetext.h"
 
@@ -15,21 +16,29 @@ std::string DefaultText(const vcl::TPropInfo& prop) {
   return prop.Kind() == vcl::TTypeKind::String ? vcl::FormString(text) : text;
 }
 
-TEntry EntryOf(const vcl::TPropInfo& prop) {
+TEntry EntryOf(const vcl::TClass& aClass, const vcl::TPropInfo& prop) {
   TEntry entry{prop.Name,
                std::string(vcl::KindName(prop.Kind())),
                std::string(prop.TypeName()),
                {},
-               prop.Stored != vcl::TPropInfo::TStored::Never};
+               prop.Stored != vcl::TPropInfo::TStored::Never,
+               vcl::Sentences().Of(aClass, prop.Name)};
   if (prop.DefaultValue) entry.Default = DefaultText(prop);
   return entry;
 }
 
 TClassReference ReferenceOf(const vcl::TClass& aClass) {
-  TClassReference reference{aClass.Name(), aClass.Parent()->Name(), {}, aClass.Unit(), {}};
+  TClassReference reference;
+  reference.Name = aClass.Name();
+  if (aClass.Parent()) reference.Ancestor = aClass.Parent()->Name();
+  reference.Unit = aClass.Unit();
+  reference.Header = aClass.Header();
+  reference.Sentence = vcl::Sentences().Of(aClass);
   const std::string_view page = vcl::PalettePageOf(aClass);
   if (!page.empty()) reference.Page = page;
-  for (const vcl::TPropInfo& prop : aClass.Own()) reference.Published.push_back(EntryOf(prop));
+  for (const vcl::TPropInfo& prop : aClass.Own()) {
+    reference.Published.push_back(EntryOf(aClass, prop));
+  }
   return reference;
 }
 
@@ -45,7 +54,22 @@ TReference ReferenceOf(const vcl::TPackage& package) {
   for (const vcl::TClass* each : package.Classes()) {
     reference.Classes.push_back(ReferenceOf(*each));
   }
+  for (const vcl::TClass* each : LibraryClasses()) {
+    reference.Classes.push_back(ReferenceOf(*each));
+    reference.Classes.back().FromLibrary = true;
+  }
   return reference;
+}
+
+std::string WithoutSentence(const TReference& reference) {
+  std::string names;
+  for (const TClassReference& aClass : reference.Classes) {
+    if (aClass.Sentence.empty()) names += aClass.Name + "\n";
+    for (const TEntry& entry : aClass.Published) {
+      if (entry.Sentence.empty()) names += aClass.Name + "." + entry.Name + "\n";
+    }
+  }
+  return names;
 }
 
 }  // namespace qelref

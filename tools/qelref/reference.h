@@ -6,8 +6,9 @@
 #include <vector>
 
 namespace vcl {
+class TClass;
 class TPackage;
-}
+}  // namespace vcl
 
 namespace qelref {
 
@@ -19,6 +20,8 @@ struct TEntry {
   /// What a form file would hold for the declared default; nothing when none is declared.
   std::optional<std::string> Default;
   bool Stored;
+  /// What it is; empty when no doc comment says so.
+  std::string Sentence;
 };
 
 struct TClassReference {
@@ -27,6 +30,12 @@ struct TClassReference {
   /// The palette page; nothing for a class that is on none.
   std::optional<std::string> Page;
   std::string Unit;
+  /// What code includes for the class.
+  std::string Header;
+  /// True for a class of the class library, which no package brings.
+  bool FromLibrary = false;
+  /// What it is; empty when no doc comment says so.
+  std::string Sentence;
   /// What the class itself declares or publishes, in declared order.
   std::vector<TEntry> Published;
 };
@@ -53,7 +62,8 @@ struct TComponentEditorReference {
   std::vector<std::string> Verbs;
 };
 
-/// Pages and editors in the order of their registration, classes in that of the package's list.
+/// Pages and editors in the order of their registration, classes in that of the package's list,
+/// with the class library's behind them.
 struct TReference {
   std::vector<TPageReference> Pages;
   std::vector<TPropertyEditorReference> PropertyEditors;
@@ -65,6 +75,13 @@ TReference ReferenceOf(const vcl::TPackage& package);
 /// The two lists of editors, which are asked what they offer.
 void AddEditors(TReference& reference, const vcl::TPackage& package);
 
+/// The class library's classes with a table, by name. The build writes the list
+/// (tools/doccomments).
+std::vector<const vcl::TClass*> LibraryClasses();
+/// The classes, and their properties and events, that no doc comment is found for: a line each.
+std::string WithoutSentence(const TReference& reference);
+
+std::string ToHtml(const TReference& reference);
 std::string ToJson(const TReference& reference);
 std::string ToMarkdown(const TReference& reference);
 

@@ -47,16 +47,22 @@ class VCL_API TControl : public TComponent {
   int Top() const { return FTop; }
   int Width() const { return FWidth; }
   int Height() const { return FHeight; }
+  /// The distance from the left edge of the parent's inner rectangle, in pixels.
   void SetLeft(int left) { SetBounds(left, FTop, FWidth, FHeight); }
+  /// The distance from the top edge of the parent's inner rectangle, in pixels.
   void SetTop(int top) { SetBounds(FLeft, top, FWidth, FHeight); }
+  /// The width in pixels.
   void SetWidth(int width) { SetBounds(FLeft, FTop, width, FHeight); }
+  /// The height in pixels.
   void SetHeight(int height) { SetBounds(FLeft, FTop, FWidth, height); }
   /// The four at once; a negative size is taken as 0.
   virtual void SetBounds(int left, int top, int width, int height);
   TRect BoundsRect() const { return {FLeft, FTop, FLeft + FWidth, FTop + FHeight}; }
   /// The inner rectangle; its top left is (0, 0).
   virtual TRect ClientRect() const { return {0, 0, FWidth, FHeight}; }
+  /// The width of the inner rectangle, in pixels.
   int ClientWidth() const { return ClientRect().Right; }
+  /// The height of the inner rectangle, in pixels.
   int ClientHeight() const { return ClientRect().Bottom; }
   /// Changes the size so that the inner rectangle gets the given one.
   void SetClientWidth(int width) { SetClientSize(width, ClientHeight()); }
@@ -82,6 +88,7 @@ class VCL_API TControl : public TComponent {
   bool AlignWithMargins() const { return FAlignWithMargins; }
   /// An aligned control keeps its Margins free around itself.
   void SetAlignWithMargins(bool alignWithMargins);
+  /// What an aligned control with AlignWithMargins keeps free around itself, in pixels.
   TMargins* Margins() const;
   void SetMargins(const TMargins* margins);
 
@@ -97,8 +104,10 @@ class VCL_API TControl : public TComponent {
 
   // State.
   bool Enabled() const { return FEnabled; }
+  /// False: the control takes neither the mouse nor the keyboard.
   void SetEnabled(bool enabled);
   bool Visible() const { return FVisible; }
+  /// False: the control is not shown.
   virtual void SetVisible(bool visible);
   /// True when the control is shown where its parent is: it is visible, or is being designed.
   bool Seen() const;
@@ -109,15 +118,20 @@ class VCL_API TControl : public TComponent {
 
   // Look.
   TFont* Font() const { return FFont.get(); }
+  /// The font of the control's text.
   void SetFont(const TFont* font);
   bool ParentFont() const { return FParentFont; }
+  /// True: the font is the parent's, and follows it.
   void SetParentFont(bool parentFont);
+  /// The colour of the control's surface; one of its own no longer follows its parent's.
   TColor Color() const { return FColor; }
   /// A colour of the control's own; it no longer follows its parent's.
   virtual void SetColor(TColor color);
   bool ParentColor() const { return FParentColor; }
+  /// True: the colour is the parent's, and follows it.
   void SetParentColor(bool parentColor);
   TCursor Cursor() const { return FCursor; }
+  /// The mouse's pointer over the control.
   void SetCursor(TCursor cursor);
 
   // Text.
@@ -125,6 +139,7 @@ class VCL_API TControl : public TComponent {
   std::string Text() const;
   void SetText(const std::string& text);
   std::string Caption() const { return Text(); }
+  /// The text that the control shows.
   void SetCaption(const std::string& caption) { SetText(caption); }
   /// The text's length in bytes.
   virtual int GetTextLen() const { return static_cast<int>(FText.size()); }
@@ -139,8 +154,10 @@ class VCL_API TControl : public TComponent {
   /// after it (or all) as the application's hint.
   void SetHint(const std::string& hint) { FHint = hint; }
   bool ShowHint() const { return FShowHint; }
+  /// True: the control shows its hint.
   void SetShowHint(bool showHint);
   bool ParentShowHint() const { return FParentShowHint; }
+  /// True: ShowHint is the parent's, and follows it.
   void SetParentShowHint(bool parentShowHint);
 
   // Painting.
@@ -164,8 +181,10 @@ class VCL_API TControl : public TComponent {
 
   // Drag and drop.
   TDragMode DragMode() const { return FDragMode; }
+  /// dmAutomatic: the left button drags the control; dmManual: only BeginDrag does.
   void SetDragMode(TDragMode mode) { FDragMode = mode; }
   TCursor DragCursor() const { return FDragCursor; }
+  /// The pointer while the control is dragged over what would accept it.
   void SetDragCursor(TCursor cursor) { FDragCursor = cursor; }
   /// Begins to drag the control: at once, or when the mouse has moved by `threshold` pixels with
   /// the button down (a negative one is the system's).
@@ -179,14 +198,26 @@ class VCL_API TControl : public TComponent {
 
   // Popup menu.
   TPopupMenu* PopupMenu() const { return FPopupMenu; }
+  /// The menu of a right click on the control; null for none.
   void SetPopupMenu(TPopupMenu* menu);
 
-  TNotifyEvent OnClick, OnDblClick;
-  TMouseEvent OnMouseDown, OnMouseUp;
+  /// The control was clicked, by mouse or keyboard.
+  TNotifyEvent OnClick;
+  /// The control was clicked twice.
+  TNotifyEvent OnDblClick;
+  /// A button of the mouse was pressed over the control.
+  TMouseEvent OnMouseDown;
+  /// A button of the mouse that was pressed over the control was released.
+  TMouseEvent OnMouseUp;
+  /// The mouse was moved over the control.
   TMouseMoveEvent OnMouseMove;
+  /// Something is dragged over the control: the handler says whether it may be dropped.
   TDragOverEvent OnDragOver;
+  /// Something was dropped on the control.
   TDragDropEvent OnDragDrop;
+  /// The control begins to be dragged.
   TStartDragEvent OnStartDrag;
+  /// The control is no longer dragged; with what it was dropped on, null for nothing.
   TEndDragEvent OnEndDrag;
   /// The control's size is about to change: the handler may narrow the limits, or lift them.
   TConstrainedResizeEvent OnConstrainedResize;

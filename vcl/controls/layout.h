@@ -31,12 +31,16 @@ class VCL_API TSizeConstraints : public TPersistent {
   void Assign(const TPersistent* source) override;
 
   int MaxHeight() const { return FHeight.Most; }
+  /// The greatest height in pixels, which lowers MinHeight where that is more; 0 for no limit.
   void SetMaxHeight(int height) { SetMost(FHeight, height); }
   int MaxWidth() const { return FWidth.Most; }
+  /// The greatest width in pixels, which lowers MinWidth where that is more; 0 for no limit.
   void SetMaxWidth(int width) { SetMost(FWidth, width); }
   int MinHeight() const { return FHeight.Least; }
+  /// The least height in pixels, which raises MaxHeight where there is one that is less.
   void SetMinHeight(int height) { SetLeast(FHeight, height); }
   int MinWidth() const { return FWidth.Least; }
+  /// The least width in pixels, which raises MaxWidth where there is one that is less.
   void SetMinWidth(int width) { SetLeast(FWidth, width); }
 
   /// All four by m / d, rounded; scaled back they are what they were. Without a notice.
@@ -66,12 +70,16 @@ class VCL_API TEdges : public TPersistent {
   void Assign(const TPersistent* source) override;
 
   int Left() const { return FEdges.Left; }
+  /// The distance from the left edge, in pixels.
   void SetLeft(int left) { Set(FEdges.Left, left); }
   int Top() const { return FEdges.Top; }
+  /// The distance from the top edge, in pixels.
   void SetTop(int top) { Set(FEdges.Top, top); }
   int Right() const { return FEdges.Right; }
+  /// The distance from the right edge, in pixels.
   void SetRight(int right) { Set(FEdges.Right, right); }
   int Bottom() const { return FEdges.Bottom; }
+  /// The distance from the bottom edge, in pixels.
   void SetBottom(int bottom) { Set(FEdges.Bottom, bottom); }
   /// All four at once, with one notice.
   void SetEdges(int left, int top, int right, int bottom);

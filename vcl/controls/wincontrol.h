@@ -87,6 +87,7 @@ class VCL_API TWinControl : public TControl {
   /// The place among the parent's windowed controls; -1 for a control without a parent.
   void SetTabOrder(int tabOrder);
   bool TabStop() const { return FTabStop; }
+  /// True: Tab stops at the control.
   void SetTabStop(bool tabStop);
   /// The windowed controls inside, in tab order, with those inside them.
   void GetTabOrderList(std::vector<TWinControl*>& list) const;
@@ -112,6 +113,7 @@ class VCL_API TWinControl : public TControl {
   /// parent's.
   void SetCtl3D(bool ctl3D);
   bool ParentCtl3D() const { return FParentCtl3D; }
+  /// True: Ctl3D is the parent's, and follows it.
   void SetParentCtl3D(bool parentCtl3D);
   bool DoubleBuffered() const { return FDoubleBuffered; }
   /// Paints by way of a bitmap, so that nothing half-painted is seen.
@@ -135,13 +137,26 @@ class VCL_API TWinControl : public TControl {
   /// true when it is handled. For message loops.
   bool PreprocessKey(MSG& message);
 
-  TNotifyEvent OnEnter, OnExit, OnResize;
-  TKeyEvent OnKeyDown, OnKeyUp;
+  /// The control, or one inside it, has got the focus.
+  TNotifyEvent OnEnter;
+  /// The focus has left the control and those inside it.
+  TNotifyEvent OnExit;
+  /// The control's size has changed.
+  TNotifyEvent OnResize;
+  /// A key was pressed while the control has the focus; 0 as the key leaves nothing of it.
+  TKeyEvent OnKeyDown;
+  /// A key was released while the control has the focus.
+  TKeyEvent OnKeyUp;
+  /// A character was typed while the control has the focus; 0 as the character leaves nothing of
+  /// it.
   TKeyPressEvent OnKeyPress;
   /// The wheel was turned while the control, or one inside it that left the turn to it, has the
   /// focus; OnMouseWheelDown and OnMouseWheelUp follow for each whole notch.
   TMouseWheelEvent OnMouseWheel;
-  TMouseWheelUpDownEvent OnMouseWheelDown, OnMouseWheelUp;
+  /// The wheel was turned by a notch towards the user.
+  TMouseWheelUpDownEvent OnMouseWheelDown;
+  /// The wheel was turned by a notch away from the user.
+  TMouseWheelUpDownEvent OnMouseWheelUp;
 
  protected:
   // Making the window.

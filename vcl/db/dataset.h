@@ -48,6 +48,7 @@ class VCL_API TDataSet : public TComponent {
   TFieldValue FieldValues(std::string_view name) const { return FieldByName(name)->Value(); }
   void SetFieldValues(std::string_view name, const TFieldValue& value);
   TFieldDefs* FieldDefs() const { return FFieldDefs.get(); }
+  /// The fields of the data: their names, kinds and limits.
   void SetFieldDefs(const TFieldDefs* definitions) { FFieldDefs->Assign(definitions); }
 
   /// These post what has been changed before they move.
@@ -105,12 +106,50 @@ class VCL_API TDataSet : public TComponent {
   void EnableControls();
   bool ControlsDisabled() const { return FDisableCount > 0; }
 
-  TDataSetNotifyEvent BeforeOpen, AfterOpen, BeforeClose, AfterClose;
-  TDataSetNotifyEvent BeforeInsert, AfterInsert, BeforeEdit, AfterEdit;
-  TDataSetNotifyEvent BeforePost, AfterPost, BeforeCancel, AfterCancel;
-  TDataSetNotifyEvent BeforeDelete, AfterDelete, BeforeScroll, AfterScroll;
-  TDataSetNotifyEvent BeforeRefresh, AfterRefresh, OnNewRecord;
-  TDataSetErrorEvent OnDeleteError, OnEditError, OnPostError;
+  /// Before the data set is opened.
+  TDataSetNotifyEvent BeforeOpen;
+  /// The data set has been opened.
+  TDataSetNotifyEvent AfterOpen;
+  /// Before the data set is closed.
+  TDataSetNotifyEvent BeforeClose;
+  /// The data set has been closed.
+  TDataSetNotifyEvent AfterClose;
+  /// Before a record is inserted.
+  TDataSetNotifyEvent BeforeInsert;
+  /// A record has been inserted, which is not posted yet.
+  TDataSetNotifyEvent AfterInsert;
+  /// Before the current record is edited.
+  TDataSetNotifyEvent BeforeEdit;
+  /// The current record is being edited.
+  TDataSetNotifyEvent AfterEdit;
+  /// Before the record is posted.
+  TDataSetNotifyEvent BeforePost;
+  /// The record has been posted.
+  TDataSetNotifyEvent AfterPost;
+  /// Before the changes of the record are given up.
+  TDataSetNotifyEvent BeforeCancel;
+  /// The changes of the record have been given up.
+  TDataSetNotifyEvent AfterCancel;
+  /// Before the current record is deleted.
+  TDataSetNotifyEvent BeforeDelete;
+  /// The record has been deleted.
+  TDataSetNotifyEvent AfterDelete;
+  /// Before another record becomes the current one.
+  TDataSetNotifyEvent BeforeScroll;
+  /// Another record has become the current one.
+  TDataSetNotifyEvent AfterScroll;
+  /// Before the records are read again.
+  TDataSetNotifyEvent BeforeRefresh;
+  /// The records have been read again.
+  TDataSetNotifyEvent AfterRefresh;
+  /// A record is being inserted: the handler may set its fields, which does not count as a change.
+  TDataSetNotifyEvent OnNewRecord;
+  /// Deleting a record has failed: the handler chooses what is done.
+  TDataSetErrorEvent OnDeleteError;
+  /// Beginning to edit a record has failed: the handler chooses what is done.
+  TDataSetErrorEvent OnEditError;
+  /// Posting a record has failed: the handler chooses what is done.
+  TDataSetErrorEvent OnPostError;
 
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
 

@@ -23,8 +23,10 @@ class VCL_API TDataSource : public TComponent {
   /// The data set's; dsInactive without one and while the source is not enabled.
   TDataSetState State() const;
   TDataSet* DataSet() const { return FDataSet; }
+  /// The data set whose records the controls show; null for none.
   void SetDataSet(TDataSet* dataSet);
   bool Enabled() const { return FEnabled; }
+  /// False: the controls show nothing of the data set.
   void SetEnabled(bool enabled);
   /// Typing into a control begins to edit the record.
   bool AutoEdit() const { return FAutoEdit; }
@@ -32,6 +34,7 @@ class VCL_API TDataSource : public TComponent {
   /// Edits the data set's record if AutoEdit is set.
   void Edit();
 
+  /// State is another one.
   TNotifyEvent OnStateChange;
   /// The current record or its values have changed; with the field when it is one only.
   TDataChangeEvent OnDataChange;

@@ -30,6 +30,7 @@ class VCL_API TField : public TComponent {
   const TClass& ClassType() const override { return Class(); }
 
   const std::string& FieldName() const { return FFieldName; }
+  /// The name of the field in the data.
   void SetFieldName(const std::string& fieldName);
   TFieldType DataType() const { return FDataType; }
   /// What users see in front of the value or above the column: FieldName unless it is set.
@@ -46,10 +47,13 @@ class VCL_API TField : public TComponent {
   int Size() const { return FSize; }
   void SetSize(int size) { FSize = size; }
   bool Required() const { return FRequired; }
+  /// A record without a value in the field cannot be posted.
   void SetRequired(bool required) { FRequired = required; }
   bool ReadOnly() const { return FReadOnly; }
+  /// True: the field's value cannot be changed, by code neither.
   void SetReadOnly(bool readOnly) { FReadOnly = readOnly; }
   bool Visible() const { return FVisible; }
+  /// False: grids show no column of the field.
   void SetVisible(bool visible);
   /// How many characters wide a column is.
   int DisplayWidth() const { return FDisplayWidth ? FDisplayWidth : DefaultWidth(); }
@@ -90,10 +94,13 @@ class VCL_API TField : public TComponent {
   bool HasParent() const override { return true; }
   void SetParentComponent(TComponent* parent) override;
 
+  /// A value has been written.
   TFieldNotifyEvent OnChange;
   /// Before a value is written, which the field reads as already. Raising refuses it.
   TFieldNotifyEvent OnValidate;
+  /// The field is shown or begins to be edited: the handler gives the text for its value.
   TFieldGetTextEvent OnGetText;
+  /// A text has been typed: the handler writes the value that it says.
   TFieldSetTextEvent OnSetText;
 
  protected:

@@ -17,8 +17,10 @@ class VCL_API TFieldDef : public TCollectionItem {
   const TClass& ClassType() const override { return Class(); }
 
   const std::string& Name() const { return FName; }
+  /// The field's name.
   void SetName(const std::string& name);
   TFieldType DataType() const { return FDataType; }
+  /// The kind of the field's values.
   void SetDataType(TFieldType dataType);
   /// How many characters a text may have; 0 for any number.
   int Size() const { return FSize; }
@@ -40,6 +42,7 @@ class VCL_API TFieldDef : public TCollectionItem {
   bool FReadOnly = false;
 };
 
+/// The fields of the data, in their order.
 class VCL_API TFieldDefs : public TCollection {
  public:
   TFieldDefs() : TCollection(TFieldDef::Class()) {}

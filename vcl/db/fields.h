@@ -104,6 +104,7 @@ class VCL_API TBCDField : public TFloatField {
   const TClass& ClassType() const override { return Class(); }
 };
 
+/// True or false.
 class VCL_API TBooleanField : public TField {
  public:
   explicit TBooleanField(TComponent* owner) : TField(owner, ftBoolean) {}

@@ -44,7 +44,7 @@ class VCL_API TOdbcQuery : public TDataSet {
   bool Connected() const { return FConnection != nullptr; }
   /// Raises EDatabaseError while the query is open.
   void SetConnected(bool connected);
-  /// A change closes the query.
+  /// The text that is executed; a change closes the query.
   TStrings* SQL() const { return FSQL.get(); }
   void SetSQL(const TStrings* sql) { FSQL->Assign(sql); }
   /// One for each ":name" in the SQL.

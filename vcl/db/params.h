@@ -19,8 +19,10 @@ class VCL_API TParam : public TCollectionItem {
   const TClass& ClassType() const override { return Class(); }
 
   const std::string& Name() const { return FName; }
+  /// The name behind the colon in the SQL.
   void SetName(const std::string& name) { FName = name; }
   TFieldType DataType() const { return FDataType; }
+  /// The kind of the value.
   void SetDataType(TFieldType dataType) { FDataType = dataType; }
   const TFieldValue& Value() const { return FValue; }
   bool IsNull() const { return vcl::IsNull(FValue); }
@@ -46,6 +48,7 @@ class VCL_API TParam : public TCollectionItem {
   TFieldValue FValue;
 };
 
+/// The parameters of an SQL text.
 class VCL_API TParams : public TCollection {
  public:
   TParams() : TCollection(TParam::Class()) {}

@@ -19,8 +19,10 @@ class VCL_API TDBEdit : public TCustomEdit {
   const TClass& ClassType() const override { return Class(); }
 
   const std::string& DataField() const { return FLink.FieldName(); }
+  /// The name of the field that is shown.
   void SetDataField(const std::string& name) { FLink.SetFieldName(name); }
   TDataSource* DataSource() const { return FLink.DataSource(); }
+  /// The source of the data set whose field is shown; null for none.
   void SetDataSource(TDataSource* dataSource);
   /// True: the user cannot change the field here.
   bool ReadOnly() const { return FLink.ReadOnly(); }

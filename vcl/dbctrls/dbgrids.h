@@ -17,6 +17,7 @@ class VCL_API TDBGrid : public TCustomControl {
   const TClass& ClassType() const override { return Class(); }
 
   TDataSource* DataSource() const { return FLink.DataSource(); }
+  /// The source of the data set whose records are shown; null for none.
   void SetDataSource(TDataSource* dataSource);
 
  protected:

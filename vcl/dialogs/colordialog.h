@@ -29,12 +29,14 @@ class VCL_API TColorDialog : public TCommonDialog {
   bool Execute() override;
 
   TColor Color() const { return FColor; }
+  /// The colour that is offered and then the one that is chosen.
   void SetColor(TColor color) { FColor = color; }
   /// The colours that the user has mixed, as lines "ColorA=00FF80" to "ColorP=…" whose values are
   /// blue, green and red in hexadecimal digits; others count as none.
   TStrings* CustomColors() const { return FCustomColors.get(); }
   void SetCustomColors(const TStrings* colors) { FCustomColors->Assign(colors); }
   TColorDialogOptions Options() const { return FOptions; }
+  /// How the dialog looks and which colours it offers.
   void SetOptions(TColorDialogOptions options) { FOptions = options; }
 
  private:

@@ -64,6 +64,7 @@ class VCL_API TOpenDialog : public TCommonDialog {
   /// Which of the filters is chosen, from 1.
   void SetFilterIndex(int index) { FFilterIndex = index; }
   const std::string& InitialDir() const { return FInitialDir; }
+  /// The folder that the dialog begins in; empty leaves it to the system.
   void SetInitialDir(const std::string& folder) { FInitialDir = folder; }
   const std::string& DefaultExt() const { return FDefaultExt; }
   /// What a name that is typed without an extension gets, without a dot.
@@ -71,13 +72,19 @@ class VCL_API TOpenDialog : public TCommonDialog {
   const std::string& Title() const { return FTitle; }
   /// The dialog's caption; the system's own when empty.
   void SetTitle(const std::string& title) { FTitle = title; }
+  /// How the dialog looks and what it accepts.
   TOpenOptions Options() const { return FOptions; }
   /// After Execute, ofReadOnly and ofExtensionDifferent say what the user has chosen.
   void SetOptions(TOpenOptions options) { FOptions = options; }
 
   /// The user agrees; FileName is what he has chosen. The handler may keep the dialog open.
   TCloseQueryEvent OnCanClose;
-  TNotifyEvent OnFolderChange, OnSelectionChange, OnTypeChange;
+  /// The dialog shows another folder.
+  TNotifyEvent OnFolderChange;
+  /// Another file is selected in the dialog.
+  TNotifyEvent OnSelectionChange;
+  /// Another filter is chosen in the dialog.
+  TNotifyEvent OnTypeChange;
 
  protected:
   using TFunction = BOOL(__stdcall*)(OPENFILENAMEW*);

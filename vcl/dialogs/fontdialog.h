@@ -45,13 +45,16 @@ class VCL_API TFontDialog : public TCommonDialog {
   bool Execute() override;
 
   TFont* Font() const { return FFont.get(); }
+  /// The font that is offered and then the one that is chosen.
   void SetFont(const TFont* font) { FFont->Assign(font); }
-  /// The sizes that may be chosen with fdLimitSize, in points.
+  /// The least size that may be chosen with fdLimitSize, in points.
   int MinFontSize() const { return FMinFontSize; }
   void SetMinFontSize(int points) { FMinFontSize = points; }
   int MaxFontSize() const { return FMaxFontSize; }
+  /// The greatest size that may be chosen with fdLimitSize, in points.
   void SetMaxFontSize(int points) { FMaxFontSize = points; }
   TFontDialogOptions Options() const { return FOptions; }
+  /// How the dialog looks and which fonts it offers.
   void SetOptions(TFontDialogOptions options) { FOptions = options; }
 
  private:

@@ -121,16 +121,20 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   void SetFocus() override;
 
   TBorderStyle BorderStyle() const { return FBorderStyle; }
+  /// Which border the window has, and whether the user can change its size.
   void SetBorderStyle(TBorderStyle style);
   TBorderIcons BorderIcons() const { return FBorderIcons; }
+  /// Which buttons the title bar has.
   void SetBorderIcons(TBorderIcons icons);
   TFormStyle FormStyle() const { return FFormStyle; }
   /// A form that becomes an fsMDIChild becomes visible, inside the main form. Raises
   /// EInvalidOperation when it is to have a window and the main form is no fsMDIForm.
   void SetFormStyle(TFormStyle style);
   TPosition Position() const { return FPosition; }
+  /// Where the form stands when it is shown first.
   void SetPosition(TPosition position);
   TWindowState WindowState() const;
+  /// Whether the form is minimised, maximised or neither.
   void SetWindowState(TWindowState state);
   /// The dots per inch that the measures of the form and of the controls on it are in.
   int PixelsPerInch() const { return FPixelsPerInch; }
@@ -148,8 +152,10 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   /// The form's key events come before its controls'.
   void SetKeyPreview(bool keyPreview) { FKeyPreview = keyPreview; }
   TIcon* Icon() const { return FIcon.get(); }
+  /// The icon of the window; an empty one shows the application's.
   void SetIcon(const TIcon* icon);
   TMainMenu* Menu() const { return FMenu; }
+  /// The menu bar; null for none.
   void SetMenu(TMainMenu* menu);
   TCanvas* Canvas() const;
   /// A picture of the form as it stands on the screen or would.
@@ -184,8 +190,23 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
   TRect ClientRect() const override;
 
-  TNotifyEvent OnCreate, OnDestroy, OnShow, OnHide, OnActivate, OnDeactivate, OnPaint;
+  /// The form's file has been read.
+  TNotifyEvent OnCreate;
+  /// The form is about to end.
+  TNotifyEvent OnDestroy;
+  /// The form is about to become visible.
+  TNotifyEvent OnShow;
+  /// The form is no longer visible.
+  TNotifyEvent OnHide;
+  /// The form has become the active one.
+  TNotifyEvent OnActivate;
+  /// The form is no longer the active one.
+  TNotifyEvent OnDeactivate;
+  /// The form is being painted: the handler may draw on its canvas.
+  TNotifyEvent OnPaint;
+  /// The form is being closed: the handler chooses what becomes of it.
   TCloseEvent OnClose;
+  /// The form is to be closed, which the handler may refuse.
   TCloseQueryEvent OnCloseQuery;
 
  protected:

@@ -16,6 +16,7 @@ class TControl;
 class TCustomForm;
 class TWinControl;
 
+/// The screen: its sizes, the forms and controls on it, and its pointers.
 class VCL_API TScreen : public TComponent {
  public:
   explicit TScreen(TComponent* owner);

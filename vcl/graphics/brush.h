@@ -41,10 +41,12 @@ class VCL_API TBrush : public TGraphicsObject {
   /// The handle with a share in its life, for who keeps it selected.
   std::shared_ptr<const TOwnedBrush> Share() const;
 
+  /// The colour that is filled with.
   TColor Color() const { return FColor; }
   /// Also makes a clear brush solid, as a brush that is given a colour is meant to fill.
   void SetColor(TColor color);
   TBrushStyle Style() const { return FStyle; }
+  /// The pattern that is filled with.
   void SetStyle(TBrushStyle style);
   const TBitmap* Bitmap() const { return FBitmap; }
   /// A pattern to fill with instead of colour and style; null for none. It stays the caller's and

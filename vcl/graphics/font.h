@@ -66,12 +66,16 @@ class VCL_API TFont : public TGraphicsObject {
   int Size() const;
   void SetSize(int points);
   TFontStyles Style() const { return FStyle; }
+  /// Bold, italic, underlined and struck out.
   void SetStyle(TFontStyles style);
   TColor Color() const { return FColor; }
+  /// The colour of the text.
   void SetColor(TColor color);
   TFontPitch Pitch() const { return FPitch; }
+  /// Whether all characters are equally wide.
   void SetPitch(TFontPitch pitch);
   TFontCharset Charset() const { return FCharset; }
+  /// The character set that the system looks for a face with.
   void SetCharset(TFontCharset charset);
   int PixelsPerInch() const { return FPixelsPerInch; }
   /// What points are counted with; a new font takes the screen's. Does not change Height. Raises

@@ -47,7 +47,9 @@ class VCL_API TImageList : public TComponent {
   /// The common-controls image list, which stays this list's own. Raises EOutOfResources.
   HIMAGELIST Handle() const;
   bool HandleAllocated() const { return FHandle != nullptr; }
+  /// The width of the pictures, in pixels; a change empties the list.
   int Width() const { return FWidth; }
+  /// The height of the pictures, in pixels; a change empties the list.
   int Height() const { return FHeight; }
   /// Change the size and empty the list. Raise EInvalidOperation for less than 1 or more than
   /// 32767.

@@ -54,14 +54,17 @@ class VCL_API TPen : public TGraphicsObject {
   std::shared_ptr<const TOwnedPen> Share() const;
 
   TColor Color() const { return FColor; }
+  /// The colour of the lines.
   void SetColor(TColor color);
   int Width() const { return FWidth; }
   /// In pixels; a negative width is not taken. Dashes and dots need a width of at most 1, above
   /// which the system draws solid lines.
   void SetWidth(int width);
   TPenStyle Style() const { return FStyle; }
+  /// Whether lines are solid, dashed or dotted.
   void SetStyle(TPenStyle style);
   TPenMode Mode() const { return FMode; }
+  /// How a line's colour and what it is drawn over are combined.
   void SetMode(TPenMode mode);
 
   bool operator==(const TPen& other) const;

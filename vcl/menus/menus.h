@@ -44,21 +44,28 @@ class VCL_API TMenuItem : public TComponent {
   /// "-" is a separating line; "&" marks the letter that chooses the item.
   void SetCaption(const std::string& caption);
   bool Checked() const { return FChecked; }
+  /// The item has a check mark.
   void SetChecked(bool checked);
   bool Default() const { return FDefault; }
+  /// The item is the menu's default, shown in bold; one of a menu is.
   void SetDefault(bool isDefault);
   bool Enabled() const { return FEnabled; }
+  /// False greys the item, which then cannot be chosen.
   void SetEnabled(bool enabled);
   bool Visible() const { return FVisible; }
+  /// False leaves the item out of the menu.
   void SetVisible(bool visible);
   bool RadioItem() const { return FRadioItem; }
+  /// The item is one of a group of which one is checked.
   void SetRadioItem(bool radioItem);
   int GroupIndex() const { return FGroupIndex; }
   /// Checking one radio item unchecks the others of its group in the menu.
   void SetGroupIndex(int groupIndex);
   TShortCut ShortCut() const { return FShortCut; }
+  /// The key that chooses the item without the menu; scNone for none.
   void SetShortCut(TShortCut shortCut);
   const std::string& Hint() const { return FHint; }
+  /// The text that the application shows as its hint while the item is selected.
   void SetHint(const std::string& hint) { FHint = hint; }
 
   int Count() const { return static_cast<int>(FItems.size()); }
@@ -91,6 +98,7 @@ class VCL_API TMenuItem : public TComponent {
   bool HasParent() const override { return true; }
   void SetParentComponent(TComponent* parent) override;
 
+  /// The item has been chosen, or its submenu is about to open.
   TNotifyEvent OnClick;
 
  private:
@@ -123,6 +131,7 @@ class VCL_API TMenuItem : public TComponent {
   HMENU FHandle = nullptr;
 };
 
+/// Base of the menus.
 class VCL_API TMenu : public TComponent {
  public:
   explicit TMenu(TComponent* owner);
@@ -194,6 +203,7 @@ class VCL_API TPopupMenu : public TMenu {
   /// Comes up by itself when a control with this menu is right-clicked.
   void SetAutoPopup(bool autoPopup) { FAutoPopup = autoPopup; }
 
+  /// The menu is about to come up.
   TNotifyEvent OnPopup;
 
  protected:

@@ -132,21 +132,30 @@ class VCL_API TClientSocket : public TComponent {
   const std::string& Address() const { return FAddress; }
   void SetAddress(const std::string& address);
   const std::string& Host() const { return FHost; }
+  /// The host's name.
   void SetHost(const std::string& host);
+  /// The port to connect to, from 0 to 65535.
   int Port() const { return FPort; }
   /// Raises ESocketError outside 0 to 65535.
   void SetPort(int port);
   /// A service's name, such as "smtp"; used instead of the port when it is not empty.
   const std::string& Service() const { return FService; }
   void SetService(const std::string& service);
+  /// ctBlocking: another kind raises ESocketError.
   TClientType ClientType() const { return ctBlocking; }
   /// Sockets here are blocking ones: ctNonBlocking raises ESocketError.
   void SetClientType(TClientType clientType);
 
+  /// Before the host's address is looked up.
   TSocketNotifyEvent OnLookup;
+  /// Before the connection is made.
   TSocketNotifyEvent OnConnecting;
+  /// The connection has been made.
   TSocketNotifyEvent OnConnect;
+  /// The connection is being closed.
   TSocketNotifyEvent OnDisconnect;
+  /// The connection could not be made: the handler may take the error code as dealt with by setting
+  /// it to 0.
   TSocketErrorEvent OnError;
 
  protected:

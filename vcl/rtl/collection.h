@@ -13,6 +13,7 @@ namespace vcl {
 
 class TCollection;
 
+/// An item of a collection.
 class VCL_API TCollectionItem : public TPersistent {
  public:
   /// Joins the collection at its end; null for an item of no collection.
@@ -46,6 +47,7 @@ class VCL_API TCollectionItem : public TPersistent {
   std::unique_ptr<TKeptData> FKept;
 };
 
+/// A list of items of one class, which it owns.
 class VCL_API TCollection : public TPersistent {
  public:
   /// A collection whose items are of the class. Raises EArgumentOutOfRangeException when instances

@@ -45,6 +45,7 @@ class VCL_API TComponent : public TPersistent, public TWatched {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
+  /// The component's name, by which code and form files know it; unique among its owner's.
   const std::string& Name() const { return FName; }
   /// Raises EComponentError for a text that is no identifier or a name that another component of
   /// the owner has, compared without case. An empty name is allowed and may stand many times.

@@ -9,6 +9,7 @@ class TFiler;
 class TReader;
 class TWriter;
 
+/// What can be copied from another object, and published in form files.
 class VCL_API TPersistent : public TObject {
  public:
   static const TClass& Class();

@@ -61,6 +61,7 @@ class VCL_API TCustomMemoryStream : public TStream {
   std::int64_t FPosition = 0;
 };
 
+/// Bytes in memory.
 class VCL_API TMemoryStream : public TCustomMemoryStream {
  public:
   static const TClass& Class();
@@ -101,6 +102,7 @@ inline constexpr int fmShareDenyRead = 0x30;
 inline constexpr int fmShareDenyNone = 0x40;
 inline constexpr int fmCreate = 0xFF00;
 
+/// The bytes of a file.
 class VCL_API TFileStream : public TStream {
  public:
   /// Opens the file, or makes it anew with fmCreate. Raises EFOpenError resp. EFCreateError with

@@ -91,6 +91,7 @@ enum TDuplicates { dupIgnore, dupAccept, dupError };
 template <>
 inline constexpr TEnumText EnumText<TDuplicates>{"TDuplicates", "dupIgnore dupAccept dupError"};
 
+/// A list of texts that keeps them itself, sorted if wished.
 class VCL_API TStringList : public TStrings {
  public:
   static const TClass& Class();

@@ -13,6 +13,7 @@ template <>
 inline constexpr TEnumText EnumText<TBevelShape>{
     "TBevelShape", "bsBox bsFrame bsTopLine bsBottomLine bsLeftLine bsRightLine bsSpacer"};
 
+/// A line or frame between controls.
 class VCL_API TBevel : public TGraphicControl {
  public:
   explicit TBevel(TComponent* owner);
@@ -20,8 +21,10 @@ class VCL_API TBevel : public TGraphicControl {
   const TClass& ClassType() const override { return Class(); }
 
   TBevelShape Shape() const { return FShape; }
+  /// Which line or frame is drawn; bsSpacer draws none.
   void SetShape(TBevelShape shape);
   TBevelStyle Style() const { return FStyle; }
+  /// Whether the line or frame looks sunk or raised.
   void SetStyle(TBevelStyle style);
 
  protected:

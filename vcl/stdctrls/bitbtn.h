@@ -34,16 +34,22 @@ class VCL_API TBitBtn : public TButton {
   const TClass& ClassType() const override { return Class(); }
 
   TBitmap* Glyph() const { return FFace.Glyph(); }
+  /// A row of images, one for each state of the button.
   void SetGlyph(const TBitmap* glyph) { FFace.SetGlyph(glyph); }
   TNumGlyphs NumGlyphs() const { return FFace.NumGlyphs(); }
+  /// The number of images in the glyph, from 1 to 4.
   void SetNumGlyphs(TNumGlyphs count) { FFace.SetNumGlyphs(count); }
   TButtonLayout Layout() const { return FFace.Layout(); }
+  /// The side of the caption on which the glyph stands.
   void SetLayout(TButtonLayout layout) { FFace.SetLayout(layout); }
   int Margin() const { return FFace.Margin(); }
+  /// Pixels from the button's edge to the glyph; -1 puts glyph and caption into the middle.
   void SetMargin(int margin) { FFace.SetMargin(margin); }
   int Spacing() const { return FFace.Spacing(); }
+  /// Pixels between glyph and caption; -1 spreads them.
   void SetSpacing(int spacing) { FFace.SetSpacing(spacing); }
-  /// bkCustom as soon as the button differs in glyph, answer or keys from what its kind makes it.
+  /// Which of the usual buttons it is; bkCustom as soon as it differs in glyph, answer or keys from
+  /// that.
   TBitBtnKind Kind() const;
   /// Gives the button the kind's caption, glyph, ModalResult, Default and Cancel; bkCustom changes
   /// nothing. A caption that is read from a form file stays.

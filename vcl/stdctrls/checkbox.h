@@ -25,8 +25,10 @@ class VCL_API TCustomCheckBox : public TButtonControl {
   /// True: the user goes through three states.
   void SetAllowGrayed(bool allow) { FAllowGrayed = allow; }
   bool Checked() const { return FState == cbChecked; }
+  /// The box is checked.
   void SetChecked(bool checked) { SetState(checked ? cbChecked : cbUnchecked); }
   TCheckBoxState State() const { return FState; }
+  /// Whether the box is unchecked, checked or greyed.
   void SetState(TCheckBoxState state);
 
  protected:
@@ -43,6 +45,7 @@ class VCL_API TCustomCheckBox : public TButtonControl {
   TCheckBoxState FState = cbUnchecked;
 };
 
+/// A check box for forms.
 class VCL_API TCheckBox : public TCustomCheckBox {
  public:
   explicit TCheckBox(TComponent* owner) : TCustomCheckBox(owner) {}
@@ -57,10 +60,12 @@ class VCL_API TRadioButton : public TButtonControl {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
+  /// The side of the button on which the caption stands: taLeftJustify or taRightJustify.
   TAlignment Alignment() const { return FAlignment; }
   /// As TCustomCheckBox::SetAlignment.
   void SetAlignment(TAlignment alignment);
   bool Checked() const { return FChecked; }
+  /// The button is the chosen one of those in its parent.
   void SetChecked(bool checked);
 
  protected:

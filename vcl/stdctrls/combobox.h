@@ -27,6 +27,7 @@ class VCL_API TCustomComboBox : public TCustomListControl {
   const TClass& ClassType() const override { return Class(); }
 
   TComboBoxStyle Style() const { return FStyle; }
+  /// Whether there is an edit, and where the list is.
   void SetStyle(TComboBoxStyle style);
   int DropDownCount() const { return FDropDownCount; }
   /// How many items are seen at most when the list is down. Raises EArgumentOutOfRangeException for
@@ -52,7 +53,12 @@ class VCL_API TCustomComboBox : public TCustomListControl {
   /// Without an edit, the text selects the item that is equal to it but for case, or none.
   void SetTextBuf(const char* text) override;
 
-  TNotifyEvent OnChange, OnDropDown, OnCloseUp;
+  /// The text has changed.
+  TNotifyEvent OnChange;
+  /// The list is about to drop down.
+  TNotifyEvent OnDropDown;
+  /// The list has closed.
+  TNotifyEvent OnCloseUp;
 
  protected:
   virtual void Change();
@@ -84,6 +90,7 @@ class VCL_API TCustomComboBox : public TCustomListControl {
   const TMessage* FEditMessage = nullptr;
 };
 
+/// A combo box for forms.
 class VCL_API TComboBox : public TCustomComboBox {
  public:
   explicit TComboBox(TComponent* owner) : TCustomComboBox(owner) {}

@@ -26,12 +26,15 @@ class VCL_API TCustomEdit : public TWinControl {
   bool AutoSize() const { return FAutoSize; }
   /// True: the height follows the font.
   void SetAutoSize(bool autoSize);
+  /// bsSingle for a border, bsNone for none.
   TBorderStyle BorderStyle() const { return FBorderStyle; }
   /// Takes bsNone and bsSingle; raises EArgumentOutOfRangeException for the others.
   void SetBorderStyle(TBorderStyle style);
   TEditCharCase CharCase() const { return FCharCase; }
+  /// Whether what is typed becomes capital or small letters.
   void SetCharCase(TEditCharCase charCase);
   bool HideSelection() const { return FHideSelection; }
+  /// True: the selection is seen only while the edit has the focus.
   void SetHideSelection(bool hide);
   int MaxLength() const { return FMaxLength; }
   /// The most that can be typed; 0 for no limit. Text set by code may be longer. Raises
@@ -42,6 +45,7 @@ class VCL_API TCustomEdit : public TWinControl {
   /// character beyond the basic plane, which the system's edit cannot show.
   void SetPasswordChar(char32_t character);
   bool ReadOnly() const { return FReadOnly; }
+  /// True: the user cannot change the text.
   void SetReadOnly(bool readOnly);
 
   /// True when the user has changed the text since it was set.
@@ -102,6 +106,7 @@ class VCL_API TCustomEdit : public TWinControl {
   TRange FSelection;  // While there is no window.
 };
 
+/// An edit for forms, of one line.
 class VCL_API TEdit : public TCustomEdit {
  public:
   explicit TEdit(TComponent* owner) : TCustomEdit(owner) {}

@@ -19,6 +19,7 @@ class VCL_API TCustomGroupBox : public TCustomControl {
   void Dispatch(TMessage& message) override;
 };
 
+/// A frame with a caption around controls.
 class VCL_API TGroupBox : public TCustomGroupBox {
  public:
   explicit TGroupBox(TComponent* owner) : TCustomGroupBox(owner) {}

@@ -17,6 +17,7 @@ class VCL_API TImage : public TGraphicControl {
   const TClass& ClassType() const override { return Class(); }
 
   TPicture* Picture() const { return FPicture.get(); }
+  /// The picture that is shown.
   void SetPicture(const TPicture* picture) { FPicture->Assign(picture); }
   bool AutoSize() const { return FAutoSize; }
   /// The control takes the picture's size.

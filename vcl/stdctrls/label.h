@@ -20,12 +20,16 @@ class VCL_API TCustomLabel : public TGraphicControl {
   const TClass& ClassType() const override { return Class(); }
 
   TAlignment Alignment() const { return FAlignment; }
+  /// Where the text stands between left and right.
   void SetAlignment(TAlignment alignment);
   bool AutoSize() const { return FAutoSize; }
+  /// True: the label's size follows its text.
   virtual void SetAutoSize(bool autoSize);
   TWinControl* FocusControl() const { return FFocusControl; }
+  /// The control that the accelerator takes the focus to; null for none.
   void SetFocusControl(TWinControl* control);
   TTextLayout Layout() const { return FLayout; }
+  /// Where the text stands between top and bottom.
   void SetLayout(TTextLayout layout);
   bool ShowAccelChar() const { return FShowAccelChar; }
   /// False: "&" is an ampersand like any other.
@@ -34,6 +38,7 @@ class VCL_API TCustomLabel : public TGraphicControl {
   /// True: what is behind the label shows between the letters.
   void SetTransparent(bool transparent);
   bool WordWrap() const { return FWordWrap; }
+  /// True: lines that are too long go on in the next row.
   void SetWordWrap(bool wordWrap);
 
  protected:
@@ -60,6 +65,7 @@ class VCL_API TCustomLabel : public TGraphicControl {
   TWinControl* FFocusControl = nullptr;
 };
 
+/// A label for forms.
 class VCL_API TLabel : public TCustomLabel {
  public:
   explicit TLabel(TComponent* owner) : TCustomLabel(owner) {}

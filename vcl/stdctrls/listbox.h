@@ -17,6 +17,7 @@ class VCL_API TCustomListBox : public TCustomListControl {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
+  /// bsSingle for a border, bsNone for none.
   TBorderStyle BorderStyle() const { return FBorderStyle; }
   /// Takes bsNone and bsSingle; raises EArgumentOutOfRangeException for the others.
   void SetBorderStyle(TBorderStyle style);
@@ -27,8 +28,10 @@ class VCL_API TCustomListBox : public TCustomListControl {
   /// True: the height shrinks to whole items.
   void SetIntegralHeight(bool integral);
   bool MultiSelect() const { return FMultiSelect; }
+  /// True: several items can be selected at once.
   void SetMultiSelect(bool multiSelect);
   TListBoxStyle Style() const { return FStyle; }
+  /// Whether the system or OnDrawItem draws the items.
   void SetStyle(TListBoxStyle style);
 
   int ItemIndex() const override;
@@ -69,6 +72,7 @@ class VCL_API TCustomListBox : public TCustomListControl {
   int FTopIndex = 0;
 };
 
+/// A list box for forms.
 class VCL_API TListBox : public TCustomListBox {
  public:
   explicit TListBox(TComponent* owner) : TCustomListBox(owner) {}

@@ -29,6 +29,7 @@ class VCL_API TCustomListControl : public TWinControl {
   const TClass& ClassType() const override { return Class(); }
 
   TStrings* Items() const;
+  /// The texts of the list, with an object beside each.
   void SetItems(const TStrings* items);
   /// The selected item, of several the one with the focus; -1 for none.
   virtual int ItemIndex() const;
@@ -47,6 +48,7 @@ class VCL_API TCustomListControl : public TWinControl {
   /// The canvas to draw an item on, in OnDrawItem.
   TCanvas* Canvas() const;
 
+  /// An item is to be drawn, in lists that draw their items themselves.
   TDrawItemEvent OnDrawItem;
 
  protected:

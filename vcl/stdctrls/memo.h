@@ -15,6 +15,7 @@ template <>
 inline constexpr TEnumText EnumText<TScrollStyle>{"TScrollStyle",
                                                   "ssNone ssHorizontal ssVertical ssBoth"};
 
+/// An edit of several lines.
 class VCL_API TCustomMemo : public TCustomEdit {
  public:
   explicit TCustomMemo(TComponent* owner);
@@ -23,12 +24,14 @@ class VCL_API TCustomMemo : public TCustomEdit {
   const TClass& ClassType() const override { return Class(); }
 
   TAlignment Alignment() const { return FAlignment; }
+  /// Where the lines stand between left and right.
   void SetAlignment(TAlignment alignment);
   /// The lines of the text as its ends of line divide it; where WordWrap breaks a line for show
   /// does not count. Lines carry no objects: setting one raises EInvalidOperation.
   TStrings* Lines() const;
   void SetLines(const TStrings* lines);
   TScrollStyle ScrollBars() const { return FScrollBars; }
+  /// Which scroll bars there are.
   void SetScrollBars(TScrollStyle scrollBars);
   bool WantReturns() const { return FWantReturns; }
   /// False: Enter goes to the form's default button; Ctrl+Enter begins a line.
@@ -58,6 +61,7 @@ class VCL_API TCustomMemo : public TCustomEdit {
   bool FWordWrap = true;
 };
 
+/// An edit of several lines, for forms.
 class VCL_API TMemo : public TCustomMemo {
  public:
   explicit TMemo(TComponent* owner) : TCustomMemo(owner) {}

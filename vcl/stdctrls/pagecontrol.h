@@ -25,6 +25,7 @@ class VCL_API TPageControl : public TWinControl {
   int PageCount() const { return static_cast<int>(FPages.size()); }
   /// The page at the index from 0, tab or not. Raises EListError outside.
   TTabSheet* Pages(int index) const;
+  /// The page in front; null for none.
   TTabSheet* ActivePage() const { return FActivePage; }
   /// Shows the page; null for none. Raises EInvalidOperation for a page of another page control.
   void SetActivePage(TTabSheet* page);
@@ -44,7 +45,9 @@ class VCL_API TPageControl : public TWinControl {
 
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
 
+  /// The user has brought another page to the front.
   TNotifyEvent OnChange;
+  /// The user is about to leave the page, which the handler may refuse.
   TTabChangingEvent OnChanging;
 
  protected:
@@ -104,7 +107,10 @@ class VCL_API TTabSheet : public TWinControl {
   /// The place among the tabs; -1 without one.
   int TabIndex() const;
 
-  TNotifyEvent OnShow, OnHide;
+  /// The page has become visible.
+  TNotifyEvent OnShow;
+  /// The page is no longer visible.
+  TNotifyEvent OnHide;
 
  protected:
   void Dispatch(TMessage& message) override;

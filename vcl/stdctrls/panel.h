@@ -13,6 +13,7 @@ inline constexpr TEnumText EnumText<TPanelBevel>{"TPanelBevel", "bvNone bvLowere
 /// bottom and right, and shrinks the rectangle to what is inside.
 VCL_API void Frame3D(TCanvas* canvas, TRect& rect, TColor topColor, TColor bottomColor, int width);
 
+/// A surface with bevels that other controls stand on.
 class VCL_API TCustomPanel : public TCustomControl {
  public:
   explicit TCustomPanel(TComponent* owner);
@@ -20,10 +21,13 @@ class VCL_API TCustomPanel : public TCustomControl {
   const TClass& ClassType() const override { return Class(); }
 
   TAlignment Alignment() const { return FAlignment; }
+  /// Where the caption stands between left and right.
   void SetAlignment(TAlignment alignment);
   TPanelBevel BevelInner() const { return FBevelInner; }
+  /// The bevel around the surface.
   void SetBevelInner(TPanelBevel bevel);
   TPanelBevel BevelOuter() const { return FBevelOuter; }
+  /// The bevel along the panel's edge.
   void SetBevelOuter(TPanelBevel bevel);
   int BevelWidth() const { return FBevelWidth; }
   /// Pixels of each bevel. Raises EArgumentOutOfRangeException for less than 1.
@@ -31,6 +35,7 @@ class VCL_API TCustomPanel : public TCustomControl {
   int BorderWidth() const { return FBorderWidth; }
   /// Pixels between the bevels. Raises EArgumentOutOfRangeException for a negative width.
   void SetBorderWidth(int width);
+  /// bsSingle for a border around the bevels, bsNone for none.
   TBorderStyle BorderStyle() const { return FBorderStyle; }
   /// Takes bsNone and bsSingle; raises EArgumentOutOfRangeException for the others.
   void SetBorderStyle(TBorderStyle style);
@@ -57,6 +62,7 @@ class VCL_API TCustomPanel : public TCustomControl {
   int FBorderWidth = 0;
 };
 
+/// A panel for forms.
 class VCL_API TPanel : public TCustomPanel {
  public:
   explicit TPanel(TComponent* owner) : TCustomPanel(owner) {}

@@ -19,6 +19,7 @@ class VCL_API TSpeedButton : public TGraphicControl {
   bool AllowAllUp() const { return FAllowAllUp; }
   /// True lets a click take the group's button that is down up again. Holds for the whole group.
   void SetAllowAllUp(bool allow);
+  /// Buttons of one group, in one parent, take each other up; 0 is no group.
   int GroupIndex() const { return FGroupIndex; }
   /// 0 is no group.
   void SetGroupIndex(int group);
@@ -34,14 +35,19 @@ class VCL_API TSpeedButton : public TGraphicControl {
   void SetTransparent(bool transparent);
 
   TBitmap* Glyph() const { return FFace.Glyph(); }
+  /// A row of images, one for each state of the button.
   void SetGlyph(const TBitmap* glyph) { FFace.SetGlyph(glyph); }
   TNumGlyphs NumGlyphs() const { return FFace.NumGlyphs(); }
+  /// The number of images in the glyph, from 1 to 4.
   void SetNumGlyphs(TNumGlyphs count) { FFace.SetNumGlyphs(count); }
   TButtonLayout Layout() const { return FFace.Layout(); }
+  /// The side of the caption on which the glyph stands.
   void SetLayout(TButtonLayout layout) { FFace.SetLayout(layout); }
   int Margin() const { return FFace.Margin(); }
+  /// Pixels from the button's edge to the glyph; -1 puts glyph and caption into the middle.
   void SetMargin(int margin) { FFace.SetMargin(margin); }
   int Spacing() const { return FFace.Spacing(); }
+  /// Pixels between glyph and caption; -1 spreads them.
   void SetSpacing(int spacing) { FFace.SetSpacing(spacing); }
   /// Fires OnClick.
   void Click() override;

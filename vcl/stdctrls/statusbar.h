@@ -14,6 +14,7 @@ template <>
 inline constexpr TEnumText EnumText<TStatusPanelBevel>{"TStatusPanelBevel",
                                                        "pbNone pbLowered pbRaised"};
 
+/// A panel of a status bar.
 class VCL_API TStatusPanel : public TCollectionItem {
  public:
   explicit TStatusPanel(TCollection* collection) : TCollectionItem(collection) {}
@@ -23,10 +24,13 @@ class VCL_API TStatusPanel : public TCollectionItem {
   std::string DisplayName() const override;
 
   TAlignment Alignment() const { return FAlignment; }
+  /// Where the text stands in the panel.
   void SetAlignment(TAlignment alignment);
   TStatusPanelBevel Bevel() const { return FBevel; }
+  /// Whether the panel looks sunk, raised or flat.
   void SetBevel(TStatusPanelBevel bevel);
   const std::string& Text() const { return FText; }
+  /// What the panel shows.
   void SetText(const std::string& text);
   int Width() const { return FWidth; }
   /// In pixels; the last panel takes what is left. A negative width is taken as 0.
@@ -61,11 +65,13 @@ class VCL_API TStatusBar : public TWinControl {
   const TClass& ClassType() const override { return Class(); }
 
   TStatusPanels* Panels() const { return FPanels.get(); }
+  /// The panels, from left to right.
   void SetPanels(const TCollection* panels) { FPanels->Assign(panels); }
   bool SimplePanel() const { return FSimplePanel; }
   /// True: SimpleText takes the whole bar, and the panels are hidden.
   void SetSimplePanel(bool simple);
   const std::string& SimpleText() const { return FSimpleText; }
+  /// What the bar shows with SimplePanel.
   void SetSimpleText(const std::string& text);
   bool SizeGrip() const { return FSizeGrip; }
   /// A corner to drag the form's size with.

@@ -18,11 +18,13 @@ class VCL_API TTimer : public TComponent {
   const TClass& ClassType() const override { return Class(); }
 
   bool Enabled() const { return FEnabled; }
+  /// False stops the timer.
   void SetEnabled(bool enabled);
   std::uint32_t Interval() const { return FInterval; }
   /// Milliseconds; 0 stops the timer. A new interval begins to count from now.
   void SetInterval(std::uint32_t interval);
 
+  /// An interval is over.
   TNotifyEvent OnTimer;
 
  protected:

@@ -21,8 +21,11 @@ class VCL_API TTrackBar : public TWinControl {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
+  /// The least position.
   int Min() const { return FMin; }
+  /// The greatest position.
   int Max() const { return FMax; }
+  /// Where the slider stands; outside the bounds it is taken as the nearer bound.
   int Position() const { return FPosition; }
   /// The bounds move the position inside. Raise EArgumentOutOfRangeException when the least would
   /// be more than the greatest, or so far below that an int does not hold the way.
@@ -41,10 +44,13 @@ class VCL_API TTrackBar : public TWinControl {
   /// The distance of the ticks.
   void SetFrequency(int frequency);
   TTrackBarOrientation Orientation() const { return FOrientation; }
+  /// Whether the slider moves sideways or up and down.
   void SetOrientation(TTrackBarOrientation orientation);
   TTickStyle TickStyle() const { return FTickStyle; }
+  /// tsAuto draws ticks, tsNone none.
   void SetTickStyle(TTickStyle style);
 
+  /// Position has changed, by the user or by code.
   TNotifyEvent OnChange;
 
  protected:

@@ -38,6 +38,7 @@ class VCL_API TCustomTreeView : public TWinControl {
   const TClass& ClassType() const override { return Class(); }
 
   TTreeNodes* Items() const { return FItems.get(); }
+  /// The nodes.
   void SetItems(const TTreeNodes* items) { FItems->Assign(items); }
   /// The selected node; null for none.
   TTreeNode* Selected() const { return FSelected; }
@@ -58,6 +59,7 @@ class VCL_API TCustomTreeView : public TWinControl {
   /// Orders all nodes by OnCompare, or by their texts without it.
   void AlphaSort();
 
+  /// bsSingle for a border, bsNone for none.
   TBorderStyle BorderStyle() const { return FBorderStyle; }
   /// Takes bsNone and bsSingle; raises EArgumentOutOfRangeException for the others.
   void SetBorderStyle(TBorderStyle style);
@@ -65,8 +67,10 @@ class VCL_API TCustomTreeView : public TWinControl {
   /// True: the selection is seen only while the tree has the focus.
   void SetHideSelection(bool hide);
   TImageList* Images() const { return FImages.List; }
+  /// The pictures beside the texts; null for none.
   void SetImages(TImageList* images);
   TImageList* StateImages() const { return FStateImages.List; }
+  /// The pictures that show the nodes' states; null for none.
   void SetStateImages(TImageList* images);
   int Indent() const { return FIndent; }
   /// How far children stand from their parent, in pixels; the system keeps a least value.
@@ -78,8 +82,10 @@ class VCL_API TCustomTreeView : public TWinControl {
   /// True: the right button, too, selects the node that it is pressed on.
   void SetRightClickSelect(bool select) { FRightClickSelect = select; }
   bool ShowButtons() const { return FShowButtons; }
+  /// True: nodes with children have a button that expands and collapses them.
   void SetShowButtons(bool show);
   bool ShowLines() const { return FShowLines; }
+  /// True: lines lead from parents to children.
   void SetShowLines(bool show);
   bool ShowRoot() const { return FShowRoot; }
   /// False: no lines and buttons on the top level.
@@ -88,10 +94,32 @@ class VCL_API TCustomTreeView : public TWinControl {
   /// Orders the nodes, and keeps them so.
   void SetSortType(TSortType type);
 
-  /// What these answer the window may be waiting for: they may delete nodes, but not free the tree.
-  TTVAllowEvent OnChanging, OnExpanding, OnCollapsing, OnEditing;
-  TTVNodeEvent OnChange, OnExpanded, OnCollapsed, OnDeletion, OnGetImageIndex, OnGetSelectedIndex;
+  // What the first four answer the window may be waiting for: they may delete nodes, but not free
+  // the tree.
+
+  /// Another node is about to be selected, which the handler may refuse.
+  TTVAllowEvent OnChanging;
+  /// A node is about to be expanded, which the handler may refuse.
+  TTVAllowEvent OnExpanding;
+  /// A node is about to be collapsed, which the handler may refuse.
+  TTVAllowEvent OnCollapsing;
+  /// The user is about to edit a node's text, which the handler may refuse.
+  TTVAllowEvent OnEditing;
+  /// Another node has been selected; null for none.
+  TTVNodeEvent OnChange;
+  /// A node has been expanded.
+  TTVNodeEvent OnExpanded;
+  /// A node has been collapsed.
+  TTVNodeEvent OnCollapsed;
+  /// A node is being deleted.
+  TTVNodeEvent OnDeletion;
+  /// A node's picture is about to be shown: the handler sets its ImageIndex.
+  TTVNodeEvent OnGetImageIndex;
+  /// The picture of a node while it is selected is asked for: the handler sets its SelectedIndex.
+  TTVNodeEvent OnGetSelectedIndex;
+  /// The user has edited a node's text, which the handler may change.
   TTVEditedEvent OnEdited;
+  /// Two nodes are compared to be ordered.
   TTVCompareEvent OnCompare;
 
  protected:
@@ -199,6 +227,7 @@ class VCL_API TCustomTreeView : public TWinControl {
   bool FDragWanted = false;     // The mouse moved with the button down, on a node.
 };
 
+/// A tree view for forms.
 class VCL_API TTreeView : public TCustomTreeView {
  public:
   explicit TTreeView(TComponent* owner) : TCustomTreeView(owner) {}
