@@ -2,6 +2,7 @@
 #include "vcl/forms/standardclasses.h"
 
 #include "vcl/dialogs/dialogs.h"
+#include "vcl/forms/frames.h"
 #include "vcl/graphics/imagelist.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/classregistry.h"
@@ -23,7 +24,7 @@ void RegisterStandardClasses() {
                      &TPanel::Class(),      &TPopupMenu::Class(),   &TRadioButton::Class(),
                      &TSaveDialog::Class(), &TSpeedButton::Class(), &TStatusBar::Class(),
                      &TTabSheet::Class(),   &TTimer::Class(),       &TTrackBar::Class(),
-                     &TTreeView::Class()});
+                     &TTreeView::Class(),   &TFrame::Class()});
     return true;
   }();
   static_cast<void>(done);

@@ -90,6 +90,7 @@ class VCL_API TMenuItem : public TComponent {
   TComponent* GetParentComponent() const override;
   bool HasParent() const override { return true; }
   void SetParentComponent(TComponent* parent) override;
+  void SetChildOrder(TComponent* child, int order) override;
 
   TNotifyEvent OnClick;
 
@@ -145,6 +146,7 @@ class VCL_API TMenu : public TComponent {
   /// the message was of this menu.
   bool HandleMessage(const TMessage& message);
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
+  void SetChildOrder(TComponent* child, int order) override;
 
  protected:
   friend class TMenuItem;

@@ -43,6 +43,7 @@ class VCL_API TPageControl : public TWinControl {
   TTabSheet* PageAtPos(TPoint position) const;
 
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
+  void SetChildOrder(TComponent* child, int order) override;
 
   TNotifyEvent OnChange;
   TTabChangingEvent OnChanging;
