@@ -128,8 +128,8 @@ TEST_F(FormErrors, NameLineComponentAndProperty) {
 
 TEST_F(FormErrors, NameTheLineOfAMalformedText) {
   const TErrorCase cases[] = {
-      {"", "Line 1: 'object' or 'inherited' is expected, but the text ends"},
-      {"Hello", "Line 1: 'object' or 'inherited' is expected, not 'Hello'"},
+      {"", "Line 1: 'object', 'inherited' or 'inline' is expected, but the text ends"},
+      {"Hello", "Line 1: 'object', 'inherited' or 'inline' is expected, not 'Hello'"},
       {"object", "a component's name is expected"},
       {"object A: 5", "a class name is expected, not '5'"},
       {"object A: TPart", "a property or 'end' is expected, but the text ends"},

@@ -154,7 +154,8 @@ TEST_F(FormFile, HoldsOnlyWhatDiffersFromTheDefault) {
 
 TEST_F(FormFile, KnowsSystemColoursByEitherNumber) {
   for (const char* number : {"-2147483633", "$8000000F", "-16777201", "$FF00000F", "clBtnFace"}) {
-    const auto part = LoadForm(Concat("object P: TPart Color = ", number, " end"));
+    const std::unique_ptr<TComponent> part(
+        ReadForm(Concat("object P: TPart Color = ", number, " end")));
     EXPECT_EQ(dynamic_cast<TPart&>(*part).Color(), clBtnFace) << number;
     EXPECT_THAT(FormText(part.get()), Not(HasSubstr("  Color"))) << number << " is the default";
   }

@@ -117,7 +117,10 @@ void TPart::GetChildren(const std::function<void(TComponent*)>& each, TComponent
 }
 
 void TPart::SetChildOrder(TComponent* child, int order) {
-  static_cast<TPart*>(child)->Order = order;
+  auto* part = static_cast<TPart*>(child);
+  part->Order = order;
+  std::erase(FInside, part);
+  FInside.insert(FInside.begin() + std::min<std::ptrdiff_t>(order, std::ssize(FInside)), part);
 }
 
 void TPart::Loaded() {

@@ -133,6 +133,23 @@ void TWinControl::MoveInZOrder(TControl* control, bool topmost) {
   FControls.insert(place, control);
 }
 
+void TWinControl::SetChildOrder(TComponent* child, int order) {
+  auto* control = dynamic_cast<TControl*>(child);
+  if (!control || control->Parent() != this) return;
+  std::erase(FControls, control);
+  auto place = FControls.begin();
+  for (int before = order; place != FControls.end(); ++place) {
+    if ((*place)->Owner() == control->Owner() && before-- <= 0) break;
+  }
+  const auto firstWindow = std::ranges::partition_point(FControls, HasNoWindow);
+  place = HasWindow(control) ? std::max(place, firstWindow) : std::min(place, firstWindow);
+  FControls.insert(place, control);
+  const auto* window = dynamic_cast<TWinControl*>(control);
+  if (!window || !window->HandleAllocated()) return control->Invalidate();
+  ::SetWindowPos(window->FHandle, PrecedingWindow(window), 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
 void TWinControl::SetZOrder(bool topmost) {
   if (Parent()) Parent()->MoveInZOrder(this, topmost);
   if (!HandleAllocated()) return;

@@ -218,6 +218,9 @@ class VCL_API TWinControl : public TControl {
   void ChangeScale(int m, int d) override;
   void ReadState(TReader& reader) override;
   TComponent* GetChildParent() override { return this; }
+  /// The place is one among the controls of the same owner; those without a window stay behind the
+  /// others.
+  void SetChildOrder(TComponent* child, int order) override;
 
  private:
   friend class TControl;

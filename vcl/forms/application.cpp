@@ -102,7 +102,11 @@ void TApplication::SetMainFormIfNone(TCustomForm* form) {
 
 void TApplication::FreeForms() {
   for (int i = ComponentCount() - 1; i >= 0; i = std::min(i, ComponentCount()) - 1) {
-    if (auto* form = dynamic_cast<TCustomForm*>(Components(i))) form->Free();
+    if (auto* form = dynamic_cast<TCustomForm*>(Components(i))) {
+      form->Free();
+    } else if (auto* module = dynamic_cast<TDataModule*>(Components(i))) {
+      module->Free();
+    }
   }
 }
 

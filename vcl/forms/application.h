@@ -4,9 +4,11 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "vcl/controls/controltypes.h"
+#include "vcl/forms/datamodule.h"
 #include "vcl/forms/hints.h"
 #include "vcl/graphics/graphics.h"
 #include "vcl/graphics/types.h"
@@ -55,13 +57,13 @@ class VCL_API TApplication : public TCustomApplication {
   /// code 1. A fault of the program's own code raises EAccessViolation or EDivByZero; where nothing
   /// can be raised, it is told in a box before it ends the process.
   void Initialize();
-  /// Makes a form, owned by the application; the first one is the main form.
+  /// Makes a form or a data module, owned by the application; the first form is the main form.
   ///
-  /// The application frees its forms (and fires their OnDestroy) when `Run` ends.
+  /// The application frees them (and fires their OnDestroy) when `Run` ends, the last one first.
   template <class TheForm>
   TheForm* CreateForm() {
     auto* form = new TheForm(this);
-    SetMainFormIfNone(form);
+    if constexpr (!std::is_base_of_v<TDataModule, TheForm>) SetMainFormIfNone(form);
     return form;
   }
   TCustomForm* MainForm() const { return FMainForm; }

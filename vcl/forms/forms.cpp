@@ -4,14 +4,11 @@
 #include "vcl/controls/controlcanvas.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/forms/application.h"
+#include "vcl/forms/private/rootfile.h"
 #include "vcl/forms/screen.h"
-#include "vcl/forms/standardclasses.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/formfile.h"
-#include "vcl/rtl/private/cppname.h"
 #include "vcl/rtl/properties.h"
-#include "vcl/rtl/resources.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
@@ -110,42 +107,15 @@ TCustomForm::~TCustomForm() {
   Screen()->RemoveForm(this);
 }
 
-namespace {
-
-/// A form class without a table would load its ancestor's file. In its constructor a form is of the
-/// class that loads it.
-void CheckHasTable(const TCustomForm& form) {
-  const TClass& known = form.ClassType();
-  if (known.CppType() == typeid(form)) return;
-  throw EInvalidOperation(Concat("The form class ", CppNameOf(typeid(form)),
-                                 " has no ClassType of its own: it would load the form file of ",
-                                 known.CppName()));
-}
-
-/// Code takes it for granted that each field leads to its component.
-void CheckFields(const TCustomForm& form) {
-  for (const TClass* each = &form.ClassType(); each; each = each->Parent()) {
-    for (const TFieldInfo& field : each->OwnFields()) {
-      if (form.FindComponent(field.Name)) continue;
-      throw EReadError(Concat("The form file of ", each->CppName(),
-                              " holds no component for the field ", field.Name, ": ",
-                              field.ClassOf().CppName()));
-    }
-  }
-}
-
-}  // namespace
-
 void TCustomForm::LoadForm(HINSTANCE module) {
-  RegisterStandardClasses();
-  CheckHasTable(*this);
-  TResourceStream stream(module, UpperCase(ClassName()), MAKEINTRESOURCEA(10));  // RT_RCDATA
+  if (FCreated) RaiseCreatedBefore(*this);
   {
     const TSetFor reading(FReadingForm, true, this);
-    ReadComponentFile(stream, this, ClassName());
+    LoadRootFile(*this, module);
   }
+  // The files of a class's descendants are in the same dots per inch as its own.
+  if (!FWholeClass.Is(ClassType())) return;
   ScaleToMonitor();
-  CheckFields(*this);
   Created();
 }
 
@@ -223,9 +193,14 @@ void TCustomForm::GetChildren(const std::function<void(TComponent*)>& each, TCom
   TScrollingWinControl::GetChildren(each, root);
   if (root != this) return;
   // Behind the controls what is seen on the form in a designer only.
-  for (int i = 0; i < ComponentCount(); ++i) {
-    if (!Components(i)->HasParent()) each(Components(i));
-  }
+  EachWithoutParent(*this, each);
+}
+
+void TCustomForm::SetChildOrder(TComponent* child, int order) {
+  if (child->HasParent()) return TScrollingWinControl::SetChildOrder(child, order);
+  int controls = 0;
+  TScrollingWinControl::GetChildren([&](TComponent*) { ++controls; }, this);
+  OrderWithoutParent(*this, *child, order - controls);
 }
 
 TDesignerHook::~TDesignerHook() = default;

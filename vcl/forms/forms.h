@@ -6,6 +6,7 @@
 
 #include "vcl/controls/scrolling.h"
 #include "vcl/forms/designerhook.h"
+#include "vcl/forms/inheritedby.h"
 
 namespace vcl {
 
@@ -77,6 +78,15 @@ inline constexpr TEventText EventText<TCloseQueryEvent>{"TCloseQueryEvent",
 ///           Method<&TMainForm::OkClick>("OkClick"),
 ///       });
 ///       return info;
+///     }
+///
+/// A form class may descend from another one with a form file. Each constructor loads its own
+/// class's file on top of what is there, the ancestor's first; the class that is the last to do so
+/// says that to its ancestor (vcl/forms/inheritedby.h), so that OnCreate fires once, when all is
+/// read:
+///
+///     explicit TOrderForm(TComponent* owner) : TMainForm(InheritedBy<TOrderForm>(owner)) {
+///       LoadForm();
 ///     }
 ///
 /// A field makes its component's class known to the form file, beside the classes of this library.
@@ -188,6 +198,7 @@ class VCL_API TCustomForm : public TScrollingWinControl {
 
   void SetVisible(bool visible) override;
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
+  void SetChildOrder(TComponent* child, int order) override;
   TRect ClientRect() const override;
 
   /// The form's file has been read.
@@ -211,7 +222,8 @@ class VCL_API TCustomForm : public TScrollingWinControl {
 
  protected:
   /// Reads the form from the RCDATA resource that is named after its class, in the given module or
-  /// the executable, and fires OnCreate. Raises EResNotFound, and what reading a form file raises,
+  /// the executable, and fires OnCreate when no descendant has a file to add (InheritedBy); a form
+  /// that was created before raises EInvalidOperation. Raises EResNotFound, and what reading a form file raises,
   /// with the class's name and the line; EReadError for a field whose component the file does not
   /// hold; EInvalidOperation for a class without a ClassType. Fields are null until then.
   void LoadForm(HINSTANCE module = nullptr);
@@ -306,6 +318,7 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   bool FActive = false;
   bool FKeyPreview = false;
   bool FReadingForm = false;
+  TWholeClass FWholeClass;
   bool FCreated = false;
   bool FDestroyed = false;
   bool FReleased = false;

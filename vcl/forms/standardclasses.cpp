@@ -2,6 +2,7 @@
 #include "vcl/forms/standardclasses.h"
 
 #include "vcl/dialogs/dialogs.h"
+#include "vcl/forms/frames.h"
 #include "vcl/graphics/imagelist.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/classregistry.h"
@@ -23,8 +24,9 @@ void RegisterStandardClasses() {
                      &TPanel::Class(),      &TPopupMenu::Class(),   &TRadioButton::Class(),
                      &TSaveDialog::Class(), &TSpeedButton::Class(), &TStatusBar::Class(),
                      &TTabSheet::Class(),   &TTimer::Class(),       &TTrackBar::Class(),
-                     &TTreeView::Class()});
-    RegisterClasses({&TFlowPanel::Class(), &TGridPanel::Class(), &TScrollBox::Class(), &TSplitter::Class()});
+                     &TTreeView::Class(),   &TFrame::Class()});
+    RegisterClasses({&TFlowPanel::Class(), &TGridPanel::Class(), &TScrollBox::Class(),
+                     &TSplitter::Class()});
     return true;
   }();
   static_cast<void>(done);

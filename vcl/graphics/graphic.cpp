@@ -33,8 +33,12 @@ void TGraphic::SetTransparent(bool transparent) {
 
 void TGraphic::DefineProperties(TFiler& filer) {
   filer.DefineBinaryProperty(
-      "Data", [this](TStream& stream) { ReadData(stream); },
-      [this](TStream& stream) { WriteData(stream); }, !Empty());
+      // A descendant's form may have none where its ancestor has one.
+      "Data", [this](TStream& stream) { stream.Size() == 0 ? Assign(nullptr) : ReadData(stream); },
+      [this](TStream& stream) {
+        if (!Empty()) WriteData(stream);
+      },
+      !Empty());
 }
 
 void TGraphic::ReadData(TStream& stream) { LoadFromStream(stream); }

@@ -82,6 +82,7 @@ void TPicture::DefineProperties(TFiler& filer) {
 }
 
 void TPicture::ReadData(TStream& stream) {
+  if (stream.Size() == 0) return Assign(nullptr);  // A descendant's form has none.
   unsigned char length = 0;
   stream.ReadBuffer(&length, 1);
   std::string name(length, '\0');
@@ -92,6 +93,7 @@ void TPicture::ReadData(TStream& stream) {
 }
 
 void TPicture::WriteData(TStream& stream) const {
+  if (!FGraphic || FGraphic->Empty()) return;
   const std::string name = FGraphic->ClassName();
   const auto length = static_cast<unsigned char>(name.size());
   stream.WriteBuffer(&length, 1);

@@ -85,6 +85,8 @@ bool TMenu::ShowHintOf(const TMessage& select) {
   return item != nullptr;
 }
 
+void TMenu::SetChildOrder(TComponent* child, int order) { FItems->SetChildOrder(child, order); }
+
 void TMenu::GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) {
   FItems->GetChildren(each, root);
 }

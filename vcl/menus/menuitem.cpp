@@ -277,6 +277,11 @@ void TMenuItem::GetChildren(const std::function<void(TComponent*)>& each, TCompo
   for (TMenuItem* item : FItems) each(item);
 }
 
+void TMenuItem::SetChildOrder(TComponent* child, int order) {
+  auto* item = dynamic_cast<TMenuItem*>(child);
+  if (item && item->FParent == this) item->SetMenuIndex(std::clamp(order, 0, Count() - 1));
+}
+
 TComponent* TMenuItem::GetParentComponent() const {
   if (FParent && FParent->FMenu) return FParent->FMenu;
   return FParent;

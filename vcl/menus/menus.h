@@ -97,6 +97,7 @@ class VCL_API TMenuItem : public TComponent {
   TComponent* GetParentComponent() const override;
   bool HasParent() const override { return true; }
   void SetParentComponent(TComponent* parent) override;
+  void SetChildOrder(TComponent* child, int order) override;
 
   /// The item has been chosen, or its submenu is about to open.
   TNotifyEvent OnClick;
@@ -154,6 +155,7 @@ class VCL_API TMenu : public TComponent {
   /// the message was of this menu.
   bool HandleMessage(const TMessage& message);
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
+  void SetChildOrder(TComponent* child, int order) override;
 
  protected:
   friend class TMenuItem;

@@ -26,6 +26,7 @@ enum TComponentStateValue {
   csDestroying,      ///< Being destroyed.
   csDesigning,       ///< On a form in the designer.
   csDesignInstance,  ///< The root of what the designer edits.
+  csInline,          ///< Has a form file of its own: its components are the component's own.
 };
 using TComponentState = TSet<TComponentStateValue>;
 
@@ -72,6 +73,9 @@ class VCL_API TComponent : public TPersistent, public TWatched {
   bool Designing() const { return FState.Has(csDesigning); }
   bool Loading() const { return FState.Has(csLoading); }
   bool Destroying() const { return FState.Has(csDestroying); }
+  /// True for a frame: what stands on it belongs to it and is named inside it, and the form file
+  /// that shows it holds only what differs from its own.
+  bool Inline() const { return FState.Has(csInline); }
   /// Puts the component and all that it owns into the designing state, or takes them out of it.
   void SetDesigning(bool designing);
 

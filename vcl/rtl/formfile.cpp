@@ -72,23 +72,48 @@ void ReadComponentsInto(TStream& stream, TComponent* owner, TComponent* parent,
   WithReader(stream, keeper, [&](TReader& reader) { reader.ReadComponents(owner, parent, made); });
 }
 
-void WriteComponentBinary(TStream& stream, TComponent* root, const std::string& className) {
+namespace {
+
+void WriteRoot(TStream& stream, TComponent* root, const std::string& className,
+               const TFormAncestry& ancestry) {
   TWriter writer(stream);
   writer.SetRootClassName(className);
+  writer.SetAncestry(ancestry);
   writer.WriteRootComponent(root);
 }
 
-void WriteComponentText(TStream& stream, TComponent* root, const std::string& className) {
+void WriteRootText(TStream& stream, TComponent* root, const std::string& className,
+                   const TFormAncestry& ancestry) {
   TMemoryStream binary;
-  WriteComponentBinary(binary, root, className);
+  WriteRoot(binary, root, className, ancestry);
   binary.SetPosition(0);
   ObjectBinaryToText(binary, stream);
 }
 
+}  // namespace
+
+void WriteComponentBinary(TStream& stream, TComponent* root, const std::string& className) {
+  WriteRoot(stream, root, className, {});
+}
+
+void WriteComponentText(TStream& stream, TComponent* root, const std::string& className) {
+  WriteRootText(stream, root, className, {});
+}
+
+void WriteComponentBinary(TStream& stream, TComponent* root, const TFormAncestry& ancestry) {
+  WriteRoot(stream, root, {}, ancestry);
+}
+
+void WriteComponentText(TStream& stream, TComponent* root, const TFormAncestry& ancestry) {
+  WriteRootText(stream, root, {}, ancestry);
+}
+
 void WriteComponentsText(TStream& stream, const std::vector<TComponent*>& components,
-                         TComponent* root) {
+                         TComponent* root, const TFormAncestry& ancestry) {
   TMemoryStream binary;
   TWriter writer(binary);
+  // Copies descend from nothing.
+  writer.SetAncestry({nullptr, ancestry.MakeFrame});
   for (TComponent* component : components) writer.WriteComponent(component, root);
   binary.SetPosition(0);
   if (!components.empty()) ObjectBinaryToText(binary, stream);

@@ -18,7 +18,7 @@
 #include <utility>
 #include <vector>
 
-#include "vcl/rtl/api.h"
+#include "vcl/rtl/writer.h"
 
 namespace vcl {
 
@@ -75,8 +75,13 @@ VCL_API void WriteComponentBinary(TStream& stream, TComponent* root,
                                   const std::string& className = {});
 VCL_API void WriteComponentText(TStream& stream, TComponent* root,
                                 const std::string& className = {});
-/// Writes some of a root's components as a text that ReadComponentsInto reads.
+/// The same as the difference from what the root and its frames descend from.
+VCL_API void WriteComponentBinary(TStream& stream, TComponent* root,
+                                  const TFormAncestry& ancestry);
+VCL_API void WriteComponentText(TStream& stream, TComponent* root, const TFormAncestry& ancestry);
+/// Writes some of a root's components, whole but for its frames, as a text that ReadComponentsInto
+/// reads.
 VCL_API void WriteComponentsText(TStream& stream, const std::vector<TComponent*>& components,
-                                 TComponent* root);
+                                 TComponent* root, const TFormAncestry& ancestry = {});
 
 }  // namespace vcl

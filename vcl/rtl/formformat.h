@@ -18,14 +18,17 @@ inline constexpr std::string_view FormRootReference = "Owner";
 inline constexpr int FormDepthLimit = 200;
 
 /// A component's byte in front of its class name, which is there when one of the flags below is:
-/// the component exists already and is only changed; a place among its siblings follows.
+/// the component exists already and is only changed; a place among its siblings follows; the
+/// component is a frame, which is made by its own form file and then changed.
 inline constexpr std::uint8_t FormPrefix = 0xF0;
 inline constexpr std::uint8_t FormInheritedFlag = 1;
 inline constexpr std::uint8_t FormPositionFlag = 2;
+inline constexpr std::uint8_t FormInlineFlag = 4;
 
 /// The first words of a component in a form file.
 struct TFormHeading {
   bool Inherited = false;
+  bool Inline = false;
   std::optional<int> Position;
   std::string ClassName;
   std::string Name;

@@ -40,7 +40,9 @@ class TFormParser {
   void ParseSet();
   void ParseBinary();
 
-  bool AtComponent() const { return FLexer.IsWord("object") || FLexer.IsWord("inherited"); }
+  bool AtComponent() const {
+    return FLexer.IsWord("object") || FLexer.IsWord("inherited") || FLexer.IsWord("inline");
+  }
   void NoteLine() { FLines.Add(static_cast<std::int64_t>(FOutput.Bytes().size()), FLexer.Line()); }
   void TakeEnd() {
     if (!FLexer.IsWord("end")) FLexer.FailExpected("a property or 'end'");
@@ -70,7 +72,7 @@ class TFormParser {
 
 void TFormParser::ParseComponent() {
   NoteLine();
-  if (!AtComponent()) FLexer.FailExpected("'object' or 'inherited'");
+  if (!AtComponent()) FLexer.FailExpected("'object', 'inherited' or 'inline'");
   const TFormHeading heading = ParseHeading();
   Put([&] { FOutput.WriteHeading(heading); });
   ParseProperties();
@@ -80,10 +82,11 @@ void TFormParser::ParseComponent() {
   FOutput.WriteEnd();
 }
 
-/// "object Name: TClass", or "object TClass" for a component without a name.
+/// "object Name: TClass" (or "inherited", or "inline"), or "object TClass" for a component without a name.
 TFormHeading TFormParser::ParseHeading() {
   TFormHeading heading;
   heading.Inherited = FLexer.IsWord("inherited");
+  heading.Inline = FLexer.IsWord("inline");
   FLexer.Next();
   heading.ClassName = FLexer.TakeIdent("a component's name");
   if (FLexer.IsSymbol(':')) {

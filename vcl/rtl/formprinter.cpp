@@ -65,7 +65,7 @@ std::string TFormPrinter::Checked(std::string name, bool dotted) {
 void TFormPrinter::PrintComponent() {
   const TFormInput::TLevel level(FInput);
   const TFormHeading heading = FInput.ReadHeading();
-  std::string line = heading.Inherited ? "inherited " : "object ";
+  std::string line = heading.Inherited ? "inherited " : heading.Inline ? "inline " : "object ";
   if (!heading.Name.empty()) line += Checked(heading.Name, false) + ": ";
   line += Checked(heading.ClassName, false);
   if (heading.Position) line += Concat(" [", IntToStr(*heading.Position), "]");
@@ -196,8 +196,8 @@ void TFormPrinter::PrintBinary() {
 }  // namespace
 
 bool IsFormWord(std::string_view name) {
-  static constexpr std::string_view words[] = {"object", "inherited", "end", "item",
-                                               "True",   "False",     "nil"};
+  static constexpr std::string_view words[] = {"object", "inherited", "inline", "end",
+                                               "item",   "True",      "False",  "nil"};
   return std::ranges::any_of(words, [&](auto word) { return SameText(word, name); });
 }
 

@@ -26,6 +26,8 @@ struct TKeptData {
   /// The class that the file gives a component which stands in for one of that class; empty for a
   /// component of its own class.
   std::string ClassName;
+  /// True when the component stands in for a frame.
+  bool Inline = false;
   std::vector<TKeptProperty> Properties;
   /// The components inside, as bytes, and their names.
   std::string Children;
@@ -45,6 +47,9 @@ class VCL_API TReaderKeeper {
   /// Makes a component that stands for one whose class is missing or whose constructor raised.
   /// `visual` says that the file gives it a width, as it does controls.
   virtual TComponent* MakeStandIn(TComponent* owner, bool visual) = 0;
+  /// Makes a frame of that class as its own form file has it; null when frames are of classes that
+  /// the program itself has.
+  virtual TComponent* MakeFrame(const std::string& className, TComponent* owner);
   /// The form of that name that references may lead to though nothing owns it and the one being
   /// read; null for none.
   virtual TComponent* FindForm(std::string_view name) const;

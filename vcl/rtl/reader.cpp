@@ -97,6 +97,7 @@ void TReader::TImpl::Forget() {
 TComponent* TReader::TImpl::ReadRoot(TComponent* root, bool toTheEnd) {
   Input.ReadSignature();
   const TFormHeading heading = Input.ReadHeading();
+  if (heading.Inline) Input.Fail("the root stands inside nothing: it can't be inline");
   RootClassName = heading.ClassName;
   RootName = heading.Name;
   if (root) OldName = root->Name();
@@ -105,8 +106,7 @@ TComponent* TReader::TImpl::ReadRoot(TComponent* root, bool toTheEnd) {
   NameRoot(Root, heading.Name);
   Input.Context = heading.Name;
   if (Keeper) Root->Keep().ClassName = heading.ClassName;
-  Owner = Root;
-  Parent = Root;
+  Scope = Owner = Parent = Root;
   ReadBody(Root);
   if (toTheEnd && !Input.AtEnd()) Input.FailAt(Input.Position(), "more stands behind the root");
   ResolveReferences(true);
@@ -118,7 +118,7 @@ TComponent* TReader::TImpl::ReadRoot(TComponent* root, bool toTheEnd) {
 
 void TReader::TImpl::ReadAll(TComponent* owner, TComponent* parent,
                              std::vector<TComponent*>& outermost) {
-  Root = Owner = owner;
+  Root = Scope = Owner = owner;
   Parent = parent;
   Pasting = true;
   while (!Input.AtEnd() && !Input.EndOfList()) {

@@ -40,9 +40,28 @@ TComponent* TReader::TImpl::Make(const TFormHeading& heading, TComponent* owner)
 }
 
 TComponent* TReader::TImpl::Existing(const TFormHeading& heading) {
-  TComponent* found = Root->FindComponent(heading.Name);
+  TComponent* found = Scope->FindComponent(heading.Name);
   if (!found) Input.Fail(Concat("there is no inherited component ", heading.Name));
+  Reparent(found);
   return found;
+}
+
+/// A descendant may have moved what it inherits.
+void TReader::TImpl::Reparent(TComponent* component) {
+  if (Parent && component->HasParent() && component->GetParentComponent() != Parent) {
+    component->SetParentComponent(Parent);
+  }
+}
+
+TComponent* TReader::TImpl::MakeFrame(const TFormHeading& heading, TComponent* owner) {
+  TComponent* made = MakeOrStandIn(heading, owner);
+  if (made->Inline()) return made;
+  if (!Keeper) {
+    const std::unique_ptr<TComponent> refused(made);
+    Input.Fail(Concat(heading.ClassName, " is no frame"));
+  }
+  made->Keep().Inline = true;
+  return made;
 }
 
 void TReader::TImpl::Enter(TComponent* component, bool made) {
@@ -61,7 +80,9 @@ void TReader::TImpl::NameRoot(TComponent* root, const std::string& name) {
 
 /// Gives a component that has just been made its name, its parent and its field.
 void TReader::TImpl::Place(TComponent* component, const TFormHeading& heading) {
-  const bool taken = component->Owner()->FindComponent(heading.Name) != nullptr;
+  const TComponent* holder = component->Owner()->FindComponent(heading.Name);
+  // A frame has the name that its own file gives it.
+  const bool taken = holder && holder != component;
   const bool renamed = taken && (Pasting || Keeper);
   component->SetName(renamed ? FreeName(*component->Owner(), NameStem(*component)) : heading.Name);
   if (renamed && !Pasting) {
@@ -105,7 +126,10 @@ TComponent* TReader::TImpl::ReadComponent() {
 
   TComponent* component = nullptr;
   Placed(start, [&] {
-    component = heading.Inherited ? Existing(heading) : MakeOrStandIn(heading, Owner);
+    if (heading.Inherited && KeepLost(heading, whole)) return;
+    component = heading.Inherited ? Existing(heading)
+                : heading.Inline  ? MakeFrame(heading, Owner)
+                                  : MakeOrStandIn(heading, Owner);
     if (inside && KeepInside(component, whole)) return void(component = nullptr);
     Enter(component, !heading.Inherited);
     if (!heading.Name.empty() && component->Owner() == Root) {
@@ -129,15 +153,17 @@ void TReader::TImpl::ReadBody(TComponent* component) {
 }
 
 void TReader::TImpl::ReadChildren(TComponent* component) {
-  const bool standsIn = Keeper && component != Root && component->Kept();
+  const bool standsIn =
+      Keeper && component != Root && component->Kept() && !component->Inline();
   if (standsIn && !component->Kept()->ClassName.empty()) return KeepChildren(component->Keep());
   TComponent* childOwner = component->GetChildOwner();
-  const auto outer = std::pair(Owner, Parent);
-  Owner = childOwner ? childOwner : Root;
+  const auto outer = std::tuple(Scope, Owner, Parent);
+  if (component->Inline()) Scope = component;
+  Owner = childOwner ? childOwner : Scope;
   Parent = component->GetChildParent();
   while (!Input.EndOfList()) ReadComponent();
   Input.Take(TValueType::vaNull);
-  std::tie(Owner, Parent) = outer;
+  std::tie(Scope, Owner, Parent) = outer;
 }
 
 }  // namespace vcl

@@ -9,6 +9,8 @@ namespace vcl {
 
 TReaderKeeper::~TReaderKeeper() = default;
 
+TComponent* TReaderKeeper::MakeFrame(const std::string&, TComponent*) { return nullptr; }
+
 TComponent* TReaderKeeper::FindForm(std::string_view) const { return nullptr; }
 
 void TReader::SetKeeper(TReaderKeeper* keeper) { FImpl->Keeper = keeper; }
@@ -27,6 +29,8 @@ bool TReader::TImpl::KeepProperty(TObject& object, const std::string& name, std:
   if (!kept || (Part && Part->Watch.Gone())) return false;
   Input.SetPosition(value);
   Input.SkipValue();
+  // A descendant's file gives what its ancestor's has given.
+  std::erase_if(kept->Properties, [&](const auto& each) { return SameText(each.Name, name); });
   kept->Properties.push_back({name, Input.Slice(value, Input.Position()), after});
   // What the component stands in for has been reported.
   if (kept->ClassName.empty() || &object == Root) Keeper->Report(error);
@@ -73,7 +77,10 @@ TComponent* TReader::TImpl::MakeOrStandIn(const TFormHeading& heading, TComponen
   if (!Keeper) return Make(heading, owner);
   const std::size_t at = Input.Mark();
   try {
-    return Make(heading, owner);
+    TComponent* frame = heading.Inline ? Keeper->MakeFrame(heading.ClassName, owner) : nullptr;
+    if (!frame) return Make(heading, owner);
+    frame->Keep().ClassName = heading.ClassName;
+    return frame;
   } catch (const EAbort&) {
     throw;
   } catch (const EClassNotFound& error) {
@@ -115,11 +122,23 @@ bool TReader::TImpl::KeepInside(TComponent* standIn, std::size_t whole) {
   return true;
 }
 
+/// Keeps what the file changes of a component that its ancestor has no longer, with the one around.
+bool TReader::TImpl::KeepLost(const TFormHeading& heading, std::size_t whole) {
+  if (!Keeper || !Parent || Scope->FindComponent(heading.Name)) return false;
+  Keeper->Report(Concat(Input.Place(Input.Mark()), "there is no inherited component ",
+                        heading.Name));
+  Input.SetPosition(whole);
+  TKeptData& kept = Parent->Keep();
+  SkipComponent(kept);
+  kept.Children += Input.Slice(whole, Input.Position());
+  return true;
+}
+
 /// Keeps the components inside a stand-in, which only the class that is missing could hold.
 void TReader::TImpl::KeepChildren(TKeptData& kept) {
   const std::size_t start = Input.Position();
   while (!Input.EndOfList()) SkipComponent(kept);
-  kept.Children = Input.Slice(start, Input.Position());
+  kept.Children += Input.Slice(start, Input.Position());
   Input.Take(TValueType::vaNull);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -14,8 +15,17 @@ namespace vcl {
 class TCollection;
 class TComponent;
 
+/// What a form file is written as the difference from.
+struct TFormAncestry {
+  /// What the root descends from, as its own form file makes it; null for nothing.
+  TComponent* Root = nullptr;
+  /// Makes the frame as its own form file does; when there is none, its class makes it.
+  std::function<std::unique_ptr<TComponent>(const TComponent& frame)> MakeFrame;
+};
+
 /// Writes a form file: of each object the published properties that are stored and differ from
-/// their declared defaults, then what the object defines itself. References are written by name;
+/// their declared defaults, then what the object defines itself. Of a component that the root's
+/// ancestor has, or a frame's own form file, it writes what differs from that. References are written by name;
 /// one to a component without a name is left out. Raises EWriteError for what cannot be kept, and
 /// then the stream holds nothing of the component.
 class VCL_API TWriter : public TFiler {
@@ -27,6 +37,8 @@ class VCL_API TWriter : public TFiler {
   /// The class that the file shall give the root; empty for the root's own. A designer's root has
   /// another class than the form that it stands for.
   void SetRootClassName(std::string name);
+  /// What the root and its frames descend from.
+  void SetAncestry(TFormAncestry ancestry);
   /// Writes the component, everything that it shows inside itself, and the signature in front.
   void WriteRootComponent(TComponent* root);
   /// Writes one component of `root`'s, with the signature in front, as a designer's copy does.

@@ -29,16 +29,29 @@ bool WritesOwn(const TObject* object, std::string_view name) {
 
 }  // namespace
 
-/// Writes what the object publishes and defines, and what is kept of it at its place in between.
-void TWriter::TImpl::WriteAllProperties(TPersistent& object, const TKeptData* kept) {
+namespace {
+
+/// True when the ancestor's file says the same of the property.
+bool KeptBefore(const TKeptData* before, const TKeptProperty& kept) {
+  return before && std::ranges::any_of(before->Properties, [&](const TKeptProperty& each) {
+           return SameText(each.Name, kept.Name) && each.Value == kept.Value;
+         });
+}
+
+}  // namespace
+
+/// Writes what the object publishes and defines, and what is kept of it at its place in between, as
+/// far as that differs from the ancestor.
+void TWriter::TImpl::WriteAllProperties(TPersistent& object, const TKeptData* kept,
+                                        TPersistent* ancestor, const TKeptData* keptBefore) {
   std::vector<const TKeptProperty*> way;
   if (kept) {
     for (const TKeptProperty& each : kept->Properties) {
-      if (!WritesOwn(&object, each.Name)) way.push_back(&each);
+      if (!WritesOwn(&object, each.Name) && !KeptBefore(keptBefore, each)) way.push_back(&each);
     }
   }
   const auto outer = std::pair(std::exchange(KeptLeft, std::move(way)), std::exchange(Last, {}));
-  WriteProperties(object);
+  WriteProperties(object, ancestor);
   WriteKept(Last);
   // What stood behind a property that is no longer written.
   while (!KeptLeft.empty()) WriteKept(KeptLeft.front()->After);
@@ -60,14 +73,16 @@ void TWriter::TImpl::WriteKept(const std::string& after) {
   }
 }
 
-/// Writes what is kept of a reference that is not fulfilled where it stands when it is.
-void TWriter::TImpl::WriteKeptReference(const std::string& name) {
+/// Writes what is kept of a reference that is not fulfilled where it stands when it is; false when
+/// nothing is.
+bool TWriter::TImpl::WriteKeptReference(const std::string& name) {
   const auto kept = std::ranges::find_if(
       KeptLeft, [&](const TKeptProperty* each) { return SameText(each->Name, name); });
-  if (kept == KeptLeft.end()) return;
+  if (kept == KeptLeft.end()) return false;
   const TKeptProperty* reference = *kept;
   WriteKept(Last);
   if (std::ranges::count(KeptLeft, reference) > 0) WriteKept(reference->After);
+  return true;
 }
 
 void TWriter::TImpl::WriteName(const std::string& name) {
@@ -76,51 +91,93 @@ void TWriter::TImpl::WriteName(const std::string& name) {
   Output.WriteName(Last);
 }
 
-void TWriter::TImpl::WriteProperties(TPersistent& object) {
-  for (const TPropInfo* prop : object.ClassType().Published()) WriteProperty(object, *prop);
-  object.DefineProperties(Self);
+void TWriter::TImpl::WriteProperties(TPersistent& object, TPersistent* ancestor) {
+  for (const TPropInfo* prop : object.ClassType().Published()) {
+    WriteProperty(object, *prop, ancestor);
+  }
+  WriteDefined(object, ancestor);
 }
 
-void TWriter::TImpl::WriteProperty(TPersistent& object, const TPropInfo& prop) {
-  if (prop.IsEvent()) return WriteEvent(object, prop);
-  if (prop.Type->ClassOf) return WriteObject(object, prop);
-  if (!prop.NeedsWriting(object)) return;
+void TWriter::TImpl::WriteProperty(TPersistent& object, const TPropInfo& prop,
+                                   TPersistent* ancestor) {
+  if (prop.IsEvent()) return WriteEvent(object, prop, ancestor);
+  if (prop.Type->ClassOf) return WriteObject(object, prop, ancestor);
+  if (!Differs(object, prop, ancestor)) return;
   WriteName(prop.Name);
   WriteValue(prop, prop.Get(object));
 }
 
-void TWriter::TImpl::WriteEvent(TPersistent& object, const TPropInfo& prop) {
+void TWriter::TImpl::WriteEvent(TPersistent& object, const TPropInfo& prop, TPersistent* ancestor) {
+  const TPropInfo* same = ancestor ? ancestor->ClassType().FindPublished(prop.Name) : nullptr;
+  const std::string before =
+      same && same->IsEvent() ? same->EventOf(*ancestor).HandlerName() : std::string();
   const std::string& handler = prop.EventOf(object).HandlerName();
-  if (handler.empty() || !prop.IsStored(object)) return;
+  if (SameText(handler, before) || !prop.IsStored(object)) return;
   WriteName(prop.Name);
-  Output.WriteIdent(handler);
+  handler.empty() ? Output.WriteSort(TValueType::vaNil) : Output.WriteIdent(handler);
 }
 
-void TWriter::TImpl::WriteObject(TPersistent& object, const TPropInfo& prop) {
+namespace {
+
+/// The object that the ancestor has in the property; null for none.
+TPersistent* ObjectBefore(const TPersistent* ancestor, const TPropInfo& prop) {
+  const TPropInfo* same = ancestor ? ancestor->ClassType().FindPublished(prop.Name) : nullptr;
+  if (!same || same->IsEvent() || !same->Type->ClassOf) return nullptr;
+  return dynamic_cast<TPersistent*>(std::get<TObject*>(same->Get(*ancestor)));
+}
+
+}  // namespace
+
+void TWriter::TImpl::WriteObject(TPersistent& object, const TPropInfo& prop,
+                                 TPersistent* ancestor) {
   if (!prop.IsStored(object)) return;
   auto* inner = dynamic_cast<TPersistent*>(std::get<TObject*>(prop.Get(object)));
-  if (!inner) return WriteKeptReference(Prefix + prop.Name);
+  TPersistent* before = ObjectBefore(ancestor, prop);
+  if (!inner) return WriteNothing(prop, before);
   if (auto* collection = dynamic_cast<TCollection*>(inner)) {
-    if (collection->Count() == 0) return;
-    WriteName(prop.Name);
-    return WriteCollection(*collection);
+    return WriteOwnCollection(*collection, prop, before);
   }
   if (const auto* component = dynamic_cast<TComponent*>(inner)) {
-    if (!prop.ReadOnly()) return WriteReference(*component, prop);
+    if (!prop.ReadOnly()) return WriteReference(*component, prop, before);
     // What can't be set is either a part of the object or none of its business.
     if (component->Owner() != &object) return;
   }
-  WriteInner(*inner, prop.Name);
+  WriteInner(*inner, prop.Name, before);
 }
 
-void TWriter::TImpl::WriteInner(TPersistent& inner, const std::string& name) {
+/// Writes that the property refers to nothing, where the ancestor's does to something.
+void TWriter::TImpl::WriteNothing(const TPropInfo& prop, const TPersistent* before) {
+  if (WriteKeptReference(Prefix + prop.Name) || !before || prop.ReadOnly()) return;
+  WriteName(prop.Name);
+  Output.WriteSort(TValueType::vaNil);
+}
+
+void TWriter::TImpl::WriteOwnCollection(TCollection& collection, const TPropInfo& prop,
+                                        TPersistent* before) {
+  auto* inherited = dynamic_cast<TCollection*>(before);
+  if (!inherited && collection.Count() == 0) return;
+  const auto bytes = [&](TCollection& each, bool ofAncestor) {
+    return Compared(ofAncestor, [&] { WriteCollection(each); });
+  };
+  if (inherited && bytes(collection, false) == bytes(*inherited, true)) return;
+  WriteName(prop.Name);
+  WriteCollection(collection);
+}
+
+void TWriter::TImpl::WriteInner(TPersistent& inner, const std::string& name, TPersistent* before) {
   const TDepth depth(*this);
   const std::string outer = std::exchange(Prefix, Concat(Prefix, name, "."));
-  WriteProperties(inner);
+  WriteProperties(inner, before);
   Prefix = outer;
 }
 
-void TWriter::TImpl::WriteReference(const TComponent& component, const TPropInfo& prop) {
+void TWriter::TImpl::WriteReference(const TComponent& component, const TPropInfo& prop,
+                                    const TPersistent* before) {
+  const auto* inherited = dynamic_cast<const TComponent*>(before);
+  const auto reference = [this](const TComponent& each, bool ofAncestor) {
+    return Compared(ofAncestor, [&] { Output.WriteRaw(ComparedReference(each)); });
+  };
+  if (inherited && reference(component, false) == reference(*inherited, true)) return;
   const std::string name = ReferenceTo(component);
   if (name.empty()) return;
   WriteName(prop.Name);
@@ -130,6 +187,7 @@ void TWriter::TImpl::WriteReference(const TComponent& component, const TPropInfo
 /// The names that lead to the component from the root, or from another form beside it; empty when a
 /// name is missing on the way.
 std::string TWriter::TImpl::ReferenceTo(const TComponent& component) const {
+  if (ComparedScope) return ComparedReference(component);
   if (&component == Root) return std::string(FormRootReference);
   std::string path;
   for (const TComponent* each = &component; each != Root; each = each->Owner()) {
@@ -195,21 +253,17 @@ std::string TWriter::TImpl::EnumName(const TPropInfo& prop, std::int64_t value) 
 
 void TWriter::DefineProperty(const std::string& name, const TReaderProc&, const TWriterProc& write,
                              bool hasData) {
-  if (!hasData || !write) return;
-  FImpl->WriteName(name);
-  // What the object writes now is no longer inside the properties that lead to it.
-  const std::string outer = std::exchange(FImpl->Prefix, {});
-  write(*this);
-  FImpl->Prefix = outer;
+  if (write) FImpl->Define(name, hasData, [&] { write(*this); });
 }
 
 void TWriter::DefineBinaryProperty(const std::string& name, const TStreamProc&,
                                    const TStreamProc& write, bool hasData) {
-  if (!hasData || !write) return;
-  TStringStream bytes;
-  write(bytes);
-  FImpl->WriteName(name);
-  FImpl->Output.WriteBinary(bytes.DataString());
+  if (!write) return;
+  FImpl->Define(name, hasData, [&] {
+    TStringStream bytes;
+    write(bytes);
+    FImpl->Output.WriteBinary(bytes.DataString());
+  });
 }
 
 }  // namespace vcl

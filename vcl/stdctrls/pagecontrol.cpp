@@ -139,6 +139,13 @@ void TPageControl::GetChildren(const std::function<void(TComponent*)>& each, TCo
   for (TTabSheet* page : std::vector<TTabSheet*>(FPages)) each(page);
 }
 
+void TPageControl::SetChildOrder(TComponent* child, int order) {
+  auto* page = dynamic_cast<TTabSheet*>(child);
+  if (page && std::ranges::count(FPages, page) > 0) {
+    page->SetPageIndex(std::clamp(order, 0, PageCount() - 1));
+  }
+}
+
 void TPageControl::ShowControl(TControl* control) {
   if (auto* page = dynamic_cast<TTabSheet*>(control)) SetActivePage(page);
   TWinControl::ShowControl(control);

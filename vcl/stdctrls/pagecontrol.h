@@ -44,6 +44,7 @@ class VCL_API TPageControl : public TWinControl {
   TTabSheet* PageAtPos(TPoint position) const;
 
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
+  void SetChildOrder(TComponent* child, int order) override;
 
   /// The user has brought another page to the front.
   TNotifyEvent OnChange;

@@ -114,10 +114,13 @@ TFormHeading TFormInput::ReadHeading() {
   const auto first = static_cast<std::uint8_t>(NextValue());
   if ((first & FormPrefix) == FormPrefix) {
     const int flags = Byte() & ~FormPrefix;
-    if ((flags & ~(FormInheritedFlag | FormPositionFlag)) != 0) {
+    heading.Inherited = (flags & FormInheritedFlag) != 0;
+    heading.Inline = (flags & FormInlineFlag) != 0;
+    // What is inherited has been made already.
+    const bool both = heading.Inherited && heading.Inline;
+    if (both || (flags & ~(FormInheritedFlag | FormPositionFlag | FormInlineFlag)) != 0) {
       FailAt(start, Concat("unknown flags of a component: ", std::to_string(flags)));
     }
-    heading.Inherited = (flags & FormInheritedFlag) != 0;
     if ((flags & FormPositionFlag) != 0) heading.Position = static_cast<int>(ReadInteger());
   }
   heading.ClassName = ShortText();

@@ -22,8 +22,9 @@ bool Fits(std::int64_t value) {
 }  // namespace
 
 void TFormOutput::WriteHeading(const TFormHeading& heading) {
-  const int flags =
-      (heading.Inherited ? FormInheritedFlag : 0) | (heading.Position ? FormPositionFlag : 0);
+  const int flags = (heading.Inherited ? FormInheritedFlag : 0) |
+                    (heading.Inline ? FormInlineFlag : 0) |
+                    (heading.Position ? FormPositionFlag : 0);
   if (flags != 0) FBytes += static_cast<char>(FormPrefix | flags);
   if (heading.Position) WriteInteger(*heading.Position);
   // A longer class name's length would look like the flags.

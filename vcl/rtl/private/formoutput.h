@@ -16,6 +16,8 @@ namespace vcl {
 class TFormOutput {
  public:
   const std::string& Bytes() const { return FBytes; }
+  /// Takes back what was written behind the first `size` bytes.
+  void Truncate(std::size_t size) { FBytes.resize(size); }
 
   void WriteSignature() { FBytes += FormSignature; }
   void WriteHeading(const TFormHeading& heading);

@@ -59,6 +59,8 @@ struct TReader::TImpl {
   TComponent* ReadComponent();
   TComponent* Make(const TFormHeading& heading, TComponent* owner);
   TComponent* Existing(const TFormHeading& heading);
+  TComponent* MakeFrame(const TFormHeading& heading, TComponent* owner);
+  void Reparent(TComponent* component);
   void Enter(TComponent* component, bool made);
   void NameRoot(TComponent* root, const std::string& name);
   void Place(TComponent* component, const TFormHeading& heading);
@@ -77,6 +79,7 @@ struct TReader::TImpl {
   void SkipComponent(TKeptData& kept);
   void KeepChildren(TKeptData& kept);
   bool KeepInside(TComponent* standIn, std::size_t whole);
+  bool KeepLost(const TFormHeading& heading, std::size_t whole);
 
   // References (reader_references.cpp).
   void ResolveReferences(bool required);
@@ -111,6 +114,8 @@ struct TReader::TImpl {
   TFormInput Input;
   TReaderKeeper* Keeper = nullptr;
   TComponent* Root = nullptr;
+  /// Whose components are being read: the root, or the frame inside it.
+  TComponent* Scope = nullptr;
   TComponent* Owner = nullptr;
   TComponent* Parent = nullptr;
   std::string RootClassName;
