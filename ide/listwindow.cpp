@@ -1,8 +1,6 @@
 // TListWindow: its list and its column of buttons.
 #include "ide/listwindow.h"
 
-#include <algorithm>
-
 namespace ide {
 
 namespace {
@@ -13,9 +11,14 @@ constexpr int Gap = 6;
 
 }  // namespace
 
-TListWindow::TListWindow(vcl::TComponent* owner) : TForm(owner), FList(new vcl::TListBox(this)) {
+TListWindow::TListWindow(vcl::TComponent* owner)
+    : TForm(owner), FList(new vcl::TListBox(this)), FNextTop(Gap) {
   SetBorderStyle(vcl::bsSizeToolWin);
   FList->SetParent(this);
+  const int left = ClientWidth() - ButtonWidth - Gap;
+  FList->SetBounds(Gap, Gap, left - 2 * Gap, ClientHeight() - 2 * Gap);
+  FList->SetAnchors({vcl::akLeft, vcl::akTop, vcl::akRight, vcl::akBottom});
+  Constraints()->SetMinWidth(2 * ButtonWidth);
 }
 
 TListWindow::~TListWindow() { AnnounceEnd(); }
@@ -25,8 +28,9 @@ vcl::TButton* TListWindow::AddButton(const char* caption, const std::function<vo
   button->SetCaption(caption);
   button->SetParent(this);
   button->OnClick = vcl::TNotifyEvent([press](vcl::TObject*) { press(); });
-  FButtons.push_back(button);
-  Arrange();
+  button->SetBounds(ClientWidth() - ButtonWidth - Gap, FNextTop, ButtonWidth, ButtonHeight);
+  button->SetAnchors({vcl::akTop, vcl::akRight});
+  FNextTop += ButtonHeight + Gap;
   return button;
 }
 
@@ -34,21 +38,6 @@ void TListWindow::CreateParams(vcl::TCreateParams& params) {
   TForm::CreateParams(params);
   // The system keeps a window in front of its owner.
   if (auto* above = dynamic_cast<vcl::TCustomForm*>(Owner())) params.WndParent = above->Handle();
-}
-
-void TListWindow::Resize() {
-  TForm::Resize();
-  Arrange();
-}
-
-void TListWindow::Arrange() {
-  const int left = ClientWidth() - ButtonWidth - Gap;
-  FList->SetBounds(Gap, Gap, std::max(left - 2 * Gap, 0), std::max(ClientHeight() - 2 * Gap, 0));
-  int top = Gap;
-  for (vcl::TButton* button : FButtons) {
-    button->SetBounds(left, top, ButtonWidth, ButtonHeight);
-    top += ButtonHeight + Gap;
-  }
 }
 
 }  // namespace ide

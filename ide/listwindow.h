@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <vector>
 
 #include "vcl/forms/forms.h"
 #include "vcl/stdctrls/stdctrls.h"
@@ -20,13 +19,10 @@ class TListWindow : public vcl::TForm {
  protected:
   vcl::TButton* AddButton(const char* caption, const std::function<void()>& press);
   void CreateParams(vcl::TCreateParams& params) override;
-  void Resize() override;
 
  private:
-  void Arrange();
-
   vcl::TListBox* FList;
-  std::vector<vcl::TButton*> FButtons;
+  int FNextTop;  // Of the next button, in pixels.
 };
 
 }  // namespace ide

@@ -1,6 +1,8 @@
 object MailerForm: TMailerForm
   Left = 120
   Top = 90
+  Constraints.MinHeight = 240
+  Constraints.MinWidth = 360
   Caption = 'Mailer'
   ClientHeight = 400
   ClientWidth = 660

@@ -1,6 +1,8 @@
 object NotesForm: TNotesForm
   Left = 140
   Top = 100
+  Constraints.MinHeight = 200
+  Constraints.MinWidth = 360
   Caption = 'Notes'
   ClientHeight = 420
   ClientWidth = 640

@@ -1,6 +1,8 @@
 object RecordsForm: TRecordsForm
   Left = 160
   Top = 120
+  Constraints.MinHeight = 320
+  Constraints.MinWidth = 540
   Caption = 'Records'
   ClientHeight = 400
   ClientWidth = 620
@@ -9,7 +11,7 @@ object RecordsForm: TRecordsForm
     Top = 0
     Width = 620
     Height = 200
-    Align = alTop
+    Anchors = [akLeft, akTop, akRight, akBottom]
     DataSource = Source
     TabOrder = 0
   end
@@ -18,6 +20,7 @@ object RecordsForm: TRecordsForm
     Top = 219
     Width = 70
     Height = 15
+    Anchors = [akLeft, akBottom]
     Caption = '&Name'
     FocusControl = NameEdit
   end
@@ -26,6 +29,7 @@ object RecordsForm: TRecordsForm
     Top = 216
     Width = 220
     Height = 21
+    Anchors = [akLeft, akBottom]
     DataField = 'name'
     DataSource = Source
     TabOrder = 1
@@ -35,6 +39,7 @@ object RecordsForm: TRecordsForm
     Top = 251
     Width = 70
     Height = 15
+    Anchors = [akLeft, akBottom]
     Caption = '&City'
     FocusControl = CityEdit
   end
@@ -43,6 +48,7 @@ object RecordsForm: TRecordsForm
     Top = 248
     Width = 220
     Height = 21
+    Anchors = [akLeft, akBottom]
     DataField = 'city'
     DataSource = Source
     TabOrder = 2
@@ -52,6 +58,7 @@ object RecordsForm: TRecordsForm
     Top = 283
     Width = 70
     Height = 15
+    Anchors = [akLeft, akBottom]
     Caption = '&Born'
     FocusControl = BornEdit
   end
@@ -60,6 +67,7 @@ object RecordsForm: TRecordsForm
     Top = 280
     Width = 100
     Height = 21
+    Anchors = [akLeft, akBottom]
     DataField = 'born'
     DataSource = Source
     TabOrder = 3
@@ -69,6 +77,7 @@ object RecordsForm: TRecordsForm
     Top = 315
     Width = 70
     Height = 15
+    Anchors = [akLeft, akBottom]
     Caption = 'B&alance'
     FocusControl = BalanceEdit
   end
@@ -77,6 +86,7 @@ object RecordsForm: TRecordsForm
     Top = 312
     Width = 100
     Height = 21
+    Anchors = [akLeft, akBottom]
     DataField = 'balance'
     DataSource = Source
     TabOrder = 4
@@ -86,6 +96,7 @@ object RecordsForm: TRecordsForm
     Top = 215
     Width = 80
     Height = 25
+    Anchors = [akLeft, akBottom]
     Caption = 'A&dd'
     TabOrder = 5
     OnClick = AddClick
@@ -95,6 +106,7 @@ object RecordsForm: TRecordsForm
     Top = 215
     Width = 80
     Height = 25
+    Anchors = [akLeft, akBottom]
     Caption = 'De&lete'
     TabOrder = 6
     OnClick = DeleteClick
@@ -104,6 +116,7 @@ object RecordsForm: TRecordsForm
     Top = 247
     Width = 80
     Height = 25
+    Anchors = [akLeft, akBottom]
     Caption = '&Save'
     Enabled = False
     TabOrder = 7
@@ -114,6 +127,7 @@ object RecordsForm: TRecordsForm
     Top = 247
     Width = 80
     Height = 25
+    Anchors = [akLeft, akBottom]
     Caption = '&Undo'
     Enabled = False
     TabOrder = 8
@@ -124,6 +138,7 @@ object RecordsForm: TRecordsForm
     Top = 279
     Width = 80
     Height = 25
+    Anchors = [akLeft, akBottom]
     Caption = '&Export...'
     TabOrder = 9
     OnClick = ExportClick
@@ -133,6 +148,7 @@ object RecordsForm: TRecordsForm
     Top = 279
     Width = 80
     Height = 25
+    Anchors = [akLeft, akBottom]
     Caption = '&Import...'
     TabOrder = 10
     OnClick = ImportClick
@@ -142,6 +158,7 @@ object RecordsForm: TRecordsForm
     Top = 314
     Width = 170
     Height = 26
+    Anchors = [akLeft, akBottom]
     SegmentColor = 15780518
   end
   object StatusBar: TStatusBar

@@ -156,6 +156,30 @@ TEST_F(Layout, AContainerFitsWhatStandsInside) {
   EXPECT_EQ(panel->Height(), 45);
 }
 
+TEST_F(Layout, FormsComeUpInTheMiddleOfWhatTheirPositionNames) {
+  const TRect work = Screen()->WorkAreaRect();
+  const TRect desktop(0, 0, ::GetSystemMetrics(SM_CXVIRTUALSCREEN),
+                      ::GetSystemMetrics(SM_CYVIRTUALSCREEN));
+  Form.SetBounds(200, 100, 300, 300);
+  Form.Show();
+  const std::tuple<TPosition, TComponent*, TRect> cases[] = {
+      {poScreenCenter, nullptr, work},
+      {poDesktopCenter, nullptr, desktop},
+      {poOwnerFormCenter, &Form, Form.BoundsRect()},
+      {poOwnerFormCenter, nullptr, work},  // There is no main form either.
+      {poMainFormCenter, &Form, work},
+  };
+  for (const auto& [position, owner, around] : cases) {
+    TForm form(owner);
+    form.SetBounds(1, 2, 100, 80);
+    form.SetPosition(position);
+    form.Show();
+    EXPECT_EQ(form.Left(), around.Left + (around.Width() - 100) / 2) << position;
+    EXPECT_EQ(form.Top(), around.Top + (around.Height() - 80) / 2) << position;
+  }
+  EXPECT_EQ(poScreenCenter, 4) << "stored ordinals stay";
+}
+
 TEST_F(Layout, TheWheelTurnsByNotches) {
   auto* panel = Make<TPanel>(0, 0, 100, 50);
   std::string log;

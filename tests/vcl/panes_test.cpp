@@ -80,9 +80,11 @@ TEST_F(Splitter, TheMouseSizesThePane) {
       {alRight, -20, 0, 80}, {alTop, 0, 15, 75}, {alBottom, 0, -15, 75}};
   for (const auto& [align, dx, dy, size] : cases) {
     const bool across = align == alRight;
-    Pane->SetBounds(0, 0, 60, 60);
+    Pane->SetAlign(alNone);
+    Strip->SetAlign(alNone);
+    Pane->SetBounds(200, align == alBottom ? 100 : 0, 60, 60);
+    Strip->SetBounds(150, align == alBottom ? 50 : 65, 3, 3);
     Pane->SetAlign(align);
-    Strip->SetBounds(across ? 200 : 0, align == alBottom ? 100 : 65, 3, 3);
     Strip->SetAlign(align);
     ASSERT_EQ(Strip->Pane(), Pane) << align;
     Move(dx, dy);

@@ -29,8 +29,9 @@ class Scrolling : public ::testing::Test {
   TControlScrollBar& Horz() { return *Box->HorzScrollBar(); }
   TControlScrollBar& Vert() { return *Box->VertScrollBar(); }
 
-  /// Presses at one point, goes to the other and lets go, from a thread of its own: the system keeps
-  /// this one in a loop while a bar is pressed. Returns where the box was before the button came up.
+  /// Presses at one point, goes to the other and lets go, from a thread of its own: the system
+  /// keeps this one in a loop while a bar is pressed. Returns where the box was before the button
+  /// came up.
   int DragFromElsewhere(TPoint from, TPoint to) {
     testinput::MoveMouse(from);
     std::atomic<int> before = 0;
@@ -135,8 +136,8 @@ TEST_F(Scrolling, TheUserScrollsWithBarWheelAndKeys) {
   EXPECT_GT(DragFromElsewhere(thumb, {thumb.X, thumb.Y + 20}), 100);
   Vert().SetPosition(0);
   Box->SetFocus();
-  const std::pair<WORD, int> keys[] = {{VK_DOWN, 8},     {VK_UP, 0},   {VK_NEXT, 100},
-                                       {VK_END, 920}, {VK_HOME, 0}};
+  const std::pair<WORD, int> keys[] = {
+      {VK_DOWN, 8}, {VK_UP, 0}, {VK_NEXT, 100}, {VK_END, 920}, {VK_HOME, 0}};
   for (const auto& [key, position] : keys) {
     testinput::TypeKey(key);
     EXPECT_TRUE(testinput::PumpUntil([&, at = position] { return Vert().Position() == at; }, 500))

@@ -96,9 +96,9 @@ TSpan Anchored(TSpan span, TSides to, int before, int now) {
   if (to.End) return {span.Begin + grown, span.End + grown};
   // Between the edges the middle keeps its share of the way.
   const int size = span.End - span.Begin;
-  const int begin = before == 0 ? span.Begin
-                                : ::MulDiv((span.Begin + span.End) * now - size * before, 1,
-                                           2 * before);
+  const int begin = before == 0
+                        ? span.Begin
+                        : ::MulDiv((span.Begin + span.End) * now - size * before, 1, 2 * before);
   return {begin, begin + size};
 }
 

@@ -17,8 +17,7 @@ namespace vcl {
 
 const TClass& TCustomForm::Class() {
   static const TClass info =
-      Describe<TCustomForm, TScrollingWinControl>("vcl::TCustomForm",
-                                                                      "vcl/forms/forms.h", {});
+      Describe<TCustomForm, TScrollingWinControl>("vcl::TCustomForm", "vcl/forms/forms.h", {});
   return info;
 }
 

@@ -25,8 +25,8 @@ void RegisterStandardClasses() {
                      &TSaveDialog::Class(), &TSpeedButton::Class(), &TStatusBar::Class(),
                      &TTabSheet::Class(),   &TTimer::Class(),       &TTrackBar::Class(),
                      &TTreeView::Class(),   &TFrame::Class()});
-    RegisterClasses({&TFlowPanel::Class(), &TGridPanel::Class(), &TScrollBox::Class(),
-                     &TSplitter::Class()});
+    RegisterClasses(
+        {&TFlowPanel::Class(), &TGridPanel::Class(), &TScrollBox::Class(), &TSplitter::Class()});
     return true;
   }();
   static_cast<void>(done);

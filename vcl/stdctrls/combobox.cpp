@@ -47,8 +47,8 @@ const TClass& TComboBox::Class() {
           Inherit("OnClick"),        Inherit("OnCloseUp"),   Inherit("OnDblClick"),
           Inherit("OnDragDrop"),     Inherit("OnDragOver"),  Inherit("OnDrawItem"),
           Inherit("OnDropDown"),     Inherit("OnEndDrag"),   Inherit(FocusEvents),
-          Inherit(KeyEvents),        Inherit(WheelEvents), Inherit("OnStartDrag"), Inherit("Items"),
-          Inherit("ItemIndex"),
+          Inherit(KeyEvents),        Inherit(WheelEvents),   Inherit("OnStartDrag"),
+          Inherit("Items"),          Inherit("ItemIndex"),
       });
   return info;
 }

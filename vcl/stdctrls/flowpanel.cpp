@@ -163,8 +163,8 @@ void TFlowPanel::AlignControls(TControl*, TRect& rect) {
     if (watch.Gone()) return;
     if (ControlIndex(each) < 0 || !each->Seen()) continue;
     const TRect around = MarginsOf(*each);
-    const TRect place = flow.Next({around.Left + each->Width() + around.Right,
-                                   around.Top + each->Height() + around.Bottom});
+    const TRect place = flow.Next(
+        {around.Left + each->Width() + around.Right, around.Top + each->Height() + around.Bottom});
     each->SetBounds(place.Left + around.Left, place.Top + around.Top, each->Width(),
                     each->Height());
   }

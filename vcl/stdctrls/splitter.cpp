@@ -226,8 +226,8 @@ void TSplitter::ToggleLine() {
   if (FResizeStyle != rsLine && FResizeStyle != rsPattern) return;
   if (!Parent() || !Parent()->HandleAllocated()) return;
   FLineShown = !FLineShown;
-  const int way = (Align() == alLeft || Align() == alTop) ? FNewSize - FOldSize
-                                                          : FOldSize - FNewSize;
+  const int way =
+      (Align() == alLeft || Align() == alTop) ? FNewSize - FOldSize : FOldSize - FNewSize;
   TRect line = BoundsRect();
   Across() ? line.Offset(way, 0) : line.Offset(0, way);
   static constexpr WORD points[] = {0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA};
