@@ -51,9 +51,9 @@ std::string Binary(const std::string& text) {
 
 constexpr const char* Heading = "object Form: TForm\n  ClientWidth = 1000\n  ClientHeight = 720\n";
 
-std::string FormFile() {
+std::string FormFile(int controls = Controls) {
   std::string text = Heading;
-  for (int i = 0; i < Controls; ++i) {
+  for (int i = 0; i < controls; ++i) {
     text += "  object Control" + std::to_string(i) + ": " + KindOf(i).Class + "\n";
     text += Line("Left", LeftOf(i)) + Line("Top", TopOf(i)) + Line("Width", Width) +
             Line("Height", Height) + "  end\n";
@@ -74,6 +74,15 @@ void ReadForm(const std::string& file) {
   vcl::TForm form(nullptr);
   vcl::TStringStream stream(file);
   vcl::ReadComponentFile(stream, &form);
+}
+
+/// The first half of the controls, on a form that is shown.
+constexpr int ScaledControls = Controls / 2;
+
+void ScaleForm(vcl::TForm& form) {
+  const int pixels = form.PixelsPerInch() == 96 ? 144 : 96;
+  form.ScaleForPPI(pixels);
+  form.Update();
 }
 
 void MakeForm(const std::string& file) {
@@ -116,6 +125,18 @@ void Forms() {
                   "Read and freed, never shown. At most 5: the time grows as the file does.",
                   {"read, freed"});
   siblings.Add("TLabel", {Compare([&] { ReadForm(many); }, [&] { ReadForm(few); })});
+
+  const std::string half = FormFile(ScaledControls);
+  vcl::TForm shown(nullptr);
+  vcl::TStringStream stream(half);
+  vcl::ReadComponentFile(stream, &shown);
+  shown.Show();
+  shown.Update();
+  TTable scaling("A form of 500 controls scaled, against making it",
+                 "From 96 dots per inch to 144 and back in turn, shown; made, shown and freed. At "
+                 "most 0.5.",
+                 {"scaled"});
+  scaling.Add("TForm", {Compare([&] { ScaleForm(shown); }, [&] { MakeForm(half); })});
 }
 
 }  // namespace bench

@@ -1,6 +1,7 @@
 // Saving a picture of each page.
 #include "demos/gallery/screenshots.h"
 
+#include "demos/common/resolution.h"
 #include "vcl/forms/formpicture.h"
 #include "vcl/graphics/png.h"
 #include "vcl/rtl/files.h"
@@ -27,6 +28,7 @@ std::vector<std::string> SaveScreenshots(TGalleryForm& form, const std::string& 
   vcl::ForceDirectories(folder);
   form.SetFormStyle(fsStayOnTop);
   form.Show();
+  demos::ScaleForPictures(form);
   std::vector<std::string> names;
   for (int i = 0; i < form.Pages->PageCount(); ++i) {
     TTabSheet* page = form.Pages->Pages(i);

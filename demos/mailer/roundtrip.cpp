@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "demos/common/resolution.h"
 #include "demos/mailer/dialogs.h"
 #include "demos/mailer/mailerform.h"
 #include "vcl/forms/formpicture.h"
@@ -93,6 +94,7 @@ std::vector<std::string> SaveScreenshots(TMailerForm& form, const std::string& f
   const auto take = [&](TCustomForm& shown, const char* name) {
     shown.SetFormStyle(fsStayOnTop);
     shown.TCustomForm::Show();
+    demos::ScaleForPictures(shown);
     TBitmap picture;
     vcl::TakePicture(shown, vcl::TFormPart::Whole, picture);
     names.push_back(Concat(folder, "/", name, ".png"));

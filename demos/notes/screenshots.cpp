@@ -1,6 +1,7 @@
 // Saving pictures of the program's forms.
 #include "demos/notes/screenshots.h"
 
+#include "demos/common/resolution.h"
 #include "demos/notes/notesform.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/formpicture.h"
@@ -36,6 +37,7 @@ std::vector<std::string> SaveScreenshots(TNotesForm& form, const std::string& fo
   const auto take = [&](TCustomForm& shown, const char* name) {
     shown.SetFormStyle(fsStayOnTop);
     shown.Show();
+    demos::ScaleForPictures(shown);
     bool done = true;
     Application()->OnIdle(nullptr, done);  // The status bar is filled when nothing else is to do.
     TBitmap picture;

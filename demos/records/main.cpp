@@ -6,6 +6,7 @@
 #include <exception>
 #include <string>
 
+#include "demos/common/resolution.h"
 #include "demos/records/recordsform.h"
 #include "vcl/dbctrls/registration.h"
 #include "vcl/forms/application.h"
@@ -27,6 +28,7 @@ int TakeScreenshot(TRecordsForm& form, const std::string& folder) {
   form.Import(text);
   form.SetFormStyle(vcl::fsStayOnTop);
   form.Show();
+  demos::ScaleForPictures(form);
   vcl::TBitmap picture;
   vcl::TakePicture(form, vcl::TFormPart::Whole, picture);
   SavePng(picture, folder + "/records.png");

@@ -29,7 +29,7 @@ std::unique_ptr<TSurface> Written(HDC dc, const TRect& visible, const TQELFont3D
                                   const std::string& text, unsigned flags) {
   auto copy = std::make_unique<TCopy>(dc, visible);
   vcl::TFont face;
-  face.Assign(&font);
+  face.AssignPixels(&font);
   face.SetColor(color);
   font3D.Write(&face, copy->DC(), rect, text, flags, true);
   ::GdiFlush();

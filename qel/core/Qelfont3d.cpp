@@ -23,7 +23,7 @@ class TTextLayers {
     // With DT_MODIFYSTRING the system may write an ellipsis, and a zero, behind the text.
     FText.append(4, L'\0');
     FBrush.SetStyle(vcl::bsClear);
-    FFont.Assign(font);
+    FFont.AssignPixels(font);
     const HBRUSH brush = FBrush.Handle();
     const HFONT layerFont = FFont.Handle();
     FSavedLevel = ::SaveDC(dc);
