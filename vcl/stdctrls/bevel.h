@@ -18,6 +18,7 @@ class VCL_API TBevel : public TGraphicControl {
   explicit TBevel(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   TBevelShape Shape() const { return FShape; }
   void SetShape(TBevelShape shape);

@@ -16,6 +16,7 @@ class VCL_API TCustomListBox : public TCustomListControl {
   explicit TCustomListBox(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   TBorderStyle BorderStyle() const { return FBorderStyle; }
   /// Takes bsNone and bsSingle; raises EArgumentOutOfRangeException for the others.

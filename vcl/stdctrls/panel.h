@@ -18,6 +18,7 @@ class VCL_API TCustomPanel : public TCustomControl {
   explicit TCustomPanel(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   TAlignment Alignment() const { return FAlignment; }
   void SetAlignment(TAlignment alignment);
