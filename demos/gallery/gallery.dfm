@@ -13,6 +13,7 @@ object GalleryForm: TGalleryForm
     Top = 0
     Width = 960
     Height = 616
+    AccessibleName = 'Pages'
     ActivePage = ButtonsPage
     Align = alClient
     TabOrder = 0
@@ -501,6 +502,7 @@ object GalleryForm: TGalleryForm
         Width = 148
         Height = 44
         Hint = 'A button without a caption has its glyph in the middle'
+        AccessibleName = 'Glyph only'
         Glyph.TransparentColor = clFuchsia
         Glyph.Bitmap.Data = {
           F6040000424DF604000000000000760000002800000060000000180000000100
@@ -884,6 +886,7 @@ object GalleryForm: TGalleryForm
         Width = 148
         Height = 92
         Hint = 'Collects the captions of what is dropped'
+        AccessibleName = 'Dropped captions'
         ItemHeight = 13
         TabOrder = 27
         OnDragDrop = DropListDragDrop
@@ -981,6 +984,7 @@ object GalleryForm: TGalleryForm
         Top = 496
         Width = 616
         Height = 84
+        AccessibleName = 'Events'
         ItemHeight = 13
         TabOrder = 30
       end
@@ -5618,6 +5622,7 @@ object GalleryForm: TGalleryForm
         Top = 50
         Width = 148
         Height = 20
+        AccessibleName = 'Without bounds'
         TabOrder = 0
         MaxValue = 0
         Value = 123456789
@@ -5627,6 +5632,7 @@ object GalleryForm: TGalleryForm
         Top = 50
         Width = 148
         Height = 20
+        AccessibleName = 'Percent'
         TabOrder = 1
         LineSize = 5
         MultipleLineSize = 25
@@ -5637,6 +5643,7 @@ object GalleryForm: TGalleryForm
         Top = 50
         Width = 148
         Height = 20
+        AccessibleName = 'Degrees'
         TabOrder = 2
         MaxValue = 60
         MinValue = -40
@@ -5647,6 +5654,7 @@ object GalleryForm: TGalleryForm
         Top = 50
         Width = 148
         Height = 20
+        AccessibleName = 'Turned round'
         TabOrder = 3
         LineSize = -1
         MaxValue = 20
@@ -5658,6 +5666,7 @@ object GalleryForm: TGalleryForm
         Top = 160
         Width = 148
         Height = 20
+        AccessibleName = 'Sky'
         ButtonColor = clAqua
         ArrowColor = clNavy
         TabOrder = 4
@@ -5668,6 +5677,7 @@ object GalleryForm: TGalleryForm
         Top = 160
         Width = 148
         Height = 20
+        AccessibleName = 'Leaf'
         ButtonColor = clGreen
         ArrowColor = clYellow
         TabOrder = 5
@@ -5678,6 +5688,7 @@ object GalleryForm: TGalleryForm
         Top = 160
         Width = 148
         Height = 20
+        AccessibleName = 'Night'
         Color = 13434879
         ButtonColor = clNavy
         ArrowColor = clWhite
@@ -5689,6 +5700,7 @@ object GalleryForm: TGalleryForm
         Top = 160
         Width = 148
         Height = 20
+        AccessibleName = 'Rose'
         Color = 16113331
         ButtonColor = clMaroon
         ArrowColor = clSilver
@@ -5700,6 +5712,7 @@ object GalleryForm: TGalleryForm
         Top = 250
         Width = 148
         Height = 20
+        AccessibleName = 'Free'
         TabOrder = 8
         Value = 10
       end
@@ -5708,6 +5721,7 @@ object GalleryForm: TGalleryForm
         Top = 250
         Width = 148
         Height = 20
+        AccessibleName = 'Without cut and paste'
         TabOrder = 9
         CutandPaste = False
         Value = 20
@@ -5717,6 +5731,7 @@ object GalleryForm: TGalleryForm
         Top = 250
         Width = 148
         Height = 20
+        AccessibleName = 'Read-only'
         TabOrder = 10
         Readonly = True
         Value = 30
@@ -5726,6 +5741,7 @@ object GalleryForm: TGalleryForm
         Top = 250
         Width = 148
         Height = 20
+        AccessibleName = 'Disabled'
         Enabled = False
         TabOrder = 11
         Value = 40
@@ -5735,6 +5751,7 @@ object GalleryForm: TGalleryForm
         Top = 324
         Width = 148
         Height = 18
+        AccessibleName = 'Small'
         Font.Charset = DEFAULT_CHARSET
         Font.Color = clBlack
         Font.Height = -9
@@ -5749,6 +5766,7 @@ object GalleryForm: TGalleryForm
         Top = 324
         Width = 148
         Height = 25
+        AccessibleName = 'Bold'
         Font.Charset = DEFAULT_CHARSET
         Font.Color = clNavy
         Font.Height = -16
@@ -5763,6 +5781,7 @@ object GalleryForm: TGalleryForm
         Top = 324
         Width = 148
         Height = 35
+        AccessibleName = 'Serif'
         Font.Charset = DEFAULT_CHARSET
         Font.Color = clGreen
         Font.Height = -24
@@ -5777,6 +5796,7 @@ object GalleryForm: TGalleryForm
         Top = 324
         Width = 148
         Height = 49
+        AccessibleName = 'Large'
         Font.Charset = DEFAULT_CHARSET
         Font.Color = clMaroon
         Font.Height = -37
@@ -5791,6 +5811,7 @@ object GalleryForm: TGalleryForm
         Top = 424
         Width = 300
         Height = 31
+        AccessibleName = 'Sample'
         ButtonColor = clTeal
         ArrowColor = clWhite
         Font.Charset = DEFAULT_CHARSET
@@ -6103,6 +6124,7 @@ object GalleryForm: TGalleryForm
         Top = 30
         Width = 420
         Height = 380
+        AccessibleName = 'Folders'
         HideSelection = False
         Indent = 19
         TabOrder = 0
@@ -6152,6 +6174,7 @@ object GalleryForm: TGalleryForm
         Top = 172
         Width = 180
         Height = 20
+        AccessibleName = 'Folder'
         TabOrder = 6
         Text = ''
       end
@@ -6403,6 +6426,7 @@ object GalleryForm: TGalleryForm
         Width = 148
         Height = 20
         Hint = 'The hint of an edit'
+        AccessibleName = 'Edit with a hint'
         TabOrder = 4
         Text = 'An edit'
       end
@@ -6433,6 +6457,7 @@ object GalleryForm: TGalleryForm
         Width = 148
         Height = 21
         Hint = 'The hint of a list'
+        AccessibleName = 'List with a hint'
         TabOrder = 7
         Text = 'A list'
         Items.Strings = (

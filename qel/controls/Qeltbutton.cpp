@@ -93,6 +93,7 @@ void TQELButton::SetQELGlyph(const TQELGlyph* glyph) {
 
 void TQELButton::SetEnabled(bool enabled) {
   FEnabled = enabled;
+  AccessibleChanged(vcl::acState);
   Invalidate();
 }
 
@@ -163,6 +164,7 @@ void TQELButton::SetDown(bool down) {
   FDown = down;
   // One press gives one click, whatever is released first.
   if (!down) ExcludeState(vcl::csClicked);
+  AccessibleChanged(vcl::acState);
   PaintNow();
 }
 
@@ -233,6 +235,16 @@ void TQELButton::DispatchPress(vcl::TMessage& message) {
   if (!release) return TQELCustomControl::Dispatch(message);
   const vcl::TSetFor releasing(FReleasing, true, this);
   TQELCustomControl::Dispatch(message);
+}
+
+// Screen readers.
+
+void TQELButton::DescribeAccessible(vcl::TAccessibleInfo& info) const {
+  TQELCustomControl::DescribeAccessible(info);
+  info.Role = vcl::arPushButton;
+  info.DefaultAction = "Press";
+  if (!FEnabled) info.State.Include(vcl::asDisabled);
+  if (FDown) info.State.Include(vcl::asPressed);
 }
 
 }  // namespace qel

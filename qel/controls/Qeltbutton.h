@@ -19,6 +19,7 @@ class QEL_API TQELButton : public TQELCustomControl {
   ~TQELButton() override;
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(vcl::TAccessibleInfo& info) const override;
 
   /// How the caption is written.
   TQELFont3D* Font3D() const { return FFont3D.get(); }

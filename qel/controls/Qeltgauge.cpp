@@ -168,7 +168,8 @@ void TQELGauge::SetInsideBackColor(vcl::TColor color) {
 }
 
 void TQELGauge::SetPercentage(int percentage) {
-  FPercentage = std::clamp(percentage, 0, 100);
+  percentage = std::clamp(percentage, 0, 100);
+  if (std::exchange(FPercentage, percentage) != percentage) AccessibleChanged(vcl::acValue);
   if (Designing()) Invalidate();
   UpdateProgress();
 }
@@ -320,6 +321,13 @@ TRect TQELGauge::Run(const TRect& bar, TRange lines) const {
   }
   const auto [left, right] = across(bar.Left, bar.Right);
   return {left, first, right, end};
+}
+
+void TQELGauge::DescribeAccessible(vcl::TAccessibleInfo& info) const {
+  TQELGraphicControl::DescribeAccessible(info);
+  info.Role = vcl::arProgressBar;
+  info.State.Include(vcl::asReadOnly);
+  info.Value = std::to_string(FPercentage) + "%";
 }
 
 }  // namespace qel

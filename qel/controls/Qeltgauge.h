@@ -18,6 +18,7 @@ class QEL_API TQELGauge : public TQELGraphicControl {
   ~TQELGauge() override;
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(vcl::TAccessibleInfo& info) const override;
 
   /// The image beside the bar.
   TQELGlyph* Glyph() const { return FGlyph.get(); }

@@ -22,6 +22,9 @@ class QEL_API TQELCustomSpinButton : public TQELGraphicControl {
   ~TQELCustomSpinButton() override;
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(vcl::TAccessibleInfo& info) const override;
+  std::vector<vcl::TAccessiblePart> AccessibleParts() override;
+  void DoAccessiblePart(const vcl::TAccessiblePath& part) override;
 
   void SetColor(vcl::TColor color) override;
   vcl::TColor ArrowColor() const { return FArrowColor; }
@@ -84,6 +87,7 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   ~TQELCustomSpinEdit() override;
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(vcl::TAccessibleInfo& info) const override;
 
   vcl::TColor ButtonColor() const { return FButton->Color(); }
   /// The colour of the button's surface.

@@ -213,4 +213,29 @@ void TQELCustomSpinButton::Dispatch(vcl::TMessage& message) {
   SetDown(Enabled() ? bsUp : bsDisabled);
 }
 
+// Screen readers: the halves are parts, each told of by the quarter in its corner.
+
+void TQELCustomSpinButton::DescribeAccessible(vcl::TAccessibleInfo& info) const {
+  TQELGraphicControl::DescribeAccessible(info);
+  info.Role = vcl::arSpinButton;
+}
+
+std::vector<vcl::TAccessiblePart> TQELCustomSpinButton::AccessibleParts() {
+  const auto half = [](const char* name, const TRect& bounds, bool pressed) {
+    vcl::TAccessibleInfo info;
+    info.Role = vcl::arPushButton;
+    info.Name = name;
+    info.DefaultAction = "Press";
+    if (pressed) info.State.Include(vcl::asPressed);
+    return vcl::TAccessiblePart{info, bounds, {}};
+  };
+  const TPoint middle{Width() / 2, Height() / 2};
+  return {half("Up", {0, 0, middle.X, middle.Y}, FState == bsTopDown),
+          half("Down", {middle.X, middle.Y, Width(), Height()}, FState == bsBottomDown)};
+}
+
+void TQELCustomSpinButton::DoAccessiblePart(const vcl::TAccessiblePath& part) {
+  part.front() == 0 ? OnTopClick(this) : OnBottomClick(this);
+}
+
 }  // namespace qel

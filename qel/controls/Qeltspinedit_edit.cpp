@@ -242,4 +242,10 @@ void TQELCustomSpinEdit::Resize() {
   if (!watch.Gone()) AdjustSize();
 }
 
+// The text that is typed is told of, whatever number it is read as.
+void TQELCustomSpinEdit::DescribeAccessible(vcl::TAccessibleInfo& info) const {
+  TCustomEdit::DescribeAccessible(info);
+  info.Role = vcl::arSpinButton;
+}
+
 }  // namespace qel

@@ -1,6 +1,7 @@
 // Data-aware controls with real input: an edit and a grid over records in memory.
 #include <gmock/gmock.h>
 
+#include "tests/support/screenreader.h"
 #include "tests/vcl/standardform.h"
 #include "vcl/db/memorydataset.h"
 #include "vcl/dbctrls/dbedit.h"
@@ -147,6 +148,50 @@ TEST_F(DataControls, AGridMarksTheCurrentRowAndShowsNumbersAtTheRight) {
   Data.EmptyTable();
   Data.Close();
   grid->Update();
+}
+
+TEST_F(DataControls, AGridTellsScreenReadersOfItsRowsAndCells) {
+  using namespace screenreader;
+  auto* grid = Make<TDBGrid>(10, 10);
+  grid->SetBounds(10, 10, 300, 200);
+  grid->SetDataSource(&Source);
+  grid->SetAccessibleName("People");
+  ShowForm();
+  grid->SetFocus();
+  const TSpoken table = OfWindow(grid->Handle());
+  EXPECT_EQ(table.Role(), ROLE_SYSTEM_TABLE);
+  EXPECT_EQ(table.Name(), "People");
+  std::vector<TSpoken> rows = ChildrenOf(table);
+  ASSERT_EQ(rows.size(), 4u);
+  const std::vector<TSpoken> titles = ChildrenOf(rows[0]);
+  ASSERT_EQ(titles.size(), 2u);
+  EXPECT_EQ(titles[0].Role(), ROLE_SYSTEM_COLUMNHEADER);
+  EXPECT_EQ(titles[1].Name(), "Money");
+  EXPECT_EQ(rows[2].Name().rfind("Bob; ", 0), 0u) << rows[2].Name();
+  const TSpoken cell = ChildrenOf(rows[2])[0];
+  EXPECT_EQ(cell.Role(), ROLE_SYSTEM_CELL);
+  EXPECT_EQ(cell.Name(), "Name");
+  EXPECT_EQ(cell.Value(), "Bob");
+  EXPECT_TRUE(rows[1].Has(STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED));
+
+  // The places are those where the mouse finds the rows.
+  TListener listener;
+  const RECT place = cell.Place();
+  testinput::Click({static_cast<int>(place.left + 3), static_cast<int>(place.bottom - 3)});
+  EXPECT_EQ(Name(), "Bob");
+  const auto heard = [&](const char* name) {
+    return testinput::PumpUntil(
+        [&] { return listener.Heard(EVENT_OBJECT_FOCUS, rows[name[0] - 'A' + 1u].Name()); });
+  };
+  EXPECT_TRUE(heard("Bob"));
+  EXPECT_EQ(rows[3].Do(), S_OK);
+  EXPECT_TRUE(heard("Cid"));
+  EXPECT_EQ(Name(), "Cid");
+  EXPECT_TRUE(rows[3].Has(STATE_SYSTEM_SELECTED));
+  const TSpoken focus = Ask(table, &IAccessible::get_accFocus);
+  EXPECT_EQ(focus.Name(), rows[3].Name());
+  Data.Close();
+  EXPECT_EQ(ChildrenOf(table).size(), 0u);
 }
 
 }  // namespace

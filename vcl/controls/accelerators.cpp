@@ -27,4 +27,23 @@ bool IsAccel(WPARAM character, std::string_view caption) {
   return false;
 }
 
+std::string WithoutAccel(std::string_view caption) {
+  std::string text;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == '&' && ++i == caption.size()) break;
+    text += caption[i];
+  }
+  return text;
+}
+
+std::string AccelKeys(std::string_view caption) {
+  const std::wstring text = ToUtf16(caption);
+  for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+    if (text[i] != L'&') continue;
+    ++i;
+    if (text[i] != L'&') return "Alt+" + ToUtf8(std::wstring(1, Upper(text[i])));
+  }
+  return {};
+}
+
 }  // namespace vcl

@@ -24,6 +24,8 @@ const TClass& TControl::Class() {
           Property<&TControl::Height, &TControl::SetHeight>("Height"),
           Property<&TControl::Cursor, &TControl::SetCursor>("Cursor").Default(crDefault),
           Property<&TControl::Hint, &TControl::SetHint>("Hint").Default(""),
+          Property<&TControl::AccessibleName, &TControl::SetAccessibleName>("AccessibleName")
+              .Default(""),
           Property<&TControl::Anchors, &TControl::SetAnchors>("Anchors").Default(
               TAnchors{akLeft, akTop}),
           Property<&TControl::AlignWithMargins, &TControl::SetAlignWithMargins>("AlignWithMargins")

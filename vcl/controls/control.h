@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "vcl/controls/accessible.h"
 #include "vcl/controls/controltypes.h"
 #include "vcl/controls/layout.h"
 #include "vcl/controls/messages.h"
@@ -159,6 +160,26 @@ class VCL_API TControl : public TComponent {
   bool ParentShowHint() const { return FParentShowHint; }
   /// True: ShowHint is the parent's, and follows it.
   void SetParentShowHint(bool parentShowHint);
+
+  // Screen readers (control_accessible.cpp).
+  const std::string& AccessibleName() const { return FAccessibleName; }
+  /// What a screen reader calls the control, instead of its caption or of its label's.
+  void SetAccessibleName(const std::string& name);
+  /// Tells what a screen reader is told. The inherited method knows the caption, where one is
+  /// published, its accelerator, the hint and whether the control is disabled or invisible.
+  virtual void DescribeAccessible(TAccessibleInfo& info) const;
+  /// What DescribeAccessible tells, under the name that AccessibleName or the label gives.
+  TAccessibleInfo Accessible() const;
+  /// Does what DefaultAction of its description says. The inherited method clicks.
+  virtual void DoAccessibleAction() { Click(); }
+  /// The parts that are seen now and are no controls; here: none.
+  virtual std::vector<TAccessiblePart> AccessibleParts() { return {}; }
+  /// Does the default action of a part, or selects it when it has none.
+  virtual void DoAccessiblePart(const TAccessiblePath& /*part*/) {}
+  /// The control whose name this one's caption is; null for none.
+  virtual const TControl* Labelled() const { return nullptr; }
+  /// Tells screen readers of a change of the control, or of a part. Does nothing without a window.
+  void AccessibleChanged(TAccessibleChange change, const TAccessiblePath& part = {}) const;
 
   // Painting.
   /// Has the control painted again when the system next asks for it.
@@ -350,6 +371,7 @@ class VCL_API TControl : public TComponent {
   TPopupMenu* FPopupMenu = nullptr;
   std::string FText;
   std::string FHint;
+  std::string FAccessibleName;
 };
 
 /// A control without a window of its own: its parent's window paints it and passes it the mouse.
@@ -359,6 +381,7 @@ class VCL_API TGraphicControl : public TControl {
   ~TGraphicControl() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
  protected:
   /// Paints the control with `Canvas`, whose (0, 0) is the control's top left.

@@ -172,10 +172,12 @@ void TControl::DispatchNotice(TMessage& message) {
       return;
     case CM_VISIBLECHANGED:
       // What a control that vanishes leaves behind has to be painted.
+      AccessibleChanged(acState);
       return InvalidateArea(true, FVisible && FControlStyle.Has(csOpaque));
+    case CM_TEXTCHANGED: return AccessibleChanged(acName);
+    case CM_ENABLEDCHANGED: AccessibleChanged(acState); return Invalidate();
     case CM_FONTCHANGED:
     case CM_COLORCHANGED:
-    case CM_ENABLEDCHANGED:
     case CM_SYSCOLORCHANGE: return Invalidate();
     case CM_HITTEST: message.Result = 1; return;
     default: return;

@@ -132,6 +132,7 @@ class VCL_API TWinControl : public TControl {
   void SetTextBuf(const char* text) override;
   HDC GetDeviceContext(HWND& window) override;
   void WndProc(TMessage& message) override;
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   /// Offers a key message to the library before the system sees it (tab, menu and dialog keys);
   /// true when it is handled. For message loops.
@@ -276,6 +277,7 @@ class VCL_API TWinControl : public TControl {
   void WMSetCursor(TMessage& message);
   void WMContextMenu(TMessage& message);
   void WMCancelMode(TMessage& message);
+  void WMGetObject(TMessage& message);
   void CNCtlColor(TMessage& message);
 
   HWND FHandle = nullptr;

@@ -113,6 +113,7 @@ void TWinControl::DispatchWindow(TMessage& message) {
     case WM_SETCURSOR: return WMSetCursor(message);
     case WM_CONTEXTMENU: return WMContextMenu(message);
     case WM_CANCELMODE: return WMCancelMode(message);
+    case WM_GETOBJECT: return WMGetObject(message);
     case CN_CTLCOLOR: return CNCtlColor(message);
     default: return TControl::Dispatch(message);
   }

@@ -2,9 +2,11 @@
 #include "vcl/dbctrls/dbgrids.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "vcl/controls/propertygroups.h"
 #include "vcl/graphics/canvas.h"
+#include "vcl/graphics/handles.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/win32.h"
 
@@ -94,6 +96,7 @@ void TDBGrid::DataChanged() {
   FLink.SetBufferCount(ClientRect().Bottom / RowHeight() - 1);
   ShowScrollPosition();
   Invalidate();
+  TellCurrent();
 }
 
 void TDBGrid::ShowScrollPosition() {
@@ -111,12 +114,20 @@ void TDBGrid::ShowScrollPosition() {
   ::SetScrollInfo(Handle(), SB_VERT, &info, TRUE);
 }
 
-int TDBGrid::RowHeight() {
+int TDBGrid::RowHeight() const {
   const int height = std::abs(Font()->Height());
   return std::max(height, ScaledPixels(8)) + 2 * Margin() + 2;
 }
 
 int TDBGrid::Margin() const { return ScaledPixels(TextMargin); }
+
+int TDBGrid::ColumnWidth(const TField& field) const {
+  const TWindowDC screen(nullptr);
+  const TSelection font(screen.Get(), Font()->Handle());
+  SIZE digit{};
+  ::GetTextExtentPoint32W(screen.Get(), L"0", 1, &digit);
+  return field.DisplayWidth() * static_cast<int>(digit.cx) + 2 * Margin();
+}
 
 void TDBGrid::Paint() {
   TCanvas& canvas = *Canvas();
@@ -142,7 +153,7 @@ void TDBGrid::PaintTitles() {
   for (const TField* field : FLink.DataSet()->Fields()) {
     if (!field->Visible()) continue;
     cell.Left = cell.Right;
-    cell.Right += field->DisplayWidth() * canvas.TextWidth("0") + 2 * Margin();
+    cell.Right += ColumnWidth(*field);
     PaintCell(cell, field->DisplayLabel(), false);
   }
 }
@@ -156,15 +167,16 @@ void TDBGrid::PaintRow(int row, bool current) {
   for (const TField* field : FLink.DataSet()->Fields()) {
     if (!field->Visible()) continue;
     cell.Left = cell.Right;
-    cell.Right += field->DisplayWidth() * canvas.TextWidth("0") + 2 * Margin();
+    cell.Right += ColumnWidth(*field);
     PaintCell(cell, field->DisplayText(), IsNumber(field->DataType()));
   }
 }
 
 void TDBGrid::PaintCell(const TRect& rect, const std::string& text, bool right) {
   TCanvas& canvas = *Canvas();
-  const int x = right ? std::max(rect.Left + Margin(), rect.Right - Margin() - canvas.TextWidth(text))
-                      : rect.Left + Margin();
+  const int x = right
+                    ? std::max(rect.Left + Margin(), rect.Right - Margin() - canvas.TextWidth(text))
+                    : rect.Left + Margin();
   canvas.TextRect({rect.Left, rect.Top, rect.Right - 1, rect.Bottom - 1}, x, rect.Top + Margin(),
                   text);
   canvas.Pen()->SetColor(clBtnShadow);
@@ -217,6 +229,67 @@ void TDBGrid::Dispatch(TMessage& message) {
     case WM_GETDLGCODE: message.Result = DLGC_WANTARROWS; return;
     default: TCustomControl::Dispatch(message);
   }
+}
+
+// Screen readers: the titles are the first part, and the records that are seen follow.
+
+void TDBGrid::DescribeAccessible(TAccessibleInfo& info) const {
+  TCustomControl::DescribeAccessible(info);
+  info.Role = arTable;
+  info.State.Include(asReadOnly);
+}
+
+TAccessiblePart TDBGrid::DescribeRow(int row, bool titles) const {
+  TAccessiblePart part;
+  part.Role = arRow;
+  const int top = row * RowHeight();
+  int right = 0;
+  for (const TField* field : FLink.DataSet()->Fields()) {
+    if (!field->Visible()) continue;
+    TAccessiblePart& cell = part.Parts.emplace_back();
+    cell.Role = titles ? arColumnHeader : arCell;
+    cell.State = {asReadOnly};
+    cell.Name = field->DisplayLabel();
+    const int left = right;
+    right += ColumnWidth(*field);
+    cell.Bounds = {left, top, right, top + RowHeight()};
+    if (titles) continue;
+    cell.Value = field->DisplayText();
+    part.Name += (part.Name.empty() ? "" : "; ") + cell.Value;
+  }
+  part.Bounds = {0, top, right, top + RowHeight()};
+  return part;
+}
+
+std::vector<TAccessiblePart> TDBGrid::AccessibleParts() {
+  std::vector<TAccessiblePart> rows;
+  if (!FLink.Active()) return rows;
+  rows.push_back(DescribeRow(0, true));
+  const int current = FLink.ActiveRecord();
+  for (int row = 0; row < FLink.RecordCount(); ++row) {
+    FLink.SetActiveRecord(row);
+    TAccessiblePart& part = rows.emplace_back(DescribeRow(row + 1, false));
+    part.State = {asFocusable, asSelectable};
+    part.DefaultAction = "Select";
+    if (row == current) part.State.Include(asSelected);
+    if (row == current && Focused()) part.State.Include(asFocused);
+  }
+  if (FLink.RecordCount() > 0) FLink.SetActiveRecord(current);
+  return rows;
+}
+
+void TDBGrid::DoAccessiblePart(const TAccessiblePath& part) {
+  const int row = part.front() - 1;
+  if (row >= 0 && row < FLink.RecordCount()) MoveBy(row - FLink.ActiveRecord());
+}
+
+void TDBGrid::TellCurrent() {
+  const TDataSet* data = FLink.Active() ? FLink.DataSet() : nullptr;
+  const int record = data && FLink.RecordCount() > 0 ? data->RecNo() : 0;
+  if (std::exchange(FToldRecord, record) == record || record == 0) return;
+  const TAccessiblePath row{FLink.ActiveRecord() + 1};
+  AccessibleChanged(acSelection, row);
+  if (Focused()) AccessibleChanged(acFocus, row);
 }
 
 }  // namespace vcl

@@ -15,6 +15,9 @@ class VCL_API TDBGrid : public TCustomControl {
   ~TDBGrid() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
+  std::vector<TAccessiblePart> AccessibleParts() override;
+  void DoAccessiblePart(const TAccessiblePath& part) override;
 
   TDataSource* DataSource() const { return FLink.DataSource(); }
   /// The source of the data set whose records are shown; null for none.
@@ -46,16 +49,21 @@ class VCL_API TDBGrid : public TCustomControl {
 
   void DataChanged();
   void ShowScrollPosition();
-  int RowHeight();
+  int RowHeight() const;
   int Margin() const;
+  int ColumnWidth(const TField& field) const;
   void PaintTitles();
   void PaintRow(int row, bool current);
   void PaintCell(const TRect& rect, const std::string& text, bool right);
   /// Goes by a command of the scroll bar.
   void Scroll(int command);
   void MoveBy(int distance);
+  /// Tells screen readers of another current record.
+  void TellCurrent();
+  TAccessiblePart DescribeRow(int row, bool titles) const;
 
   TLink FLink;
+  int FToldRecord = 0;  // Which one screen readers know as the current one.
 };
 
 }  // namespace vcl

@@ -101,6 +101,7 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   ~TCustomForm() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   /// Closes the form as a user would: asks CloseQuery and OnClose. Closing the main form ends the
   /// application.

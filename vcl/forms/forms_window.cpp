@@ -291,4 +291,12 @@ bool TCustomForm::DispatchNotice(TMessage& message) {
   }
 }
 
+void TCustomForm::DescribeAccessible(TAccessibleInfo& info) const {
+  TWinControl::DescribeAccessible(info);
+  info.Role = FModal || FBorderStyle == bsDialog ? arDialog : arClient;
+  // The caption bar shows "&" as it stands.
+  info.Name = Caption();
+  info.KeyboardShortcut.clear();
+}
+
 }  // namespace vcl

@@ -38,6 +38,7 @@ class VCL_API THintWindow : public TCustomControl {
   explicit THintWindow(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   /// The rectangle to activate the text in, with its top left at (0, 0): 6 pixels wider than the
   /// text and 2 higher.

@@ -111,4 +111,10 @@ void THintWindow::Paint() {
                 nullptr);
 }
 
+void THintWindow::DescribeAccessible(TAccessibleInfo& info) const {
+  TCustomControl::DescribeAccessible(info);
+  info.Role = arToolTip;
+  info.Name = Caption();
+}
+
 }  // namespace vcl

@@ -87,4 +87,9 @@ void TBevel::Paint() {
   }
 }
 
+void TBevel::DescribeAccessible(TAccessibleInfo& info) const {
+  TGraphicControl::DescribeAccessible(info);
+  info.Role = arSeparator;
+}
+
 }  // namespace vcl

@@ -19,6 +19,7 @@ class VCL_API TBevel : public TGraphicControl {
   explicit TBevel(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   TBevelShape Shape() const { return FShape; }
   /// Which line or frame is drawn; bsSpacer draws none.

@@ -123,4 +123,13 @@ void TButton::Dispatch(TMessage& message) {
   TButtonControl::Dispatch(message);
 }
 
+void TButton::DescribeAccessible(TAccessibleInfo& info) const {
+  TButtonControl::DescribeAccessible(info);
+  info.Role = arPushButton;
+  info.DefaultAction = "Press";
+  if (FActive) info.State.Include(asDefault);
+  const bool down = HandleAllocated() && (Send(*this, BM_GETSTATE) & BST_PUSHED) != 0;
+  if (down) info.State.Include(asPressed);
+}
+
 }  // namespace vcl

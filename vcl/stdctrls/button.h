@@ -11,6 +11,7 @@ class VCL_API TButtonControl : public TWinControl {
   explicit TButtonControl(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DoAccessibleAction() override { Pressed(); }
 
  protected:
   void CreateParams(TCreateParams& params) override;
@@ -27,6 +28,7 @@ class VCL_API TButton : public TButtonControl {
   explicit TButton(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   bool Cancel() const { return FCancel; }
   /// Escape clicks the button, wherever the focus is.

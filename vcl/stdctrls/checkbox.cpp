@@ -62,6 +62,7 @@ void TCustomCheckBox::SetState(TCheckBoxState state) {
   if (state == FState) return;
   FState = state;
   SendIfAllocated(*this, BM_SETCHECK, state);
+  AccessibleChanged(acState);
   if (!Loading()) Click();
 }
 
@@ -134,6 +135,7 @@ void TRadioButton::SetChecked(bool checked) {
   FChecked = checked;
   SetTabStop(checked);  // Tab goes to the checked one of a group.
   SendIfAllocated(*this, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
+  AccessibleChanged(acState);
   if (!checked) return;
   UncheckSiblings();
   if (!Loading()) Click();
@@ -169,6 +171,23 @@ void TRadioButton::Dispatch(TMessage& message) {
   const bool byKeyboard =
       message.Msg == WM_SETFOCUS && !watch.Gone() && !ControlState().Has(csLButtonDown);
   if (byKeyboard) SetChecked(true);
+}
+
+void TCustomCheckBox::DescribeAccessible(TAccessibleInfo& info) const {
+  static constexpr TAccessibleState states[] = {{}, {asChecked}, {asMixed}};
+  TButtonControl::DescribeAccessible(info);
+  info.Role = arCheckBox;
+  info.State += states[FState];
+  info.DefaultAction = Checked() ? "Uncheck" : "Check";
+}
+
+void TRadioButton::DescribeAccessible(TAccessibleInfo& info) const {
+  TButtonControl::DescribeAccessible(info);
+  info.Role = arRadioButton;
+  // The arrow keys come to those that Tab passes by.
+  if (CanFocus()) info.State.Include(asFocusable);
+  if (FChecked) info.State.Include(asChecked);
+  info.DefaultAction = "Check";
 }
 
 }  // namespace vcl

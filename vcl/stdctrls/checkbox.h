@@ -16,6 +16,7 @@ class VCL_API TCustomCheckBox : public TButtonControl {
   explicit TCustomCheckBox(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   TAlignment Alignment() const { return FAlignment; }
   /// The side of the box on which the caption stands: taLeftJustify or taRightJustify; raises
@@ -59,6 +60,7 @@ class VCL_API TRadioButton : public TButtonControl {
   explicit TRadioButton(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   /// The side of the button on which the caption stands: taLeftJustify or taRightJustify.
   TAlignment Alignment() const { return FAlignment; }

@@ -227,7 +227,10 @@ void TCustomComboBox::DefaultHandler(TMessage& message) {
   message.Result = ::DefSubclassProc(FEdit, message.Msg, message.WParam, message.LParam);
 }
 
-void TCustomComboBox::Change() { OnChange(this); }
+void TCustomComboBox::Change() {
+  AccessibleChanged(acValue);
+  OnChange(this);
+}
 void TCustomComboBox::DropDown() { OnDropDown(this); }
 void TCustomComboBox::CloseUp() { OnCloseUp(this); }
 
@@ -258,6 +261,17 @@ void TCustomComboBox::Dispatch(TMessage& message) {
     return;
   }
   TCustomListControl::Dispatch(message);
+}
+
+void TCustomComboBox::DescribeAccessible(TAccessibleInfo& info) const {
+  TCustomListControl::DescribeAccessible(info);
+  info.Role = arComboBox;
+  info.Value = Text();
+  info.SystemItems = true;
+  if (FStyle == csSimple) return;
+  const bool down = DroppedDown();
+  info.State.Include(down ? asExpanded : asCollapsed);
+  info.DefaultAction = down ? "Close" : "Open";
 }
 
 }  // namespace vcl

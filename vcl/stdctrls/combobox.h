@@ -25,6 +25,8 @@ class VCL_API TCustomComboBox : public TCustomListControl {
   ~TCustomComboBox() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
+  void DoAccessibleAction() override { SetDroppedDown(!DroppedDown()); }
 
   TComboBoxStyle Style() const { return FStyle; }
   /// Whether there is an edit, and where the list is.

@@ -195,7 +195,10 @@ bool TCustomEdit::CanUndo() const { return HandleAllocated() && Send(*this, EM_C
 void TCustomEdit::Undo() { SendIfAllocated(*this, EM_UNDO); }
 void TCustomEdit::ClearUndo() { SendIfAllocated(*this, EM_EMPTYUNDOBUFFER); }
 
-void TCustomEdit::Change() { OnChange(this); }
+void TCustomEdit::Change() {
+  AccessibleChanged(acValue);
+  OnChange(this);
+}
 
 void TCustomEdit::CreateParams(TCreateParams& params) {
   static constexpr DWORD cases[] = {0, ES_UPPERCASE, ES_LOWERCASE};
@@ -256,6 +259,14 @@ void TCustomEdit::Dispatch(TMessage& message) {
 void TCustomEdit::Loaded() {
   TWinControl::Loaded();
   AdjustHeight();
+}
+
+void TCustomEdit::DescribeAccessible(TAccessibleInfo& info) const {
+  TWinControl::DescribeAccessible(info);
+  info.Role = arText;
+  info.Value = Text();
+  if (FReadOnly) info.State.Include(asReadOnly);
+  if (FPasswordChar) info.State.Include(asProtected);
 }
 
 }  // namespace vcl

@@ -19,6 +19,7 @@ class VCL_API TCustomEdit : public TWinControl {
   explicit TCustomEdit(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   bool AutoSelect() const { return FAutoSelect; }
   /// True: all text is selected when the focus comes by keyboard or by code.

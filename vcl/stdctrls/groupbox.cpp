@@ -76,4 +76,9 @@ void TCustomGroupBox::Dispatch(TMessage& message) {
   Realign();
 }
 
+void TCustomGroupBox::DescribeAccessible(TAccessibleInfo& info) const {
+  TCustomControl::DescribeAccessible(info);
+  info.Role = arGrouping;
+}
+
 }  // namespace vcl

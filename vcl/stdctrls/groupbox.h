@@ -12,6 +12,7 @@ class VCL_API TCustomGroupBox : public TCustomControl {
   explicit TCustomGroupBox(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
  protected:
   void Paint() override;

@@ -179,6 +179,7 @@ void TCustomLabel::Dispatch(TMessage& message) {
     return FFocusControl->SetFocus();
   }
   TGraphicControl::Dispatch(message);
+  if (message.Msg == CM_TEXTCHANGED && FFocusControl) FFocusControl->AccessibleChanged(acName);
   if (message.Msg == CM_TEXTCHANGED || message.Msg == CM_FONTCHANGED) LookChanged();
 }
 
@@ -190,6 +191,17 @@ void TCustomLabel::Loaded() {
 void TCustomLabel::Notification(TComponent* component, TOperation operation) {
   TGraphicControl::Notification(component, operation);
   if (operation == opRemove && component == FFocusControl) FFocusControl = nullptr;
+}
+
+const TControl* TCustomLabel::Labelled() const { return FFocusControl; }
+
+void TCustomLabel::DescribeAccessible(TAccessibleInfo& info) const {
+  TGraphicControl::DescribeAccessible(info);
+  info.Role = arStaticText;
+  info.State.Include(asReadOnly);
+  if (FShowAccelChar) return;
+  info.Name = Caption();
+  info.KeyboardShortcut.clear();
 }
 
 }  // namespace vcl

@@ -18,6 +18,8 @@ class VCL_API TCustomLabel : public TGraphicControl {
   ~TCustomLabel() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
+  const TControl* Labelled() const override;
 
   TAlignment Alignment() const { return FAlignment; }
   /// Where the text stands between left and right.

@@ -192,4 +192,11 @@ void TCustomListBox::BeginAutoDrag(TMessage& press) {
   TCustomListControl::BeginAutoDrag(press);
 }
 
+void TCustomListBox::DescribeAccessible(TAccessibleInfo& info) const {
+  TCustomListControl::DescribeAccessible(info);
+  info.Role = arList;
+  info.SystemItems = true;
+  if (ItemIndex() >= 0) info.Value = Items()->Strings(ItemIndex());
+}
+
 }  // namespace vcl

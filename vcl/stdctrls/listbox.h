@@ -16,6 +16,7 @@ class VCL_API TCustomListBox : public TCustomListControl {
   explicit TCustomListBox(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   /// bsSingle for a border, bsNone for none.
   TBorderStyle BorderStyle() const { return FBorderStyle; }

@@ -87,7 +87,10 @@ void TPageControl::SetActivePage(TTabSheet* page) {
   if (watch.Gone()) return;
   const bool formerIsPage = std::ranges::find(FPages, former) != FPages.end();
   if (formerIsPage && former != FActivePage) former->SetVisible(false);
-  if (!watch.Gone()) ShowActiveTab();
+  if (watch.Gone()) return;
+  ShowActiveTab();
+  const int tab = FActivePage ? FActivePage->TabIndex() : -1;
+  if (tab >= 0) AccessibleChanged(acSelection, {tab});
 }
 
 int TPageControl::ActivePageIndex() const { return FActivePage ? FActivePage->PageIndex() : -1; }

@@ -21,6 +21,9 @@ class VCL_API TPageControl : public TWinControl {
   ~TPageControl() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
+  std::vector<TAccessiblePart> AccessibleParts() override;
+  void DoAccessiblePart(const TAccessiblePath& part) override;
 
   int PageCount() const { return static_cast<int>(FPages.size()); }
   /// The page at the index from 0, tab or not. Raises EListError outside.
@@ -89,6 +92,7 @@ class VCL_API TTabSheet : public TWinControl {
   ~TTabSheet() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   TPageControl* PageControl() const;
   /// Puts the page into the page control, behind its other pages; null takes it out.

@@ -117,4 +117,41 @@ void TPageControl::Dispatch(TMessage& message) {
   }
 }
 
+// Screen readers: the tabs are parts, and the pages are controls of their own.
+
+void TPageControl::DescribeAccessible(TAccessibleInfo& info) const {
+  TWinControl::DescribeAccessible(info);
+  info.Role = arPageTabList;
+}
+
+std::vector<TAccessiblePart> TPageControl::AccessibleParts() {
+  std::vector<TAccessiblePart> tabs;
+  for (const TTabSheet* page : FPages) {
+    if (!page->TabVisible()) continue;
+    TAccessiblePart& tab = tabs.emplace_back();
+    tab.Role = arPageTab;
+    tab.State = {asSelectable};
+    tab.Name = page->Accessible().Name;
+    tab.KeyboardShortcut = AccelKeys(page->Caption());
+    tab.DefaultAction = "Switch";
+    if (page == FActivePage) tab.State.Include(asSelected);
+    if (page == FActivePage && Focused()) tab.State.Include(asFocused);
+    RECT bounds{};
+    SendIfAllocated(*this, TCM_GETITEMRECT, static_cast<WPARAM>(page->TabIndex()),
+                    reinterpret_cast<LPARAM>(&bounds));
+    tab.Bounds = bounds;
+  }
+  return tabs;
+}
+
+void TPageControl::DoAccessiblePart(const TAccessiblePath& part) {
+  UserSelects(PageOfTab(part.front()));
+}
+
+void TTabSheet::DescribeAccessible(TAccessibleInfo& info) const {
+  TWinControl::DescribeAccessible(info);
+  info.Role = arPropertyPage;
+  info.KeyboardShortcut.clear();
+}
+
 }  // namespace vcl

@@ -176,4 +176,9 @@ void TCustomPanel::Resize() {
   TCustomControl::Resize();
 }
 
+void TCustomPanel::DescribeAccessible(TAccessibleInfo& info) const {
+  TCustomControl::DescribeAccessible(info);
+  info.Role = arPane;
+}
+
 }  // namespace vcl

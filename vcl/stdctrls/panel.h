@@ -19,6 +19,7 @@ class VCL_API TCustomPanel : public TCustomControl {
   explicit TCustomPanel(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   TAlignment Alignment() const { return FAlignment; }
   /// Where the caption stands between left and right.

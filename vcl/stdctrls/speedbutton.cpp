@@ -58,6 +58,7 @@ void TSpeedButton::SetDown(bool down) {
   if (FGroupIndex == 0) down = false;
   if (down == FDown || (FDown && !FAllowAllUp && FGroupIndex != 0)) return;
   FDown = down;
+  AccessibleChanged(acState);
   Invalidate();
   if (down) TellGroup();
 }
@@ -85,6 +86,7 @@ void TSpeedButton::TellGroup() {
 void TSpeedButton::Follow(const TSpeedButton& pressed) {
   if (pressed.FDown && FDown) {
     FDown = false;
+    AccessibleChanged(acState);
     Invalidate();
   }
   FAllowAllUp = pressed.FAllowAllUp;
@@ -160,6 +162,7 @@ void TSpeedButton::Paint() {
 void TSpeedButton::SetPressed(bool pressed) {
   if (pressed == FPressed) return;
   FPressed = pressed;
+  AccessibleChanged(acState);
   Repaint();
 }
 
@@ -191,8 +194,7 @@ void TSpeedButton::MouseUp(TMouseButton button, TShiftState shift, int x, int y)
   FTracking = false;
   SetPressed(false);
   if (watch.Gone() || !ClientRect().Contains({x, y})) return;
-  if (FGroupIndex != 0) SetDown(!FDown);
-  Click();
+  DoAccessibleAction();
 }
 
 void TSpeedButton::Click() { TGraphicControl::Click(); }
@@ -215,6 +217,21 @@ void TSpeedButton::Dispatch(TMessage& message) {
     case WM_CANCELMODE: FTracking = false; return SetPressed(false);
     default: return;
   }
+}
+
+// Screen readers.
+
+void TSpeedButton::DescribeAccessible(TAccessibleInfo& info) const {
+  TGraphicControl::DescribeAccessible(info);
+  info.Role = arPushButton;
+  info.DefaultAction = "Press";
+  if (FDown || FPressed) info.State.Include(asPressed);
+}
+
+void TSpeedButton::DoAccessibleAction() {
+  TWatch watch(this);
+  if (FGroupIndex != 0) SetDown(!FDown);
+  if (!watch.Gone()) Click();
 }
 
 }  // namespace vcl

@@ -15,6 +15,8 @@ class VCL_API TSpeedButton : public TGraphicControl {
   ~TSpeedButton() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
+  void DoAccessibleAction() override;
 
   bool AllowAllUp() const { return FAllowAllUp; }
   /// True lets a click take the group's button that is down up again. Holds for the whole group.

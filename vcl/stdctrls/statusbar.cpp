@@ -115,6 +115,7 @@ void TStatusBar::SetSimplePanel(bool simple) {
 void TStatusBar::SetSimpleText(const std::string& text) {
   FSimpleText = text;
   UpdateSimple();
+  if (FSimplePanel) AccessibleChanged(acName, {0});
 }
 
 void TStatusBar::SetSizeGrip(bool sizeGrip) {
@@ -150,6 +151,7 @@ void TStatusBar::CreateWnd() {
 void TStatusBar::PanelsChanged(TCollectionItem* item) {
   if (!HandleAllocated()) return;
   item ? UpdatePanel(static_cast<const TStatusPanel&>(*item)) : UpdatePanels();
+  if (item && !FSimplePanel) AccessibleChanged(acName, {item->Index()});
 }
 
 void TStatusBar::UpdatePanels() {
@@ -171,5 +173,28 @@ void TStatusBar::UpdatePanel(const TStatusPanel& panel) {
 }
 
 void TStatusBar::UpdateSimple() { SendText(*this, SB_SIMPLEID, FSimpleText); }
+
+void TStatusBar::DescribeAccessible(TAccessibleInfo& info) const {
+  TWinControl::DescribeAccessible(info);
+  info.Role = arStatusBar;
+}
+
+std::vector<TAccessiblePart> TStatusBar::AccessibleParts() {
+  std::vector<TAccessiblePart> parts;
+  const auto add = [&](const std::string& text, const TRect& bounds) {
+    TAccessibleInfo info;
+    info.Role = arStaticText;
+    info.State.Include(asReadOnly);
+    info.Name = text;
+    parts.push_back({info, bounds, {}});
+  };
+  if (FSimplePanel) add(FSimpleText, ClientRect());
+  for (int i = 0; !FSimplePanel && i < FPanels->Count(); ++i) {
+    RECT bounds{};
+    SendIfAllocated(*this, SB_GETRECT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&bounds));
+    add(FPanels->Items(i)->Text(), bounds);
+  }
+  return parts;
+}
 
 }  // namespace vcl

@@ -63,6 +63,8 @@ class VCL_API TStatusBar : public TWinControl {
   ~TStatusBar() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
+  std::vector<TAccessiblePart> AccessibleParts() override;
 
   TStatusPanels* Panels() const { return FPanels.get(); }
   /// The panels, from left to right.

@@ -110,7 +110,10 @@ void TTrackBar::SetTickStyle(TTickStyle style) {
   RecreateWnd();
 }
 
-void TTrackBar::Change() { OnChange(this); }
+void TTrackBar::Change() {
+  AccessibleChanged(acValue);
+  OnChange(this);
+}
 
 void TTrackBar::CreateParams(TCreateParams& params) {
   UseCommonControls(ICC_BAR_CLASSES);
@@ -136,6 +139,12 @@ void TTrackBar::Dispatch(TMessage& message) {
   if (position == FPosition) return;
   FPosition = position;
   Change();
+}
+
+void TTrackBar::DescribeAccessible(TAccessibleInfo& info) const {
+  TWinControl::DescribeAccessible(info);
+  info.Role = arSlider;
+  info.Value = std::to_string(FPosition);
 }
 
 }  // namespace vcl

@@ -20,6 +20,7 @@ class VCL_API TTrackBar : public TWinControl {
   explicit TTrackBar(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   /// The least position.
   int Min() const { return FMin; }

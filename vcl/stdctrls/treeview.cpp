@@ -332,4 +332,10 @@ void TCustomTreeView::Delete(TTreeNode* node) { OnDeletion(this, node); }
 void TCustomTreeView::GetImageIndex(TTreeNode* node) { OnGetImageIndex(this, node); }
 void TCustomTreeView::GetSelectedIndex(TTreeNode* node) { OnGetSelectedIndex(this, node); }
 
+void TCustomTreeView::DescribeAccessible(TAccessibleInfo& info) const {
+  TWinControl::DescribeAccessible(info);
+  info.Role = arOutline;
+  info.SystemItems = true;
+}
+
 }  // namespace vcl

@@ -36,6 +36,7 @@ class VCL_API TCustomTreeView : public TWinControl {
   ~TCustomTreeView() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
+  void DescribeAccessible(TAccessibleInfo& info) const override;
 
   TTreeNodes* Items() const { return FItems.get(); }
   /// The nodes.
