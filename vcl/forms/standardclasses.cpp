@@ -1,10 +1,12 @@
 // The list of the classes that every form file may name.
 #include "vcl/forms/standardclasses.h"
 
+#include "vcl/actions/actions.h"
 #include "vcl/dialogs/dialogs.h"
 #include "vcl/graphics/imagelist.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/classregistry.h"
+#include "vcl/stdactions/stdactions.h"
 #include "vcl/stdctrls/buttons.h"
 #include "vcl/stdctrls/comctrls.h"
 #include "vcl/stdctrls/extctrls.h"
@@ -24,6 +26,13 @@ void RegisterStandardClasses() {
                      &TSaveDialog::Class(), &TSpeedButton::Class(), &TStatusBar::Class(),
                      &TTabSheet::Class(),   &TTimer::Class(),       &TTrackBar::Class(),
                      &TTreeView::Class()});
+    RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
+                     &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),
+                     &TEditSelectAll::Class(), &TEditUndo::Class(), &TFileExit::Class(),
+                     &TFileOpen::Class(), &TFileSaveAs::Class(), &THelpContents::Class(),
+                     &TWindowArrange::Class(), &TWindowCascade::Class(), &TWindowClose::Class(),
+                     &TWindowMinimizeAll::Class(), &TWindowTileHorizontal::Class(),
+                     &TWindowTileVertical::Class()});
     return true;
   }();
   static_cast<void>(done);

@@ -43,6 +43,8 @@ class VCL_API TCustomEdit : public TWinControl {
   void SetPasswordChar(char32_t character);
   bool ReadOnly() const { return FReadOnly; }
   void SetReadOnly(bool readOnly);
+  /// True when what the user does may change the text.
+  virtual bool CanModify() const { return !FReadOnly; }
 
   /// True when the user has changed the text since it was set.
   bool Modified() const;
