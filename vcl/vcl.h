@@ -2,6 +2,7 @@
 // "vcl/rtl/win32.h" beside it.
 #pragma once
 
+#include "vcl/actions/actions.h"
 #include "vcl/controls/controls.h"
 #include "vcl/db/db.h"
 #include "vcl/dbctrls/dbctrls.h"
@@ -22,6 +23,7 @@
 #include "vcl/rtl/classes.h"
 #include "vcl/rtl/registry.h"
 #include "vcl/rtl/resources.h"
+#include "vcl/stdactions/stdactions.h"
 #include "vcl/stdctrls/buttons.h"
 #include "vcl/stdctrls/comctrls.h"
 #include "vcl/stdctrls/extctrls.h"

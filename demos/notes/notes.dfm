@@ -91,39 +91,23 @@ object NotesForm: TNotesForm
     end
     object EditMenu: TMenuItem
       Caption = '&Edit'
-      OnClick = EditMenuClick
       object UndoItem: TMenuItem
-        Caption = '&Undo'
-        Hint = 'Takes the last change back'
-        ShortCut = 16474
-        OnClick = UndoClick
+        Action = UndoAction
       end
       object UndoEnd: TMenuItem
         Caption = '-'
       end
       object CutItem: TMenuItem
-        Caption = 'Cu&t'
-        Hint = 'Moves what is selected to the clipboard'
-        ShortCut = 16472
-        OnClick = CutClick
+        Action = CutAction
       end
       object CopyItem: TMenuItem
-        Caption = '&Copy'
-        Hint = 'Copies what is selected to the clipboard'
-        ShortCut = 16451
-        OnClick = CopyClick
+        Action = CopyAction
       end
       object PasteItem: TMenuItem
-        Caption = '&Paste'
-        Hint = 'Puts the clipboard in the place of what is selected'
-        ShortCut = 16470
-        OnClick = PasteClick
+        Action = PasteAction
       end
       object SelectAllItem: TMenuItem
-        Caption = 'Select &all'
-        Hint = 'Selects the whole text'
-        ShortCut = 16449
-        OnClick = SelectAllClick
+        Action = SelectAllAction
       end
       object ClipboardEnd: TMenuItem
         Caption = '-'
@@ -191,6 +175,40 @@ object NotesForm: TNotesForm
     object TrayExitItem: TMenuItem
       Caption = 'E&xit'
       OnClick = ExitClick
+    end
+  end
+  object EditActions: TActionList
+    Left = 264
+    Top = 24
+    object UndoAction: TEditUndo
+      Category = 'Edit'
+      Caption = '&Undo'
+      Hint = 'Takes the last change back'
+      ShortCut = 16474
+    end
+    object CutAction: TEditCut
+      Category = 'Edit'
+      Caption = 'Cu&t'
+      Hint = 'Moves what is selected to the clipboard'
+      ShortCut = 16472
+    end
+    object CopyAction: TEditCopy
+      Category = 'Edit'
+      Caption = '&Copy'
+      Hint = 'Copies what is selected to the clipboard'
+      ShortCut = 16451
+    end
+    object PasteAction: TEditPaste
+      Category = 'Edit'
+      Caption = '&Paste'
+      Hint = 'Puts the clipboard in the place of what is selected'
+      ShortCut = 16470
+    end
+    object SelectAllAction: TEditSelectAll
+      Category = 'Edit'
+      Caption = 'Select &all'
+      Hint = 'Selects the whole text'
+      ShortCut = 16449
     end
   end
   object OpenDialog: TOpenDialog

@@ -29,9 +29,6 @@ const TClass& TNotesForm::Class() {
                          {
                              Field<&T::Editor>("Editor"),
                              Field<&T::StatusBar>("StatusBar"),
-                             Field<&T::UndoItem>("UndoItem"),
-                             Field<&T::CutItem>("CutItem"),
-                             Field<&T::CopyItem>("CopyItem"),
                              Field<&T::WordWrapItem>("WordWrapItem"),
                              Field<&T::StatusBarItem>("StatusBarItem"),
                              Field<&T::OpenDialog>("OpenDialog"),
@@ -63,12 +60,6 @@ const TClass& TNotesForm::Class() {
                              Method<&T::RecentClick>("RecentClick"),
                              Method<&T::RecoveryTimerTick>("RecoveryTimerTick"),
                              Method<&T::EditorChange>("EditorChange"),
-                             Method<&T::EditMenuClick>("EditMenuClick"),
-                             Method<&T::UndoClick>("UndoClick"),
-                             Method<&T::CutClick>("CutClick"),
-                             Method<&T::CopyClick>("CopyClick"),
-                             Method<&T::PasteClick>("PasteClick"),
-                             Method<&T::SelectAllClick>("SelectAllClick"),
                              Method<&T::FindClick>("FindClick"),
                              Method<&T::FindNextClick>("FindNextClick"),
                          });

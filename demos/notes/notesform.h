@@ -44,9 +44,6 @@ class TNotesForm : public vcl::TForm {
   // What the form file fills.
   vcl::TMemo* Editor = nullptr;
   vcl::TStatusBar* StatusBar = nullptr;
-  vcl::TMenuItem* UndoItem = nullptr;
-  vcl::TMenuItem* CutItem = nullptr;
-  vcl::TMenuItem* CopyItem = nullptr;
   vcl::TMenuItem* WordWrapItem = nullptr;
   vcl::TMenuItem* StatusBarItem = nullptr;
   vcl::TOpenDialog* OpenDialog = nullptr;
@@ -102,12 +99,6 @@ class TNotesForm : public vcl::TForm {
 
   // Editing, and the status bar.
   void EditorChange(vcl::TObject* sender);
-  void EditMenuClick(vcl::TObject* sender);
-  void UndoClick(vcl::TObject* sender);
-  void CutClick(vcl::TObject* sender);
-  void CopyClick(vcl::TObject* sender);
-  void PasteClick(vcl::TObject* sender);
-  void SelectAllClick(vcl::TObject* sender);
   void FindClick(vcl::TObject* sender);
   void FindNextClick(vcl::TObject* sender);
   void Tell(const std::string& message);

@@ -33,18 +33,6 @@ std::optional<std::size_t> FindFrom(const std::wstring& text, const std::wstring
 
 void TNotesForm::EditorChange(TObject*) { ++FChanges; }
 
-void TNotesForm::EditMenuClick(TObject*) {
-  UndoItem->SetEnabled(Editor->CanUndo());
-  CutItem->SetEnabled(Editor->SelLength() > 0);
-  CopyItem->SetEnabled(Editor->SelLength() > 0);
-}
-
-void TNotesForm::UndoClick(TObject*) { Editor->Undo(); }
-void TNotesForm::CutClick(TObject*) { Editor->CutToClipboard(); }
-void TNotesForm::CopyClick(TObject*) { Editor->CopyToClipboard(); }
-void TNotesForm::PasteClick(TObject*) { Editor->PasteFromClipboard(); }
-void TNotesForm::SelectAllClick(TObject*) { Editor->SelectAll(); }
-
 // Searching.
 
 void TNotesForm::FindClick(TObject*) { FFind->Ask(Editor->SelText()); }

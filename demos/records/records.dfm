@@ -107,9 +107,8 @@ object RecordsForm: TRecordsForm
     Width = 80
     Height = 25
     Anchors = [akLeft, akBottom]
-    Caption = 'De&lete'
+    Action = DeleteAction
     TabOrder = 6
-    OnClick = DeleteClick
   end
   object PostButton: TButton
     Left = 340
@@ -117,10 +116,8 @@ object RecordsForm: TRecordsForm
     Width = 80
     Height = 25
     Anchors = [akLeft, akBottom]
-    Caption = '&Save'
-    Enabled = False
+    Action = PostAction
     TabOrder = 7
-    OnClick = PostClick
   end
   object CancelButton: TButton
     Left = 430
@@ -128,10 +125,8 @@ object RecordsForm: TRecordsForm
     Width = 80
     Height = 25
     Anchors = [akLeft, akBottom]
-    Caption = '&Undo'
-    Enabled = False
+    Action = CancelAction
     TabOrder = 8
-    OnClick = CancelClick
   end
   object ExportButton: TButton
     Left = 340
@@ -170,7 +165,6 @@ object RecordsForm: TRecordsForm
   end
   object Source: TDataSource
     DataSet = Query
-    OnStateChange = StateChange
     Left = 540
     Top = 216
   end
@@ -246,6 +240,34 @@ object RecordsForm: TRecordsForm
     ExportBeforeWrite = RecordWritten
     Left = 540
     Top = 280
+  end
+  object Actions: TActionList
+    Left = 572
+    Top = 280
+    object DeleteAction: TDataSetDelete
+      Category = 'Data set'
+      Caption = 'De&lete'
+      Hint = 'Deletes the record'
+      ShortCut = 0
+      DataSource = Source
+      OnExecute = DeleteClick
+    end
+    object PostAction: TDataSetPost
+      Category = 'Data set'
+      Caption = '&Save'
+      Enabled = False
+      Hint = 'Saves the record'
+      ShortCut = 0
+      DataSource = Source
+    end
+    object CancelAction: TDataSetCancel
+      Category = 'Data set'
+      Caption = '&Undo'
+      Enabled = False
+      Hint = 'Takes the record''s changes back'
+      ShortCut = 0
+      DataSource = Source
+    end
   end
   object OpenDialog: TOpenDialog
     DefaultExt = 'csv'

@@ -30,12 +30,7 @@ const TClass& TRecordsForm::Class() {
                              Field<&T::NameEdit>("NameEdit"),
                              Field<&T::OpenDialog>("OpenDialog"),
                              Field<&T::SaveDialog>("SaveDialog"),
-                             Field<&T::PostButton>("PostButton"),
-                             Field<&T::CancelButton>("CancelButton"),
-                             Method<&T::StateChange>("StateChange"),
                              Method<&T::AddClick>("AddClick"),
-                             Method<&T::PostClick>("PostClick"),
-                             Method<&T::CancelClick>("CancelClick"),
                              Method<&T::DeleteClick>("DeleteClick"),
                              Method<&T::ExportClick>("ExportClick"),
                              Method<&T::ImportClick>("ImportClick"),
@@ -60,19 +55,10 @@ void TRecordsForm::Open(const std::string& fileName) {
   Query->Open();
 }
 
-void TRecordsForm::StateChange(TObject*) {
-  const bool editing = Query->State() == dsEdit || Query->State() == dsInsert;
-  PostButton->SetEnabled(editing);
-  CancelButton->SetEnabled(editing);
-}
-
 void TRecordsForm::AddClick(TObject*) {
   Query->Append();
   NameEdit->SetFocus();
 }
-
-void TRecordsForm::PostClick(TObject*) { Query->Post(); }
-void TRecordsForm::CancelClick(TObject*) { Query->Cancel(); }
 
 void TRecordsForm::DeleteClick(TObject*) {
   const std::string name = Query->FieldByName("name")->AsString();

@@ -38,13 +38,8 @@ class TRecordsForm : public vcl::TForm {
   vcl::TDBEdit* NameEdit = nullptr;
   vcl::TOpenDialog* OpenDialog = nullptr;
   vcl::TSaveDialog* SaveDialog = nullptr;
-  vcl::TButton* PostButton = nullptr;
-  vcl::TButton* CancelButton = nullptr;
 
-  void StateChange(vcl::TObject* sender);
   void AddClick(vcl::TObject* sender);
-  void PostClick(vcl::TObject* sender);
-  void CancelClick(vcl::TObject* sender);
   void DeleteClick(vcl::TObject* sender);
   void ExportClick(vcl::TObject* sender);
   void ImportClick(vcl::TObject* sender);

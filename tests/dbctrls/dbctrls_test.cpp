@@ -4,6 +4,7 @@
 #include "tests/support/screenreader.h"
 #include "tests/vcl/standardform.h"
 #include "vcl/db/memorydataset.h"
+#include "vcl/dbctrls/dbactions.h"
 #include "vcl/dbctrls/dbedit.h"
 #include "vcl/dbctrls/dbgrids.h"
 #include "vcl/graphics/canvas.h"
@@ -192,6 +193,84 @@ TEST_F(DataControls, AGridTellsScreenReadersOfItsRowsAndCells) {
   EXPECT_EQ(focus.Name(), rows[3].Name());
   Data.Close();
   EXPECT_EQ(ChildrenOf(table).size(), 0u);
+}
+
+TEST_F(DataControls, ActionsMoveAndEditAndKnowWhenTheyCan) {
+  TDataSetFirst first(nullptr);
+  TDataSetPrior prior(nullptr);
+  TDataSetNext next(nullptr);
+  TDataSetLast last(nullptr);
+  TDataSetInsert insert(nullptr);
+  TDataSetDelete remove(nullptr);
+  TDataSetEdit edit(nullptr);
+  TDataSetPost post(nullptr);
+  TDataSetCancel cancel(nullptr);
+  TDataSetRefresh refresh(nullptr);
+  TDataSetAction* all[] = {&first,  &prior, &next, &last,   &insert,
+                           &remove, &edit,  &post, &cancel, &refresh};
+  const auto enabled = [&] {
+    std::string text;
+    for (TDataSetAction* each : all) {
+      each->Update();
+      text += each->Enabled() ? '1' : '0';
+    }
+    return text;
+  };
+  EXPECT_EQ(enabled(), "0000000000") << "without a source";
+  for (TDataSetAction* each : all) each->SetDataSource(&Source);
+  EXPECT_EQ(enabled(), "0011111001");
+  EXPECT_TRUE(next.Execute());
+  EXPECT_EQ(Name(), "Bob");
+  EXPECT_EQ(enabled(), "1111111001");
+  last.Execute();
+  EXPECT_EQ(Name(), "Cid");
+  EXPECT_EQ(enabled(), "1100111001");
+  EXPECT_FALSE(next.Execute());
+  prior.Execute();
+  edit.Execute();
+  EXPECT_EQ(enabled(), "1111110111");
+  Data.FieldByName("Name")->SetAsString("Bea");
+  cancel.Execute();
+  EXPECT_EQ(Name(), "Bob");
+  insert.Execute();
+  Data.FieldByName("Name")->SetAsString("New");
+  post.Execute();
+  EXPECT_EQ(Data.RecordCount(), 4);
+  remove.Execute();
+  EXPECT_EQ(Data.RecordCount(), 3);
+  refresh.Execute();
+  first.Execute();
+  EXPECT_EQ(Name(), "Ann");
+  Data.Close();
+  EXPECT_EQ(enabled(), "0000000000");
+  Data.Open();
+  {
+    TDataSource passing(nullptr);
+    passing.SetDataSet(&Data);
+    next.SetDataSource(&passing);
+  }
+  EXPECT_EQ(next.DataSource(), nullptr);
+}
+
+TEST_F(DataControls, EditActionsBeginToEditTheRecord) {
+  auto* name = MakeEdit("Name", 10);
+  TEditPaste paste(nullptr);
+  TEditDelete clear(nullptr);
+  SetClipboardText("Pat");
+  ShowForm();
+  name->SetFocus();
+  name->SelectAll();
+  EXPECT_TRUE(paste.Execute());
+  EXPECT_EQ(Data.State(), dsEdit);
+  Data.Post();
+  EXPECT_EQ(Name(), "Pat");
+  name->SelectAll();
+  EXPECT_TRUE(clear.Execute());
+  EXPECT_EQ(Data.State(), dsEdit);
+  Data.Cancel();
+  Source.SetAutoEdit(false);
+  EXPECT_FALSE(paste.Execute()) << "nothing may begin to edit";
+  EXPECT_EQ(name->Text(), "Pat");
 }
 
 }  // namespace

@@ -22,13 +22,14 @@ using Includes = std::map<std::string, std::vector<std::string>>;
 const std::map<std::string, std::set<std::string>>& Allowed() {
   static const std::set<std::string> rtl = {"vcl/rtl"};
   // Controls need the form that they stand on and its menus, whose files need controls.
-  static const std::set<std::string> window = {"vcl/rtl", "vcl/graphics", "vcl/controls",
-                                               "vcl/menus", "vcl/forms"};
+  static const std::set<std::string> window = {"vcl/rtl",   "vcl/graphics", "vcl/controls",
+                                               "vcl/menus", "vcl/forms",    "vcl/actions"};
   const auto with = [](std::set<std::string> rooms, std::set<std::string> more) {
     rooms.merge(more);
     return rooms;
   };
-  static const std::set<std::string> vcl = with(window, {"vcl/stdctrls", "vcl/dialogs"});
+  static const std::set<std::string> dialogs = with(window, {"vcl/stdctrls", "vcl/dialogs"});
+  static const std::set<std::string> vcl = with(dialogs, {"vcl/stdactions"});
   static const std::set<std::string> component = with(vcl, {"qel/core"});
   static const std::set<std::string> application =
       with(component, {"vcl", "vcl/net", "vcl/db", "vcl/dbctrls", "qel", "qel/controls", "qel/data",
@@ -40,9 +41,11 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"vcl/graphics", rtl},
       {"vcl/controls", window},
       {"vcl/menus", window},
+      {"vcl/actions", window},
       {"vcl/forms", vcl},  // Forms register the standard classes.
       {"vcl/stdctrls", window},
-      {"vcl/dialogs", vcl},
+      {"vcl/dialogs", dialogs},
+      {"vcl/stdactions", dialogs},
       {"vcl/dbctrls", with(vcl, {"vcl/db"})},
       {"vcl/designintf", vcl},
       {"vcl", with(vcl, {"vcl/net", "vcl/db", "vcl/dbctrls"})},

@@ -1,6 +1,8 @@
 // TControl: its place in the form, bounds, look, text, and drag and drop.
 #include "vcl/controls/control.h"
 
+#include "vcl/actions/actionlink.h"
+#include "vcl/actions/basicaction.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/drag.h"
@@ -23,7 +25,9 @@ const TClass& TControl::Class() {
           Property<&TControl::Width, &TControl::SetWidth>("Width"),
           Property<&TControl::Height, &TControl::SetHeight>("Height"),
           Property<&TControl::Cursor, &TControl::SetCursor>("Cursor").Default(crDefault),
-          Property<&TControl::Hint, &TControl::SetHint>("Hint").Default(""),
+          Property<&TControl::Hint, &TControl::SetHint>("Hint")
+              .Default("")
+              .StoredIf<&TControl::IsHintStored>(),
           Property<&TControl::AccessibleName, &TControl::SetAccessibleName>("AccessibleName")
               .Default(""),
           Property<&TControl::Anchors, &TControl::SetAnchors>("Anchors").Default(
@@ -35,6 +39,7 @@ const TClass& TControl::Class() {
           Property<&TControl::Align, &TControl::SetAlign>("Align").Default(alNone).Unpublished(),
           Property<&TControl::Caption, &TControl::SetCaption>("Caption")
               .Type("TCaption")
+              .StoredIf<&TControl::IsCaptionStored>()
               .Unpublished(),
           Property<&TControl::Text, &TControl::SetText>("Text").Type("TCaption").Unpublished(),
           Property<&TControl::Color, &TControl::SetColor>("Color")
@@ -56,11 +61,14 @@ const TClass& TControl::Class() {
           Property<&TControl::ParentShowHint, &TControl::SetParentShowHint>("ParentShowHint")
               .Default(true)
               .Unpublished(),
+          Property<&TControl::Action, &TControl::SetAction>("Action").Unpublished(),
           Property<&TControl::Enabled, &TControl::SetEnabled>("Enabled")
               .Default(true)
+              .StoredIf<&TControl::IsEnabledStored>()
               .Unpublished(),
           Property<&TControl::Visible, &TControl::SetVisible>("Visible")
               .Default(true)
+              .StoredIf<&TControl::IsVisibleStored>()
               .Unpublished(),
           Property<&TControl::DragCursor, &TControl::SetDragCursor>("DragCursor")
               .Default(crDrag)

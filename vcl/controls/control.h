@@ -16,10 +16,14 @@
 
 namespace vcl {
 
+class TActionChange;
+class TActionLink;
+class TBasicAction;
 class TControlCanvas;
 class TCustomForm;
 class TPopupMenu;
 class TWinControl;
+struct TActionValues;
 
 /// A control: a rectangle inside a parent, with a look, a state and events for the mouse. Positions
 /// and sizes are in pixels.
@@ -222,6 +226,12 @@ class VCL_API TControl : public TComponent {
   /// The menu of a right click on the control; null for none.
   void SetPopupMenu(TPopupMenu* menu);
 
+  // Actions (control_actions.cpp).
+  TBasicAction* Action() const;
+  /// The action whose values the control shows (see TActionLink::SetAction), and which a click
+  /// executes unless OnClick is assigned.
+  void SetAction(TBasicAction* action);
+
   /// The control was clicked, by mouse or keyboard.
   TNotifyEvent OnClick;
   /// The control was clicked twice.
@@ -244,7 +254,7 @@ class VCL_API TControl : public TComponent {
   TConstrainedResizeEvent OnConstrainedResize;
 
  protected:
-  /// A click, by mouse or keyboard. The inherited method fires OnClick.
+  /// A click, by mouse or keyboard. The inherited method fires OnClick or executes the action.
   virtual void Click();
   virtual void DblClick();
   virtual void MouseDown(TMouseButton button, TShiftState shift, int x, int y);
@@ -299,6 +309,15 @@ class VCL_API TControl : public TComponent {
   bool IsFontStored() const { return !FParentFont; }
   bool IsColorStored() const { return !FParentColor; }
   bool IsShowHintStored() const { return !FParentShowHint; }
+  /// The same of what follows the action. Overriders of FollowAction call the inherited method
+  /// first.
+  virtual void FollowAction(const TActionChange& change);
+  /// Null without an action that has values.
+  const TActionValues* ActionValues() const;
+  bool IsCaptionStored() const;
+  bool IsEnabledStored() const;
+  bool IsHintStored() const;
+  bool IsVisibleStored() const;
 
  private:
   friend class TWinControl;
@@ -352,7 +371,7 @@ class VCL_API TControl : public TComponent {
     std::size_t Next = 0;
     TScaledMeasure FontHeight;
   };
-  std::unique_ptr<TMeasures> FMeasures;  // Made when the control is scaled.
+  std::unique_ptr<TMeasures> FMeasures;                    // Made when the control is scaled.
   mutable std::unique_ptr<TSizeConstraints> FConstraints;  // Made when asked for.
   mutable std::unique_ptr<TMargins> FMargins;
   bool FEnabled = true;
@@ -369,6 +388,7 @@ class VCL_API TControl : public TComponent {
   TDragMode FDragMode = dmManual;
   TCursor FDragCursor = crDrag;
   TPopupMenu* FPopupMenu = nullptr;
+  std::unique_ptr<TActionLink> FActionLink;  // Made when there is an action.
   std::string FText;
   std::string FHint;
   std::string FAccessibleName;

@@ -136,7 +136,6 @@ void TControl::MouseButtonUp(TMessage& message, TMouseButton button) {
   MouseUp(button, KeysToShiftState(message.WParam), message.XPos(), message.YPos());
 }
 
-void TControl::Click() { OnClick(this); }
 void TControl::DblClick() { OnDblClick(this); }
 
 void TControl::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {

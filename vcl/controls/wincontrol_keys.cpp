@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "vcl/actions/actionlist.h"
 #include "vcl/controls/private/ime.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/forms/forms.h"
@@ -191,6 +192,20 @@ bool TWinControl::HandleChar(TMessage& message) {
   return key == 0;
 }
 
+namespace {
+
+/// The form's action lists; true also when the form has gone.
+bool OfferToActions(TCustomForm& form, const MSG& key) {
+  const TWatch watch(&form);
+  for (int i = 0; i < form.ComponentCount(); ++i) {
+    auto* list = dynamic_cast<TActionList*>(form.Components(i));
+    if ((list && list->IsShortCut(key)) || watch.Gone()) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
 bool TWinControl::PreprocessKey(MSG& message) {
   if (Designing()) return false;
   switch (message.message) {
@@ -206,7 +221,7 @@ bool TWinControl::PreprocessKey(MSG& message) {
   TWatch watch(this);
   TCustomForm* form = ParentForm();
   if (form && form->Menu() && form->Menu()->IsShortCut(message)) return true;
-  if (watch.Gone()) return true;
+  if (watch.Gone() || (form && OfferToActions(*form, message)) || watch.Gone()) return true;
   for (TControl* each = Parent(); each; each = watch.Gone() ? nullptr : each->Parent()) {
     if (each->Perform(CM_CHILDKEY, message.wParam, reinterpret_cast<LPARAM>(this))) return true;
   }

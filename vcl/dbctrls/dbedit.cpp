@@ -63,6 +63,11 @@ void TDBEdit::SetDataSource(TDataSource* dataSource) {
   if (dataSource) dataSource->FreeNotification(this);
 }
 
+bool TDBEdit::CanModify() const {
+  const bool mayBegin = FLink.DataSource() && FLink.DataSource()->AutoEdit();
+  return FLink.CanModify() && (FLink.Editing() || mayBegin);
+}
+
 void TDBEdit::AllowTyping() { TCustomEdit::SetReadOnly(!FLink.Editing()); }
 
 void TDBEdit::ShowValue() {
@@ -99,7 +104,8 @@ void TDBEdit::KeyPress(char32_t& key) {
 
 void TDBEdit::Dispatch(TMessage& message) {
   // The menu of the system's edit sends these too.
-  if (message.Msg == WM_CUT || message.Msg == WM_PASTE) FLink.Edit();
+  const bool changes = message.Msg == WM_CUT || message.Msg == WM_PASTE || message.Msg == WM_CLEAR;
+  if (changes) FLink.Edit();
   TCustomEdit::Dispatch(message);
 }
 

@@ -27,6 +27,8 @@ class VCL_API TDBEdit : public TCustomEdit {
   /// True: the user cannot change the field here.
   bool ReadOnly() const { return FLink.ReadOnly(); }
   void SetReadOnly(bool readOnly) { FLink.SetReadOnly(readOnly); }
+  /// Also while typing would begin to edit the record.
+  bool CanModify() const override;
   /// Null while the data set is closed or has no such field.
   TField* Field() const { return FLink.Field(); }
 

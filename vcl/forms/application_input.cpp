@@ -1,4 +1,5 @@
 // TApplication: the message loop, what it does to input on its way, and the mouse over controls.
+#include "vcl/actions/private/shownactions.h"
 #include "vcl/controls/private/handling.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/drag.h"
@@ -98,6 +99,7 @@ void TApplication::Idle() {
     const THandling handling;
     CheckSynchronize();
     TrackMouse(nullptr);
+    UpdateShownActions();
     OnIdle(this, done);
   } catch (...) {
     HandleCurrentException(this);

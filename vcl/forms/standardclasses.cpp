@@ -1,11 +1,13 @@
 // The list of the classes that every form file may name.
 #include "vcl/forms/standardclasses.h"
 
+#include "vcl/actions/actions.h"
 #include "vcl/dialogs/dialogs.h"
 #include "vcl/forms/frames.h"
 #include "vcl/graphics/imagelist.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/classregistry.h"
+#include "vcl/stdactions/stdactions.h"
 #include "vcl/stdctrls/buttons.h"
 #include "vcl/stdctrls/comctrls.h"
 #include "vcl/stdctrls/extctrls.h"
@@ -27,6 +29,13 @@ void RegisterStandardClasses() {
                      &TTreeView::Class(),   &TFrame::Class()});
     RegisterClasses(
         {&TFlowPanel::Class(), &TGridPanel::Class(), &TScrollBox::Class(), &TSplitter::Class()});
+    RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
+                     &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),
+                     &TEditSelectAll::Class(), &TEditUndo::Class(), &TFileExit::Class(),
+                     &TFileOpen::Class(), &TFileSaveAs::Class(), &THelpContents::Class(),
+                     &TWindowArrange::Class(), &TWindowCascade::Class(), &TWindowClose::Class(),
+                     &TWindowMinimizeAll::Class(), &TWindowTileHorizontal::Class(),
+                     &TWindowTileVertical::Class()});
     return true;
   }();
   static_cast<void>(done);

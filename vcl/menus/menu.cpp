@@ -59,7 +59,9 @@ bool TMenu::HandleMessage(const TMessage& message) {
       TMenuItem* item =
           FItems->Find([handle](const TMenuItem& each) { return each.FHandle == handle; });
       if (!item) return false;
+      const TWatch watch(item);
       item->Click();
+      if (!watch.Gone()) item->UpdateActions();
       return true;
     }
     case WM_MENUSELECT: return ShowHintOf(message);

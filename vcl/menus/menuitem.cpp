@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <bitset>
 
+#include "vcl/actions/actionlink.h"
+#include "vcl/actions/basicaction.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/exceptions.h"
@@ -36,19 +38,33 @@ std::uint16_t TakeCommand() {
 }  // namespace
 
 const TClass& TMenuItem::Class() {
+  using T = TMenuItem;
   static const TClass info = Describe<TMenuItem, TComponent>(
       "vcl::TMenuItem", "vcl/menus/menus.h",
       {
-          Property<&TMenuItem::Caption, &TMenuItem::SetCaption>("Caption").Type("TCaption"),
-          Property<&TMenuItem::Checked, &TMenuItem::SetChecked>("Checked").Default(false),
-          Property<&TMenuItem::Default, &TMenuItem::SetDefault>("Default").Default(false),
-          Property<&TMenuItem::Enabled, &TMenuItem::SetEnabled>("Enabled").Default(true),
-          Property<&TMenuItem::GroupIndex, &TMenuItem::SetGroupIndex>("GroupIndex").Default(0),
-          Property<&TMenuItem::Hint, &TMenuItem::SetHint>("Hint"),
-          Property<&TMenuItem::RadioItem, &TMenuItem::SetRadioItem>("RadioItem").Default(false),
-          Property<&TMenuItem::ShortCut, &TMenuItem::SetShortCut>("ShortCut").Default(scNone),
-          Property<&TMenuItem::Visible, &TMenuItem::SetVisible>("Visible").Default(true),
-          Event<&TMenuItem::OnClick>("OnClick"),
+          Property<&T::Action, &T::SetAction>("Action"),
+          Property<&T::Caption, &T::SetCaption>("Caption")
+              .Type("TCaption")
+              .StoredIf<&T::IsCaptionStored>(),
+          Property<&T::Checked, &T::SetChecked>("Checked")
+              .Default(false)
+              .StoredIf<&T::IsCheckedStored>(),
+          Property<&T::Default, &T::SetDefault>("Default").Default(false),
+          Property<&T::Enabled, &T::SetEnabled>("Enabled")
+              .Default(true)
+              .StoredIf<&T::IsEnabledStored>(),
+          Property<&T::GroupIndex, &T::SetGroupIndex>("GroupIndex")
+              .Default(0)
+              .StoredIf<&T::IsGroupIndexStored>(),
+          Property<&T::Hint, &T::SetHint>("Hint").StoredIf<&T::IsHintStored>(),
+          Property<&T::RadioItem, &T::SetRadioItem>("RadioItem").Default(false),
+          Property<&T::ShortCut, &T::SetShortCut>("ShortCut")
+              .Default(scNone)
+              .StoredIf<&T::IsShortCutStored>(),
+          Property<&T::Visible, &T::SetVisible>("Visible")
+              .Default(true)
+              .StoredIf<&T::IsVisibleStored>(),
+          Event<&T::OnClick>("OnClick"),
       });
   return info;
 }
@@ -242,7 +258,12 @@ bool TMenuItem::EnabledWithParents() const {
 }
 
 void TMenuItem::Click() {
-  if (EnabledWithParents()) OnClick(this);
+  if (!EnabledWithParents()) return;
+  if (OnClick || !Action()) {
+    OnClick(this);
+  } else {
+    Action()->Execute();
+  }
 }
 
 // Chooses the item by its shortcut. The menus around it are clicked first, as they are when they
@@ -266,10 +287,67 @@ bool TMenuItem::ChosenByKey() {
       return true;
     });
   }
+  UpdateAction();
+  if (watch.Gone()) return true;
   if (!EnabledWithParents()) return false;
   Click();
   return true;
 }
+
+// The action.
+
+TBasicAction* TMenuItem::Action() const { return FActionLink ? FActionLink->Action() : nullptr; }
+
+void TMenuItem::SetAction(TBasicAction* action) {
+  if (action == Action()) return;
+  if (!FActionLink) {
+    FActionLink = std::make_unique<TActionLink>(
+        *this, [this](const TActionChange& change) { FollowAction(change); });
+  }
+  FActionLink->SetAction(action);
+}
+
+void TMenuItem::FollowAction(const TActionChange& change) {
+  using T = TMenuItem;
+  using V = TActionValues;
+  change.Pass(*this, &V::Caption, &T::Caption, &T::SetCaption);
+  change.Pass(*this, &V::GroupIndex, &T::GroupIndex, &T::SetGroupIndex);
+  change.Pass(*this, &V::Checked, &T::Checked, &T::SetChecked);
+  change.Pass(*this, &V::Enabled, &T::Enabled, &T::SetEnabled);
+  change.Pass(*this, &V::Hint, &T::Hint, &T::SetHint);
+  change.Pass(*this, &V::ShortCut, &T::ShortCut, &T::SetShortCut);
+  change.Pass(*this, &V::Visible, &T::Visible, &T::SetVisible);
+}
+
+void TMenuItem::UpdateAction() {
+  if (Action()) Action()->Update();
+}
+
+// The actions of the items inside, before they are seen. Handlers may free them.
+void TMenuItem::UpdateActions() {
+  std::vector<std::pair<TMenuItem*, TWatch>> items;
+  for (TMenuItem* item : FItems) items.emplace_back(item, TWatch(item));
+  for (const auto& [item, watch] : items) {
+    if (!watch.Gone()) item->UpdateAction();
+  }
+}
+
+// A value that follows the action's is not written.
+template <class T>
+bool TMenuItem::IsOwn(T TActionValues::*value, const T& shown) const {
+  const TActionValues* values = FActionLink ? FActionLink->Values() : nullptr;
+  return !values || values->*value != shown;
+}
+
+bool TMenuItem::IsCaptionStored() const { return IsOwn(&TActionValues::Caption, FCaption); }
+bool TMenuItem::IsCheckedStored() const { return IsOwn(&TActionValues::Checked, FChecked); }
+bool TMenuItem::IsEnabledStored() const { return IsOwn(&TActionValues::Enabled, FEnabled); }
+bool TMenuItem::IsGroupIndexStored() const {
+  return IsOwn(&TActionValues::GroupIndex, FGroupIndex);
+}
+bool TMenuItem::IsHintStored() const { return IsOwn(&TActionValues::Hint, FHint); }
+bool TMenuItem::IsShortCutStored() const { return IsOwn(&TActionValues::ShortCut, FShortCut); }
+bool TMenuItem::IsVisibleStored() const { return IsOwn(&TActionValues::Visible, FVisible); }
 
 // The component.
 

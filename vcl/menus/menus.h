@@ -15,8 +15,12 @@
 
 namespace vcl {
 
+class TActionChange;
+class TActionLink;
+class TBasicAction;
 class TCustomForm;
 class TMenu;
+struct TActionValues;
 
 /// A key with scShift, scCtrl and scAlt.
 enum TShortCut : std::uint16_t { scNone = 0, scShift = 0x2000, scCtrl = 0x4000, scAlt = 0x8000 };
@@ -92,6 +96,10 @@ class VCL_API TMenuItem : public TComponent {
   HMENU Handle();
   /// Chooses the item: does nothing when it or one around it is disabled.
   virtual void Click();
+  TBasicAction* Action() const;
+  /// The action whose values the item shows (see TActionLink::SetAction), and which a click
+  /// executes unless OnClick is assigned.
+  void SetAction(TBasicAction* action);
 
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
   TComponent* GetParentComponent() const override;
@@ -115,6 +123,18 @@ class VCL_API TMenuItem : public TComponent {
   TMenuItem* Find(const std::function<bool(const TMenuItem&)>& wanted);
   bool EnabledWithParents() const;
   bool ChosenByKey();
+  void UpdateAction();
+  void UpdateActions();
+  void FollowAction(const TActionChange& change);
+  template <class T>
+  bool IsOwn(T TActionValues::*value, const T& shown) const;
+  bool IsCaptionStored() const;
+  bool IsCheckedStored() const;
+  bool IsEnabledStored() const;
+  bool IsGroupIndexStored() const;
+  bool IsHintStored() const;
+  bool IsShortCutStored() const;
+  bool IsVisibleStored() const;
 
   std::string FCaption;
   std::string FHint;
@@ -130,6 +150,7 @@ class VCL_API TMenuItem : public TComponent {
   TMenu* FMenu = nullptr;  // Set for a menu's own invisible item.
   std::vector<TMenuItem*> FItems;
   HMENU FHandle = nullptr;
+  std::unique_ptr<TActionLink> FActionLink;  // Made when there is an action.
 };
 
 /// Base of the menus.

@@ -1,6 +1,7 @@
 // TBitBtn: what its kind says of it, and painting the button with its glyph.
 #include "vcl/stdctrls/bitbtn.h"
 
+#include "vcl/actions/actionlink.h"
 #include "vcl/forms/forms.h"
 #include "vcl/graphics/canvas.h"
 #include "vcl/graphics/canvasbinding.h"
@@ -12,22 +13,22 @@ namespace vcl {
 
 const TClass& TBitBtn::Class() {
   using T = TBitBtn;
-  static const TClass info =
-      Describe<T, TButton>("vcl::TBitBtn", "vcl/stdctrls/buttons.h",
-                           {
-                               Inherit("Cancel").StoredIf<&T::IsCustom>(),
-                               Inherit("Caption").StoredIf<&T::IsCaptionStored>(),
-                               Inherit("Default").StoredIf<&T::IsCustom>(),
-                               Property<&T::Glyph, &T::SetGlyph>("Glyph").StoredIf<&T::IsCustom>(),
-                               Property<&T::Kind, &T::SetKind>("Kind").Default(bkCustom),
-                               Property<&T::Layout, &T::SetLayout>("Layout").Default(blGlyphLeft),
-                               Property<&T::Margin, &T::SetMargin>("Margin").Default(-1),
-                               Inherit("ModalResult").StoredIf<&T::IsCustom>(),
-                               Property<&T::NumGlyphs, &T::SetNumGlyphs>("NumGlyphs")
-                                   .Default(1)
-                                   .StoredIf<&T::IsCustom>(),
-                               Property<&T::Spacing, &T::SetSpacing>("Spacing").Default(4),
-                           });
+  static const TClass info = Describe<T, TButton>(
+      "vcl::TBitBtn", "vcl/stdctrls/buttons.h",
+      {
+          Inherit("Cancel").StoredIf<&T::IsCustom>(),
+          Inherit("Caption").StoredIf<&T::IsOwnCaptionStored>(),
+          Inherit("Default").StoredIf<&T::IsCustom>(),
+          Property<&T::Glyph, &T::SetGlyph>("Glyph").StoredIf<&T::IsGlyphStored>(),
+          Property<&T::Kind, &T::SetKind>("Kind").Default(bkCustom),
+          Property<&T::Layout, &T::SetLayout>("Layout").Default(blGlyphLeft),
+          Property<&T::Margin, &T::SetMargin>("Margin").Default(-1),
+          Inherit("ModalResult").StoredIf<&T::IsCustom>(),
+          Property<&T::NumGlyphs, &T::SetNumGlyphs>("NumGlyphs")
+              .Default(1)
+              .StoredIf<&T::IsCustom>(),
+          Property<&T::Spacing, &T::SetSpacing>("Spacing").Default(4),
+      });
   return info;
 }
 
@@ -70,7 +71,16 @@ void TBitBtn::SetKind(TBitBtnKind kind) {
   Invalidate();
 }
 
-bool TBitBtn::IsCaptionStored() const { return Caption() != TraitsOf(FKind).Caption; }
+// A kind's caption comes before the action's when the button is read.
+bool TBitBtn::IsOwnCaptionStored() const {
+  return Caption() != TraitsOf(FKind).Caption && (FKind != bkCustom || IsCaptionStored());
+}
+
+void TBitBtn::FollowAction(const TActionChange& change) {
+  const TWatch watch(this);
+  TButton::FollowAction(change);
+  if (!watch.Gone()) FFace.FollowAction(change);
+}
 
 void TBitBtn::Click() {
   TCustomForm* form = ParentForm();

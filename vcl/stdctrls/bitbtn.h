@@ -62,10 +62,12 @@ class VCL_API TBitBtn : public TButton {
   void CreateParams(TCreateParams& params) override;
   void Dispatch(TMessage& message) override;
   void SetButtonStyle(bool active) override;
+  void FollowAction(const TActionChange& change) override;
 
  private:
   bool IsCustom() const { return Kind() == bkCustom; }
-  bool IsCaptionStored() const;
+  bool IsGlyphStored() const { return IsCustom() && !FFace.GlyphFollows(); }
+  bool IsOwnCaptionStored() const;
   void Changed(TObject* sender);
   void GlyphChanged(TObject* sender);
   void DrawItem(const DRAWITEMSTRUCT& item);

@@ -42,6 +42,7 @@ const TClass& TButton::Class() {
   static const TClass info = Describe<TButton, TButtonControl>(
       "vcl::TButton", "vcl/stdctrls/stdctrls.h",
       {
+          Inherit("Action"),
           Property<&TButton::Cancel, &TButton::SetCancel>("Cancel").Default(false),
           Inherit("Caption"),
           Property<&TButton::Default, &TButton::SetDefault>("Default").Default(false),

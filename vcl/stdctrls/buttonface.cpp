@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "vcl/actions/actionlink.h"
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
@@ -57,9 +58,26 @@ void TButtonFace::SetGlyph(const TBitmap* glyph) {
 
 void TButtonFace::GlyphChanged(TObject* /*sender*/) {
   FImages.reset();
+  FGlyphFollows = false;
   CountImages();
   FGlyphChanged(nullptr);
   FChanged(nullptr);
+}
+
+void TButtonFace::FollowAction(const TActionChange& change) {
+  using V = TActionValues;
+  if (!FGlyph.Empty() && !FGlyphFollows) return;
+  if (!change.Changes(&V::ImageIndex) && !change.Changes(&V::Images)) return;
+  const auto& [index, images] = std::pair(change.Now().ImageIndex, change.Now().Images);
+  TBitmap picture;
+  if (images && index >= 0 && index < images->Count()) {
+    constexpr TColor seeThrough = clFuchsia;
+    images->GetBitmap(index, &picture, seeThrough);
+    picture.SetTransparentColor(seeThrough);
+  }
+  FGlyph.Assign(&picture);
+  FNumGlyphs = TNumGlyphs{1};  // However wide it is.
+  FGlyphFollows = !picture.Empty();
 }
 
 void TButtonFace::CountImages() {

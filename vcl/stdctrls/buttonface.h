@@ -12,6 +12,8 @@
 
 namespace vcl {
 
+class TActionChange;
+
 /// The side of the caption on which the glyph stands.
 enum TButtonLayout { blGlyphLeft, blGlyphRight, blGlyphTop, blGlyphBottom };
 template <>
@@ -55,6 +57,11 @@ class VCL_API TButtonFace {
   /// -1.
   void SetSpacing(int spacing);
 
+  /// A button without a glyph of its own shows the picture that its action names.
+  void FollowAction(const TActionChange& change);
+  /// True while the glyph is the action's picture.
+  bool GlyphFollows() const { return FGlyphFollows; }
+
   /// Draws glyph and caption, in the canvas's font, into the rectangle.
   void Draw(TCanvas* canvas, const TRect& client, const std::string& caption, TFaceState state);
 
@@ -80,6 +87,7 @@ class VCL_API TButtonFace {
   TButtonLayout FLayout = blGlyphLeft;
   int FMargin = -1;
   int FSpacing = 4;
+  bool FGlyphFollows = false;
 };
 
 }  // namespace vcl

@@ -1,10 +1,12 @@
 // TCustomCheckBox and TRadioButton: their states, and the group that a radio button belongs to.
 #include "vcl/stdctrls/checkbox.h"
 
+#include "vcl/actions/actionlink.h"
 #include "vcl/controls/private/narrowed.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
@@ -23,8 +25,14 @@ const TClass& TCustomCheckBox::Class() {
               .Default(taRightJustify)
               .Unpublished(),
           Property<&T::AllowGrayed, &T::SetAllowGrayed>("AllowGrayed").Default(false).Unpublished(),
-          Property<&T::Checked, &T::SetChecked>("Checked").Default(false).Unpublished(),
-          Property<&T::State, &T::SetState>("State").Default(cbUnchecked).Unpublished(),
+          Property<&T::Checked, &T::SetChecked>("Checked")
+              .Default(false)
+              .StoredIf<&T::IsCheckedStored>()
+              .Unpublished(),
+          Property<&T::State, &T::SetState>("State")
+              .Default(cbUnchecked)
+              .StoredIf<&T::IsStateStored>()
+              .Unpublished(),
           Inherit("TabStop").Default(true),
       });
   return info;
@@ -34,14 +42,15 @@ const TClass& TCheckBox::Class() {
   static const TClass info = Describe<TCheckBox, TCustomCheckBox>(
       "vcl::TCheckBox", "vcl/stdctrls/stdctrls.h",
       {
-          Inherit("Alignment"),   Inherit("AllowGrayed"), Inherit("Caption"),
-          Inherit("Checked"),     Inherit("Color"),       Inherit("DragCursor"),
-          Inherit("DragMode"),    Inherit("Enabled"),     Inherit("Font"),
-          Inherit("ParentColor"), Inherit("ParentFont"),  Inherit("ParentShowHint"),
-          Inherit("PopupMenu"),   Inherit("ShowHint"),    Inherit("State"),
-          Inherit("TabOrder"),    Inherit("TabStop"),     Inherit("Visible"),
-          Inherit("OnClick"),     Inherit(DragEvents),    Inherit(FocusEvents),
-          Inherit(KeyEvents),     Inherit(MouseEvents),   Inherit("OnStartDrag"),
+          Inherit("Action"),         Inherit("Alignment"),   Inherit("AllowGrayed"),
+          Inherit("Caption"),        Inherit("Checked"),     Inherit("Color"),
+          Inherit("DragCursor"),     Inherit("DragMode"),    Inherit("Enabled"),
+          Inherit("Font"),           Inherit("ParentColor"), Inherit("ParentFont"),
+          Inherit("ParentShowHint"), Inherit("PopupMenu"),   Inherit("ShowHint"),
+          Inherit("State"),          Inherit("TabOrder"),    Inherit("TabStop"),
+          Inherit("Visible"),        Inherit("OnClick"),     Inherit(DragEvents),
+          Inherit(FocusEvents),      Inherit(KeyEvents),     Inherit(MouseEvents),
+          Inherit("OnStartDrag"),
       });
   return info;
 }
@@ -63,7 +72,22 @@ void TCustomCheckBox::SetState(TCheckBoxState state) {
   FState = state;
   SendIfAllocated(*this, BM_SETCHECK, state);
   AccessibleChanged(acState);
-  if (!Loading()) Click();
+  if (!Loading() && !FFollowing) Click();
+}
+
+void TCustomCheckBox::FollowAction(const TActionChange& change) {
+  using T = TCustomCheckBox;
+  TButtonControl::FollowAction(change);
+  change.Pass(*this, &TActionValues::Checked, &T::Checked, &T::ShowChecked);
+}
+
+void TCustomCheckBox::ShowChecked(bool checked) {
+  const TSetFor following(FFollowing, true, this);
+  if (checked != Checked()) SetChecked(checked);
+}
+
+bool TCustomCheckBox::IsCheckedStored() const {
+  return !ActionValues() || Checked() != ActionValues()->Checked;
 }
 
 void TCustomCheckBox::Toggle() {
@@ -93,10 +117,13 @@ const TClass& TRadioButton::Class() {
   static const TClass info = Describe<T, TButtonControl>(
       "vcl::TRadioButton", "vcl/stdctrls/stdctrls.h",
       {
+          Inherit("Action"),
           LeftOrRight(Property<&T::Alignment, &T::SetAlignment>("Alignment"))
               .Default(taRightJustify),
           Inherit("Caption"),
-          Property<&T::Checked, &T::SetChecked>("Checked").Default(false),
+          Property<&T::Checked, &T::SetChecked>("Checked")
+              .Default(false)
+              .StoredIf<&T::IsCheckedStored>(),
           Inherit("Color"),
           Inherit("DragCursor"),
           Inherit("DragMode"),
@@ -138,7 +165,22 @@ void TRadioButton::SetChecked(bool checked) {
   AccessibleChanged(acState);
   if (!checked) return;
   UncheckSiblings();
-  if (!Loading()) Click();
+  if (!Loading() && !FFollowing) Click();
+}
+
+void TRadioButton::FollowAction(const TActionChange& change) {
+  using T = TRadioButton;
+  TButtonControl::FollowAction(change);
+  change.Pass(*this, &TActionValues::Checked, &T::Checked, &T::ShowChecked);
+}
+
+void TRadioButton::ShowChecked(bool checked) {
+  const TSetFor following(FFollowing, true, this);
+  SetChecked(checked);
+}
+
+bool TRadioButton::IsCheckedStored() const {
+  return !ActionValues() || FChecked != ActionValues()->Checked;
 }
 
 void TRadioButton::UncheckSiblings() {

@@ -39,8 +39,14 @@ class VCL_API TCustomCheckBox : public TButtonControl {
   void CreateWnd() override;
   void Pressed() override { Toggle(); }
   void AccelPressed() override;
+  void FollowAction(const TActionChange& change) override;
 
  private:
+  void ShowChecked(bool checked);
+  bool IsCheckedStored() const;
+  bool IsStateStored() const { return FState == cbGrayed || IsCheckedStored(); }
+
+  bool FFollowing = false;  // The action changes the state, which is no click.
   TAlignment FAlignment = taRightJustify;
   bool FAllowGrayed = false;
   TCheckBoxState FState = cbUnchecked;
@@ -76,9 +82,14 @@ class VCL_API TRadioButton : public TButtonControl {
   void Pressed() override { SetChecked(true); }
   void AccelPressed() override;
   void Dispatch(TMessage& message) override;
+  void FollowAction(const TActionChange& change) override;
 
  private:
   void UncheckSiblings();
+  void ShowChecked(bool checked);
+  bool IsCheckedStored() const;
+
+  bool FFollowing = false;  // The action checks the button, which is no click.
 
   TAlignment FAlignment = taRightJustify;
   bool FChecked = false;

@@ -48,6 +48,8 @@ class VCL_API TCustomEdit : public TWinControl {
   bool ReadOnly() const { return FReadOnly; }
   /// True: the user cannot change the text.
   void SetReadOnly(bool readOnly);
+  /// True when what the user does may change the text.
+  virtual bool CanModify() const { return !FReadOnly; }
 
   /// True when the user has changed the text since it was set.
   bool Modified() const;

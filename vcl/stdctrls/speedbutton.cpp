@@ -1,6 +1,7 @@
 // TSpeedButton: its group, its look in each state, and the mouse.
 #include "vcl/stdctrls/speedbutton.h"
 
+#include "vcl/actions/actionlink.h"
 #include "vcl/controls/accelerators.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/wincontrol.h"
@@ -16,14 +17,17 @@ const TClass& TSpeedButton::Class() {
   static const TClass info = Describe<T, TGraphicControl>(
       "vcl::TSpeedButton", "vcl/stdctrls/buttons.h",
       {
+          Inherit("Action"),
           Property<&T::AllowAllUp, &T::SetAllowAllUp>("AllowAllUp").Default(false),
-          Property<&T::GroupIndex, &T::SetGroupIndex>("GroupIndex").Default(0),
-          Property<&T::Down, &T::SetDown>("Down").Default(false),
+          Property<&T::GroupIndex, &T::SetGroupIndex>("GroupIndex")
+              .Default(0)
+              .StoredIf<&T::IsGroupIndexStored>(),
+          Property<&T::Down, &T::SetDown>("Down").Default(false).StoredIf<&T::IsDownStored>(),
           Inherit("Caption"),
           Inherit("Enabled"),
           Property<&T::Flat, &T::SetFlat>("Flat").Default(false),
           Inherit("Font"),
-          Property<&T::Glyph, &T::SetGlyph>("Glyph"),
+          Property<&T::Glyph, &T::SetGlyph>("Glyph").StoredIf<&T::IsGlyphStored>(),
           Property<&T::Layout, &T::SetLayout>("Layout").Default(blGlyphLeft),
           Property<&T::Margin, &T::SetMargin>("Margin").Default(-1),
           Property<&T::NumGlyphs, &T::SetNumGlyphs>("NumGlyphs").Default(1),
@@ -90,6 +94,30 @@ void TSpeedButton::Follow(const TSpeedButton& pressed) {
     Invalidate();
   }
   FAllowAllUp = pressed.FAllowAllUp;
+}
+
+// The action.
+
+// A button that already stands in a group keeps it when it gets an action.
+void TSpeedButton::FollowAction(const TActionChange& change) {
+  using T = TSpeedButton;
+  using V = TActionValues;
+  const TWatch watch(this);
+  TGraphicControl::FollowAction(change);
+  if (watch.Gone()) return;
+  if (!change.All() || FGroupIndex == 0) {
+    change.Pass(*this, &V::GroupIndex, &T::GroupIndex, &T::SetGroupIndex);
+  }
+  change.Pass(*this, &V::Checked, &T::Down, &T::SetDown);
+  FFace.FollowAction(change);
+}
+
+bool TSpeedButton::IsDownStored() const {
+  return !ActionValues() || FDown != ActionValues()->Checked;
+}
+
+bool TSpeedButton::IsGroupIndexStored() const {
+  return !ActionValues() || FGroupIndex != ActionValues()->GroupIndex;
 }
 
 // Look.

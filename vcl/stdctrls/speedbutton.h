@@ -61,8 +61,12 @@ class VCL_API TSpeedButton : public TGraphicControl {
   void MouseMove(TShiftState shift, int x, int y) override;
   void MouseUp(TMouseButton button, TShiftState shift, int x, int y) override;
   void Dispatch(TMessage& message) override;
+  void FollowAction(const TActionChange& change) override;
 
  private:
+  bool IsDownStored() const;
+  bool IsGroupIndexStored() const;
+  bool IsGlyphStored() const { return !FFace.GlyphFollows(); }
   void Changed(TObject* sender);
   TFaceState FaceState() const;
   bool ShowsEdge() const;

@@ -1,0 +1,4 @@
+// The actions and their list.
+#pragma once
+
+#include "vcl/actions/actionlist.h"
