@@ -294,7 +294,7 @@ class VCL_API TControl : public TComponent {
     std::size_t Next = 0;
     TScaledMeasure FontHeight;
   };
-  std::unique_ptr<TMeasures> FMeasures;  // Made when the control is scaled.
+  std::unique_ptr<TMeasures> FMeasures;                    // Made when the control is scaled.
   mutable std::unique_ptr<TSizeConstraints> FConstraints;  // Made when asked for.
   mutable std::unique_ptr<TMargins> FMargins;
   bool FEnabled = true;

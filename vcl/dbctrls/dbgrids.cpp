@@ -161,8 +161,9 @@ void TDBGrid::PaintRow(int row, bool current) {
 
 void TDBGrid::PaintCell(const TRect& rect, const std::string& text, bool right) {
   TCanvas& canvas = *Canvas();
-  const int x = right ? std::max(rect.Left + Margin(), rect.Right - Margin() - canvas.TextWidth(text))
-                      : rect.Left + Margin();
+  const int x = right
+                    ? std::max(rect.Left + Margin(), rect.Right - Margin() - canvas.TextWidth(text))
+                    : rect.Left + Margin();
   canvas.TextRect({rect.Left, rect.Top, rect.Right - 1, rect.Bottom - 1}, x, rect.Top + Margin(),
                   text);
   canvas.Pen()->SetColor(clBtnShadow);
