@@ -243,11 +243,11 @@ TEST_F(Scaling, BackOnTheFormerMonitorEachPixelIsWhatItWas) {
     const std::string measures = Measures(*form);
     for (const int pixels : {96, 120, 192, 72, 144, 97, first}) {
       MoveToMonitor(*form, pixels);
-      if (pixels == first) form->SetBounds(bounds.Left, bounds.Top, bounds.Width(), bounds.Height());
+      if (pixels == first)
+        form->SetBounds(bounds.Left, bounds.Top, bounds.Width(), bounds.Height());
     }
     EXPECT_EQ(Measures(*form), measures) << first;
-    EXPECT_EQ(Find<TStatusBar>(*form, "Foot").Panels()->Items(0)->Width(),
-              ::MulDiv(51, first, 96));
+    EXPECT_EQ(Find<TStatusBar>(*form, "Foot").Panels()->Items(0)->Width(), ::MulDiv(51, first, 96));
     EXPECT_EQ(Find<TBevel>(*form, "Right1").Constraints()->MinWidth(), ::MulDiv(33, first, 96));
   }
 }

@@ -22,8 +22,8 @@ int TControl::ScaledPixels(int pixels) const {
 
 void TControl::ScaleBy(int m, int d) {
   if (m < 1 || d < 1) {
-    throw EArgumentOutOfRangeException(Concat("A control can't be scaled by ", std::to_string(m),
-                                              " / ", std::to_string(d)));
+    throw EArgumentOutOfRangeException(
+        Concat("A control can't be scaled by ", std::to_string(m), " / ", std::to_string(d)));
   }
   if (m == d) return;
   const TWatch watch(this);

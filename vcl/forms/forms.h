@@ -323,8 +323,8 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   bool FCreated = false;
   bool FDestroyed = false;
   bool FReleased = false;
-  bool FRemaking = false;      // The window is made anew, which is no news to handlers.
-  bool FPlaced = false;        // Position has been acted on.
+  bool FRemaking = false;  // The window is made anew, which is no news to handlers.
+  bool FPlaced = false;    // Position has been acted on.
   bool FScaled = true;
   bool FScaledToMonitor = false;  // That is done once; then the system tells.
   int FPixelsPerInch = DefaultPixelsPerInch;

@@ -124,7 +124,8 @@ void TFont::AssignPixels(const TFont* source) {
   const bool rescaled = source && FPixelsPerInch != source->FPixelsPerInch;
   if (rescaled) FPixelsPerInch = source->FPixelsPerInch;
   // Points count otherwise now, also where all the rest is the same already.
-  rescaled && *source == *this ? Changed() : Assign(source);
+  if (rescaled && *this == *source) return Changed();
+  Assign(source);
 }
 
 bool TFont::operator==(const TFont& other) const {
