@@ -30,8 +30,8 @@ class VCL_API TControlScrollBar : public TPersistent {
   /// lets it.
   void SetPosition(int position);
   int Range() const { return FRange; }
-  /// The extent of what can be scrolled to; 0 for nothing beyond the window. AutoScroll ends. Raises
-  /// EArgumentOutOfRangeException for a negative one.
+  /// The extent of what can be scrolled to; 0 for nothing beyond the window. AutoScroll ends.
+  /// Raises EArgumentOutOfRangeException for a negative one.
   void SetRange(int range);
   bool Tracking() const { return FTracking; }
   /// Scrolls while the thumb is moved, and not only when it is let go.
