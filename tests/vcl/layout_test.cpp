@@ -177,7 +177,6 @@ TEST_F(Layout, FormsComeUpInTheMiddleOfWhatTheirPositionNames) {
     EXPECT_EQ(form.Left(), around.Left + (around.Width() - 100) / 2) << position;
     EXPECT_EQ(form.Top(), around.Top + (around.Height() - 80) / 2) << position;
   }
-  EXPECT_EQ(poScreenCenter, 4) << "stored ordinals stay";
 }
 
 TEST_F(Layout, TheWheelTurnsByNotches) {
