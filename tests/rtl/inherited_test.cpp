@@ -188,10 +188,11 @@ TEST_F(InheritedForm, HoldsNewComponentsAndPlaces) {
 end
 )");
   // What moves into another component is still the ancestor's.
-  EXPECT_THAT(Difference([](TSampleForm& form) {
-                PartOf(form, "Inside1").SetParentComponent(&PartOf(form, "Part2"));
-              }),
-              HasSubstr("  inherited Part2: TPart\n    inherited Inside1: TPart\n    end\n  end\n"));
+  EXPECT_THAT(
+      Difference([](TSampleForm& form) {
+        PartOf(form, "Inside1").SetParentComponent(&PartOf(form, "Part2"));
+      }),
+      HasSubstr("  inherited Part2: TPart\n    inherited Inside1: TPart\n    end\n  end\n"));
 }
 
 TEST_F(InheritedForm, BindsAndClearsEventsOfItsAncestor) {
@@ -327,9 +328,8 @@ TEST_F(InheritedForm, DamageIsToldWithItsLineAndLeavesNothing) {
     std::string binary = TextToBinary("inherited F: TSampleForm end");
     binary[4] = flags;
     EXPECT_THAT([&] { BinaryToText(binary); },
-                testing::ThrowsMessage<EReadError>(
-                    HasSubstr(Concat("Offset 4: unknown flags of a component: ",
-                                     std::to_string(flags & 0xF)))));
+                testing::ThrowsMessage<EReadError>(HasSubstr(Concat(
+                    "Offset 4: unknown flags of a component: ", std::to_string(flags & 0xF)))));
   }
 }
 
@@ -384,9 +384,8 @@ end
   read(ancestor, base);
   EXPECT_THAT(keeper.Messages,
               ElementsAre(HasSubstr("Base.Unknown"), HasSubstr("no file of TMissing")));
-  const TFormAncestry frames{nullptr, [](const TComponent&) {
-                               return std::make_unique<TPartFrame>(nullptr);
-                             }};
+  const TFormAncestry frames{
+      nullptr, [](const TComponent&) { return std::make_unique<TPartFrame>(nullptr); }};
   TStringStream again;
   WriteComponentText(again, &ancestor, frames);
   EXPECT_EQ(again.DataString(), base);

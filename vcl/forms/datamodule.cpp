@@ -51,7 +51,7 @@ void TDataModule::Free() {
 }
 
 void TDataModule::SetDesignSize(TSize size) {
-  FDesignSize = {std::max(size.Width, 0), std::max(size.Height, 0)};
+  FDesignSize = {std::max(size.cx, 0), std::max(size.cy, 0)};
 }
 
 void TDataModule::GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) {
@@ -74,8 +74,8 @@ void TDataModule::DefineProperties(TFiler& filer) {
         },
         [this, side](TWriter& writer) { writer.WriteInteger(FDesignSize.*side); }, true);
   };
-  define("Width", &TSize::Width);
-  define("Height", &TSize::Height);
+  define("Width", &TSize::cx);
+  define("Height", &TSize::cy);
 }
 
 }  // namespace vcl

@@ -224,9 +224,10 @@ class VCL_API TCustomForm : public TScrollingWinControl {
  protected:
   /// Reads the form from the RCDATA resource that is named after its class, in the given module or
   /// the executable, and fires OnCreate when no descendant has a file to add (InheritedBy); a form
-  /// that was created before raises EInvalidOperation. Raises EResNotFound, and what reading a form file raises,
-  /// with the class's name and the line; EReadError for a field whose component the file does not
-  /// hold; EInvalidOperation for a class without a ClassType. Fields are null until then.
+  /// that was created before raises EInvalidOperation. Raises EResNotFound, and what reading a form
+  /// file raises, with the class's name and the line; EReadError for a field whose component the
+  /// file does not hold; EInvalidOperation for a class without a ClassType. Fields are null until
+  /// then.
   void LoadForm(HINSTANCE module = nullptr);
 
   void CreateParams(TCreateParams& params) override;

@@ -76,8 +76,7 @@ VCL_API void WriteComponentBinary(TStream& stream, TComponent* root,
 VCL_API void WriteComponentText(TStream& stream, TComponent* root,
                                 const std::string& className = {});
 /// The same as the difference from what the root and its frames descend from.
-VCL_API void WriteComponentBinary(TStream& stream, TComponent* root,
-                                  const TFormAncestry& ancestry);
+VCL_API void WriteComponentBinary(TStream& stream, TComponent* root, const TFormAncestry& ancestry);
 VCL_API void WriteComponentText(TStream& stream, TComponent* root, const TFormAncestry& ancestry);
 /// Writes some of a root's components, whole but for its frames, as a text that ReadComponentsInto
 /// reads.

@@ -82,7 +82,8 @@ void TFormParser::ParseComponent() {
   FOutput.WriteEnd();
 }
 
-/// "object Name: TClass" (or "inherited", or "inline"), or "object TClass" for a component without a name.
+/// "object Name: TClass" (or "inherited", or "inline"), or "object TClass" for a component without
+/// a name.
 TFormHeading TFormParser::ParseHeading() {
   TFormHeading heading;
   heading.Inherited = FLexer.IsWord("inherited");

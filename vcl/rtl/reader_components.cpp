@@ -153,8 +153,7 @@ void TReader::TImpl::ReadBody(TComponent* component) {
 }
 
 void TReader::TImpl::ReadChildren(TComponent* component) {
-  const bool standsIn =
-      Keeper && component != Root && component->Kept() && !component->Inline();
+  const bool standsIn = Keeper && component != Root && component->Kept() && !component->Inline();
   if (standsIn && !component->Kept()->ClassName.empty()) return KeepChildren(component->Keep());
   TComponent* childOwner = component->GetChildOwner();
   const auto outer = std::tuple(Scope, Owner, Parent);

@@ -125,8 +125,8 @@ bool TReader::TImpl::KeepInside(TComponent* standIn, std::size_t whole) {
 /// Keeps what the file changes of a component that its ancestor has no longer, with the one around.
 bool TReader::TImpl::KeepLost(const TFormHeading& heading, std::size_t whole) {
   if (!Keeper || !Parent || Scope->FindComponent(heading.Name)) return false;
-  Keeper->Report(Concat(Input.Place(Input.Mark()), "there is no inherited component ",
-                        heading.Name));
+  Keeper->Report(
+      Concat(Input.Place(Input.Mark()), "there is no inherited component ", heading.Name));
   Input.SetPosition(whole);
   TKeptData& kept = Parent->Keep();
   SkipComponent(kept);

@@ -25,9 +25,9 @@ struct TFormAncestry {
 
 /// Writes a form file: of each object the published properties that are stored and differ from
 /// their declared defaults, then what the object defines itself. Of a component that the root's
-/// ancestor has, or a frame's own form file, it writes what differs from that. References are written by name;
-/// one to a component without a name is left out. Raises EWriteError for what cannot be kept, and
-/// then the stream holds nothing of the component.
+/// ancestor has, or a frame's own form file, it writes what differs from that. References are
+/// written by name; one to a component without a name is left out. Raises EWriteError for what
+/// cannot be kept, and then the stream holds nothing of the component.
 class VCL_API TWriter : public TFiler {
  public:
   /// Writes from the stream's position on; the stream must outlive the writer.

@@ -31,8 +31,7 @@ struct TWriter::TImpl {
   TComponent* AncestorOf(const TComponent& component) const;
   std::unique_ptr<TComponent> MakePristine(const TComponent& frame) const;
   std::vector<std::string> OrderOf(TComponent& ancestor, const std::vector<TComponent*>& children);
-  bool Differs(const TPersistent& object, const TPropInfo& prop,
-               const TPersistent* ancestor) const;
+  bool Differs(const TPersistent& object, const TPropInfo& prop, const TPersistent* ancestor) const;
   std::string ComparedReference(const TComponent& component) const;
   void WriteDefined(TPersistent& object, TPersistent* ancestor);
   /// What `write` writes, with references as they compare with those of the ancestor, or as the
