@@ -11,6 +11,7 @@
 #include "ide/formdocument.h"
 #include "ide/handlers.h"
 #include "ide/selection.h"
+#include "vcl/actions/actions.h"
 #include "vcl/designintf/designer.h"
 #include "vcl/menus/menus.h"
 
@@ -30,6 +31,7 @@ struct TDesignerEvents {
                      const std::string& property)>
       ShowCollection;
   std::function<void(vcl::TMenu& menu)> ShowMenu;
+  std::function<void(vcl::TActionList& list)> ShowActions;
   /// Says with what a change that an editor makes now belongs together; see TUndoHistory::Add.
   std::function<std::string()> ChangeKey;
   /// A component was made of the palette's class.

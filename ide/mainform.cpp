@@ -75,7 +75,8 @@ TMainForm::TMainForm(TComponent* owner)
       FStructure(new TStructureTree(this)),
       FItems(new TCollectionWindow(this)),
       FMenus(new TMenuWindow(this)),
-      FParts{FInspector, FStructure, FItems, FMenus} {
+      FActions(new TActionWindow(this)),
+      FParts{FInspector, FStructure, FItems, FMenus, FActions} {
   constexpr int structureHeight = 150;
   LoadForm();
   FStructure->SetHeight(structureHeight);

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "ide/actionwindow.h"
 #include "ide/formdesigner.h"
 #include "ide/inspector.h"
 #include "ide/menuwindow.h"
@@ -58,6 +59,7 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   TStructureTree& Structure() { return *FStructure; }
   TCollectionWindow& Items() { return *FItems; }
   TMenuWindow& MenuWindow() { return *FMenus; }
+  TActionWindow& ActionWindow() { return *FActions; }
 
   vcl::TMainMenu& MainMenu() override { return *MainMenuBar; }
   vcl::TDesigner* ActiveDesigner() override { return FDesigner; }
@@ -166,7 +168,8 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   TStructureTree* FStructure;
   TCollectionWindow* FItems;
   TMenuWindow* FMenus;
-  std::vector<TDesignerPart*> FParts;  // All four of them.
+  TActionWindow* FActions;
+  std::vector<TDesignerPart*> FParts;  // All five of them.
   std::unique_ptr<TOpenForms> FForms;
   TFormDesigner* FDesigner = nullptr;  // The active one of them.
   std::vector<std::unique_ptr<vcl::TExpert>> FExperts;

@@ -36,6 +36,7 @@ void TMainForm::ListenTo(TFormDesigner& designer) {
     FItems->ShowItems(*it, items);
   };
   it->Events.ShowMenu = [this, it](TMenu& menu) { FMenus->ShowMenu(*it, menu); };
+  it->Events.ShowActions = [this, it](TActionList& list) { FActions->ShowActions(*it, list); };
   it->Events.Placed = [this] {
     FPalette->Placed();
     TakeTool();

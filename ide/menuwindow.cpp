@@ -6,7 +6,6 @@
 
 #include "ide/formdesigner.h"
 #include "vcl/designintf/componenteditor.h"
-#include "vcl/rtl/strings.h"
 #include "vcl/rtl/text.h"
 
 namespace ide {
@@ -41,15 +40,13 @@ void RegisterMenuEditor() {
   RegisterComponentEditor(TMenu::Class(), ComponentEditorClass<TMenuEditor>("TMenuEditor"));
 }
 
-TMenuWindow::TMenuWindow(TComponent* owner) : TListWindow(owner) {
+TMenuWindow::TMenuWindow(TComponent* owner) : TPartsWindow(owner) {
   using T = TMenuWindow;
   constexpr std::pair<const char*, TCommand> commands[] = {
       {"&Add", &T::Add},           {"&Insert", &T::Insert}, {"Add &submenu", &T::AddInside},
       {"&Delete", &T::DeleteItem}, {"&Up", &T::MoveUp},     {"Do&wn", &T::MoveDown},
-      {"I&n", &T::MoveIn},         {"&Out", &T::MoveOut},   {"&Handler", &T::EditHandler}};
+      {"I&n", &T::MoveIn},         {"&Out", &T::MoveOut},   {"&Handler", &T::ShowHandler}};
   SetBounds(240, 220, 320, 330);
-  List().OnClick = TNotifyEvent(this, &T::ListClicked);
-  List().OnDblClick = TNotifyEvent([this](TObject*) { Try(&T::EditHandler); });
   List().OnKeyDown = TKeyEvent(this, &T::ListKey);
   for (const auto& [caption, command] : commands) {
     AddButton(caption, [this, each = command] { Try(each); });
@@ -58,93 +55,29 @@ TMenuWindow::TMenuWindow(TComponent* owner) : TListWindow(owner) {
 
 TMenuWindow::~TMenuWindow() { AnnounceEnd(); }
 
-// What is shown.
-
-void TMenuWindow::ShowMenu(TDesigner& designer, TMenu& menu) {
-  FDesigner = &designer;
-  FEdited = &menu;
-  Refresh();
-  Show();
+bool TMenuWindow::Takes(const TComponent& component) const {
+  return dynamic_cast<const TMenu*>(&component) != nullptr;
 }
 
-void TMenuWindow::SetDesigner(TDesigner* designer) {
-  FDesigner = designer;
-  FEdited = nullptr;
-  FItems.clear();
-  if (designer) Refresh();
-}
-
-/// By its name, else, as when it has been given another one, by itself.
-bool TMenuWindow::Find() {
-  TComponent& root = FDesigner->Root();
-  auto* named = FEdited ? nullptr : dynamic_cast<TMenu*>(root.FindComponent(FName));
-  for (int i = 0; i < root.ComponentCount() && FEdited; ++i) {
-    if (root.Components(i) == FEdited) named = FEdited;
-  }
-  FEdited = named;
-  FName = named ? named->Name() : std::string();
-  return named != nullptr;
-}
-
-void TMenuWindow::Refresh() {
-  if (!FDesigner || (!FEdited && FName.empty())) return;
-  if (!Find()) {
-    FItems.clear();
-    return Hide();
-  }
-  SetCaption(Concat("Items of ", FName));
-  ListItems();
-  SelectionChanged();
-}
-
-void TMenuWindow::ListItems() {
-  TStringList lines;
-  FItems.clear();
-  Append(*FEdited->Items(), 0, lines);
-  if (!lines.Equals(*List().Items())) List().SetItems(&lines);
-}
-
-void TMenuWindow::Append(TMenuItem& around, int depth, TStrings& lines) {
+void TMenuWindow::Append(TMenuItem& around, int depth) {
   for (int i = 0; i < around.Count(); ++i) {
     TMenuItem& item = *around.Items(i);
-    FItems.push_back(&item);
-    lines.Add(LineOf(item, depth));
-    Append(item, depth + 1, lines);
+    AddPart(LineOf(item, depth), &item);
+    Append(item, depth + 1);
   }
-}
-
-void TMenuWindow::SelectionChanged() {
-  if (!FDesigner || !FEdited) return;
-  const auto selection = FDesigner->Selection();
-  const auto found = std::ranges::find_first_of(
-      FItems, selection, [](TMenuItem* item, TPersistent* selected) { return item == selected; });
-  const int line = found == FItems.end() ? -1 : static_cast<int>(found - FItems.begin());
-  if (List().ItemIndex() != line) List().SetItemIndex(line);
 }
 
 // What the user does.
 
-TMenuItem* TMenuWindow::Selected() const {
-  const int line = List().ItemIndex();
-  const bool known = FEdited && line >= 0 && line < static_cast<int>(FItems.size());
-  return known ? FItems[static_cast<std::size_t>(line)] : nullptr;
-}
-
 void TMenuWindow::Try(TCommand command) {
   const bool needsItem = command != &TMenuWindow::Add;
-  if (!FDesigner || !FEdited || (needsItem && !Selected())) return;
+  if (!Edited() || (needsItem && !Selected())) return;
   (this->*command)();
 }
 
-void TMenuWindow::Changed(TMenuItem* selected) {
-  FDesigner->Modified();
-  Refresh();
-  FDesigner->SetSelection({selected ? static_cast<TPersistent*>(selected) : FEdited});
-}
-
 void TMenuWindow::Place(TMenuItem& around, int index) {
-  auto item = std::make_unique<TMenuItem>(&FDesigner->Root());
-  item->SetName(FDesigner->UniqueName(item->ClassName()));
+  auto item = std::make_unique<TMenuItem>(&FormDesigner().Root());
+  item->SetName(FormDesigner().UniqueName(item->ClassName()));
   item->SetCaption(item->Name());
   around.Insert(index, item.get());
   Changed(item.release());
@@ -152,7 +85,7 @@ void TMenuWindow::Place(TMenuItem& around, int index) {
 
 void TMenuWindow::Add() {
   TMenuItem* selected = Selected();
-  TMenuItem& around = selected ? *selected->Parent() : *FEdited->Items();
+  TMenuItem& around = selected ? *selected->Parent() : *EditedMenu()->Items();
   Place(around, selected ? selected->MenuIndex() + 1 : around.Count());
 }
 
@@ -165,9 +98,9 @@ void TMenuWindow::DeleteItem() {
   TMenuItem* item = Selected();
   TMenuItem* around = item->Parent();
   const int index = item->MenuIndex();
-  FDesigner->SetSelection({FEdited});
+  FormDesigner().SetSelection({Edited()});
   delete item;
-  TMenuItem* next = around == FEdited->Items() ? nullptr : around;
+  TMenuItem* next = around == EditedMenu()->Items() ? nullptr : around;
   if (around->Count() > 0) next = around->Items(std::min(index, around->Count() - 1));
   Changed(next);
 }
@@ -199,13 +132,7 @@ void TMenuWindow::MoveIn() {
 
 void TMenuWindow::MoveOut() {
   TMenuItem& around = *Selected()->Parent();
-  if (&around != FEdited->Items()) Move(*around.Parent(), around.MenuIndex() + 1);
-}
-
-void TMenuWindow::EditHandler() { MakeComponentEditor(*FDesigner, *Selected())->Edit(); }
-
-void TMenuWindow::ListClicked(TObject*) {
-  if (TMenuItem* item = Selected()) FDesigner->SetSelection({item});
+  if (&around != EditedMenu()->Items()) Move(*around.Parent(), around.MenuIndex() + 1);
 }
 
 void TMenuWindow::ListKey(TObject*, std::uint16_t& key, TShiftState shift) {

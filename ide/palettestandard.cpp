@@ -1,10 +1,12 @@
 // Which of the class library's components stand on which page of the palette, and which have an
 // editor of the designer's own.
+#include "ide/actionwindow.h"
 #include "ide/menuwindow.h"
 #include "ide/palette.h"
 #include "vcl/db/datasource.h"
 #include "vcl/db/memorydataset.h"
 #include "vcl/db/odbcquery.h"
+#include "vcl/dbctrls/dbactions.h"
 #include "vcl/dbctrls/dbedit.h"
 #include "vcl/dbctrls/dbgrids.h"
 #include "vcl/dbctrls/registration.h"
@@ -14,6 +16,31 @@
 
 namespace ide {
 
+namespace {
+
+void RegisterStandardActions() {
+  using namespace vcl;
+  const TActionEntry categories[] = {
+      {"Edit",
+       {&TEditCut::Class(), &TEditCopy::Class(), &TEditPaste::Class(), &TEditSelectAll::Class(),
+        &TEditUndo::Class(), &TEditDelete::Class()}},
+      {"File", {&TFileOpen::Class(), &TFileSaveAs::Class(), &TFileExit::Class()}},
+      {"Window",
+       {&TWindowClose::Class(), &TWindowCascade::Class(), &TWindowTileHorizontal::Class(),
+        &TWindowTileVertical::Class(), &TWindowArrange::Class(), &TWindowMinimizeAll::Class()}},
+      {"Help", {&THelpContents::Class()}},
+      {"Data set",
+       {&TDataSetFirst::Class(), &TDataSetPrior::Class(), &TDataSetNext::Class(),
+        &TDataSetLast::Class(), &TDataSetInsert::Class(), &TDataSetDelete::Class(),
+        &TDataSetEdit::Class(), &TDataSetPost::Class(), &TDataSetCancel::Class(),
+        &TDataSetRefresh::Class()}},
+  };
+  RegisterNoIcon({&TAction::Class()});
+  for (const auto& [category, classes] : categories) RegisterActions(category, classes);
+}
+
+}  // namespace
+
 void RegisterStandardPages() {
   using namespace vcl;
   // The fields of data sets, too, which have no icon.
@@ -22,7 +49,8 @@ void RegisterStandardPages() {
       {"Standard",
        {&TMainMenu::Class(), &TPopupMenu::Class(), &TLabel::Class(), &TEdit::Class(),
         &TMemo::Class(), &TButton::Class(), &TCheckBox::Class(), &TRadioButton::Class(),
-        &TListBox::Class(), &TComboBox::Class(), &TGroupBox::Class(), &TPanel::Class()}},
+        &TListBox::Class(), &TComboBox::Class(), &TGroupBox::Class(), &TPanel::Class(),
+        &TActionList::Class()}},
       {"Additional",
        {&TBitBtn::Class(), &TSpeedButton::Class(), &TImage::Class(), &TBevel::Class(),
         &TScrollBox::Class(), &TSplitter::Class(), &TFlowPanel::Class(), &TGridPanel::Class()}},
@@ -39,6 +67,8 @@ void RegisterStandardPages() {
   };
   for (const auto& [page, classes] : pages) RegisterComponents(page, classes);
   RegisterMenuEditor();
+  RegisterStandardActions();
+  RegisterActionEditor();
 }
 
 }  // namespace ide

@@ -121,6 +121,9 @@ void TPackage::TakeBack() {
     return std::ranges::any_of(entry.Classes, ours);
   });
   std::erase_if(detail::NoIcons(), ours);
+  std::erase_if(detail::Actions(), [&](const TActionEntry& entry) {
+    return std::ranges::any_of(entry.Classes, ours);
+  });
   std::erase_if(detail::PropertyEditorEntries(), [&](const TPropertyEditorEntry& entry) {
     return ours(entry.Editor.Make) || ours(entry.Class);
   });

@@ -12,6 +12,7 @@ namespace vcl::detail {
 
 std::vector<TPaletteEntry>& Palette();
 std::vector<const TClass*>& NoIcons();
+std::vector<TActionEntry>& Actions();
 std::vector<TPropertyEditorEntry>& PropertyEditorEntries();
 std::vector<TComponentEditorEntry>& ComponentEditorEntries();
 std::vector<TExpertClass>& Experts();

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "vcl/actions/actions.h"
 #include "vcl/designintf/registered.h"
 #include "vcl/rtl/classregistry.h"
 #include "vcl/rtl/exceptions.h"
@@ -37,6 +38,11 @@ std::vector<const TClass*>& detail::NoIcons() {
   return classes;
 }
 
+std::vector<TActionEntry>& detail::Actions() {
+  static std::vector<TActionEntry> entries;
+  return entries;
+}
+
 void RegisterComponents(const std::string& page, const std::vector<const TClass*>& classes) {
   if (page.empty()) throw EComponentError("A palette page needs a name");
   CheckComponents(classes);
@@ -49,6 +55,18 @@ void RegisterNoIcon(const std::vector<const TClass*>& classes) {
   RegisterAll(classes);
   detail::NoIcons().insert(detail::NoIcons().end(), classes.begin(), classes.end());
 }
+
+void RegisterActions(const std::string& category, const std::vector<const TClass*>& classes) {
+  if (category.empty()) throw EComponentError("A category of actions needs a name");
+  for (const TClass* each : classes) {
+    if (each->InheritsFrom(TContainedAction::Class())) continue;
+    throw EComponentError(Concat(each->Name(), " is no action"));
+  }
+  RegisterNoIcon(classes);
+  detail::Actions().push_back({category, classes});
+}
+
+const std::vector<TActionEntry>& RegisteredActions() { return detail::Actions(); }
 
 const std::vector<TPaletteEntry>& RegisteredComponents() { return detail::Palette(); }
 

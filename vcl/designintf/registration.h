@@ -15,6 +15,12 @@ struct TPaletteEntry {
   std::vector<const TClass*> Classes;
 };
 
+/// One call of RegisterActions: a category and its classes of actions, in order.
+struct TActionEntry {
+  std::string Category;
+  std::vector<const TClass*> Classes;
+};
+
 /// Puts component classes on a page of the designer's palette, behind what is there, and registers
 /// them with the class registry. Raises EComponentError for an empty page name or a class that is
 /// not a component that can be made by name, and then registers none of them.
@@ -23,6 +29,12 @@ VCL_API void RegisterComponents(const std::string& page, const std::vector<const
 /// the parts of another component that its own editor makes. Raises like RegisterComponents.
 VCL_API void RegisterNoIcon(const std::vector<const TClass*>& classes);
 VCL_API const std::vector<const TClass*>& NoIconComponents();
+/// Registers classes of actions that the designer of action lists offers under the category. Raises
+/// like RegisterComponents, also for a class that is no TContainedAction.
+VCL_API void RegisterActions(const std::string& category,
+                             const std::vector<const TClass*>& classes);
+/// The calls so far, in order.
+VCL_API const std::vector<TActionEntry>& RegisteredActions();
 /// The calls so far, in order.
 VCL_API const std::vector<TPaletteEntry>& RegisteredComponents();
 /// The page that the class was put on first; empty when it is on none.
