@@ -196,6 +196,7 @@ constexpr const char* File =
     "object Form: TForm\n"
     "  Left = 0\n"
     "  Top = 0\n"
+    "  Caption = ''\n"
     "  ClientHeight = 100\n"
     "  ClientWidth = 200\n"
     "  object Button: TButton\n"

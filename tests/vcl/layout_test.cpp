@@ -171,10 +171,10 @@ TEST_F(Layout, FormsComeUpInTheMiddleOfWhatTheirPositionNames) {
   };
   for (const auto& [position, owner, around] : cases) {
     TForm form(owner);
-    form.SetBounds(1, 2, 100, 80);
+    form.SetBounds(1, 2, 200, 80);
     form.SetPosition(position);
     form.Show();
-    EXPECT_EQ(form.Left(), around.Left + (around.Width() - 100) / 2) << position;
+    EXPECT_EQ(form.Left(), around.Left + (around.Width() - 200) / 2) << position;
     EXPECT_EQ(form.Top(), around.Top + (around.Height() - 80) / 2) << position;
   }
 }
