@@ -140,11 +140,6 @@ std::string TFormDesigner::MemberProblem(const std::string& name) const {
   return {};
 }
 
-bool TFormDesigner::IsInherited(const TComponent& component) const {
-  const TForm* ancestor = FDocument.Ancestor();
-  return ancestor && component.Owner() == &Root() && ancestor->FindComponent(component.Name());
-}
-
 /// The form's class is called after it.
 std::string TFormDesigner::RootNameProblem(const std::string& name) const {
   const std::string className = "T" + name;
@@ -158,9 +153,6 @@ std::string TFormDesigner::RootNameProblem(const std::string& name) const {
 std::string TFormDesigner::NameProblem(const TComponent& component, const std::string& name) const {
   if (name.empty()) return "It has no name, so that no handler can reach it";
   if (&component == &Root()) return RootNameProblem(name);
-  if (IsInherited(component) && name != component.Name()) {
-    return Concat(component.Name(), " is inherited and keeps its name");
-  }
   if (MethodExists(name)) return Concat(name, " is the name of a handler, too");
   return MemberProblem(name);
 }

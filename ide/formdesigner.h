@@ -86,9 +86,6 @@ class TFormDesigner : public vcl::TDesigner {
   std::vector<std::string> ComponentNames(const vcl::TClass& aClass) const override;
   vcl::TComponent* FindComponent(const std::string& name) const override;
   std::string NameOf(const vcl::TComponent& component) const override;
-  const vcl::TObject* AncestorOf(const vcl::TObject& object) const override {
-    return FDocument.AncestorOf(object);
-  }
   std::vector<vcl::TPersistent*> Selection() const override;
   void SetSelection(const std::vector<vcl::TPersistent*>& selection) override;
   bool ShowNonVisual() const override { return FSurface.ShowIcons(); }
@@ -102,9 +99,6 @@ class TFormDesigner : public vcl::TDesigner {
   void RootMade();
   void SelectionChanged();
   void Report(const std::string& message) const;
-  std::string InheritedIn(vcl::TComponent& component) const;
-  /// True for a component that the form has from the one that it descends from.
-  bool IsInherited(const vcl::TComponent& component) const;
   std::string RootNameProblem(const std::string& name) const;
   std::string MemberProblem(const std::string& name) const;
   void CheckMethodName(const std::string& name) const;

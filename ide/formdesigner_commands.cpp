@@ -46,27 +46,9 @@ void TFormDesigner::Add(const TClass& aClass) {
   Drop(aClass, container, {x, y, x, y});
 }
 
-/// The name of what is inherited: the component or one inside it; empty for none.
-std::string TFormDesigner::InheritedIn(TComponent& component) const {
-  if (IsInherited(component)) return component.Name();
-  std::string found;
-  component.GetChildren(
-      [&](TComponent* child) {
-        if (found.empty()) found = InheritedIn(*child);
-      },
-      &Root());
-  return found;
-}
-
 void TFormDesigner::DeleteSelected() {
   const std::vector<TComponent*> deleted = SelectedOutermost();
   if (deleted.empty()) return;
-  for (TComponent* each : deleted) {
-    if (const std::string inherited = InheritedIn(*each); !inherited.empty()) {
-      return Report(Concat(inherited, " is inherited from ", FDocument.Base()->ClassName,
-                           " and can't be deleted here"));
-    }
-  }
   // Nobody may still show what is inside them while they are freed.
   FSelection.Only(&Root());
   Try([&] {
@@ -104,7 +86,7 @@ std::vector<TComponent*> TFormDesigner::SelectedOutermost() const {
 
 std::string TFormDesigner::CopyText() const {
   TStringStream stream;
-  WriteComponentsText(stream, SelectedOutermost(), &Root(), FDocument.Frames());
+  WriteComponentsText(stream, SelectedOutermost(), &Root());
   return stream.DataString();
 }
 

@@ -8,7 +8,6 @@
 #include "vcl/rtl/filenames.h"
 #include "vcl/rtl/files.h"
 #include "vcl/rtl/formfile.h"
-#include "vcl/rtl/properties.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
@@ -26,6 +25,12 @@ constexpr std::size_t UndoLimit = std::size_t{64} << 20;
 std::string ReadFile(const std::string& fileName) {
   TFileStream file(fileName, fmOpenRead | fmShareDenyWrite);
   return file.ReadRest();
+}
+
+std::string TextOf(TForm& root) {
+  TStringStream stream;
+  WriteComponentText(stream, &root);
+  return stream.DataString();
 }
 
 /// When the file was written last; 0 when there is none.
@@ -48,64 +53,28 @@ TFormDocument::~TFormDocument() { Tell(OnRootGoing); }
 
 // Reading and writing.
 
-TFormAncestry TFormDocument::Frames() const {
-  return {nullptr, [this](const TComponent& frame) { return FKeeper.Pristine(frame); }};
-}
-
-std::string TFormDocument::TextOf(TForm& root, TForm* ancestor) const {
-  TStringStream stream;
-  WriteComponentText(stream, &root, TFormAncestry{ancestor, Frames().MakeFrame});
-  return stream.DataString();
-}
-
-void TFormDocument::ReadChain(const TChain& chain, TForm& root) {
-  for (const TAncestorFile& each : chain) {
-    TStringStream stream(each.Bytes);
-    ReadComponentFile(stream, &root, each.FileName, &FKeeper);
+/// A form that could not be saved is not opened.
+std::unique_ptr<TForm> TFormDocument::ReadForm(const std::string& bytes, const std::string& name) {
+  auto root = Read(bytes, name);
+  try {
+    TextOf(*root);
+  } catch (const Exception& error) {
+    throw EReadError(Concat(name, " holds what could not be saved again: ", error.what()));
   }
+  return root;
 }
 
-std::unique_ptr<TForm> TFormDocument::Read(const std::string& bytes, const std::string& name,
-                                           const TChain& chain) {
+std::unique_ptr<TForm> TFormDocument::Read(const std::string& bytes, const std::string& name) {
   auto root = std::make_unique<TForm>(nullptr);
   root->SetDesigner(&FHook);
-  ReadChain(chain, *root);
   TStringStream stream(bytes);
   ReadComponentFile(stream, root.get(), name, &FKeeper);
   return root;
 }
 
-/// The ancestor alone, which nobody sees: null for none.
-std::unique_ptr<TForm> TFormDocument::ReadAncestor(const TChain& chain) {
-  if (chain.empty()) return nullptr;
-  // What it holds has been told already.
-  const vcl::TSetFor quiet(FQuiet, true);
-  auto ancestor = std::make_unique<TForm>(nullptr);
-  ancestor->SetDesigning(true);
-  ReadChain(chain, *ancestor);
-  return ancestor;
-}
-
-/// Shows the form of the bytes. One that could not be saved is not opened.
-void TFormDocument::Open(const std::string& bytes, const std::string& name, TChain chain,
-                         const std::string& folder) {
-  const std::string former = std::exchange(FKeeper.Folder, folder);
-  const vcl::TOnFailure stays([&] { FKeeper.Folder = former; });
-  auto root = Read(bytes, name, chain);
-  auto ancestor = ReadAncestor(chain);
-  try {
-    TextOf(*root, ancestor.get());
-  } catch (const Exception& error) {
-    throw EReadError(Concat(name, " holds what could not be saved again: ", error.what()));
-  }
+void TFormDocument::Show(std::unique_ptr<TForm> root) {
   if (FRoot) Tell(OnRootGoing);
-  FChain = std::move(chain);
-  FAncestor = std::move(ancestor);
   Take(std::move(root));
-}
-
-void TFormDocument::OpenFile(const std::string& bytes, const std::string& fileName) {
-  Open(bytes, fileName, AncestorFiles(fileName, bytes), ExtractFileDir(fileName));
 }
 
 void TFormDocument::Take(std::unique_ptr<TForm> root) {
@@ -118,36 +87,25 @@ void TFormDocument::Take(std::unique_ptr<TForm> root) {
 
 std::string TFormDocument::State() const {
   TStringStream stream;
-  WriteComponentBinary(stream, FRoot.get(), Frames());
+  WriteComponentBinary(stream, FRoot.get());
   return stream.DataString();
 }
 
-std::string TFormDocument::Text() const { return TextOf(*FRoot, FAncestor.get()); }
+std::string TFormDocument::Text() const { return TextOf(*FRoot); }
 
 void TFormDocument::New(const std::string& formName) {
   constexpr const char* place =
       "  Left = 40\n  Top = 30\n  ClientHeight = 300\n  ClientWidth = 420\n";
-  Open(Concat("object ", formName, ": T", formName, "\n  Caption = ", "'", formName, "'\n", place,
-              "end\n"),
-       {}, {}, {});
-  FFileName.clear();
-  FHistory.Reset(State());
-  Tell(OnChange);
-}
-
-void TFormDocument::NewInherited(const std::string& formName, const std::string& ancestorFile) {
-  const std::string bytes = ReadFile(ancestorFile);
-  TChain chain = AncestorFiles(ancestorFile, bytes);
-  chain.push_back({FormClassOf(bytes), ancestorFile, bytes});
-  Open(Concat("inherited ", formName, ": T", formName, "\nend\n"), ancestorFile, std::move(chain),
-       ExtractFileDir(ancestorFile));
+  Show(Read(Concat("object ", formName, ": T", formName, "\n  Caption = ", "'", formName, "'\n",
+                   place, "end\n"),
+            {}));
   FFileName.clear();
   FHistory.Reset(State());
   Tell(OnChange);
 }
 
 void TFormDocument::Load(const std::string& fileName) {
-  OpenFile(ReadFile(fileName), fileName);
+  Show(ReadForm(ReadFile(fileName), fileName));
   FFileName = fileName;
   FFileTime = TimeOf(fileName);
   FHistory.Reset(State());
@@ -155,7 +113,7 @@ void TFormDocument::Load(const std::string& fileName) {
 }
 
 void TFormDocument::LoadAutosaved(const std::string& fileName) {
-  OpenFile(ReadFile(AutosaveName(fileName)), fileName);
+  Show(ReadForm(ReadFile(AutosaveName(fileName)), fileName));
   FFileTime = TimeOf(fileName);
   (FFileTime == 0 ? FCopyName : FFileName) = fileName;
   FHistory.Reset(State());
@@ -192,42 +150,6 @@ void TFormDocument::StayApart() {
   FFileTime = TimeOf(FFileName);
   FHistory.ForgetClean();
   Tell(OnChange);
-}
-
-// The ancestor.
-
-namespace {
-
-/// What stands in `there` for the object wanted, which is `here` or a part of it.
-const TObject* Counterpart(const TObject& here, const TObject& there, const TObject& wanted) {
-  if (&here.ClassType() != &there.ClassType()) return nullptr;
-  if (&here == &wanted) return &there;
-  for (const TPropInfo* prop : here.ClassType().Published()) {
-    if (prop->IsEvent() || !prop->Type->ClassOf) continue;
-    const TObject* inner = std::get<TObject*>(prop->Get(here));
-    const TObject* other = std::get<TObject*>(prop->Get(there));
-    if (!inner || !other || dynamic_cast<const TComponent*>(inner)) continue;
-    if (const TObject* found = Counterpart(*inner, *other, wanted)) return found;
-  }
-  return nullptr;
-}
-
-}  // namespace
-
-const TObject* TFormDocument::AncestorOf(const TObject& object) const {
-  if (!FAncestor) return nullptr;
-  const auto* component = dynamic_cast<const TComponent*>(&object);
-  if (!component || component == FRoot.get()) {
-    if (const TObject* found = Counterpart(*FRoot, *FAncestor, object)) return found;
-  }
-  for (int i = 0; i < FRoot->ComponentCount(); ++i) {
-    const TComponent& here = *FRoot->Components(i);
-    if (component && component != &here) continue;
-    const TComponent* there = FAncestor->FindComponent(here.Name());
-    const TObject* found = there ? Counterpart(here, *there, object) : nullptr;
-    if (found) return found;
-  }
-  return nullptr;
 }
 
 // Other forms.

@@ -6,12 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "ide/ancestors.h"
 #include "ide/formlinks.h"
 #include "ide/standins.h"
 #include "ide/undohistory.h"
 #include "vcl/forms/forms.h"
-#include "vcl/rtl/writer.h"
 
 namespace ide {
 
@@ -35,12 +33,8 @@ class TFormDocument {
 
   /// An empty form of that name; its class is the name with a T in front.
   void New(const std::string& formName);
-  /// A form of that name that descends from the one of a file; the two shall stand in one folder.
-  /// Raises what Load raises.
-  void NewInherited(const std::string& formName, const std::string& ancestorFile);
-  /// Reads a form file; that of a descendant on top of its ancestors' (ancestors.h). What it holds
-  /// and can't be used is kept and told to `OnProblem`. Raises EFOpenError, EParserError,
-  /// EReadError; the document is as before then.
+  /// Reads a form file. What it holds and can't be used is kept and told to `OnProblem`. Raises
+  /// EFOpenError, EParserError, EReadError; the document is as before then.
   void Load(const std::string& fileName);
   /// The same for the copy that the autosave left of the file; the document is modified then, and
   /// has no file when there is none of that name.
@@ -48,17 +42,8 @@ class TFormDocument {
   /// Replaces the file by the form's text. Raises EInOutError; the file is as before then, and the
   /// document is still modified.
   void Save(const std::string& fileName);
-  /// The form as a form file's text: of a descendant, what differs from its ancestor.
+  /// The form as a form file's text.
   std::string Text() const;
-
-  /// The form file of the class that the form descends from; null for one that descends from none.
-  const TAncestorFile* Base() const { return FChain.empty() ? nullptr : &FChain.back(); }
-  /// The form that this one descends from, as its file has it; null for none.
-  vcl::TForm* Ancestor() const { return FAncestor.get(); }
-  /// What the object is in the ancestor, where it is of the same class; null for what is new here.
-  const vcl::TObject* AncestorOf(const vcl::TObject& object) const;
-  /// How frames are written: as the difference from their own files.
-  vcl::TFormAncestry Frames() const;
 
   /// To be called after every change; see TUndoHistory::Add. A form that got another name gets
   /// another class too, as long as that was the name with a T in front.
@@ -114,15 +99,9 @@ class TFormDocument {
   std::function<void(const std::string& message)> OnProblem;
 
  private:
-  using TChain = std::vector<TAncestorFile>;
-  std::unique_ptr<vcl::TForm> Read(const std::string& bytes, const std::string& name,
-                                   const TChain& chain = {});
-  std::unique_ptr<vcl::TForm> ReadAncestor(const TChain& chain);
-  void ReadChain(const TChain& chain, vcl::TForm& root);
-  void Open(const std::string& bytes, const std::string& name, TChain chain,
-            const std::string& folder);
-  void OpenFile(const std::string& bytes, const std::string& fileName);
-  std::string TextOf(vcl::TForm& root, vcl::TForm* ancestor) const;
+  std::unique_ptr<vcl::TForm> Read(const std::string& bytes, const std::string& name);
+  std::unique_ptr<vcl::TForm> ReadForm(const std::string& bytes, const std::string& name);
+  void Show(std::unique_ptr<vcl::TForm> root);
   void Take(std::unique_ptr<vcl::TForm> root);
   void NameClass();
   const std::string& CopyOf() const { return FFileName.empty() ? FCopyName : FFileName; }
@@ -134,8 +113,6 @@ class TFormDocument {
 
   vcl::TDesignerHook& FHook;
   std::unique_ptr<vcl::TForm> FRoot;
-  TChain FChain;
-  std::unique_ptr<vcl::TForm> FAncestor;
   std::string FRootName;
   std::string FFileName;
   std::string FCopyName;

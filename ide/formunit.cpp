@@ -45,12 +45,8 @@ void Replace(const std::string& fileName, const std::string& before, const std::
 }  // namespace
 
 TUnitForm UnitFormOf(TComponent& root, const THandlers& handlers, const std::string& unitName,
-                     const TUnitAncestor* ancestor, std::vector<std::string>& notes) {
+                     std::vector<std::string>& notes) {
   TUnitForm form;
-  if (ancestor) {
-    form.Base = ancestor->ClassName;
-    form.BaseHeader = ancestor->UnitName + ".h";
-  }
   form.ClassName = root.FileClassName();
   form.UnitName = unitName;
   form.Incomplete = !IsKnown(root);
@@ -58,7 +54,6 @@ TUnitForm UnitFormOf(TComponent& root, const THandlers& handlers, const std::str
     TComponent& component = *root.Components(i);
     if (!IsKnown(component)) form.Incomplete = true;
     if (component.Name().empty() || IsStandIn(component)) continue;
-    if (ancestor && ancestor->Form->FindComponent(component.Name())) continue;
     if (root.ClassType().FindPublished(component.Name())) {
       throw EUnitError(Concat("The component ", component.Name(),
                               " would hide the form's property of that name"));
@@ -69,20 +64,18 @@ TUnitForm UnitFormOf(TComponent& root, const THandlers& handlers, const std::str
     notes.push_back("The form holds what the designer doesn't know; nothing is removed");
   }
   for (const auto& [name, event] : handlers.All(root)) {
-    if (ancestor && THandlers().Find(*ancestor->Form, name)) continue;
     form.Handlers.push_back({name, std::string(event->TypeName()), std::string(event->Parameters)});
   }
   return form;
 }
 
 std::vector<std::string> WriteUnitFiles(TComponent& root, const THandlers& handlers,
-                                        const std::string& formFile,
-                                        const TUnitAncestor* ancestor) {
+                                        const std::string& formFile) {
   const std::string headerFile = ChangeFileExt(formFile, ".h");
   const std::string sourceFile = ChangeFileExt(formFile, ".cpp");
   const std::string unit = ChangeFileExt(ExtractFileName(formFile), {});
   std::vector<std::string> notes;
-  const TUnitForm form = UnitFormOf(root, handlers, unit, ancestor, notes);
+  const TUnitForm form = UnitFormOf(root, handlers, unit, notes);
   const std::string header = ReadPresent(headerFile), source = ReadPresent(sourceFile);
   TUnitTexts texts = WriteUnit(form, header, source);
   // The header last: a source alone, as a broken attempt leaves it, can be brought up to date.

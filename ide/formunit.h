@@ -9,24 +9,15 @@
 
 namespace ide {
 
-/// The form that another one descends from.
-struct TUnitAncestor {
-  std::string ClassName;
-  std::string UnitName;
-  vcl::TComponent* Form;
-};
-
-/// What of the form its unit shows, without what an ancestor's shows (null for none). What C++
-/// can't name is told in `notes`. Raises EUnitError for a component that hides one of the form's
-/// own properties.
+/// What of the form its unit shows. What C++ can't name is told in `notes`. Raises EUnitError for a
+/// component that hides one of the form's own properties.
 TUnitForm UnitFormOf(vcl::TComponent& root, const THandlers& handlers, const std::string& unitName,
-                     const TUnitAncestor* ancestor, std::vector<std::string>& notes);
+                     std::vector<std::string>& notes);
 
 /// Writes or updates NAME.h and NAME.cpp beside the form file NAME.dfm; returns what the programmer
 /// should know. Raises EUnitError (see WriteUnit) and EInOutError. A unit that is as it should be
 /// is not written; each file is replaced whole.
 std::vector<std::string> WriteUnitFiles(vcl::TComponent& root, const THandlers& handlers,
-                                        const std::string& formFile,
-                                        const TUnitAncestor* ancestor = nullptr);
+                                        const std::string& formFile);
 
 }  // namespace ide

@@ -172,10 +172,7 @@ void TInspectorGrid::Revert() {
 
 void TInspectorGrid::MenuPopup(vcl::TObject* /*sender*/) {
   const bool can = FSelected >= 0 && !Row(FSelected).Default && Row(FSelected).Editor->CanRevert();
-  vcl::TMenuItem* revert = FMenu->Items()->Items(0);
-  revert->SetEnabled(can);
-  revert->SetCaption(can && Row(FSelected).Editor->Inherits() ? "&Revert to Inherited"
-                                                              : "&Revert to Default");
+  FMenu->Items()->Items(0)->SetEnabled(can);
 }
 
 // Its list and its button.

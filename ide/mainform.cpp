@@ -47,7 +47,6 @@ const TClass& TMainForm::Class() {
                              Method<&T::MenuClick>("MenuClick"),
                              Method<&T::AutosaveTimerTick>("AutosaveTimerTick"),
                              Method<&T::NewClick>("NewClick"),
-                             Method<&T::NewInheritedClick>("NewInheritedClick"),
                              Method<&T::OpenClick>("OpenClick"),
                              Method<&T::SaveClick>("SaveClick"),
                              Method<&T::SaveAsClick>("SaveAsClick"),

@@ -63,11 +63,6 @@ object MainForm: TMainForm
         ShortCut = 16462
         OnClick = NewClick
       end
-      object NewInheritedItem: TMenuItem
-        Caption = 'New &inherited form...'
-        Hint = 'Begins a form that descends from another one'
-        OnClick = NewInheritedClick
-      end
       object OpenItem: TMenuItem
         Caption = '&Open...'
         Hint = 'Opens a form file'

@@ -118,7 +118,6 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   void ListenTo(TFormDesigner& designer);
   void WorkOn(TFormDesigner& designer);
   void NewForm(const std::string& name);
-  void NewInherited(const std::string& ancestorFile);
   bool CloseForm();
   bool MayEnd();
   void CloseFormClick(vcl::TObject* sender);
@@ -128,7 +127,6 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
 
   // Files.
   void NewClick(vcl::TObject* sender);
-  void NewInheritedClick(vcl::TObject* sender);
   void OpenClick(vcl::TObject* sender);
   void RecentFileClick(vcl::TObject* sender);
   void SaveClick(vcl::TObject* sender);

@@ -8,7 +8,6 @@
 #include "ide/packagesdialog.h"
 #include "ide/preview.h"
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/text.h"
 
 namespace ide {
@@ -144,12 +143,8 @@ bool TMainForm::WriteUnit() {
   FDesigner->Try([&] {
     const TFormDocument& document = FDesigner->Document();
     const std::string& fileName = document.FileName();
-    const TAncestorFile* base = document.Base();
-    const TUnitAncestor ancestor{base ? base->ClassName : std::string(),
-                                 base ? ChangeFileExt(ExtractFileName(base->FileName), {}) : "",
-                                 document.Ancestor()};
-    for (const std::string& note : WriteUnitFiles(document.Root(), FDesigner->Handlers(), fileName,
-                                                  base ? &ancestor : nullptr)) {
+    for (const std::string& note :
+         WriteUnitFiles(document.Root(), FDesigner->Handlers(), fileName)) {
       Tell(note);
     }
     Tell(Concat("The unit of ", fileName, " is written"));

@@ -10,10 +10,6 @@ using namespace vcl;
 
 void TMainForm::NewClick(TObject*) { NewForm(FForms->UniqueFormName()); }
 
-void TMainForm::NewInheritedClick(TObject*) {
-  if (OpenDialog->Execute()) NewInherited(OpenDialog->FileName());
-}
-
 void TMainForm::OpenClick(TObject*) {
   if (OpenDialog->Execute()) Open(OpenDialog->FileName());
 }

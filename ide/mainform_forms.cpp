@@ -1,7 +1,6 @@
 // TMainForm: which of the open forms is worked on.
 #include "ide/mainform.h"
 #include "vcl/rtl/convert.h"
-#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/text.h"
 
 namespace ide {
@@ -76,19 +75,6 @@ void TMainForm::WorkOn(TFormDesigner& designer) {
 void TMainForm::NewForm(const std::string& name) {
   TFormDesigner& designer = FDesigner->Document().HasRoot() ? AddForm() : *FDesigner;
   designer.Document().New(name);
-  designer.Document().SetCopyName(FRecovery->NewName());
-  WorkOn(designer);
-  FForms->ShowWhole();
-}
-
-void TMainForm::NewInherited(const std::string& ancestorFile) {
-  TFormDesigner& designer = AddForm();
-  bool made = false;
-  designer.Try([&] {
-    designer.Document().NewInherited(FForms->UniqueFormName(), ExpandFileName(ancestorFile));
-    made = true;
-  });
-  if (!made) return FForms->Remove(designer);
   designer.Document().SetCopyName(FRecovery->NewName());
   WorkOn(designer);
   FForms->ShowWhole();

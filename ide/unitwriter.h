@@ -26,8 +26,6 @@ struct TUnitHandler {
 struct TUnitForm {
   std::string ClassName;
   std::string Base = "vcl::TForm";
-  /// What declares the base class, which has a form file of its own; empty for vcl::TForm.
-  std::string BaseHeader;
   std::string UnitName;  // The files' name without folder and ending.
   std::vector<TUnitField> Fields;
   std::vector<TUnitHandler> Handlers;

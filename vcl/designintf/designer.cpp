@@ -5,6 +5,4 @@ namespace vcl {
 
 TDesigner::~TDesigner() = default;
 
-const TObject* TDesigner::AncestorOf(const TObject&) const { return nullptr; }
-
 }  // namespace vcl

@@ -206,24 +206,12 @@ bool TMethodProperty::AllEqual() const {
       Edited(), [this](const TEditedProperty& each) { return HandlerOf(each) == GetValue(); });
 }
 
-namespace {
-
-/// The handler that the object inherits; empty for none.
-std::string InheritedHandler(const TEditedProperty& edited, const TDesigner& designer) {
-  const TObject* ancestor = designer.AncestorOf(*edited.Object);
-  if (!ancestor) return {};
-  return edited.Property->EventOf(const_cast<TObject&>(*ancestor)).HandlerName();
-}
-
-}  // namespace
-
 bool TMethodProperty::IsDefault() const {
-  return std::ranges::all_of(Edited(), [this](const TEditedProperty& each) {
-    return SameText(HandlerOf(each), InheritedHandler(each, Designer()));
-  });
+  return std::ranges::all_of(
+      Edited(), [this](const TEditedProperty& each) { return HandlerOf(each).empty(); });
 }
 
-void TMethodProperty::Revert() { SetHandlers(InheritedHandler(Edited().front(), Designer())); }
+void TMethodProperty::Revert() { SetHandlers({}); }
 
 namespace {
 
