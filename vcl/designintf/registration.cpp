@@ -2,6 +2,7 @@
 #include "vcl/designintf/registration.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "vcl/actions/actions.h"
 #include "vcl/designintf/registered.h"
@@ -63,7 +64,13 @@ void RegisterActions(const std::string& category, const std::vector<const TClass
     throw EComponentError(Concat(each->Name(), " is no action"));
   }
   RegisterNoIcon(classes);
-  detail::Actions().push_back({category, classes});
+  TActionEntry entry{category, classes};
+  std::erase_if(entry.Classes, [](const TClass* each) {
+    return std::ranges::any_of(detail::Actions(), [each](const TActionEntry& known) {
+      return std::ranges::count(known.Classes, each) > 0;
+    });
+  });
+  if (!entry.Classes.empty()) detail::Actions().push_back(std::move(entry));
 }
 
 const std::vector<TActionEntry>& RegisteredActions() { return detail::Actions(); }

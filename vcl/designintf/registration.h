@@ -29,8 +29,9 @@ VCL_API void RegisterComponents(const std::string& page, const std::vector<const
 /// the parts of another component that its own editor makes. Raises like RegisterComponents.
 VCL_API void RegisterNoIcon(const std::vector<const TClass*>& classes);
 VCL_API const std::vector<const TClass*>& NoIconComponents();
-/// Registers classes of actions that the designer of action lists offers under the category. Raises
-/// like RegisterComponents, also for a class that is no TContainedAction.
+/// Registers classes of actions that the designer of action lists offers under the category; what
+/// is offered already stays where it is. Raises like RegisterComponents, also for a class that is
+/// no TContainedAction.
 VCL_API void RegisterActions(const std::string& category,
                              const std::vector<const TClass*>& classes);
 /// The calls so far, in order.

@@ -266,8 +266,8 @@ void TGridPanel::Paint() {
 }
 
 void TGridPanel::Resize() {
-  TCustomPanel::Resize();
   if (Designing()) Invalidate();
+  TCustomPanel::Resize();
 }
 
 }  // namespace vcl
