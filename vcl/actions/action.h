@@ -72,16 +72,19 @@ class VCL_API TCustomAction : public TContainedAction {
   /// True checks and unchecks the action as it is executed; one of a group is only checked.
   void SetAutoCheck(bool autoCheck) { FAutoCheck = autoCheck; }
   const std::string& Caption() const { return FValues.Caption; }
+  /// The text that the action's clients show.
   void SetCaption(const std::string& caption);
   bool Checked() const { return FValues.Checked; }
   /// Checking an action of a group unchecks the others of the group.
   void SetChecked(bool checked);
   bool Enabled() const { return FValues.Enabled; }
+  /// False keeps the user from executing the action.
   void SetEnabled(bool enabled);
   int GroupIndex() const { return FValues.GroupIndex; }
   /// Of the actions of one list with the same GroupIndex, other than 0, one at a time is checked.
   void SetGroupIndex(int group);
   const std::string& Hint() const { return FValues.Hint; }
+  /// The hint that the action's clients show.
   void SetHint(const std::string& hint);
   int ImageIndex() const { return FValues.ImageIndex; }
   /// The picture in the list's Images; -1 for none.
@@ -90,6 +93,7 @@ class VCL_API TCustomAction : public TContainedAction {
   /// The keys that execute the action while a form with its list is active, behind the menus.
   void SetShortCut(TShortCut shortCut);
   bool Visible() const { return FValues.Visible; }
+  /// False takes the action's clients out of sight.
   void SetVisible(bool visible);
   const TActionValues* Values() const override { return &FValues; }
 

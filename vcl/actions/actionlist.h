@@ -40,6 +40,8 @@ class VCL_API TActionList : public TComponent {
   /// What the actions' ImageIndex counts in.
   void SetImages(TImageList* images);
   TActionListState State() const { return FState; }
+  /// Suspended, none of the list's actions is executed or updated; asSuspendedEnabled shows them
+  /// enabled.
   void SetState(TActionListState state);
   /// The first action with that shortcut; null when there is none.
   TCustomAction* FindShortCut(TShortCut shortCut) const;
@@ -51,7 +53,10 @@ class VCL_API TActionList : public TComponent {
 
   /// The actions, their order or their values have changed.
   TNotifyEvent OnChange;
-  TActionEvent OnExecute, OnUpdate;
+  /// An action of the list is about to be executed; the handler says whether it has done the work.
+  TActionEvent OnExecute;
+  /// The same for an action that is to be updated.
+  TActionEvent OnUpdate;
 
  protected:
   void Notification(TComponent* component, TOperation operation) override;

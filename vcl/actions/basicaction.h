@@ -39,7 +39,10 @@ class VCL_API TBasicAction : public TComponent {
   /// The control or menu item at the index from 0. Raises EListError outside.
   TComponent* Clients(int index) const;
 
-  TNotifyEvent OnExecute, OnUpdate;
+  /// The action's work is to be done.
+  TNotifyEvent OnExecute;
+  /// What the action's clients show is to be brought up to date.
+  TNotifyEvent OnUpdate;
 
  protected:
   /// Tells the clients that the values have changed. The action may be freed meanwhile.

@@ -278,9 +278,10 @@ class VCL_API TControl : public TComponent {
   /// The size within Constraints and what OnConstrainedResize makes of them.
   TSize ConstrainedSize(int width, int height);
   void RequestAlign();
-  /// Left and Top as they are when the parent is not scrolled, which is what form files hold.
+  /// Left as it is when the parent is not scrolled, in pixels, which is what form files hold.
   int FileLeft() const;
   void SetFileLeft(int left);
+  /// Top as it is when the parent is not scrolled, in pixels.
   int FileTop() const;
   void SetFileTop(int top);
   /// Scales the control's measures by m / d; a class with measures of its own, such as the widths

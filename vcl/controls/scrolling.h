@@ -88,8 +88,10 @@ class VCL_API TScrollingWinControl : public TWinControl {
   /// The ranges of the scroll bars follow the controls inside.
   void SetAutoScroll(bool autoScroll);
   TControlScrollBar* HorzScrollBar() const { return FHorz.get(); }
+  /// The scroll bar at the lower edge: its range, position and steps.
   void SetHorzScrollBar(const TControlScrollBar* bar) { FHorz->Assign(bar); }
   TControlScrollBar* VertScrollBar() const { return FVert.get(); }
+  /// The scroll bar at the right edge: its range, position and steps.
   void SetVertScrollBar(const TControlScrollBar* bar) { FVert->Assign(bar); }
   /// Between the two, AutoScroll leaves the ranges as they are, whatever moves inside.
   void DisableAutoRange() { ++FAutoRangeLevel; }

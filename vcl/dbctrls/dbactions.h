@@ -18,6 +18,7 @@ class VCL_API TDataSetAction : public TStandardAction {
   void ExecuteTarget(TComponent& target) override;
 
   TDataSource* DataSource() const { return FDataSource; }
+  /// The source of the data set that the action works on; null leaves that to the target.
   void SetDataSource(TDataSource* source);
 
  protected:

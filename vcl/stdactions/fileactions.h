@@ -41,6 +41,7 @@ class VCL_API TFileOpen : public TFileDialogAction {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
+  /// The dialog that asks for the file; null disables the action.
   TOpenDialog* Dialog() const { return FileDialog(); }
   void SetDialog(TOpenDialog* dialog) { SetFileDialog(dialog); }
 };
@@ -52,6 +53,7 @@ class VCL_API TFileSaveAs : public TFileDialogAction {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
+  /// The dialog that asks for the file; null disables the action.
   TSaveDialog* Dialog() const { return dynamic_cast<TSaveDialog*>(FileDialog()); }
   void SetDialog(TSaveDialog* dialog) { SetFileDialog(dialog); }
 };

@@ -38,6 +38,7 @@ class VCL_API TFlowPanel : public TCustomPanel {
   /// False keeps all controls in one line.
   void SetAutoWrap(bool autoWrap);
   TFlowStyle FlowStyle() const { return FFlowStyle; }
+  /// The direction in which the controls follow each other, and that of the lines.
   void SetFlowStyle(TFlowStyle style);
   /// The control's place in the order, from 0; -1 for one that does not stand inside.
   int ControlIndex(const TControl* control) const;

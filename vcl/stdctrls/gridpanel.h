@@ -28,6 +28,7 @@ class VCL_API TCellItem : public TCollectionItem {
   void Assign(const TPersistent* source) override;
 
   TSizeStyle SizeStyle() const { return FSizeStyle; }
+  /// Whether the size is so many pixels, a share of what is left, or what the controls need.
   void SetSizeStyle(TSizeStyle style);
   double Value() const { return FValue; }
   /// Pixels, or what this one's part of the shares is to the sum of all; without meaning for
@@ -61,11 +62,13 @@ class VCL_API TControlItem : public TCollectionItem {
   /// spans below 1.
   void SetColumn(int column) { Set(FColumn, column, 0, "column"); }
   int Row() const { return FRow; }
+  /// The first row that the control covers, from 0; see SetColumn.
   void SetRow(int row) { Set(FRow, row, 0, "row"); }
   int ColumnSpan() const { return FColumnSpan; }
   /// How many columns the control covers.
   void SetColumnSpan(int span) { Set(FColumnSpan, span, 1, "column span"); }
   int RowSpan() const { return FRowSpan; }
+  /// How many rows the control covers.
   void SetRowSpan(int span) { Set(FRowSpan, span, 1, "row span"); }
 
  private:
@@ -92,10 +95,13 @@ class VCL_API TGridPanel : public TCustomPanel {
   const TClass& ClassType() const override { return Class(); }
 
   TCollection* ColumnCollection() const { return FColumns.get(); }
+  /// The columns, from left to right; items of TCellItem.
   void SetColumnCollection(const TCollection* columns) { FColumns->Assign(columns); }
   TCollection* RowCollection() const { return FRows.get(); }
+  /// The rows, from top to bottom; items of TCellItem.
   void SetRowCollection(const TCollection* rows) { FRows->Assign(rows); }
   TCollection* ControlCollection() const { return FPlaces.get(); }
+  /// The places of the controls inside; items of TControlItem.
   void SetControlCollection(const TCollection* places) { FPlaces->Assign(places); }
   TExpandStyle ExpandStyle() const { return FExpandStyle; }
   /// emFixedSize leaves a control that finds no free cell where it is.

@@ -38,10 +38,12 @@ class VCL_API TSplitter : public TGraphicControl {
   /// first. Raises EArgumentOutOfRangeException for less than 1.
   void SetMinSize(int minSize);
   TResizeStyle ResizeStyle() const { return FResizeStyle; }
+  /// What is seen while the user moves the splitter.
   void SetResizeStyle(TResizeStyle style) { FResizeStyle = style; }
   /// The control that the splitter sizes: the one that it lies beside; null when there is none.
   TControl* Pane() const;
 
+  /// The pane is about to get a new size, which the handler may change or refuse.
   TCanResizeEvent OnCanResize;
   /// The pane has got its new size.
   TNotifyEvent OnMoved;

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <ranges>
 
 #include "vcl/controls/wincontrol.h"
 #include "vcl/forms/forms.h"
@@ -131,9 +130,10 @@ TFound SelectionIn(const TAccessibleNode& node) { return PartWith(node, asSelect
 TFound NodeAt(const TAccessibleNode& node, TPoint screen) {
   const std::optional<TAccessiblePart> whole = Describe(node);
   if (!whole || !whole->Bounds.Contains(screen)) return std::nullopt;
-  for (const TAccessibleNode& child : ChildrenOf(node) | std::views::reverse) {
-    const std::optional<TAccessiblePart> part = Describe(child);
-    if (part && !part->State.Has(asInvisible) && part->Bounds.Contains(screen)) return child;
+  const std::vector<TAccessibleNode> children = ChildrenOf(node);
+  for (auto child = children.rbegin(); child != children.rend(); ++child) {
+    const std::optional<TAccessiblePart> part = Describe(*child);
+    if (part && !part->State.Has(asInvisible) && part->Bounds.Contains(screen)) return *child;
   }
   return node;
 }

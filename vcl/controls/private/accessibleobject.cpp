@@ -89,6 +89,7 @@ HRESULT Give(long number, VARIANT* out) {
 }
 
 /// Calls come in the control's thread only: the system brings those of others there.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): it frees itself, by Release.
 class TAccessibleObject final : public IAccessible, public IEnumVARIANT, public IOleWindow {
  public:
   explicit TAccessibleObject(TAccessibleNode node, std::size_t next = 0)
