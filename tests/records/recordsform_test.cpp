@@ -54,13 +54,23 @@ class Records : public testing::Test {
     }
     return *asked;
   }
+  /// The dialog that is up, whether the screen has made it the active one or not; null without one.
+  static vcl::TCustomForm* Dialog() {
+    const vcl::TScreen* const screen = vcl::Screen();
+    for (int i = 0; i < screen->FormCount(); ++i) {
+      vcl::TCustomForm* const form = screen->Forms(i);
+      if (form->ClassName() != "TRecordsForm" && form->Visible()) return form;
+    }
+    return nullptr;
+  }
   /// Presses buttons in the next dialogs, whose texts it collects.
   static std::shared_ptr<std::vector<std::string>> Answering(std::vector<std::string> answers) {
     auto asked = std::make_shared<std::vector<std::string>>();
-    vcl::Application()->OnIdle = [=](vcl::TObject*, bool&) {
-      vcl::TCustomForm* const dialog = vcl::Screen()->ActiveForm();
-      if (!dialog || asked->size() >= answers.size() || dialog->ClassName() == "TRecordsForm")
-        return;
+    vcl::Application()->OnIdle = [=](vcl::TObject*, bool& done) {
+      if (asked->size() >= answers.size()) return;
+      done = false;  // No message is certain to come behind the one that shows the dialog.
+      vcl::TCustomForm* const dialog = Dialog();
+      if (!dialog) return;
       const std::string wanted = answers[asked->size()];
       std::string text;
       vcl::TButton* button = nullptr;
