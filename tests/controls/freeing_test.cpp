@@ -135,6 +135,7 @@ class TScene {
         [this] { Panel->SetShowHint(true); },
         [this] { Control->SetAlign(alTop); },
         [this] { Panel->SetWidth(150); },
+        [this] { Panel->ScaleBy(3, 2); },
         [this] { Control->SetAlign(alNone); },
         [this] { Control->SetText("7"); },
         [this] { Other->SetFocus(); },

@@ -1,10 +1,10 @@
 // TControl: anchors, the limits of its size, margins.
 #include <algorithm>
+#include <cmath>
 
 #include "vcl/controls/control.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/rtl/scope.h"
-#include "vcl/rtl/win32.h"
 
 namespace vcl {
 
@@ -96,9 +96,9 @@ TSpan Anchored(TSpan span, TSides to, int before, int now) {
   if (to.End) return {span.Begin + grown, span.End + grown};
   // Between the edges the middle keeps its share of the way.
   const int size = span.End - span.Begin;
-  const int begin = before == 0
-                        ? span.Begin
-                        : ::MulDiv((span.Begin + span.End) * now - size * before, 1, 2 * before);
+  if (before == 0) return span;
+  const double twice = (double(span.Begin) + span.End) * now - double(size) * before;
+  const auto begin = static_cast<int>(std::lround(twice / (2.0 * before)));
   return {begin, begin + size};
 }
 

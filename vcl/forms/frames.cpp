@@ -17,16 +17,12 @@ const TClass& TFrame::Class() {
   static const TClass info = Describe<TFrame, TCustomFrame>(
       "vcl::TFrame", "vcl/forms/frames.h",
       {
-          Inherit("Align"),       Inherit("AutoSize"),       Inherit("Color"),
-          Inherit("Ctl3D"),       Inherit("DoubleBuffered"), Inherit("DragCursor"),
-          Inherit("DragMode"),    Inherit("Enabled"),        Inherit("Font"),
-          Inherit("Padding"),     Inherit("ParentColor"),    Inherit("ParentCtl3D"),
-          Inherit("ParentFont"),  Inherit("ParentShowHint"), Inherit("PopupMenu"),
-          Inherit("ShowHint"),    Inherit("TabOrder"),       Inherit("TabStop").Default(false),
-          Inherit("Visible"),     Inherit("OnClick"),        Inherit("OnConstrainedResize"),
-          Inherit("OnDblClick"),  Inherit(DragEvents),       Inherit(FocusEvents),
-          Inherit(MouseEvents),   Inherit(WheelEvents),      Inherit("OnResize"),
-          Inherit("OnStartDrag"),
+          Inherit("Align"),
+          Inherit("AutoSize"),
+          Inherit("Color"),
+          Inherit("DoubleBuffered"),
+          Inherit(ContainerProperties),
+          Inherit(ContainerEvents),
       });
   return info;
 }

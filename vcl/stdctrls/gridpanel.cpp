@@ -14,6 +14,10 @@ namespace vcl {
 
 // Items.
 
+namespace {
+constexpr double MostSize = 1e6;  // More than any screen has, and few enough to be added up.
+}
+
 const TClass& TCellItem::Class() {
   using T = TCellItem;
   static const TClass info = Describe<T, TCollectionItem>(
@@ -40,7 +44,7 @@ void TCellItem::SetSizeStyle(TSizeStyle style) {
 }
 
 void TCellItem::SetValue(double value) {
-  if (!(value >= 0)) {
+  if (!(value >= 0 && value <= MostSize)) {
     throw EArgumentOutOfRangeException(
         Concat("A row or column cannot have the size ", std::to_string(value)));
   }
@@ -103,41 +107,13 @@ const TClass& TGridPanel::Class() {
       {
           Inherit("Align"),
           Inherit("Alignment"),
-          Inherit("BevelInner"),
-          Inherit("BevelOuter"),
-          Inherit("BevelWidth"),
-          Inherit("BorderWidth"),
-          Inherit("BorderStyle"),
-          Inherit("Caption"),
-          Inherit("Color"),
+          Inherit(PanelLook),
           Property<&T::ColumnCollection, &T::SetColumnCollection>("ColumnCollection"),
           Property<&T::ControlCollection, &T::SetControlCollection>("ControlCollection"),
-          Inherit("Ctl3D"),
-          Inherit("DragCursor"),
-          Inherit("DragMode"),
-          Inherit("Enabled"),
           Property<&T::ExpandStyle, &T::SetExpandStyle>("ExpandStyle").Default(emAddRows),
-          Inherit("Font"),
-          Inherit("ParentColor"),
-          Inherit("Padding"),
-          Inherit("ParentCtl3D"),
-          Inherit("ParentFont"),
-          Inherit("ParentShowHint"),
-          Inherit("PopupMenu"),
+          Inherit(ContainerProperties),
           Property<&T::RowCollection, &T::SetRowCollection>("RowCollection"),
-          Inherit("ShowHint"),
-          Inherit("TabOrder"),
-          Inherit("TabStop"),
-          Inherit("Visible"),
-          Inherit("OnClick"),
-          Inherit("OnConstrainedResize"),
-          Inherit("OnDblClick"),
-          Inherit(DragEvents),
-          Inherit(FocusEvents),
-          Inherit(MouseEvents),
-          Inherit(WheelEvents),
-          Inherit("OnResize"),
-          Inherit("OnStartDrag"),
+          Inherit(ContainerEvents),
       });
   return info;
 }
@@ -200,7 +176,7 @@ TControlItem* TGridPanel::PlaceOf(const TControl* control) const {
 }
 
 TControl* TGridPanel::ControlIn(int column, int row) const {
-  const auto covers = [](int first, int span, int at) { return first <= at && at < first + span; };
+  const auto covers = [](int first, int span, int at) { return first <= at && at - first < span; };
   for (int i = 0; i < FPlaces->Count(); ++i) {
     const TControlItem& each = *Places(i);
     if (each.FControl && covers(each.FColumn, each.FColumnSpan, column) &&
@@ -213,8 +189,7 @@ TControl* TGridPanel::ControlIn(int column, int row) const {
 
 void TGridPanel::AddPlace(TControl* control) {
   const TRect bounds = control->BoundsRect();
-  FPlaces->BeginUpdate();
-  const TAtEnd updated([this] { FPlaces->EndUpdate(); }, this);
+  const TUpdating updating(*FPlaces, this);
   auto* place = static_cast<TControlItem*>(FPlaces->Add());
   const TPoint middle{bounds.Left + bounds.Width() / 2, bounds.Top + bounds.Height() / 2};
   if (!Designing() || !TakeCellAt(*place, middle)) TakeFreeCell(*place);
@@ -263,11 +238,6 @@ void TGridPanel::Paint() {
       Canvas()->Rectangle(CellRect(column, row));
     }
   }
-}
-
-void TGridPanel::Resize() {
-  if (Designing()) Invalidate();
-  TCustomPanel::Resize();
 }
 
 }  // namespace vcl

@@ -32,7 +32,8 @@ class VCL_API TCellItem : public TCollectionItem {
   void SetSizeStyle(TSizeStyle style);
   double Value() const { return FValue; }
   /// Pixels, or what this one's part of the shares is to the sum of all; without meaning for
-  /// ssAuto. 50 at first. Raises EArgumentOutOfRangeException for a negative one.
+  /// ssAuto. 50 at first. Raises EArgumentOutOfRangeException for a negative one and for one above
+  /// a million.
   void SetValue(double value);
   /// The size that the last layout found, in pixels.
   int Size() const { return FSize; }
@@ -125,7 +126,6 @@ class VCL_API TGridPanel : public TCustomPanel {
   bool ArrangesFree() const override { return true; }
   void Dispatch(TMessage& message) override;
   void Paint() override;
-  void Resize() override;
   void Loaded() override;
 
  private:

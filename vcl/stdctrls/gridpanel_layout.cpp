@@ -14,12 +14,16 @@ TCellItem& Cell(const TCollection& cells, int index) {
   return *static_cast<TCellItem*>(cells.Items(index));
 }
 
-/// How far the first `count` rows or columns reach together.
+/// How far the first `count` rows or columns reach together, as far as a window can.
 int Extent(const TCollection& cells, int count) {
+  constexpr int farthest = 1 << 27;
   int extent = 0;
-  for (int i = 0; i < count; ++i) extent += Cell(cells, i).Size();
-  return extent;
+  for (int i = 0; i < count && extent < farthest; ++i) extent += Cell(cells, i).Size();
+  return std::min(extent, farthest);
 }
+
+/// The last of `count` rows or columns that a span from `first` covers.
+int LastOf(int first, int span, int count) { return first + std::min(span, count - first) - 1; }
 
 }  // namespace
 
@@ -56,10 +60,9 @@ void TGridPanel::Measure(const TCollection& cells, bool columns, int room) const
     }
     each.FSize = each.SizeStyle() == ssAuto ? NeedOf(i, columns)
                                             : static_cast<int>(std::lround(each.Value()));
-    room -= each.FSize;
+    room = std::max(room - each.FSize, 0);
   }
   // Rounded where each begins and ends, so that together they fill the room.
-  room = std::max(room, 0);
   double before = 0;
   for (int i = 0; i < cells.Count(); ++i) {
     TCellItem& each = Cell(cells, i);
@@ -125,9 +128,8 @@ void TGridPanel::AlignControls(TControl*, TRect& rect) {
     if (!control || control->Parent() != this || !control->Seen()) continue;
     if (place.Column() >= FColumns->Count() || place.Row() >= FRows->Count()) continue;
     TRect cell = CellRect(place.Column(), place.Row());
-    const TRect last =
-        CellRect(std::min(place.Column() + place.ColumnSpan(), FColumns->Count()) - 1,
-                 std::min(place.Row() + place.RowSpan(), FRows->Count()) - 1);
+    const TRect last = CellRect(LastOf(place.Column(), place.ColumnSpan(), FColumns->Count()),
+                                LastOf(place.Row(), place.RowSpan(), FRows->Count()));
     cell.Right = last.Right;
     cell.Bottom = last.Bottom;
     PutInCell(*control, cell);

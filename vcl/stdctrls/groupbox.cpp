@@ -20,16 +20,12 @@ const TClass& TGroupBox::Class() {
   static const TClass info = Describe<TGroupBox, TCustomGroupBox>(
       "vcl::TGroupBox", "vcl/stdctrls/stdctrls.h",
       {
-          Inherit("Align"),       Inherit("AutoSize"),       Inherit("Caption"),
-          Inherit("Color"),       Inherit("Ctl3D"),          Inherit("DragCursor"),
-          Inherit("DragMode"),    Inherit("Enabled"),        Inherit("Font"),
-          Inherit("ParentColor"), Inherit("Padding"),        Inherit("ParentCtl3D"),
-          Inherit("ParentFont"),  Inherit("ParentShowHint"), Inherit("PopupMenu"),
-          Inherit("ShowHint"),    Inherit("TabOrder"),       Inherit("TabStop"),
-          Inherit("Visible"),     Inherit("OnClick"),        Inherit("OnConstrainedResize"),
-          Inherit("OnDblClick"),  Inherit(DragEvents),       Inherit(FocusEvents),
-          Inherit(MouseEvents),   Inherit(WheelEvents),      Inherit("OnResize"),
-          Inherit("OnStartDrag"),
+          Inherit("Align"),
+          Inherit("AutoSize"),
+          Inherit("Caption"),
+          Inherit("Color"),
+          Inherit(ContainerProperties),
+          Inherit(ContainerEvents),
       });
   return info;
 }

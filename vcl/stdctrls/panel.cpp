@@ -63,18 +63,12 @@ const TClass& TPanel::Class() {
   static const TClass info = Describe<TPanel, TCustomPanel>(
       "vcl::TPanel", "vcl/stdctrls/extctrls.h",
       {
-          Inherit("Align"),       Inherit("Alignment"),      Inherit("AutoSize"),
-          Inherit("BevelInner"),  Inherit("BevelOuter"),     Inherit("BevelWidth"),
-          Inherit("BorderWidth"), Inherit("BorderStyle"),    Inherit("Caption"),
-          Inherit("Color"),       Inherit("Ctl3D"),          Inherit("DragCursor"),
-          Inherit("DragMode"),    Inherit("Enabled"),        Inherit("Font"),
-          Inherit("ParentColor"), Inherit("Padding"),        Inherit("ParentCtl3D"),
-          Inherit("ParentFont"),  Inherit("ParentShowHint"), Inherit("PopupMenu"),
-          Inherit("ShowHint"),    Inherit("TabOrder"),       Inherit("TabStop"),
-          Inherit("Visible"),     Inherit("OnClick"),        Inherit("OnConstrainedResize"),
-          Inherit("OnDblClick"),  Inherit(DragEvents),       Inherit(FocusEvents),
-          Inherit(MouseEvents),   Inherit(WheelEvents),      Inherit("OnResize"),
-          Inherit("OnStartDrag"),
+          Inherit("Align"),
+          Inherit("Alignment"),
+          Inherit("AutoSize"),
+          Inherit(PanelLook),
+          Inherit(ContainerProperties),
+          Inherit(ContainerEvents),
       });
   return info;
 }

@@ -232,15 +232,14 @@ void TSplitter::ToggleLine() {
   Across() ? line.Offset(way, 0) : line.Offset(0, way);
   static constexpr WORD points[] = {0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA};
   const TOwnedBitmap pattern(::CreateBitmap(8, 8, 1, 1, points));
-  const HBRUSH dotted = ::CreatePatternBrush(pattern.Get());
+  const TOwnedBrush dotted(::CreatePatternBrush(pattern.Get()));
   const HWND window = Parent()->Handle();
   const HDC dc = ::GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS | DCX_LOCKWINDOWUPDATE);
   const bool plain = FResizeStyle == rsLine;
-  const auto former = ::SelectObject(dc, plain ? ::GetStockObject(WHITE_BRUSH) : dotted);
+  const auto former = ::SelectObject(dc, plain ? ::GetStockObject(WHITE_BRUSH) : dotted.Get());
   ::PatBlt(dc, line.Left, line.Top, line.Width(), line.Height(), PATINVERT);
   ::SelectObject(dc, former);
   ::ReleaseDC(window, dc);
-  ::DeleteObject(dotted);
 }
 
 }  // namespace vcl
