@@ -12,9 +12,10 @@ namespace vcl {
 /// What something is, by the numbers of the system's roles (ROLE_SYSTEM_...).
 enum TAccessibleRole {
   arNone = 0,  ///< As the system's own object for the window says.
-  arToolTip = 13,
+  arScrollBar = 3,
   arWindow = 9,
   arClient = 10,
+  arToolTip = 13,
   arPane = 16,
   arDialog = 18,
   arGrouping = 20,

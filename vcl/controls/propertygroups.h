@@ -11,17 +11,17 @@ inline constexpr const char* MouseEvents[] = {"OnMouseDown", "OnMouseMove", "OnM
 
 /// What panels, group boxes and the like publish behind their own properties.
 inline constexpr const char* ContainerProperties[] = {
-    "Ctl3D",       "DragCursor", "DragMode",       "Enabled",   "Font",
-    "ParentColor", "Padding",    "ParentCtl3D",    "ParentFont", "ParentShowHint",
-    "PopupMenu",   "ShowHint",   "TabOrder",       "TabStop",   "Visible"};
+    "Ctl3D",       "DragCursor", "DragMode",    "Enabled",    "Font",
+    "ParentColor", "Padding",    "ParentCtl3D", "ParentFont", "ParentShowHint",
+    "PopupMenu",   "ShowHint",   "TabOrder",    "TabStop",    "Visible"};
 /// The events of the same classes; those that take keys publish KeyEvents, too.
 inline constexpr const char* ContainerEvents[] = {
-    "OnClick",    "OnConstrainedResize", "OnDblClick",   "OnDragDrop",       "OnDragOver",
-    "OnEndDrag",  "OnEnter",             "OnExit",       "OnMouseDown",      "OnMouseMove",
-    "OnMouseUp",  "OnMouseWheel",        "OnMouseWheelDown", "OnMouseWheelUp", "OnResize",
-    "OnStartDrag"};
+    "OnClick",          "OnConstrainedResize", "OnDblClick", "OnDragDrop",
+    "OnDragOver",       "OnEndDrag",           "OnEnter",    "OnExit",
+    "OnMouseDown",      "OnMouseMove",         "OnMouseUp",  "OnMouseWheel",
+    "OnMouseWheelDown", "OnMouseWheelUp",      "OnResize",   "OnStartDrag"};
 /// What panels show: their edges, their caption, their colour.
-inline constexpr const char* PanelLook[] = {"BevelInner",  "BevelOuter", "BevelWidth", "BorderWidth",
-                                            "BorderStyle", "Caption",    "Color"};
+inline constexpr const char* PanelLook[] = {
+    "BevelInner", "BevelOuter", "BevelWidth", "BorderWidth", "BorderStyle", "Caption", "Color"};
 
 }  // namespace vcl

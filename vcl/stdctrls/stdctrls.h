@@ -9,3 +9,4 @@
 #include "vcl/stdctrls/label.h"
 #include "vcl/stdctrls/listbox.h"
 #include "vcl/stdctrls/memo.h"
+#include "vcl/stdctrls/scrollbar.h"

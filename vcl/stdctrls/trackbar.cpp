@@ -2,21 +2,18 @@
 #include "vcl/stdctrls/trackbar.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <limits>
 
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/windowmessages.h"
-#include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
-#include "vcl/rtl/text.h"
 #include "vcl/stdctrls/private/commoncontrols.h"
 
 namespace vcl {
 
 const TClass& TTrackBar::Class() {
   using T = TTrackBar;
-  static const TClass info = Describe<T, TWinControl>(
+  static const TClass info = Describe<T, TRangeControl>(
       "vcl::TTrackBar", "vcl/stdctrls/comctrls.h",
       {
           Inherit("Align"),
@@ -24,14 +21,14 @@ const TClass& TTrackBar::Class() {
           Inherit("DragMode"),
           Inherit("Enabled"),
           Property<&T::LineSize, &T::SetLineSize>("LineSize").Default(1),
-          Property<&T::Max, &T::SetMax>("Max").Default(10),
-          Property<&T::Min, &T::SetMin>("Min").Default(0),
+          Inherit("Max").Default(10),
+          Inherit("Min"),
           Property<&T::Orientation, &T::SetOrientation>("Orientation").Default(trHorizontal),
           Inherit("ParentShowHint"),
           Property<&T::PageSize, &T::SetPageSize>("PageSize").Default(2),
           Inherit("PopupMenu"),
           Property<&T::Frequency, &T::SetFrequency>("Frequency").Default(1),
-          Property<&T::Position, &T::SetPosition>("Position").Default(0),
+          Inherit("Position"),
           Inherit("ShowHint"),
           Inherit("TabOrder"),
           Inherit("TabStop").Default(true),
@@ -47,22 +44,10 @@ const TClass& TTrackBar::Class() {
   return info;
 }
 
-TTrackBar::TTrackBar(TComponent* owner) : TWinControl(owner) {
+TTrackBar::TTrackBar(TComponent* owner) : TRangeControl(owner, 10) {
   SetControlStyle(ControlStyle() - TControlStyle{csCaptureMouse, csClickEvents});
   SetBounds(0, 0, 150, 45);
   SetTabStop(true);
-}
-
-void TTrackBar::SetRange(int min, int max) {
-  // The system's control counts the way from one end to the other.
-  if (min > max || std::int64_t{max} - min > std::numeric_limits<int>::max()) {
-    throw EArgumentOutOfRangeException(
-        Concat("A track bar cannot go from ", std::to_string(min), " to ", std::to_string(max)));
-  }
-  FMin = min;
-  FMax = max;
-  if (HandleAllocated()) SendRange();
-  SetPosition(FPosition);
 }
 
 // The control keeps every tick of every range that it hears of: there are few meanwhile, and never
@@ -70,9 +55,10 @@ void TTrackBar::SetRange(int min, int max) {
 void TTrackBar::SendRange() {
   constexpr int mostTicks = 4096;
   Send(*this, TBM_SETTICFREQ, static_cast<WPARAM>(std::numeric_limits<int>::max()));
-  Send(*this, TBM_SETRANGEMIN, FALSE, FMin);
-  Send(*this, TBM_SETRANGEMAX, TRUE, FMax);
-  Send(*this, TBM_SETTICFREQ, static_cast<WPARAM>(std::max(FFrequency, (FMax - FMin) / mostTicks)));
+  Send(*this, TBM_SETRANGEMIN, FALSE, Min());
+  Send(*this, TBM_SETRANGEMAX, TRUE, Max());
+  const int leastDistance = (Max() - Min()) / mostTicks;
+  Send(*this, TBM_SETTICFREQ, static_cast<WPARAM>(std::max(FFrequency, leastDistance)));
 }
 
 void TTrackBar::SetFrequency(int frequency) {
@@ -80,13 +66,7 @@ void TTrackBar::SetFrequency(int frequency) {
   if (HandleAllocated()) SendRange();
 }
 
-void TTrackBar::SetPosition(int position) {
-  position = std::clamp(position, FMin, FMax);
-  if (position == FPosition) return;
-  FPosition = position;
-  SendIfAllocated(*this, TBM_SETPOS, TRUE, position);
-  if (!Loading()) Change();
-}
+void TTrackBar::SendPosition() { Send(*this, TBM_SETPOS, TRUE, Position()); }
 
 void TTrackBar::ChangeNumber(int& field, int value, UINT message) {
   field = value;
@@ -111,40 +91,34 @@ void TTrackBar::SetTickStyle(TTickStyle style) {
 }
 
 void TTrackBar::Change() {
-  AccessibleChanged(acValue);
+  TRangeControl::Change();
   OnChange(this);
 }
 
 void TTrackBar::CreateParams(TCreateParams& params) {
   UseCommonControls(ICC_BAR_CLASSES);
-  TWinControl::CreateParams(params);
+  TRangeControl::CreateParams(params);
   params.SubClassOf = TRACKBAR_CLASSA;
   params.Style |= FOrientation == trVertical ? TBS_VERT : TBS_HORZ;
   params.Style |= FTickStyle == tsAuto ? TBS_AUTOTICKS : TBS_NOTICKS;
 }
 
 void TTrackBar::CreateWnd() {
-  TWinControl::CreateWnd();
-  SendRange();
+  TRangeControl::CreateWnd();
   Send(*this, TBM_SETLINESIZE, 0, FLineSize);
   Send(*this, TBM_SETPAGESIZE, 0, FPageSize);
-  Send(*this, TBM_SETPOS, TRUE, FPosition);
 }
 
 void TTrackBar::Dispatch(TMessage& message) {
   if (message.Msg != CN_HSCROLL && message.Msg != CN_VSCROLL) {
-    return TWinControl::Dispatch(message);
+    return TRangeControl::Dispatch(message);
   }
-  const int position = static_cast<int>(Send(*this, TBM_GETPOS));
-  if (position == FPosition) return;
-  FPosition = position;
-  Change();
+  TakePosition(static_cast<int>(Send(*this, TBM_GETPOS)));
 }
 
 void TTrackBar::DescribeAccessible(TAccessibleInfo& info) const {
-  TWinControl::DescribeAccessible(info);
+  TRangeControl::DescribeAccessible(info);
   info.Role = arSlider;
-  info.Value = std::to_string(FPosition);
 }
 
 }  // namespace vcl

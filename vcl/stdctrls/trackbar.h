@@ -1,8 +1,8 @@
 // TTrackBar: a slider for a number.
 #pragma once
 
-#include "vcl/controls/wincontrol.h"
 #include "vcl/rtl/systemmacros.h"
+#include "vcl/stdctrls/rangecontrol.h"
 
 namespace vcl {
 
@@ -15,26 +15,13 @@ template <>
 inline constexpr TEnumText EnumText<TTickStyle>{"TTickStyle", "tsNone tsAuto"};
 
 /// A track bar. OnChange tells that Position has changed, by the user or by code.
-class VCL_API TTrackBar : public TWinControl {
+class VCL_API TTrackBar : public TRangeControl {
  public:
   explicit TTrackBar(TComponent* owner);
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
   void DescribeAccessible(TAccessibleInfo& info) const override;
 
-  /// The least position.
-  int Min() const { return FMin; }
-  /// The greatest position.
-  int Max() const { return FMax; }
-  /// Where the slider stands; outside the bounds it is taken as the nearer bound.
-  int Position() const { return FPosition; }
-  /// The bounds move the position inside. Raise EArgumentOutOfRangeException when the least would
-  /// be more than the greatest, or so far below that an int does not hold the way.
-  void SetMin(int min) { SetRange(min, FMax); }
-  void SetMax(int max) { SetRange(FMin, max); }
-  void SetRange(int min, int max);
-  /// A position outside the bounds is taken as the nearer bound.
-  void SetPosition(int position);
   int LineSize() const { return FLineSize; }
   /// By how much an arrow key moves.
   void SetLineSize(int size);
@@ -55,18 +42,16 @@ class VCL_API TTrackBar : public TWinControl {
   TNotifyEvent OnChange;
 
  protected:
-  virtual void Change();
+  void SendRange() override;
+  void SendPosition() override;
+  void Change() override;
   void CreateParams(TCreateParams& params) override;
   void CreateWnd() override;
   void Dispatch(TMessage& message) override;
 
  private:
-  void SendRange();
   void ChangeNumber(int& field, int value, UINT message);
 
-  int FMin = 0;
-  int FMax = 10;
-  int FPosition = 0;
   int FLineSize = 1;
   int FPageSize = 2;
   int FFrequency = 1;
