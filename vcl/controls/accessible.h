@@ -39,6 +39,7 @@ enum TAccessibleRole {
   arRadioButton = 45,
   arComboBox = 46,
   arProgressBar = 48,
+  arHotKeyField = 50,
   arSlider = 51,
   arSpinButton = 52,
   arPageTabList = 60,

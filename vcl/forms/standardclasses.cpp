@@ -29,8 +29,10 @@ void RegisterStandardClasses() {
                      &TTreeView::Class(),   &TFrame::Class()});
     RegisterClasses(
         {&TFlowPanel::Class(), &TGridPanel::Class(), &TScrollBox::Class(), &TSplitter::Class()});
-    RegisterClasses({&TPaintBox::Class(), &TProgressBar::Class(), &TScrollBar::Class(),
-                     &TShape::Class(), &TUpDown::Class()});
+    RegisterClasses({&TCheckListBox::Class(), &TDateTimePicker::Class(), &THotKey::Class(),
+                     &TMonthCalendar::Class(), &TPaintBox::Class(), &TProgressBar::Class(),
+                     &TRadioGroup::Class(), &TScrollBar::Class(), &TShape::Class(),
+                     &TStaticText::Class(), &TUpDown::Class()});
     RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
                      &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),
                      &TEditSelectAll::Class(), &TEditUndo::Class(), &TFileExit::Class(),

@@ -1,7 +1,10 @@
-// The system's common controls: pages, status bars, track bars, progress bars, arrows that count and
-// tree views.
+// The system's common controls: pages, status bars, track bars, progress bars, arrows that count,
+// calendars, hot keys and tree views.
 #pragma once
 
+#include "vcl/stdctrls/datetimepicker.h"
+#include "vcl/stdctrls/hotkey.h"
+#include "vcl/stdctrls/monthcalendar.h"
 #include "vcl/stdctrls/pagecontrol.h"
 #include "vcl/stdctrls/progressbar.h"
 #include "vcl/stdctrls/statusbar.h"

@@ -1,4 +1,5 @@
-// Panels, scroll boxes, splitters, bevels, shapes, images, paint boxes and timers.
+// Panels, scroll boxes, splitters, groups of radio buttons, bevels, shapes, images, paint boxes and
+// timers.
 #pragma once
 
 #include "vcl/stdctrls/bevel.h"
@@ -7,6 +8,7 @@
 #include "vcl/stdctrls/image.h"
 #include "vcl/stdctrls/paintbox.h"
 #include "vcl/stdctrls/panel.h"
+#include "vcl/stdctrls/radiogroup.h"
 #include "vcl/stdctrls/scrollbox.h"
 #include "vcl/stdctrls/shape.h"
 #include "vcl/stdctrls/splitter.h"

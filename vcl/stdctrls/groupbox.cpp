@@ -17,16 +17,16 @@ const TClass& TCustomGroupBox::Class() {
 }
 
 const TClass& TGroupBox::Class() {
-  static const TClass info = Describe<TGroupBox, TCustomGroupBox>(
-      "vcl::TGroupBox", "vcl/stdctrls/stdctrls.h",
-      {
-          Inherit("Align"),
-          Inherit("AutoSize"),
-          Inherit("Caption"),
-          Inherit("Color"),
-          Inherit(ContainerProperties),
-          Inherit(ContainerEvents),
-      });
+  static const TClass info =
+      Describe<TGroupBox, TCustomGroupBox>("vcl::TGroupBox", "vcl/stdctrls/stdctrls.h",
+                                           {
+                                               Inherit("Align"),
+                                               Inherit("AutoSize"),
+                                               Inherit("Caption"),
+                                               Inherit("Color"),
+                                               Inherit(ContainerProperties),
+                                               Inherit(ContainerEvents),
+                                           });
   return info;
 }
 

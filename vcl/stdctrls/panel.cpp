@@ -60,16 +60,16 @@ const TClass& TCustomPanel::Class() {
 }
 
 const TClass& TPanel::Class() {
-  static const TClass info = Describe<TPanel, TCustomPanel>(
-      "vcl::TPanel", "vcl/stdctrls/extctrls.h",
-      {
-          Inherit("Align"),
-          Inherit("Alignment"),
-          Inherit("AutoSize"),
-          Inherit(PanelLook),
-          Inherit(ContainerProperties),
-          Inherit(ContainerEvents),
-      });
+  static const TClass info =
+      Describe<TPanel, TCustomPanel>("vcl::TPanel", "vcl/stdctrls/extctrls.h",
+                                     {
+                                         Inherit("Align"),
+                                         Inherit("Alignment"),
+                                         Inherit("AutoSize"),
+                                         Inherit(PanelLook),
+                                         Inherit(ContainerProperties),
+                                         Inherit(ContainerEvents),
+                                     });
   return info;
 }
 

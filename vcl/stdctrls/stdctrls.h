@@ -3,6 +3,7 @@
 
 #include "vcl/stdctrls/button.h"
 #include "vcl/stdctrls/checkbox.h"
+#include "vcl/stdctrls/checklst.h"
 #include "vcl/stdctrls/combobox.h"
 #include "vcl/stdctrls/edit.h"
 #include "vcl/stdctrls/groupbox.h"
@@ -10,3 +11,4 @@
 #include "vcl/stdctrls/listbox.h"
 #include "vcl/stdctrls/memo.h"
 #include "vcl/stdctrls/scrollbar.h"
+#include "vcl/stdctrls/statictext.h"

@@ -186,6 +186,8 @@ void TUpDown::CreateParams(TCreateParams& params) {
   UseCommonControls(ICC_UPDOWN_CLASS);
   TRangeControl::CreateParams(params);
   params.SubClassOf = UPDOWN_CLASSA;
+  // The second of two fast clicks counts, too.
+  params.ClassStyle &= ~static_cast<UINT>(CS_DBLCLKS);
   if (FOrientation == udHorizontal) params.Style |= UDS_HORZ;
   if (FArrowKeys) params.Style |= UDS_ARROWKEYS;
 }
@@ -213,10 +215,14 @@ void TUpDown::Count(bool up) {
   SetPosition(StepFrom(typed, up));
   if (watch.Gone()) return;
   ShowText();  // Also where the number typed in was its own.
-  if (!watch.Gone()) OnClick(this, up ? btNext : btPrev);
+  OnClick(this, up ? btNext : btPrev);
 }
 
 void TUpDown::Dispatch(TMessage& message) {
+  // A control whose associate's window has gone seems disabled to the system; there may be another.
+  const bool looked =
+      message.Msg == WM_PAINT || message.Msg == WM_MOUSEMOVE || message.Msg == WM_LBUTTONDOWN;
+  if (looked) SendAssociate();
   if (message.Msg != CN_NOTIFY) return TRangeControl::Dispatch(message);
   const auto& told = *reinterpret_cast<const NMUPDOWN*>(message.LParam);
   if (told.hdr.code != static_cast<UINT>(UDN_DELTAPOS)) return TRangeControl::Dispatch(message);

@@ -57,9 +57,11 @@ void TListItems::SetStrings(int index, const std::string& text) {
   }
   // A window cannot change an item's text, only put another item in its place.
   TObject* object = line.Object;
+  const int mark = line.Mark;
   const bool selected = SelectedInWindow(index);
   Delete(index);
   InsertLine(index, text, object);
+  SetMark(index, mark);
   if (selected) SelectInWindow(index);
 }
 
@@ -96,7 +98,7 @@ void TListItems::InsertObject(int index, const std::string& text, TObject* objec
 
 void TListItems::InsertLine(int index, const std::string& text, TObject* object) {
   // The line comes first: the window may ask for it to be drawn at once.
-  FLines.insert(FLines.begin() + index, TLine{text, object, false});
+  FLines.insert(FLines.begin() + index, TLine{text, object, false, 0});
   const TOnFailure refused([&] { FLines.erase(FLines.begin() + index); }, &FControl);
   if (FControl.HandleAllocated()) TellInserted(index, text);
 }

@@ -54,6 +54,9 @@ class TListItems : public TStrings {
   // What the lines remember for the window.
   bool Selected(int index) const;
   void SetSelected(int index, bool selected);
+  /// What a class keeps of its own with an item; 0 at first.
+  int Mark(int index) const { return Line(index).Mark; }
+  void SetMark(int index, int mark) { Line(index).Mark = mark; }
   int FirstSelected() const;
   /// Selects this one only; -1: none.
   void SelectOnly(int index);
@@ -68,6 +71,7 @@ class TListItems : public TStrings {
     std::string Text;
     TObject* Object;
     bool Selected;
+    int Mark = 0;
   };
   TLine& Line(int index);
   const TLine& Line(int index) const;
