@@ -100,9 +100,8 @@ struct TClipping {
 };
 
 void MakeWindows(TClipping clipping) {
-  const HWND window =
-      ::CreateWindowExA(0, "STATIC", "", WS_OVERLAPPEDWINDOW | clipping.Around, 0, 0, 1000, 720,
-                        nullptr, nullptr, nullptr, nullptr);
+  const HWND window = ::CreateWindowExA(0, "STATIC", "", WS_OVERLAPPEDWINDOW | clipping.Around, 0,
+                                        0, 1000, 720, nullptr, nullptr, nullptr, nullptr);
   for (int i = 0; i < Controls; ++i) {
     if (!KindOf(i).Window) continue;
     ::CreateWindowExA(0, KindOf(i).Window, "", WS_CHILD | WS_VISIBLE | clipping.Inside, LeftOf(i),
@@ -122,9 +121,11 @@ void Making() {
       "freed; the plain windows are made and shown by the system's calls alone. The least of 15 "
       "rounds. Aim: at most 1.15.",
       {"clipping as a form's windows do", "clipping nothing"});
-  table.Add("TForm",
-            {CompareLeast(make, [] { MakeWindows({WS_CLIPCHILDREN, WS_CLIPSIBLINGS}); }),
-             CompareLeast(make, [] { MakeWindows({}); })});
+  table.Add("TForm", {CompareLeast(make,
+                                   [] {
+                                     MakeWindows({WS_CLIPCHILDREN, WS_CLIPSIBLINGS});
+                                   }),
+                      CompareLeast(make, [] { MakeWindows({}); })});
 }
 
 void Reading() {

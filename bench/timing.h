@@ -22,8 +22,8 @@ struct TPair {
 /// warm up. What takes microseconds is run several times for each sample.
 TPair Compare(const std::function<void()>& ours, const std::function<void()>& baseline);
 
-/// The same, 15 times each, and the least of each instead of the median: for what takes so long that
-/// a busy machine always has a part in it.
+/// The same, 15 times each, and the least of each instead of the median: for what takes so long
+/// that a busy machine always has a part in it.
 TPair CompareLeast(const std::function<void()>& ours, const std::function<void()>& baseline);
 
 /// One table in Markdown: the columns are headed by the sizes, the cells hold ratios with the times

@@ -89,8 +89,9 @@ void TControl::AccessibleChanged(TAccessibleChange change, const TAccessiblePath
   // Children count from 1, the controls first; what lies deeper is told by what it lies in.
   LONG child = CHILDID_SELF;
   if (!window) {
-    child = static_cast<LONG>(std::ranges::find(holder->FControls, this) -
-                              holder->FControls.begin()) + 1;
+    child =
+        static_cast<LONG>(std::ranges::find(holder->FControls, this) - holder->FControls.begin()) +
+        1;
   }
   if (window && !part.empty()) child = holder->ControlCount() + part.front() + 1;
   ::NotifyWinEvent(events[change], holder->FHandle, OBJID_CLIENT, child);
