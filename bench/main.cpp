@@ -34,7 +34,9 @@ int main(int count, char** arguments) {
     std::fprintf(stderr, "There is no group \"%s\" of measurements.\n", name.data());
     return 2;
   }
-  std::printf("# Performance\n\nRatios of medians, of forms of the least times; in brackets the two times.\n");
+  std::printf(
+      "# Performance\n\nRatios of medians, of forms of the least times; in brackets the two "
+      "times.\n");
   for (const TGroup& group : Groups) {
     if (wanted.empty() || std::ranges::count(wanted, group.Name) > 0) group.Measure();
   }
