@@ -1,6 +1,9 @@
 // Prints how long painting, forms, dates and settings take, as ratios to what the system itself or
-// the standard library needs, measured in one run.
+// the standard library needs, measured in one run; arguments name the groups that are measured.
+#include <algorithm>
 #include <cstdio>
+#include <string_view>
+#include <vector>
 
 #include "bench/backgrounds.h"
 #include "bench/dates.h"
@@ -9,12 +12,32 @@
 #include "bench/settings.h"
 #include "vcl/rtl/win32.h"
 
-int main() {
+namespace {
+
+struct TGroup {
+  std::string_view Name;
+  void (*Measure)();
+};
+constexpr TGroup Groups[] = {{"backgrounds", bench::Backgrounds},
+                             {"gauge", bench::Gauge},
+                             {"forms", bench::Forms},
+                             {"dates", bench::Dates},
+                             {"settings", bench::Settings}};
+
+}  // namespace
+
+int main(int count, char** arguments) {
   ::SetConsoleOutputCP(CP_UTF8);
-  std::printf("# Performance\n\nRatios of medians; in brackets the two times.\n");
-  bench::Backgrounds();
-  bench::Gauge();
-  bench::Forms();
-  bench::Dates();
-  bench::Settings();
+  const std::vector<std::string_view> wanted(arguments + 1, arguments + count);
+  for (const std::string_view name : wanted) {
+    if (std::ranges::count(Groups, name, &TGroup::Name) > 0) continue;
+    std::fprintf(stderr, "There is no group \"%s\" of measurements.\n", name.data());
+    return 2;
+  }
+  std::printf(
+      "# Performance\n\nRatios of medians, of forms of the least times; in brackets the two "
+      "times.\n");
+  for (const TGroup& group : Groups) {
+    if (wanted.empty() || std::ranges::count(wanted, group.Name) > 0) group.Measure();
+  }
 }

@@ -12,6 +12,7 @@ namespace {
 constexpr std::size_t MinSamples = 21;
 constexpr std::size_t MaxSamples = 201;
 constexpr double MaxMilliseconds = 1500;
+constexpr int LeastOf = 15;
 constexpr double SampleMilliseconds = 0.5;
 
 double Now() {
@@ -51,6 +52,17 @@ TPair Compare(const std::function<void()>& ours, const std::function<void()>& ba
     baselineTimes.push_back(Time(baseline, baselineRuns));
   }
   return {Median(ourTimes), Median(baselineTimes)};
+}
+
+TPair CompareLeast(const std::function<void()>& ours, const std::function<void()>& baseline) {
+  ours();
+  baseline();
+  TPair least{Time(ours, 1), Time(baseline, 1)};
+  for (int i = 1; i < LeastOf; ++i) {
+    least.Ours = std::min(least.Ours, Time(ours, 1));
+    least.Baseline = std::min(least.Baseline, Time(baseline, 1));
+  }
+  return least;
 }
 
 TTable::TTable(std::string title, std::string aim, std::vector<std::string> columns) {

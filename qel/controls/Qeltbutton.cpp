@@ -70,6 +70,7 @@ TQELButton::TQELButton(vcl::TComponent* owner)
   SetBounds(Left(), Top(), 100, 30);
   SetTabStop(true);
   FGlyph->OnChange = vcl::TNotifyEvent(this, &TQELButton::GlyphChange);
+  HearOnlyAsked<TQELButton>();
 }
 
 TQELButton::~TQELButton() {

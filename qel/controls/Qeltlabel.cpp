@@ -61,6 +61,7 @@ TQELLabel::TQELLabel(vcl::TComponent* owner)
   Font()->SetSize(12);
   FFrame->SetFrameStyle(frameNone);
   FFrame->SetInitialStyle(frameNone);
+  HearOnlyAsked<TQELLabel>();
 }
 
 TQELLabel::~TQELLabel() {

@@ -185,6 +185,54 @@ TEST(Component, ForgetsLinksThatAreFreed) {
   EXPECT_EQ(one->Link(), nullptr) << "asked for";
 }
 
+/// Notes the names of the components that it hears are freed.
+class THearer : public TComponent {
+ public:
+  explicit THearer(TComponent* owner) : TComponent(owner) {}
+  std::vector<std::string> Freed;
+
+ protected:
+  void Notification(TComponent* component, TOperation operation) override {
+    TComponent::Notification(component, operation);
+    if (operation == opRemove) Freed.push_back(component->Name());
+  }
+};
+
+class TAsker : public THearer {
+ public:
+  explicit TAsker(TComponent* owner) : THearer(owner) { HearOnlyAsked<TAsker>(); }
+};
+
+class TCuriousAsker : public TAsker {
+ public:
+  using TAsker::TAsker;
+};
+
+TEST(Component, HearsOfOthersOrOnlyOfThoseItAsked) {
+  using TNames = std::vector<std::string>;
+  TComponent owner(nullptr);
+  auto* asker = new TAsker(&owner);
+  auto* curious = new TCuriousAsker(&owner);
+  auto* holder = new TAsker(&owner);
+  auto* inside = new THearer(holder);
+  const auto made = [&](const char* name) {
+    auto* component = new TComponent(&owner);
+    component->SetName(name);
+    return component;
+  };
+  TComponent* asked = made("Asked");
+  asked->FreeNotification(asker);
+  delete made("Other");
+  delete asked;
+  EXPECT_EQ(asker->Freed, TNames{"Asked"});
+  EXPECT_EQ(curious->Freed, (TNames{"Other", "Asked"})) << "its class is another";
+  EXPECT_EQ(inside->Freed, (TNames{"Other", "Asked"})) << "through what owns it";
+  // What leaves its owner alive has no end to tell of.
+  const std::unique_ptr<TComponent> left(made("Left"));
+  owner.RemoveComponent(left.get());
+  EXPECT_EQ(asker->Freed, (TNames{"Asked", "Left"}));
+}
+
 TEST(Component, PassesTheDesigningStateOn) {
   TPart owner(nullptr);
   owner.SetDesigning(true);

@@ -38,6 +38,18 @@ class TBox : public TCustomControl {
   }
 };
 
+/// A control with a window that notes how often the system places and erases it.
+class TPlaced : public TBox {
+ public:
+  using TBox::TBox;
+  int Placed = 0;
+
+  void WndProc(TMessage& message) override {
+    if (message.Msg == WM_WINDOWPOSCHANGED) ++Placed;
+    TBox::WndProc(message);
+  }
+};
+
 class Controls : public ::testing::Test {
  protected:
   Controls() : Form(nullptr) {
@@ -84,6 +96,50 @@ TEST_F(Controls, WindowsLieAboveControlsWithoutWindows) {
   EXPECT_EQ(Form.ControlAtPos({10, 10}, false), second);
   EXPECT_EQ(Form.ControlAtPos({10, 10}, true), first);
   EXPECT_THROW(Form.Controls(3), EListError);
+}
+
+TEST_F(Controls, WindowsAreMadeAndShownWhereTheyBelong) {
+  std::vector<TPlaced*> boxes;
+  for (int i = 0; i < 4; ++i) boxes.push_back(Make<TPlaced>(&Form, 10 * i, 0, 50, 50));
+  const auto order = [&] {
+    std::vector<TWinControl*> found;
+    for (HWND each = ::GetWindow(Form.Handle(), GW_CHILD); each;
+         each = ::GetWindow(each, GW_HWNDNEXT)) {
+      found.push_back(TWinControl::FromHandle(each));
+    }
+    return found;
+  };
+  Form.Show();
+  EXPECT_EQ(order(), (std::vector<TWinControl*>{boxes[3], boxes[2], boxes[1], boxes[0]}));
+  for (const TPlaced* box : boxes) {
+    EXPECT_TRUE(::IsWindowVisible(const_cast<TPlaced*>(box)->Handle()));
+    EXPECT_EQ(box->Placed, 0) << "it has been placed again after it was made";
+  }
+  // One that is made later, and one that is made anew, come between the others.
+  boxes[1]->RecreateWnd();
+  EXPECT_EQ(order(), (std::vector<TWinControl*>{boxes[3], boxes[2], boxes[1], boxes[0]}));
+  auto* late = Make<TPlaced>(&Form, 0, 0, 50, 50);
+  EXPECT_EQ(order().front(), late);
+  Form.Hide();
+}
+
+TEST_F(Controls, WindowsInsideEndWithTheOneAround) {
+  auto* around = Make<TBox>(&Form, 0, 0, 100, 100);
+  auto* inside = Make<TBox>(around, 0, 0, 50, 50);
+  auto* edit = Make<TEdit>(inside, 0, 0, 40, 20);
+  Form.Show();
+  const HWND former[] = {inside->Handle(), edit->Handle()};
+  edit->SetText("kept");
+  Form.Hide();
+  around->RecreateWnd();
+  for (const HWND window : former) EXPECT_FALSE(::IsWindow(window));
+  EXPECT_FALSE(inside->HandleAllocated());
+  EXPECT_FALSE(edit->HandleAllocated());
+  EXPECT_EQ(edit->Text(), "kept");
+  Form.Show();
+  EXPECT_TRUE(::IsWindowVisible(edit->Handle()));
+  EXPECT_EQ(WindowText(edit->Handle()), "kept");
+  EXPECT_FALSE(edit->ControlState().Has(csDestroyingHandle));
 }
 
 TEST_F(Controls, TextIsTheWindowsAndSurvivesItsEnd) {

@@ -62,6 +62,17 @@ TEST(Font, HandleHasWhatTheFontSays) {
   EXPECT_EQ(other.Name(), japanese);
 }
 
+TEST(Font, EqualOnesShareAHandle) {
+  TFont a;
+  TFont b;
+  a.SetSize(23);
+  b.SetSize(23);
+  EXPECT_EQ(a.Handle(), b.Handle());
+  b.SetStyle({fsItalic});
+  EXPECT_NE(a.Handle(), b.Handle());
+  EXPECT_EQ(Described<LOGFONTA>(a.Handle()).lfItalic, 0);
+}
+
 TEST(Font, CopiesShareTheHandleUntilOneChanges) {
   TFont a;
   a.SetSize(20);

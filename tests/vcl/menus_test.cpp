@@ -199,6 +199,18 @@ TEST_F(OnAForm, AMenuOfAProgramInTheBackgroundClosesWhenTheUserClicksElsewhere) 
   EXPECT_EQ(Clicked, TLog{});
 }
 
+TEST_F(Menus, TheControlsThatItCameUpForHearOfItsEnd) {
+  TForm form(nullptr);
+  TEdit edit(&form);
+  TEdit other(&form);
+  auto popup = std::make_unique<TPopupMenu>(nullptr);
+  edit.SetPopupMenu(popup.get());
+  popup->SetPopupComponent(&edit);
+  popup->SetPopupComponent(&other);
+  popup.reset();
+  EXPECT_EQ(edit.PopupMenu(), nullptr);
+}
+
 TEST_F(OnAForm, AMenuMayBeFreedByItsOwnItem) {
   auto* passing = new TPopupMenu(nullptr);
   TWatch watch(passing);

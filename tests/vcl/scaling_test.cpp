@@ -284,6 +284,53 @@ TEST_F(Scaling, AControlTakesTheResolutionOfTheFormItIsPutOn) {
   EXPECT_EQ(edit->Font()->Height(), -26) << "points stay";
 }
 
+/// Notes how often it is erased.
+class TErased : public TPanel {
+ public:
+  explicit TErased(TComponent* owner) : TPanel(owner) {}
+  int Count = 0;
+
+ protected:
+  void WMEraseBkgnd(TMessage& message) override {
+    ++Count;
+    TPanel::WMEraseBkgnd(message);
+  }
+};
+
+TEST_F(Scaling, AFormIsPaintedOnceItIsScaled) {
+  TForm form(nullptr);
+  form.SetBounds(10, 10, 300, 200);
+  auto* panel = new TErased(&form);
+  panel->SetBounds(10, 10, 100, 50);
+  panel->SetParent(&form);
+  form.Show();
+  testinput::Pump();
+  panel->Count = 0;
+  int erased = -1;
+  panel->OnResize = [&](TObject*) { erased = panel->Count; };
+  form.ScaleForPPI(144);
+  EXPECT_EQ(erased, 0);
+  EXPECT_EQ(panel->Count, 0) << "it is erased when it is painted";
+  RECT invalid;
+  EXPECT_TRUE(::GetUpdateRect(panel->Handle(), &invalid, FALSE));
+  EXPECT_EQ(TRect(invalid), panel->ClientRect());
+  testinput::Pump();
+  EXPECT_EQ(panel->Count, 1);
+  EXPECT_TRUE(::IsWindowVisible(form.Handle()));
+}
+
+TEST_F(Scaling, AHandlerMayHideTheFormThatIsScaled) {
+  TForm form(nullptr);
+  form.SetBounds(10, 10, 300, 200);
+  form.Show();
+  form.OnResize = [&](TObject*) { form.Hide(); };
+  form.ScaleForPPI(144);
+  EXPECT_FALSE(::IsWindowVisible(form.Handle()));
+  form.OnResize.Clear();
+  form.Show();
+  EXPECT_TRUE(::IsWindowVisible(form.Handle()));
+}
+
 TEST_F(Scaling, AControlAloneIsScaledWithWhatIsInside) {
   const auto form = Shown();
   auto& bar = Find<TPanel>(*form, "Bar");

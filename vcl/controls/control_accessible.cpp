@@ -1,4 +1,6 @@
 // What any control tells screen readers of itself, and telling them of changes.
+#include <algorithm>
+
 #include "vcl/controls/accelerators.h"
 #include "vcl/controls/private/accessibleobject.h"
 #include "vcl/controls/wincontrol.h"
@@ -29,12 +31,6 @@ const TControl* LabelIn(const TWinControl& parent, const TControl& control) {
     if (found) return found;
   }
   return nullptr;
-}
-
-int IndexIn(const TWinControl& parent, const TControl& control) {
-  int index = 0;
-  while (parent.Controls(index) != &control) ++index;
-  return index;
 }
 
 }  // namespace
@@ -86,13 +82,17 @@ void TControl::AccessibleChanged(TAccessibleChange change, const TAccessiblePath
   static constexpr DWORD events[] = {EVENT_OBJECT_NAMECHANGE, EVENT_OBJECT_STATECHANGE,
                                      EVENT_OBJECT_VALUECHANGE, EVENT_OBJECT_FOCUS,
                                      EVENT_OBJECT_SELECTION};
-  if (Loading() || Destroying()) return;
+  if (Loading() || Destroying() || !::IsWinEventHookInstalled(events[change])) return;
   const auto* window = dynamic_cast<const TWinControl*>(this);
   const TWinControl* holder = window ? window : FParent;
   if (!holder || !holder->FHandle) return;
   // Children count from 1, the controls first; what lies deeper is told by what it lies in.
   LONG child = CHILDID_SELF;
-  if (!window) child = IndexIn(*holder, *this) + 1;
+  if (!window) {
+    child =
+        static_cast<LONG>(std::ranges::find(holder->FControls, this) - holder->FControls.begin()) +
+        1;
+  }
   if (window && !part.empty()) child = holder->ControlCount() + part.front() + 1;
   ::NotifyWinEvent(events[change], holder->FHandle, OBJID_CLIENT, child);
 }

@@ -37,10 +37,12 @@ void TControl::SetMouseCapture(bool capture) {
   }
 }
 
-/// For a control that ends: its parent's window may have lost the capture without its knowing.
+/// For a control that ends: its parent's window may have lost the capture without its knowing. A
+/// window's own capture has ended with the window.
 void TControl::ForgetCapture() {
+  if (capturedControl != this) return;
   if (MouseCapture()) SetMouseCapture(false);
-  if (capturedControl == this) capturedControl = nullptr;
+  capturedControl = nullptr;
 }
 
 LRESULT TControl::Perform(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,5 +1,6 @@
 // TControl and TWinControl: measures at other dots per inch.
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 #include "vcl/controls/wincontrol.h"
@@ -10,6 +11,39 @@
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
+
+namespace {
+
+/// Holds back the painting of a window of its own, and of all inside, that changes in many places:
+/// it is painted once, at the end.
+class TPaintHold {
+ public:
+  explicit TPaintHold(TWinControl& control) : FWatch(&control), FControl(control) {
+    if (!control.HandleAllocated() || !::IsWindowVisible(control.Handle())) return;
+    FWindow = control.Handle();
+    ::SendMessageW(FWindow, WM_SETREDRAW, FALSE, 0);
+  }
+  ~TPaintHold() {
+    // A handler may have freed the control, made its window anew or hidden it.
+    if (FWatch.Gone() || !FWindow || TWinControl::FromHandle(FWindow) != &FControl) return;
+    ::SendMessageW(FWindow, WM_SETREDRAW, TRUE, 0);
+    if (!FControl.Showing()) {
+      ::ShowWindow(FWindow, SW_HIDE);
+      return;
+    }
+    ::RedrawWindow(FWindow, nullptr, nullptr,
+                   RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+  }
+  TPaintHold(const TPaintHold&) = delete;
+  TPaintHold& operator=(const TPaintHold&) = delete;
+
+ private:
+  TWatch FWatch;
+  TWinControl& FControl;
+  HWND FWindow = nullptr;
+};
+
+}  // namespace
 
 int TControl::CurrentPPI() const {
   const TCustomForm* form = ParentForm();
@@ -27,9 +61,13 @@ void TControl::ScaleBy(int m, int d) {
   }
   if (m == d) return;
   const TWatch watch(this);
+  auto* window = dynamic_cast<TWinControl*>(this);
+  // What another window lies around would leave traces there.
+  const std::unique_ptr<TPaintHold> hold =
+      window && !FParent ? std::make_unique<TPaintHold>(*window) : nullptr;
   ScaleStep(m, d);
   if (watch.Gone()) return;
-  if (auto* window = dynamic_cast<TWinControl*>(this)) window->KeepParentSizes();
+  if (window) window->KeepParentSizes();
   // What takes its size from its font does so where it stands already.
   ScaleFonts(m, d);
   if (!watch.Gone()) Invalidate();

@@ -258,10 +258,12 @@ class VCL_API TWinControl : public TControl {
   void MoveInTabList(int place);
   bool HasGraphicChildren() const;
   void PaintDoubleBuffered();
-  bool VisitControls(const std::function<bool(TControl*)>& each);
+  bool VisitControls(const std::function<bool(TControl*)>& each, bool topFirst = false);
   void Broadcast(UINT notice);
   void PassToChildren(TMessage& message);
   void GiveUpFocus();
+  void ShowHandle(bool show);
+  bool EndsWithParent() const;
   void DispatchNotice(TMessage& message);
   void DispatchWindow(TMessage& message);
   void DispatchKey(TMessage& message);
@@ -291,6 +293,7 @@ class VCL_API TWinControl : public TControl {
   bool FParentCtl3D = true;
   bool FSingleBorder = false;  // The window's border is the one that Ctl3D decides.
   bool FShowing = false;
+  bool FParentEnds = false;  // The parent's window ends, and this one with it.
   bool FDoubleBuffered = false;
   TImeMode FImeMode = imDontCare;
   std::string FImeName;

@@ -126,11 +126,7 @@ void TWinControl::DispatchNotice(TMessage& message) {
       if (!Visible()) GiveUpFocus();
       return watch.Gone() ? void() : UpdateControlState();
     }
-    case CM_SHOWINGCHANGED:
-      ::SetWindowPos(FHandle, nullptr, 0, 0, 0, 0,
-                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE |
-                         (FShowing ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
-      return;
+    case CM_SHOWINGCHANGED: return ShowHandle(FShowing);
     case CM_ENABLEDCHANGED: {
       const TWatch watch(this);
       if (!FEnabled) GiveUpFocus();
@@ -175,16 +171,29 @@ void TWinControl::DispatchNotice(TMessage& message) {
   }
 }
 
+void TWinControl::ShowHandle(bool show) {
+  // Inside a window that is not seen yet nothing has to be placed or painted.
+  if (show && Parent() && !::IsWindowVisible(Parent()->FHandle)) {
+    ::ShowWindow(FHandle, SW_SHOWNA);
+    return;
+  }
+  ::SetWindowPos(FHandle, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE |
+                     (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
+}
+
 void TWinControl::GiveUpFocus() {
   TCustomForm* form = ParentForm();
   if (form && form != this) form->DefocusControl(this);
 }
 
-/// Calls `each` for the controls inside, bottom first, until it returns false, and leaves out those
-/// that a former call has freed or moved elsewhere. False when this control has gone.
-bool TWinControl::VisitControls(const std::function<bool(TControl*)>& each) {
+/// Calls `each` for the controls inside, bottom first or top first, until it returns false, and
+/// leaves out those that a former call has freed or moved elsewhere. False when this control has
+/// gone.
+bool TWinControl::VisitControls(const std::function<bool(TControl*)>& each, bool topFirst) {
   if (FControls.empty()) return true;
-  const std::vector<TControl*> controls = FControls;
+  std::vector<TControl*> controls = FControls;
+  if (topFirst) std::ranges::reverse(controls);
   const std::vector<TWatch> watches(controls.begin(), controls.end());
   const TWatch watch(this);
   for (std::size_t i = 0; i < controls.size() && !watch.Gone(); ++i) {

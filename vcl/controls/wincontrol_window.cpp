@@ -109,17 +109,21 @@ void TWinControl::CreateHandle() {
   CreateWnd();
   if (!Parent()) return;
   const HWND above = Parent()->PrecedingWindow(this);
+  // The system puts a new window below its siblings: most are there already.
+  if (::GetWindow(FHandle, GW_HWNDPREV) == above) return;
   ::SetWindowPos(FHandle, above, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
+/// The window right above the control's; null when it is the topmost.
 HWND TWinControl::PrecedingWindow(const TWinControl* control) const {
   auto each = std::ranges::find(FControls, control);
-  if (each == FControls.end()) return HWND_TOP;
+  if (each == FControls.end()) return nullptr;
   while (++each != FControls.end()) {
-    const auto* winControl = dynamic_cast<TWinControl*>(*each);
-    if (winControl && winControl->FHandle) return winControl->FHandle;
+    // Behind a control with a window stand none without.
+    const auto* winControl = static_cast<TWinControl*>(*each);
+    if (winControl->FHandle) return winControl->FHandle;
   }
-  return HWND_TOP;
+  return nullptr;
 }
 
 void TWinControl::CreateWnd() {
@@ -145,9 +149,13 @@ void TWinControl::CreateWnd() {
 
 void TWinControl::DestroyHandle() {
   if (!FHandle) return;
-  // The windows inside go first, each by its own way, so that each can save what only it knows.
+  // The windows inside go first, each by its own way, so that each can save what only it knows. The
+  // system ends them with this one.
   const bool here = VisitControls([](TControl* control) {
-    if (auto* winControl = dynamic_cast<TWinControl*>(control)) winControl->DestroyHandle();
+    auto* winControl = dynamic_cast<TWinControl*>(control);
+    if (!winControl) return true;
+    const TSetFor ending(winControl->FParentEnds, true, winControl);
+    winControl->DestroyHandle();
     return true;
   });
   if (here && FHandle) DestroyWnd();
@@ -157,8 +165,11 @@ void TWinControl::DestroyWnd() {
   FText = WindowText(FHandle);
   FShowing = false;
   IncludeState(csDestroyingHandle);
-  const TAtEnd destroyed([this] { ExcludeState(csDestroyingHandle); }, this);
-  DestroyWindowHandle();
+  if (!EndsWithParent()) DestroyWindowHandle();
+}
+
+bool TWinControl::EndsWithParent() const {
+  return FParentEnds && ::GetAncestor(FHandle, GA_PARENT) == Parent()->FHandle;
 }
 
 void TWinControl::DestroyWindowHandle() { ::DestroyWindow(FHandle); }
@@ -185,11 +196,14 @@ void TWinControl::UpdateShowing() {
   const bool show = Seen() && !ControlState().Has(csReadingState);
   if (show) {
     Handle();
-    // Bottom first, as they lie above each other.
-    const bool here = VisitControls([](TControl* control) {
-      if (auto* winControl = dynamic_cast<TWinControl*>(control)) winControl->UpdateShowing();
-      return true;
-    });
+    // Top first, as the system puts each new window below the others.
+    const bool here = VisitControls(
+        [](TControl* control) {
+          auto* winControl = dynamic_cast<TWinControl*>(control);
+          if (winControl) winControl->UpdateShowing();
+          return winControl != nullptr;
+        },
+        true);
     if (!here) return;
   }
   if (!FHandle || show == FShowing) return;
@@ -223,7 +237,9 @@ LRESULT CALLBACK TWinControl::StaticWndProc(HWND window, UINT message, WPARAM wP
   }
   if (message == WM_NCDESTROY) {
     Windows().erase(window);
-    if (!watch.Gone() && control->FHandle == window) control->FHandle = nullptr;
+    if (watch.Gone() || control->FHandle != window) return record.Result;
+    control->FHandle = nullptr;
+    control->ExcludeState(csDestroyingHandle);
   }
   return record.Result;
 }

@@ -3,6 +3,9 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <map>
+#include <mutex>
+#include <string_view>
 
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
@@ -148,12 +151,29 @@ LOGFONTW TFont::LogFont() const {
   return font;
 }
 
-std::shared_ptr<const TOwnedFont> TFont::Share() const {
-  if (!FHandle) {
-    const LOGFONTW font = LogFont();
-    FHandle =
-        std::make_shared<const TOwnedFont>(CheckHandle(::CreateFontIndirectW(&font), "a font"));
+namespace {
+
+/// The system's font of that description, which all fonts that are like it have: a form of a
+/// thousand controls needs one.
+std::shared_ptr<const TOwnedFont> SharedFont(const LOGFONTW& description) {
+  static std::mutex mutex;
+  static auto& made = *new std::map<std::string, std::weak_ptr<const TOwnedFont>, std::less<>>;
+  const std::string_view key(reinterpret_cast<const char*>(&description), sizeof description);
+  const std::scoped_lock lock(mutex);
+  if (const auto found = made.find(key); found != made.end()) {
+    if (auto font = found->second.lock()) return font;
   }
+  std::erase_if(made, [](const auto& each) { return each.second.expired(); });
+  auto font = std::make_shared<const TOwnedFont>(
+      CheckHandle(::CreateFontIndirectW(&description), "a font"));
+  made.emplace(key, font);
+  return font;
+}
+
+}  // namespace
+
+std::shared_ptr<const TOwnedFont> TFont::Share() const {
+  if (!FHandle) FHandle = SharedFont(LogFont());
   return FHandle;
 }
 

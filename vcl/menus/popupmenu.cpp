@@ -57,7 +57,7 @@ TPopupMenu::~TPopupMenu() {
 }
 
 void TPopupMenu::SetPopupComponent(TComponent* component) {
-  if (FPopupComponent) FPopupComponent->RemoveFreeNotification(this);
+  // The former one stays told of this menu's end: most likely it is its PopupMenu.
   FPopupComponent = component;
   if (component) component->FreeNotification(this);
 }

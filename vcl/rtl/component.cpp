@@ -217,11 +217,20 @@ void TComponent::RemoveFreeNotification(TComponent* component) {
 
 void TComponent::GetChildren(const std::function<void(TComponent*)>&, TComponent*) {}
 
+/// What owns components passes the news on to them.
+bool TComponent::HearsOnlyAsked() const {
+  return FAskingClass && FComponents.empty() && *FAskingClass == typeid(*this);
+}
+
 void TComponent::Notification(TComponent* component, TOperation operation) {
   if (operation == opRemove) RemoveFreeNotification(component);
+  // What leaves without an end has not told those that asked.
+  const bool leaves = operation == opRemove && !component->FEndAnnounced;
   // Indexed, because a component may free another when it hears the news.
   for (std::size_t i = FComponents.size(); i-- > 0;) {
-    if (i < FComponents.size()) FComponents[i]->Notification(component, operation);
+    if (i >= FComponents.size()) continue;
+    TComponent* const each = FComponents[i];
+    if (leaves || !each->HearsOnlyAsked()) each->Notification(component, operation);
   }
 }
 

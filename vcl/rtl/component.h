@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <typeinfo>
 #include <vector>
 
 #include "vcl/rtl/keptdata.h"
@@ -116,6 +117,14 @@ class VCL_API TComponent : public TPersistent, public TWatched {
   /// A component is being added to or freed from this one, its owner, or one it asked about.
   /// Overriders call the inherited method first.
   virtual void Notification(TComponent* component, TOperation operation);
+  /// For the end of a constructor: Notification of this very class is about nothing but components
+  /// that it has asked about (FreeNotification), so that its owner, which may have thousands, need
+  /// not tell it of each that comes or is freed. A class derived from it hears of all, unless its
+  /// own constructor says the same.
+  template <class Self>
+  void HearOnlyAsked() {
+    FAskingClass = &typeid(Self);
+  }
   /// The form file that holds the component has been read completely.
   virtual void Loaded();
   /// Called for each part of the component's form file as it is read resp. written.
@@ -135,6 +144,7 @@ class VCL_API TComponent : public TPersistent, public TWatched {
   friend class TWriter;
   struct TNames;
   void MarkDestroying();
+  bool HearsOnlyAsked() const;
   void PutName(const std::string& name);
   void DefinePosition(TFiler& filer, const char* name, std::int16_t& coordinate);
 
@@ -142,6 +152,7 @@ class VCL_API TComponent : public TPersistent, public TWatched {
   std::string FName;
   std::intptr_t FTag = 0;
   std::vector<TComponent*> FComponents;
+  const std::type_info* FAskingClass = nullptr;  // See HearOnlyAsked.
   mutable std::unique_ptr<TNames> FNames;  // Made when many components are looked for by name.
   std::vector<TComponent*> FFreeNotifies;
   TComponentState FState;

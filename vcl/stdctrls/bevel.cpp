@@ -55,6 +55,7 @@ const TClass& TBevel::Class() {
 TBevel::TBevel(TComponent* owner) : TGraphicControl(owner) {
   SetControlStyle(ControlStyle() + TControlStyle{csReplicatable});
   SetBounds(0, 0, 50, 50);
+  HearOnlyAsked<TBevel>();
 }
 
 void TBevel::SetShape(TBevelShape shape) {

@@ -38,6 +38,7 @@ TBitBtn::TBitBtn(TComponent* owner)
       FCanvas(std::make_unique<TCanvas>()) {
   // It is painted whole, and a double click presses it twice.
   SetControlStyle({csSetCaption, csOpaque});
+  HearOnlyAsked<TBitBtn>();
 }
 
 TBitBtn::~TBitBtn() { AnnounceEnd(); }

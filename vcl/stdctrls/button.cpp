@@ -71,6 +71,7 @@ const TClass& TButton::Class() {
 TButton::TButton(TComponent* owner) : TButtonControl(owner) {
   SetBounds(0, 0, 75, 25);
   SetTabStop(true);
+  HearOnlyAsked<TButton>();
 }
 
 void TButton::SetDefault(bool isDefault) {

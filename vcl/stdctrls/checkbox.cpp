@@ -148,7 +148,10 @@ const TClass& TRadioButton::Class() {
   return info;
 }
 
-TRadioButton::TRadioButton(TComponent* owner) : TButtonControl(owner) { SetBounds(0, 0, 113, 17); }
+TRadioButton::TRadioButton(TComponent* owner) : TButtonControl(owner) {
+  SetBounds(0, 0, 113, 17);
+  HearOnlyAsked<TRadioButton>();
+}
 
 void TRadioButton::SetAlignment(TAlignment alignment) {
   CheckLeftOrRight(alignment);

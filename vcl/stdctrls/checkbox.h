@@ -55,7 +55,7 @@ class VCL_API TCustomCheckBox : public TButtonControl {
 /// A check box for forms.
 class VCL_API TCheckBox : public TCustomCheckBox {
  public:
-  explicit TCheckBox(TComponent* owner) : TCustomCheckBox(owner) {}
+  explicit TCheckBox(TComponent* owner) : TCustomCheckBox(owner) { HearOnlyAsked<TCheckBox>(); }
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 };

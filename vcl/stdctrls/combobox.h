@@ -95,7 +95,7 @@ class VCL_API TCustomComboBox : public TCustomListControl {
 /// A combo box for forms.
 class VCL_API TComboBox : public TCustomComboBox {
  public:
-  explicit TComboBox(TComponent* owner) : TCustomComboBox(owner) {}
+  explicit TComboBox(TComponent* owner) : TCustomComboBox(owner) { HearOnlyAsked<TComboBox>(); }
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 };

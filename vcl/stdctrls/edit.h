@@ -112,7 +112,7 @@ class VCL_API TCustomEdit : public TWinControl {
 /// An edit for forms, of one line.
 class VCL_API TEdit : public TCustomEdit {
  public:
-  explicit TEdit(TComponent* owner) : TCustomEdit(owner) {}
+  explicit TEdit(TComponent* owner) : TCustomEdit(owner) { HearOnlyAsked<TEdit>(); }
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 };

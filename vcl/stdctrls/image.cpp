@@ -38,6 +38,7 @@ TImage::TImage(TComponent* owner) : TGraphicControl(owner), FPicture(std::make_u
   SetControlStyle(ControlStyle() + TControlStyle{csReplicatable});
   SetBounds(0, 0, 105, 105);
   FPicture->OnChange = {this, &TImage::PictureChanged};
+  HearOnlyAsked<TImage>();
 }
 
 TImage::~TImage() {

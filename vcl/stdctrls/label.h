@@ -70,7 +70,7 @@ class VCL_API TCustomLabel : public TGraphicControl {
 /// A label for forms.
 class VCL_API TLabel : public TCustomLabel {
  public:
-  explicit TLabel(TComponent* owner) : TCustomLabel(owner) {}
+  explicit TLabel(TComponent* owner) : TCustomLabel(owner) { HearOnlyAsked<TLabel>(); }
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 };

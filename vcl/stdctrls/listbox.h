@@ -76,7 +76,7 @@ class VCL_API TCustomListBox : public TCustomListControl {
 /// A list box for forms.
 class VCL_API TListBox : public TCustomListBox {
  public:
-  explicit TListBox(TComponent* owner) : TCustomListBox(owner) {}
+  explicit TListBox(TComponent* owner) : TCustomListBox(owner) { HearOnlyAsked<TListBox>(); }
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 };

@@ -64,7 +64,7 @@ class VCL_API TCustomMemo : public TCustomEdit {
 /// An edit of several lines, for forms.
 class VCL_API TMemo : public TCustomMemo {
  public:
-  explicit TMemo(TComponent* owner) : TCustomMemo(owner) {}
+  explicit TMemo(TComponent* owner) : TCustomMemo(owner) { HearOnlyAsked<TMemo>(); }
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 };

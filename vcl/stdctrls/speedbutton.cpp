@@ -50,6 +50,7 @@ TSpeedButton::TSpeedButton(TComponent* owner)
   // It clicks by itself, when it comes up again.
   SetControlStyle({csCaptureMouse, csDoubleClicks});
   SetBounds(0, 0, 23, 22);
+  HearOnlyAsked<TSpeedButton>();
 }
 
 TSpeedButton::~TSpeedButton() { AnnounceEnd(); }
