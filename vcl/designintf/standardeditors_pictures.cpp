@@ -15,7 +15,9 @@ const struct {
 } Filters[] = {
     {&TBitmap::Class, "Bitmaps (*.bmp)|*.bmp|All files (*.*)|*.*"},
     {&TIcon::Class, "Icons (*.ico)|*.ico|All files (*.*)|*.*"},
-    {&TPicture::Class, "Pictures (*.bmp;*.ico)|*.bmp;*.ico|All files (*.*)|*.*"},
+    {&TPicture::Class,
+     "Pictures (*.bmp;*.gif;*.ico;*.jpg;*.jpeg;*.png)|*.bmp;*.gif;*.ico;*.jpg;*.jpeg;*.png|"
+     "All files (*.*)|*.*"},
 };
 
 std::string FilterFor(const TObject& picture) {

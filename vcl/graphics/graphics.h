@@ -4,6 +4,7 @@
 #include "vcl/graphics/bitmap.h"
 #include "vcl/graphics/brush.h"
 #include "vcl/graphics/canvas.h"
+#include "vcl/graphics/codedimage.h"
 #include "vcl/graphics/font.h"
 #include "vcl/graphics/graphic.h"
 #include "vcl/graphics/graphicsobject.h"

@@ -22,7 +22,10 @@ struct TKind {
   const char* Extension;
   std::unique_ptr<TGraphic> (*Make)();
 };
-constexpr TKind Kinds[] = {{"TBitmap", ".bmp", &Make<TBitmap>}, {"TIcon", ".ico", &Make<TIcon>}};
+constexpr TKind Kinds[] = {
+    {"TBitmap", ".bmp", &Make<TBitmap>},        {"TIcon", ".ico", &Make<TIcon>},
+    {"TPngImage", ".png", &Make<TPngImage>},    {"TJpegImage", ".jpg", &Make<TJpegImage>},
+    {"TJpegImage", ".jpeg", &Make<TJpegImage>}, {"TGifImage", ".gif", &Make<TGifImage>}};
 
 /// An empty graphic of the kind with that text; raises EInvalidGraphic when there is none.
 std::unique_ptr<TGraphic> MakeBy(const char* TKind::*what, const std::string& text) {
