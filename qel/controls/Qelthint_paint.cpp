@@ -173,7 +173,7 @@ std::unique_ptr<TBitmap> TQELNewHint::Picture() {
   QELDrawTransparentBitmap(canvas, FSnapshot.get(), 0, 0, FHint->UnUsedHintColor());
   // In its points at the window's dots per inch, as the text has been measured.
   canvas->Font()->SetPixelsPerInch(Canvas()->Font()->PixelsPerInch());
-  canvas->SetFont(FHint->HintFont());
+  canvas->Font()->Assign(FHint->HintFont());
   TRect area = ClientRect();
   area.Left += 8;
   area.Top += 3 + shape.Top();
