@@ -187,7 +187,12 @@ TEST_F(OnAForm, PicturesAreDrawnAtTheSizeForTheMonitor) {
   Menu.SetPopupComponent(&Form);
   int seen = 0;
   const auto shown = [&] {
-    const auto drawn = [&] { return (seen = CountOnScreen(Rect(250, 250, 450, 400), odd)) > 0; };
+    // All of it: two looks in a row find the same.
+    const auto drawn = [&] {
+      const int former = std::exchange(seen, CountOnScreen(Rect(250, 250, 450, 400), odd));
+      return seen > 0 && seen == former;
+    };
+    seen = 0;
     const TKeysWhen close(drawn, {VK_ESCAPE});
     Menu.Popup(250, 250);
     return seen;
