@@ -6111,85 +6111,120 @@ object GalleryForm: TGalleryForm
         Font.Style = [fsBold]
         ParentFont = False
       end
-      object ExplorerDirectoryCaption: TLabel
-        Left = 452
-        Top = 156
-        Width = 180
-        Height = 13
-        AutoSize = False
-        Caption = 'Directory'
-      end
-      object SampleExplorer: TQELExplorerTree
+      object ExplorerPanel: TPanel
         Left = 16
         Top = 30
-        Width = 420
-        Height = 380
-        AccessibleName = 'Folders'
-        HideSelection = False
-        Indent = 19
+        Width = 920
+        Height = 545
+        AlignWithMargins = True
+        Margins.Left = 16
+        Margins.Top = 30
+        Margins.Right = 16
+        Margins.Bottom = 16
+        Align = alClient
+        BevelOuter = bvNone
+        Caption = ''
         TabOrder = 0
-      end
-      object ExplorerNetworkCheck: TCheckBox
-        Left = 452
-        Top = 30
-        Width = 180
-        Height = 17
-        Caption = 'Network'
-        TabOrder = 1
-      end
-      object ExplorerFastLoadCheck: TCheckBox
-        Left = 452
-        Top = 54
-        Width = 180
-        Height = 17
-        Caption = 'FastLoad'
-        TabOrder = 2
-      end
-      object ExplorerReadOnlyCheck: TCheckBox
-        Left = 452
-        Top = 78
-        Width = 180
-        Height = 17
-        Caption = 'ReadOnly'
-        TabOrder = 3
-      end
-      object ExplorerLinesCheck: TCheckBox
-        Left = 452
-        Top = 102
-        Width = 180
-        Height = 17
-        Caption = 'ShowLines'
-        TabOrder = 4
-      end
-      object ExplorerButtonsCheck: TCheckBox
-        Left = 452
-        Top = 126
-        Width = 180
-        Height = 17
-        Caption = 'ShowButtons'
-        TabOrder = 5
-      end
-      object ExplorerDirectoryEdit: TEdit
-        Left = 452
-        Top = 172
-        Width = 180
-        Height = 20
-        AccessibleName = 'Folder'
-        TabOrder = 6
-        Text = ''
-      end
-      object ExplorerAddButton: TQELButton
-        Left = 452
-        Top = 204
-        Width = 180
-        Height = 30
-        Hint = 'A folder in the selected one, for you to name'
-        Glyph.TransparentColor = clBlack
-        Caption = 'New &folder'
-        Background = FaceBackground
-        OnClick = ExplorerAddClick
-        TabOrder = 7
-        TabStop = True
+        object ExplorerSplitter: TSplitter
+          Left = 420
+          Top = 0
+          Width = 6
+          Height = 545
+          AutoSnap = False
+          MinSize = 150
+          ResizeStyle = rsUpdate
+        end
+        object SampleExplorer: TQELExplorerTree
+          Left = 0
+          Top = 0
+          Width = 420
+          Height = 545
+          AccessibleName = 'Folders'
+          Align = alLeft
+          HideSelection = False
+          Indent = 19
+          TabOrder = 0
+        end
+        object ExplorerSettings: TPanel
+          Left = 426
+          Top = 0
+          Width = 494
+          Height = 545
+          Align = alClient
+          BevelOuter = bvNone
+          Caption = ''
+          TabOrder = 1
+          object ExplorerDirectoryCaption: TLabel
+            Left = 10
+            Top = 126
+            Width = 180
+            Height = 13
+            AutoSize = False
+            Caption = 'Directory'
+          end
+          object ExplorerNetworkCheck: TCheckBox
+            Left = 10
+            Top = 0
+            Width = 180
+            Height = 17
+            Caption = 'Network'
+            TabOrder = 0
+          end
+          object ExplorerFastLoadCheck: TCheckBox
+            Left = 10
+            Top = 24
+            Width = 180
+            Height = 17
+            Caption = 'FastLoad'
+            TabOrder = 1
+          end
+          object ExplorerReadOnlyCheck: TCheckBox
+            Left = 10
+            Top = 48
+            Width = 180
+            Height = 17
+            Caption = 'ReadOnly'
+            TabOrder = 2
+          end
+          object ExplorerLinesCheck: TCheckBox
+            Left = 10
+            Top = 72
+            Width = 180
+            Height = 17
+            Caption = 'ShowLines'
+            TabOrder = 3
+          end
+          object ExplorerButtonsCheck: TCheckBox
+            Left = 10
+            Top = 96
+            Width = 180
+            Height = 17
+            Caption = 'ShowButtons'
+            TabOrder = 4
+          end
+          object ExplorerDirectoryEdit: TEdit
+            Left = 10
+            Top = 142
+            Width = 180
+            Height = 20
+            AccessibleName = 'Folder'
+            TabOrder = 5
+            Text = ''
+          end
+          object ExplorerAddButton: TQELButton
+            Left = 10
+            Top = 174
+            Width = 180
+            Height = 30
+            Hint = 'A folder in the selected one, for you to name'
+            Glyph.TransparentColor = clBlack
+            Caption = 'New &folder'
+            Background = FaceBackground
+            OnClick = ExplorerAddClick
+            TabOrder = 6
+            TabStop = True
+          end
+        end
       end
     end
     object HintsPage: TTabSheet

@@ -3,7 +3,8 @@ object ComposeForm: TComposeForm
   Top = 130
   ActiveControl = ToEdit
   BorderIcons = [biSystemMenu]
-  BorderStyle = bsDialog
+  Constraints.MinHeight = 280
+  Constraints.MinWidth = 360
   Caption = 'New mail'
   ClientHeight = 330
   ClientWidth = 500
@@ -22,6 +23,7 @@ object ComposeForm: TComposeForm
     Top = 10
     Width = 408
     Height = 21
+    Anchors = [akLeft, akTop, akRight]
     Hint = 'Addresses with commas between them'
     TabOrder = 0
   end
@@ -38,6 +40,7 @@ object ComposeForm: TComposeForm
     Top = 38
     Width = 408
     Height = 21
+    Anchors = [akLeft, akTop, akRight]
     TabOrder = 1
   end
   object TextMemo: TMemo
@@ -45,6 +48,7 @@ object ComposeForm: TComposeForm
     Top = 68
     Width = 476
     Height = 150
+    Anchors = [akLeft, akTop, akRight, akBottom]
     ScrollBars = ssVertical
     TabOrder = 2
   end
@@ -53,6 +57,7 @@ object ComposeForm: TComposeForm
     Top = 226
     Width = 384
     Height = 58
+    Anchors = [akLeft, akRight, akBottom]
     TabOrder = 3
     OnClick = FilesClick
   end
@@ -61,6 +66,7 @@ object ComposeForm: TComposeForm
     Top = 226
     Width = 84
     Height = 25
+    Anchors = [akRight, akBottom]
     Caption = '&Attach...'
     TabOrder = 4
     OnClick = AttachClick
@@ -70,6 +76,7 @@ object ComposeForm: TComposeForm
     Top = 256
     Width = 84
     Height = 25
+    Anchors = [akRight, akBottom]
     Caption = '&Remove'
     Enabled = False
     TabOrder = 5
@@ -80,6 +87,7 @@ object ComposeForm: TComposeForm
     Top = 296
     Width = 84
     Height = 25
+    Anchors = [akRight, akBottom]
     Caption = '&Send'
     Default = True
     TabOrder = 6
@@ -90,6 +98,7 @@ object ComposeForm: TComposeForm
     Top = 296
     Width = 84
     Height = 25
+    Anchors = [akRight, akBottom]
     Cancel = True
     Caption = 'Cancel'
     ModalResult = mrCancel

@@ -1,12 +1,13 @@
 object MailerForm: TMailerForm
   Left = 120
   Top = 90
-  Constraints.MinHeight = 240
-  Constraints.MinWidth = 360
+  Constraints.MinHeight = 280
+  Constraints.MinWidth = 560
   Caption = 'Mailer'
   ClientHeight = 400
   ClientWidth = 660
   Color = clBtnFace
+  ShowHint = True
   OnClose = FormClose
   object ToolPanel: TPanel
     Left = 0
@@ -21,6 +22,7 @@ object MailerForm: TMailerForm
       Top = 6
       Width = 270
       Height = 29
+      Anchors = [akLeft, akTop, akRight]
       Font.Charset = DEFAULT_CHARSET
       Font.Color = clBlack
       Font.Height = -11
@@ -37,36 +39,33 @@ object MailerForm: TMailerForm
       Top = 8
       Width = 84
       Height = 25
-      Caption = '&Fetch'
+      Action = FetchAction
       TabOrder = 0
-      OnClick = FetchClick
     end
     object ComposeButton: TButton
       Left = 98
       Top = 8
       Width = 84
       Height = 25
-      Caption = '&Write...'
+      Action = ComposeAction
       TabOrder = 1
-      OnClick = ComposeClick
     end
     object AccountButton: TButton
       Left = 188
       Top = 8
       Width = 84
       Height = 25
-      Caption = 'A&ccount...'
+      Action = AccountAction
       TabOrder = 2
-      OnClick = AccountClick
     end
     object AbortButton: TButton
       Left = 568
       Top = 8
       Width = 84
       Height = 25
-      Caption = '&Abort'
+      Anchors = [akTop, akRight]
+      Action = AbortAction
       TabOrder = 3
-      OnClick = AbortClick
     end
   end
   object MailList: TListBox
@@ -78,10 +77,19 @@ object MailerForm: TMailerForm
     TabOrder = 1
     OnClick = MailListClick
   end
-  object MailPanel: TPanel
+  object MailSplitter: TSplitter
     Left = 230
     Top = 41
-    Width = 430
+    Width = 4
+    Height = 340
+    AutoSnap = False
+    MinSize = 120
+    ResizeStyle = rsUpdate
+  end
+  object MailPanel: TPanel
+    Left = 234
+    Top = 41
+    Width = 426
     Height = 340
     Align = alClient
     BevelOuter = bvNone
@@ -89,7 +97,7 @@ object MailerForm: TMailerForm
     object HeaderPanel: TPanel
       Left = 0
       Top = 0
-      Width = 430
+      Width = 426
       Height = 68
       Align = alTop
       BevelOuter = bvNone
@@ -97,8 +105,9 @@ object MailerForm: TMailerForm
       object HeaderLabel: TLabel
         Left = 8
         Top = 6
-        Width = 640
+        Width = 410
         Height = 58
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         ShowAccelChar = False
       end
@@ -106,7 +115,7 @@ object MailerForm: TMailerForm
     object TextMemo: TMemo
       Left = 0
       Top = 68
-      Width = 430
+      Width = 426
       Height = 216
       Align = alClient
       ReadOnly = True
@@ -116,7 +125,7 @@ object MailerForm: TMailerForm
     object AttachmentPanel: TPanel
       Left = 0
       Top = 284
-      Width = 430
+      Width = 426
       Height = 56
       Align = alBottom
       BevelOuter = bvNone
@@ -124,15 +133,14 @@ object MailerForm: TMailerForm
       object AttachmentList: TListBox
         Left = 0
         Top = 0
-        Width = 326
+        Width = 322
         Height = 56
         Align = alClient
         TabOrder = 0
-        OnClick = AttachmentListClick
-        OnDblClick = SaveClick
+        OnDblClick = SaveExecute
       end
       object SavePanel: TPanel
-        Left = 326
+        Left = 322
         Top = 0
         Width = 104
         Height = 56
@@ -144,10 +152,8 @@ object MailerForm: TMailerForm
           Top = 8
           Width = 84
           Height = 25
-          Caption = '&Save as...'
-          Enabled = False
+          Action = SaveAction
           TabOrder = 0
-          OnClick = SaveClick
         end
       end
     end
@@ -159,6 +165,41 @@ object MailerForm: TMailerForm
     Height = 19
     Panels = <>
     SimplePanel = True
+  end
+  object Actions: TActionList
+    Left = 264
+    Top = 168
+    object FetchAction: TAction
+      Caption = '&Fetch'
+      Hint = 'Fetches what is in the mailbox (F5)'
+      ShortCut = 116
+      OnExecute = FetchExecute
+    end
+    object ComposeAction: TAction
+      Caption = '&Write...'
+      Hint = 'Writes a mail (Ctrl+N)'
+      ShortCut = 16462
+      OnExecute = ComposeExecute
+    end
+    object AccountAction: TAction
+      Caption = 'A&ccount...'
+      Hint = 'Says who sends and where the mailbox is'
+      OnExecute = AccountExecute
+    end
+    object AbortAction: TAction
+      Caption = '&Abort'
+      Hint = 'Ends what is being sent or fetched (Esc)'
+      ShortCut = 27
+      OnExecute = AbortExecute
+    end
+    object SaveAction: TAction
+      Caption = '&Save as...'
+      Enabled = False
+      Hint = 'Saves the attachment (Ctrl+S)'
+      ShortCut = 16467
+      OnExecute = SaveExecute
+      OnUpdate = SaveUpdate
+    end
   end
   object SaveDialog: TSaveDialog
     Filter = 'All files|*.*'

@@ -13,39 +13,38 @@ using namespace vcl;
 
 const TClass& TMailerForm::Class() {
   using T = TMailerForm;
-  static const TClass info =
-      Describe<T, TForm>("mailer::TMailerForm", "demos/mailer/mailerform.h",
-                         {
-                             Field<&T::ComposeButton>("ComposeButton"),
-                             Field<&T::FetchButton>("FetchButton"),
-                             Field<&T::AccountButton>("AccountButton"),
-                             Field<&T::AbortButton>("AbortButton"),
-                             Field<&T::Gauge>("Gauge"),
-                             Field<&T::MailList>("MailList"),
-                             Field<&T::HeaderLabel>("HeaderLabel"),
-                             Field<&T::TextMemo>("TextMemo"),
-                             Field<&T::AttachmentList>("AttachmentList"),
-                             Field<&T::SaveButton>("SaveButton"),
-                             Field<&T::StatusBar>("StatusBar"),
-                             Field<&T::SaveDialog>("SaveDialog"),
-                             Field<&T::Settings>("Settings"),
-                             Field<&T::Sender>("Sender"),
-                             Field<&T::Receiver>("Receiver"),
-                             Method<&T::FormClose>("FormClose"),
-                             Method<&T::MailListClick>("MailListClick"),
-                             Method<&T::AttachmentListClick>("AttachmentListClick"),
-                             Method<&T::SaveClick>("SaveClick"),
-                             Method<&T::ComposeClick>("ComposeClick"),
-                             Method<&T::FetchClick>("FetchClick"),
-                             Method<&T::AccountClick>("AccountClick"),
-                             Method<&T::AbortClick>("AbortClick"),
-                             Method<&T::MailError>("MailError"),
-                             Method<&T::MailProgress>("MailProgress"),
-                             Method<&T::EncodeStart>("EncodeStart"),
-                             Method<&T::MailSent>("MailSent"),
-                             Method<&T::MailBegins>("MailBegins"),
-                             Method<&T::MailFetched>("MailFetched"),
-                         });
+  static const TClass info = Describe<T, TForm>("mailer::TMailerForm", "demos/mailer/mailerform.h",
+                                                {
+                                                    Field<&T::ComposeAction>("ComposeAction"),
+                                                    Field<&T::FetchAction>("FetchAction"),
+                                                    Field<&T::AccountAction>("AccountAction"),
+                                                    Field<&T::AbortAction>("AbortAction"),
+                                                    Field<&T::Gauge>("Gauge"),
+                                                    Field<&T::MailList>("MailList"),
+                                                    Field<&T::HeaderLabel>("HeaderLabel"),
+                                                    Field<&T::TextMemo>("TextMemo"),
+                                                    Field<&T::AttachmentList>("AttachmentList"),
+                                                    Field<&T::SaveAction>("SaveAction"),
+                                                    Field<&T::StatusBar>("StatusBar"),
+                                                    Field<&T::SaveDialog>("SaveDialog"),
+                                                    Field<&T::Settings>("Settings"),
+                                                    Field<&T::Sender>("Sender"),
+                                                    Field<&T::Receiver>("Receiver"),
+                                                    Method<&T::FormClose>("FormClose"),
+                                                    Method<&T::MailListClick>("MailListClick"),
+                                                    Method<&T::SaveUpdate>("SaveUpdate"),
+                                                    Method<&T::SaveExecute>("SaveExecute"),
+                                                    Method<&T::ComposeExecute>("ComposeExecute"),
+                                                    Method<&T::FetchExecute>("FetchExecute"),
+                                                    Method<&T::AccountExecute>("AccountExecute"),
+                                                    Method<&T::AbortExecute>("AbortExecute"),
+                                                    Method<&T::MailError>("MailError"),
+                                                    Method<&T::MailProgress>("MailProgress"),
+                                                    Method<&T::EncodeStart>("EncodeStart"),
+                                                    Method<&T::MailSent>("MailSent"),
+                                                    Method<&T::MailBegins>("MailBegins"),
+                                                    Method<&T::MailFetched>("MailFetched"),
+                                                });
   return info;
 }
 
@@ -64,7 +63,7 @@ void TMailerForm::Loaded() {
 }
 
 // A session that still runs ends with the window.
-void TMailerForm::FormClose(TObject* sender, TCloseAction&) { AbortClick(sender); }
+void TMailerForm::FormClose(TObject* sender, TCloseAction&) { AbortExecute(sender); }
 
 void TMailerForm::SetAccount(const TAccount& account) {
   FAccount = account;
@@ -103,14 +102,13 @@ void TMailerForm::ShowMail(int index) {
         ExtractFileName(mail.Attachments()->GeTQELAttachment(i)->FileName()));
   }
   if (mail.Attachments()->Count() > 0) AttachmentList->SetItemIndex(0);
-  AttachmentListClick(nullptr);
+  SaveAction->Update();
 }
 
-void TMailerForm::AttachmentListClick(TObject*) {
-  SaveButton->SetEnabled(AttachmentList->ItemIndex() >= 0);
-}
+void TMailerForm::SaveUpdate(TObject*) { SaveAction->SetEnabled(AttachmentList->ItemIndex() >= 0); }
 
-void TMailerForm::SaveClick(TObject*) {
+void TMailerForm::SaveExecute(TObject*) {
+  if (AttachmentList->ItemIndex() < 0) return;  // A double click may hit no attachment.
   const qel::TQELAttachment& attachment = *Mails()
                                                .GetQELMessage(MailList->ItemIndex())
                                                ->Attachments()

@@ -8,6 +8,7 @@
 #include "qel/controls/Qeltgauge.h"
 #include "qel/core/Qeltstoredata.h"
 #include "qel/mail/Qeltiemails.h"
+#include "vcl/actions/actions.h"
 #include "vcl/dialogs/dialogs.h"
 #include "vcl/forms/forms.h"
 #include "vcl/stdctrls/comctrls.h"
@@ -44,16 +45,16 @@ class TMailerForm : public vcl::TForm {
 
  private:
   // What the form file fills.
-  vcl::TButton* ComposeButton = nullptr;
-  vcl::TButton* FetchButton = nullptr;
-  vcl::TButton* AccountButton = nullptr;
-  vcl::TButton* AbortButton = nullptr;
+  vcl::TAction* ComposeAction = nullptr;
+  vcl::TAction* FetchAction = nullptr;
+  vcl::TAction* AccountAction = nullptr;
+  vcl::TAction* AbortAction = nullptr;
+  vcl::TAction* SaveAction = nullptr;
   qel::TQELGauge* Gauge = nullptr;
   vcl::TListBox* MailList = nullptr;
   vcl::TLabel* HeaderLabel = nullptr;
   vcl::TMemo* TextMemo = nullptr;
   vcl::TListBox* AttachmentList = nullptr;
-  vcl::TButton* SaveButton = nullptr;
   vcl::TStatusBar* StatusBar = nullptr;
   vcl::TSaveDialog* SaveDialog = nullptr;
   qel::TQELStoreData* Settings = nullptr;
@@ -62,16 +63,16 @@ class TMailerForm : public vcl::TForm {
 
   void FormClose(vcl::TObject* sender, vcl::TCloseAction& action);
   void MailListClick(vcl::TObject* sender);
-  void AttachmentListClick(vcl::TObject* sender);
-  void SaveClick(vcl::TObject* sender);
+  void SaveExecute(vcl::TObject* sender);
+  void SaveUpdate(vcl::TObject* sender);
   void ListMails();
   void Tell(const std::string& message);
 
   // Sessions.
-  void ComposeClick(vcl::TObject* sender);
-  void FetchClick(vcl::TObject* sender);
-  void AccountClick(vcl::TObject* sender);
-  void AbortClick(vcl::TObject* sender);
+  void ComposeExecute(vcl::TObject* sender);
+  void FetchExecute(vcl::TObject* sender);
+  void AccountExecute(vcl::TObject* sender);
+  void AbortExecute(vcl::TObject* sender);
   void MailError(vcl::TObject* sender, int code, const std::string& text);
   void MailProgress(vcl::TObject* sender, std::uint16_t percent);
   void EncodeStart(vcl::TObject* sender, const std::string& fileName, int size);

@@ -15,7 +15,7 @@ using namespace vcl;
 // What the user wants.
 
 // A mail that has not gone out comes back to be changed or sent again.
-void TMailerForm::ComposeClick(TObject*) {
+void TMailerForm::ComposeExecute(TObject*) {
   if (!Solve(&SendingProblem)) return;
   TComposeForm form(nullptr);
   while (form.ShowModal() == mrOk) {
@@ -28,13 +28,13 @@ void TMailerForm::ComposeClick(TObject*) {
   }
 }
 
-void TMailerForm::FetchClick(TObject*) {
+void TMailerForm::FetchExecute(TObject*) {
   if (Solve(&FetchingProblem)) Fetch();
 }
 
-void TMailerForm::AccountClick(TObject*) { AskAccount(); }
+void TMailerForm::AccountExecute(TObject*) { AskAccount(); }
 
-void TMailerForm::AbortClick(TObject*) {
+void TMailerForm::AbortExecute(TObject*) {
   Sender->Abort();
   Receiver->Abort();
 }
@@ -115,8 +115,8 @@ bool TMailerForm::RunSession(qel::TQELMailHost& mail) {
 
 // There is one session at a time: to start another would end the one that runs.
 void TMailerForm::ShowRunning(bool running) {
-  for (TButton* button : {ComposeButton, FetchButton, AccountButton}) button->SetEnabled(!running);
-  AbortButton->SetEnabled(running);
+  for (TAction* action : {ComposeAction, FetchAction, AccountAction}) action->SetEnabled(!running);
+  AbortAction->SetEnabled(running);
   if (running) {
     Gauge->SetPercentage(0);
   } else {

@@ -13,6 +13,7 @@ object AboutForm: TAboutForm
     Top = 0
     Width = 360
     Height = 50
+    Align = alTop
     Alignment = taCenter
     Caption = 'Notes'
     Font.Charset = DEFAULT_CHARSET
@@ -31,6 +32,7 @@ object AboutForm: TAboutForm
     Top = 68
     Width = 32
     Height = 32
+    Stretch = True
   end
   object TextLabel: TLabel
     Left = 68

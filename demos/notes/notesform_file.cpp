@@ -96,7 +96,7 @@ bool TNotesForm::SaveAs() {
 bool TNotesForm::SaveIn(const std::string& fileName) {
   if (fileName == FFileName && !(StampOf(fileName) == FStamp) &&
       MessageDlg(Concat(fileName, " has been changed by another program. Replace it?"), mtWarning,
-                 {mbYes, mbNo}) != mrYes)
+                 {mbYes, mbNo}, mbNo) != mrYes)
     return false;
   KeepUnsaved();
   ReplaceContents(fileName, EncodeText(Editor->Text(), FFormat));

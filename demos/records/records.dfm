@@ -10,151 +10,156 @@ object RecordsForm: TRecordsForm
     Left = 0
     Top = 0
     Width = 620
-    Height = 200
-    Anchors = [akLeft, akTop, akRight, akBottom]
+    Height = 196
+    Align = alClient
     DataSource = Source
     TabOrder = 0
   end
-  object NameLabel: TLabel
-    Left = 12
-    Top = 219
-    Width = 70
-    Height = 15
-    Anchors = [akLeft, akBottom]
-    Caption = '&Name'
-    FocusControl = NameEdit
+  object Splitter: TSplitter
+    Left = 0
+    Top = 196
+    Width = 620
+    Height = 4
+    Align = alBottom
+    AutoSnap = False
+    MinSize = 80
+    ResizeStyle = rsUpdate
   end
-  object NameEdit: TDBEdit
-    Left = 90
-    Top = 216
-    Width = 220
-    Height = 21
-    Anchors = [akLeft, akBottom]
-    DataField = 'name'
-    DataSource = Source
+  object DetailPanel: TPanel
+    Left = 0
+    Top = 200
+    Width = 620
+    Height = 180
+    Align = alBottom
+    BevelOuter = bvNone
+    Constraints.MinHeight = 150
     TabOrder = 1
-  end
-  object CityLabel: TLabel
-    Left = 12
-    Top = 251
-    Width = 70
-    Height = 15
-    Anchors = [akLeft, akBottom]
-    Caption = '&City'
-    FocusControl = CityEdit
-  end
-  object CityEdit: TDBEdit
-    Left = 90
-    Top = 248
-    Width = 220
-    Height = 21
-    Anchors = [akLeft, akBottom]
-    DataField = 'city'
-    DataSource = Source
-    TabOrder = 2
-  end
-  object BornLabel: TLabel
-    Left = 12
-    Top = 283
-    Width = 70
-    Height = 15
-    Anchors = [akLeft, akBottom]
-    Caption = '&Born'
-    FocusControl = BornEdit
-  end
-  object BornEdit: TDBEdit
-    Left = 90
-    Top = 280
-    Width = 100
-    Height = 21
-    Anchors = [akLeft, akBottom]
-    DataField = 'born'
-    DataSource = Source
-    TabOrder = 3
-  end
-  object BalanceLabel: TLabel
-    Left = 12
-    Top = 315
-    Width = 70
-    Height = 15
-    Anchors = [akLeft, akBottom]
-    Caption = 'B&alance'
-    FocusControl = BalanceEdit
-  end
-  object BalanceEdit: TDBEdit
-    Left = 90
-    Top = 312
-    Width = 100
-    Height = 21
-    Anchors = [akLeft, akBottom]
-    DataField = 'balance'
-    DataSource = Source
-    TabOrder = 4
-  end
-  object AddButton: TButton
-    Left = 340
-    Top = 215
-    Width = 80
-    Height = 25
-    Anchors = [akLeft, akBottom]
-    Caption = 'A&dd'
-    TabOrder = 5
-    OnClick = AddClick
-  end
-  object DeleteButton: TButton
-    Left = 430
-    Top = 215
-    Width = 80
-    Height = 25
-    Anchors = [akLeft, akBottom]
-    Action = DeleteAction
-    TabOrder = 6
-  end
-  object PostButton: TButton
-    Left = 340
-    Top = 247
-    Width = 80
-    Height = 25
-    Anchors = [akLeft, akBottom]
-    Action = PostAction
-    TabOrder = 7
-  end
-  object CancelButton: TButton
-    Left = 430
-    Top = 247
-    Width = 80
-    Height = 25
-    Anchors = [akLeft, akBottom]
-    Action = CancelAction
-    TabOrder = 8
-  end
-  object ExportButton: TButton
-    Left = 340
-    Top = 279
-    Width = 80
-    Height = 25
-    Anchors = [akLeft, akBottom]
-    Caption = '&Export...'
-    TabOrder = 9
-    OnClick = ExportClick
-  end
-  object ImportButton: TButton
-    Left = 430
-    Top = 279
-    Width = 80
-    Height = 25
-    Anchors = [akLeft, akBottom]
-    Caption = '&Import...'
-    TabOrder = 10
-    OnClick = ImportClick
-  end
-  object Gauge: TQELGauge
-    Left = 340
-    Top = 314
-    Width = 170
-    Height = 26
-    Anchors = [akLeft, akBottom]
-    SegmentColor = 15780518
+    object NameLabel: TLabel
+      Left = 12
+      Top = 19
+      Width = 70
+      Height = 15
+      Caption = '&Name'
+      FocusControl = NameEdit
+    end
+    object NameEdit: TDBEdit
+      Left = 90
+      Top = 16
+      Width = 220
+      Height = 21
+      DataField = 'name'
+      DataSource = Source
+      TabOrder = 0
+    end
+    object CityLabel: TLabel
+      Left = 12
+      Top = 51
+      Width = 70
+      Height = 15
+      Caption = '&City'
+      FocusControl = CityEdit
+    end
+    object CityEdit: TDBEdit
+      Left = 90
+      Top = 48
+      Width = 220
+      Height = 21
+      DataField = 'city'
+      DataSource = Source
+      TabOrder = 1
+    end
+    object BornLabel: TLabel
+      Left = 12
+      Top = 83
+      Width = 70
+      Height = 15
+      Caption = '&Born'
+      FocusControl = BornEdit
+    end
+    object BornEdit: TDBEdit
+      Left = 90
+      Top = 80
+      Width = 100
+      Height = 21
+      DataField = 'born'
+      DataSource = Source
+      TabOrder = 2
+    end
+    object BalanceLabel: TLabel
+      Left = 12
+      Top = 115
+      Width = 70
+      Height = 15
+      Caption = 'B&alance'
+      FocusControl = BalanceEdit
+    end
+    object BalanceEdit: TDBEdit
+      Left = 90
+      Top = 112
+      Width = 100
+      Height = 21
+      DataField = 'balance'
+      DataSource = Source
+      TabOrder = 3
+    end
+    object AddButton: TButton
+      Left = 340
+      Top = 15
+      Width = 80
+      Height = 25
+      Caption = 'A&dd'
+      TabOrder = 4
+      OnClick = AddClick
+    end
+    object DeleteButton: TButton
+      Left = 430
+      Top = 15
+      Width = 80
+      Height = 25
+      Action = DeleteAction
+      TabOrder = 5
+    end
+    object PostButton: TButton
+      Left = 340
+      Top = 47
+      Width = 80
+      Height = 25
+      Action = PostAction
+      TabOrder = 6
+    end
+    object CancelButton: TButton
+      Left = 430
+      Top = 47
+      Width = 80
+      Height = 25
+      Action = CancelAction
+      TabOrder = 7
+    end
+    object ExportButton: TButton
+      Left = 340
+      Top = 79
+      Width = 80
+      Height = 25
+      Caption = '&Export...'
+      TabOrder = 8
+      OnClick = ExportClick
+    end
+    object ImportButton: TButton
+      Left = 430
+      Top = 79
+      Width = 80
+      Height = 25
+      Caption = '&Import...'
+      TabOrder = 9
+      OnClick = ImportClick
+    end
+    object Gauge: TQELGauge
+      Left = 340
+      Top = 114
+      Width = 170
+      Height = 26
+      SegmentColor = 15780518
+    end
   end
   object StatusBar: TStatusBar
     Left = 0

@@ -171,7 +171,9 @@ std::unique_ptr<TBitmap> TQELNewHint::Picture() {
   // The background shows where body and pointer have been drawn, and wherever else the screen has
   // their colour.
   QELDrawTransparentBitmap(canvas, FSnapshot.get(), 0, 0, FHint->UnUsedHintColor());
-  canvas->SetFont(FHint->HintFont());
+  // In its points at the window's dots per inch, as the text has been measured.
+  canvas->Font()->SetPixelsPerInch(Canvas()->Font()->PixelsPerInch());
+  canvas->Font()->Assign(FHint->HintFont());
   TRect area = ClientRect();
   area.Left += 8;
   area.Top += 3 + shape.Top();

@@ -115,8 +115,8 @@ void TQELLabel::PaintText() {
   // The frame takes from the text at the top, the right and the bottom; at the left the text stays
   // where it is without a frame.
   TRect area = ClientRect();
-  area.Top += FFrame->FrameWidth();
-  area.Bottom -= FFrame->FrameWidth();
+  area.Top += FFrame->RingCount();
+  area.Bottom -= FFrame->RingCount();
   area.Right -= FFrame->BorderWidth();
   if (FFontBackground) {
     FFontBackground->Write(FFont3D.get(), Font(), Canvas(), area, Caption(), flags);

@@ -19,7 +19,11 @@ class TTextLayers {
  public:
   TTextLayers(const vcl::TFont* font, HDC dc, const vcl::TRect& rect, const std::string& text,
               unsigned flags)
-      : FDC(dc), FRect(rect), FText(vcl::ToUtf16(text)), FFlags(flags) {
+      : FDC(dc),
+        FRect(rect),
+        FText(vcl::ToUtf16(text)),
+        FFlags(flags),
+        FPixelsPerInch(font->PixelsPerInch()) {
     // With DT_MODIFYSTRING the system may write an ellipsis, and a zero, behind the text.
     FText.append(4, L'\0');
     FBrush.SetStyle(vcl::bsClear);
@@ -38,6 +42,8 @@ class TTextLayers {
   TTextLayers(const TTextLayers&) = delete;
   TTextLayers& operator=(const TTextLayers&) = delete;
 
+  /// A distance at 96 dots per inch in the font's.
+  int Scaled(int pixels) const { return ScaledTo(FPixelsPerInch, pixels); }
   void Move(int dx, int dy) { ::OffsetRect(&FRect, dx, dy); }
   void Shrink(int by) { ::InflateRect(&FRect, -by, -by); }
   void SetColor(vcl::TColor color) { FFont.SetColor(color); }
@@ -114,6 +120,7 @@ class TTextLayers {
   RECT FRect;
   std::wstring FText;
   unsigned FFlags;
+  int FPixelsPerInch;
   vcl::TBrush FBrush;
   vcl::TFont FFont;
   int FSavedLevel = 0;
@@ -123,31 +130,34 @@ void DrawDisabled(TTextLayers& layers) {
   layers.SetColor(vcl::clBtnHighlight);
   layers.Draw();
   layers.SetColor(vcl::clGrayText);
-  layers.DrawAt(-1, -1);
+  layers.DrawAt(-layers.Scaled(1), -layers.Scaled(1));
 }
 
 /// The copies that trail from the text. They end as far from it as there are copies.
 void DrawRepetition(TTextLayers& layers, const TQELFont3D& font) {
   if (font.Repetition() == repeatNone) return;
-  layers.Shrink(font.Repetitionwidth());
+  const int copies = layers.Scaled(font.Repetitionwidth());
+  layers.Shrink(copies);
   layers.SetColor(font.RepetitionColor());
   const int towards = font.Repetition() == repeatOnShadow ? 1 : -1;
-  layers.Move(towards * font.Offset(), towards * font.Offset());
-  layers.DrawTrail(font.Repetitionwidth(), -towards);
+  const int offset = towards * layers.Scaled(font.Offset());
+  layers.Move(offset, offset);
+  layers.DrawTrail(copies, -towards);
 }
 
 void DrawOutline(TTextLayers& layers, const TQELFont3D& font) {
+  const int by = layers.Scaled(1);
   layers.SetColor(font.Shadow());
-  layers.DrawAt(-1, -1);
-  layers.DrawAt(2, 0);
-  layers.DrawAt(0, 2);
-  layers.DrawAt(-2, 0);
-  layers.Move(1, -1);
+  layers.DrawAt(-by, -by);
+  layers.DrawAt(2 * by, 0);
+  layers.DrawAt(0, 2 * by);
+  layers.DrawAt(-2 * by, 0);
+  layers.Move(by, -by);
 }
 
 void DrawLight(TTextLayers& layers, const TQELFont3D& font) {
   const TQELStyle3D style = font.Style3D();
-  const int offset = font.Offset();
+  const int offset = layers.Scaled(font.Offset());
   const bool lightFirst = style == fontRaised || style == fontOnlyHighlight;
   const bool shadowSecond = style == fontRaised || style == fontOnlyShadow;
   layers.Move(-offset, -offset);

@@ -32,7 +32,8 @@ class QEL_API TQELFont3D : public vcl::TGraphicsObject {
   /// On which sides of the text its highlight and its shadow are drawn.
   void SetStyle3D(TQELStyle3D style);
   int Offset() const { return FOffset; }
-  /// The distance of highlight and shadow, in pixels. Takes only values above 0.
+  /// The distance of highlight and shadow, in pixels at 96 dots per inch. Takes only values above
+  /// 0.
   void SetOffset(int offset);
   TQELRepeat Repetition() const { return FRepetition; }
   /// To which side copies of the text trail from it.
@@ -41,7 +42,8 @@ class QEL_API TQELFont3D : public vcl::TGraphicsObject {
   /// The colour of the trailing copies.
   void SetRepetitionColor(vcl::TColor color);
   int Repetitionwidth() const { return FRepetitionwidth; }
-  /// The number of trailing copies, each a pixel further. Takes only values from 0.
+  /// The number of trailing copies at 96 dots per inch, each a pixel further. Takes only values
+  /// from 0.
   void SetRepetitionwidth(int width);
   bool MaskFont() const { return FMaskFont; }
   /// For the owning control's own use.
@@ -56,7 +58,8 @@ class QEL_API TQELFont3D : public vcl::TGraphicsObject {
   int GetDrawingwidth() const { return 2 * FOffset + FRepetitionwidth; }
 
   /// Draws the text in the rectangle, with the flags of DrawTextEx; a disabled one as a grey text
-  /// on a light one. The context's own font, colours and modes stay what they were.
+  /// on a light one. Distances follow the font's dots per inch. The context's own font, colours and
+  /// modes stay what they were.
   void Write(const vcl::TFont* font, HDC dc, const vcl::TRect& rect, const std::string& text,
              unsigned flags, bool enabled) const;
 

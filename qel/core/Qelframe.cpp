@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "qel/core/private/Qelownedsettings.h"
+#include "vcl/controls/scaling.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/win32.h"
 
@@ -84,7 +85,8 @@ void TQELFrame::Assign(const vcl::TPersistent* source) {
 }
 
 void TQELFrame::Draw(HDC dc, TRect& rect) {
-  TPainter painter(dc, FFrameWidth);
+  const int offset = ScaledTo(PixelsPerInchOf(FOwner), FOffset);
+  TPainter painter(dc, RingCount());
   const auto two = [&](TColor outerTL, TColor outerBR, int gap, TColor innerTL, TColor innerBR) {
     painter.Border(rect, outerTL, outerBR);
     rect.Inflate(-gap, -gap);
@@ -95,8 +97,8 @@ void TQELFrame::Draw(HDC dc, TRect& rect) {
     case frameRaised: return painter.Border(rect, FHighlight, FShadow);
     case frameLowered: return painter.Border(rect, FShadow, FHighlight);
     case frameNone: return;
-    case frameFramedUp: return two(FHighlight, FShadow, FOffset, FShadow, FHighlight);
-    case frameFramedDown: return two(FShadow, FHighlight, FOffset, FHighlight, FShadow);
+    case frameFramedUp: return two(FHighlight, FShadow, offset, FShadow, FHighlight);
+    case frameFramedDown: return two(FShadow, FHighlight, offset, FHighlight, FShadow);
     case framePanelUp: return two(FHighlight, vcl::clBlack, 0, vcl::clNone, FShadow);
     case framePanelDown: return two(FShadow, vcl::clNone, 0, vcl::clBlack, FHighlight);
     case frameLightBordered: return two(vcl::clNone, FShadow, 0, FHighlight, FHighlight);
@@ -127,18 +129,29 @@ void TQELFrame::Drawbutton(vcl::TCanvas* canvas, TRect& rect, bool down) const {
   ++rect.Bottom;
 }
 
-void TQELFrame::Calcwidth() {
+int TQELFrame::RingCount() const { return ScaledTo(PixelsPerInchOf(FOwner), FFrameWidth); }
+
+int TQELFrame::BorderWidth() const {
+  const int pixelsPerInch = PixelsPerInchOf(FOwner);
+  return pixelsPerInch == vcl::DefaultPixelsPerInch ? FBorderWidth : Thickness(pixelsPerInch);
+}
+
+void TQELFrame::Calcwidth() { FBorderWidth = Thickness(vcl::DefaultPixelsPerInch); }
+
+int TQELFrame::Thickness(int pixelsPerInch) const {
+  const int width = ScaledTo(pixelsPerInch, FFrameWidth);
   switch (FFrameStyle) {
     case frameSolid:
     case frameRaised:
-    case frameLowered: FBorderWidth = FFrameWidth; break;
-    case frameNone: FBorderWidth = 2; break;
+    case frameLowered: return width;
+    case frameNone: return ScaledTo(pixelsPerInch, 2);
     case frameFramedUp:
-    case frameFramedDown: FBorderWidth = 2 * FFrameWidth + FOffset; break;
+    case frameFramedDown: return 2 * width + ScaledTo(pixelsPerInch, FOffset);
     case framePanelUp:
     case framePanelDown:
-    case frameLightBordered: FBorderWidth = 2 * FFrameWidth; break;
+    case frameLightBordered: break;
   }
+  return 2 * width;
 }
 
 void TQELFrame::SetFrameStyle(TQELFrameStyle style) {

@@ -39,17 +39,19 @@ class QEL_API TQELFrame : public vcl::TGraphicsObject {
   vcl::TColor Solid() const { return FSolid; }
   void SetSolid(vcl::TColor color);
   int Offset() const { return FOffset; }
-  /// The gap between the two borders of frameFramedUp and frameFramedDown. Takes only values from
-  /// 0.
+  /// The gap between the two borders of frameFramedUp and frameFramedDown, at 96 dots per inch.
+  /// Takes only values from 0.
   void SetOffset(int offset);
   int FrameWidth() const { return FFrameWidth; }
-  /// The number of rings of a border. Takes only values above 0.
+  /// The number of rings of a border at 96 dots per inch. Takes only values above 0.
   void SetFrameWidth(int width);
 
-  /// How many pixels the frame takes on each side; 2 without a frame, as a frameless control keeps
-  /// that margin.
-  int BorderWidth() const { return FBorderWidth; }
-  /// Computes BorderWidth anew. The setters call it.
+  /// FrameWidth at the dots per inch of the owner: how many rings a border is drawn with.
+  int RingCount() const;
+  /// How many pixels the frame takes on each side, at the dots per inch of the owner; without a
+  /// frame those of 2 at 96, as a frameless control keeps that margin.
+  int BorderWidth() const;
+  /// Computes BorderWidth at 96 dots per inch anew. The setters call it.
   void Calcwidth();
 
   /// Draws the frame just inside the rectangle, which becomes what is left inside the frame.
@@ -64,6 +66,7 @@ class QEL_API TQELFrame : public vcl::TGraphicsObject {
 
  private:
   class TPainter;
+  int Thickness(int pixelsPerInch) const;
 
   vcl::TObject* FOwner;
   TQELFrameStyle FFrameStyle = frameRaised;

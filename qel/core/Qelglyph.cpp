@@ -9,6 +9,8 @@
 #include "qel/core/Qelclasses2.h"
 #include "qel/core/private/Qelownedsettings.h"
 #include "qel/core/private/arithmetic.h"
+#include "vcl/controls/scaling.h"
+#include "vcl/graphics/imagelist.h"
 #include "vcl/rtl/component.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
@@ -98,12 +100,16 @@ void TQELGlyph::AdoptStrip() {
   FTransparentColor = FBitmap->Canvas()->Pixels(0, height - 1);
 }
 
-int TQELGlyph::GetWidth() const {
+int TQELGlyph::GetWidth() const { return ScaledTo(PixelsPerInchOf(FOwner), ImageWidth()); }
+
+int TQELGlyph::ImageWidth() const {
   if (FBitmap->Empty() || FNumGlyphs == 0) return 0;
   return Round(double(FBitmap->Width()) / int{FNumGlyphs});
 }
 
-int TQELGlyph::GetHeight() const { return FBitmap->Empty() ? 0 : FBitmap->Height(); }
+int TQELGlyph::GetHeight() const {
+  return FBitmap->Empty() ? 0 : ScaledTo(PixelsPerInchOf(FOwner), FBitmap->Height());
+}
 
 int TQELGlyph::ImageFor(bool enabled, bool down) const {
   if (!enabled) return FNumGlyphs;
@@ -119,8 +125,8 @@ void TQELGlyph::CopyImage(int number, TBitmap& image) const {
 
 void TQELGlyph::Draw(vcl::TCanvas* canvas, int x, int y, bool enabled, bool down,
                      bool grayed) const {
-  if (FBitmap->Empty() || !FVisible || GetWidth() == 0) return;
-  TBitmap image(GetWidth(), GetHeight());
+  if (FBitmap->Empty() || !FVisible || ImageWidth() == 0) return;
+  TBitmap image(ImageWidth(), FBitmap->Height());
   const int number = ImageFor(enabled, down);
   CopyImage(number, image);
   if (!enabled || number > FNumGlyphs) DrawGrayed(image, FTransparentColor, 2);
@@ -128,12 +134,20 @@ void TQELGlyph::Draw(vcl::TCanvas* canvas, int x, int y, bool enabled, bool down
     CopyImage(1, image);
     DrawGrayed(image, FTransparentColor, 1);
   }
-  if (FTransparent) {
+  if (PixelsPerInchOf(FOwner) != vcl::DefaultPixelsPerInch) {
+    DrawScaled(canvas, image, x, y);
+  } else if (FTransparent) {
     QELDrawTransparentBitmap(canvas, &image, x, y, FTransparentColor);
   } else {
     ::BitBlt(canvas->Handle(), x, y, image.Width(), image.Height(), image.Canvas()->Handle(), 0, 0,
              SRCCOPY);
   }
+}
+
+void TQELGlyph::DrawScaled(vcl::TCanvas* canvas, TBitmap& image, int x, int y) const {
+  vcl::TImageList images(nullptr, image.Width(), image.Height());
+  FTransparent ? images.AddMasked(&image, FTransparentColor) : images.Add(&image, nullptr);
+  images.ForPPI(PixelsPerInchOf(FOwner))->Draw(canvas, x, y, 0);
 }
 
 void TQELGlyph::DrawGrayed(TBitmap& bitmap, TColor /*color*/, int level) const {

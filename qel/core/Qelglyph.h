@@ -42,7 +42,8 @@ class QEL_API TQELGlyph : public vcl::TGraphicsObject {
   /// True leaves out the pixels of TransparentColor.
   void SetTransparent(bool transparent);
 
-  /// The size of one image in pixels; 0 when there is none.
+  /// The size of one image as it is drawn, in pixels at the dots per inch of the owner; 0 when
+  /// there is none.
   int GetWidth() const;
   int GetHeight() const;
   /// Draws the image for the state at (x, y). A disabled glyph is always greyed, also when the
@@ -60,8 +61,10 @@ class QEL_API TQELGlyph : public vcl::TGraphicsObject {
   void BitmapChanged(vcl::TObject* sender);
   void AssignBitmap(const vcl::TBitmap* bitmap);
   void AdoptStrip();
+  int ImageWidth() const;
   int ImageFor(bool enabled, bool down) const;
   void CopyImage(int number, vcl::TBitmap& image) const;
+  void DrawScaled(vcl::TCanvas* canvas, vcl::TBitmap& image, int x, int y) const;
 
   vcl::TColor FTransparentColor = vcl::clBlack;
   vcl::TObject* FOwner;

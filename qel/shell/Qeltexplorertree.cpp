@@ -230,7 +230,7 @@ void TQELExplorerTree::SetFastLoad(bool fastLoad) {
 }
 
 HIMAGELIST TQELExplorerTree::NormalImages() const {
-  return Images() ? TCustomTreeView::NormalImages() : folders::SystemImages();
+  return Images() ? TCustomTreeView::NormalImages() : folders::SystemImages(CurrentPPI());
 }
 
 /// The window measures all nodes of a folder when it is expanded, of which few come into sight: the

@@ -36,6 +36,7 @@ struct TCase {
   int RepetitionWidth = TQELFont3D().Repetitionwidth();
   bool ThreeDimensional = true;
   bool Enabled = true;
+  int PixelsPerInch = 96;
 };
 
 void DrawLayers(HDC dc, const vcl::TFont& font, const std::vector<TLayer>& layers) {
@@ -56,6 +57,7 @@ class Font3D : public testing::TestWithParam<TCase> {};
 
 TEST_P(Font3D, DrawsItsLayersInOrder) {
   vcl::TFont font;
+  font.SetPixelsPerInch(GetParam().PixelsPerInch);
   font.SetSize(20);
   font.SetColor(Face);
   TQELFont3D font3D;
@@ -94,6 +96,15 @@ const TCase Cases[] = {
      qel::fontOnlyHighlight, 1, qel::repeatOnHighLight, 2},
     {"no_repetition_does_not_shrink", {{-1, -1, Light}, {0, 0, Face}},
      qel::fontOnlyHighlight, 1, qel::repeatNone, 5},
+    {.Name = "raised_at_192", .Layers = {{-6, -6, Light}, {6, 6, Dark}, {0, 0, Face}},
+     .Style = qel::fontRaised, .Offset = 3, .PixelsPerInch = 192},
+    {.Name = "outline_at_192",
+     .Layers = {{-2, -2, Dark}, {2, -2, Dark}, {2, 2, Dark}, {-2, 2, Dark}, {0, 0, Face}},
+     .Style = qel::fontOutLineShadow, .PixelsPerInch = 192},
+    {.Name = "trail_at_192", .Layers = {{0, 0, Trail}, {1, 1, Trail}, {0, 0, Light}, {2, 2, Face}},
+     .Repetition = qel::repeatOnHighLight, .RepetitionWidth = 1, .PixelsPerInch = 192},
+    {.Name = "disabled_at_192", .Layers = {{0, 0, vcl::clBtnHighlight}, {-2, -2, vcl::clGrayText}},
+     .Enabled = false, .PixelsPerInch = 192},
 };
 // clang-format on
 

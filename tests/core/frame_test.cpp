@@ -1,7 +1,7 @@
 // Frames, pixel by pixel.
 #include <gmock/gmock.h>
 
-#include "qel/core/Qelclasses.h"
+#include "qel/qel.h"
 #include "tests/support/plainfill.h"
 
 namespace {
@@ -56,22 +56,25 @@ const TCase Cases[] = {
     {qel::frameRaised, 3, 5, 3, 3, {{0, H, S}}},
     {qel::frameLowered, 2, 0, 2, 2, {{0, S, H}}},
     {qel::frameNone, 4, 3, 0, 2, {}},
-    {qel::frameFramedUp, 2, 3, 7, 7, {{0, H, S}, {5, S, H}}},
+    {qel::frameFramedUp, 2, 1, 5, 5, {{0, H, S}, {3, S, H}}},
     {qel::frameFramedDown, 1, 0, 2, 2, {{0, S, H}, {1, H, S}}},
     {qel::framePanelUp, 1, 4, 2, 2, {{0, H, Black}, {1, None, S}}},
     {qel::framePanelDown, 2, 0, 4, 4, {{0, S, None}, {2, Black, H}}},
     {qel::frameLightBordered, 1, 0, 2, 2, {{0, None, S}, {1, H, H}}},
 };
 
-TEST(Frame, DrawsItsBordersJustInside) {
-  for (const TCase& each : Cases) {
-    TQELFrame frame;
+/// Frames whose owner is null, or stands on a form of so many times 96 dots per inch.
+void ExpectBordersJustInside(vcl::TControl* owner, int times) {
+  for (TCase each : Cases) {
+    TQELFrame frame(owner);
     frame.SetHighlight(H);
     frame.SetShadow(S);
     frame.SetSolid(Solid);
     frame.SetFrameStyle(each.Style);
     frame.SetFrameWidth(each.Rings);
     frame.SetOffset(each.Offset);
+    for (int* size : {&each.Rings, &each.Offset, &each.Shrinks, &each.BorderWidth}) *size *= times;
+    for (TBorder& border : each.Borders) border.Depth *= times;
     const plain::TDib dib(Width, Height);
     dib.Fill(Ground);
     TRect rect = Around;
@@ -89,7 +92,20 @@ TEST(Frame, DrawsItsBordersJustInside) {
     inner.Inflate(-each.Shrinks, -each.Shrinks);
     EXPECT_EQ(rect, inner) << each.Style;
     EXPECT_EQ(frame.BorderWidth(), each.BorderWidth) << each.Style;
+    EXPECT_EQ(frame.RingCount(), each.Rings) << each.Style;
+    EXPECT_EQ(frame.FrameWidth(), each.Rings / times) << "the property stays";
   }
+}
+
+TEST(Frame, DrawsItsBordersJustInside) { ExpectBordersJustInside(nullptr, 1); }
+
+TEST(Frame, FollowsTheDotsPerInchOfItsOwner) {
+  vcl::TForm form(nullptr);
+  qel::TQELLabel label(&form);
+  label.SetParent(&form);
+  ExpectBordersJustInside(&label, 1);
+  form.ScaleForPPI(192);
+  ExpectBordersJustInside(&label, 2);
 }
 
 TEST(Frame, RefusesSizesSilently) {

@@ -42,6 +42,31 @@ TDrawn Draw(const TQELGlyph& glyph, bool enabled, bool down, bool grayed) {
   return {screen.Canvas()->Pixels(6, 7), screen.Canvas()->Pixels(5 + Side - 1, 6 + Side - 1)};
 }
 
+TEST(Glyph, FollowsTheDotsPerInchOfItsOwner) {
+  vcl::TForm form(nullptr);
+  qel::TQELLabel label(&form);
+  label.SetParent(&form);
+  TQELGlyph glyph(&label);
+  MakeStrip(glyph, 1);
+  EXPECT_EQ(glyph.GetWidth(), Side);
+  form.ScaleForPPI(192);
+  EXPECT_EQ(glyph.GetWidth(), 2 * Side);
+  EXPECT_EQ(glyph.GetHeight(), 2 * Side);
+  for (const bool transparent : {true, false}) {
+    glyph.SetTransparent(transparent);
+    vcl::TBitmap screen(30, 30);
+    screen.Canvas()->Brush()->SetColor(Ground);
+    screen.Canvas()->FillRect({0, 0, 30, 30});
+    glyph.Draw(screen.Canvas(), 5, 6, true, false, false);
+    const auto at = [&](int x, int y) { return screen.Canvas()->Pixels(5 + x, 6 + y); };
+    EXPECT_EQ(at(-1, 3), Ground);
+    EXPECT_EQ(at(2 * Side, 3), Ground);
+    EXPECT_EQ(at(1, 1), transparent ? Ground : Key);
+    EXPECT_EQ(at(2 * Side - 1, 2 * Side - 1), vcl::clRed);
+    EXPECT_EQ(at(Side + 3, 2), vcl::clRed);
+  }
+}
+
 TColor Resolved(TColor color) { return TColor(vcl::ColorToRGB(color)); }
 
 TEST(Glyph, DrawsTheImageForTheState) {

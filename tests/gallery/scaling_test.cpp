@@ -108,5 +108,48 @@ TEST(SampleForms, FitAtOtherDotsPerInch) {
   }
 }
 
+/// The names of the controls that reach out of what they stand on.
+std::set<std::string> Outside(const TForm& form) {
+  std::set<std::string> outside;
+  Walk(form, [&outside](const TControl& control) {
+    const TRect bounds = control.BoundsRect();
+    const TRect around = control.Parent()->ClientRect();
+    if (bounds.Left < around.Left || bounds.Top < around.Top || bounds.Right > around.Right ||
+        bounds.Bottom > around.Bottom || bounds.Empty()) {
+      outside.insert(control.Name());
+    }
+  });
+  return outside;
+}
+
+TEST(SampleForms, FillTheSizesThatTheUserGivesThem) {
+  RegisterStandardClasses();
+  RegisterAll();
+  RegisterDataClasses();
+  RegisterDataControls();
+  int resized = 0;
+  for (const char* name : FormClasses) {
+    TForm form(nullptr);
+    form.SetDesigning(true);
+    ReadForm(FormFile(name), &form);
+    if (form.BorderStyle() != bsSizeable) continue;
+    ++resized;
+    form.SetBorderStyle(bsNone);
+    constexpr TSize frame{16, 48};  // With a menu's row.
+    const TSize least{form.Constraints()->MinWidth() - frame.cx,
+                      form.Constraints()->MinHeight() - frame.cy};
+    form.Constraints()->SetMinWidth(0);
+    form.Constraints()->SetMinHeight(0);
+    ASSERT_GT(least.cx, 100) << name;
+    ASSERT_GT(least.cy, 100) << name;
+    for (const TSize size : {TSize{1200, 900}, least}) {
+      form.SetBounds(0, 0, size.cx, size.cy);
+      EXPECT_THAT(Outside(form), ::testing::IsEmpty()) << name << " of " << size.cx;
+      EXPECT_THAT(Overlaps(form), ::testing::IsEmpty()) << name << " of " << size.cx;
+    }
+  }
+  EXPECT_EQ(resized, 4) << "the main forms but the gallery, and the one for a mail";
+}
+
 }  // namespace
 }  // namespace gallery_test

@@ -192,6 +192,34 @@ TEST_F(Actions, AButtonShowsThePictureOfItsAction) {
   EXPECT_FALSE(Find(clRed).Empty()) << "its own picture stays";
 }
 
+TEST_F(Actions, AtMoreDotsPerInchAButtonShowsThePictureMadeForThem) {
+  TImageList images(nullptr);
+  TImageList larger(nullptr, 24, 24);
+  const auto fill = [](TImageList& list, TColor color) {
+    TBitmap picture;
+    picture.Canvas()->Brush()->SetColor(color);
+    picture.SetSize(list.Width(), list.Height());
+    list.Add(&picture, nullptr);
+  };
+  fill(images, clRed);
+  fill(larger, clBlue);
+  TAction* action = Add("");
+  action->SetImageIndex(0);
+  auto* speed = Make<TSpeedButton>(10, 10);
+  speed->SetAction(action);
+  List->SetImages(&images);
+  ShowForm();
+  Form.ScaleForPPI(144);
+  EXPECT_EQ(Find(clRed).Size(), (TSize{24, 24}));
+  images.SetLarger(&larger);
+  List->SetImages(nullptr);
+  List->SetImages(&images);
+  EXPECT_EQ(Find(clBlue).Size(), (TSize{24, 24}));
+  Form.ScaleForPPI(96);
+  EXPECT_EQ(Find(clRed).Size(), (TSize{16, 16}));
+  EXPECT_TRUE(Find(clBlue).Empty());
+}
+
 constexpr const char* File =
     "object Form: TForm\n"
     "  Left = 0\n"
@@ -217,12 +245,24 @@ constexpr const char* File =
     "    TabOrder = 1\n"
     "  end\n"
     "  object Popup: TPopupMenu\n"
+    "    Images = Pictures\n"
     "    Left = 8\n"
     "    Top = 8\n"
     "    object OpenItem: TMenuItem\n"
     "      Action = OpenAction\n"
     "      ShortCut = 114\n"
     "    end\n"
+    "    object OwnItem: TMenuItem\n"
+    "      Action = OpenAction\n"
+    "      ImageIndex = 4\n"
+    "    end\n"
+    "  end\n"
+    "  object Pictures: TImageList\n"
+    "    Larger = LargePictures\n"
+    "  end\n"
+    "  object LargePictures: TImageList\n"
+    "    Height = 32\n"
+    "    Width = 32\n"
     "  end\n"
     "  object Actions: TActionList\n"
     "    Left = 40\n"
@@ -234,6 +274,7 @@ constexpr const char* File =
     "      Checked = True\n"
     "      Enabled = False\n"
     "      Hint = 'Opens'\n"
+    "      ImageIndex = 2\n"
     "      ShortCut = 16463\n"
     "    end\n"
     "    object CopyAction: TEditCopy\n"
@@ -261,6 +302,8 @@ TEST_F(Actions, AFormFileHoldsWhatClientsHaveOfTheirOwn) {
   const auto* item = dynamic_cast<TMenuItem*>(form.FindComponent("OpenItem"));
   EXPECT_EQ(item->ShortCut(), VK_F3);
   EXPECT_EQ(item->GroupIndex(), 2);
+  EXPECT_EQ(item->ImageIndex(), 2);
+  EXPECT_EQ(item->GetParentMenu()->Images()->Larger()->Width(), 32);
   EXPECT_EQ(FormText(&form), File);
   TAction stray(nullptr);
   EXPECT_THROW(stray.SetParentComponent(&form), EInvalidOperation);
@@ -450,6 +493,56 @@ TEST_F(ReadyActions, EditActionsWorkOnTheEditWithTheFocus) {
   copy->SetEnabled(true);
   EXPECT_TRUE(copy->Execute());
   EXPECT_EQ(Log, "own");
+}
+
+TEST_F(ReadyActions, EditActionsWorkInsideAComboBox) {
+  auto* cut = Standard<TEditCut>();
+  auto* copy = Standard<TEditCopy>();
+  auto* paste = Standard<TEditPaste>();
+  auto* all = Standard<TEditSelectAll>();
+  auto* undo = Standard<TEditUndo>();
+  auto* clear = Standard<TEditDelete>();
+  auto* combo = Make<TComboBox>(10, 10);
+  auto* list = Make<TComboBox>(10, 50);
+  list->SetStyle(csDropDownList);
+  list->Items()->SetText("one\ntwo");
+  list->SetItemIndex(0);
+  combo->SetText("abc");
+  SetClipboardText("new");
+  ShowForm();
+  const auto enabled = [&] {
+    std::string text;
+    for (TCustomAction* each :
+         std::initializer_list<TCustomAction*>{cut, copy, paste, all, undo, clear}) {
+      each->Update();
+      text += each->Enabled() ? '1' : '0';
+    }
+    return text;
+  };
+  combo->SetFocus();
+  combo->Select(0, 0);
+  EXPECT_EQ(enabled(), "001100");
+  KeyWith(VK_CONTROL, 'A');
+  EXPECT_EQ(combo->SelLength(), 3);
+  EXPECT_EQ(enabled(), "111101");
+  copy->Execute();
+  EXPECT_EQ(ClipboardText(), "abc");
+  SetClipboardText("new");
+  KeyWith(VK_CONTROL, 'V');
+  EXPECT_EQ(combo->Text(), "new");
+  EXPECT_EQ(enabled(), "001110");
+  KeyWith(VK_CONTROL, 'Z');
+  EXPECT_EQ(combo->Text(), "abc");
+  combo->Select(0, 2);
+  cut->Execute();
+  EXPECT_EQ(combo->Text(), "c");
+  EXPECT_EQ(ClipboardText(), "ab");
+  all->Execute();
+  clear->Execute();
+  EXPECT_EQ(combo->Text(), "");
+  EXPECT_EQ(ClipboardText(), "ab");
+  list->SetFocus();
+  EXPECT_EQ(enabled(), "000000") << "it has no edit";
 }
 
 TEST_F(ReadyActions, FileActionsAskByTheirDialogs) {

@@ -44,12 +44,6 @@ std::unique_ptr<T> Read(const std::vector<unsigned char>& data) {
   return image;
 }
 
-TColor Pixel(TBitmap& bitmap, int x, int y) {
-  bitmap.SetPixelFormat(pf24bit);
-  const auto* pixel = static_cast<const unsigned char*>(bitmap.ScanLine(y)) + std::ptrdiff_t{3} * x;
-  return static_cast<TColor>(pixel[2] | pixel[1] << 8 | pixel[0] << 16);
-}
-
 /// The first two pixels as they look on blue.
 std::pair<TColor, TColor> OnBlue(TGraphic& graphic) {
   TBitmap bitmap(4, 1);
@@ -57,7 +51,7 @@ std::pair<TColor, TColor> OnBlue(TGraphic& graphic) {
   bitmap.Canvas()->Brush()->SetColor(clBlue);
   bitmap.Canvas()->FillRect(TRect(0, 0, 4, 1));
   graphic.Draw(bitmap.Canvas(), TRect(0, 0, graphic.Width(), graphic.Height()));
-  return {Pixel(bitmap, 0, 0), Pixel(bitmap, 1, 0)};
+  return {bitmap.Canvas()->Pixels(0, 0), bitmap.Canvas()->Pixels(1, 0)};
 }
 
 TEST(CodedImage, IsDrawnWithWhatItCoversInPart) {
@@ -73,12 +67,12 @@ TEST(CodedImage, IsDrawnWithWhatItCoversInPart) {
   EXPECT_EQ(OnBlue(*gif), (std::pair<TColor, TColor>(clRed, clBlue)));
   TBitmap bitmap;
   bitmap.Assign(gif.get());
-  EXPECT_EQ(Pixel(bitmap, 1, 0), clWhite) << "a bitmap has it on white";
+  EXPECT_EQ(bitmap.Canvas()->Pixels(1, 0), clWhite) << "a bitmap has it on white";
 }
 
 TEST(CodedImage, IsMadeOfABitmapAndOfAnotherFormat) {
   TBitmap bitmap(40, 30);
-  bitmap.Canvas()->Brush()->SetColor(0x2060C0);
+  bitmap.Canvas()->Brush()->SetColor(static_cast<TColor>(0x2060C0));
   bitmap.Canvas()->FillRect(TRect(0, 0, 40, 30));
   TJpegImage jpeg;
   jpeg.Assign(&bitmap);
@@ -86,7 +80,7 @@ TEST(CodedImage, IsMadeOfABitmapAndOfAnotherFormat) {
   EXPECT_FALSE(jpeg.HasAlpha());
   TBitmap again;
   again.Assign(&jpeg);
-  const auto color = static_cast<unsigned>(Pixel(again, 20, 15));
+  const auto color = static_cast<unsigned>(again.Canvas()->Pixels(20, 15));
   EXPECT_NEAR(color & 0xFF, 0xC0, 3);
   EXPECT_NEAR((color >> 8) & 0xFF, 0x60, 3);
   EXPECT_NEAR((color >> 16) & 0xFF, 0x20, 3);

@@ -134,6 +134,13 @@ TEST_F(Dialogs, MessagesAndQuestionsAreAnsweredByKeys) {
     const testinput::TKeysWhen keys(InFront(caption), {key});
     EXPECT_EQ(MessageDlg(text, type, buttons), result);
   }
+  for (const WORD key : {WORD{VK_RETURN}, WORD{VK_ESCAPE}}) {
+    const testinput::TKeysWhen keys(InFront(L"Warning"), {key});
+    EXPECT_EQ(MessageDlg("Replace it?", mtWarning, {mbYes, mbNo, mbCancel}, mbNo),
+              key == VK_RETURN ? mrNo : mrCancel);
+  }
+  EXPECT_THROW(MessageDlg("Really?", mtWarning, {mbYes, mbNo}, mbCancel),
+               EArgumentOutOfRangeException);
   std::string value = "former";
   for (const bool agreed : {true, false}) {
     const WORD last = agreed ? VK_RETURN : VK_ESCAPE;

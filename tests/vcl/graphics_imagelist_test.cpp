@@ -50,6 +50,53 @@ TEST(ImageList, MaskedPicturesLeaveTheirColorOut) {
   EXPECT_EQ(Letters(bitmap), (Rows{"GGRGG", "GRGRG", "GGGGR", "GGGRG"})) << "fills the holes";
 }
 
+TEST(ImageList, PicturesForMoreDotsPerInchAreMadeOfTheNextLargerOnes) {
+  TTwo list;
+  EXPECT_EQ(list.ForPPI(96), &list) << "every pixel is what it was";
+  EXPECT_EQ(Drawn(*list.ForPPI(96), 0), First);
+  EXPECT_THROW(list.ForPPI(0), EArgumentOutOfRangeException);
+  TImageList& twice = *list.ForPPI(192);
+  EXPECT_EQ(list.ForPPI(192), &twice);
+  ASSERT_EQ(twice.Count(), 2);
+  EXPECT_EQ((TSize{twice.Width(), twice.Height()}), (TSize{6, 6}));
+  // Softened, but in its place: the corner of the diagonal, and what lies beside it.
+  const auto at = [](TImageList& from, int index, int x, int y) {
+    TBitmap bitmap;
+    from.GetBitmap(index, &bitmap, clYellow);
+    return bitmap.Canvas()->Pixels(x, y);
+  };
+  EXPECT_EQ(at(twice, 0, 0, 0), clRed);
+  EXPECT_GE(GetGValue(at(twice, 0, 5, 0)), 250);
+  const TColor between = at(twice, 0, 1, 2);
+  EXPECT_NE(between, clYellow);
+  EXPECT_NE(between, clRed);
+  EXPECT_EQ(GetRValue(between), 255) << "no colour of what is see-through comes in";
+
+  TImageList large(nullptr, 6, 6);
+  TBitmap green;
+  green.Canvas()->Brush()->SetColor(clLime);
+  green.SetSize(6, 6);
+  large.Add(&green, nullptr);
+  list.SetLarger(&large);
+  EXPECT_EQ(at(*list.ForPPI(192), 0, 3, 3), clLime);
+  EXPECT_EQ(at(*list.ForPPI(144), 0, 2, 2), clLime);
+  EXPECT_EQ(list.ForPPI(192)->Count(), 2) << "of which the larger list has one";
+  EXPECT_EQ(Drawn(list, 0), First);
+  large.Clear();
+  EXPECT_EQ(at(*list.ForPPI(192), 0, 0, 0), clRed) << "what the larger list has become";
+  EXPECT_THROW(large.SetLarger(&list), EInvalidOperation);
+}
+
+TEST(ImageList, ALargerListMayGo) {
+  TTwo list;
+  {
+    TImageList large(nullptr, 6, 6);
+    list.SetLarger(&large);
+  }
+  EXPECT_EQ(list.Larger(), nullptr);
+  EXPECT_EQ(list.ForPPI(192)->Count(), 2);
+}
+
 TEST(ImageList, AddsByMaskAndWithoutOne) {
   TImageList list(nullptr, 2, 1);
   TBitmap image;

@@ -151,6 +151,108 @@ class OnAForm : public Menus {
   TForm Form;
 };
 
+/// One picture of the list: a square in the colour.
+void AddSquare(TImageList& list, TColor color) {
+  TBitmap picture;
+  picture.Canvas()->Brush()->SetColor(color);
+  picture.SetSize(list.Width(), list.Height());
+  list.Add(&picture, nullptr);
+}
+
+/// How many pixels of the screen there have the colour.
+int CountOnScreen(const TRect& area, COLORREF color) {
+  const HDC dc = ::GetDC(nullptr);
+  TBitmap copy(area.Width(), area.Height());
+  ::BitBlt(copy.Canvas()->Handle(), 0, 0, area.Width(), area.Height(), dc, area.Left, area.Top,
+           SRCCOPY);
+  ::ReleaseDC(nullptr, dc);
+  int count = 0;
+  for (int y = 0; y < area.Height(); ++y) {
+    for (int x = 0; x < area.Width(); ++x) {
+      count += copy.Canvas()->Pixels(x, y) == TColor(color);
+    }
+  }
+  return count;
+}
+
+TEST_F(OnAForm, PicturesAreDrawnAtTheSizeForTheMonitor) {
+  constexpr TColor odd = TColor(0x3C7811);
+  TImageList images(nullptr);
+  AddSquare(images, odd);
+  TMenuItem* item = Add("First");
+  TMenuItem* other = Add("Second");
+  other->SetImageIndex(7);
+  item->SetImageIndex(0);
+  Menu.SetImages(&images);
+  Menu.SetPopupComponent(&Form);
+  int seen = 0;
+  const auto shown = [&] {
+    // All of it: two looks in a row find the same.
+    const auto drawn = [&] {
+      const int former = std::exchange(seen, CountOnScreen(Rect(250, 250, 450, 400), odd));
+      return seen > 0 && seen == former;
+    };
+    seen = 0;
+    const TKeysWhen close(drawn, {VK_ESCAPE});
+    Menu.Popup(250, 250);
+    return seen;
+  };
+  EXPECT_EQ(shown(), 16 * 16);
+  Form.ScaleForPPI(144);
+  EXPECT_EQ(shown(), 24 * 24);
+  Form.ScaleForPPI(96);
+  EXPECT_EQ(shown(), 16 * 16);
+  TImageList larger(nullptr, 32, 32);
+  AddSquare(larger, odd);
+  Menu.SetImages(&larger);
+  EXPECT_EQ(shown(), 32 * 32);
+}
+
+/// What the menu of a form answers of the picture of an item.
+TSize PictureSize(TForm& form, const TMenuItem& item) {
+  MEASUREITEMSTRUCT asked{ODT_MENU, 0, item.Command(), 0, 0, 0};
+  form.Perform(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&asked));
+  return {static_cast<int>(asked.itemWidth), static_cast<int>(asked.itemHeight)};
+}
+
+TEST_F(OnAForm, TheBarsItemsHavePicturesWhileTheirListHasThem) {
+  TMainMenu bar(&Form);
+  auto* images = new TImageList(&Form);
+  TMenuItem* file = Add(bar.Items(), "File");
+  TMenuItem* open = Add(file, "Open");
+  open->SetImageIndex(0);
+  bar.SetImages(images);
+  Form.SetMenu(&bar);
+  EXPECT_EQ(PictureSize(Form, *open).cx, 0);
+  AddSquare(*images, clRed);
+  const auto hasPicture = [&] {
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_BITMAP;
+    ::GetMenuItemInfoW(file->Handle(), 0, TRUE, &info);
+    return info.hbmpItem != nullptr;
+  };
+  EXPECT_TRUE(hasPicture());
+  EXPECT_EQ(PictureSize(Form, *open), (TSize{16, 16}));
+  EXPECT_EQ(PictureSize(Form, *file).cx, 0);
+  Form.ScaleForPPI(192);
+  EXPECT_EQ(PictureSize(Form, *open), (TSize{32, 32}));
+
+  TBitmap picture(40, 40);
+  DRAWITEMSTRUCT asked{};
+  asked.CtlType = ODT_MENU;
+  asked.itemID = open->Command();
+  asked.hDC = picture.Canvas()->Handle();
+  asked.rcItem = {2, 4, 38, 40};
+  EXPECT_TRUE(Form.Perform(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&asked)));
+  EXPECT_EQ(picture.Canvas()->Pixels(4, 6), clRed);
+  EXPECT_EQ(picture.Canvas()->Pixels(35, 37), clRed);
+  EXPECT_EQ(picture.Canvas()->Pixels(3, 6), clWhite);
+  delete images;
+  EXPECT_EQ(bar.Images(), nullptr);
+  EXPECT_FALSE(hasPicture());
+}
+
 TEST_F(OnAForm, AKeyChoosesFromAPopup) {
   Add("First");
   Add(Add("Second"), "Inside");

@@ -352,13 +352,29 @@ TEST_F(Scaling, ListsAndTreesScaleTheirOwnMeasures) {
   tree->SetParent(&form);
   auto* button = new TBitBtn(&form);
   button->SetParent(&form);
+  TImageList images(nullptr);
+  TBitmap picture(16, 16);
+  images.Add(&picture, nullptr);
+  tree->SetImages(&images);
+  tree->SetStateImages(&images);
   form.Show();
+  const auto treeShows = [&](TImageList* shown) {
+    for (const WPARAM which : {TVSIL_NORMAL, TVSIL_STATE}) {
+      const LRESULT handle = ::SendMessageW(tree->Handle(), TVM_GETIMAGELIST, which, 0);
+      EXPECT_EQ(handle, reinterpret_cast<LRESULT>(shown->Handle()));
+    }
+  };
   MoveToMonitor(form, 144);
+  EXPECT_EQ(images.ForPPI(144)->Width(), 24);
+  treeShows(images.ForPPI(144));
+  images.Add(&picture, nullptr);
+  treeShows(images.ForPPI(144));
   EXPECT_EQ(list->ItemHeight(), 26);
   EXPECT_EQ(tree->Indent(), 29);
   EXPECT_EQ(button->Spacing(), 6);
   EXPECT_EQ(button->Margin(), -1);
   MoveToMonitor(form, 96);
+  treeShows(&images);
   EXPECT_EQ(list->ItemHeight(), 17);
   EXPECT_EQ(tree->Indent(), 19);
   EXPECT_EQ(button->Spacing(), 4);

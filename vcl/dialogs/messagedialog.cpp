@@ -2,6 +2,7 @@
 #include "vcl/dialogs/messagedialog.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 #include "vcl/forms/application.h"
@@ -9,6 +10,8 @@
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/graphics/handles.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/button.h"
 #include "vcl/stdctrls/edit.h"
@@ -103,20 +106,35 @@ class TMessageForm : public TForm {
       auto* button = Put<TButton>(left, top, ButtonWidth, ButtonHeight);
       button->SetCaption(choice.Caption);
       button->SetModalResult(choice.Result);
-      button->SetDefault(&choice == &choices.front());
+      if (&choice == &choices.front()) SetDefaultButton(*button);
       left += ButtonWidth + ButtonGap;
     }
   }
   /// Has Escape press the button with the result; false when there is none.
   bool SetCancelButton(TModalResult result) {
+    TButton* button = ButtonWith(result);
+    if (button) button->SetCancel(true);
+    return button;
+  }
+  /// Has Enter press the button with the result, which there must be.
+  void SetDefaultButton(TModalResult result) { SetDefaultButton(*ButtonWith(result)); }
+
+ private:
+  void SetDefaultButton(TButton& button) {
+    if (FDefault) FDefault->SetDefault(false);
+    FDefault = &button;
+    button.SetDefault(true);
+    SetActiveControl(&button);
+  }
+  TButton* ButtonWith(TModalResult result) const {
     for (int i = 0; i < ControlCount(); ++i) {
       auto* button = dynamic_cast<TButton*>(Controls(i));
-      if (!button || button->ModalResult() != result) continue;
-      button->SetCancel(true);
-      return true;
+      if (button && button->ModalResult() == result) return button;
     }
-    return false;
+    return nullptr;
   }
+
+  TButton* FDefault = nullptr;
 };
 
 std::vector<TChoice> ChoicesOf(TMsgDlgButtons buttons) {
@@ -127,9 +145,8 @@ std::vector<TChoice> ChoicesOf(TMsgDlgButtons buttons) {
   return choices;
 }
 
-}  // namespace
-
-TModalResult MessageDlg(const std::string& text, TMsgDlgType type, TMsgDlgButtons buttons) {
+TModalResult Ask(const std::string& text, TMsgDlgType type, TMsgDlgButtons buttons,
+                 std::optional<TMsgDlgBtn> defaultButton) {
   const TKind& kind = Kinds[type];
   TMessageForm form(type == mtCustom ? Application()->Title() : kind.Caption);
   if (kind.Icon) form.PutIcon(kind.Icon);
@@ -137,8 +154,25 @@ TModalResult MessageDlg(const std::string& text, TMsgDlgType type, TMsgDlgButton
   const int bottom = std::max(body.Bottom, kind.Icon ? Margin + 32 : 0);
   form.PutButtons(ChoicesOf(buttons), body.Right - Margin, bottom + Margin);
   form.SetCancelButton(mrCancel) || form.SetCancelButton(mrNo) || form.SetCancelButton(mrOk);
+  if (defaultButton) form.SetDefaultButton(Choices[*defaultButton].Result);
   ::MessageBeep(kind.Sound);
   return static_cast<TModalResult>(form.ShowModal());
+}
+
+}  // namespace
+
+TModalResult MessageDlg(const std::string& text, TMsgDlgType type, TMsgDlgButtons buttons) {
+  return Ask(text, type, buttons, std::nullopt);
+}
+
+TModalResult MessageDlg(const std::string& text, TMsgDlgType type, TMsgDlgButtons buttons,
+                        TMsgDlgBtn defaultButton) {
+  if (!buttons.Has(defaultButton)) {
+    throw EArgumentOutOfRangeException(Concat("The question \"", text, "\" has no button ",
+                                              Choices[defaultButton].Caption,
+                                              " that could be its default"));
+  }
+  return Ask(text, type, buttons, defaultButton);
 }
 
 bool InputQuery(const std::string& caption, const std::string& prompt, std::string& value) {

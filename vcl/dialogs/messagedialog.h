@@ -18,6 +18,10 @@ using TMsgDlgButtons = TSet<TMsgDlgBtn>;
 /// The caption says the type; for mtCustom it is the application's title. Returns the result of the
 /// button, mrCancel when the dialog is closed.
 VCL_API TModalResult MessageDlg(const std::string& text, TMsgDlgType type, TMsgDlgButtons buttons);
+/// The same with another one of the buttons for Enter, which has the focus. Raises
+/// EArgumentOutOfRangeException for one that is not among the buttons.
+VCL_API TModalResult MessageDlg(const std::string& text, TMsgDlgType type, TMsgDlgButtons buttons,
+                                TMsgDlgBtn defaultButton);
 
 /// Asks for a line of text; `value` is offered, and replaced when the user agrees. True when he
 /// does.

@@ -5,6 +5,7 @@
 #include "vcl/forms/forms.h"
 #include "vcl/forms/private/resolution.h"
 #include "vcl/forms/screen.h"
+#include "vcl/menus/menus.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
@@ -38,7 +39,9 @@ void TCustomForm::ScaleForPPI(int pixels) {
   CheckPixelsPerInch(pixels);
   if (pixels == FPixelsPerInch) return;
   const int former = std::exchange(FPixelsPerInch, pixels);
+  const TWatch watch(this);
   ScaleBy(pixels, former);
+  if (!watch.Gone() && FMenu) FMenu->FitPictures();
 }
 
 /// Of the form around, where there is one, else of the monitor.

@@ -264,6 +264,11 @@ bool TCustomForm::DispatchWindow(TMessage& message) {
     case WM_COMMAND:
     case WM_INITMENUPOPUP:
     case WM_MENUSELECT: return FMenu && FMenu->HandleMessage(message);
+    case WM_MEASUREITEM:
+    case WM_DRAWITEM:
+      if (!FMenu || !FMenu->HandleMessage(message)) return false;
+      message.Result = TRUE;
+      return true;
     case WM_CLOSE: return Close(), true;
     case WM_MDIACTIVATE: return WMMDIActivate(message), true;
     case WM_QUERYENDSESSION: return message.Result = Application()->AskSessionEnd(this), true;

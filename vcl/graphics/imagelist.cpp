@@ -14,8 +14,6 @@
 namespace vcl {
 namespace {
 
-constexpr int MostPixels = 32767;
-
 /// The common controls take 32 bits a pixel for a picture with an alpha channel. A bitmap has none,
 /// so it is added with 24.
 class TPlainCopy {
@@ -50,7 +48,9 @@ void DrawInk(TCanvas* canvas, const TRect& place, const TBitmap& picture, COLORR
 
 }  // namespace
 
-TImageList::TImageList(TComponent* owner) : TComponent(owner) {}
+TImageList::TImageList(TComponent* owner) : TComponent(owner) {
+  FLargerLink.OnChange = [this](TObject*) { Changed(); };
+}
 
 TImageList::TImageList(TComponent* owner, int width, int height) : TImageList(owner) {
   SetSize(width, height);
@@ -68,6 +68,7 @@ const TClass& TImageList::Class() {
       {
           Property<&TImageList::BkColor, &TImageList::SetBkColor>("BkColor").Default(clNone),
           Property<&TImageList::Height, &TImageList::SetHeight>("Height").Default(16),
+          Property<&TImageList::Larger, &TImageList::SetLarger>("Larger"),
           Property<&TImageList::Width, &TImageList::SetWidth>("Width").Default(16),
           Event<&TImageList::OnChange>("OnChange"),
       });
@@ -173,6 +174,7 @@ void TImageList::Clear() {
 }
 
 void TImageList::Changed() {
+  FScaled.clear();
   TWatch watch(this);
   for (std::size_t i = 0; !watch.Gone() && i < FLinks.size(); ++i) FLinks[i]->OnChange(this);
   if (!watch.Gone()) OnChange(this);

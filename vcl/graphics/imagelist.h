@@ -1,6 +1,8 @@
 // TImageList: pictures of one size, kept together for trees, lists, menus and buttons.
 #pragma once
 
+#include <map>
+#include <memory>
 #include <vector>
 
 #include "vcl/graphics/canvas.h"
@@ -57,6 +59,15 @@ class VCL_API TImageList : public TComponent {
   void SetHeight(int height) { SetSize(FWidth, height); }
   void SetSize(int width, int height);
   int Count() const;
+  TImageList* Larger() const { return FLarger; }
+  /// The same pictures at a larger size, which those for more dots per inch are made of; it may
+  /// have a larger one in its turn. Null for none. Raises EInvalidOperation for a list that this
+  /// one is the larger one of.
+  void SetLarger(TImageList* larger);
+  /// The pictures at the size for so many dots per inch: this list where it has that size, else
+  /// one that belongs to it until its next change, with each picture made of the next larger one.
+  /// Raises EArgumentOutOfRangeException for less than 1.
+  TImageList* ForPPI(int pixelsPerInch);
   TColor BkColor() const { return FBkColor; }
   /// What see-through parts are filled with; clNone leaves them see-through.
   void SetBkColor(TColor color);
@@ -89,18 +100,25 @@ class VCL_API TImageList : public TComponent {
  protected:
   /// Keeps the pictures in form files, as the bytes of the property "Bitmap".
   void DefineProperties(TFiler& filer) override;
+  void Notification(TComponent* component, TOperation operation) override;
   virtual void Changed();
 
  private:
   void ReadData(TStream& stream);
   void WriteData(TStream& stream) const;
+  static constexpr int MostPixels = 32767;
   void CheckStrip(const TBitmap* image) const;
   int Added(int index);
   void DrawDisabled(TCanvas* canvas, int x, int y, int index);
   void Replace(HIMAGELIST handle, int width, int height);
+  const TImageList& SourceFor(int index, int width) const;
+  void AddScaled(const TImageList& from, int index);
 
   mutable HIMAGELIST FHandle = nullptr;
   std::vector<TChangeLink*> FLinks;
+  TImageList* FLarger = nullptr;
+  TChangeLink FLargerLink;
+  std::map<int, std::unique_ptr<TImageList>> FScaled;  // By dots per inch, until the next change.
   int FWidth = 16;
   int FHeight = 16;
   TColor FBkColor = clNone;

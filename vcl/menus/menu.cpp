@@ -10,12 +10,17 @@ namespace vcl {
 // TMenu.
 
 const TClass& TMenu::Class() {
-  static const TClass info = Describe<TMenu, TComponent>("vcl::TMenu", "vcl/menus/menus.h", {});
+  static const TClass info =
+      Describe<TMenu, TComponent>("vcl::TMenu", "vcl/menus/menus.h",
+                                  {
+                                      Property<&TMenu::Images, &TMenu::SetImages>("Images"),
+                                  });
   return info;
 }
 
 TMenu::TMenu(TComponent* owner) : TComponent(owner), FItems(std::make_unique<TMenuItem>(nullptr)) {
   FItems->FMenu = this;
+  FImagesLink.OnChange = [this](TObject*) { FItems->FillAgain(); };
 }
 
 TMenu::~TMenu() {
@@ -65,6 +70,8 @@ bool TMenu::HandleMessage(const TMessage& message) {
       return true;
     }
     case WM_MENUSELECT: return ShowHintOf(message);
+    case WM_MEASUREITEM: return MeasurePicture(message);
+    case WM_DRAWITEM: return DrawPicture(message);
     default: return false;
   }
 }

@@ -57,6 +57,9 @@ const TClass& TMenuItem::Class() {
               .Default(0)
               .StoredIf<&T::IsGroupIndexStored>(),
           Property<&T::Hint, &T::SetHint>("Hint").StoredIf<&T::IsHintStored>(),
+          Property<&T::ImageIndex, &T::SetImageIndex>("ImageIndex")
+              .Default(-1)
+              .StoredIf<&T::IsImageIndexStored>(),
           Property<&T::RadioItem, &T::SetRadioItem>("RadioItem").Default(false),
           Property<&T::ShortCut, &T::SetShortCut>("ShortCut")
               .Default(scNone)
@@ -89,6 +92,7 @@ void TMenuItem::Change(T& field, const T& value) {
 }
 
 void TMenuItem::SetCaption(const std::string& caption) { Change(FCaption, caption); }
+void TMenuItem::SetImageIndex(int index) { Change(FImageIndex, index); }
 void TMenuItem::SetEnabled(bool enabled) { Change(FEnabled, enabled); }
 void TMenuItem::SetVisible(bool visible) { Change(FVisible, visible); }
 void TMenuItem::SetShortCut(TShortCut shortCut) { Change(FShortCut, shortCut); }
@@ -245,6 +249,11 @@ void TMenuItem::AppendTo(HMENU menu) {
     info.fMask |= MIIM_SUBMENU;
     info.hSubMenu = Handle();
   }
+  if (HasPicture()) {
+    // A bitmap of the item's own would be inverted under the mouse where the system is older.
+    info.fMask |= MIIM_BITMAP;
+    info.hbmpItem = HBMMENU_CALLBACK;
+  }
   ::InsertMenuItemW(menu, static_cast<UINT>(::GetMenuItemCount(menu)), TRUE, &info);
 }
 
@@ -315,6 +324,7 @@ void TMenuItem::FollowAction(const TActionChange& change) {
   change.Pass(*this, &V::Checked, &T::Checked, &T::SetChecked);
   change.Pass(*this, &V::Enabled, &T::Enabled, &T::SetEnabled);
   change.Pass(*this, &V::Hint, &T::Hint, &T::SetHint);
+  change.Pass(*this, &V::ImageIndex, &T::ImageIndex, &T::SetImageIndex);
   change.Pass(*this, &V::ShortCut, &T::ShortCut, &T::SetShortCut);
   change.Pass(*this, &V::Visible, &T::Visible, &T::SetVisible);
 }
@@ -346,6 +356,9 @@ bool TMenuItem::IsGroupIndexStored() const {
   return IsOwn(&TActionValues::GroupIndex, FGroupIndex);
 }
 bool TMenuItem::IsHintStored() const { return IsOwn(&TActionValues::Hint, FHint); }
+bool TMenuItem::IsImageIndexStored() const {
+  return IsOwn(&TActionValues::ImageIndex, FImageIndex);
+}
 bool TMenuItem::IsShortCutStored() const { return IsOwn(&TActionValues::ShortCut, FShortCut); }
 bool TMenuItem::IsVisibleStored() const { return IsOwn(&TActionValues::Visible, FVisible); }
 

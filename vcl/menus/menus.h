@@ -11,6 +11,7 @@
 
 #include "vcl/controls/controltypes.h"
 #include "vcl/controls/messages.h"
+#include "vcl/graphics/imagelist.h"
 #include "vcl/rtl/component.h"
 
 namespace vcl {
@@ -71,6 +72,9 @@ class VCL_API TMenuItem : public TComponent {
   const std::string& Hint() const { return FHint; }
   /// The text that the application shows as its hint while the item is selected.
   void SetHint(const std::string& hint) { FHint = hint; }
+  int ImageIndex() const { return FImageIndex; }
+  /// The picture beside the caption, in the menu's Images; -1 for none.
+  void SetImageIndex(int index);
 
   int Count() const { return static_cast<int>(FItems.size()); }
   /// The item at the index from 0. Raises EListError outside.
@@ -119,6 +123,8 @@ class VCL_API TMenuItem : public TComponent {
   void ItemsChanged();
   void Fill();
   void AppendTo(HMENU menu);
+  bool HasPicture() const;
+  void FillAgain();
   void ClearSiblings(bool TMenuItem::*flag, bool sameGroup);
   TMenuItem* Find(const std::function<bool(const TMenuItem&)>& wanted);
   bool EnabledWithParents() const;
@@ -133,6 +139,7 @@ class VCL_API TMenuItem : public TComponent {
   bool IsEnabledStored() const;
   bool IsGroupIndexStored() const;
   bool IsHintStored() const;
+  bool IsImageIndexStored() const;
   bool IsShortCutStored() const;
   bool IsVisibleStored() const;
 
@@ -144,6 +151,7 @@ class VCL_API TMenuItem : public TComponent {
   bool FVisible = true;
   bool FRadioItem = false;
   int FGroupIndex = 0;
+  int FImageIndex = -1;
   TShortCut FShortCut = scNone;
   std::uint16_t FCommand;
   TMenuItem* FParent = nullptr;
@@ -171,9 +179,12 @@ class VCL_API TMenu : public TComponent {
   bool DispatchCommand(std::uint16_t command);
   /// Clicks the item whose shortcut the key message says; false when there is none.
   bool IsShortCut(const MSG& key);
+  TImageList* Images() const { return FImages; }
+  /// What the items' ImageIndex counts in. The pictures are drawn at the size for the monitor.
+  void SetImages(TImageList* images);
   /// Does what a window that shows the menu must do with a message of it: chooses the item of a
-  /// WM_COMMAND, clicks a submenu that opens, gives an item's hint to the application. True when
-  /// the message was of this menu.
+  /// WM_COMMAND, clicks a submenu that opens, gives an item's hint to the application, measures and
+  /// draws the items' pictures. True when the message was of this menu.
   bool HandleMessage(const TMessage& message);
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
   void SetChildOrder(TComponent* child, int order) override;
@@ -184,11 +195,23 @@ class VCL_API TMenu : public TComponent {
   virtual HMENU CreateHandle() const;
   /// Called after the items have changed.
   virtual void MenuChanged() {}
+  /// Of what the menu stands on.
+  virtual int PixelsPerInch() const;
+  /// The system measures pictures once: has it do so again where the menu came to other dots per
+  /// inch.
+  void FitPictures();
+  void Notification(TComponent* component, TOperation operation) override;
 
  private:
   bool ShowHintOf(const TMessage& select);
+  const TMenuItem* ItemWithPicture(unsigned type, unsigned command) const;
+  bool MeasurePicture(const TMessage& message) const;
+  bool DrawPicture(const TMessage& message) const;
 
   std::unique_ptr<TMenuItem> FItems;
+  TImageList* FImages = nullptr;
+  TChangeLink FImagesLink;
+  int FMeasuredAt = 0;  // Dots per inch.
 };
 
 /// The menu bar of a form (`TCustomForm::SetMenu`).
@@ -202,6 +225,7 @@ class VCL_API TMainMenu : public TMenu {
  protected:
   HMENU CreateHandle() const override;
   void MenuChanged() override;
+  int PixelsPerInch() const override;
 
  private:
   friend class TCustomForm;
@@ -230,6 +254,7 @@ class VCL_API TPopupMenu : public TMenu {
   TNotifyEvent OnPopup;
 
  protected:
+  int PixelsPerInch() const override;
   void Notification(TComponent* component, TOperation operation) override;
 
  private:

@@ -22,7 +22,12 @@ class TMenuWindow {
 
  private:
   void WndProc(TMessage& message) {
-    if (!FWatch.Gone()) FMenu->HandleMessage(message);
+    const bool handled = !FWatch.Gone() && FMenu->HandleMessage(message);
+    const bool asks = message.Msg == WM_MEASUREITEM || message.Msg == WM_DRAWITEM;
+    if (handled && asks) {
+      message.Result = TRUE;
+      return;
+    }
     message.Result = ::DefWindowProcW(FHandle, message.Msg, message.WParam, message.LParam);
   }
 
@@ -72,6 +77,7 @@ void TPopupMenu::Popup(int x, int y) {
   OnPopup(this);
   if (watch.Gone()) return;
   Application()->CancelHint();
+  FitPictures();
   UINT command = 0;
   {
     TMenuWindow window(this);

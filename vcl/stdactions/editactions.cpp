@@ -13,15 +13,15 @@ const TClass& TEditAction::Class() {
 }
 
 bool TEditAction::HandlesTarget(const TComponent& target) const {
-  const auto* edit = dynamic_cast<const TCustomEdit*>(&target);
-  return edit && edit->Focused();
+  const auto* edit = dynamic_cast<const TTextEditor*>(&target);
+  return edit && edit->Editing();
 }
 
 void TEditAction::UpdateTarget(TComponent* target) {
-  SetEnabled(target && Can(dynamic_cast<TCustomEdit&>(*target)));
+  SetEnabled(target && Can(dynamic_cast<TTextEditor&>(*target)));
 }
 
-void TEditAction::ExecuteTarget(TComponent& target) { Do(dynamic_cast<TCustomEdit&>(target)); }
+void TEditAction::ExecuteTarget(TComponent& target) { Do(dynamic_cast<TTextEditor&>(target)); }
 
 const TClass& TEditCut::Class() {
   static const TClass info =
@@ -33,10 +33,10 @@ TEditCut::TEditCut(TComponent* owner)
     : TEditAction(owner, "Cu&t", "Moves what is selected to the clipboard",
                   vcl::ShortCut('X', {ssCtrl})) {}
 
-bool TEditCut::Can(const TCustomEdit& edit) const {
+bool TEditCut::Can(const TTextEditor& edit) const {
   return edit.CanModify() && edit.SelLength() > 0;
 }
-void TEditCut::Do(TCustomEdit& edit) { edit.CutToClipboard(); }
+void TEditCut::Do(TTextEditor& edit) { edit.CutToClipboard(); }
 
 const TClass& TEditCopy::Class() {
   static const TClass info =
@@ -48,8 +48,8 @@ TEditCopy::TEditCopy(TComponent* owner)
     : TEditAction(owner, "&Copy", "Copies what is selected to the clipboard",
                   vcl::ShortCut('C', {ssCtrl})) {}
 
-bool TEditCopy::Can(const TCustomEdit& edit) const { return edit.SelLength() > 0; }
-void TEditCopy::Do(TCustomEdit& edit) { edit.CopyToClipboard(); }
+bool TEditCopy::Can(const TTextEditor& edit) const { return edit.SelLength() > 0; }
+void TEditCopy::Do(TTextEditor& edit) { edit.CopyToClipboard(); }
 
 const TClass& TEditPaste::Class() {
   static const TClass info =
@@ -61,10 +61,10 @@ TEditPaste::TEditPaste(TComponent* owner)
     : TEditAction(owner, "&Paste", "Puts the clipboard in the place of what is selected",
                   vcl::ShortCut('V', {ssCtrl})) {}
 
-bool TEditPaste::Can(const TCustomEdit& edit) const {
+bool TEditPaste::Can(const TTextEditor& edit) const {
   return edit.CanModify() && ::IsClipboardFormatAvailable(CF_UNICODETEXT);
 }
-void TEditPaste::Do(TCustomEdit& edit) { edit.PasteFromClipboard(); }
+void TEditPaste::Do(TTextEditor& edit) { edit.PasteFromClipboard(); }
 
 const TClass& TEditSelectAll::Class() {
   static const TClass info = Describe<TEditSelectAll, TEditAction>(
@@ -75,8 +75,8 @@ const TClass& TEditSelectAll::Class() {
 TEditSelectAll::TEditSelectAll(TComponent* owner)
     : TEditAction(owner, "Select &all", "Selects the whole text", vcl::ShortCut('A', {ssCtrl})) {}
 
-bool TEditSelectAll::Can(const TCustomEdit& edit) const { return edit.GetTextLen() > 0; }
-void TEditSelectAll::Do(TCustomEdit& edit) { edit.SelectAll(); }
+bool TEditSelectAll::Can(const TTextEditor& edit) const { return edit.HasText(); }
+void TEditSelectAll::Do(TTextEditor& edit) { edit.SelectAll(); }
 
 const TClass& TEditUndo::Class() {
   static const TClass info =
@@ -87,8 +87,8 @@ const TClass& TEditUndo::Class() {
 TEditUndo::TEditUndo(TComponent* owner)
     : TEditAction(owner, "&Undo", "Takes the last change back", vcl::ShortCut('Z', {ssCtrl})) {}
 
-bool TEditUndo::Can(const TCustomEdit& edit) const { return edit.CanUndo(); }
-void TEditUndo::Do(TCustomEdit& edit) { edit.Undo(); }
+bool TEditUndo::Can(const TTextEditor& edit) const { return edit.CanUndo(); }
+void TEditUndo::Do(TTextEditor& edit) { edit.Undo(); }
 
 const TClass& TEditDelete::Class() {
   static const TClass info =
@@ -99,9 +99,9 @@ const TClass& TEditDelete::Class() {
 TEditDelete::TEditDelete(TComponent* owner)
     : TEditAction(owner, "&Delete", "Deletes what is selected", TShortCut(VK_DELETE)) {}
 
-bool TEditDelete::Can(const TCustomEdit& edit) const {
+bool TEditDelete::Can(const TTextEditor& edit) const {
   return edit.CanModify() && edit.SelLength() > 0;
 }
-void TEditDelete::Do(TCustomEdit& edit) { edit.Perform(WM_CLEAR); }
+void TEditDelete::Do(TTextEditor& edit) { edit.DeleteSelection(); }
 
 }  // namespace vcl

@@ -2,11 +2,12 @@
 #pragma once
 
 #include "vcl/stdactions/standardaction.h"
-#include "vcl/stdctrls/edit.h"
+#include "vcl/stdctrls/texteditor.h"
 
 namespace vcl {
 
-/// The base of the actions of edits and memos: their target is the one that has the focus.
+/// The base of the actions of edits, memos and the edits inside combo boxes: their target is the
+/// one that has the focus.
 class VCL_API TEditAction : public TStandardAction {
  public:
   static const TClass& Class();
@@ -18,8 +19,8 @@ class VCL_API TEditAction : public TStandardAction {
  protected:
   using TStandardAction::TStandardAction;
   /// True when the action has something to do in the edit.
-  virtual bool Can(const TCustomEdit& edit) const = 0;
-  virtual void Do(TCustomEdit& edit) = 0;
+  virtual bool Can(const TTextEditor& edit) const = 0;
+  virtual void Do(TTextEditor& edit) = 0;
 };
 
 /// Moves what is selected to the clipboard.
@@ -30,8 +31,8 @@ class VCL_API TEditCut : public TEditAction {
   const TClass& ClassType() const override { return Class(); }
 
  protected:
-  bool Can(const TCustomEdit& edit) const override;
-  void Do(TCustomEdit& edit) override;
+  bool Can(const TTextEditor& edit) const override;
+  void Do(TTextEditor& edit) override;
 };
 
 /// Copies what is selected to the clipboard.
@@ -42,8 +43,8 @@ class VCL_API TEditCopy : public TEditAction {
   const TClass& ClassType() const override { return Class(); }
 
  protected:
-  bool Can(const TCustomEdit& edit) const override;
-  void Do(TCustomEdit& edit) override;
+  bool Can(const TTextEditor& edit) const override;
+  void Do(TTextEditor& edit) override;
 };
 
 /// Puts the clipboard's text in the place of what is selected.
@@ -54,8 +55,8 @@ class VCL_API TEditPaste : public TEditAction {
   const TClass& ClassType() const override { return Class(); }
 
  protected:
-  bool Can(const TCustomEdit& edit) const override;
-  void Do(TCustomEdit& edit) override;
+  bool Can(const TTextEditor& edit) const override;
+  void Do(TTextEditor& edit) override;
 };
 
 /// Selects the whole text.
@@ -66,8 +67,8 @@ class VCL_API TEditSelectAll : public TEditAction {
   const TClass& ClassType() const override { return Class(); }
 
  protected:
-  bool Can(const TCustomEdit& edit) const override;
-  void Do(TCustomEdit& edit) override;
+  bool Can(const TTextEditor& edit) const override;
+  void Do(TTextEditor& edit) override;
 };
 
 /// Takes the last change back.
@@ -78,8 +79,8 @@ class VCL_API TEditUndo : public TEditAction {
   const TClass& ClassType() const override { return Class(); }
 
  protected:
-  bool Can(const TCustomEdit& edit) const override;
-  void Do(TCustomEdit& edit) override;
+  bool Can(const TTextEditor& edit) const override;
+  void Do(TTextEditor& edit) override;
 };
 
 /// Deletes what is selected.
@@ -90,8 +91,8 @@ class VCL_API TEditDelete : public TEditAction {
   const TClass& ClassType() const override { return Class(); }
 
  protected:
-  bool Can(const TCustomEdit& edit) const override;
-  void Do(TCustomEdit& edit) override;
+  bool Can(const TTextEditor& edit) const override;
+  void Do(TTextEditor& edit) override;
 };
 
 }  // namespace vcl

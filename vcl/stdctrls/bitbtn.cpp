@@ -152,7 +152,8 @@ void TBitBtn::DrawItem(const DRAWITEMSTRUCT& item) {
   FFace.Draw(FCanvas.get(), face, Caption(),
              disabled ? TFaceState::Disabled
              : down   ? TFaceState::Down
-                      : TFaceState::Up);
+                      : TFaceState::Up,
+             CurrentPPI());
   if (!focused) return;
   face.Inflate(-1, -1);
   FCanvas->Font()->SetColor(clWindowFrame);

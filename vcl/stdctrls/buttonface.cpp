@@ -5,6 +5,7 @@
 
 #include "vcl/actions/actionlink.h"
 #include "vcl/graphics/fontmetrics.h"
+#include "vcl/graphics/icon.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
@@ -36,6 +37,19 @@ TLine Divide(int length, int glyph, int text, int margin, int spacing) {
   return {margin, spacing};
 }
 
+/// One picture of the list at its size and at all larger ones; null where it has none.
+std::unique_ptr<TImageList> PictureOf(const TImageList* list, int index) {
+  if (!list || index >= list->Count()) return nullptr;
+  auto picture = std::make_unique<TImageList>(nullptr, list->Width(), list->Height());
+  TIcon icon;
+  list->GetIcon(index, &icon);
+  picture->AddIcon(&icon);
+  std::unique_ptr<TImageList> larger = PictureOf(list->Larger(), index);
+  picture->SetLarger(larger.get());
+  if (larger) picture->InsertComponent(larger.release());
+  return picture;
+}
+
 }  // namespace
 
 TButtonFace::TButtonFace(TNotifyEvent changed, TNotifyEvent glyphChanged)
@@ -58,6 +72,7 @@ void TButtonFace::SetGlyph(const TBitmap* glyph) {
 
 void TButtonFace::GlyphChanged(TObject* /*sender*/) {
   FImages.reset();
+  FLarger.reset();
   FGlyphFollows = false;
   CountImages();
   FGlyphChanged(nullptr);
@@ -77,6 +92,7 @@ void TButtonFace::FollowAction(const TActionChange& change) {
   }
   FGlyph.Assign(&picture);
   FNumGlyphs = TNumGlyphs{1};  // However wide it is.
+  if (!picture.Empty()) FLarger = PictureOf(images->Larger(), index);
   FGlyphFollows = !picture.Empty();
 }
 
@@ -116,8 +132,7 @@ TSize TButtonFace::GlyphSize() const {
   return width > 0 ? TSize{width, FGlyph.Height()} : TSize{};
 }
 
-TButtonFace::TPlaces TButtonFace::Arrange(const TRect& client, TSize text) const {
-  const TSize glyph = GlyphSize();
+TButtonFace::TPlaces TButtonFace::Arrange(const TRect& client, TSize glyph, TSize text) const {
   const bool row = FLayout == blGlyphLeft || FLayout == blGlyphRight;
   const bool glyphFirst = FLayout == blGlyphLeft || FLayout == blGlyphTop;
   const int length = row ? client.Width() : client.Height();
@@ -139,11 +154,13 @@ TButtonFace::TPlaces TButtonFace::Arrange(const TRect& client, TSize text) const
 }
 
 void TButtonFace::Draw(TCanvas* canvas, const TRect& client, const std::string& caption,
-                       TFaceState state) {
+                       TFaceState state, int pixelsPerInch) {
+  TImageList* images = ImagesFor(pixelsPerInch);
+  const TSize glyph = images ? TSize{images->Width(), images->Height()} : TSize{};
   TRect measured(0, 0, client.Width(), 0);
   if (!caption.empty()) DrawTextOn(canvas, caption, measured, DT_CALCRECT);
-  TPlaces places = Arrange(client, caption.empty() ? TSize{} : measured.Size());
-  DrawGlyph(canvas, places.Glyph, state);
+  TPlaces places = Arrange(client, glyph, caption.empty() ? TSize{} : measured.Size());
+  if (images) DrawGlyph(canvas, images, places.Glyph, state);
   if (caption.empty()) return;
   constexpr UINT flags = DT_CENTER | DT_VCENTER | DT_NOCLIP;
   canvas->Brush()->SetStyle(bsClear);
@@ -157,21 +174,25 @@ void TButtonFace::Draw(TCanvas* canvas, const TRect& client, const std::string& 
   DrawTextOn(canvas, caption, places.Text, flags);
 }
 
-void TButtonFace::PrepareImages() {
-  if (FImages) return;
+/// Null without a glyph.
+TImageList* TButtonFace::ImagesFor(int pixelsPerInch) {
   const TSize size = GlyphSize();
-  auto images = std::make_unique<TImageList>(nullptr, size.cx, size.cy);
-  images->AddMasked(&FGlyph, FGlyph.TransparentColor());
-  FImages = std::move(images);
+  if (size.cx == 0) return nullptr;
+  if (!FImages) {
+    auto images = std::make_unique<TImageList>(nullptr, size.cx, size.cy);
+    images->AddMasked(&FGlyph, FGlyph.TransparentColor());
+    images->SetLarger(FLarger.get());
+    FImages = std::move(images);
+  }
+  return FImages->ForPPI(pixelsPerInch);
 }
 
-void TButtonFace::DrawGlyph(TCanvas* canvas, TPoint place, TFaceState state) {
-  if (FGlyph.Empty() || GlyphSize().cx == 0) return;
-  PrepareImages();
+void TButtonFace::DrawGlyph(TCanvas* canvas, TImageList* images, TPoint place,
+                            TFaceState state) const {
   const int wanted = static_cast<int>(state);
   const bool drawn = wanted < FNumGlyphs;
-  FImages->Draw(canvas, place.X, place.Y, drawn ? wanted : 0,
-                drawn || state != TFaceState::Disabled);
+  images->Draw(canvas, place.X, place.Y, drawn ? wanted : 0,
+               drawn || state != TFaceState::Disabled);
 }
 
 }  // namespace vcl

@@ -62,8 +62,10 @@ class VCL_API TButtonFace {
   /// True while the glyph is the action's picture.
   bool GlyphFollows() const { return FGlyphFollows; }
 
-  /// Draws glyph and caption, in the canvas's font, into the rectangle.
-  void Draw(TCanvas* canvas, const TRect& client, const std::string& caption, TFaceState state);
+  /// Draws glyph and caption, in the canvas's font, into the rectangle; the glyph at its size for
+  /// so many dots per inch.
+  void Draw(TCanvas* canvas, const TRect& client, const std::string& caption, TFaceState state,
+            int pixelsPerInch);
 
  private:
   struct TPlaces {
@@ -75,14 +77,15 @@ class VCL_API TButtonFace {
   void GlyphChanged(TObject* sender);
   void CountImages();
   TSize GlyphSize() const;
-  TPlaces Arrange(const TRect& client, TSize text) const;
-  void DrawGlyph(TCanvas* canvas, TPoint place, TFaceState state);
-  void PrepareImages();
+  TPlaces Arrange(const TRect& client, TSize glyph, TSize text) const;
+  void DrawGlyph(TCanvas* canvas, TImageList* images, TPoint place, TFaceState state) const;
+  TImageList* ImagesFor(int pixelsPerInch);
 
   TNotifyEvent FChanged;
   TNotifyEvent FGlyphChanged;
   TBitmap FGlyph;
   std::unique_ptr<TImageList> FImages;  // The glyph's images, until it changes.
+  std::unique_ptr<TImageList> FLarger;  // The action's picture at larger sizes.
   TNumGlyphs FNumGlyphs{1};
   TButtonLayout FLayout = blGlyphLeft;
   int FMargin = -1;

@@ -129,9 +129,22 @@ void TCustomComboBox::SelectAll() {
   if (FEdit) ::SendMessageW(FEdit, EM_SETSEL, 0, -1);
 }
 
-bool TCustomComboBox::Focused() const {
-  return TCustomListControl::Focused() || (FEdit && ::GetFocus() == FEdit);
+bool TCustomComboBox::Editing() const { return FEdit && ::GetFocus() == FEdit; }
+
+void TCustomComboBox::DeleteSelection() { TellEdit(WM_CLEAR); }
+void TCustomComboBox::CopyToClipboard() { TellEdit(WM_COPY); }
+void TCustomComboBox::CutToClipboard() { TellEdit(WM_CUT); }
+void TCustomComboBox::PasteFromClipboard() { TellEdit(WM_PASTE); }
+bool TCustomComboBox::CanUndo() const {
+  return FEdit && ::SendMessageW(FEdit, EM_CANUNDO, 0, 0) != 0;
 }
+void TCustomComboBox::Undo() { TellEdit(EM_UNDO); }
+
+void TCustomComboBox::TellEdit(unsigned message) {
+  if (FEdit) ::SendMessageW(FEdit, message, 0, 0);
+}
+
+bool TCustomComboBox::Focused() const { return TCustomListControl::Focused() || Editing(); }
 
 std::string TCustomComboBox::ItemText() const {
   const int index = ItemIndex();

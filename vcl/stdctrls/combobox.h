@@ -4,6 +4,7 @@
 #include <string>
 
 #include "vcl/stdctrls/listcontrol.h"
+#include "vcl/stdctrls/texteditor.h"
 
 namespace vcl {
 
@@ -19,7 +20,7 @@ inline constexpr TEnumText EnumText<TComboBoxStyle>{
 
 /// A combo box. OnClick tells that the user has selected an item, OnChange that the text has
 /// changed.
-class VCL_API TCustomComboBox : public TCustomListControl {
+class VCL_API TCustomComboBox : public TCustomListControl, public TTextEditor {
  public:
   explicit TCustomComboBox(TComponent* owner);
   ~TCustomComboBox() override;
@@ -45,9 +46,19 @@ class VCL_API TCustomComboBox : public TCustomListControl {
   void Clear() override;
   /// The selection in the edit; see TCustomEdit.
   int SelStart() const;
-  int SelLength() const;
+  int SelLength() const override;
   void Select(int start, int length);
-  void SelectAll();
+  void SelectAll() override;
+  /// Without an edit, the combo box is never editing, and these do nothing.
+  bool Editing() const override;
+  bool HasText() const override { return GetTextLen() > 0; }
+  bool CanModify() const override { return HasEdit(); }
+  void DeleteSelection() override;
+  void CopyToClipboard() override;
+  void CutToClipboard() override;
+  void PasteFromClipboard() override;
+  bool CanUndo() const override;
+  void Undo() override;
 
   bool Focused() const override;
   int GetTextLen() const override;
@@ -79,6 +90,7 @@ class VCL_API TCustomComboBox : public TCustomListControl {
   std::string ItemText() const;
   void CommandFromWindow(TMessage& message);
   void ItemChosen();
+  void TellEdit(unsigned message);
   void SubclassEdit();
   static LRESULT __stdcall EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                     UINT_PTR id, DWORD_PTR self);

@@ -188,6 +188,7 @@ void TCustomEdit::SetSelText(const std::string& text) {
 
 void TCustomEdit::SelectAll() { Select({0, Utf16Length(Text())}); }
 void TCustomEdit::ClearSelection() { SetSelText({}); }
+void TCustomEdit::DeleteSelection() { Send(*this, WM_CLEAR); }
 void TCustomEdit::CopyToClipboard() { Send(*this, WM_COPY); }
 void TCustomEdit::CutToClipboard() { Send(*this, WM_CUT); }
 void TCustomEdit::PasteFromClipboard() { Send(*this, WM_PASTE); }

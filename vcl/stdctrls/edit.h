@@ -4,6 +4,7 @@
 #include <string>
 
 #include "vcl/controls/wincontrol.h"
+#include "vcl/stdctrls/texteditor.h"
 
 namespace vcl {
 
@@ -14,7 +15,7 @@ inline constexpr TEnumText EnumText<TEditCharCase>{"TEditCharCase",
 
 /// An edit. Positions and lengths in its text count characters as the system's windows do: UTF-16
 /// units, that is 1 for each character of the basic plane and 2 for others; an end of line is 2.
-class VCL_API TCustomEdit : public TWinControl {
+class VCL_API TCustomEdit : public TWinControl, public TTextEditor {
  public:
   explicit TCustomEdit(TComponent* owner);
   static const TClass& Class();
@@ -49,7 +50,7 @@ class VCL_API TCustomEdit : public TWinControl {
   /// True: the user cannot change the text.
   void SetReadOnly(bool readOnly);
   /// True when what the user does may change the text.
-  virtual bool CanModify() const { return !FReadOnly; }
+  bool CanModify() const override { return !FReadOnly; }
 
   /// True when the user has changed the text since it was set.
   bool Modified() const;
@@ -58,19 +59,22 @@ class VCL_API TCustomEdit : public TWinControl {
   /// are taken as its end, negative ones as 0.
   int SelStart() const;
   void SetSelStart(int start);
-  int SelLength() const;
+  int SelLength() const override;
   void SetSelLength(int length);
   std::string SelText() const;
   /// Replaces what is selected, which can be undone.
   void SetSelText(const std::string& text);
-  void SelectAll();
+  bool Editing() const override { return Focused(); }
+  bool HasText() const override { return GetTextLen() > 0; }
+  void SelectAll() override;
   void Clear() { SetText({}); }
   void ClearSelection();
-  void CopyToClipboard();
-  void CutToClipboard();
-  void PasteFromClipboard();
-  bool CanUndo() const;
-  void Undo();
+  void DeleteSelection() override;
+  void CopyToClipboard() override;
+  void CutToClipboard() override;
+  void PasteFromClipboard() override;
+  bool CanUndo() const override;
+  void Undo() override;
   void ClearUndo();
 
   /// The text has changed, by the user or by code.

@@ -183,7 +183,7 @@ void TSpeedButton::Paint() {
   }
   Canvas()->SetFont(Font());
   if (down) rect.Offset(1, 1);
-  FFace.Draw(Canvas(), rect, Caption(), state);
+  FFace.Draw(Canvas(), rect, Caption(), state, CurrentPPI());
 }
 
 // Input.

@@ -195,6 +195,7 @@ void TCustomTreeView::SetShowRoot(bool show) {
 void TCustomTreeView::ChangeScale(int m, int d) {
   TWinControl::ChangeScale(m, d);
   SetIndent(ScaleMeasure(FIndent, m, d));
+  SendImages();
 }
 
 void TCustomTreeView::SetIndent(int indent) {
@@ -229,8 +230,11 @@ void TCustomTreeView::Notification(TComponent* component, TOperation operation) 
   if (component == FStateImages.List) SetStateImages(nullptr);
 }
 
-HIMAGELIST TCustomTreeView::NormalImages() const {
-  return FImages.List ? FImages.List->Handle() : nullptr;
+HIMAGELIST TCustomTreeView::NormalImages() const { return HandleFor(FImages.List); }
+
+/// The pictures at the size for the tree's dots per inch.
+HIMAGELIST TCustomTreeView::HandleFor(TImageList* images) const {
+  return images ? images->ForPPI(CurrentPPI())->Handle() : nullptr;
 }
 
 // ---- Nodes ----

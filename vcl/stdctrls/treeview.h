@@ -173,6 +173,7 @@ class VCL_API TCustomTreeView : public TWinControl {
   template <class T>
   void ChangeStyle(T& field, T value, DWORD style, bool on);
   void LinkImages(TLinkedImages& linked, TImageList* images);
+  HIMAGELIST HandleFor(TImageList* images) const;
   void SendImages();
   void SendColors();
   bool Sorted() const { return FSortType != stNone; }

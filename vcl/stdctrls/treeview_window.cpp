@@ -64,7 +64,7 @@ void TCustomTreeView::SendColors() {
 
 void TCustomTreeView::SendImages() {
   if (!HandleAllocated()) return;
-  const HIMAGELIST states = FStateImages.List ? FStateImages.List->Handle() : nullptr;
+  const HIMAGELIST states = HandleFor(FStateImages.List);
   Send(*this, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(NormalImages()));
   Send(*this, TVM_SETIMAGELIST, TVSIL_STATE, reinterpret_cast<LPARAM>(states));
 }

@@ -10,6 +10,11 @@ namespace qel {
 /// Has the owner of a settings object painted again, if it is a control.
 void InvalidateOwner(vcl::TObject* owner);
 
+/// The dots per inch that the owner of a settings object is shown at: 96 where it is no control.
+int PixelsPerInchOf(const vcl::TObject* owner);
+/// A measure at 96 dots per inch in others. What would be beyond an integer is the last one.
+int ScaledTo(int pixelsPerInch, int pixels);
+
 /// Puts settings in the place of those that a control has, which are freed, and has it painted
 /// again. Settings that another control owns are copied instead, as they end with it. Null is
 /// refused as TPersistent::Assign does.

@@ -12,6 +12,7 @@
 #include <numeric>
 #include <utility>
 
+#include "vcl/controls/scaling.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/filenames.h"
 #include "vcl/rtl/files.h"
@@ -150,14 +151,16 @@ std::string Special(int folder) {
 
 namespace {
 
-constexpr UINT NameAndIcon = SHGFI_SYSICONINDEX | SHGFI_DISPLAYNAME | SHGFI_SMALLICON;
+constexpr UINT NameAndIcon = SHGFI_SYSICONINDEX | SHGFI_DISPLAYNAME;
+
+constexpr int SmallIcon = 16;  // Pixels at 96 dots per inch.
 
 /// What the shell says of any folder of that name, without looking at the disk. Returns its list of
-/// pictures.
-HIMAGELIST AskOfAnyFolder(const std::string& name, SHFILEINFOW& info) {
-  return reinterpret_cast<HIMAGELIST>(::SHGetFileInfoW(ToUtf16(name).c_str(),
-                                                       FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
-                                                       NameAndIcon | SHGFI_USEFILEATTRIBUTES));
+/// pictures of that size.
+HIMAGELIST AskOfAnyFolder(const std::string& name, SHFILEINFOW& info, UINT size = SHGFI_SMALLICON) {
+  return reinterpret_cast<HIMAGELIST>(
+      ::SHGetFileInfoW(ToUtf16(name).c_str(), FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
+                       NameAndIcon | size | SHGFI_USEFILEATTRIBUTES));
 }
 
 /// Whether the folder may have a name or picture of its own. The shell looks for one only where a
@@ -175,15 +178,19 @@ bool MayBeSpecial(const std::string& path) {
 TAppearance Appearance(const std::string& path) {
   const TNoErrorBoxes quiet;
   SHFILEINFOW info{};
-  const bool asked = MayBeSpecial(path) &&
-                     ::SHGetFileInfoW(ToUtf16(path).c_str(), 0, &info, sizeof info, NameAndIcon);
+  const bool asked =
+      MayBeSpecial(path) &&
+      ::SHGetFileInfoW(ToUtf16(path).c_str(), 0, &info, sizeof info, NameAndIcon | SHGFI_SMALLICON);
   if (!asked || !info.szDisplayName[0]) AskOfAnyFolder(NameOf(path), info);
   return {info.szDisplayName[0] ? ToUtf8(info.szDisplayName) : NameOf(path), info.iIcon};
 }
 
-HIMAGELIST SystemImages() {
+HIMAGELIST SystemImages(int pixelsPerInch) {
+  // The small ones are for more dots per inch already where the system is set to them.
+  const bool tooSmall = ::MulDiv(SmallIcon, pixelsPerInch, vcl::DefaultPixelsPerInch) >=
+                        2 * ::GetSystemMetrics(SM_CXSMICON);
   SHFILEINFOW info{};
-  return AskOfAnyFolder("folder", info);
+  return AskOfAnyFolder("folder", info, tooSmall ? SHGFI_LARGEICON : SHGFI_SMALLICON);
 }
 
 // ---- Changes ----

@@ -51,8 +51,9 @@ struct TAppearance {
 };
 /// The folder's own name where the shell does not know it.
 TAppearance Appearance(const std::string& path);
-/// The system's list of small pictures, which stays the system's.
-HIMAGELIST SystemImages();
+/// The system's list of small pictures, or of those twice as large where so many dots per inch ask
+/// for them; it stays the system's.
+HIMAGELIST SystemImages(int pixelsPerInch);
 
 /// While it lives, a drive without a medium gives no box of the system's.
 class TNoErrorBoxes {
