@@ -52,8 +52,10 @@ TObjectInspector::TObjectInspector(vcl::TComponent* owner)
   SetBounds(0, 0, 220, 400);
   FComponents->SetStyle(vcl::csDropDownList);
   FComponents->SetDropDownCount(20);
+  FComponents->SetAccessibleName("Components");
   FComponents->SetParent(this);
   FComponents->OnClick = vcl::TNotifyEvent(this, &T::ComponentChosen);
+  FPages->SetAccessibleName("Pages of the inspector");
   FPages->SetParent(this);
   FPages->SetActivePage(FPropertiesPage);
   FPages->OnChanging = vcl::TTabChangingEvent(this, &T::PageChanging);
@@ -71,6 +73,7 @@ TInspectorGrid* TObjectInspector::MakePage(vcl::TTabSheet*& sheet, const char* c
   sheet->SetPageControl(FPages);
   auto* grid = new TInspectorGrid(
       this, [events](const vcl::TPropInfo& property) { return property.IsEvent() == events; });
+  grid->SetAccessibleName(caption);
   grid->SetAlign(vcl::alClient);
   grid->SetParent(sheet);
   grid->OnSelect = vcl::TNotifyEvent(this, &TObjectInspector::ShowHelp);

@@ -92,6 +92,7 @@ bool TInspectorGrid::SelectRow(int row) {
     InvalidateRow(row);
     PlaceEdit();
     OnSelect(this);
+    TellSelected();
     Call([](vcl::TPropertyEditor& editor) { editor.Activate(); });
   }
   ScrollTo(std::clamp(FTop, FSelected - VisibleRows() + 1, std::max(FSelected, 0)));
@@ -207,6 +208,45 @@ void TInspectorGrid::Dispatch(vcl::TMessage& message) {
   const bool focus = message.Msg == WM_SETFOCUS || message.Msg == WM_KILLFOCUS;
   if (focus) InvalidateRow(FSelected);
   if (message.Msg == vcl::CM_FONTCHANGED && HandleAllocated()) RowsReplaced(FSelectedPath);
+}
+
+// Screen readers.
+
+void TInspectorGrid::DescribeAccessible(vcl::TAccessibleInfo& info) const {
+  TCustomControl::DescribeAccessible(info);
+  info.Role = vcl::arTable;
+}
+
+std::vector<vcl::TAccessiblePart> TInspectorGrid::AccessibleParts() {
+  std::vector<vcl::TAccessiblePart> lines;
+  for (int i = 0; i < RowCount(); ++i) {
+    const TInspectorRow& row = Row(i);
+    vcl::TAccessiblePart& line = lines.emplace_back();
+    line.Role = vcl::arRow;
+    line.State = {vcl::asSelectable, vcl::asFocusable};
+    line.Name = row.Path;
+    line.Value = row.Value;
+    line.Bounds = RowRect(i);
+    line.DefaultAction = "Select";
+    if (i == FSelected) line.State.Include(vcl::asSelected);
+    if (i == FSelected && Focused()) line.State.Include(vcl::asFocused);
+    if (row.ReadOnly) line.State.Include(vcl::asReadOnly);
+    if (i < FTop || i >= FTop + VisibleRows()) line.State.Include(vcl::asOffscreen);
+    if (!row.Expandable) continue;
+    line.State.Include(row.Expanded ? vcl::asExpanded : vcl::asCollapsed);
+    line.DefaultAction = row.Expanded ? "Collapse" : "Expand";
+  }
+  return lines;
+}
+
+void TInspectorGrid::DoAccessiblePart(const vcl::TAccessiblePath& part) {
+  const int row = part.front();
+  if (SelectRow(row) && Row(row).Expandable) SetExpanded(row, !Row(row).Expanded);
+}
+
+void TInspectorGrid::TellSelected() {
+  AccessibleChanged(vcl::acSelection, {FSelected});
+  if (Focused()) AccessibleChanged(vcl::acFocus, {FSelected});
 }
 
 }  // namespace ide

@@ -62,6 +62,11 @@ class TInspectorGrid : public vcl::TCustomControl {
   /// Takes the property back to its default.
   void Revert();
 
+  // Screen readers: a part for each line.
+  void DescribeAccessible(vcl::TAccessibleInfo& info) const override;
+  std::vector<vcl::TAccessiblePart> AccessibleParts() override;
+  void DoAccessiblePart(const vcl::TAccessiblePath& part) override;
+
   /// Another line may be the selected one now.
   vcl::TNotifyEvent OnSelect;
   /// The user has moved the splitter.
@@ -106,6 +111,7 @@ class TInspectorGrid : public vcl::TCustomControl {
   vcl::TRect ButtonRect() const;
   void PlaceEdit();
   void ShowValue();
+  void TellSelected();
   void FocusEdit();
   /// Calls the editor of the selected line; false when it raises, which the application shows.
   bool Call(const TEditorCall& call);

@@ -48,6 +48,7 @@ void TInspectorGrid::ShowValue() {
   const vcl::TSetFor showing(FShowing, true, this);
   FEdit->Font()->SetStyle(row.Default ? vcl::TFontStyles{} : vcl::TFontStyles{vcl::fsBold});
   FEdit->SetReadOnly(row.ReadOnly);
+  FEdit->SetAccessibleName(row.Path);
   if (FEdit->Text() != row.Value) FEdit->SetText(row.Value);
 }
 

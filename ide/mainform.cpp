@@ -79,6 +79,7 @@ TMainForm::TMainForm(TComponent* owner)
   constexpr int structureHeight = 150;
   LoadForm();
   FStructure->SetHeight(structureHeight);
+  FStructure->SetAccessibleName("Structure");
   FStructure->SetParent(SidePanel);
   FStructure->SetAlign(alTop);
   FInspector->SetParent(SidePanel);

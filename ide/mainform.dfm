@@ -31,6 +31,7 @@ object MainForm: TMainForm
     Top = 592
     Width = 1000
     Height = 88
+    AccessibleName = 'Messages'
     Align = alBottom
     ItemHeight = 13
     TabOrder = 2

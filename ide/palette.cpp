@@ -25,6 +25,7 @@ TComponentPalette::TComponentPalette(vcl::TComponent* owner)
   SetBounds(0, 0, 600, 60);
   FPages->SetTabStop(false);
   FPages->SetParent(this);
+  FFilterEdit->SetAccessibleName("Classes whose name contains");
   FFilterEdit->SetParent(this);
   FFilterEdit->SetHint("Shows only the classes whose name contains this");
   FFilterEdit->SetShowHint(true);

@@ -192,4 +192,31 @@ bool TPalettePage::GiveHint(vcl::THintInfo& info) const {
   return true;
 }
 
+// Screen readers.
+
+void TPalettePage::DescribeAccessible(vcl::TAccessibleInfo& info) const {
+  TCustomControl::DescribeAccessible(info);
+  info.Role = vcl::arToolBar;
+}
+
+std::vector<vcl::TAccessiblePart> TPalettePage::AccessibleParts() {
+  std::vector<vcl::TAccessiblePart> parts;
+  for (int place = 0; place <= static_cast<int>(FClasses.size()); ++place) {
+    const vcl::TClass* aClass = ClassAt(place);
+    vcl::TAccessiblePart& part = parts.emplace_back();
+    part.Role = vcl::arPushButton;
+    part.Name = aClass ? aClass->Name() : "Select";
+    part.Description = aClass ? aClass->Unit() : "";
+    part.DefaultAction = "Press";
+    part.Bounds = PlaceRect(place);
+    if (part.Bounds.Empty()) part.State.Include(vcl::asOffscreen);
+    if (aClass == FTool.Class) part.State.Include(vcl::asPressed);
+  }
+  return parts;
+}
+
+void TPalettePage::DoAccessiblePart(const vcl::TAccessiblePath& part) {
+  if (OnPick) OnPick(ClassAt(part.front()), false);
+}
+
 }  // namespace ide

@@ -29,6 +29,11 @@ class TPalettePage : public vcl::TCustomControl {
   bool CanScroll(int by) const;
   void Scroll(int by);
 
+  // Screen readers: a part for each place, those that are scrolled away too.
+  void DescribeAccessible(vcl::TAccessibleInfo& info) const override;
+  std::vector<vcl::TAccessiblePart> AccessibleParts() override;
+  void DoAccessiblePart(const vcl::TAccessiblePath& part) override;
+
   /// A button was pressed; `keep`: with Shift.
   std::function<void(const vcl::TClass*, bool keep)> OnPick;
   /// A class was double-clicked.
