@@ -60,6 +60,7 @@ int CaptionWidth(const std::string& text) {
 
 void TDesignSurface::Refresh() {
   if (!FRoot) return;
+  FStage->Follow();
   FMenuBar.Refresh();
   PlaceIcons();
   PlaceGrabbers();
@@ -79,7 +80,7 @@ BOOL CALLBACK Quiet(HWND window, LPARAM) {
 
 /// Windows inside a control that are not this library's, such as a combo box's edit, leave the
 /// mouse to the control.
-void TDesignSurface::QuietForeignWindows() const { ::EnumChildWindows(FRoot->Handle(), &Quiet, 0); }
+void TDesignSurface::QuietForeignWindows() const { ::EnumChildWindows(FForm->Handle(), &Quiet, 0); }
 
 TOverlay& TDesignSurface::GrabberIn(HWND window, std::size_t index, TGrab grab, bool several) {
   if (index >= FMarks.size()) FMarks.resize(index + 1);
@@ -121,7 +122,7 @@ void TDesignSurface::PlaceGrabbers() {
 
 TDesignSurface::TIcon TDesignSurface::MakeIcon(TComponent& component) {
   const auto mouse = [this, shown = &component](UINT message, TPoint at) {
-    if (message == WM_LBUTTONDOWN) return Press(*shown, *FRoot, at);
+    if (message == WM_LBUTTONDOWN) return Press(*shown, *FInside, at);
     if (message == WM_LBUTTONDBLCLK) {
       if (Events.DoubleClick) Events.DoubleClick(*shown);
       return;
@@ -136,7 +137,7 @@ TDesignSurface::TIcon TDesignSurface::MakeIcon(TComponent& component) {
     canvas.FillRect(inside);
     canvas.TextOut(2, 0, shown->Name());
   };
-  const HWND form = FRoot->Handle();
+  const HWND form = FInside->Handle();
   const auto* arrow = reinterpret_cast<LPCWSTR>(IDC_ARROW);
   TIcon icon;
   icon.Component = &component;

@@ -173,7 +173,10 @@ void TInspectorGrid::Revert() {
 
 void TInspectorGrid::MenuPopup(vcl::TObject* /*sender*/) {
   const bool can = FSelected >= 0 && !Row(FSelected).Default && Row(FSelected).Editor->CanRevert();
-  FMenu->Items()->Items(0)->SetEnabled(can);
+  vcl::TMenuItem* revert = FMenu->Items()->Items(0);
+  revert->SetEnabled(can);
+  revert->SetCaption(can && Row(FSelected).Editor->Inherits() ? "&Revert to Inherited"
+                                                              : "&Revert to Default");
 }
 
 // Its list and its button.

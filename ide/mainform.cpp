@@ -47,6 +47,10 @@ const TClass& TMainForm::Class() {
                              Method<&T::MenuClick>("MenuClick"),
                              Method<&T::AutosaveTimerTick>("AutosaveTimerTick"),
                              Method<&T::NewClick>("NewClick"),
+                             Method<&T::NewInheritedClick>("NewInheritedClick"),
+                             Method<&T::NewFrameClick>("NewFrameClick"),
+                             Method<&T::NewModuleClick>("NewModuleClick"),
+                             Method<&T::InsertFrameClick>("InsertFrameClick"),
                              Method<&T::OpenClick>("OpenClick"),
                              Method<&T::SaveClick>("SaveClick"),
                              Method<&T::SaveAsClick>("SaveAsClick"),
@@ -116,7 +120,7 @@ void TMainForm::Begin(const TStart& start, TPackages& packages) {
   FRecovery = std::make_unique<TRecovery>(*FSettings);
   constexpr int second = 1000;
   AutosaveTimer->SetInterval(FSettings->AutosaveSeconds() * second);
-  if (start.FileName.empty() || !Open(start.FileName)) NewForm("Form1");
+  if (start.FileName.empty() || !Open(start.FileName)) New(TForm::Class(), "Form1");
   OfferLost();
 }
 

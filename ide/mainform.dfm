@@ -64,6 +64,21 @@ object MainForm: TMainForm
         ShortCut = 16462
         OnClick = NewClick
       end
+      object NewInheritedItem: TMenuItem
+        Caption = 'New &inherited form...'
+        Hint = 'Begins a form that descends from another one'
+        OnClick = NewInheritedClick
+      end
+      object NewFrameItem: TMenuItem
+        Caption = 'New fra&me'
+        Hint = 'Begins an empty frame, a part of forms with a file of its own'
+        OnClick = NewFrameClick
+      end
+      object NewModuleItem: TMenuItem
+        Caption = 'New &data module'
+        Hint = 'Begins an empty data module, which holds components for several forms'
+        OnClick = NewModuleClick
+      end
       object OpenItem: TMenuItem
         Caption = '&Open...'
         Hint = 'Opens a form file'
@@ -301,6 +316,11 @@ object MainForm: TMainForm
     end
     object ComponentMenu: TMenuItem
       Caption = '&Component'
+      object InsertFrameItem: TMenuItem
+        Caption = 'Insert &frame...'
+        Hint = 'Puts the frame of a form file in the same folder on the form'
+        OnClick = InsertFrameClick
+      end
       object PackagesItem: TMenuItem
         Caption = '&Packages...'
         Hint = 'Shows the packages that are loaded and loads others'
