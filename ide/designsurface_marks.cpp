@@ -12,7 +12,7 @@ using namespace vcl;
 
 namespace {
 
-constexpr int GrabberSize = 7;
+constexpr int GrabberSize = 7;  // At 96 dots per inch of the designer's own window.
 
 /// The eight grabbers and their pointers; several components have those at the corners.
 struct TGrabber {
@@ -35,10 +35,9 @@ int On(int low, int high, int side) {
   return side < 0 ? low : side > 0 ? high - 1 : (low + high) / 2;
 }
 
-TRect GrabberAt(const TRect& bounds, const TGrabber& grabber) {
-  return Bounds(On(bounds.Left, bounds.Right, grabber.X) - GrabberSize / 2,
-                On(bounds.Top, bounds.Bottom, grabber.Y) - GrabberSize / 2, GrabberSize,
-                GrabberSize);
+TRect GrabberAt(const TRect& bounds, const TGrabber& grabber, int size) {
+  return Bounds(On(bounds.Left, bounds.Right, grabber.X) - size / 2,
+                On(bounds.Top, bounds.Bottom, grabber.Y) - size / 2, size, size);
 }
 
 void FillWith(TCanvas& canvas, const TRect& inside, TColor color, TColor edge) {
@@ -106,6 +105,7 @@ TOverlay& TDesignSurface::GrabberIn(HWND window, std::size_t index, TGrab grab, 
 void TDesignSurface::PlaceGrabbers() {
   const auto components = FSelection.Components();
   const bool several = components.size() > 1;
+  const int size = FHost.ScaledPixels(GrabberSize) | 1;  // There is a middle.
   std::size_t used = 0;
   for (const TComponent* each : components) {
     const auto* control = dynamic_cast<const TControl*>(each);
@@ -114,7 +114,7 @@ void TDesignSurface::PlaceGrabbers() {
     for (std::size_t i = 0; i < (several ? Corners : std::size(Grabbers)); ++i) {
       const TGrabber& grabber = Grabbers[i];
       GrabberIn(control->Parent()->Handle(), used++, {grabber.X, grabber.Y}, several)
-          .Place(GrabberAt(control->BoundsRect(), grabber));
+          .Place(GrabberAt(control->BoundsRect(), grabber, size));
     }
   }
   FMarks.resize(used);

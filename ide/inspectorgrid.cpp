@@ -109,7 +109,7 @@ void TInspectorGrid::SetExpanded(int row, bool expanded) {
 
 // Places.
 
-int TInspectorGrid::RowHeight() const { return vcl::FontHeight(*Font()) + 2 * layout::TextMargin; }
+int TInspectorGrid::RowHeight() const { return vcl::FontHeight(*Font()) + 2 * ScaledPixels(layout::TextMargin); }
 
 int TInspectorGrid::VisibleRows() const {
   return HandleAllocated() ? std::max(ClientHeight() / RowHeight(), 1) : 1;
@@ -132,8 +132,8 @@ void TInspectorGrid::InvalidateRow(int row) {
 }
 
 int TInspectorGrid::Splitter() const {
-  const int greatest = std::max(ClientWidth() - layout::LeastColumn, layout::LeastColumn);
-  return std::clamp(FSplitter, layout::LeastColumn, greatest);
+  const int greatest = std::max(ClientWidth() - ScaledPixels(layout::LeastColumn), ScaledPixels(layout::LeastColumn));
+  return std::clamp(FSplitter, ScaledPixels(layout::LeastColumn), greatest);
 }
 
 void TInspectorGrid::SetSplitter(int x) {
@@ -141,6 +141,11 @@ void TInspectorGrid::SetSplitter(int x) {
   FSplitter = x;
   Invalidate();
   PlaceEdit();
+}
+
+void TInspectorGrid::ChangeScale(int m, int d) {
+  FSplitter = ScaleMeasure(FSplitter, m, d);
+  TCustomControl::ChangeScale(m, d);
 }
 
 void TInspectorGrid::Resize() {

@@ -77,6 +77,7 @@ class TInspectorGrid : public vcl::TCustomControl {
   void CreateWnd() override;
   void Paint() override;
   void Resize() override;
+  void ChangeScale(int m, int d) override;
   void Dispatch(vcl::TMessage& message) override;
   void MouseDown(vcl::TMouseButton button, vcl::TShiftState shift, int x, int y) override;
   void MouseMove(vcl::TShiftState shift, int x, int y) override;

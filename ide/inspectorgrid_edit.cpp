@@ -26,7 +26,7 @@ TInspectorGrid::TButtonKind TInspectorGrid::ButtonKind() const {
 
 TRect TInspectorGrid::ButtonRect() const {
   const TRect row = RowRect(FSelected);
-  return {row.Right - layout::ButtonWidth, row.Top, row.Right, row.Bottom - 1};
+  return {row.Right - ScaledPixels(layout::ButtonWidth), row.Top, row.Right, row.Bottom - 1};
 }
 
 void TInspectorGrid::PlaceEdit() {
@@ -34,10 +34,10 @@ void TInspectorGrid::PlaceEdit() {
   if (FSelected < 0 || !HandleAllocated()) return;
   const TInspectorRow& row = Row(FSelected);
   TRect cell = RowRect(FSelected);
-  cell.Left = Splitter() + 1 + layout::TextIndent + (row.Color ? layout::SwatchWidth : 0);
+  cell.Left = Splitter() + 1 + ScaledPixels(layout::TextIndent) + (row.Color ? ScaledPixels(layout::SwatchWidth) : 0);
   if (ButtonKind() != bkNone) cell.Right = ButtonRect().Left;
-  FEdit->SetBounds(cell.Left, cell.Top + layout::TextMargin, std::max(cell.Width(), 0),
-                   cell.Height() - layout::TextMargin - 1);
+  FEdit->SetBounds(cell.Left, cell.Top + ScaledPixels(layout::TextMargin), std::max(cell.Width(), 0),
+                   cell.Height() - ScaledPixels(layout::TextMargin) - 1);
   ShowValue();
 }
 

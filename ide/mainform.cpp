@@ -21,6 +21,7 @@ const TClass& TMainForm::Class() {
                          {
                              Field<&T::PalettePanel>("PalettePanel"),
                              Field<&T::SidePanel>("SidePanel"),
+                             Field<&T::SideSplitter>("SideSplitter"),
                              Field<&T::Messages>("Messages"),
                              Field<&T::StatusBar>("StatusBar"),
                              Field<&T::MainMenuBar>("MainMenuBar"),
@@ -86,6 +87,12 @@ TMainForm::TMainForm(TComponent* owner)
   FStructure->SetAccessibleName("Structure");
   FStructure->SetParent(SidePanel);
   FStructure->SetAlign(alTop);
+  auto* below = new TSplitter(this);
+  below->SetBounds(0, structureHeight, 0, SideSplitter->Width());
+  below->SetCursor(crVSplit);
+  below->SetAutoSnap(false);
+  below->SetAlign(alTop);
+  below->SetParent(SidePanel);
   FInspector->SetParent(SidePanel);
   FInspector->SetAlign(alClient);
   FPalette->SetParent(PalettePanel);

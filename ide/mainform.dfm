@@ -26,6 +26,24 @@ object MainForm: TMainForm
     BevelOuter = bvNone
     TabOrder = 1
   end
+  object SideSplitter: TSplitter
+    Left = 250
+    Top = 70
+    Width = 4
+    Height = 522
+    Align = alLeft
+    AutoSnap = False
+    MinSize = 80
+  end
+  object MessagesSplitter: TSplitter
+    Left = 0
+    Top = 588
+    Width = 1000
+    Height = 4
+    Cursor = crVSplit
+    Align = alBottom
+    AutoSnap = False
+  end
   object Messages: TListBox
     Left = 0
     Top = 592

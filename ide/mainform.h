@@ -17,6 +17,7 @@
 #include "ide/structure.h"
 #include "ide/structurecollection.h"
 #include "vcl/designintf/environment.h"
+#include "vcl/stdctrls/splitter.h"
 #include "vcl/vcl.h"
 
 namespace ide {
@@ -71,6 +72,7 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   // What the form file fills.
   vcl::TPanel* PalettePanel = nullptr;
   vcl::TPanel* SidePanel = nullptr;
+  vcl::TSplitter* SideSplitter = nullptr;
   vcl::TListBox* Messages = nullptr;
   vcl::TStatusBar* StatusBar = nullptr;
   vcl::TMainMenu* MainMenuBar = nullptr;

@@ -51,6 +51,14 @@ class TPalettePage : public vcl::TCustomControl {
   static constexpr int NoPlace = -1;
   int FirstPlaces() const { return 1 + FFirst; }
   int Visible() const;
+  /// In pixels, at the dots per inch that the page is shown with.
+  struct TMeasures {
+    int Margin;  // Around a button's picture.
+    int Button;  // With that.
+    int PointerGap;
+    int Arrow;
+  };
+  TMeasures Measures() const;
   bool Fits() const;
   vcl::TRect PlaceRect(int place) const;
   int PlaceAt(vcl::TPoint point) const;
