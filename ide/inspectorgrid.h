@@ -144,7 +144,7 @@ class TInspectorGrid : public vcl::TCustomControl {
   int FSelected = -1;
   std::string FSelectedPath;  // Kept while no object has the property.
   int FTop = 0;
-  int FSplitter = 100;
+  int FSplitter = 112;
   bool FDragsSplitter = false;
   TInspectorEdit* FEdit;
   TInspectorList* FList;

@@ -141,6 +141,20 @@ TEST_F(InheritedForm, SaysWhatIsMissing) {
   EXPECT_THAT(Messages(), Contains(HasSubstr("TOrderForm descends from itself")));
 }
 
+TEST_F(InheritedForm, SaysWhichAncestorIsDamaged) {
+  Write("base.dfm", "object BaseForm: TBaseForm\n  Caption = \nend\n");
+  EXPECT_FALSE(Window->Open(File("order.dfm")));
+  EXPECT_THAT(Messages(), Contains(HasSubstr("base.dfm")));
+  Write("base.dfm", std::string("TPF0\x09", 5));
+  EXPECT_FALSE(Window->Open(File("order.dfm")));
+  EXPECT_THAT(Messages(), Contains(HasSubstr("; base.dfm is damaged")));
+  Write("base.dfm", "object BaseForm: TBaseForm\nend\n");
+  ASSERT_TRUE(Window->Open(File("order.dfm")));
+  EXPECT_THAT(Messages(), Contains(HasSubstr("there is no inherited component Ok")))
+      << "what the file says of it is kept";
+  EXPECT_THAT(Saved(), HasSubstr("  inherited Ok: TButton\n    Caption = 'Order'\n"));
+}
+
 TEST_F(InheritedForm, IsMadeNewWithItsUnit) {
   Document().NewInherited("Sub", File("order.dfm"));
   EXPECT_EQ(Document().Text(), "inherited Sub: TSub\nend\n");

@@ -63,6 +63,25 @@ TEST_F(ScaledDesigner, ItsPartsGrowAndLieBesideEachOther) {
   }
 }
 
+TEST_F(ScaledDesigner, ItsOtherWindowsHaveRoomForTheirButtons) {
+  for (TListWindow* each : {static_cast<TListWindow*>(&Window->Items()),
+                            static_cast<TListWindow*>(&Window->MenuWindow()),
+                            static_cast<TListWindow*>(&Window->ActionWindow())}) {
+    for (const int pixels : {144, 192}) {
+      each->ScaleForPPI(pixels);
+      std::set<std::string> overlaps;
+      ListOverlaps(*each, overlaps);
+      EXPECT_THAT(overlaps, testing::IsEmpty()) << each->ClassName() << " at " << pixels;
+      for (int i = 0; i < each->ControlCount(); ++i) {
+        const auto* button = dynamic_cast<const TButton*>(each->Controls(i));
+        if (!button) continue;
+        EXPECT_EQ(button->Width(), ::MulDiv(80, pixels, 96)) << button->Caption();
+        EXPECT_LE(button->BoundsRect().Bottom, each->ClientHeight()) << button->Caption();
+      }
+    }
+  }
+}
+
 TEST_F(ScaledDesigner, TheGripsGrowAndTakeThePressesThatAreOnThem) {
   OpenForm(" object B: TButton\n Left = 40\n Top = 40\n Width = 80\n Height = 24\n end\n");
   It().Selected().Only(Find("B"));
