@@ -129,14 +129,12 @@ TFormOrigin OriginOf(const std::string& fileName, const std::string& bytes) {
   while (line && line->Inherited) {
     const std::string header = ChangeFileExt(file, ".h");
     const std::string base = BaseOf(header, line->ClassName);
-    const bool again =
-        SameText(base, line->ClassName) ||
-        std::ranges::any_of(origin.Files, [&](const TAncestorFile& each) {
-          return SameText(each.ClassName, base);
-        });
+    const bool again = SameText(base, line->ClassName) ||
+                       std::ranges::any_of(origin.Files, [&](const TAncestorFile& each) {
+                         return SameText(each.ClassName, base);
+                       });
     if (again) throw EReadError(Concat(header, ": ", base, " descends from itself"));
-    origin.Files.insert(origin.Files.begin(),
-                        FindFormFile(origin.Folder, base, line->ClassName));
+    origin.Files.insert(origin.Files.begin(), FindFormFile(origin.Folder, base, line->ClassName));
     file = origin.Files.front().FileName;
     line = FirstLineOf(origin.Files.front().Bytes);
   }

@@ -226,7 +226,8 @@ std::string TFormDesigner::NameOf(const TComponent& component) const {
   if (&component == &Root() || component.Owner() == &Root()) return component.Name();
   const std::string name = FullNameOf(component);
   const std::string own = Root().Name() + ".";
-  const bool inFrame = FindInside(Root(), name.substr(std::min(own.size(), name.size()))) == &component;
+  const bool inFrame =
+      FindInside(Root(), name.substr(std::min(own.size(), name.size()))) == &component;
   return inFrame ? name.substr(own.size()) : name;
 }
 

@@ -61,7 +61,7 @@ std::string TFormDocument::TextOf(TComponent& root, TComponent* ancestor) const 
 TFormDocument::TRoot TFormDocument::Make(const TFormOrigin& origin, TDesignerHook* hook) {
   TRoot root(origin.Class->Maker().Component(nullptr));
   auto* form = dynamic_cast<TForm*>(root.get());
-  hook && form ? form->SetDesigner(hook) : root->SetDesigning(true);
+  hook&& form ? form->SetDesigner(hook) : root->SetDesigning(true);
   for (const TAncestorFile& each : origin.Files) {
     TStringStream stream(each.Bytes);
     ReadComponentFile(stream, root.get(), each.FileName, &FKeeper);

@@ -37,8 +37,8 @@ class TFormDocument {
   /// The file's name with its folder; empty for a form that was never saved.
   const std::string& FileName() const { return FFileName; }
 
-  /// An empty form, or what else of TForm, TFrame and TDataModule is wanted, of that name; its class
-  /// is the name with a T in front.
+  /// An empty form, or what else of TForm, TFrame and TDataModule is wanted, of that name; its
+  /// class is the name with a T in front.
   void New(const std::string& formName, const vcl::TClass& sort = vcl::TForm::Class());
   /// A form of that name that descends from the one of a file; the two shall stand in one folder.
   /// Raises what Load raises.

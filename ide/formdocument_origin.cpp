@@ -84,7 +84,8 @@ void TFormDocument::CheckFolder() {
   bool needs = Base() != nullptr;
   for (int i = 0; i < FRoot->ComponentCount(); ++i) needs |= FRoot->Components(i)->Inline();
   if (needs && OnProblem) {
-    OnProblem(Concat(FFileName, " needs the files of its ancestors and frames beside it; they are in ",
+    OnProblem(Concat(FFileName,
+                     " needs the files of its ancestors and frames beside it; they are in ",
                      FKeeper.Folder));
   }
   if (!needs) FKeeper.Folder = folder;

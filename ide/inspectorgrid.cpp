@@ -109,7 +109,9 @@ void TInspectorGrid::SetExpanded(int row, bool expanded) {
 
 // Places.
 
-int TInspectorGrid::RowHeight() const { return vcl::FontHeight(*Font()) + 2 * ScaledPixels(layout::TextMargin); }
+int TInspectorGrid::RowHeight() const {
+  return vcl::FontHeight(*Font()) + 2 * ScaledPixels(layout::TextMargin);
+}
 
 int TInspectorGrid::VisibleRows() const {
   return HandleAllocated() ? std::max(ClientHeight() / RowHeight(), 1) : 1;
@@ -132,7 +134,8 @@ void TInspectorGrid::InvalidateRow(int row) {
 }
 
 int TInspectorGrid::Splitter() const {
-  const int greatest = std::max(ClientWidth() - ScaledPixels(layout::LeastColumn), ScaledPixels(layout::LeastColumn));
+  const int greatest = std::max(ClientWidth() - ScaledPixels(layout::LeastColumn),
+                                ScaledPixels(layout::LeastColumn));
   return std::clamp(FSplitter, ScaledPixels(layout::LeastColumn), greatest);
 }
 

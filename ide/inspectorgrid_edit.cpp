@@ -34,10 +34,11 @@ void TInspectorGrid::PlaceEdit() {
   if (FSelected < 0 || !HandleAllocated()) return;
   const TInspectorRow& row = Row(FSelected);
   TRect cell = RowRect(FSelected);
-  cell.Left = Splitter() + 1 + ScaledPixels(layout::TextIndent) + (row.Color ? ScaledPixels(layout::SwatchWidth) : 0);
+  cell.Left = Splitter() + 1 + ScaledPixels(layout::TextIndent) +
+              (row.Color ? ScaledPixels(layout::SwatchWidth) : 0);
   if (ButtonKind() != bkNone) cell.Right = ButtonRect().Left;
-  FEdit->SetBounds(cell.Left, cell.Top + ScaledPixels(layout::TextMargin), std::max(cell.Width(), 0),
-                   cell.Height() - ScaledPixels(layout::TextMargin) - 1);
+  FEdit->SetBounds(cell.Left, cell.Top + ScaledPixels(layout::TextMargin),
+                   std::max(cell.Width(), 0), cell.Height() - ScaledPixels(layout::TextMargin) - 1);
   ShowValue();
 }
 

@@ -39,7 +39,8 @@ void TInspectorGrid::MouseDown(vcl::TMouseButton button, TShiftState shift, int 
 
 void TInspectorGrid::MouseMove(TShiftState shift, int x, int y) {
   TCustomControl::MouseMove(shift, x, y);
-  const bool near = FDragsSplitter || std::abs(x - Splitter()) <= ScaledPixels(layout::SplitterReach);
+  const bool near =
+      FDragsSplitter || std::abs(x - Splitter()) <= ScaledPixels(layout::SplitterReach);
   SetCursor(near ? vcl::crHSplit : vcl::crDefault);
   if (!FDragsSplitter) return;
   SetSplitter(x);
@@ -58,7 +59,8 @@ void TInspectorGrid::DblClick() {
   ::GetCursorPos(&mouse);
   const vcl::TPoint at = ScreenToClient(mouse);
   const int row = RowAt(at.Y);
-  if (row >= 0 && at.X < Splitter() - ScaledPixels(layout::SplitterReach)) SetExpanded(row, !Row(row).Expanded);
+  if (row >= 0 && at.X < Splitter() - ScaledPixels(layout::SplitterReach))
+    SetExpanded(row, !Row(row).Expanded);
 }
 
 void TInspectorGrid::EditMouseDown(vcl::TObject* /*sender*/, vcl::TMouseButton button,

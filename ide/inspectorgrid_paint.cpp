@@ -100,8 +100,8 @@ void TInspectorGrid::PaintName(vcl::TCanvas* canvas, const TInspectorRow& row, c
 void TInspectorGrid::PaintValue(vcl::TCanvas* canvas, const TInspectorRow& row, TRect cell) {
   Fill(canvas, cell, Color());
   if (row.Color) {
-    TRect swatch{cell.Left + ScaledPixels(layout::TextIndent), cell.Top + 2, cell.Left + ScaledPixels(layout::SwatchWidth),
-                 cell.Bottom - 2};
+    TRect swatch{cell.Left + ScaledPixels(layout::TextIndent), cell.Top + 2,
+                 cell.Left + ScaledPixels(layout::SwatchWidth), cell.Bottom - 2};
     canvas->Pen()->SetColor(vcl::clWindowText);
     canvas->Brush()->SetColor(*row.Color);
     canvas->Rectangle(swatch);

@@ -17,7 +17,6 @@
 #include "ide/structure.h"
 #include "ide/structurecollection.h"
 #include "vcl/designintf/environment.h"
-#include "vcl/stdctrls/splitter.h"
 #include "vcl/vcl.h"
 
 namespace ide {

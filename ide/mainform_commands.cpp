@@ -130,7 +130,8 @@ void TMainForm::PreviewClick(TObject*) {
   FDesigner->Try([this] {
     const TFormDocument& document = FDesigner->Document();
     if (&document.Sort() != &TForm::Class()) {
-      throw EInvalidOperation(Concat(document.Root().Name(), " is no form, which alone can be run"));
+      throw EInvalidOperation(
+          Concat(document.Root().Name(), " is no form, which alone can be run"));
     }
     StartPreview(document.WholeText(), document.Folder(), *FPackages);
   });

@@ -144,7 +144,8 @@ void TPalettePage::PaintPlace(int place) {
   const vcl::TBitmap& icon = aClass ? ComponentIcon(*aClass) : ProgramIcon("POINTER");
   const int margin = Measures().Margin;
   DrawIcon(*Canvas(),
-           {rect.Left + margin, rect.Top + margin, rect.Right - margin, rect.Bottom - margin}, icon);
+           {rect.Left + margin, rect.Top + margin, rect.Right - margin, rect.Bottom - margin},
+           icon);
 }
 
 void TPalettePage::PaintArrow(int by) {

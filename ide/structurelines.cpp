@@ -26,8 +26,8 @@ class TLister {
     Lines.push_back({depth, text, &component, nullptr, {}, component.Name()});
     AddCollections(component, component.Name(), depth + 1, 0);
     vcl::TComponent& inside = component.Inline() ? component : owner;
-    component.GetChildren(
-        [&](vcl::TComponent* child) { AddComponent(*child, inside, depth + 1); }, &inside);
+    component.GetChildren([&](vcl::TComponent* child) { AddComponent(*child, inside, depth + 1); },
+                          &inside);
   }
 
   /// The collections among the object's properties, and in the objects behind them.

@@ -53,8 +53,7 @@ class Frames : public UnstartedDesigner {
     return found ? found->FindComponent(name) : nullptr;
   }
   std::unique_ptr<TPropertyEditor> Editor(TComponent* component, const char* property) {
-    TPropertyEditors all =
-        PropertiesOf(It(), {component}, [](const TPropInfo&) { return true; });
+    TPropertyEditors all = PropertiesOf(It(), {component}, [](const TPropInfo&) { return true; });
     const auto found =
         std::ranges::find_if(all, [&](const auto& each) { return each->GetName() == property; });
     return std::move(*found);
@@ -134,7 +133,8 @@ TEST_F(Frames, StandOnFormsWithWhatDiffersThere) {
   Editor(again, "Text")->Revert();
   EXPECT_THAT(Document().Text(), Not(HasSubstr("Street")));
   It().DeleteSelected();
-  EXPECT_THAT(Messages(), Contains("Street is inherited from TAddressFrame and can't be deleted here"));
+  EXPECT_THAT(Messages(),
+              Contains("Street is inherited from TAddressFrame and can't be deleted here"));
   EXPECT_EQ(It().NameProblem(*again, "Other"), "Street is inherited and keeps its name");
 }
 
@@ -209,7 +209,8 @@ end
   It().Undo();
   Stage().SetBounds(56, 32, 200, 160);
   ::SendMessageW(Stage().Handle(), WM_EXITSIZEMOVE, 0, 0);
-  EXPECT_THAT(Document().Text(), HasSubstr("  Left = 56\n  Top = 32\n  Width = 200\n  Height = 160\n"));
+  EXPECT_THAT(Document().Text(),
+              HasSubstr("  Left = 56\n  Top = 32\n  Width = 200\n  Height = 160\n"));
 }
 
 TEST_F(Frames, AreBroughtBackFromCopiesOfFormsWithoutAFile) {

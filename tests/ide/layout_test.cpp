@@ -26,7 +26,8 @@ TEST_F(DesigningInside, AScrolledBoxIsWhereItShowsThings) {
   EXPECT_NEAR(far.Top() + box.VertScrollBar()->Position(), 352, GridStep / 2);
   // The grip at the lower right corner.
   const int former = far.Width();
-  const TPoint corner = far.Parent()->ClientToScreen({far.BoundsRect().Right - 1, far.BoundsRect().Bottom - 1});
+  const TPoint corner =
+      far.Parent()->ClientToScreen({far.BoundsRect().Right - 1, far.BoundsRect().Bottom - 1});
   Drag(corner, {corner.X + 24, corner.Y});
   EXPECT_NEAR(far.Width(), former + 24, GridStep / 2);
   Place("TButton", box.ClientToScreen({16, 40}), box.ClientToScreen({80, 64}));
