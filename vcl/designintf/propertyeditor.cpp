@@ -79,7 +79,7 @@ namespace {
 /// The ancestor's value as the object would have it: a component by its name.
 TValue InheritedValue(const TEditedProperty& edited, const TObject& ancestor,
                       const TDesigner& designer) {
-  const TValue value = edited.Property->Get(ancestor);
+  TValue value = edited.Property->Get(ancestor);
   const auto* reference = std::get_if<TObject*>(&value);
   const auto* component = reference ? dynamic_cast<TComponent*>(*reference) : nullptr;
   if (!component) return value;
