@@ -12,8 +12,9 @@ void PaintComponentPicture(TCanvas& canvas, const TRect& inside, const TComponen
                            bool selected) {
   RECT face = inside;
   ::DrawFrameControl(canvas.Handle(), &face, DFC_BUTTON, DFCS_BUTTONPUSH);
-  DrawIcon(canvas, (inside.Left + inside.Right - IconSize) / 2,
-           (inside.Top + inside.Bottom - IconSize) / 2, ComponentIcon(component.ClassType()));
+  const TRect picture = Bounds((inside.Left + inside.Right - IconSize) / 2,
+                               (inside.Top + inside.Bottom - IconSize) / 2, IconSize, IconSize);
+  DrawIcon(canvas, picture, ComponentIcon(component.ClassType()));
   if (!selected) return;
   canvas.Brush()->SetStyle(bsClear);
   canvas.Pen()->SetColor(clNavy);

@@ -19,22 +19,25 @@ TDesignSurface::TDesignSurface(TWinControl& host, TSelection& selection)
 
 TDesignSurface::~TDesignSurface() = default;
 
-void TDesignSurface::SetRoot(TForm* root) {
+void TDesignSurface::SetStage(TStage* stage) {
   Cancel();
   FMarks.clear();
   FIcons.clear();
   FBandSides.clear();
-  FRoot = root;
-  FMenuBar.SetForm(root);
-  if (!root) return;
+  FStage = stage;
+  FRoot = stage ? &stage->Root() : nullptr;
+  FForm = stage ? &stage->Form() : nullptr;
+  FInside = stage ? &stage->Inside() : nullptr;
+  FMenuBar.SetForm(FForm);
+  if (!stage) return;
   // Windows inside the host are shown as active by no one else.
-  ::SendMessageW(root->Handle(), WM_NCACTIVATE, TRUE, 0);
+  ::SendMessageW(FForm->Handle(), WM_NCACTIVATE, TRUE, 0);
   Refresh();
 }
 
 void TDesignSurface::SetShowGrid(bool show) {
   FShowGrid = show;
-  if (FRoot) FRoot->Invalidate();
+  if (FRoot) FInside->Invalidate();
 }
 
 void TDesignSurface::SetShowIcons(bool show) {
@@ -44,7 +47,7 @@ void TDesignSurface::SetShowIcons(bool show) {
 
 void TDesignSurface::PaintBehind(HDC dc) {
   if (!FShowGrid || !FRoot) return;
-  const TRect inside = FRoot->ClientRect();
+  const TRect inside = FInside->ClientRect();
   RECT clip;
   if (::GetClipBox(dc, &clip) <= NULLREGION) return;
   // A row of points is drawn once and copied.
@@ -53,7 +56,7 @@ void TDesignSurface::PaintBehind(HDC dc) {
   if (!row) return;
   const auto former = ::SelectObject(memory.Get(), row.Get());
   const RECT line{0, 0, inside.Width(), 1};
-  ::FillRect(memory.Get(), &line, FRoot->Brush()->Handle());
+  ::FillRect(memory.Get(), &line, FInside->Brush()->Handle());
   for (int x = 0; x < inside.Width(); x += GridStep) ::SetPixelV(memory.Get(), x, 0, 0);
   const int first = static_cast<int>(clip.top) / GridStep * GridStep;
   for (int y = first; y < clip.bottom; y += GridStep) {
@@ -85,11 +88,24 @@ bool TDesignSurface::IsDesignMessage(TWinControl& sender, TMessage& message) {
       return true;
     default: break;
   }
-  if (&sender == FRoot && IsFormMessage(message)) return true;
+  if (&sender == FForm && IsFormMessage(message)) return true;
+  if (&sender == FInside && &sender != FForm && message.Msg == WM_ERASEBKGND) {
+    PaintFrame(message);
+    return true;
+  }
   return IsMouse(sender, message);
 }
 
-/// What the form's own frame asks for.
+/// A frame does not ask for what lies behind its controls.
+void TDesignSurface::PaintFrame(TMessage& message) {
+  const auto dc = reinterpret_cast<HDC>(message.WParam);
+  const RECT inside = FInside->ClientRect();
+  ::FillRect(dc, &inside, FInside->Brush()->Handle());
+  PaintBehind(dc);
+  message.Result = 1;
+}
+
+/// What the window's own frame asks for.
 bool TDesignSurface::IsFormMessage(TMessage& message) {
   if (FMenuBar.Handle(message)) return true;
   switch (message.Msg) {
@@ -101,11 +117,12 @@ bool TDesignSurface::IsFormMessage(TMessage& message) {
       return command == SC_MINIMIZE || command == SC_MAXIMIZE;
     }
     case WM_NCLBUTTONDOWN:
-      ::SetFocus(FRoot->Handle());
+      ::SetFocus(FForm->Handle());
       FSelection.Only(FRoot);
       return false;
     case WM_NCLBUTTONDBLCLK: return true;
     case WM_EXITSIZEMOVE:
+      FStage->TakeBounds();
       if (Events.Changed) Events.Changed({});
       return false;
     case WM_CAPTURECHANGED: Cancel(); return false;
@@ -139,7 +156,7 @@ UINT InsideMessage(UINT message) {
 
 bool TDesignSurface::IsMouse(TWinControl& sender, TMessage& message) {
   const bool frame = message.Msg >= WM_NCMOUSEMOVE && message.Msg <= WM_NCMBUTTONDBLCLK;
-  if (!IsMouseMessage(message.Msg) || (&sender == FRoot && frame)) return false;
+  if (!IsMouseMessage(message.Msg) || (&sender == FForm && frame)) return false;
   // What scrolls to the places of controls scrolls here, too.
   const bool bar = message.WParam == HTHSCROLL || message.WParam == HTVSCROLL;
   if (frame && bar && dynamic_cast<TScrollingWinControl*>(&sender)) return false;

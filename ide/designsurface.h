@@ -10,6 +10,7 @@
 #include "ide/designmenubar.h"
 #include "ide/overlay.h"
 #include "ide/selection.h"
+#include "ide/stage.h"
 #include "vcl/designintf/designer.h"
 #include "vcl/forms/forms.h"
 
@@ -44,8 +45,10 @@ class TDesignSurface : public vcl::TDesignerHook {
   TDesignSurface(vcl::TWinControl& host, TSelection& selection);
   ~TDesignSurface() override;
 
-  /// The form to be designed; null for none.
-  void SetRoot(vcl::TForm* root);
+  /// The window with what is to be designed; null for none.
+  void SetStage(TStage* stage);
+  /// What controls outside of any other stand in; only with a stage.
+  vcl::TWinControl& Inside() const { return *FInside; }
   /// Puts the marks where the selected components are now.
   void Refresh();
 
@@ -91,10 +94,12 @@ class TDesignSurface : public vcl::TDesignerHook {
   struct TDragged {
     vcl::TComponent* Component;
     vcl::TRect Bounds;
+    vcl::TPoint Scrolled;  // How far what it stands in was scrolled when that was its place.
   };
 
   // Finding (designsurface_find.cpp).
   vcl::TComponent* ComponentAt(vcl::TWinControl& window, vcl::TPoint screen) const;
+  bool IsPart(const vcl::TComponent& component) const;
   vcl::TComponent* Selectable(vcl::TControl* control) const;
   vcl::TWinControl* ContainerAt(vcl::TWinControl& window, vcl::TPoint screen) const;
   vcl::TWinControl* ContainerOf(vcl::TControl* control) const;
@@ -104,6 +109,7 @@ class TDesignSurface : public vcl::TDesignerHook {
   // Messages (designsurface.cpp).
   bool IsMouse(vcl::TWinControl& sender, vcl::TMessage& message);
   bool IsFormMessage(vcl::TMessage& message);
+  void PaintFrame(vcl::TMessage& message);
   bool SetCursor(vcl::TMessage& message) const;
 
   // The mouse (designsurface_mouse.cpp).
@@ -114,6 +120,7 @@ class TDesignSurface : public vcl::TDesignerHook {
   void BeginDrag();
   void MouseMove(vcl::TPoint screen);
   void MouseUp(vcl::TPoint screen);
+  void Put(const TDragged& dragged, vcl::TRect bounds);
   void Move(vcl::TPoint by);
   vcl::TPoint Reachable(const TDragged& dragged, vcl::TPoint by) const;
   void Size(vcl::TPoint by);
@@ -154,7 +161,10 @@ class TDesignSurface : public vcl::TDesignerHook {
 
   vcl::TWinControl& FHost;
   TSelection& FSelection;
-  vcl::TForm* FRoot = nullptr;
+  TStage* FStage = nullptr;
+  vcl::TComponent* FRoot = nullptr;     // Its root,
+  vcl::TForm* FForm = nullptr;          // its window,
+  vcl::TWinControl* FInside = nullptr;  // and what is inside that.
   TDesignMenuBar FMenuBar;
   const vcl::TClass* FPlacing = nullptr;
   bool FLocked = false;

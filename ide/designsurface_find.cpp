@@ -29,9 +29,15 @@ void TDesignSurface::SetBoundsOf(TComponent& component, const TRect& bounds) {
   }
 }
 
-/// The control, or the nearest around it that belongs to the form itself.
+/// True for a component of the form itself, and for one of a frame on it.
+bool TDesignSurface::IsPart(const TComponent& component) const {
+  const TComponent* owner = component.Owner();
+  return owner && (owner == FRoot || (owner->Inline() && owner->Owner() && IsPart(*owner)));
+}
+
+/// The control, or the nearest around it that belongs to the form.
 TComponent* TDesignSurface::Selectable(TControl* control) const {
-  while (control && control != FRoot && control->Owner() != FRoot) control = control->Parent();
+  while (control && control != FRoot && !IsPart(*control)) control = control->Parent();
   return control ? control : FRoot;
 }
 
@@ -46,14 +52,14 @@ TComponent* TDesignSurface::ComponentAt(TWinControl& window, TPoint screen) cons
   return Selectable(found);
 }
 
-/// The control, or the nearest around it, that holds others.
+/// The control, or the nearest around it, that holds others. Nothing new comes into a frame here.
 TWinControl* TDesignSurface::ContainerOf(TControl* control) const {
   for (; control && control != FRoot; control = control->Parent()) {
     auto* window = dynamic_cast<TWinControl*>(control);
     const bool holds = control->ControlStyle().Has(csAcceptsControls);
-    if (window && holds && control->Owner() == FRoot) return window;
+    if (window && holds && control->Owner() == FRoot && !control->Inline()) return window;
   }
-  return FRoot;
+  return FInside;
 }
 
 TWinControl* TDesignSurface::ContainerAt(TWinControl& window, TPoint screen) const {
@@ -68,7 +74,7 @@ TWinControl& TDesignSurface::Container() const {
 
 TWinControl* TDesignSurface::ParentOf(const TComponent& component) const {
   const auto* control = dynamic_cast<const TControl*>(&component);
-  return control && control != FRoot ? control->Parent() : FRoot;
+  return control && control != FRoot ? control->Parent() : FInside;
 }
 
 std::vector<TComponent*> TDesignSurface::Inside(TWinControl& container) const {

@@ -12,7 +12,7 @@ using namespace vcl;
 
 namespace {
 
-constexpr int GrabberSize = 7;
+constexpr int GrabberSize = 7;  // At 96 dots per inch of the designer's own window.
 
 /// The eight grabbers and their pointers; several components have those at the corners.
 struct TGrabber {
@@ -35,10 +35,9 @@ int On(int low, int high, int side) {
   return side < 0 ? low : side > 0 ? high - 1 : (low + high) / 2;
 }
 
-TRect GrabberAt(const TRect& bounds, const TGrabber& grabber) {
-  return Bounds(On(bounds.Left, bounds.Right, grabber.X) - GrabberSize / 2,
-                On(bounds.Top, bounds.Bottom, grabber.Y) - GrabberSize / 2, GrabberSize,
-                GrabberSize);
+TRect GrabberAt(const TRect& bounds, const TGrabber& grabber, int size) {
+  return Bounds(On(bounds.Left, bounds.Right, grabber.X) - size / 2,
+                On(bounds.Top, bounds.Bottom, grabber.Y) - size / 2, size, size);
 }
 
 void FillWith(TCanvas& canvas, const TRect& inside, TColor color, TColor edge) {
@@ -60,6 +59,7 @@ int CaptionWidth(const std::string& text) {
 
 void TDesignSurface::Refresh() {
   if (!FRoot) return;
+  FStage->Follow();
   FMenuBar.Refresh();
   PlaceIcons();
   PlaceGrabbers();
@@ -79,7 +79,7 @@ BOOL CALLBACK Quiet(HWND window, LPARAM) {
 
 /// Windows inside a control that are not this library's, such as a combo box's edit, leave the
 /// mouse to the control.
-void TDesignSurface::QuietForeignWindows() const { ::EnumChildWindows(FRoot->Handle(), &Quiet, 0); }
+void TDesignSurface::QuietForeignWindows() const { ::EnumChildWindows(FForm->Handle(), &Quiet, 0); }
 
 TOverlay& TDesignSurface::GrabberIn(HWND window, std::size_t index, TGrab grab, bool several) {
   if (index >= FMarks.size()) FMarks.resize(index + 1);
@@ -105,6 +105,7 @@ TOverlay& TDesignSurface::GrabberIn(HWND window, std::size_t index, TGrab grab, 
 void TDesignSurface::PlaceGrabbers() {
   const auto components = FSelection.Components();
   const bool several = components.size() > 1;
+  const int size = FHost.ScaledPixels(GrabberSize) | 1;  // There is a middle.
   std::size_t used = 0;
   for (const TComponent* each : components) {
     const auto* control = dynamic_cast<const TControl*>(each);
@@ -113,7 +114,7 @@ void TDesignSurface::PlaceGrabbers() {
     for (std::size_t i = 0; i < (several ? Corners : std::size(Grabbers)); ++i) {
       const TGrabber& grabber = Grabbers[i];
       GrabberIn(control->Parent()->Handle(), used++, {grabber.X, grabber.Y}, several)
-          .Place(GrabberAt(control->BoundsRect(), grabber));
+          .Place(GrabberAt(control->BoundsRect(), grabber, size));
     }
   }
   FMarks.resize(used);
@@ -121,7 +122,7 @@ void TDesignSurface::PlaceGrabbers() {
 
 TDesignSurface::TIcon TDesignSurface::MakeIcon(TComponent& component) {
   const auto mouse = [this, shown = &component](UINT message, TPoint at) {
-    if (message == WM_LBUTTONDOWN) return Press(*shown, *FRoot, at);
+    if (message == WM_LBUTTONDOWN) return Press(*shown, *FInside, at);
     if (message == WM_LBUTTONDBLCLK) {
       if (Events.DoubleClick) Events.DoubleClick(*shown);
       return;
@@ -136,7 +137,7 @@ TDesignSurface::TIcon TDesignSurface::MakeIcon(TComponent& component) {
     canvas.FillRect(inside);
     canvas.TextOut(2, 0, shown->Name());
   };
-  const HWND form = FRoot->Handle();
+  const HWND form = FInside->Handle();
   const auto* arrow = reinterpret_cast<LPCWSTR>(IDC_ARROW);
   TIcon icon;
   icon.Component = &component;

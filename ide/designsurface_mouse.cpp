@@ -19,6 +19,15 @@ int OnGrid(int value) {
   return (shifted >= 0 ? shifted : shifted - GridStep + 1) / GridStep * GridStep;
 }
 
+/// How far what the component stands in is scrolled; icons don't move with it.
+TPoint ScrolledAround(const TComponent& component) {
+  const auto* control = dynamic_cast<const TControl*>(&component);
+  const auto* around =
+      control ? dynamic_cast<const TScrollingWinControl*>(control->Parent()) : nullptr;
+  if (!around) return {};
+  return {around->HorzScrollBar()->Position(), around->VertScrollBar()->Position()};
+}
+
 }  // namespace
 
 /// Alt leaves the grid aside.
@@ -27,7 +36,7 @@ int TDesignSurface::Snapped(int value) const {
 }
 
 void TDesignSurface::Press(TComponent& component, TWinControl& container, TPoint screen) {
-  ::SetFocus(FRoot->Handle());
+  ::SetFocus(FForm->Handle());
   FStart = screen;
   FMoved = false;
   if (FPlacing) return BeginBand(TMode::Placing, container);
@@ -35,12 +44,12 @@ void TDesignSurface::Press(TComponent& component, TWinControl& container, TPoint
   if (IsDown(VK_SHIFT)) return FSelection.Toggle(&component);
   if (!FSelection.Contains(&component)) FSelection.Only(&component);
   FMode = TMode::Pressed;
-  ::SetCapture(FRoot->Handle());
+  ::SetCapture(FForm->Handle());
 }
 
 /// The form gets the keyboard, so that the menu's commands are about it and not about a text.
 void TDesignSurface::ShowMenu(TComponent& component, TPoint screen) {
-  ::SetFocus(FRoot->Handle());
+  ::SetFocus(FForm->Handle());
   if (!FSelection.Contains(&component)) FSelection.Only(&component);
   if (Events.ContextMenu) Events.ContextMenu(screen);
 }
@@ -48,18 +57,18 @@ void TDesignSurface::ShowMenu(TComponent& component, TPoint screen) {
 void TDesignSurface::BeginBand(TMode mode, TWinControl& container) {
   FMode = mode;
   FBandIn = &container;
-  ::SetCapture(FRoot->Handle());
+  ::SetCapture(FForm->Handle());
 }
 
 void TDesignSurface::BeginSizing(TGrab grab, TPoint screen) {
   if (FLocked) return;
-  ::SetFocus(FRoot->Handle());
+  ::SetFocus(FForm->Handle());
   FStart = screen;
   FMoved = false;
   FGrab = grab;
   BeginDrag();
   FMode = TMode::Sizing;
-  ::SetCapture(FRoot->Handle());
+  ::SetCapture(FForm->Handle());
 }
 
 /// Notes where the selected components are; those inside others move with them.
@@ -71,8 +80,17 @@ void TDesignSurface::BeginDrag() {
     for (TWinControl* around = ParentOf(*each); around; around = around->Parent()) {
       inside = inside || (around != FRoot && FSelection.Contains(around));
     }
-    if (!inside) FDragged.push_back({each, BoundsOf(*each)});
+    if (!inside) FDragged.push_back({each, BoundsOf(*each), ScrolledAround(*each)});
   }
+}
+
+/// Gives a dragged component a place that is meant as things stood when it was pressed: what it
+/// stands in may scroll as it moves.
+void TDesignSurface::Put(const TDragged& dragged, TRect bounds) {
+  const TPoint scrolled = dragged.Scrolled - ScrolledAround(*dragged.Component);
+  bounds.Offset(scrolled.X, scrolled.Y);
+  FMoved = FMoved || bounds != BoundsOf(*dragged.Component);
+  SetBoundsOf(*dragged.Component, bounds);
 }
 
 void TDesignSurface::MouseMove(TPoint screen) {
@@ -96,7 +114,7 @@ void TDesignSurface::MouseMove(TPoint screen) {
 /// The way, shortened so far that a piece of what is moved can still be seen and pressed.
 TPoint TDesignSurface::Reachable(const TDragged& dragged, TPoint by) const {
   const TWinControl* around = ParentOf(*dragged.Component);
-  const TRect inside = (around ? *around : *FRoot).ClientRect();
+  const TRect inside = (around ? *around : *FInside).ClientRect();
   const auto within = [](int way, int low, int high, int limit) {
     constexpr int piece = GridStep;
     return std::max(std::min(way, limit - piece - low), piece - high);
@@ -115,8 +133,7 @@ void TDesignSurface::Move(TPoint by) {
   for (const TDragged& each : FDragged) {
     TRect bounds = each.Bounds;
     bounds.Offset(by.X, by.Y);
-    FMoved = FMoved || bounds != BoundsOf(*each.Component);
-    SetBoundsOf(*each.Component, bounds);
+    Put(each, bounds);
   }
   Refresh();
 }
@@ -128,8 +145,7 @@ void TDesignSurface::Size(TPoint by) {
     if (FGrab.X > 0) bounds.Right = std::max(Snapped(bounds.Right + by.X), bounds.Left);
     if (FGrab.Y < 0) bounds.Top = std::min(Snapped(bounds.Top + by.Y), bounds.Bottom);
     if (FGrab.Y > 0) bounds.Bottom = std::max(Snapped(bounds.Bottom + by.Y), bounds.Top);
-    FMoved = FMoved || bounds != BoundsOf(*each.Component);
-    SetBoundsOf(*each.Component, bounds);
+    Put(each, bounds);
   }
   Refresh();
 }
@@ -178,13 +194,13 @@ void TDesignSurface::EndMode() {
   FMode = TMode::Idle;
   FBandSides.clear();
   FDragged.clear();
-  if (FRoot && ::GetCapture() == FRoot->Handle()) ::ReleaseCapture();
+  if (FRoot && ::GetCapture() == FForm->Handle()) ::ReleaseCapture();
 }
 
 /// Takes everything back to where it was before the mouse was pressed.
 void TDesignSurface::Cancel() {
   if (FMode == TMode::Idle) return;
-  for (const TDragged& each : FDragged) SetBoundsOf(*each.Component, each.Bounds);
+  for (const TDragged& each : FDragged) Put(each, each.Bounds);
   EndMode();
   FBandIn = nullptr;
   if (FRoot) Refresh();

@@ -29,6 +29,15 @@ TFormDesigner::TFormDesigner(TWinControl& host) : FSurface(host, FSelection), FD
     Drop(aClass, container, place);
     if (Events.Placed) Events.Placed();
   };
+  FHandlers.IsOfFrame = [this](const TComponent& component, const std::string& name) {
+    const auto* pristine = dynamic_cast<const TComponent*>(FDocument.AncestorOf(component));
+    bool same = false;
+    if (pristine) {
+      EachEvent(const_cast<TComponent&>(*pristine),
+                [&](const TPropInfo&, TEventBase& event) { same |= event.HandlerName() == name; });
+    }
+    return same;
+  };
   FSurface.Events.DoubleClick = [this](TComponent& component) { EditComponent(component); };
 }
 
@@ -36,7 +45,7 @@ TFormDesigner::~TFormDesigner() {
   // The document ends after what hears of it.
   FDocument.OnRootGoing = nullptr;
   FSelection.OnChange = nullptr;
-  FSurface.SetRoot(nullptr);
+  FSurface.SetStage(nullptr);
 }
 
 // What happens to the form.
@@ -68,7 +77,7 @@ void TFormDesigner::RootGoing() {
   FBusy = true;
   if (Events.RootGoing) Events.RootGoing();
   FSelection.Clear();
-  FSurface.SetRoot(nullptr);
+  FSurface.SetStage(nullptr);
 }
 
 void TFormDesigner::RootMade() {
@@ -76,7 +85,10 @@ void TFormDesigner::RootMade() {
   for (const std::string& name : FSelectedNames) selected.push_back(FindComponent(name));
   std::erase(selected, nullptr);
   if (selected.empty()) selected.push_back(&Root());
-  FSurface.SetRoot(&FDocument.Root());
+  TComponent* ancestor = FDocument.Ancestor();
+  FHandlers.SetInherited(ancestor ? THandlers().All(*ancestor)
+                                  : std::map<std::string, const TPropInfo*>());
+  FSurface.SetStage(&FDocument.Stage());
   FSelection.Set(selected);
   FBusy = false;
   SelectionChanged();
@@ -121,8 +133,9 @@ std::string FileProblem(const std::string& name) {
 
 /// What the form's unit declares, calls or derives from itself, whatever stands on the form.
 bool IsOfEveryUnit(const std::string& name) {
-  return SameText(name, "Class") || SameText(name, "ClassType") || SameText(name, "LoadForm") ||
-         SameText(name, TForm::Class().Name());
+  constexpr std::string_view names[] = {"Class",      "ClassType", "LoadForm", "LoadFrame",
+                                        "LoadModule", "TForm",     "TFrame",   "TDataModule"};
+  return std::ranges::any_of(names, [&](std::string_view each) { return SameText(each, name); });
 }
 
 }  // namespace
@@ -131,13 +144,27 @@ bool IsOfEveryUnit(const std::string& name) {
 std::string TFormDesigner::MemberProblem(const std::string& name) const {
   if (std::string problem = FileProblem(name); !problem.empty()) return problem;
   if (IsCppKeyword(name)) return Concat(name, " is a word of C++ itself");
-  if (IsOfEveryUnit(name) || SameText(name, Root().FileClassName())) {
+  const TAncestorFile* base = FDocument.Base();
+  if (IsOfEveryUnit(name) || SameText(name, Root().FileClassName()) ||
+      (base && SameText(name, base->ClassName))) {
     return Concat(name, " has a meaning of its own in the form's unit");
   }
   if (Root().ClassType().FindPublished(name)) {
     return Concat(name, " would hide the form's property of that name");
   }
   return {};
+}
+
+bool TFormDesigner::IsInherited(const TComponent& component) const {
+  const TComponent* ancestor = FDocument.Ancestor();
+  if (&component == &Root()) return false;
+  return component.Owner() != &Root() || (ancestor && ancestor->FindComponent(component.Name()));
+}
+
+/// Where it is inherited from.
+std::string TFormDesigner::OriginOf(const TComponent& component) const {
+  const TComponent& owner = *component.Owner();
+  return &owner == &Root() ? FDocument.Base()->ClassName : owner.FileClassName();
 }
 
 /// The form's class is called after it.
@@ -153,6 +180,9 @@ std::string TFormDesigner::RootNameProblem(const std::string& name) const {
 std::string TFormDesigner::NameProblem(const TComponent& component, const std::string& name) const {
   if (name.empty()) return "It has no name, so that no handler can reach it";
   if (&component == &Root()) return RootNameProblem(name);
+  if (IsInherited(component) && name != component.Name()) {
+    return Concat(component.Name(), " is inherited and keeps its name");
+  }
   if (MethodExists(name)) return Concat(name, " is the name of a handler, too");
   return MemberProblem(name);
 }
@@ -175,15 +205,30 @@ std::vector<std::string> TFormDesigner::ComponentNames(const TClass& aClass) con
   return names;
 }
 
+namespace {
+
+/// The component of a name such as "Sender.Street" inside the owner; null when there is none.
+TComponent* FindInside(const TComponent& owner, const std::string& name) {
+  const std::size_t dot = name.find('.');
+  TComponent* found = owner.FindComponent(name.substr(0, dot));
+  return found && dot != std::string::npos ? FindInside(*found, name.substr(dot + 1)) : found;
+}
+
+}  // namespace
+
 TComponent* TFormDesigner::FindComponent(const std::string& name) const {
   if (SameText(name, Root().Name())) return &Root();
-  TComponent* own = Root().FindComponent(name);
+  TComponent* own = FindInside(Root(), name);
   return own ? own : FindByFullName(FDocument.Others(), name);
 }
 
 std::string TFormDesigner::NameOf(const TComponent& component) const {
-  const bool own = &component == &Root() || component.Owner() == &Root();
-  return own ? component.Name() : FullNameOf(component);
+  if (&component == &Root() || component.Owner() == &Root()) return component.Name();
+  const std::string name = FullNameOf(component);
+  const std::string own = Root().Name() + ".";
+  const bool inFrame =
+      FindInside(Root(), name.substr(std::min(own.size(), name.size()))) == &component;
+  return inFrame ? name.substr(own.size()) : name;
 }
 
 // Handlers.

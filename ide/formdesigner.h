@@ -61,6 +61,8 @@ class TFormDesigner : public vcl::TDesigner {
   /// The selected components as a form file's text, and components from such a text.
   std::string CopyText() const;
   void PasteText(const std::string& text);
+  /// Puts the frame of a form file on the form, into the selected container.
+  void AddFrame(const std::string& fileName);
   void BringToFront();
   void SendToBack();
   void Arrange(TArrangement horizontal, TArrangement vertical);
@@ -86,6 +88,9 @@ class TFormDesigner : public vcl::TDesigner {
   std::vector<std::string> ComponentNames(const vcl::TClass& aClass) const override;
   vcl::TComponent* FindComponent(const std::string& name) const override;
   std::string NameOf(const vcl::TComponent& component) const override;
+  const vcl::TObject* AncestorOf(const vcl::TObject& object) const override {
+    return FDocument.AncestorOf(object);
+  }
   std::vector<vcl::TPersistent*> Selection() const override;
   void SetSelection(const std::vector<vcl::TPersistent*>& selection) override;
   bool ShowNonVisual() const override { return FSurface.ShowIcons(); }
@@ -99,12 +104,18 @@ class TFormDesigner : public vcl::TDesigner {
   void RootMade();
   void SelectionChanged();
   void Report(const std::string& message) const;
+  const vcl::TComponent* InheritedIn(vcl::TComponent& component) const;
+  /// True for a component that the form has from the one that it descends from, or from a frame.
+  bool IsInherited(const vcl::TComponent& component) const;
+  std::string OriginOf(const vcl::TComponent& component) const;
   std::string RootNameProblem(const std::string& name) const;
   std::string MemberProblem(const std::string& name) const;
   void CheckMethodName(const std::string& name) const;
   bool IsNameTaken(const std::string& name) const;
   std::vector<vcl::TComponent*> SelectedOutermost() const;
   std::vector<vcl::TControl*> SelectedSiblings() const;
+  /// Raises EComponentError for a control that would come into a data module.
+  void CheckHolds(const vcl::TComponent& component) const;
   void ShowIconsOf(const std::vector<vcl::TComponent*>& made);
   void PlaceBeside(const std::vector<vcl::TComponent*>& pasted) const;
 

@@ -6,6 +6,7 @@
 #include "vcl/forms/clipboardtext.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/formfile.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 
@@ -19,6 +20,7 @@ void TFormDesigner::Drop(const TClass& aClass, TWinControl& container, const TRe
   std::unique_ptr<TComponent> made;
   Try([&] {
     made.reset(aClass.Maker().Component(&Root()));
+    CheckHolds(*made);
     made->SetName(UniqueName(made->ClassName()));
     auto* control = dynamic_cast<TControl*>(made.get());
     const TRect own = TDesignSurface::BoundsOf(*made);
@@ -30,6 +32,13 @@ void TFormDesigner::Drop(const TClass& aClass, TWinControl& container, const TRe
     FSelection.Only(made.release());
     Modified();
   });
+}
+
+void TFormDesigner::CheckHolds(const TComponent& component) const {
+  const bool control = dynamic_cast<const TControl*>(&component) != nullptr;
+  if (!control || FDocument.Stage().HoldsControls()) return;
+  throw EComponentError(Concat(component.ClassName(), " is a control, and ", Root().Name(),
+                               ", a data module, holds none"));
 }
 
 /// What has just been made is seen.
@@ -46,9 +55,27 @@ void TFormDesigner::Add(const TClass& aClass) {
   Drop(aClass, container, {x, y, x, y});
 }
 
+/// What is inherited: the component or one inside it; null for none.
+const TComponent* TFormDesigner::InheritedIn(TComponent& component) const {
+  if (IsInherited(component)) return &component;
+  const TComponent* found = nullptr;
+  component.GetChildren(
+      [&](TComponent* child) {
+        if (!found) found = InheritedIn(*child);
+      },
+      &Root());
+  return found;
+}
+
 void TFormDesigner::DeleteSelected() {
   const std::vector<TComponent*> deleted = SelectedOutermost();
   if (deleted.empty()) return;
+  for (TComponent* each : deleted) {
+    if (const TComponent* inherited = InheritedIn(*each)) {
+      return Report(Concat(inherited->Name(), " is inherited from ", OriginOf(*inherited),
+                           " and can't be deleted here"));
+    }
+  }
   // Nobody may still show what is inside them while they are freed.
   FSelection.Only(&Root());
   Try([&] {
@@ -86,7 +113,7 @@ std::vector<TComponent*> TFormDesigner::SelectedOutermost() const {
 
 std::string TFormDesigner::CopyText() const {
   TStringStream stream;
-  WriteComponentsText(stream, SelectedOutermost(), &Root());
+  WriteComponentsText(stream, SelectedOutermost(), &Root(), FDocument.Frames());
   return stream.DataString();
 }
 
@@ -111,10 +138,23 @@ void TFormDesigner::PasteText(const std::string& text) {
   std::vector<TComponent*> pasted;
   FDocument.Paste(text, FSurface.Container(),
                   [&](TComponent* component) { pasted.push_back(component); });
+  {
+    const TOnFailure nothing([&] {
+      for (const TComponent* each : pasted) delete each;
+    });
+    for (const TComponent* each : pasted) CheckHolds(*each);
+  }
   ShowIconsOf(pasted);
   PlaceBeside(pasted);
   FSelection.Set({pasted.begin(), pasted.end()});
   Modified();
+}
+
+void TFormDesigner::AddFrame(const std::string& fileName) {
+  Try([&] {
+    const std::string text = FDocument.FrameText(fileName, UniqueName("TFrame"));
+    PasteText(text);
+  });
 }
 
 /// Moves what lies exactly on another of its kind a step aside.
@@ -126,7 +166,7 @@ void TFormDesigner::PlaceBeside(const std::vector<TComponent*>& pasted) const {
              TDesignSurface::BoundsOf(*other).TopLeft() ==
                  TDesignSurface::BoundsOf(*each).TopLeft();
     };
-    TWinControl& around = control ? *control->Parent() : FDocument.Root();
+    TWinControl& around = control ? *control->Parent() : FSurface.Inside();
     while (std::ranges::any_of(FSurface.Inside(around), covers)) {
       TRect bounds = TDesignSurface::BoundsOf(*each);
       bounds.Offset(GridStep, GridStep);

@@ -27,12 +27,6 @@ std::string ReadFile(const std::string& fileName) {
   return file.ReadRest();
 }
 
-std::string TextOf(TForm& root) {
-  TStringStream stream;
-  WriteComponentText(stream, &root);
-  return stream.DataString();
-}
-
 /// When the file was written last; 0 when there is none.
 ULONGLONG TimeOf(const std::string& fileName) {
   WIN32_FILE_ATTRIBUTE_DATA data{};
@@ -53,32 +47,65 @@ TFormDocument::~TFormDocument() { Tell(OnRootGoing); }
 
 // Reading and writing.
 
-/// A form that could not be saved is not opened.
-std::unique_ptr<TForm> TFormDocument::ReadForm(const std::string& bytes, const std::string& name) {
-  auto root = Read(bytes, name);
-  try {
-    TextOf(*root);
-  } catch (const Exception& error) {
-    throw EReadError(Concat(name, " holds what could not be saved again: ", error.what()));
+TFormAncestry TFormDocument::Frames() const {
+  return {nullptr, [this](const TComponent& frame) { return FKeeper.Pristine(frame); }};
+}
+
+std::string TFormDocument::TextOf(TComponent& root, TComponent* ancestor) const {
+  TStringStream stream;
+  WriteComponentText(stream, &root, TFormAncestry{ancestor, Frames().MakeFrame});
+  return stream.DataString();
+}
+
+/// What the ancestors' files alone make; without a hook nobody sees it.
+TFormDocument::TRoot TFormDocument::Make(const TFormOrigin& origin, TDesignerHook* hook) {
+  TRoot root(origin.Class->Maker().Component(nullptr));
+  auto* form = dynamic_cast<TForm*>(root.get());
+  hook&& form ? form->SetDesigner(hook) : root->SetDesigning(true);
+  for (const TAncestorFile& each : origin.Files) {
+    TStringStream stream(each.Bytes);
+    ReadComponentFile(stream, root.get(), each.FileName, &FKeeper);
   }
   return root;
 }
 
-std::unique_ptr<TForm> TFormDocument::Read(const std::string& bytes, const std::string& name) {
-  auto root = std::make_unique<TForm>(nullptr);
-  root->SetDesigner(&FHook);
+TFormDocument::TRoot TFormDocument::Read(const std::string& bytes, const std::string& name,
+                                         const TFormOrigin& origin) {
+  TRoot root = Make(origin, &FHook);
   TStringStream stream(bytes);
   ReadComponentFile(stream, root.get(), name, &FKeeper);
   return root;
 }
 
-void TFormDocument::Show(std::unique_ptr<TForm> root) {
+/// The ancestor alone; null for none.
+TFormDocument::TRoot TFormDocument::ReadAncestor(const TFormOrigin& origin) {
+  if (origin.Files.empty()) return nullptr;
+  // What it holds has been told already.
+  const vcl::TSetFor quiet(FQuiet, true);
+  return Make(origin, nullptr);
+}
+
+/// Shows the form of the bytes. One that could not be saved is not opened.
+void TFormDocument::Open(const std::string& bytes, const std::string& name, TFormOrigin origin) {
+  const std::string former = std::exchange(FKeeper.Folder, origin.Folder);
+  const vcl::TOnFailure stays([&] { FKeeper.Folder = former; });
+  TRoot root = Read(bytes, name, origin);
+  TRoot ancestor = ReadAncestor(origin);
+  try {
+    TextOf(*root, ancestor.get());
+  } catch (const Exception& error) {
+    throw EReadError(Concat(name, " holds what could not be saved again: ", error.what()));
+  }
   if (FRoot) Tell(OnRootGoing);
+  FOrigin = std::move(origin);
+  FAncestor = std::move(ancestor);
   Take(std::move(root));
 }
 
-void TFormDocument::Take(std::unique_ptr<TForm> root) {
+void TFormDocument::Take(TRoot root) {
+  FPristine.clear();
   FRoot = std::move(root);
+  FStage = std::make_unique<TStage>(*FRoot, FHook);
   FRootName = FRoot->Name();
   FLinks.Begin(*FRoot);
   FLinks.Note(*FRoot, Others());
@@ -87,25 +114,36 @@ void TFormDocument::Take(std::unique_ptr<TForm> root) {
 
 std::string TFormDocument::State() const {
   TStringStream stream;
-  WriteComponentBinary(stream, FRoot.get());
+  WriteComponentBinary(stream, FRoot.get(), Frames());
   return stream.DataString();
 }
 
-std::string TFormDocument::Text() const { return TextOf(*FRoot); }
+std::string TFormDocument::Text() const { return TextOf(*FRoot, FAncestor.get()); }
 
-void TFormDocument::New(const std::string& formName) {
+void TFormDocument::New(const std::string& formName, const TClass& sort) {
+  const std::string caption = Concat("  Caption = '", formName, "'\n");
   constexpr const char* place =
       "  Left = 40\n  Top = 30\n  ClientHeight = 300\n  ClientWidth = 420\n";
-  Show(Read(Concat("object ", formName, ": T", formName, "\n  Caption = ", "'", formName, "'\n",
-                   place, "end\n"),
-            {}));
+  OpenNew(Concat("object ", formName, ": T", formName, "\n",
+                 &sort == &TForm::Class() ? caption + place : "", "end\n"),
+          {}, {&sort, {}, {}});
+}
+
+void TFormDocument::NewInherited(const std::string& formName, const std::string& ancestorFile) {
+  OpenNew(Concat("inherited ", formName, ": T", formName, "\nend\n"), ancestorFile,
+          OriginFrom(ancestorFile));
+}
+
+void TFormDocument::OpenNew(const std::string& text, const std::string& name, TFormOrigin origin) {
+  Open(text, name, std::move(origin));
   FFileName.clear();
   FHistory.Reset(State());
   Tell(OnChange);
 }
 
 void TFormDocument::Load(const std::string& fileName) {
-  Show(ReadForm(ReadFile(fileName), fileName));
+  const std::string bytes = ReadFile(fileName);
+  Open(bytes, fileName, OriginOf(fileName, bytes));
   FFileName = fileName;
   FFileTime = TimeOf(fileName);
   FHistory.Reset(State());
@@ -113,7 +151,8 @@ void TFormDocument::Load(const std::string& fileName) {
 }
 
 void TFormDocument::LoadAutosaved(const std::string& fileName) {
-  Show(ReadForm(ReadFile(AutosaveName(fileName)), fileName));
+  const std::string bytes = ReadFile(AutosaveName(fileName));
+  Open(bytes, fileName, KeptOrigin(fileName, bytes));
   FFileTime = TimeOf(fileName);
   (FFileTime == 0 ? FCopyName : FFileName) = fileName;
   FHistory.Reset(State());
@@ -128,6 +167,7 @@ void TFormDocument::Save(const std::string& fileName) {
   FFileName = fileName;
   FFileTime = TimeOf(fileName);
   FHistory.MarkClean();
+  CheckFolder();
   Tell(OnChange);
 }
 
@@ -192,7 +232,7 @@ void TFormDocument::Restore(const std::string& state) {
   FRoot.reset();
   {
     const vcl::TSetFor quiet(FQuiet, true);
-    Take(Read(state, {}));
+    Take(Read(state, {}, {FOrigin.Class, {}, {}}));
   }
   Tell(OnChange);
 }
@@ -219,12 +259,15 @@ void TFormDocument::Autosave() {
   // The settings' folder, where forms without a file have their copies, comes with the first.
   if (FFileName.empty()) ForceDirectories(ExtractFileDir(FCopyName));
   ReplaceWholeFile(AutosaveName(CopyOf()), Text());
+  if (FFileName.empty()) KeepOrigin(FCopyName, {FOrigin.Class, FOrigin.Files, Folder()});
   FAutosaved = FHistory.Present();
 }
 
 void TFormDocument::DiscardAutosave() {
   FAutosaved.clear();
-  if (!CopyOf().empty()) DeleteFile(AutosaveName(CopyOf()));
+  if (CopyOf().empty()) return;
+  DeleteFile(AutosaveName(CopyOf()));
+  ForgetOrigin(CopyOf());
 }
 
 }  // namespace ide

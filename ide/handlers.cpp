@@ -37,15 +37,35 @@ void EachEvent(TObject& object, const TEach& each) {
     EachEvent(*collection->Items(i), each);
 }
 
-void EachEventOfForm(TComponent& root, const TEach& each) {
-  EachEvent(root, each);
-  for (int i = 0; i < root.ComponentCount(); ++i) EachEvent(*root.Components(i), each);
+void EachOfForm(TComponent& root, const std::function<void(TComponent&)>& each) {
+  each(root);
+  for (int i = 0; i < root.ComponentCount(); ++i) {
+    TComponent& component = *root.Components(i);
+    component.Inline() ? EachOfForm(component, each) : each(component);
+  }
 }
+
+void EachEventOfForm(TComponent& root, const TEach& each) {
+  EachOfForm(root, [&](TComponent& component) { EachEvent(component, each); });
+}
+
+namespace {
+
+bool IsInFrame(const TComponent& component, const TComponent& root) {
+  return &component != &root && component.Owner() != &root;
+}
+
+}  // namespace
 
 std::map<std::string, const TPropInfo*> THandlers::All(TComponent& root) const {
   std::map<std::string, const TPropInfo*> all = FAdded;
-  EachEventOfForm(root, [&](const TPropInfo& property, TEventBase& event) {
-    if (!event.HandlerName().empty()) all.emplace(event.HandlerName(), &property);
+  all.insert(FInherited.begin(), FInherited.end());
+  EachOfForm(root, [&](TComponent& component) {
+    EachEvent(component, [&](const TPropInfo& property, TEventBase& event) {
+      const std::string& name = event.HandlerName();
+      const bool own = !IsInFrame(component, root) || !IsOfFrame || !IsOfFrame(component, name);
+      if (!name.empty() && own) all.emplace(name, &property);
+    });
   });
   return all;
 }

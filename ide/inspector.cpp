@@ -24,7 +24,7 @@ std::string LineOf(const vcl::TDesigner& designer, vcl::TPersistent* object) {
 }
 
 constexpr int HelpLines = 4;   // The property's name and three lines that say what it is.
-constexpr int HelpMargin = 3;  // Around them.
+constexpr int HelpMargin = 3;  // Around them, in pixels at 96 dots per inch.
 
 /// What the list says of a selection that is not one of its components; empty when it is.
 std::string SpecialLine(const vcl::TDesigner& designer,
@@ -52,8 +52,10 @@ TObjectInspector::TObjectInspector(vcl::TComponent* owner)
   SetBounds(0, 0, 220, 400);
   FComponents->SetStyle(vcl::csDropDownList);
   FComponents->SetDropDownCount(20);
+  FComponents->SetAccessibleName("Components");
   FComponents->SetParent(this);
   FComponents->OnClick = vcl::TNotifyEvent(this, &T::ComponentChosen);
+  FPages->SetAccessibleName("Pages of the inspector");
   FPages->SetParent(this);
   FPages->SetActivePage(FPropertiesPage);
   FPages->OnChanging = vcl::TTabChangingEvent(this, &T::PageChanging);
@@ -71,6 +73,7 @@ TInspectorGrid* TObjectInspector::MakePage(vcl::TTabSheet*& sheet, const char* c
   sheet->SetPageControl(FPages);
   auto* grid = new TInspectorGrid(
       this, [events](const vcl::TPropInfo& property) { return property.IsEvent() == events; });
+  grid->SetAccessibleName(caption);
   grid->SetAlign(vcl::alClient);
   grid->SetParent(sheet);
   grid->OnSelect = vcl::TNotifyEvent(this, &TObjectInspector::ShowHelp);
@@ -88,20 +91,27 @@ vcl::TLabel* TObjectInspector::MakeHelpLabel() {
 
 void TObjectInspector::Resize() {
   TWinControl::Resize();
-  const int top = FComponents->Height() + 2;
+  const int top = FComponents->Height() + ScaledPixels(2);
   FComponents->SetBounds(0, 0, ClientWidth(), FComponents->Height());
-  const int help = HelpLines * vcl::FontHeight(*Font()) + 2 * HelpMargin;
+  const int help = HelpLines * vcl::FontHeight(*Font()) + 2 * ScaledPixels(HelpMargin);
   // The properties come first where the window is low.
   const int bottom = ClientHeight() - top >= 3 * help ? ClientHeight() - help : ClientHeight();
   FPages->SetBounds(0, top, ClientWidth(), std::max(bottom - top, 0));
-  PlaceHelp(bottom + HelpMargin, ClientHeight());
+  PlaceHelp(bottom + ScaledPixels(HelpMargin), ClientHeight());
+}
+
+/// What takes its height from the font has it then.
+void TObjectInspector::Dispatch(vcl::TMessage& message) {
+  TWinControl::Dispatch(message);
+  if (message.Msg == vcl::CM_FONTCHANGED) Resize();
 }
 
 void TObjectInspector::PlaceHelp(int top, int bottom) {
-  const int width = std::max(ClientWidth() - 2 * HelpMargin, 0);
+  const int margin = ScaledPixels(HelpMargin);
+  const int width = std::max(ClientWidth() - 2 * margin, 0);
   const int line = vcl::FontHeight(*Font());
-  FHelpName->SetBounds(HelpMargin, top, width, line);
-  FHelpText->SetBounds(HelpMargin, top + line, width, std::max(bottom - top - line, 0));
+  FHelpName->SetBounds(margin, top, width, line);
+  FHelpText->SetBounds(margin, top + line, width, std::max(bottom - top - line, 0));
 }
 
 // What is shown.

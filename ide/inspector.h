@@ -49,6 +49,7 @@ class TObjectInspector : public vcl::TWinControl, public TDesignerPart {
 
  protected:
   void Resize() override;
+  void Dispatch(vcl::TMessage& message) override;
   void Notification(vcl::TComponent* component, vcl::TOperation operation) override;
 
  private:

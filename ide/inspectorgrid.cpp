@@ -92,6 +92,7 @@ bool TInspectorGrid::SelectRow(int row) {
     InvalidateRow(row);
     PlaceEdit();
     OnSelect(this);
+    TellSelected();
     Call([](vcl::TPropertyEditor& editor) { editor.Activate(); });
   }
   ScrollTo(std::clamp(FTop, FSelected - VisibleRows() + 1, std::max(FSelected, 0)));
@@ -108,7 +109,9 @@ void TInspectorGrid::SetExpanded(int row, bool expanded) {
 
 // Places.
 
-int TInspectorGrid::RowHeight() const { return vcl::FontHeight(*Font()) + 2 * layout::TextMargin; }
+int TInspectorGrid::RowHeight() const {
+  return vcl::FontHeight(*Font()) + 2 * ScaledPixels(layout::TextMargin);
+}
 
 int TInspectorGrid::VisibleRows() const {
   return HandleAllocated() ? std::max(ClientHeight() / RowHeight(), 1) : 1;
@@ -131,8 +134,9 @@ void TInspectorGrid::InvalidateRow(int row) {
 }
 
 int TInspectorGrid::Splitter() const {
-  const int greatest = std::max(ClientWidth() - layout::LeastColumn, layout::LeastColumn);
-  return std::clamp(FSplitter, layout::LeastColumn, greatest);
+  const int greatest = std::max(ClientWidth() - ScaledPixels(layout::LeastColumn),
+                                ScaledPixels(layout::LeastColumn));
+  return std::clamp(FSplitter, ScaledPixels(layout::LeastColumn), greatest);
 }
 
 void TInspectorGrid::SetSplitter(int x) {
@@ -140,6 +144,11 @@ void TInspectorGrid::SetSplitter(int x) {
   FSplitter = x;
   Invalidate();
   PlaceEdit();
+}
+
+void TInspectorGrid::ChangeScale(int m, int d) {
+  FSplitter = ScaleMeasure(FSplitter, m, d);
+  TCustomControl::ChangeScale(m, d);
 }
 
 void TInspectorGrid::Resize() {
@@ -207,6 +216,45 @@ void TInspectorGrid::Dispatch(vcl::TMessage& message) {
   const bool focus = message.Msg == WM_SETFOCUS || message.Msg == WM_KILLFOCUS;
   if (focus) InvalidateRow(FSelected);
   if (message.Msg == vcl::CM_FONTCHANGED && HandleAllocated()) RowsReplaced(FSelectedPath);
+}
+
+// Screen readers.
+
+void TInspectorGrid::DescribeAccessible(vcl::TAccessibleInfo& info) const {
+  TCustomControl::DescribeAccessible(info);
+  info.Role = vcl::arTable;
+}
+
+std::vector<vcl::TAccessiblePart> TInspectorGrid::AccessibleParts() {
+  std::vector<vcl::TAccessiblePart> lines;
+  for (int i = 0; i < RowCount(); ++i) {
+    const TInspectorRow& row = Row(i);
+    vcl::TAccessiblePart& line = lines.emplace_back();
+    line.Role = vcl::arRow;
+    line.State = {vcl::asSelectable, vcl::asFocusable};
+    line.Name = row.Path;
+    line.Value = row.Value;
+    line.Bounds = RowRect(i);
+    line.DefaultAction = "Select";
+    if (i == FSelected) line.State.Include(vcl::asSelected);
+    if (i == FSelected && Focused()) line.State.Include(vcl::asFocused);
+    if (row.ReadOnly) line.State.Include(vcl::asReadOnly);
+    if (i < FTop || i >= FTop + VisibleRows()) line.State.Include(vcl::asOffscreen);
+    if (!row.Expandable) continue;
+    line.State.Include(row.Expanded ? vcl::asExpanded : vcl::asCollapsed);
+    line.DefaultAction = row.Expanded ? "Collapse" : "Expand";
+  }
+  return lines;
+}
+
+void TInspectorGrid::DoAccessiblePart(const vcl::TAccessiblePath& part) {
+  const int row = part.front();
+  if (SelectRow(row) && Row(row).Expandable) SetExpanded(row, !Row(row).Expanded);
+}
+
+void TInspectorGrid::TellSelected() {
+  AccessibleChanged(vcl::acSelection, {FSelected});
+  if (Focused()) AccessibleChanged(vcl::acFocus, {FSelected});
 }
 
 }  // namespace ide

@@ -62,6 +62,11 @@ class TInspectorGrid : public vcl::TCustomControl {
   /// Takes the property back to its default.
   void Revert();
 
+  // Screen readers: a part for each line.
+  void DescribeAccessible(vcl::TAccessibleInfo& info) const override;
+  std::vector<vcl::TAccessiblePart> AccessibleParts() override;
+  void DoAccessiblePart(const vcl::TAccessiblePath& part) override;
+
   /// Another line may be the selected one now.
   vcl::TNotifyEvent OnSelect;
   /// The user has moved the splitter.
@@ -72,6 +77,7 @@ class TInspectorGrid : public vcl::TCustomControl {
   void CreateWnd() override;
   void Paint() override;
   void Resize() override;
+  void ChangeScale(int m, int d) override;
   void Dispatch(vcl::TMessage& message) override;
   void MouseDown(vcl::TMouseButton button, vcl::TShiftState shift, int x, int y) override;
   void MouseMove(vcl::TShiftState shift, int x, int y) override;
@@ -106,6 +112,7 @@ class TInspectorGrid : public vcl::TCustomControl {
   vcl::TRect ButtonRect() const;
   void PlaceEdit();
   void ShowValue();
+  void TellSelected();
   void FocusEdit();
   /// Calls the editor of the selected line; false when it raises, which the application shows.
   bool Call(const TEditorCall& call);
@@ -137,7 +144,7 @@ class TInspectorGrid : public vcl::TCustomControl {
   int FSelected = -1;
   std::string FSelectedPath;  // Kept while no object has the property.
   int FTop = 0;
-  int FSplitter = 100;
+  int FSplitter = 112;
   bool FDragsSplitter = false;
   TInspectorEdit* FEdit;
   TInspectorList* FList;

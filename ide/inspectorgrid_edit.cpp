@@ -26,7 +26,7 @@ TInspectorGrid::TButtonKind TInspectorGrid::ButtonKind() const {
 
 TRect TInspectorGrid::ButtonRect() const {
   const TRect row = RowRect(FSelected);
-  return {row.Right - layout::ButtonWidth, row.Top, row.Right, row.Bottom - 1};
+  return {row.Right - ScaledPixels(layout::ButtonWidth), row.Top, row.Right, row.Bottom - 1};
 }
 
 void TInspectorGrid::PlaceEdit() {
@@ -34,10 +34,11 @@ void TInspectorGrid::PlaceEdit() {
   if (FSelected < 0 || !HandleAllocated()) return;
   const TInspectorRow& row = Row(FSelected);
   TRect cell = RowRect(FSelected);
-  cell.Left = Splitter() + 1 + layout::TextIndent + (row.Color ? layout::SwatchWidth : 0);
+  cell.Left = Splitter() + 1 + ScaledPixels(layout::TextIndent) +
+              (row.Color ? ScaledPixels(layout::SwatchWidth) : 0);
   if (ButtonKind() != bkNone) cell.Right = ButtonRect().Left;
-  FEdit->SetBounds(cell.Left, cell.Top + layout::TextMargin, std::max(cell.Width(), 0),
-                   cell.Height() - layout::TextMargin - 1);
+  FEdit->SetBounds(cell.Left, cell.Top + ScaledPixels(layout::TextMargin),
+                   std::max(cell.Width(), 0), cell.Height() - ScaledPixels(layout::TextMargin) - 1);
   ShowValue();
 }
 
@@ -48,6 +49,7 @@ void TInspectorGrid::ShowValue() {
   const vcl::TSetFor showing(FShowing, true, this);
   FEdit->Font()->SetStyle(row.Default ? vcl::TFontStyles{} : vcl::TFontStyles{vcl::fsBold});
   FEdit->SetReadOnly(row.ReadOnly);
+  FEdit->SetAccessibleName(row.Path);
   if (FEdit->Text() != row.Value) FEdit->SetText(row.Value);
 }
 
@@ -172,7 +174,10 @@ void TInspectorGrid::Revert() {
 
 void TInspectorGrid::MenuPopup(vcl::TObject* /*sender*/) {
   const bool can = FSelected >= 0 && !Row(FSelected).Default && Row(FSelected).Editor->CanRevert();
-  FMenu->Items()->Items(0)->SetEnabled(can);
+  vcl::TMenuItem* revert = FMenu->Items()->Items(0);
+  revert->SetEnabled(can);
+  revert->SetCaption(can && Row(FSelected).Editor->Inherits() ? "&Revert to Inherited"
+                                                              : "&Revert to Default");
 }
 
 // Its list and its button.

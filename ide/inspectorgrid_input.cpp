@@ -17,7 +17,7 @@ using vcl::TShiftState;
 
 void TInspectorGrid::MouseDown(vcl::TMouseButton button, TShiftState shift, int x, int y) {
   TCustomControl::MouseDown(button, shift, x, y);
-  if (button == vcl::mbLeft && std::abs(x - Splitter()) <= layout::SplitterReach) {
+  if (button == vcl::mbLeft && std::abs(x - Splitter()) <= ScaledPixels(layout::SplitterReach)) {
     FDragsSplitter = true;
     return;
   }
@@ -39,7 +39,8 @@ void TInspectorGrid::MouseDown(vcl::TMouseButton button, TShiftState shift, int 
 
 void TInspectorGrid::MouseMove(TShiftState shift, int x, int y) {
   TCustomControl::MouseMove(shift, x, y);
-  const bool near = FDragsSplitter || std::abs(x - Splitter()) <= layout::SplitterReach;
+  const bool near =
+      FDragsSplitter || std::abs(x - Splitter()) <= ScaledPixels(layout::SplitterReach);
   SetCursor(near ? vcl::crHSplit : vcl::crDefault);
   if (!FDragsSplitter) return;
   SetSplitter(x);
@@ -58,7 +59,8 @@ void TInspectorGrid::DblClick() {
   ::GetCursorPos(&mouse);
   const vcl::TPoint at = ScreenToClient(mouse);
   const int row = RowAt(at.Y);
-  if (row >= 0 && at.X < Splitter() - layout::SplitterReach) SetExpanded(row, !Row(row).Expanded);
+  if (row >= 0 && at.X < Splitter() - ScaledPixels(layout::SplitterReach))
+    SetExpanded(row, !Row(row).Expanded);
 }
 
 void TInspectorGrid::EditMouseDown(vcl::TObject* /*sender*/, vcl::TMouseButton button,

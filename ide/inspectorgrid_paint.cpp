@@ -80,9 +80,9 @@ void TInspectorGrid::PaintRow(int index) {
 }
 
 TRect TInspectorGrid::SignRect(const TInspectorRow& row, const TRect& cell) const {
-  const int left = cell.Left + row.Depth * layout::DepthIndent + 2;
-  const int top = cell.Top + (cell.Height() - layout::SignSize) / 2;
-  return {left, top, left + layout::SignSize, top + layout::SignSize};
+  const int left = cell.Left + row.Depth * ScaledPixels(layout::DepthIndent) + 2;
+  const int top = cell.Top + (cell.Height() - ScaledPixels(layout::SignSize)) / 2;
+  return {left, top, left + ScaledPixels(layout::SignSize), top + ScaledPixels(layout::SignSize)};
 }
 
 void TInspectorGrid::PaintName(vcl::TCanvas* canvas, const TInspectorRow& row, const TRect& cell,
@@ -92,7 +92,7 @@ void TInspectorGrid::PaintName(vcl::TCanvas* canvas, const TInspectorRow& row, c
   const vcl::TColor text = searched ? vcl::clHighlightText : vcl::clWindowText;
   Fill(canvas, cell, back);
   TRect name = cell;
-  name.Left += layout::NameIndent + row.Depth * layout::DepthIndent;
+  name.Left += ScaledPixels(layout::NameIndent) + row.Depth * ScaledPixels(layout::DepthIndent);
   if (row.Expandable) DrawSign(canvas, SignRect(row, cell), row.Expanded, text);
   DrawCellText(canvas, row.Name(), name, text);
 }
@@ -100,14 +100,14 @@ void TInspectorGrid::PaintName(vcl::TCanvas* canvas, const TInspectorRow& row, c
 void TInspectorGrid::PaintValue(vcl::TCanvas* canvas, const TInspectorRow& row, TRect cell) {
   Fill(canvas, cell, Color());
   if (row.Color) {
-    TRect swatch{cell.Left + layout::TextIndent, cell.Top + 2, cell.Left + layout::SwatchWidth,
-                 cell.Bottom - 2};
+    TRect swatch{cell.Left + ScaledPixels(layout::TextIndent), cell.Top + 2,
+                 cell.Left + ScaledPixels(layout::SwatchWidth), cell.Bottom - 2};
     canvas->Pen()->SetColor(vcl::clWindowText);
     canvas->Brush()->SetColor(*row.Color);
     canvas->Rectangle(swatch);
-    cell.Left += layout::SwatchWidth;
+    cell.Left += ScaledPixels(layout::SwatchWidth);
   }
-  cell.Left += layout::TextIndent;
+  cell.Left += ScaledPixels(layout::TextIndent);
   canvas->Font()->SetStyle(row.Default ? vcl::TFontStyles{} : vcl::TFontStyles{vcl::fsBold});
   DrawCellText(canvas, row.Value, cell, Fixed(row) ? vcl::clGrayText : vcl::clWindowText);
 }

@@ -1,4 +1,5 @@
-// Measures of an object inspector's grid, in pixels, and its messages to itself.
+// Measures of an object inspector's grid, in pixels at 96 dots per inch, and its messages to
+// itself.
 #pragma once
 
 #include "vcl/rtl/win32.h"

@@ -24,6 +24,7 @@ struct TOptions {
   TStart Start;
   std::string Screenshots;
   std::string Preview;
+  std::string Frames;  // Where the files of the preview's frames are.
   bool WriteUnit = false;
   bool Remove = false;
 };
@@ -53,6 +54,8 @@ bool Parse(int argc, char** argv, TOptions& options) {
       options.Start.FileName = value;
     } else if (name == "--preview") {
       options.Preview = value;
+    } else if (name == "--frames") {
+      options.Frames = value;
     } else {
       return false;
     }
@@ -61,7 +64,7 @@ bool Parse(int argc, char** argv, TOptions& options) {
 }
 
 int Preview(const TOptions& options) {
-  const int code = RunPreview(options.Preview, options.Start.Packages);
+  const int code = RunPreview(options.Preview, options.Frames, options.Start.Packages);
   if (options.Remove) vcl::DeleteFile(options.Preview);
   return code;
 }

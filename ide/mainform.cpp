@@ -21,6 +21,7 @@ const TClass& TMainForm::Class() {
                          {
                              Field<&T::PalettePanel>("PalettePanel"),
                              Field<&T::SidePanel>("SidePanel"),
+                             Field<&T::SideSplitter>("SideSplitter"),
                              Field<&T::Messages>("Messages"),
                              Field<&T::StatusBar>("StatusBar"),
                              Field<&T::MainMenuBar>("MainMenuBar"),
@@ -47,6 +48,10 @@ const TClass& TMainForm::Class() {
                              Method<&T::MenuClick>("MenuClick"),
                              Method<&T::AutosaveTimerTick>("AutosaveTimerTick"),
                              Method<&T::NewClick>("NewClick"),
+                             Method<&T::NewInheritedClick>("NewInheritedClick"),
+                             Method<&T::NewFrameClick>("NewFrameClick"),
+                             Method<&T::NewModuleClick>("NewModuleClick"),
+                             Method<&T::InsertFrameClick>("InsertFrameClick"),
                              Method<&T::OpenClick>("OpenClick"),
                              Method<&T::SaveClick>("SaveClick"),
                              Method<&T::SaveAsClick>("SaveAsClick"),
@@ -79,8 +84,15 @@ TMainForm::TMainForm(TComponent* owner)
   constexpr int structureHeight = 150;
   LoadForm();
   FStructure->SetHeight(structureHeight);
+  FStructure->SetAccessibleName("Structure");
   FStructure->SetParent(SidePanel);
   FStructure->SetAlign(alTop);
+  auto* below = new TSplitter(this);
+  below->SetBounds(0, structureHeight, 0, SideSplitter->Width());
+  below->SetCursor(crVSplit);
+  below->SetAutoSnap(false);
+  below->SetAlign(alTop);
+  below->SetParent(SidePanel);
   FInspector->SetParent(SidePanel);
   FInspector->SetAlign(alClient);
   FPalette->SetParent(PalettePanel);
@@ -115,7 +127,7 @@ void TMainForm::Begin(const TStart& start, TPackages& packages) {
   FRecovery = std::make_unique<TRecovery>(*FSettings);
   constexpr int second = 1000;
   AutosaveTimer->SetInterval(FSettings->AutosaveSeconds() * second);
-  if (start.FileName.empty() || !Open(start.FileName)) NewForm("Form1");
+  if (start.FileName.empty() || !Open(start.FileName)) New(TForm::Class(), "Form1");
   OfferLost();
 }
 

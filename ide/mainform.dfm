@@ -26,11 +26,30 @@ object MainForm: TMainForm
     BevelOuter = bvNone
     TabOrder = 1
   end
+  object SideSplitter: TSplitter
+    Left = 250
+    Top = 70
+    Width = 4
+    Height = 522
+    Align = alLeft
+    AutoSnap = False
+    MinSize = 80
+  end
+  object MessagesSplitter: TSplitter
+    Left = 0
+    Top = 588
+    Width = 1000
+    Height = 4
+    Cursor = crVSplit
+    Align = alBottom
+    AutoSnap = False
+  end
   object Messages: TListBox
     Left = 0
     Top = 592
     Width = 1000
     Height = 88
+    AccessibleName = 'Messages'
     Align = alBottom
     ItemHeight = 13
     TabOrder = 2
@@ -62,6 +81,21 @@ object MainForm: TMainForm
         Hint = 'Begins an empty form'
         ShortCut = 16462
         OnClick = NewClick
+      end
+      object NewInheritedItem: TMenuItem
+        Caption = 'New &inherited form...'
+        Hint = 'Begins a form that descends from another one'
+        OnClick = NewInheritedClick
+      end
+      object NewFrameItem: TMenuItem
+        Caption = 'New fra&me'
+        Hint = 'Begins an empty frame, a part of forms with a file of its own'
+        OnClick = NewFrameClick
+      end
+      object NewModuleItem: TMenuItem
+        Caption = 'New &data module'
+        Hint = 'Begins an empty data module, which holds components for several forms'
+        OnClick = NewModuleClick
       end
       object OpenItem: TMenuItem
         Caption = '&Open...'
@@ -300,6 +334,11 @@ object MainForm: TMainForm
     end
     object ComponentMenu: TMenuItem
       Caption = '&Component'
+      object InsertFrameItem: TMenuItem
+        Caption = 'Insert &frame...'
+        Hint = 'Puts the frame of a form file in the same folder on the form'
+        OnClick = InsertFrameClick
+      end
       object PackagesItem: TMenuItem
         Caption = '&Packages...'
         Hint = 'Shows the packages that are loaded and loads others'

@@ -71,6 +71,7 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   // What the form file fills.
   vcl::TPanel* PalettePanel = nullptr;
   vcl::TPanel* SidePanel = nullptr;
+  vcl::TSplitter* SideSplitter = nullptr;
   vcl::TListBox* Messages = nullptr;
   vcl::TStatusBar* StatusBar = nullptr;
   vcl::TMainMenu* MainMenuBar = nullptr;
@@ -117,7 +118,10 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   TFormDesigner& AddForm();
   void ListenTo(TFormDesigner& designer);
   void WorkOn(TFormDesigner& designer);
-  void NewForm(const std::string& name);
+  /// A new form, frame or data module, of a name that no other has unless one is given.
+  void New(const vcl::TClass& sort, const std::string& name = {});
+  void WorkOnNew(TFormDesigner& designer);
+  void NewInherited(const std::string& ancestorFile);
   bool CloseForm();
   bool MayEnd();
   void CloseFormClick(vcl::TObject* sender);
@@ -127,6 +131,10 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
 
   // Files.
   void NewClick(vcl::TObject* sender);
+  void NewInheritedClick(vcl::TObject* sender);
+  void NewFrameClick(vcl::TObject* sender);
+  void NewModuleClick(vcl::TObject* sender);
+  void InsertFrameClick(vcl::TObject* sender);
   void OpenClick(vcl::TObject* sender);
   void RecentFileClick(vcl::TObject* sender);
   void SaveClick(vcl::TObject* sender);

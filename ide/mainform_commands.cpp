@@ -8,6 +8,7 @@
 #include "ide/packagesdialog.h"
 #include "ide/preview.h"
 #include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/text.h"
 
 namespace ide {
@@ -126,7 +127,14 @@ void TMainForm::PackagesClick(TObject*) {
 }
 
 void TMainForm::PreviewClick(TObject*) {
-  FDesigner->Try([this] { StartPreview(FDesigner->Document().Text(), *FPackages); });
+  FDesigner->Try([this] {
+    const TFormDocument& document = FDesigner->Document();
+    if (&document.Sort() != &TForm::Class()) {
+      throw EInvalidOperation(
+          Concat(document.Root().Name(), " is no form, which alone can be run"));
+    }
+    StartPreview(document.WholeText(), document.Folder(), *FPackages);
+  });
 }
 
 void TMainForm::AboutClick(TObject*) {
@@ -138,13 +146,27 @@ void TMainForm::WriteUnitClick(TObject*) {
   if (Save()) WriteUnit();
 }
 
+namespace {
+
+TUnitAncestor UnitAncestorOf(const TFormDocument& document) {
+  const TClass& sort = document.Sort();
+  const char* loader = &sort == &TFrame::Class()        ? "LoadFrame"
+                       : &sort == &TDataModule::Class() ? "LoadModule"
+                                                        : "LoadForm";
+  const TAncestorFile* base = document.Base();
+  if (!base) return {sort.CppName(), loader, {}, nullptr};
+  return {base->ClassName, loader, HeaderBeside(base->FileName), document.Ancestor()};
+}
+
+}  // namespace
+
 bool TMainForm::WriteUnit() {
   bool written = false;
   FDesigner->Try([&] {
     const TFormDocument& document = FDesigner->Document();
     const std::string& fileName = document.FileName();
-    for (const std::string& note :
-         WriteUnitFiles(document.Root(), FDesigner->Handlers(), fileName)) {
+    for (const std::string& note : WriteUnitFiles(document.Root(), FDesigner->Handlers(), fileName,
+                                                  UnitAncestorOf(document))) {
       Tell(note);
     }
     Tell(Concat("The unit of ", fileName, " is written"));

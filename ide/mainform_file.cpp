@@ -8,7 +8,17 @@ namespace ide {
 
 using namespace vcl;
 
-void TMainForm::NewClick(TObject*) { NewForm(FForms->UniqueFormName()); }
+void TMainForm::NewClick(TObject*) { New(TForm::Class()); }
+void TMainForm::NewFrameClick(TObject*) { New(TFrame::Class()); }
+void TMainForm::NewModuleClick(TObject*) { New(TDataModule::Class()); }
+
+void TMainForm::NewInheritedClick(TObject*) {
+  if (OpenDialog->Execute()) NewInherited(OpenDialog->FileName());
+}
+
+void TMainForm::InsertFrameClick(TObject*) {
+  if (OpenDialog->Execute()) FDesigner->AddFrame(ExpandFileName(OpenDialog->FileName()));
+}
 
 void TMainForm::OpenClick(TObject*) {
   if (OpenDialog->Execute()) Open(OpenDialog->FileName());
@@ -124,6 +134,7 @@ void TMainForm::OfferLost() {
       OpenFile(file, true);
     } else if (!FileExists(file)) {
       DeleteFile(TFormDocument::AutosaveName(file));
+      ForgetOrigin(file);
     }
   }
   NoteCopies();
@@ -142,6 +153,8 @@ bool TMainForm::SaveIn(const std::string& fileName) {
       throw;
     }
     Remember(fileName);
+    const TFormDocument& document = FDesigner->Document();
+    if (document.NeedsUnit() && !FileExists(ChangeFileExt(fileName, ".h"))) WriteUnit();
   });
   return saved;
 }

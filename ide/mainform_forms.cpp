@@ -1,6 +1,7 @@
 // TMainForm: which of the open forms is worked on.
 #include "ide/mainform.h"
 #include "vcl/rtl/convert.h"
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/text.h"
 
 namespace ide {
@@ -72,9 +73,24 @@ void TMainForm::WorkOn(TFormDesigner& designer) {
   FormChanged(designer);
 }
 
-void TMainForm::NewForm(const std::string& name) {
+void TMainForm::New(const TClass& sort, const std::string& name) {
   TFormDesigner& designer = FDesigner->Document().HasRoot() ? AddForm() : *FDesigner;
-  designer.Document().New(name);
+  designer.Document().New(name.empty() ? FForms->UniqueName(sort.Name().substr(1)) : name, sort);
+  WorkOnNew(designer);
+}
+
+void TMainForm::NewInherited(const std::string& ancestorFile) {
+  TFormDesigner& designer = AddForm();
+  bool made = false;
+  designer.Try([&] {
+    designer.Document().NewInherited(FForms->UniqueName("Form"), ExpandFileName(ancestorFile));
+    made = true;
+  });
+  if (!made) return FForms->Remove(designer);
+  WorkOnNew(designer);
+}
+
+void TMainForm::WorkOnNew(TFormDesigner& designer) {
   designer.Document().SetCopyName(FRecovery->NewName());
   WorkOn(designer);
   FForms->ShowWhole();
@@ -87,7 +103,7 @@ bool TMainForm::CloseForm() {
   TFormDesigner& closed = *FDesigner;
   closed.Document().DiscardAutosave();
   if (FForms->All().size() == 1) {
-    NewForm("Form1");
+    New(TForm::Class(), "Form1");
   } else {
     WorkOn(FForms->Next(false));
   }

@@ -80,7 +80,7 @@ void TOpenForms::Activate(TFormDesigner& designer) {
   }
   FActive = &designer;
   FPages->SetActivePage(PageOf(designer).Sheet);
-  if (FPages->Showing()) ::SetFocus(designer.Document().Root().Handle());
+  if (FPages->Showing()) ::SetFocus(designer.Document().Stage().Form().Handle());
 }
 
 TFormDesigner& TOpenForms::Next(bool forward) const {
@@ -130,9 +130,9 @@ TFormDesigner* TOpenForms::OfFile(const std::string& fileName) const {
   return nullptr;
 }
 
-std::string TOpenForms::UniqueFormName() const {
+std::string TOpenForms::UniqueName(const std::string& stem) const {
   for (int i = 1;; ++i) {
-    std::string name = "Form" + IntToStr(i);
+    std::string name = stem + IntToStr(i);
     const bool taken = std::ranges::any_of(FOpen, [&](const TPage& each) {
       const TFormDocument& document = each.Designer->Document();
       return document.HasRoot() && SameText(document.Root().Name(), name);
@@ -154,17 +154,17 @@ void TOpenForms::ShowChanged(const TFormDesigner& designer) {
   TPage& page = PageOf(designer);
   const TFormDocument& document = page.Designer->Document();
   constexpr int margin = 40;
-  const TForm& root = document.Root();
+  const TForm& form = document.Stage().Form();
   page.Workspace->SetExtent(
-      {root.Left() + root.Width() + margin, root.Top() + root.Height() + margin});
+      {form.Left() + form.Width() + margin, form.Top() + form.Height() + margin});
   page.Sheet->SetCaption(Concat(ShortName(*page.Designer), document.Modified() ? " *" : ""));
 }
 
 void TOpenForms::ShowWhole() {
   if (!FActive) return;
   constexpr int margin = 8;
-  const TForm& root = FActive->Document().Root();
-  PageOf(*FActive).Workspace->ScrollTo(root.Left() - margin, root.Top() - margin);
+  const TForm& form = FActive->Document().Stage().Form();
+  PageOf(*FActive).Workspace->ScrollTo(form.Left() - margin, form.Top() - margin);
 }
 
 }  // namespace ide

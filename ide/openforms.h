@@ -36,7 +36,7 @@ class TOpenForms {
   /// The one that has the file open; null for none.
   TFormDesigner* OfFile(const std::string& fileName) const;
   /// A name that no open form has: "Form1".
-  std::string UniqueFormName() const;
+  std::string UniqueName(const std::string& stem) const;
   /// Shows the form's name on its tab and has its workspace reach as far as it does.
   void ShowChanged(const TFormDesigner& designer);
   /// Brings the active form's upper left corner into view.

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ide/designsurface.h"
+#include "ide/listwindow.h"
 #include "vcl/rtl/text.h"
 #include "vcl/vcl.h"
 
@@ -15,53 +16,36 @@ using namespace vcl;
 namespace {
 
 /// A list whose lines are moved up and down.
-class TOrderForm : public TForm {
+class TOrderForm : public TListWindow {
  public:
   TOrderForm(const std::string& caption, const std::vector<TComponent*>& components)
-      : TForm(nullptr), FOrder(components), FList(new TListBox(this)) {
-    constexpr int width = 320;
-    constexpr int height = 300;
+      : TListWindow(nullptr), FOrder(components) {
     SetCaption(caption);
-    SetBorderStyle(bsDialog);
     SetPosition(poScreenCenter);
-    SetClientWidth(width);
-    SetClientHeight(height);
-    FList->SetParent(this);
-    FList->SetBounds(8, 8, width - 104, height - 16);
+    SetClientWidth(320);
+    SetClientHeight(300);
     for (const TComponent* each : components) {
-      FList->Items()->Add(Concat(each->Name(), ": ", each->FileClassName()));
+      List().Items()->Add(Concat(each->Name(), ": ", each->FileClassName()));
     }
-    FList->SetItemIndex(0);
-    AddButton("&Up", 8)->OnClick = TNotifyEvent([this](TObject*) { Move(-1); });
-    AddButton("&Down", 40)->OnClick = TNotifyEvent([this](TObject*) { Move(1); });
-    TButton* ok = AddButton("OK", height - 66);
-    ok->SetModalResult(mrOk);
-    ok->SetDefault(true);
-    TButton* cancel = AddButton("Cancel", height - 34);
-    cancel->SetModalResult(mrCancel);
-    cancel->SetCancel(true);
+    List().SetItemIndex(0);
+    AddButton("&Up", [this] { Move(-1); });
+    AddButton("&Down", [this] { Move(1); });
+    AddButton("OK", [this] { SetModalResult(mrOk); })->SetDefault(true);
+    AddButton("Cancel", [this] { SetModalResult(mrCancel); })->SetCancel(true);
   }
   const std::vector<TComponent*>& Order() const { return FOrder; }
 
  private:
-  TButton* AddButton(const std::string& caption, int top) {
-    auto* button = new TButton(this);
-    button->SetParent(this);
-    button->SetCaption(caption);
-    button->SetBounds(ClientWidth() - 88, top, 80, 25);
-    return button;
-  }
   void Move(int by) {
-    const int from = FList->ItemIndex();
+    const int from = List().ItemIndex();
     const int to = from + by;
-    if (from < 0 || to < 0 || to >= FList->Items()->Count()) return;
+    if (from < 0 || to < 0 || to >= List().Items()->Count()) return;
     std::swap(FOrder[static_cast<std::size_t>(from)], FOrder[static_cast<std::size_t>(to)]);
-    FList->Items()->Exchange(from, to);
-    FList->SetItemIndex(to);
+    List().Items()->Exchange(from, to);
+    List().SetItemIndex(to);
   }
 
   std::vector<TComponent*> FOrder;
-  TListBox* FList;
 };
 
 /// Lets the user order the components; empty when nothing is to change.

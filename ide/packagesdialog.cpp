@@ -20,12 +20,13 @@ class TPackagesForm : public TForm {
     constexpr int width = 520;
     constexpr int height = 260;
     SetCaption("Packages");
-    SetBorderStyle(bsDialog);
+    SetBorderIcons({biSystemMenu});
     SetPosition(poScreenCenter);
     SetClientWidth(width);
     SetClientHeight(height);
     FList->SetParent(this);
     FList->SetBounds(8, 8, width - 16, height - 49);
+    FList->SetAnchors({akLeft, akTop, akRight, akBottom});
     AddButton("&Remove", width - 264)->OnClick = TNotifyEvent([this](TObject*) { Remove(); });
     AddButton("&Load...", width - 176)->OnClick = TNotifyEvent([this](TObject*) { LoadOther(); });
     TButton* close = AddButton("Close", width - 88);
@@ -40,6 +41,7 @@ class TPackagesForm : public TForm {
     button->SetParent(this);
     button->SetCaption(caption);
     button->SetBounds(left, ClientHeight() - 33, 80, 25);
+    button->SetAnchors({akRight, akBottom});
     return button;
   }
   static std::string LineOf(const TPackageEntry& entry) {

@@ -11,6 +11,7 @@ namespace ide {
 
 namespace {
 
+// In pixels at 96 dots per inch.
 constexpr int FilterWidth = 110;
 constexpr int Gap = 4;
 
@@ -25,6 +26,7 @@ TComponentPalette::TComponentPalette(vcl::TComponent* owner)
   SetBounds(0, 0, 600, 60);
   FPages->SetTabStop(false);
   FPages->SetParent(this);
+  FFilterEdit->SetAccessibleName("Classes whose name contains");
   FFilterEdit->SetParent(this);
   FFilterEdit->SetHint("Shows only the classes whose name contains this");
   FFilterEdit->SetShowHint(true);
@@ -35,9 +37,11 @@ TComponentPalette::~TComponentPalette() { AnnounceEnd(); }
 
 void TComponentPalette::Resize() {
   TWinControl::Resize();
-  const int right = std::max(ClientWidth() - FilterWidth - 2 * Gap, 0);
+  const int gap = ScaledPixels(Gap);
+  const int width = ScaledPixels(FilterWidth);
+  const int right = std::max(ClientWidth() - width - 2 * gap, 0);
   FPages->SetBounds(0, 0, right, ClientHeight());
-  FFilterEdit->SetBounds(right + Gap, Gap, FilterWidth, FFilterEdit->Height());
+  FFilterEdit->SetBounds(right + gap, gap, width, FFilterEdit->Height());
 }
 
 // The pages.

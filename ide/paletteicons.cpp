@@ -42,13 +42,14 @@ const vcl::TBitmap& ProgramIcon(const std::string& name) {
   return Loaded(::GetModuleHandleW(nullptr), name);
 }
 
-void DrawIcon(vcl::TCanvas& canvas, int x, int y, const vcl::TBitmap& icon, bool dimmed) {
+void DrawIcon(vcl::TCanvas& canvas, const vcl::TRect& place, const vcl::TBitmap& icon,
+              bool dimmed) {
   constexpr BYTE faint = 90;
   const vcl::TMemoryDC source;
   const vcl::TSelection selection(source.Get(), icon.Handle());
   const BLENDFUNCTION blend{AC_SRC_OVER, 0, dimmed ? faint : BYTE{255}, AC_SRC_ALPHA};
-  ::AlphaBlend(canvas.Handle(), x, y, icon.Width(), icon.Height(), source.Get(), 0, 0, icon.Width(),
-               icon.Height(), blend);
+  ::AlphaBlend(canvas.Handle(), place.Left, place.Top, place.Width(), place.Height(), source.Get(),
+               0, 0, icon.Width(), icon.Height(), blend);
 }
 
 }  // namespace ide

@@ -15,11 +15,7 @@ using vcl::TRect;
 
 namespace {
 
-constexpr int Margin = 2;  // Around a button's picture.
-constexpr int ButtonSize = IconSize + 2 * Margin;
-constexpr int PointerGap = 6;  // Behind the pointer.
-constexpr int ArrowWidth = 14;
-constexpr int HintWidth = 320;
+constexpr int HintWidth = 320;  // At 96 dots per inch.
 
 /// What a class's hint says: its name and its unit, and what it is where that is known.
 std::string HintOf(const vcl::TClass& aClass) {
@@ -47,23 +43,36 @@ void TPalettePage::SetClasses(std::vector<const vcl::TClass*> classes) {
 
 // Places.
 
+TPalettePage::TMeasures TPalettePage::Measures() const {
+  constexpr int margin = 2;      // Around a button's picture.
+  constexpr int pointerGap = 6;  // Behind the pointer.
+  constexpr int arrow = 14;
+  const int around = ScaledPixels(margin);
+  return {around, ScaledPixels(IconSize) + 2 * around, ScaledPixels(pointerGap),
+          ScaledPixels(arrow)};
+}
+
 bool TPalettePage::Fits() const {
+  const TMeasures measures = Measures();
   const int count = static_cast<int>(FClasses.size());
-  return (1 + count) * ButtonSize + PointerGap <= ClientWidth();
+  return (1 + count) * measures.Button + measures.PointerGap <= ClientWidth();
 }
 
 /// How many classes are seen at once.
 int TPalettePage::Visible() const {
-  const int arrows = Fits() ? 0 : 2 * ArrowWidth;
-  return std::max((ClientWidth() - ButtonSize - PointerGap - arrows) / ButtonSize, 1);
+  const TMeasures measures = Measures();
+  const int arrows = Fits() ? 0 : 2 * measures.Arrow;
+  return std::max(
+      (ClientWidth() - measures.Button - measures.PointerGap - arrows) / measures.Button, 1);
 }
 
 TRect TPalettePage::PlaceRect(int place) const {
   const int shown = place - FFirst;
   if (place != 0 && (shown < 1 || shown > Visible())) return {};
-  const int left = place == 0 ? 0 : shown * ButtonSize + PointerGap;
-  const int top = std::max((ClientHeight() - ButtonSize) / 2, 0);
-  return {left, top, left + ButtonSize, top + ButtonSize};
+  const TMeasures measures = Measures();
+  const int left = place == 0 ? 0 : shown * measures.Button + measures.PointerGap;
+  const int top = std::max((ClientHeight() - measures.Button) / 2, 0);
+  return {left, top, left + measures.Button, top + measures.Button};
 }
 
 TRect TPalettePage::ButtonRect(const vcl::TClass* aClass) const {
@@ -85,9 +94,10 @@ const vcl::TClass* TPalettePage::ClassAt(int place) const {
 
 TRect TPalettePage::ArrowRect(int by) const {
   if (Fits()) return {};
-  const int left = ClientWidth() - (by < 0 ? 2 : 1) * ArrowWidth;
+  const int width = Measures().Arrow;
+  const int left = ClientWidth() - (by < 0 ? 2 : 1) * width;
   const TRect pointer = PlaceRect(0);
-  return {left, pointer.Top, left + ArrowWidth, pointer.Bottom};
+  return {left, pointer.Top, left + width, pointer.Bottom};
 }
 
 bool TPalettePage::CanScroll(int by) const {
@@ -132,7 +142,10 @@ void TPalettePage::PaintPlace(int place) {
     ::DrawEdge(Canvas()->Handle(), &edge, BDR_RAISEDINNER, BF_RECT);
   }
   const vcl::TBitmap& icon = aClass ? ComponentIcon(*aClass) : ProgramIcon("POINTER");
-  DrawIcon(*Canvas(), rect.Left + Margin, rect.Top + Margin, icon);
+  const int margin = Measures().Margin;
+  DrawIcon(*Canvas(),
+           {rect.Left + margin, rect.Top + margin, rect.Right - margin, rect.Bottom - margin},
+           icon);
 }
 
 void TPalettePage::PaintArrow(int by) {
@@ -187,9 +200,36 @@ bool TPalettePage::GiveHint(vcl::THintInfo& info) const {
   if (place == NoPlace) return false;
   const vcl::TClass* aClass = ClassAt(place);
   info.HintStr = aClass ? HintOf(*aClass) : "Select";
-  info.HintMaxWidth = HintWidth;
+  info.HintMaxWidth = ScaledPixels(HintWidth);
   info.CursorRect = PlaceRect(place);
   return true;
+}
+
+// Screen readers.
+
+void TPalettePage::DescribeAccessible(vcl::TAccessibleInfo& info) const {
+  TCustomControl::DescribeAccessible(info);
+  info.Role = vcl::arToolBar;
+}
+
+std::vector<vcl::TAccessiblePart> TPalettePage::AccessibleParts() {
+  std::vector<vcl::TAccessiblePart> parts;
+  for (int place = 0; place <= static_cast<int>(FClasses.size()); ++place) {
+    const vcl::TClass* aClass = ClassAt(place);
+    vcl::TAccessiblePart& part = parts.emplace_back();
+    part.Role = vcl::arPushButton;
+    part.Name = aClass ? aClass->Name() : "Select";
+    part.Description = aClass ? aClass->Unit() : "";
+    part.DefaultAction = "Press";
+    part.Bounds = PlaceRect(place);
+    if (part.Bounds.Empty()) part.State.Include(vcl::asOffscreen);
+    if (aClass == FTool.Class) part.State.Include(vcl::asPressed);
+  }
+  return parts;
+}
+
+void TPalettePage::DoAccessiblePart(const vcl::TAccessiblePath& part) {
+  if (OnPick) OnPick(ClassAt(part.front()), false);
 }
 
 }  // namespace ide

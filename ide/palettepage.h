@@ -29,6 +29,11 @@ class TPalettePage : public vcl::TCustomControl {
   bool CanScroll(int by) const;
   void Scroll(int by);
 
+  // Screen readers: a part for each place, those that are scrolled away too.
+  void DescribeAccessible(vcl::TAccessibleInfo& info) const override;
+  std::vector<vcl::TAccessiblePart> AccessibleParts() override;
+  void DoAccessiblePart(const vcl::TAccessiblePath& part) override;
+
   /// A button was pressed; `keep`: with Shift.
   std::function<void(const vcl::TClass*, bool keep)> OnPick;
   /// A class was double-clicked.
@@ -46,6 +51,14 @@ class TPalettePage : public vcl::TCustomControl {
   static constexpr int NoPlace = -1;
   int FirstPlaces() const { return 1 + FFirst; }
   int Visible() const;
+  /// In pixels, at the dots per inch that the page is shown with.
+  struct TMeasures {
+    int Margin;  // Around a button's picture.
+    int Button;  // With that.
+    int PointerGap;
+    int Arrow;
+  };
+  TMeasures Measures() const;
   bool Fits() const;
   vcl::TRect PlaceRect(int place) const;
   int PlaceAt(vcl::TPoint point) const;

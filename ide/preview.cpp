@@ -55,24 +55,27 @@ class TPreviewForm : public TForm {
 
 }  // namespace
 
-void StartPreview(const std::string& text, const TPackages& packages) {
+void StartPreview(const std::string& text, const std::string& folder, const TPackages& packages) {
   const std::string file = TemporaryFile();
   ReplaceWholeFile(file, text);
   std::string line =
       Concat(Quoted(Application()->ExeName()), " --preview ", Quoted(file), " --remove");
+  if (!folder.empty()) line += Concat(" --frames ", Quoted(folder));
   for (const auto& each : packages.Entries()) {
     if (each->Package) line += Concat(" --package ", Quoted(each->FileName));
   }
   StartProcess(line);
 }
 
-int RunPreview(const std::string& fileName, const std::vector<std::string>& packages) {
+int RunPreview(const std::string& fileName, const std::string& folder,
+               const std::vector<std::string>& packages) {
   TPackages loaded;
   for (const std::string& each : packages) {
     const TPackageEntry& entry = loaded.Load(each);
     if (!entry.Error.empty()) std::fprintf(stderr, "%s\n", entry.Error.c_str());
   }
   TFormKeeper keeper;
+  keeper.Folder = folder;
   keeper.OnProblem = [](const std::string& message) {
     std::fprintf(stderr, "%s\n", message.c_str());
   };

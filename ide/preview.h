@@ -8,10 +8,12 @@
 
 namespace ide {
 
-/// Starts the process for the form's text. Raises EInOutError.
-void StartPreview(const std::string& text, const TPackages& packages);
+/// Starts the process for the form's text; the files of its frames are in the folder. Raises
+/// EInOutError.
+void StartPreview(const std::string& text, const std::string& folder, const TPackages& packages);
 /// What that process does: shows the form of the file until it is closed. What could not be used is
 /// written to the standard error output. Returns the exit code; raises like reading a form file.
-int RunPreview(const std::string& fileName, const std::vector<std::string>& packages);
+int RunPreview(const std::string& fileName, const std::string& folder,
+               const std::vector<std::string>& packages);
 
 }  // namespace ide

@@ -1,9 +1,16 @@
 // The stand-in for an unknown control, and making stand-ins while a form is read.
 #include "ide/standins.h"
 
+#include "ide/ancestors.h"
 #include "ide/formlinks.h"
+#include "vcl/forms/frames.h"
 #include "vcl/graphics/canvas.h"
+#include "vcl/rtl/classregistry.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/formfile.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
+#include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 
 namespace ide {
@@ -47,6 +54,35 @@ void TFormKeeper::Report(const std::string& message) {
 TComponent* TFormKeeper::MakeStandIn(TComponent* owner, bool visual) {
   if (visual) return new TStandInControl(owner);
   return new TStandInComponent(owner);
+}
+
+TComponent* TFormKeeper::MakeFrame(const std::string& className, TComponent* owner) {
+  if (GetClass(className)) return nullptr;
+  constexpr int deepest = 20;
+  if (FDepth >= deepest) throw EReadError(Concat("The frame ", className, " stands inside itself"));
+  const vcl::TSetFor deeper(FDepth, FDepth + 1);
+  const TAncestorFile file = FindFormFile(Folder, className, "The form");
+  auto frame = std::make_unique<TFrame>(owner);
+  if (!owner) frame->SetDesigning(true);
+  TFormOrigin origin = OriginOf(file.FileName, file.Bytes);
+  origin.Files.push_back(file);
+  for (const TAncestorFile& each : origin.Files) {
+    TStringStream stream(each.Bytes);
+    ReadComponentFile(stream, frame.get(), each.FileName, this);
+  }
+  return frame.release();
+}
+
+std::unique_ptr<TComponent> TFormKeeper::Pristine(const TComponent& frame) const {
+  const auto make = frame.ClassType().Maker().Component;
+  TFormKeeper quiet;
+  quiet.Folder = Folder;
+  try {
+    TComponent* made = quiet.MakeFrame(frame.FileClassName(), nullptr);
+    return std::unique_ptr<TComponent>(made || !make ? made : make(nullptr));
+  } catch (const Exception&) {
+    return nullptr;  // Its file has gone since it was read: the form keeps the frame whole.
+  }
 }
 
 TComponent* TFormKeeper::FindForm(std::string_view name) const {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,11 +39,21 @@ class TFormKeeper : public vcl::TReaderKeeper {
  public:
   void Report(const std::string& message) override;
   vcl::TComponent* MakeStandIn(vcl::TComponent* owner, bool visual) override;
+  /// A frame as the file of its class in the folder has it; null for a class that is registered.
+  vcl::TComponent* MakeFrame(const std::string& className, vcl::TComponent* owner) override;
   vcl::TComponent* FindForm(std::string_view name) const override;
+  /// The frame as nothing but its own file makes it; null when that is gone.
+  std::unique_ptr<vcl::TComponent> Pristine(const vcl::TComponent& frame) const;
+
+  /// Where the form files of frames are; empty before the form has a file.
+  std::string Folder;
 
   std::function<void(const std::string& message)> OnProblem;
   /// The other forms that are open.
   std::function<std::vector<vcl::TComponent*>()> Others;
+
+ private:
+  int FDepth = 0;  // How many frames are being made inside each other.
 };
 
 }  // namespace ide

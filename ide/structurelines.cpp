@@ -16,15 +16,18 @@ constexpr int MostInside = 4;  // Objects in objects; they might hold each other
 
 class TLister {
  public:
-  explicit TLister(vcl::TComponent& root) : FRoot(root) { AddComponent(root, 0); }
+  explicit TLister(vcl::TComponent& root) { AddComponent(root, root, 0); }
   std::vector<TStructureLine> Lines;
 
  private:
-  void AddComponent(vcl::TComponent& component, int depth) {
+  /// `owner` owns what stands inside: the root or a frame.
+  void AddComponent(vcl::TComponent& component, vcl::TComponent& owner, int depth) {
     const std::string text = Concat(component.Name(), ": ", component.FileClassName());
     Lines.push_back({depth, text, &component, nullptr, {}, component.Name()});
     AddCollections(component, component.Name(), depth + 1, 0);
-    component.GetChildren([&](vcl::TComponent* child) { AddComponent(*child, depth + 1); }, &FRoot);
+    vcl::TComponent& inside = component.Inline() ? component : owner;
+    component.GetChildren([&](vcl::TComponent* child) { AddComponent(*child, inside, depth + 1); },
+                          &inside);
   }
 
   /// The collections among the object's properties, and in the objects behind them.
@@ -53,8 +56,6 @@ class TLister {
       if (inside < MostInside) AddCollections(item, name, depth + 1, inside + 1);
     }
   }
-
-  vcl::TComponent& FRoot;
 };
 
 }  // namespace

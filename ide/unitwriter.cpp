@@ -34,6 +34,7 @@ std::string Stub(const TUnitForm& form, const TUnitHandler& handler) {
 /// A class without fields, handlers and lines in its table, to be brought up to date.
 std::string NewHeader(const TUnitForm& form) {
   return Concat("// ", form.ClassName, ": the form of ", form.UnitName, ".dfm.\n#pragma once\n\n",
+                form.BaseHeader.empty() ? "" : Concat("#include \"", form.BaseHeader, "\"\n"),
                 "#include \"vcl/vcl.h\"\n\nclass ", form.ClassName, " : public ", form.Base,
                 " {\n public:\n  explicit ", form.ClassName,
                 "(vcl::TComponent* owner);\n  static const vcl::TClass& Class();\n"
@@ -42,12 +43,15 @@ std::string NewHeader(const TUnitForm& form) {
 }
 std::string NewSource(const TUnitForm& form) {
   const std::string& name = form.ClassName;
+  // The base's form file is not the last one.
+  const std::string owner =
+      form.BaseHeader.empty() ? "owner" : Concat("vcl::InheritedBy<", name, ">(owner)");
   return Concat("#include \"", form.UnitName, ".h\"\n\nconst vcl::TClass& ", name,
                 "::Class() {\n  static const vcl::TClass info = vcl::Describe<", name, ", ",
                 form.Base, ">(\n      \"", name, "\", \"", form.UnitName,
                 "\",\n      {\n      });\n  return info;\n}\n\n", name, "::", name,
-                "(vcl::TComponent* owner) : ", form.Base.substr(form.Base.rfind(':') + 1),
-                "(owner) { LoadForm(); }\n");
+                "(vcl::TComponent* owner) : ", form.Base.substr(form.Base.rfind(':') + 1), "(",
+                owner, ") { ", form.Loader, "(); }\n");
 }
 
 // What is refused.

@@ -26,11 +26,15 @@ struct TUnitHandler {
 struct TUnitForm {
   std::string ClassName;
   std::string Base = "vcl::TForm";
+  /// What declares the base class, which has a form file of its own; empty for one of this library.
+  std::string BaseHeader;
   std::string UnitName;  // The files' name without folder and ending.
   std::vector<TUnitField> Fields;
   std::vector<TUnitHandler> Handlers;
   /// The form holds what the designer doesn't know: nothing is taken for gone.
   bool Incomplete = false;
+  /// What the constructor reads the form file with.
+  std::string Loader = "LoadForm";
 };
 
 struct TUnitTexts {

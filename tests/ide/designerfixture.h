@@ -56,7 +56,7 @@ class UnstartedDesigner : public ::testing::Test {
 
   TFormDesigner& It() { return Window->FormDesigner(); }
   TFormDocument& Document() { return It().Document(); }
-  TForm& Root() { return Document().Root(); }
+  TForm& Root() { return dynamic_cast<TForm&>(Document().Root()); }
   std::string File(const char* name) { return (Folder.Path / name).string(); }
   void Write(const char* name, const std::string& text) {
     std::ofstream(Folder.Path / name, std::ios::binary) << text;

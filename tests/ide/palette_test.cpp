@@ -118,7 +118,7 @@ TEST(PaletteIcons, AreDrawnOverWhatIsThere) {
   vcl::TBitmap picture(IconSize, IconSize);
   picture.Canvas()->Brush()->SetColor(vcl::clRed);
   picture.Canvas()->FillRect({0, 0, IconSize, IconSize});
-  DrawIcon(*picture.Canvas(), 0, 0, ComponentIcon(vcl::TTimer::Class()));
+  DrawIcon(*picture.Canvas(), {0, 0, IconSize, IconSize}, ComponentIcon(vcl::TTimer::Class()));
   EXPECT_EQ(picture.Canvas()->Pixels(0, 0), vcl::clRed) << "outside the clock";
   EXPECT_EQ(picture.Canvas()->Pixels(8, 12), vcl::clWhite) << "its face";
 }

@@ -33,7 +33,7 @@ TUnitField Button(const char* name) {
 TUnitHandler Click(const char* name) { return {name, "TNotifyEvent", "vcl::TObject* sender"}; }
 
 TUnitForm Form(std::vector<TUnitField> fields, std::vector<TUnitHandler> handlers) {
-  return {"TMain", "vcl::TForm", "main", std::move(fields), std::move(handlers), false};
+  return {"TMain", "vcl::TForm", "", "main", std::move(fields), std::move(handlers), false};
 }
 
 constexpr const char* Header = R"(// By hand.

@@ -5,4 +5,6 @@ namespace vcl {
 
 TDesigner::~TDesigner() = default;
 
+const TObject* TDesigner::AncestorOf(const TObject&) const { return nullptr; }
+
 }  // namespace vcl

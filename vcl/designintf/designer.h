@@ -49,6 +49,10 @@ class VCL_API TDesigner {
   /// How a reference to the component is spelled; the inverse of FindComponent.
   virtual std::string NameOf(const TComponent& component) const = 0;
 
+  /// What the object of the form is in the form that this one descends from; null for what is new
+  /// here, and for a form that descends from none. Its class is the object's.
+  virtual const TObject* AncestorOf(const TObject& object) const;
+
   /// What is selected: components, or items of a collection; the root when nothing else is.
   virtual std::vector<TPersistent*> Selection() const = 0;
   virtual void SetSelection(const std::vector<TPersistent*>& selection) = 0;

@@ -74,16 +74,39 @@ bool TPropertyEditor::AllEqual() const {
   return true;
 }
 
+namespace {
+
+/// The ancestor's value as the object would have it: a component by its name.
+TValue InheritedValue(const TEditedProperty& edited, const TObject& ancestor,
+                      const TDesigner& designer) {
+  TValue value = edited.Property->Get(ancestor);
+  const auto* reference = std::get_if<TObject*>(&value);
+  const auto* component = reference ? dynamic_cast<TComponent*>(*reference) : nullptr;
+  if (!component) return value;
+  return static_cast<TObject*>(designer.FindComponent(component->Name()));
+}
+
+}  // namespace
+
 bool TPropertyEditor::IsDefault() const {
-  return std::ranges::none_of(FEdited, [](const TEditedProperty& each) {
-    return each.Property->NeedsWriting(*each.Object);
+  return std::ranges::none_of(FEdited, [this](const TEditedProperty& each) {
+    const TObject* ancestor = FDesigner.AncestorOf(*each.Object);
+    if (!ancestor || each.Property->ReadOnly()) return each.Property->NeedsWriting(*each.Object);
+    return each.Property->IsStored(*each.Object) &&
+           each.Property->Get(*each.Object) != InheritedValue(each, *ancestor, FDesigner);
+  });
+}
+
+bool TPropertyEditor::Inherits() const {
+  return std::ranges::all_of(FEdited, [this](const TEditedProperty& each) {
+    return FDesigner.AncestorOf(*each.Object) != nullptr;
   });
 }
 
 bool TPropertyEditor::CanRevert() const {
   return Offers(paRevertable) && !ReadOnly() &&
-         std::ranges::all_of(FEdited, [](const TEditedProperty& each) {
-           return each.Property->DefaultValue.has_value();
+         std::ranges::all_of(FEdited, [this](const TEditedProperty& each) {
+           return each.Property->DefaultValue.has_value() || FDesigner.AncestorOf(*each.Object);
          });
 }
 
@@ -91,7 +114,11 @@ void TPropertyEditor::Revert() {
   if (!TPropertyEditor::CanRevert()) {
     throw EPropertyError(Concat("Property ", GetName(), " has no default to go back to"));
   }
-  SetAll(*PropInfo().DefaultValue);
+  ChangeAll(&KeepValue, [this](const TEditedProperty& each) {
+    const TObject* ancestor = FDesigner.AncestorOf(*each.Object);
+    each.Property->Set(*each.Object, ancestor ? InheritedValue(each, *ancestor, FDesigner)
+                                              : *each.Property->DefaultValue);
+  });
 }
 
 bool TPropertyEditor::ReadOnly() const {

@@ -66,12 +66,15 @@ class VCL_API TPropertyEditor {
   virtual void Activate() {}
   /// True when all objects have the same value.
   virtual bool AllEqual() const;
-  /// True when a form file would hold the property of none of the objects. An inspector marks the
-  /// others.
+  /// True when a form file would hold the property of none of the objects: each is at its default,
+  /// or at what it inherits. An inspector marks the others.
   virtual bool IsDefault() const;
-  /// True when `Revert` has a default to go back to.
+  /// True when `Revert` has an inherited value or a default to go back to.
   virtual bool CanRevert() const;
-  /// Gives all objects the declared default. Raises EPropertyError when there is none.
+  /// True when the objects have what `Revert` goes back to from the form that theirs descends from.
+  bool Inherits() const;
+  /// Gives each object the inherited value (TDesigner::AncestorOf), where there is none the
+  /// declared default. Raises EPropertyError when there is neither.
   virtual void Revert();
 
   /// The value that all objects have; empty when they differ.

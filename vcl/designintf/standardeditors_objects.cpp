@@ -206,19 +206,41 @@ bool TMethodProperty::AllEqual() const {
       Edited(), [this](const TEditedProperty& each) { return HandlerOf(each) == GetValue(); });
 }
 
-bool TMethodProperty::IsDefault() const {
-  return std::ranges::all_of(
-      Edited(), [this](const TEditedProperty& each) { return HandlerOf(each).empty(); });
+namespace {
+
+/// The handler that the object inherits; empty for none.
+std::string InheritedHandler(const TEditedProperty& edited, const TDesigner& designer) {
+  const TObject* ancestor = designer.AncestorOf(*edited.Object);
+  if (!ancestor) return {};
+  return edited.Property->EventOf(const_cast<TObject&>(*ancestor)).HandlerName();
 }
 
-void TMethodProperty::Revert() { SetHandlers({}); }
+}  // namespace
+
+bool TMethodProperty::IsDefault() const {
+  return std::ranges::all_of(Edited(), [this](const TEditedProperty& each) {
+    return SameText(HandlerOf(each), InheritedHandler(each, Designer()));
+  });
+}
+
+void TMethodProperty::Revert() { SetHandlers(InheritedHandler(Edited().front(), Designer())); }
 
 namespace {
 
-/// What a handler is named after: the component, the form as such, or the class of another object.
+/// What a handler is named after: the form, frame or data module as such, the component, behind the
+/// frames that it is in, or the class of another object.
 std::string SubjectOf(const TObject& object, const TDesigner& designer) {
-  if (&object == &designer.Root()) return "Form";
-  if (const auto* component = dynamic_cast<const TComponent*>(&object)) return component->Name();
+  if (&object == &designer.Root()) {
+    for (const char* each : {"Frame", "DataModule"}) {
+      if (object.ClassName() == std::string("T") + each) return each;
+    }
+    return "Form";
+  }
+  if (const auto* component = dynamic_cast<const TComponent*>(&object)) {
+    const TComponent* owner = component->Owner();
+    const bool inFrame = owner && owner->Inline() && owner != &designer.Root();
+    return (inFrame ? SubjectOf(*owner, designer) : std::string()) + component->Name();
+  }
   return object.ClassName().substr(object.ClassName().starts_with('T') ? 1 : 0);
 }
 

@@ -12,6 +12,40 @@
 #include <oleacc.h>
 
 namespace vcl {
+
+// The header that has no system's header repeats its numbers.
+static_assert(arToolTip == ROLE_SYSTEM_TOOLTIP && arWindow == ROLE_SYSTEM_WINDOW);
+static_assert(arClient == ROLE_SYSTEM_CLIENT && arPane == ROLE_SYSTEM_PANE);
+static_assert(arDialog == ROLE_SYSTEM_DIALOG && arGrouping == ROLE_SYSTEM_GROUPING);
+static_assert(arSeparator == ROLE_SYSTEM_SEPARATOR && arToolBar == ROLE_SYSTEM_TOOLBAR);
+static_assert(arStatusBar == ROLE_SYSTEM_STATUSBAR && arTable == ROLE_SYSTEM_TABLE);
+static_assert(arColumnHeader == ROLE_SYSTEM_COLUMNHEADER && arRow == ROLE_SYSTEM_ROW);
+static_assert(arCell == ROLE_SYSTEM_CELL && arList == ROLE_SYSTEM_LIST);
+static_assert(arListItem == ROLE_SYSTEM_LISTITEM && arOutline == ROLE_SYSTEM_OUTLINE);
+static_assert(arPageTab == ROLE_SYSTEM_PAGETAB && arPropertyPage == ROLE_SYSTEM_PROPERTYPAGE);
+static_assert(arGraphic == ROLE_SYSTEM_GRAPHIC && arStaticText == ROLE_SYSTEM_STATICTEXT);
+static_assert(arText == ROLE_SYSTEM_TEXT && arPushButton == ROLE_SYSTEM_PUSHBUTTON);
+static_assert(arCheckBox == ROLE_SYSTEM_CHECKBUTTON && arRadioButton == ROLE_SYSTEM_RADIOBUTTON);
+static_assert(arComboBox == ROLE_SYSTEM_COMBOBOX && arProgressBar == ROLE_SYSTEM_PROGRESSBAR);
+static_assert(arSlider == ROLE_SYSTEM_SLIDER && arSpinButton == ROLE_SYSTEM_SPINBUTTON);
+static_assert(arPageTabList == ROLE_SYSTEM_PAGETABLIST);
+
+static_assert(TAccessibleState{asDisabled}.Bits() == STATE_SYSTEM_UNAVAILABLE);
+static_assert(TAccessibleState{asSelected}.Bits() == STATE_SYSTEM_SELECTED);
+static_assert(TAccessibleState{asFocused}.Bits() == STATE_SYSTEM_FOCUSED);
+static_assert(TAccessibleState{asPressed}.Bits() == STATE_SYSTEM_PRESSED);
+static_assert(TAccessibleState{asChecked}.Bits() == STATE_SYSTEM_CHECKED);
+static_assert(TAccessibleState{asMixed}.Bits() == STATE_SYSTEM_MIXED);
+static_assert(TAccessibleState{asReadOnly}.Bits() == STATE_SYSTEM_READONLY);
+static_assert(TAccessibleState{asDefault}.Bits() == STATE_SYSTEM_DEFAULT);
+static_assert(TAccessibleState{asExpanded}.Bits() == STATE_SYSTEM_EXPANDED);
+static_assert(TAccessibleState{asCollapsed}.Bits() == STATE_SYSTEM_COLLAPSED);
+static_assert(TAccessibleState{asInvisible}.Bits() == STATE_SYSTEM_INVISIBLE);
+static_assert(TAccessibleState{asOffscreen}.Bits() == STATE_SYSTEM_OFFSCREEN);
+static_assert(TAccessibleState{asFocusable}.Bits() == STATE_SYSTEM_FOCUSABLE);
+static_assert(TAccessibleState{asSelectable}.Bits() == STATE_SYSTEM_SELECTABLE);
+static_assert(TAccessibleState{asProtected}.Bits() == STATE_SYSTEM_PROTECTED);
+
 namespace {
 
 using TFound = std::optional<TAccessibleNode>;
