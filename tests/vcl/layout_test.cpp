@@ -89,6 +89,41 @@ TEST_F(Layout, AFormFileKeepsAnchorsAndLimits) {
   EXPECT_THAT(FormText(&Form), ::testing::HasSubstr(text.substr(text.find("    Left = 150"))));
 }
 
+TEST_F(Layout, AnchorsOnAPageCountFromItsPageControl) {
+  RegisterStandardClasses();
+  TForm written(nullptr);
+  written.SetName("Written");
+  written.SetBounds(0, 0, 400, 300);
+  auto* pages = new TPageControl(&written);
+  pages->SetName("Pages");
+  pages->SetParent(&written);
+  pages->SetBounds(10, 10, 300, 200);
+  pages->SetAnchors({akLeft, akTop, akRight, akBottom});
+  auto* page = new TTabSheet(&written);
+  page->SetName("Page");
+  page->SetPageControl(pages);
+  auto* edit = new TMemo(&written);
+  edit->SetName("Memo");
+  edit->SetParent(page);
+  edit->SetBounds(5, 5, 200, 100);
+  edit->SetAnchors({akLeft, akTop, akRight, akBottom});
+  const std::string text = FormText(&written);
+  for (const bool resizedFirst : {false, true}) {
+    TForm read(nullptr);
+    ReadForm(text, &read);
+    auto* memo = dynamic_cast<TMemo*>(read.FindComponent("Memo"));
+    ASSERT_NE(memo, nullptr);
+    EXPECT_EQ(memo->BoundsRect(), TRect(5, 5, 205, 105));
+    if (resizedFirst) read.SetWidth(read.Width() + 50);
+    read.Show();
+    if (!resizedFirst) read.SetWidth(read.Width() + 50);
+    EXPECT_EQ(memo->BoundsRect(), TRect(5, 5, 255, 105));
+    read.SetWidth(read.Width() - 50);
+    EXPECT_EQ(memo->BoundsRect(), TRect(5, 5, 205, 105));
+    EXPECT_EQ(FormText(&read), text);
+  }
+}
+
 TEST_F(Layout, LimitsHoldWhoeverSizesTheControl) {
   auto* panel = Make<TPanel>(0, 0, 100, 50);
   panel->Constraints()->SetMinWidth(80);

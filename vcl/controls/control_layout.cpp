@@ -128,8 +128,10 @@ void TControl::ScrollBounds(int dx, int dy) {
 /// Remembers the control's place as the one that the anchors keep.
 void TControl::KeepPlace() {
   if (FAnchoring || !FParent || FAnchors == TAnchors{akLeft, akTop}) return;
+  const TWinControl& giver = *FParent->SizeGiver();
+  if (&giver != FParent && giver.Loading()) return;  // The parent has no size yet.
   const TSize inside = FParent->ClientRect().Size();
-  const bool window = FParent->HandleAllocated();
+  const bool window = giver.HandleAllocated();
   if (!FPlace.Known || FPlace.WithWindow != window) {
     FPlace.Bounds = BoundsRect();
     FPlace.Inside = inside;
@@ -141,17 +143,18 @@ void TControl::KeepPlace() {
   KeepSpan(y, FPlace.Inside.cy, {FTop, FTop + FHeight},
            {FAnchors.Has(akTop), FAnchors.Has(akBottom)}, inside.cy);
   FPlace.Bounds = {x.Begin, y.Begin, x.End, y.End};
-  FPlace.Parent = {FParent->Width(), FParent->Height()};
+  FPlace.Parent = {giver.Width(), giver.Height()};
   FPlace.WithWindow = window;
   FPlace.Known = true;
 }
 
 void TControl::MoveByAnchors(TSize inside) {
   if (FAnchors == TAnchors{akLeft, akTop}) return;
-  const TSize parent{FParent->Width(), FParent->Height()};
+  const TWinControl& giver = *FParent->SizeGiver();
+  const TSize parent{giver.Width(), giver.Height()};
   // The parent's window has been made since: its border takes what was counted as its inside.
   const bool onlyBorder =
-      FPlace.Known && !FPlace.WithWindow && FParent->HandleAllocated() && parent == FPlace.Parent;
+      FPlace.Known && !FPlace.WithWindow && giver.HandleAllocated() && parent == FPlace.Parent;
   if (!FPlace.Known || onlyBorder) return KeepPlace();
   const TRect& kept = FPlace.Bounds;
   const TSpan x = Anchored({kept.Left, kept.Right}, {FAnchors.Has(akLeft), FAnchors.Has(akRight)},

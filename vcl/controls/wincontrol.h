@@ -214,6 +214,9 @@ class VCL_API TWinControl : public TControl {
   /// Whether the place or size of a control without Align counts for how the controls inside are
   /// arranged. Here: with AutoSize.
   virtual bool ArrangesFree() const { return FAutoSize; }
+  /// The control whose size and window decide this one's size: itself, but for a page, which fills
+  /// the inside of its page control. Anchors inside count from there.
+  virtual const TWinControl* SizeGiver() const { return this; }
   /// Arranges one group of controls after another in the rectangle.
   virtual void AlignControls(TControl* control, TRect& rect);
   void ChangeScale(int m, int d) override;

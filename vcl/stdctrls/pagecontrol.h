@@ -119,6 +119,7 @@ class VCL_API TTabSheet : public TWinControl {
 
  protected:
   void Dispatch(TMessage& message) override;
+  const TWinControl* SizeGiver() const override;
 
  private:
   bool FTabVisible = true;

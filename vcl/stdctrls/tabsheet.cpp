@@ -52,6 +52,10 @@ TTabSheet::~TTabSheet() {
 }
 
 TPageControl* TTabSheet::PageControl() const { return dynamic_cast<TPageControl*>(Parent()); }
+const TWinControl* TTabSheet::SizeGiver() const {
+  const TWinControl* pages = PageControl();
+  return pages ? pages : this;
+}
 void TTabSheet::SetPageControl(TPageControl* pageControl) { SetParent(pageControl); }
 
 void TTabSheet::SetParent(TWinControl* parent) {
