@@ -59,7 +59,7 @@ void RegisterStandardPages() {
        {&TPageControl::Class(), &TImageList::Class(), &TTrackBar::Class(), &TTreeView::Class(),
         &TStatusBar::Class(), &TProgressBar::Class(), &TUpDown::Class(), &THotKey::Class(),
         &TDateTimePicker::Class(), &TMonthCalendar::Class()}},
-      {"System", {&TTimer::Class(), &TPaintBox::Class()}},
+      {"System", {&TTimer::Class(), &TPaintBox::Class(), &TProcess::Class()}},
       {"Data Access", {&TDataSource::Class(), &TMemoryDataSet::Class(), &TOdbcQuery::Class()}},
       {"Data Controls", {&TDBEdit::Class(), &TDBGrid::Class()}},
       {"Dialogs",

@@ -28,3 +28,4 @@
 #include "vcl/stdctrls/comctrls.h"
 #include "vcl/stdctrls/extctrls.h"
 #include "vcl/stdctrls/stdctrls.h"
+#include "vcl/system/process.h"

@@ -29,7 +29,7 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
     return rooms;
   };
   static const std::set<std::string> dialogs = with(window, {"vcl/stdctrls", "vcl/dialogs"});
-  static const std::set<std::string> vcl = with(dialogs, {"vcl/stdactions"});
+  static const std::set<std::string> vcl = with(dialogs, {"vcl/stdactions", "vcl/system"});
   static const std::set<std::string> component = with(vcl, {"qel/core"});
   static const std::set<std::string> application =
       with(component, {"vcl", "vcl/net", "vcl/db", "vcl/dbctrls", "qel", "qel/controls", "qel/data",
@@ -38,6 +38,7 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"vcl/rtl", {}},
       {"vcl/net", rtl},
       {"vcl/db", rtl},
+      {"vcl/system", rtl},
       {"vcl/graphics", rtl},
       {"vcl/controls", window},
       {"vcl/menus", window},

@@ -161,6 +161,7 @@ void TControl::MoveByAnchors(TSize inside) {
                            FPlace.Inside.cx, inside.cx);
   const TSpan y = Anchored({kept.Top, kept.Bottom}, {FAnchors.Has(akTop), FAnchors.Has(akBottom)},
                            FPlace.Inside.cy, inside.cy);
+  if (!giver.HandleAllocated()) FPlace.Parent = parent;
   const TSetFor anchoring(FAnchoring, true, this);
   SetBounds(x.Begin, y.Begin, x.End - x.Begin, y.End - y.Begin);
 }

@@ -143,7 +143,8 @@ void TWinControl::ChangeScale(int m, int d) {
 /// A window that is yet to be made takes its border from sizes as they are now.
 void TWinControl::KeepParentSizes() {
   for (TControl* each : FControls) {
-    if (!FHandle) each->FPlace.Parent = {Width(), Height()};
+    const TWinControl& giver = *SizeGiver();
+    if (!giver.FHandle) each->FPlace.Parent = {giver.FWidth, giver.FHeight};
     if (auto* window = dynamic_cast<TWinControl*>(each)) window->KeepParentSizes();
   }
 }

@@ -12,6 +12,7 @@
 #include "vcl/stdctrls/comctrls.h"
 #include "vcl/stdctrls/extctrls.h"
 #include "vcl/stdctrls/stdctrls.h"
+#include "vcl/system/process.h"
 
 namespace vcl {
 
@@ -30,9 +31,9 @@ void RegisterStandardClasses() {
     RegisterClasses(
         {&TFlowPanel::Class(), &TGridPanel::Class(), &TScrollBox::Class(), &TSplitter::Class()});
     RegisterClasses({&TCheckListBox::Class(), &TDateTimePicker::Class(), &THotKey::Class(),
-                     &TMonthCalendar::Class(), &TPaintBox::Class(), &TProgressBar::Class(),
-                     &TRadioGroup::Class(), &TScrollBar::Class(), &TShape::Class(),
-                     &TStaticText::Class(), &TUpDown::Class()});
+                     &TMonthCalendar::Class(), &TPaintBox::Class(), &TProcess::Class(),
+                     &TProgressBar::Class(), &TRadioGroup::Class(), &TScrollBar::Class(),
+                     &TShape::Class(), &TStaticText::Class(), &TUpDown::Class()});
     RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
                      &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),
                      &TEditSelectAll::Class(), &TEditUndo::Class(), &TFileExit::Class(),

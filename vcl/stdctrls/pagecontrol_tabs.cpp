@@ -29,8 +29,11 @@ void TPageControl::CreateParams(TCreateParams& params) {
 }
 
 void TPageControl::CreateWnd() {
+  // The pages are placed once the tabs have taken their room.
+  DisableAlign();
   TWinControl::CreateWnd();
   UpdateTabs();
+  EnableAlign();
 }
 
 /// Gives the window the tabs anew. Their rows may have become more or fewer, and the pages' place
