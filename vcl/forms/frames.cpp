@@ -14,16 +14,15 @@ const TClass& TCustomFrame::Class() {
 }
 
 const TClass& TFrame::Class() {
-  static const TClass info = Describe<TFrame, TCustomFrame>(
-      "vcl::TFrame", "vcl/forms/frames.h",
-      {
-          Inherit("Align"),
-          Inherit("AutoSize"),
-          Inherit("Color"),
-          Inherit("DoubleBuffered"),
-          Inherit(ContainerProperties),
-          Inherit(ContainerEvents),
-      });
+  static const TClass info = Describe<TFrame, TCustomFrame>("vcl::TFrame", "vcl/forms/frames.h",
+                                                            {
+                                                                Inherit("Align"),
+                                                                Inherit("AutoSize"),
+                                                                Inherit("Color"),
+                                                                Inherit("DoubleBuffered"),
+                                                                Inherit(ContainerProperties),
+                                                                Inherit(ContainerEvents),
+                                                            });
   return info;
 }
 

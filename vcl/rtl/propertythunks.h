@@ -1,5 +1,5 @@
-// What lies between a table of published properties and a class's members: what is known of a member
-// from its type, and the functions that call it for any object of the class.
+// What lies between a table of published properties and a class's members: what a member's type
+// says of it, and the functions that call it for any object of the class.
 #pragma once
 
 #include <cstdint>

@@ -53,7 +53,7 @@ std::wstring FindProgram(const std::string& fileName) {
   if (fileName.find_first_of("\\/:") != std::string::npos) {
     return ToUtf16(ending.empty() ? fileName + ".exe" : fileName);
   }
-  const std::wstring file = Found(ToUtf16(fileName));
+  std::wstring file = Found(ToUtf16(fileName));
   if (file.empty()) {
     throw EProcessError(
         Concat("There is no program ", fileName, " in the system's folder or along PATH"));
@@ -106,7 +106,12 @@ std::wstring EnvironmentBlock(const TStrings& changes) {
     }
   }
   std::wstring block;
-  for (const auto& [name, value] : variables) block += name + L'=' + value + L'\0';
+  for (const auto& [name, value] : variables) {
+    block += name;
+    block += L'=';
+    block += value;
+    block += L'\0';
+  }
   return block + L'\0';
 }
 
