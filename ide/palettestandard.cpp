@@ -57,7 +57,7 @@ void RegisterStandardPages() {
         &TGridPanel::Class()}},
       {"Win32",
        {&TPageControl::Class(), &TImageList::Class(), &TTrackBar::Class(), &TTreeView::Class(),
-        &TStatusBar::Class(), &TProgressBar::Class(), &TUpDown::Class()}},
+        &TListView::Class(), &TStatusBar::Class(), &TProgressBar::Class(), &TUpDown::Class()}},
       {"System", {&TTimer::Class(), &TPaintBox::Class()}},
       {"Data Access", {&TDataSource::Class(), &TMemoryDataSet::Class(), &TOdbcQuery::Class()}},
       {"Data Controls", {&TDBEdit::Class(), &TDBGrid::Class()}},

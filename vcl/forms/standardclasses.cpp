@@ -29,8 +29,8 @@ void RegisterStandardClasses() {
                      &TTreeView::Class(),   &TFrame::Class()});
     RegisterClasses(
         {&TFlowPanel::Class(), &TGridPanel::Class(), &TScrollBox::Class(), &TSplitter::Class()});
-    RegisterClasses({&TPaintBox::Class(), &TProgressBar::Class(), &TScrollBar::Class(),
-                     &TShape::Class(), &TUpDown::Class()});
+    RegisterClasses({&TListView::Class(), &TPaintBox::Class(), &TProgressBar::Class(),
+                     &TScrollBar::Class(), &TShape::Class(), &TUpDown::Class()});
     RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
                      &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),
                      &TEditSelectAll::Class(), &TEditUndo::Class(), &TFileExit::Class(),

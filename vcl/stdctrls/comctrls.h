@@ -1,7 +1,8 @@
-// The system's common controls: pages, status bars, track bars, progress bars, arrows that count and
-// tree views.
+// The system's common controls: pages, status bars, track bars, progress bars, arrows that count,
+// tree views and list views.
 #pragma once
 
+#include "vcl/stdctrls/listview.h"
 #include "vcl/stdctrls/pagecontrol.h"
 #include "vcl/stdctrls/progressbar.h"
 #include "vcl/stdctrls/statusbar.h"
