@@ -43,7 +43,9 @@ bool Bind(TEventBase& event, const std::function<void()>& call) {
          BindAs<TObject*, TMouseButton, TShiftState, int, int>(event, call) ||
          BindAs<TObject*, TShiftState, int, int>(event, call) ||
          BindAs<TObject*, bool&>(event, call) || BindAs<TObject*, TTreeNode*>(event, call) ||
-         BindAs<TObject*, TTreeNode*, bool&>(event, call);
+         BindAs<TObject*, TTreeNode*, bool&>(event, call) ||
+         BindAs<TObject*, TListItem*, TItemChange>(event, call) ||
+         BindAs<TObject*, TListItem*, bool>(event, call);
 }
 
 enum class TVictim { Control, Panel, Form };
@@ -62,6 +64,10 @@ class TScene {
     Control = dynamic_cast<TControl*>(tested.Maker().Component(Form));
     Control->SetParent(Panel);
     Control->SetBounds(5, 5, 80, 30);
+    if (auto* list = dynamic_cast<TCustomListView*>(Control)) {
+      list->SetViewStyle(vsList);
+      for (const char* each : {"one", "two"}) list->Items()->AddItem(each);
+    }
     FForm.emplace(Form);
     FPanel.emplace(Panel);
     FOther.emplace(Other);

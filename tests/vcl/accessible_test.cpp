@@ -45,6 +45,7 @@ constexpr TExpected Expected[] = {
     {"TImage", ROLE_SYSTEM_GRAPHIC, ""},
     {"TLabel", ROLE_SYSTEM_STATICTEXT, ""},
     {"TListBox", ROLE_SYSTEM_LIST, ""},
+    {"TListView", ROLE_SYSTEM_LIST, ""},
     {"TMemo", ROLE_SYSTEM_TEXT, ""},
     {"TPageControl", ROLE_SYSTEM_PAGETABLIST, ""},
     {"TPanel", ROLE_SYSTEM_PANE, ""},

@@ -554,6 +554,7 @@ TEST_F(ListViews, FormFilesKeepColumnsGroupsAndItems) {
   item->SetSubItemImage(1, 4);
   item->SetChecked(true);
   item->SetStateIndex(0);
+  View->SetParent(nullptr);
   const std::string text = FormText(View);
   EXPECT_NE(text.find("SubItemImages = '-1,4'"), std::string::npos) << text;
   TListView copy(nullptr);

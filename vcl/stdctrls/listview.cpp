@@ -109,8 +109,9 @@ void TCustomListView::SetShowColumnHeaders(bool show) {
 
 void TCustomListView::SetMultiSelect(bool multiSelect) {
   if (multiSelect == FMultiSelect) return;
-  ChangeWindow(FMultiSelect, multiSelect);
+  const TWatch watch(this);
   if (!multiSelect) DeselectOthers(Selected());
+  if (!watch.Gone()) ChangeWindow(FMultiSelect, multiSelect);
 }
 
 void TCustomListView::SetOwnerData(bool ownerData) {
@@ -214,7 +215,10 @@ void TCustomListView::SetItemIndex(int index) {
   TListItem* item = FItems->Items(index);
   const TWatch kept(item);
   item->SetSelected(true);
-  if (!watch.Gone() && !kept.Gone()) item->SetFocused(true);
+  if (watch.Gone() || kept.Gone()) return;
+  // A handler may have asked for other rows.
+  if (FOwnerData) item = FItems->Row(index);
+  item->SetFocused(true);
 }
 
 void TCustomListView::ClearSelection() { SetItemIndex(-1); }

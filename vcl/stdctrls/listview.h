@@ -324,6 +324,7 @@ class VCL_API TCustomListView : public TWinControl {
   unsigned ImageState(const TListItem& item) const;
   void KeepStates();
   void RestoreStates();
+  void RestoreTop();
   bool RowKept(int row) const;
   void KeepRow(int row, bool selected);
   void NewlyAdded(const std::vector<TCollectionItem*>& added);
@@ -383,11 +384,12 @@ class VCL_API TCustomListView : public TWinControl {
   bool FReadOnly = false;
   bool FRowSelect = false;
   bool FShowColumnHeaders = true;
-  bool FOwnDoing = false;  // What the window tells now is our own doing.
-  bool FInWindow = false;  // In the window's own procedure.
-  bool FFitting = false;   // The columns are getting their widths.
-  bool FClicked = false;   // The button came up while the window handled the press.
-  bool FPressing = false;  // A button's press is being handled.
+  bool FOwnDoing = false;     // What the window tells now is our own doing.
+  bool FInWindow = false;     // In the window's own procedure.
+  bool FHeaderWaits = false;  // Events wait until the header has done.
+  bool FFitting = false;      // The columns are getting their widths.
+  bool FClicked = false;      // The button came up while the window handled the press.
+  bool FPressing = false;     // A button's press is being handled.
 };
 
 /// A list view for forms.

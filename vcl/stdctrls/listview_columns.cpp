@@ -1,6 +1,7 @@
 // TCustomListView: columns, their header, and groups.
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/exceptions.h"
@@ -38,6 +39,10 @@ void TCustomListView::ColumnsChanged(TCollectionItem* item) {
 void TCustomListView::SendColumns() {
   const TSetFor fitting(FFitting, true, this);
   const int count = FColumns->Count();
+  // What the user has dragged since is the window's to say; other columns begin anew.
+  if (FColumnCount > 0) {
+    FColumnOrder = FColumnCount == count ? ColumnOrder() : std::vector<int>();
+  }
   while (FColumnCount > count) Send(*this, LVM_DELETECOLUMN, static_cast<WPARAM>(--FColumnCount));
   const bool more = FColumnCount < count;
   for (int i = 0; i < count; ++i) {
@@ -141,7 +146,9 @@ TListColumn* TCustomListView::ColumnAt(TPoint header) const {
 /// The header goes on after what it tells: the events come when it has done, by a message that is
 /// none.
 void TCustomListView::NotifyFromHeader(TMessage& message) {
-  const auto code = reinterpret_cast<const NMHDR*>(message.LParam)->code;
+  const auto& told = *reinterpret_cast<const NMHDR*>(message.LParam);
+  if (told.hwndFrom != HeaderOf(*this)) return TWinControl::Dispatch(message);
+  const auto code = told.code;
   const TWatch watch(this);
   {
     const TSetFor inside(FInWindow, true, this);
@@ -166,7 +173,9 @@ void TCustomListView::NotifyFromHeader(TMessage& message) {
       default: break;
     }
   }
-  if (!FPending.empty()) ::PostMessageW(Handle(), WM_NULL, 0, 0);
+  if (!FPending.empty() && !std::exchange(FHeaderWaits, true)) {
+    ::PostMessageW(Handle(), WM_NULL, 0, 0);
+  }
 }
 
 void TCustomListView::HeaderSized(TMessage& message) {

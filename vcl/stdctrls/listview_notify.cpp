@@ -80,7 +80,9 @@ void TCustomListView::DefaultHandler(TMessage& message) {
     const TSetFor inside(FInWindow, true, this);
     TWinControl::DefaultHandler(message);
   }
-  if (watch.Gone() || FInWindow) return;
+  // What the header told waits for a message of its own.
+  if (watch.Gone() || FInWindow || (FHeaderWaits && message.Msg != WM_NULL)) return;
+  FHeaderWaits = false;
   while (!watch.Gone() && !FPending.empty()) {
     const TPending next = std::move(FPending.front());
     FPending.erase(FPending.begin());

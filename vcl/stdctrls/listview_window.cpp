@@ -48,16 +48,19 @@ void TCustomListView::CreateWnd() {
   SendImages();
   Send(*this, WM_SETREDRAW, FALSE);
   FColumnCount = 0;
+  FHeaderWaits = false;
   SendColumns();
   SendGroups();
   if (FOwnerData) {
     Send(*this, LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
     RowsCounted();
   }
-  for (int i = 0; i < FItems->OwnCount(); ++i) InsertRow(FItems->Own(i), i);
   FItems->FMoved = false;
+  for (int i = 0; i < FItems->OwnCount(); ++i) InsertRow(FItems->Own(i), i);
   RestoreStates();
-  if (FItems->FHeld == 0) Send(*this, WM_SETREDRAW, TRUE);
+  if (FItems->FHeld > 0) return;
+  Send(*this, WM_SETREDRAW, TRUE);
+  RestoreTop();
 }
 
 void TCustomListView::DestroyWnd() {
@@ -286,6 +289,10 @@ void TCustomListView::RestoreStates() {
     }
     if (FKeptFocus >= 0) SendRowState(FKeptFocus, LVIS_FOCUSED, LVIS_FOCUSED);
   }
+}
+
+/// The window that is not painted does not scroll.
+void TCustomListView::RestoreTop() {
   if (FKeptTop <= 0 || FKeptTop >= FItems->Count()) return;
   // What is below it is in sight first, so that it comes to stand on top.
   Send(*this, LVM_ENSUREVISIBLE, static_cast<WPARAM>(FItems->Count() - 1));
