@@ -65,7 +65,7 @@ class TScene {
     Control->SetParent(Panel);
     Control->SetBounds(5, 5, 80, 30);
     if (auto* list = dynamic_cast<TCustomListView*>(Control)) {
-      list->SetViewStyle(vsList);
+      list->SetViewStyle(vsReport);
       for (const char* each : {"one", "two"}) list->Items()->AddItem(each);
     }
     FForm.emplace(Form);
@@ -159,7 +159,7 @@ class TScene {
         [this] { Tell(WM_LBUTTONUP, 0, inside); },
         [this] {
           // A tree's window waits for the button's release, behind which an edit's menu would come.
-          if (dynamic_cast<TCustomTreeView*>(Control))
+          if (dynamic_cast<TCustomTreeView*>(Control) || dynamic_cast<TCustomListView*>(Control))
             ::PostMessageW(Window()->Handle(), WM_RBUTTONUP, 0, inside);
           Tell(WM_RBUTTONDOWN, MK_RBUTTON, inside);
         },

@@ -220,6 +220,26 @@ void TCustomListView::KeyDown(std::uint16_t& key, TShiftState shift) {
   if (row >= 0) CheckRow(row);
 }
 
+namespace {
+
+/// Paints the header, which is a window of its own, with a list view that is painted on another
+/// context than its window's.
+void PaintHeader(TCustomListView& view, WPARAM context) {
+  const auto header = reinterpret_cast<HWND>(Send(view, LVM_GETHEADER));
+  if (!header || !::IsWindowVisible(header)) return;
+  RECT place;
+  ::GetWindowRect(header, &place);
+  ::MapWindowPoints(nullptr, view.Handle(), reinterpret_cast<POINT*>(&place), 2);
+  const auto dc = reinterpret_cast<HDC>(context);
+  POINT origin;
+  ::OffsetViewportOrgEx(dc, place.left, place.top, &origin);
+  ::SendMessageW(header, WM_ERASEBKGND, context, 0);
+  ::SendMessageW(header, WM_PAINT, context, 0);
+  ::SetViewportOrgEx(dc, origin.x, origin.y, nullptr);
+}
+
+}  // namespace
+
 void TCustomListView::Dispatch(TMessage& message) {
   switch (message.Msg) {
     case CN_NOTIFY: return NotifyFromWindow(message);
@@ -240,6 +260,7 @@ void TCustomListView::Dispatch(TMessage& message) {
   if (watch.Gone()) return;
   if (message.Msg == CM_COLORCHANGED || message.Msg == CM_FONTCHANGED) SendColors();
   if (message.Msg == WM_SIZE) FitColumns();
+  if (message.Msg == WM_PAINT && message.WParam != 0) PaintHeader(*this, message.WParam);
 }
 
 }  // namespace vcl

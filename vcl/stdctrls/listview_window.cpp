@@ -45,11 +45,11 @@ void TCustomListView::CreateWnd() {
   Send(*this, LVM_SETUNICODEFORMAT, TRUE);
   SendExtended();
   SendColors();
-  SendImages();
   Send(*this, WM_SETREDRAW, FALSE);
   FColumnCount = 0;
   FHeaderWaits = false;
   SendColumns();
+  SendImages();  // The header, which comes with the columns, gets them, too.
   SendGroups();
   if (FOwnerData) {
     Send(*this, LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
@@ -102,6 +102,10 @@ void TCustomListView::SendImages() {
   send(LVSIL_SMALL, FSmallImages);
   // The system draws checks of its own.
   if (!FCheckboxes || FStateImages.List) send(LVSIL_STATE, FStateImages);
+  if (const auto header = reinterpret_cast<HWND>(Send(*this, LVM_GETHEADER))) {
+    const HIMAGELIST small = FSmallImages.List ? FSmallImages.List->Handle() : nullptr;
+    ::SendMessageW(header, HDM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(small));
+  }
   Invalidate();
 }
 
