@@ -49,8 +49,8 @@ class VCL_API TCollectionItem : public TPersistent {
   std::unique_ptr<TKeptData> FKept;
 };
 
-/// What happens to one item of a collection: it has joined the list, though its own class's part may
-/// not have been made yet, or it has moved to another place there.
+/// What happens to one item of a collection: it has joined the list, though its own class's part
+/// may not have been made yet, or it has moved to another place there.
 enum class TCollectionChange { Joined, Moved };
 
 /// A list of items of one class, which it owns.
