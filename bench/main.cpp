@@ -1,5 +1,6 @@
-// Prints how long painting, forms, dates and settings take, as ratios to what the system itself or
-// the standard library needs, measured in one run; arguments name the groups that are measured.
+// Prints how long painting, forms, lists, dates and settings take, as ratios to what the system
+// itself or the standard library needs, measured in one run; arguments name the groups that are
+// measured.
 #include <algorithm>
 #include <cstdio>
 #include <string_view>
@@ -9,6 +10,7 @@
 #include "bench/dates.h"
 #include "bench/forms.h"
 #include "bench/gauge.h"
+#include "bench/lists.h"
 #include "bench/settings.h"
 #include "vcl/rtl/win32.h"
 
@@ -21,6 +23,7 @@ struct TGroup {
 constexpr TGroup Groups[] = {{"backgrounds", bench::Backgrounds},
                              {"gauge", bench::Gauge},
                              {"forms", bench::Forms},
+                             {"lists", bench::Lists},
                              {"dates", bench::Dates},
                              {"settings", bench::Settings}};
 

@@ -43,7 +43,9 @@ bool Bind(TEventBase& event, const std::function<void()>& call) {
          BindAs<TObject*, TMouseButton, TShiftState, int, int>(event, call) ||
          BindAs<TObject*, TShiftState, int, int>(event, call) ||
          BindAs<TObject*, bool&>(event, call) || BindAs<TObject*, TTreeNode*>(event, call) ||
-         BindAs<TObject*, TTreeNode*, bool&>(event, call);
+         BindAs<TObject*, TTreeNode*, bool&>(event, call) ||
+         BindAs<TObject*, TListItem*, TItemChange>(event, call) ||
+         BindAs<TObject*, TListItem*, bool>(event, call);
 }
 
 enum class TVictim { Control, Panel, Form };
@@ -62,6 +64,10 @@ class TScene {
     Control = dynamic_cast<TControl*>(tested.Maker().Component(Form));
     Control->SetParent(Panel);
     Control->SetBounds(5, 5, 80, 30);
+    if (auto* list = dynamic_cast<TCustomListView*>(Control)) {
+      list->SetViewStyle(vsReport);
+      for (const char* each : {"one", "two"}) list->Items()->AddItem(each);
+    }
     FForm.emplace(Form);
     FPanel.emplace(Panel);
     FOther.emplace(Other);
@@ -153,7 +159,7 @@ class TScene {
         [this] { Tell(WM_LBUTTONUP, 0, inside); },
         [this] {
           // A tree's window waits for the button's release, behind which an edit's menu would come.
-          if (dynamic_cast<TCustomTreeView*>(Control))
+          if (dynamic_cast<TCustomTreeView*>(Control) || dynamic_cast<TCustomListView*>(Control))
             ::PostMessageW(Window()->Handle(), WM_RBUTTONUP, 0, inside);
           Tell(WM_RBUTTONDOWN, MK_RBUTTON, inside);
         },

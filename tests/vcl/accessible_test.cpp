@@ -48,6 +48,7 @@ constexpr TExpected Expected[] = {
     {"TImage", ROLE_SYSTEM_GRAPHIC, ""},
     {"TLabel", ROLE_SYSTEM_STATICTEXT, ""},
     {"TListBox", ROLE_SYSTEM_LIST, ""},
+    {"TListView", ROLE_SYSTEM_LIST, ""},
     {"TMemo", ROLE_SYSTEM_TEXT, ""},
     {"TMonthCalendar", ROLE_SYSTEM_TABLE, ""},
     {"TPageControl", ROLE_SYSTEM_PAGETABLIST, ""},

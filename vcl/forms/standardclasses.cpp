@@ -31,9 +31,10 @@ void RegisterStandardClasses() {
     RegisterClasses(
         {&TFlowPanel::Class(), &TGridPanel::Class(), &TScrollBox::Class(), &TSplitter::Class()});
     RegisterClasses({&TCheckListBox::Class(), &TDateTimePicker::Class(), &THotKey::Class(),
-                     &TMonthCalendar::Class(), &TPaintBox::Class(), &TProcess::Class(),
-                     &TProgressBar::Class(), &TRadioGroup::Class(), &TScrollBar::Class(),
-                     &TShape::Class(), &TStaticText::Class(), &TUpDown::Class()});
+                     &TListView::Class(), &TMonthCalendar::Class(), &TPaintBox::Class(),
+                     &TProcess::Class(), &TProgressBar::Class(), &TRadioGroup::Class(),
+                     &TScrollBar::Class(), &TShape::Class(), &TStaticText::Class(),
+                     &TUpDown::Class()});
     RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
                      &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),
                      &TEditSelectAll::Class(), &TEditUndo::Class(), &TFileExit::Class(),

@@ -2,6 +2,7 @@
 #include "vcl/rtl/collection.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
@@ -29,18 +30,31 @@ TCollectionItem::~TCollectionItem() {
   if (FCollection) FCollection->Detach(this);
 }
 
+// Items seldom move far: it is looked for on both sides of its last place.
 int TCollectionItem::Index() const {
   if (!FCollection) return -1;
   const auto& items = FCollection->FItems;
-  return static_cast<int>(std::ranges::find(items, this) - items.begin());
+  std::size_t up = std::min(FPlace, items.size() - 1);
+  for (std::size_t down = up;; ++up) {
+    if (up < items.size() && items[up] == this) break;
+    if (items[down] == this) {
+      up = down;
+      break;
+    }
+    if (down > 0) --down;
+  }
+  FPlace = up;
+  return static_cast<int>(up);
 }
 
 void TCollectionItem::SetIndex(int index) {
   if (!FCollection || index == Index()) return;
   FCollection->CheckIndex(index, FCollection->Count());
   auto& items = FCollection->FItems;
-  std::erase(items, this);
+  items.erase(items.begin() + Index());
   items.insert(items.begin() + index, this);
+  FPlace = static_cast<std::size_t>(index);
+  FCollection->ItemChanged(this, TCollectionChange::Moved);
   Changed(true);
 }
 
@@ -130,12 +144,20 @@ void TCollection::Attach(TCollectionItem* item) {
   FItems.push_back(item);
   item->FCollection = this;
   item->FID = FNextID++;
+  item->FPlace = FItems.size() - 1;
+  ItemChanged(item, TCollectionChange::Joined);
   Changed(nullptr);
 }
 
 void TCollection::Detach(TCollectionItem* item) {
-  std::erase(FItems, item);
+  FItems.erase(FItems.begin() + item->Index());
   item->FCollection = nullptr;
+  Changed(nullptr);
+}
+
+void TCollection::Arrange(std::vector<TCollectionItem*> order) {
+  FItems = std::move(order);
+  for (std::size_t i = 0; i < FItems.size(); ++i) FItems[i]->FPlace = i;
   Changed(nullptr);
 }
 

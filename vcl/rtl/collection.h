@@ -1,6 +1,7 @@
 // TCollection: an ordered list of items with published properties of their own, kept in form files.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -44,8 +45,13 @@ class VCL_API TCollectionItem : public TPersistent {
   friend class TCollection;
   TCollection* FCollection = nullptr;
   int FID = 0;
+  mutable std::size_t FPlace = 0;  // Where it was last seen in the list.
   std::unique_ptr<TKeptData> FKept;
 };
+
+/// What happens to one item of a collection: it has joined the list, though its own class's part
+/// may not have been made yet, or it has moved to another place there.
+enum class TCollectionChange { Joined, Moved };
 
 /// A list of items of one class, which it owns.
 class VCL_API TCollection : public TPersistent {
@@ -84,6 +90,11 @@ class VCL_API TCollection : public TPersistent {
  protected:
   /// A change of an item, or of the list when null. The inherited method calls OnUpdate.
   virtual void Update(TCollectionItem* item);
+  /// Hears of each item at once, also between BeginUpdate and EndUpdate. Here: does nothing.
+  virtual void ItemChanged(TCollectionItem* /*item*/, TCollectionChange /*change*/) {}
+  /// Puts the items in an order of which the caller warrants that it holds the same items, once
+  /// each.
+  void Arrange(std::vector<TCollectionItem*> order);
 
  private:
   friend class TCollectionItem;

@@ -9,7 +9,7 @@
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/win32.h"
-#include "vcl/stdctrls/private/listitems.h"
+#include "vcl/stdctrls/private/listlines.h"
 
 namespace vcl {
 namespace {

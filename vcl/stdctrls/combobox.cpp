@@ -11,7 +11,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
-#include "vcl/stdctrls/private/listitems.h"
+#include "vcl/stdctrls/private/listlines.h"
 
 namespace vcl {
 

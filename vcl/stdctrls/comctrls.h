@@ -1,9 +1,10 @@
 // The system's common controls: pages, status bars, track bars, progress bars, arrows that count,
-// calendars, hot keys and tree views.
+// calendars, hot keys and trees and list views.
 #pragma once
 
 #include "vcl/stdctrls/datetimepicker.h"
 #include "vcl/stdctrls/hotkey.h"
+#include "vcl/stdctrls/listview.h"
 #include "vcl/stdctrls/monthcalendar.h"
 #include "vcl/stdctrls/pagecontrol.h"
 #include "vcl/stdctrls/progressbar.h"

@@ -6,7 +6,7 @@
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
-#include "vcl/stdctrls/private/listitems.h"
+#include "vcl/stdctrls/private/listlines.h"
 
 namespace vcl {
 

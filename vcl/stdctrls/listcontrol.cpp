@@ -10,7 +10,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
-#include "vcl/stdctrls/private/listitems.h"
+#include "vcl/stdctrls/private/listlines.h"
 
 namespace vcl {
 namespace {
@@ -54,7 +54,7 @@ const TClass& TCustomListControl::Class() {
 TCustomListControl::TCustomListControl(TComponent* owner, const TListMessages& messages)
     : TWinControl(owner),
       FMessages(messages),
-      FItems(std::make_unique<TListItems>(*this, messages)),
+      FItems(std::make_unique<TListLines>(*this, messages)),
       FCanvas(std::make_unique<TCanvas>()) {
   SetTabStop(true);
   SetParentColor(false);

@@ -8,7 +8,7 @@
 
 namespace vcl {
 
-class TListItems;
+class TListLines;
 struct TListMessages;
 
 enum TOwnerDrawStateValue { odSelected, odGrayed, odDisabled, odChecked, odFocused };
@@ -53,7 +53,7 @@ class VCL_API TCustomListControl : public TWinControl {
 
  protected:
   TCustomListControl(TComponent* owner, const TListMessages& messages);
-  TListItems& List() const { return *FItems; }
+  TListLines& List() const { return *FItems; }
   /// True when OnDrawItem draws the items.
   virtual bool OwnerDraw() const = 0;
   virtual void DrawItem(int index, const TRect& rect, TOwnerDrawState state);
@@ -70,7 +70,7 @@ class VCL_API TCustomListControl : public TWinControl {
   void DrawFromWindow(const DRAWITEMSTRUCT& draw);
 
   const TListMessages& FMessages;
-  std::unique_ptr<TListItems> FItems;
+  std::unique_ptr<TListLines> FItems;
   std::unique_ptr<TCanvas> FCanvas;
   int FItemHeight = 16;
   int FLoadedIndex = -1;

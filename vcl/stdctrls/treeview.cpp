@@ -213,14 +213,7 @@ void TCustomTreeView::SetImages(TImageList* images) { LinkImages(FImages, images
 void TCustomTreeView::SetStateImages(TImageList* images) { LinkImages(FStateImages, images); }
 
 void TCustomTreeView::LinkImages(TLinkedImages& linked, TImageList* images) {
-  if (images == linked.List) return;
-  if (linked.List) linked.List->UnRegisterChanges(&linked.Link);
-  linked.List = images;
-  if (images) {
-    images->RegisterChanges(&linked.Link);
-    images->FreeNotification(this);
-  }
-  SendImages();
+  if (linked.Take(images, *this)) SendImages();
 }
 
 void TCustomTreeView::Notification(TComponent* component, TOperation operation) {

@@ -7,15 +7,11 @@
 #include <vector>
 
 #include "vcl/controls/wincontrol.h"
-#include "vcl/graphics/imagelist.h"
+#include "vcl/stdctrls/linkedimages.h"
+#include "vcl/stdctrls/sorttype.h"
 #include "vcl/stdctrls/treenodes.h"
 
 namespace vcl {
-
-/// What keeps the nodes of a level in order: nothing, OnCompare over their data, or their texts.
-enum TSortType { stNone, stData, stText, stBoth };
-template <>
-inline constexpr TEnumText EnumText<TSortType>{"TSortType", "stNone stData stText stBoth"};
 
 /// Sender and node.
 using TTVNodeEvent = TEvent<TObject*, TTreeNode*>;
@@ -164,10 +160,6 @@ class VCL_API TCustomTreeView : public TWinControl {
   struct TPending {
     TWatch Node;
     std::function<void()> Tell;
-  };
-  struct TLinkedImages {
-    TImageList* List = nullptr;
-    TChangeLink Link;
   };
 
   template <class T>

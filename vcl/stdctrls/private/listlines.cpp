@@ -1,5 +1,5 @@
-// TListItems: the lines of a list box or combo box, told to its window line by line.
-#include "vcl/stdctrls/private/listitems.h"
+// TListLines: the lines of a list box or combo box, told to its window line by line.
+#include "vcl/stdctrls/private/listlines.h"
 
 #include <algorithm>
 
@@ -30,25 +30,25 @@ const TListMessages ComboBoxMessages{
     CB_INSERTSTRING, CB_DELETESTRING, CB_RESETCONTENT, CB_GETCURSEL, CB_SETCURSEL, 0, 0,
     CB_SETITEMHEIGHT};
 
-TListItems::TLine& TListItems::Line(int index) {
+TListLines::TLine& TListLines::Line(int index) {
   CheckItem(index);
   return FLines[static_cast<std::size_t>(index)];
 }
 
-const TListItems::TLine& TListItems::Line(int index) const {
+const TListLines::TLine& TListLines::Line(int index) const {
   CheckItem(index);
   return FLines[static_cast<std::size_t>(index)];
 }
 
-std::string TListItems::Strings(int index) const { return Line(index).Text; }
-TObject* TListItems::Objects(int index) const { return Line(index).Object; }
-void TListItems::SetObjects(int index, TObject* object) { Line(index).Object = object; }
+std::string TListLines::Strings(int index) const { return Line(index).Text; }
+TObject* TListLines::Objects(int index) const { return Line(index).Object; }
+void TListLines::SetObjects(int index, TObject* object) { Line(index).Object = object; }
 
-void TListItems::RefuseWhenSorted() const {
+void TListLines::RefuseWhenSorted() const {
   if (FSorted) throw EStringListError("A sorted list puts its items in their places itself");
 }
 
-void TListItems::SetStrings(int index, const std::string& text) {
+void TListLines::SetStrings(int index, const std::string& text) {
   RefuseWhenSorted();
   TLine& line = Line(index);
   if (!FControl.HandleAllocated()) {
@@ -65,89 +65,89 @@ void TListItems::SetStrings(int index, const std::string& text) {
   if (selected) SelectInWindow(index);
 }
 
-bool TListItems::SelectedInWindow(int index) const {
+bool TListLines::SelectedInWindow(int index) const {
   if (FMessages.GetItemSelected == 0) return Send(FControl, FMessages.GetSelected) == index;
   return Send(FControl, FMessages.GetItemSelected, static_cast<WPARAM>(index)) > 0;
 }
 
-void TListItems::SelectInWindow(int index) {
+void TListLines::SelectInWindow(int index) {
   // A list box with one selected item refuses the message that is for many.
   const bool done =
       FMessages.SetItemSelected != 0 && Send(FControl, FMessages.SetItemSelected, TRUE, index) >= 0;
   if (!done) Send(FControl, FMessages.SetSelected, static_cast<WPARAM>(index));
 }
 
-int TListItems::SortedPlace(const std::string& text) const {
+int TListLines::SortedPlace(const std::string& text) const {
   const auto place =
       std::upper_bound(FLines.begin(), FLines.end(), text,
                        [](const std::string& a, const TLine& b) { return Before(a, b.Text); });
   return static_cast<int>(place - FLines.begin());
 }
 
-int TListItems::AddObject(const std::string& text, TObject* object) {
+int TListLines::AddObject(const std::string& text, TObject* object) {
   const int index = FSorted ? SortedPlace(text) : Count();
   InsertLine(index, text, object);
   return index;
 }
 
-void TListItems::InsertObject(int index, const std::string& text, TObject* object) {
+void TListLines::InsertObject(int index, const std::string& text, TObject* object) {
   RefuseWhenSorted();
   CheckIndex(index, Count() + 1);
   InsertLine(index, text, object);
 }
 
-void TListItems::InsertLine(int index, const std::string& text, TObject* object) {
+void TListLines::InsertLine(int index, const std::string& text, TObject* object) {
   // The line comes first: the window may ask for it to be drawn at once.
   FLines.insert(FLines.begin() + index, TLine{text, object, false, 0});
   const TOnFailure refused([&] { FLines.erase(FLines.begin() + index); }, &FControl);
   if (FControl.HandleAllocated()) TellInserted(index, text);
 }
 
-void TListItems::TellInserted(int index, const std::string& text) {
+void TListLines::TellInserted(int index, const std::string& text) {
   const std::wstring wide = ToUtf16(text);
   const LRESULT place = Send(FControl, FMessages.Insert, static_cast<WPARAM>(index),
                              reinterpret_cast<LPARAM>(wide.c_str()));
   if (place < 0) throw EOutOfResources(Concat("The list has no room for the item '", text, "'"));
 }
 
-void TListItems::Delete(int index) {
+void TListLines::Delete(int index) {
   CheckItem(index);
   FLines.erase(FLines.begin() + index);
   SendIfAllocated(FControl, FMessages.Delete, static_cast<WPARAM>(index));
 }
 
-void TListItems::Clear() {
+void TListLines::Clear() {
   FLines.clear();
   SendIfAllocated(FControl, FMessages.Reset);
 }
 
-void TListItems::SetSorted(bool sorted) {
+void TListLines::SetSorted(bool sorted) {
   FSorted = sorted;
   if (!sorted) return;
   std::ranges::stable_sort(FLines,
                            [](const TLine& a, const TLine& b) { return Before(a.Text, b.Text); });
 }
 
-bool TListItems::Selected(int index) const { return Line(index).Selected; }
-void TListItems::SetSelected(int index, bool selected) { Line(index).Selected = selected; }
+bool TListLines::Selected(int index) const { return Line(index).Selected; }
+void TListLines::SetSelected(int index, bool selected) { Line(index).Selected = selected; }
 
-int TListItems::FirstSelected() const {
+int TListLines::FirstSelected() const {
   const auto found = std::ranges::find_if(FLines, [](const TLine& line) { return line.Selected; });
   return found == FLines.end() ? -1 : static_cast<int>(found - FLines.begin());
 }
 
-void TListItems::SelectOnly(int index) {
+void TListLines::SelectOnly(int index) {
   for (TLine& line : FLines) line.Selected = false;
   if (index >= 0) Line(index).Selected = true;
 }
 
-void TListItems::FillWindow() {
+void TListLines::FillWindow() {
   Send(FControl, WM_SETREDRAW, FALSE);
   for (int i = 0; i < Count(); ++i) TellInserted(i, FLines[static_cast<std::size_t>(i)].Text);
   Send(FControl, WM_SETREDRAW, TRUE);
 }
 
-void TListItems::SetUpdateState(bool updating) {
+void TListLines::SetUpdateState(bool updating) {
   SendIfAllocated(FControl, WM_SETREDRAW, !updating);
   if (!updating) FControl.Invalidate();
 }

@@ -1,4 +1,4 @@
-// TListItems: the items of a list box or combo box, kept here and shown by its window.
+// TListLines: the items of a list box or combo box, kept here and shown by its window.
 #pragma once
 
 #include <functional>
@@ -29,9 +29,9 @@ extern const TListMessages ComboBoxMessages;
 /// The items. The lines here are the list; the window, while there is one, is told of every change.
 /// When it refuses (EOutOfResources), the list stays as it was. While there is no window, the lines
 /// also remember which of them are selected.
-class TListItems : public TStrings {
+class TListLines : public TStrings {
  public:
-  TListItems(TWinControl& control, const TListMessages& messages)
+  TListLines(TWinControl& control, const TListMessages& messages)
       : FControl(control), FMessages(messages) {}
 
   int Count() const override { return static_cast<int>(FLines.size()); }

@@ -1,0 +1,8 @@
+// Measuring list views.
+#pragma once
+
+namespace bench {
+
+void Lists();
+
+}  // namespace bench
