@@ -54,7 +54,7 @@ void RegisterStandardPages() {
       {"Additional",
        {&TBitBtn::Class(), &TSpeedButton::Class(), &TImage::Class(), &TShape::Class(),
         &TBevel::Class(), &TScrollBox::Class(), &TSplitter::Class(), &TFlowPanel::Class(),
-        &TGridPanel::Class()}},
+        &TGridPanel::Class(), &TStringGrid::Class(), &TDrawGrid::Class()}},
       {"Win32",
        {&TPageControl::Class(), &TImageList::Class(), &TTrackBar::Class(), &TTreeView::Class(),
         &TStatusBar::Class(), &TProgressBar::Class(), &TUpDown::Class()}},
