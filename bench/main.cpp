@@ -1,11 +1,12 @@
-// Prints how long painting, forms, dates and settings take, as ratios to what the system itself or
-// the standard library needs, measured in one run.
+// Prints how long painting, forms, grids, dates and settings take, as ratios to what the system
+// itself or the standard library needs, measured in one run.
 #include <cstdio>
 
 #include "bench/backgrounds.h"
 #include "bench/dates.h"
 #include "bench/forms.h"
 #include "bench/gauge.h"
+#include "bench/grids.h"
 #include "bench/settings.h"
 #include "vcl/rtl/win32.h"
 
@@ -15,6 +16,7 @@ int main() {
   bench::Backgrounds();
   bench::Gauge();
   bench::Forms();
+  bench::Grids();
   bench::Dates();
   bench::Settings();
 }

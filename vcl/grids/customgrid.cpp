@@ -117,6 +117,7 @@ void TCustomGrid::SetCount(bool columns, int count) {
   if (HandleAllocated()) axis.SetFirst(std::min(axis.First(), axis.LastFirst(Room(columns))));
   LayoutChanged();
   if (!watch.Gone()) CountsChanged();
+  if (!watch.Gone()) UpdateEditor();
 }
 
 void TCustomGrid::SetFixed(bool columns, int fixed) {
@@ -129,6 +130,7 @@ void TCustomGrid::SetFixed(bool columns, int fixed) {
   if (watch.Gone()) return;
   axis.SetFixed(fixed);
   LayoutChanged();
+  if (!watch.Gone()) UpdateEditor();
 }
 
 void TCustomGrid::MoveColumn(int from, int to) { MoveOne(true, from, to); }
@@ -150,6 +152,7 @@ void TCustomGrid::MoveOne(bool columns, int from, int to) {
   LayoutChanged();
   if (watch.Gone()) return;
   columns ? ColumnMoved(from, to) : RowMoved(from, to);
+  if (!watch.Gone()) UpdateEditor();
 }
 
 void TCustomGrid::ReorderRows(const std::vector<int>& order) {
@@ -263,7 +266,7 @@ void TCustomGrid::DefineSizes(TFiler& filer, bool columns) {
   filer.DefineProperty(
       columns ? "ColWidths" : "RowHeights",
       [this, columns](TReader& reader) { ReadSizes(reader, columns); }, write,
-      !Axis(columns).OwnSizes().empty());
+      KeepsSizes() && !Axis(columns).OwnSizes().empty());
 }
 
 void TCustomGrid::ReadSizes(TReader& reader, bool columns) {

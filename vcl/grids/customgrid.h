@@ -189,6 +189,8 @@ class VCL_API TCustomGrid : public TCustomControl {
   virtual void CountsChanged() {}
   virtual void ColWidthsChanged() {}
   virtual void RowHeightsChanged() {}
+  /// Whether form files hold the sizes of single columns and rows.
+  virtual bool KeepsSizes() const { return true; }
   /// Whether keys may cut, paste and delete.
   virtual bool ChangesByClipboard() const { return FOptions.Has(goEditing); }
 

@@ -1,6 +1,7 @@
 // TCustomGrid: the edit over the current cell, its button and its list of values.
 #include <algorithm>
 
+#include "vcl/forms/forms.h"
 #include "vcl/grids/customgrid.h"
 #include "vcl/grids/private/gridaxis.h"
 #include "vcl/grids/private/gridlook.h"
@@ -132,6 +133,7 @@ void TCustomGrid::RefreshEditor() {
 
 void TCustomGrid::PlaceEditor() {
   if (!FEditing) return;
+  FList->CloseUp();
   TRect cell = CellRect(Col(), Row());
   if (cell.Empty()) cell.Offset(-Width(), -Height());
   const int margin = ScaledPixels(CellMargin);
@@ -175,6 +177,11 @@ void TCustomGrid::EditKeyDown(TObject* /*sender*/, std::uint16_t& key, TShiftSta
   key = 0;
   if (drops) return DropDown();
   if (pressed == VK_ESCAPE) return CancelEdit();
+  TCustomForm* form = ParentForm();
+  if (pressed == VK_TAB && shift.Has(ssCtrl) && form) {
+    form->Perform(CM_DIALOGKEY, VK_TAB);
+    return;
+  }
   if (pressed == VK_TAB) return static_cast<void>(TabKey(shift.Has(ssShift)));
   if (moves) return static_cast<void>(DoKey(pressed, shift));
   EndEdit();

@@ -22,7 +22,7 @@ bool IsDown(int key) { return ::GetKeyState(key) < 0; }
 
 bool TCustomGrid::WantsKey(WPARAM key) const {
   switch (key) {
-    case VK_TAB: return TabLeads(IsDown(VK_SHIFT));
+    case VK_TAB: return !IsDown(VK_CONTROL) && TabLeads(IsDown(VK_SHIFT));
     case VK_RETURN: return FOptions.Has(goEditing) && !FOptions.Has(goRowSelect) && HasCells();
     case VK_ESCAPE: return FPress.Kind != TMouse::None;
     default: return false;

@@ -47,7 +47,7 @@ void TCustomGrid::UseColors(TGridDrawState state) {
   if (state.Has(gdFixed)) {
     back = state.Has(gdPressed) ? clBtnShadow : FFixedColor;
     if (state.Has(gdPressed)) canvas.Font()->SetColor(clBtnHighlight);
-  } else if (state.Has(gdSelected) && !plain) {
+  } else if (state.Has(gdSelected) && !plain && Enabled()) {
     back = clHighlight;
     canvas.Font()->SetColor(clHighlightText);
   }

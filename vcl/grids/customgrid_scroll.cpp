@@ -167,7 +167,9 @@ void TCustomGrid::Dispatch(TMessage& message) {
       if (FPress.Kind == TMouse::Selecting && MouseCapture()) return ScrollBySelecting();
       ::KillTimer(Handle(), message.WParam);
       return;
-    case WM_GETDLGCODE: message.Result = DLGC_WANTARROWS | DLGC_WANTCHARS; return;
+    case WM_GETDLGCODE:
+      message.Result = DLGC_WANTARROWS | (FOptions.Has(goEditing) ? DLGC_WANTCHARS : 0);
+      return;
     case CM_WANTSPECIALKEY: message.Result = WantsKey(message.WParam); return;
     case CM_CAPTUREKEY:
       if (message.WParam != VK_ESCAPE || FPress.Kind == TMouse::None) break;
