@@ -154,6 +154,10 @@ TEST_F(Grids, EdgesOfFixedCellsAreDraggedToSize) {
   Drag(further, {further.X - 200, further.Y});
   EXPECT_EQ(Grid->ColWidths(1), 0);
   EXPECT_EQ(Grid->Col(), 2) << "the current cell leaves what is hidden";
+  const TPoint behind = Grid->ClientToScreen({Grid->CellRect(0, 0).Right + 2, 5});
+  Drag(behind, {behind.X + 50, behind.Y});
+  EXPECT_EQ(Grid->ColWidths(1), 50) << "from just behind the edge it comes back";
+  EXPECT_EQ(Grid->ColWidths(0), 64);
 }
 
 TEST_F(Grids, ColumnsAndRowsAreMovedWithWhatIsInThem) {

@@ -321,9 +321,8 @@ void TDBGrid::Dispatch(TMessage& message) {
   if (!watch.Gone() && message.Msg == CM_FONTCHANGED) DataChanged();
 }
 
-bool TDBGrid::DoMouseWheel(TShiftState shift, int wheelDelta, TPoint mousePos) {
-  const TWatch watch(this);
-  if (TCustomControl::DoMouseWheel(shift, wheelDelta, mousePos) || watch.Gone()) return true;
+bool TDBGrid::ScrollByWheel(bool vertical, int wheelDelta) {
+  if (!vertical) return TCustomGrid::ScrollByWheel(vertical, wheelDelta);
   MoveBy(-wheelDelta / WHEEL_DELTA);
   return true;
 }

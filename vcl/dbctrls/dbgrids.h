@@ -98,7 +98,6 @@ class VCL_API TDBGrid : public TCustomGrid {
   void ChangeScale(int m, int d) override;
   void Dispatch(TMessage& message) override;
   void DoExit() override;
-  bool DoMouseWheel(TShiftState shift, int wheelDelta, TPoint mousePos) override;
   void Loaded() override;
   void Paint() override;
   void Resize() override;
@@ -122,6 +121,7 @@ class VCL_API TDBGrid : public TCustomGrid {
   bool KeepsSizes() const override { return false; }
   bool ChangesByClipboard() const override { return false; }
   void Scroll(bool vertical, int command) override;
+  bool ScrollByWheel(bool vertical, int wheelDelta) override;
   void ShowBar(bool vertical) override;
   bool DoKey(std::uint16_t key, TShiftState shift) override;
   bool WantsKey(WPARAM key) const override;
@@ -159,7 +159,7 @@ class VCL_API TDBGrid : public TCustomGrid {
   /// Calls with the fields holding the row's record.
   template <class Call>
   void WithRecord(int row, const Call& call);
-  void DrawText(const TRect& rect, const std::string& text, TAlignment alignment);
+  void DrawFieldText(const TRect& rect, const std::string& text, TAlignment alignment);
   void DrawIndicator(int row, const TRect& rect);
   void DrawField(TGridCoord cell, TColumn& column, const TRect& rect, TGridDrawState state);
   void MoveBy(int distance);

@@ -35,10 +35,10 @@ void TDBGrid::DrawCell(int col, int row, const TRect& rect, TGridDrawState state
   if (!column) return DrawIndicator(row, rect);
   if (row > 0) return DrawField({col, row}, *column, rect, state);
   if (Enabled() && !state.Has(gdPressed)) Canvas()->Font()->SetColor(clBtnText);
-  DrawText(rect, column->Title(), taLeftJustify);
+  DrawFieldText(rect, column->Title(), taLeftJustify);
 }
 
-void TDBGrid::DrawText(const TRect& rect, const std::string& text, TAlignment alignment) {
+void TDBGrid::DrawFieldText(const TRect& rect, const std::string& text, TAlignment alignment) {
   const int width = alignment == taLeftJustify ? 0 : Canvas()->TextWidth(text);
   const int room = rect.Width() + 1 - 2 * Margin() - width;
   const int indent = alignment == taLeftJustify ? 0 : alignment == taCenter ? room / 2 : room;
@@ -51,7 +51,7 @@ void TDBGrid::DrawField(TGridCoord cell, TColumn& column, const TRect& rect, TGr
     if (field && column.EditStyle() == esCheckBox) {
       DrawCheckBox(rect, SameText(field->DisplayText(), column.ValueChecked()));
     } else {
-      DrawText(rect, field ? field->DisplayText() : std::string(), column.Alignment());
+      DrawFieldText(rect, field ? field->DisplayText() : std::string(), column.Alignment());
     }
     OnDrawColumnCell(this, rect, cell.X - FirstCol(), &column, state);
   });

@@ -197,6 +197,9 @@ class VCL_API TCustomGrid : public TCustomControl {
   // Scrolling, which a grid of records does in its own way.
   /// Scrolls by a command of a scroll bar (SB_...).
   virtual void Scroll(bool vertical, int command);
+  /// Scrolls by a turn of the wheel (120 a notch, positive away from the user); false when there is
+  /// nowhere to scroll to.
+  virtual bool ScrollByWheel(bool vertical, int wheelDelta);
   /// Shows in the window's scroll bars what is seen.
   void ShowScrollPosition();
   /// One of them; of both each twice, for one that comes leaves the other less room.
@@ -211,7 +214,8 @@ class VCL_API TCustomGrid : public TCustomControl {
   /// Makes the cell the current one without asking, telling or scrolling; it is brought to where
   /// there are cells.
   void PutCurrent(int col, int row);
-  /// Does what a key stands for; false when it stands for nothing. Also of the keys that end editing.
+  /// Does what a key stands for; false when it stands for nothing. Also of the keys that end
+  /// editing.
   virtual bool DoKey(std::uint16_t key, TShiftState shift);
   /// Whether the key is the grid's, which the form would else take: Tab, Enter, Escape.
   virtual bool WantsKey(WPARAM key) const;
@@ -226,7 +230,6 @@ class VCL_API TCustomGrid : public TCustomControl {
   void DrawCheckBox(const TRect& rect, bool checked);
   /// Reads the text anew that is being edited, unless the user has changed it.
   void RefreshEditor();
-  TInplaceEdit* Editor() const { return FEdit; }
 
   void ChangeScale(int m, int d) override;
   void CreateParams(TCreateParams& params) override;
@@ -281,7 +284,6 @@ class VCL_API TCustomGrid : public TCustomControl {
   void ScaleSizes(bool columns, int m, int d);
 
   // Selection.
-  TGridRect SelectionOf(TGridCoord current, TGridCoord anchor) const;
   void InvalidateCells(const TGridRect& cells);
   void SetCurrent(TGridCoord cell, bool extend);
   TAccessiblePath PathOf(TGridCoord cell) const;
@@ -293,7 +295,6 @@ class VCL_API TCustomGrid : public TCustomControl {
   void BringIntoView(TGridCoord cell);
   int Target(bool vertical, int command) const;
   bool HasBar(bool vertical) const;
-  bool ScrollByWheel(bool vertical, int wheelDelta);
 
   // Painting.
   TGridDrawState StateOf(int col, int row) const;

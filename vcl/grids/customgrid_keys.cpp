@@ -47,7 +47,7 @@ void TCustomGrid::KeyPress(char32_t& key) {
   TCustomControl::KeyPress(key);
   const bool types = key >= U' ' && key != Delete;
   if (watch.Gone() || !(types || key == VK_BACK) || !CanEdit() || watch.Gone()) return;
-  if (types && !CanType(key)) return;
+  if (types && (!CanType(key) || watch.Gone())) return;
   ShowEditor();
   if (watch.Gone() || !FEditing) return;
   FEdit->SelectAll();
@@ -255,8 +255,12 @@ void TCustomGrid::WriteCells(const std::vector<std::pair<TGridCoord, std::string
 void TCustomGrid::ClearCells() {
   const TGridRect cells = Selection();
   std::vector<std::pair<TGridCoord, std::string>> empty;
+  const TWatch watch(this);
   for (int row = cells.Top; row <= cells.Bottom; ++row) {
-    for (int col = cells.Left; col <= cells.Right; ++col) empty.push_back({{col, row}, {}});
+    for (int col = cells.Left; col <= cells.Right; ++col) {
+      if (!GetEditText(col, row).empty()) empty.push_back({{col, row}, {}});
+      if (watch.Gone()) return;
+    }
   }
   WriteCells(empty);
 }

@@ -19,14 +19,17 @@ constexpr UINT SelectPause = 50;  // Milliseconds.
 // What it is at.
 
 /// The column whose right edge is there, in the fixed rows; the row whose lower edge is there, in
-/// the fixed columns. Of several that are hidden, the last one.
+/// the fixed columns. Just behind an edge lies that of the hidden ones there.
 int TCustomGrid::EdgeAt(bool columns, int x, int y) const {
   const int across = columns ? y : x;
   if (across >= Axis(!columns).FixedEnd(Room(!columns))) return -1;
   const int at = columns ? x : y;
+  const TGridAxis& axis = Axis(columns);
   int found = -1;
-  for (const TGridBand& each : Axis(columns).Seen(Room(columns))) {
-    if (std::abs(at - each.End) <= ScaledPixels(Reach)) found = each.Index;
+  for (const TGridBand& each : axis.Seen(Room(columns))) {
+    if (std::abs(at - each.End) > ScaledPixels(Reach)) continue;
+    found = each.Index;
+    while (at > each.End && axis.Has(found + 1) && axis.Size(found + 1) == 0) ++found;
   }
   return found;
 }

@@ -60,20 +60,17 @@ void TCustomGrid::SetCurrent(TGridCoord cell, bool extend) {
   if (old != cell) TellCurrent();
 }
 
-TGridRect TCustomGrid::SelectionOf(TGridCoord current, TGridCoord anchor) const {
+TGridRect TCustomGrid::Selection() const {
   if (!HasCells()) return {};
-  const bool range = FOptions.Has(goRangeSelect);
-  if (!range) anchor = current;
-  TGridRect rect{std::min(current.X, anchor.X), std::min(current.Y, anchor.Y),
-                 std::max(current.X, anchor.X), std::max(current.Y, anchor.Y)};
+  const TGridCoord anchor = FOptions.Has(goRangeSelect) ? FAnchor : FCurrent;
+  TGridRect rect{std::min(FCurrent.X, anchor.X), std::min(FCurrent.Y, anchor.Y),
+                 std::max(FCurrent.X, anchor.X), std::max(FCurrent.Y, anchor.Y)};
   if (FOptions.Has(goRowSelect)) {
     rect.Left = FixedCols();
     rect.Right = ColCount() - 1;
   }
   return rect;
 }
-
-TGridRect TCustomGrid::Selection() const { return SelectionOf(FCurrent, FAnchor); }
 
 void TCustomGrid::SetSelection(const TGridRect& selection) {
   CheckIndex(true, selection.Left), CheckIndex(true, selection.Right);
@@ -88,7 +85,9 @@ void TCustomGrid::SetSelection(const TGridRect& selection) {
 
 void TCustomGrid::SelectAllCells() {
   if (!HasCells() || !FOptions.Has(goRangeSelect)) return;
+  const TWatch watch(this);
   EndEdit();
+  if (watch.Gone()) return;
   InvalidateCells(Selection());
   FAnchor = {FixedCols(), FixedRows()};
   FCurrent = {ColCount() - 1, RowCount() - 1};
