@@ -1,6 +1,6 @@
-// Prints how long painting, forms, lists, dates and settings take, as ratios to what the system
-// itself or the standard library needs, measured in one run; arguments name the groups that are
-// measured.
+// Prints how long painting, forms, grids, lists, dates and settings take, as ratios to what the
+// system itself or the standard library needs, measured in one run; arguments name the groups that
+// are measured.
 #include <algorithm>
 #include <cstdio>
 #include <string_view>
@@ -10,6 +10,7 @@
 #include "bench/dates.h"
 #include "bench/forms.h"
 #include "bench/gauge.h"
+#include "bench/grids.h"
 #include "bench/lists.h"
 #include "bench/settings.h"
 #include "vcl/rtl/win32.h"
@@ -23,6 +24,7 @@ struct TGroup {
 constexpr TGroup Groups[] = {{"backgrounds", bench::Backgrounds},
                              {"gauge", bench::Gauge},
                              {"forms", bench::Forms},
+                             {"grids", bench::Grids},
                              {"lists", bench::Lists},
                              {"dates", bench::Dates},
                              {"settings", bench::Settings}};

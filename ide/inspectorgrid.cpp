@@ -3,11 +3,11 @@
 
 #include <algorithm>
 
-#include "ide/inspectoredit.h"
 #include "ide/inspectorlayout.h"
-#include "ide/inspectorlist.h"
 #include "vcl/graphics/canvas.h"
 #include "vcl/graphics/fontmetrics.h"
+#include "vcl/stdctrls/inplaceedit.h"
+#include "vcl/stdctrls/popuplist.h"
 
 namespace ide {
 
@@ -15,8 +15,8 @@ TInspectorGrid::TInspectorGrid(vcl::TComponent* owner,
                                std::function<bool(const vcl::TPropInfo&)> wanted)
     : TCustomControl(owner),
       FRows(std::move(wanted)),
-      FEdit(new TInspectorEdit(this)),
-      FList(new TInspectorList(this)),
+      FEdit(new vcl::TInplaceEdit(this)),
+      FList(new vcl::TPopupList(this)),
       FMenu(new vcl::TPopupMenu(this)) {
   using T = TInspectorGrid;
   SetControlStyle(ControlStyle() + vcl::TControlStyle{vcl::csOpaque});

@@ -11,10 +11,12 @@
 #include "vcl/graphics/bitmap.h"
 #include "vcl/menus/menus.h"
 
-namespace ide {
+namespace vcl {
+class TInplaceEdit;
+class TPopupList;
+}  // namespace vcl
 
-class TInspectorEdit;
-class TInspectorList;
+namespace ide {
 
 /// The grid of one page of an object inspector. The value of the selected line is edited; what is
 /// typed holds when Enter is pressed, another line is selected, or the keyboard goes elsewhere;
@@ -133,7 +135,6 @@ class TInspectorGrid : public vcl::TCustomControl {
   void EditLeft(vcl::TObject* sender);
 
   // Keys.
-  bool ListKey(std::uint16_t key);
   bool ValueKey(std::uint16_t key, vcl::TShiftState shift);
   bool MoveKey(std::uint16_t key, vcl::TShiftState shift);
   bool FoldKey(std::uint16_t key);
@@ -146,8 +147,8 @@ class TInspectorGrid : public vcl::TCustomControl {
   int FTop = 0;
   int FSplitter = 112;
   bool FDragsSplitter = false;
-  TInspectorEdit* FEdit;
-  TInspectorList* FList;
+  vcl::TInplaceEdit* FEdit;
+  vcl::TPopupList* FList;
   vcl::TPopupMenu* FMenu;
   bool FTyped = false;               // The edit holds what the user has typed.
   bool FCompletes = false;           // A character has been typed, not one deleted.

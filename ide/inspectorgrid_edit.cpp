@@ -1,15 +1,15 @@
 // TInspectorGrid: the value of the selected line: its edit, its button, its list.
 #include <algorithm>
 
-#include "ide/inspectoredit.h"
 #include "ide/inspectorgrid.h"
 #include "ide/inspectorlayout.h"
-#include "ide/inspectorlist.h"
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/stdctrls/inplaceedit.h"
+#include "vcl/stdctrls/popuplist.h"
 
 namespace ide {
 

@@ -2,12 +2,12 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "ide/inspectoredit.h"
 #include "ide/inspectorgrid.h"
 #include "ide/inspectorlayout.h"
-#include "ide/inspectorlist.h"
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/text.h"
+#include "vcl/stdctrls/inplaceedit.h"
+#include "vcl/stdctrls/popuplist.h"
 
 namespace ide {
 
@@ -76,29 +76,13 @@ void TInspectorGrid::EditMouseDown(vcl::TObject* /*sender*/, vcl::TMouseButton b
 // The keyboard, while it is at the value.
 
 void TInspectorGrid::EditKeyDown(vcl::TObject* /*sender*/, std::uint16_t& key, TShiftState shift) {
-  if (ListKey(key) || MoveKey(key, shift) || ValueKey(key, shift)) key = 0;
+  if (FList->TakeKey(key) || MoveKey(key, shift) || ValueKey(key, shift)) key = 0;
 }
 
 // What has been handled as a key makes no sound and no text as a character.
 void TInspectorGrid::EditKeyPress(vcl::TObject* /*sender*/, char32_t& key) {
   if (key == U'\r' || key == U'\n' || key == U'\t' || key == VK_ESCAPE) key = 0;
   FCompletes = key >= U' ';
-}
-
-bool TInspectorGrid::ListKey(std::uint16_t key) {
-  if (!FList->DroppedDown()) return false;
-  switch (key) {
-    case VK_UP: return FList->Step(-1), true;
-    case VK_DOWN: return FList->Step(1), true;
-    case VK_PRIOR: return FList->Step(-FList->PageSize()), true;
-    case VK_NEXT: return FList->Step(FList->PageSize()), true;
-    case VK_HOME: return FList->Step(-FList->Items()->Count()), true;
-    case VK_END: return FList->Step(FList->Items()->Count()), true;
-    case VK_RETURN: return ListChosen(FList), true;
-    case VK_F4:
-    case VK_ESCAPE: return FList->CloseUp(), true;
-    default: return false;
-  }
 }
 
 bool TInspectorGrid::ValueKey(std::uint16_t key, TShiftState shift) {
@@ -142,7 +126,7 @@ bool TInspectorGrid::MoveKey(std::uint16_t key, TShiftState shift) {
 
 void TInspectorGrid::KeyDown(std::uint16_t& key, TShiftState shift) {
   TCustomControl::KeyDown(key, shift);
-  if (ListKey(key) || FoldKey(key) || MoveKey(key, shift)) return;
+  if (FList->TakeKey(key) || FoldKey(key) || MoveKey(key, shift)) return;
   if (key == VK_TAB || (key == VK_RETURN && !shift.Has(vcl::ssCtrl))) return FocusEdit();
   ValueKey(key, shift);
 }

@@ -18,6 +18,7 @@
 #include "vcl/graphics/graphics.h"
 #include "vcl/graphics/imagelist.h"
 #include "vcl/graphics/picture.h"
+#include "vcl/grids/grids.h"
 #include "vcl/menus/menus.h"
 #include "vcl/net/sockets.h"
 #include "vcl/rtl/classes.h"

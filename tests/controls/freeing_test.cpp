@@ -45,7 +45,14 @@ bool Bind(TEventBase& event, const std::function<void()>& call) {
          BindAs<TObject*, bool&>(event, call) || BindAs<TObject*, TTreeNode*>(event, call) ||
          BindAs<TObject*, TTreeNode*, bool&>(event, call) ||
          BindAs<TObject*, TListItem*, TItemChange>(event, call) ||
-         BindAs<TObject*, TListItem*, bool>(event, call);
+         BindAs<TObject*, TListItem*, bool>(event, call) ||
+         BindAs<TObject*, int, int>(event, call) ||
+         BindAs<TObject*, int, int, bool&>(event, call) ||
+         BindAs<TObject*, int, int, std::string&>(event, call) ||
+         BindAs<TObject*, int, int, const std::string&>(event, call) ||
+         BindAs<TObject*, int, int, TEditStyle&>(event, call) ||
+         BindAs<TObject*, int, int, TStrings*>(event, call) ||
+         BindAs<TObject*, int, int, const TRect&, TGridDrawState>(event, call);
 }
 
 enum class TVictim { Control, Panel, Form };

@@ -29,7 +29,8 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
     return rooms;
   };
   static const std::set<std::string> dialogs = with(window, {"vcl/stdctrls", "vcl/dialogs"});
-  static const std::set<std::string> vcl = with(dialogs, {"vcl/stdactions", "vcl/system"});
+  static const std::set<std::string> vcl =
+      with(dialogs, {"vcl/stdactions", "vcl/system", "vcl/grids"});
   static const std::set<std::string> component = with(vcl, {"qel/core"});
   static const std::set<std::string> application =
       with(component, {"vcl", "vcl/net", "vcl/db", "vcl/dbctrls", "qel", "qel/controls", "qel/data",
@@ -46,6 +47,7 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"vcl/forms", vcl},  // Forms register the standard classes.
       {"vcl/stdctrls", window},
       {"vcl/dialogs", dialogs},
+      {"vcl/grids", with(window, {"vcl/stdctrls"})},
       {"vcl/stdactions", dialogs},
       {"vcl/dbctrls", with(vcl, {"vcl/db"})},
       {"vcl/designintf", vcl},

@@ -5,6 +5,7 @@
 #include "vcl/dialogs/dialogs.h"
 #include "vcl/forms/frames.h"
 #include "vcl/graphics/imagelist.h"
+#include "vcl/grids/grids.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/classregistry.h"
 #include "vcl/stdactions/stdactions.h"
@@ -35,6 +36,7 @@ void RegisterStandardClasses() {
                      &TProcess::Class(), &TProgressBar::Class(), &TRadioGroup::Class(),
                      &TScrollBar::Class(), &TShape::Class(), &TStaticText::Class(),
                      &TUpDown::Class()});
+    RegisterClasses({&TDrawGrid::Class(), &TStringGrid::Class()});
     RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
                      &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),
                      &TEditSelectAll::Class(), &TEditUndo::Class(), &TFileExit::Class(),

@@ -1,5 +1,5 @@
 // The system's common controls: pages, status bars, track bars, progress bars, arrows that count,
-// calendars, hot keys and trees and list views.
+// calendars, hot keys, trees and lists.
 #pragma once
 
 #include "vcl/stdctrls/datetimepicker.h"

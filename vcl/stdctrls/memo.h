@@ -5,15 +5,11 @@
 
 #include "vcl/rtl/strings.h"
 #include "vcl/stdctrls/edit.h"
+#include "vcl/stdctrls/scrollstyle.h"
 
 namespace vcl {
 
 class TMemoLines;
-
-enum TScrollStyle { ssNone, ssHorizontal, ssVertical, ssBoth };
-template <>
-inline constexpr TEnumText EnumText<TScrollStyle>{"TScrollStyle",
-                                                  "ssNone ssHorizontal ssVertical ssBoth"};
 
 /// An edit of several lines.
 class VCL_API TCustomMemo : public TCustomEdit {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "vcl/controls/wincontrol.h"
+#include "vcl/rtl/systemmacros.h"
 
 namespace vcl {
 

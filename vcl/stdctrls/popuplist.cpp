@@ -1,5 +1,5 @@
-// TInspectorList: dropping down, following the mouse, and what is chosen.
-#include "ide/inspectorlist.h"
+// TPopupList: dropping down, following the mouse, and what is chosen.
+#include "vcl/stdctrls/popuplist.h"
 
 #include <algorithm>
 
@@ -10,7 +10,7 @@
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/win32.h"
 
-namespace ide {
+namespace vcl {
 
 namespace {
 
@@ -19,31 +19,31 @@ constexpr int Border = 1;
 
 }  // namespace
 
-TInspectorList::TInspectorList(vcl::TComponent* owner) : TCustomListBox(owner) {
-  SetBorderStyle(vcl::bsNone);
+TPopupList::TPopupList(TComponent* owner) : TCustomListBox(owner) {
+  SetBorderStyle(bsNone);
   SetTabStop(false);
 }
 
-void TInspectorList::CreateParams(vcl::TCreateParams& params) {
+void TPopupList::CreateParams(TCreateParams& params) {
   TCustomListBox::CreateParams(params);
   params.Style = (params.Style & ~static_cast<DWORD>(WS_CHILD | WS_VISIBLE)) | WS_POPUP | WS_BORDER;
   params.ExStyle = WS_EX_TOOLWINDOW | WS_EX_TOPMOST | WS_EX_NOACTIVATE;
-  params.WndParent = vcl::Application()->Handle();
+  params.WndParent = Application()->Handle();
 }
 
-void TInspectorList::DropDown(const vcl::TRect& below, const std::vector<std::string>& values,
-                              const std::string& current) {
+void TPopupList::DropDown(const TRect& below, const std::vector<std::string>& values,
+                          const std::string& current) {
   HandleNeeded();
   {
-    const vcl::TUpdating updating(*Items(), this);
+    const TUpdating updating(*Items(), this);
     Items()->Clear();
     for (const std::string& value : values) Items()->Add(value);
   }
   Choose(current);
   const int count = std::clamp(Items()->Count(), 1, MostItems);
-  const int item = ItemRect(0).Height() > 0 ? ItemRect(0).Height() : vcl::FontHeight(*Font());
+  const int item = ItemRect(0).Height() > 0 ? ItemRect(0).Height() : FontHeight(*Font());
   const int height = count * item + 2 * Border;
-  const vcl::TRect area = vcl::Screen()->WorkAreaRect(below);
+  const TRect area = Screen()->WorkAreaRect(below);
   const bool fits = below.Bottom + height <= area.Bottom || below.Top - height < area.Top;
   SetBounds(below.Left, fits ? below.Bottom : below.Top - height, below.Width(), height);
   ::SetWindowPos(Handle(), HWND_TOPMOST, 0, 0, 0, 0,
@@ -51,27 +51,44 @@ void TInspectorList::DropDown(const vcl::TRect& below, const std::vector<std::st
   FDown = true;
 }
 
-void TInspectorList::CloseUp() {
+void TPopupList::CloseUp() {
   if (!FDown) return;
   FDown = false;
   ::ShowWindow(Handle(), SW_HIDE);
 }
 
-std::string TInspectorList::Chosen() const {
+std::string TPopupList::Chosen() const {
   return ItemIndex() < 0 ? std::string() : Items()->Strings(ItemIndex());
 }
 
-void TInspectorList::Step(int by) {
+/// Moves the selection by so many items, as far as there are some.
+void TPopupList::Step(int by) {
   if (Items()->Count() == 0) return;
   SetItemIndex(std::clamp(ItemIndex() + by, 0, Items()->Count() - 1));
 }
 
-void TInspectorList::Dispatch(vcl::TMessage& message) {
+bool TPopupList::TakeKey(std::uint16_t key) {
+  if (!FDown) return false;
+  switch (key) {
+    case VK_UP: return Step(-1), true;
+    case VK_DOWN: return Step(1), true;
+    case VK_PRIOR: return Step(-PageSize()), true;
+    case VK_NEXT: return Step(PageSize()), true;
+    case VK_HOME: return Step(-Items()->Count()), true;
+    case VK_END: return Step(Items()->Count()), true;
+    case VK_RETURN: return OnClick(this), true;
+    case VK_F4:
+    case VK_ESCAPE: return CloseUp(), true;
+    default: return false;
+  }
+}
+
+void TPopupList::Dispatch(TMessage& message) {
   if (!DispatchOwn(message)) TCustomListBox::Dispatch(message);
 }
 
 // The window's own procedure would take the keyboard when it is pressed.
-bool TInspectorList::DispatchOwn(vcl::TMessage& message) {
+bool TPopupList::DispatchOwn(TMessage& message) {
   switch (message.Msg) {
     case WM_MOUSEACTIVATE: message.Result = MA_NOACTIVATE; return true;
     case WM_LBUTTONDOWN:
@@ -84,9 +101,9 @@ bool TInspectorList::DispatchOwn(vcl::TMessage& message) {
   }
 }
 
-void TInspectorList::SelectAt(const vcl::TMessage& message) {
+void TPopupList::SelectAt(const TMessage& message) {
   const int item = ItemAtPos({message.XPos(), message.YPos()}, true);
   if (item >= 0 && item != ItemIndex()) SetItemIndex(item);
 }
 
-}  // namespace ide
+}  // namespace vcl

@@ -1,42 +1,45 @@
-// TInspectorList: the list of values that drops down from an inspector's line.
+// TPopupList: a list of values that drops down from a line or a cell.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "vcl/stdctrls/listbox.h"
 
-namespace ide {
+namespace vcl {
 
 /// A list in a window of its own above all others, which never takes the keyboard: who shows it
 /// hands it the keys. OnClick tells that the user has chosen an item.
-class TInspectorList : public vcl::TCustomListBox {
+class VCL_API TPopupList : public TCustomListBox {
  public:
-  explicit TInspectorList(vcl::TComponent* owner);
+  explicit TPopupList(TComponent* owner);
 
   /// Shows the values below the rectangle of the screen, or above it where there is no room, with
   /// the current one selected.
-  void DropDown(const vcl::TRect& below, const std::vector<std::string>& values,
+  void DropDown(const TRect& below, const std::vector<std::string>& values,
                 const std::string& current);
   void CloseUp();
   bool DroppedDown() const { return FDown; }
   /// The selected item's text; empty for none.
   std::string Chosen() const;
   void Choose(const std::string& value) { SetItemIndex(Items()->IndexOf(value)); }
-  /// Moves the selection by so many items, as far as there are some.
-  void Step(int by);
+  /// A key, while the list is down: arrows, Page Up and the like move the selection, Enter chooses,
+  /// Escape and F4 close the list. False when the key is not the list's.
+  bool TakeKey(std::uint16_t key);
   /// The number of items that are seen at once.
   int PageSize() const { return ClientHeight() / ItemHeight(); }
 
  protected:
-  void CreateParams(vcl::TCreateParams& params) override;
-  void Dispatch(vcl::TMessage& message) override;
+  void CreateParams(TCreateParams& params) override;
+  void Dispatch(TMessage& message) override;
 
  private:
-  bool DispatchOwn(vcl::TMessage& message);
-  void SelectAt(const vcl::TMessage& message);
+  void Step(int by);
+  bool DispatchOwn(TMessage& message);
+  void SelectAt(const TMessage& message);
 
   bool FDown = false;
 };
 
-}  // namespace ide
+}  // namespace vcl

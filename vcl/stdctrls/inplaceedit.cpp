@@ -1,41 +1,41 @@
-// TInspectorEdit: an edit without a border that leaves the wheel to the grid and tells when it
+// TInplaceEdit: an edit without a border that leaves the wheel to the grid and tells when it
 // loses the focus.
-#include "ide/inspectoredit.h"
+#include "vcl/stdctrls/inplaceedit.h"
 
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/win32.h"
 
-namespace ide {
+namespace vcl {
 
-TInspectorEdit::TInspectorEdit(vcl::TComponent* owner) : TCustomEdit(owner) {
+TInplaceEdit::TInplaceEdit(TComponent* owner) : TCustomEdit(owner) {
   SetAutoSize(false);
-  SetBorderStyle(vcl::bsNone);
+  SetBorderStyle(bsNone);
   SetTabStop(false);
 }
 
 // Without this style a text that is wider than the edit could not be scrolled.
-void TInspectorEdit::CreateParams(vcl::TCreateParams& params) {
+void TInplaceEdit::CreateParams(TCreateParams& params) {
   TCustomEdit::CreateParams(params);
   params.Style |= ES_AUTOHSCROLL;
 }
 
-void TInspectorEdit::Dispatch(vcl::TMessage& message) {
+void TInplaceEdit::Dispatch(TMessage& message) {
   switch (message.Msg) {
-    case vcl::CM_WANTSPECIALKEY: message.Result = 1; return;
+    case CM_WANTSPECIALKEY: message.Result = 1; return;
     // The lines are scrolled, not the text.
     case WM_MOUSEWHEEL:
       message.Result = Parent()->Perform(message.Msg, message.WParam, message.LParam);
       return;
     default: break;
   }
-  vcl::TWatch watch(this);
+  TWatch watch(this);
   TCustomEdit::Dispatch(message);
   if (watch.Gone()) return;
   // The text stands where the line's value is painted; a font brings margins of its own.
   if (message.Msg == WM_SETFONT) {
-    vcl::Send(*this, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+    Send(*this, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
   }
   if (message.Msg == WM_KILLFOCUS) OnLeave(this);
 }
 
-}  // namespace ide
+}  // namespace vcl
