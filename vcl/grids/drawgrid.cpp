@@ -39,6 +39,7 @@ class TCellClip {
 };
 
 constexpr const char* CellParameters = "vcl::TObject* sender, int col, int row";
+constexpr const char* MovedParameters = "vcl::TObject* sender, int fromIndex, int toIndex";
 
 }  // namespace
 
@@ -49,7 +50,7 @@ const TClass& TDrawGrid::Class() {
       {
           Inherit(GridProperties),
           Inherit("OnClick"),
-          Event<&T::OnColumnMoved>("OnColumnMoved"),
+          Event<&T::OnColumnMoved>("OnColumnMoved").Type("TMovedEvent", MovedParameters),
           Inherit("OnDblClick"),
           Inherit(DragEvents),
           Event<&T::OnDrawCell>("OnDrawCell"),
@@ -63,7 +64,7 @@ const TClass& TDrawGrid::Class() {
           Inherit(MouseEvents),
           Inherit(WheelEvents),
           Inherit("OnResize"),
-          Event<&T::OnRowMoved>("OnRowMoved"),
+          Event<&T::OnRowMoved>("OnRowMoved").Type("TMovedEvent", MovedParameters),
           Event<&T::OnSelectCell>("OnSelectCell"),
           Event<&T::OnSetEditText>("OnSetEditText"),
           Inherit("OnStartDrag"),

@@ -100,9 +100,6 @@ inline constexpr TEventText EventText<TDrawCellEvent>{
     "TDrawCellEvent",
     "vcl::TObject* sender, int col, int row, const vcl::TRect& rect, vcl::TGridDrawState state"};
 template <>
-inline constexpr TEventText EventText<TMovedEvent>{
-    "TMovedEvent", "vcl::TObject* sender, int fromIndex, int toIndex"};
-template <>
 inline constexpr TEventText EventText<TGetEditStyleEvent>{
     "TGetEditStyleEvent", "vcl::TObject* sender, int col, int row, vcl::TEditStyle& style"};
 template <>

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "vcl/graphics/private/imagesize.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
@@ -104,6 +105,9 @@ void CheckSize(UINT width, UINT height) {
 
 TDecodedImage DecodeImage(const std::vector<unsigned char>& data, const std::string& mimeType) {
   const TKind& kind = KindOf(mimeType);
+  // Some systems decode as they open: what the header says is looked at before.
+  const TImageSize said = CodedImageSize(data);
+  if (said.Width > 0) CheckSize(said.Width, said.Height);
   const TComUse com;
   const auto factory = MakeFactory();
   const TCom<IStream> stream(::SHCreateMemStream(data.data(), static_cast<UINT>(data.size())));
