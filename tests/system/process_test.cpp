@@ -1,11 +1,11 @@
 // Other programs: their arguments, input, output, limits and end.
 #include <gmock/gmock.h>
 
+#include <array>
 #include <random>
 
-#include "tests/support/program.h"
-#include "tests/vcl/testinput.h"
-#include "vcl/rtl/commandline.h"
+#include "vcl/rtl/utf16.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
 
 namespace vcl {
