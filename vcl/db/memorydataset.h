@@ -15,6 +15,17 @@ class VCL_API TMemoryDataSet : public TDataSet {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
+  using TDataSet::IndexFieldNames;
+  /// The fields by which the records are ordered, such as "Name;Born DESC", which is from the
+  /// latest to the earliest: Null first, texts by the user's language without case, and what is
+  /// equal as it came. A record goes to its place when it is posted.
+  void SetIndexFieldNames(const std::string& names) { TDataSet::SetIndexFieldNames(names); }
+  using TDataSet::MasterFields;
+  /// The fields of MasterSource's data set, with semicolons between them, that the first fields of
+  /// IndexFieldNames belong to: the records are shown that have the values of the master's current
+  /// record there, and new ones get them. While the master is closed, all are shown.
+  void SetMasterFields(const std::string& names) { TDataSet::SetMasterFields(names); }
+
   /// Forgets all records.
   void EmptyTable();
 
