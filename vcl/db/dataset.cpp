@@ -177,6 +177,15 @@ void TDataSet::MakeFields() {
   FCalculatedAt = -1;
 }
 
+void TDataSet::CheckPersistentFields(const TFieldDefs& definitions) const {
+  for (const TField* field : FFields) {
+    if (FFieldsMade || field->FieldKind() != fkData) continue;
+    if (definitions.IndexOf(field->FieldName()) < 0) {
+      Refuse(Concat("Field '", field->FieldName(), "' not found"));
+    }
+  }
+}
+
 void TDataSet::FreeMadeFields() {
   for (TField* field : FFields) {
     field->FFieldNo = -1;

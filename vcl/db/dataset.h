@@ -227,6 +227,9 @@ class VCL_API TDataSet : public TComponent {
   /// The fields of the master that have the values of the first ones of IndexFieldNames.
   void SetMasterFields(const std::string& names);
   void CheckInactive() const;
+  /// Raises EDatabaseError when a field that stays while the data set is closed is not defined
+  /// there.
+  void CheckPersistentFields(const TFieldDefs& definitions) const;
   /// Closes without a word, for destructors.
   void Shut() noexcept;
   void Loaded() override;

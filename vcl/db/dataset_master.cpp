@@ -30,7 +30,8 @@ TRecord TDataSet::MasterValues() {
 
 /// The values that the master's record gives to the first fields of the order.
 std::vector<TDataSet::TFixed> TDataSet::MasterRange(const std::vector<TField*>& fields) {
-  const TRecord values = MasterValues();
+  // A query chooses its records on its own.
+  const TRecord values = TDataSet::MasterValues();
   if (values.size() > fields.size()) {
     Refuse(Concat("IndexFieldNames has fewer fields than MasterFields, '", FMasterFields, "'"));
   }
