@@ -23,9 +23,12 @@ bool SameText(const std::string& text, const std::string& wanted, TLocateOptions
 }
 
 bool Matches(const TFieldValue& value, const TFieldValue& wanted, TLocateOptions options) {
+  if (value.index() != wanted.index()) return false;
+  if (const auto* whole = std::get_if<std::int64_t>(&value)) {
+    return *whole == *std::get_if<std::int64_t>(&wanted);
+  }
   const auto* text = std::get_if<std::string>(&value);
-  const auto* wantedText = std::get_if<std::string>(&wanted);
-  return text && wantedText ? SameText(*text, *wantedText, options) : value == wanted;
+  return text ? SameText(*text, *std::get_if<std::string>(&wanted), options) : value == wanted;
 }
 
 /// True when the records are ordered by these fields before all others.

@@ -80,15 +80,16 @@ std::unique_ptr<TRecordView> TDataSet::MakeView() {
   std::vector<TFixed> range = MasterRange(fields);
   if (!FFiltered && order.empty()) return FFixed.clear(), nullptr;
   if (IsUniDirectional()) Refuse("A unidirectional dataset cannot be filtered or ordered");
-  auto view = std::make_unique<TRecordView>(
-      *FRecords,
-      [filter = MakeFilter(), range](const TRecord& record) {
-        for (const auto& [place, value] : range) {
-          if (IsNull(value) || record[place] != value) return false;
-        }
-        return !filter || filter(record);
-      },
-      std::move(order));
+  std::function<bool(const TRecord&)> accepts = MakeFilter();
+  if (!range.empty() || !accepts) {
+    accepts = [filter = std::move(accepts), range](const TRecord& record) {
+      for (const auto& [place, value] : range) {
+        if (IsNull(value) || record[place] != value) return false;
+      }
+      return !filter || filter(record);
+    };
+  }
+  auto view = std::make_unique<TRecordView>(*FRecords, std::move(accepts), std::move(order));
   FFixed = std::move(range);
   return view;
 }

@@ -28,6 +28,9 @@ struct TRow {
 /// are parts of the record or of the expression.
 using TResult = std::variant<std::monostate, std::int64_t, double, std::string_view>;
 
+/// What conditions result in: Unknown is what Null has been compared with.
+enum class TTruth { False, True, Unknown };
+
 enum class TKind { Number, Text, Date, Condition };
 
 /// A part of an expression.
@@ -37,6 +40,8 @@ class TNode {
   virtual ~TNode() = default;
   TKind Kind() const { return FKind; }
   virtual TResult Evaluate(const TRow& row) const = 0;
+  /// The same of a condition.
+  virtual TTruth Test(const TRow& row) const;
 
  private:
   TKind FKind;
@@ -54,6 +59,8 @@ struct TOptions {
 TNodePtr Compile(std::string_view text, const TFindField& findField, const TOptions& options);
 
 /// True when a condition is fulfilled.
-bool Holds(const TNode& condition, const TRow& row);
+inline bool Holds(const TNode& condition, const TRow& row) {
+  return condition.Test(row) == TTruth::True;
+}
 
 }  // namespace vcl::filter

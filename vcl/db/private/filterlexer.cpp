@@ -1,3 +1,4 @@
+// The words of a filter: names, texts, numbers and symbols.
 #include "vcl/db/private/filterlexer.h"
 
 #include <algorithm>

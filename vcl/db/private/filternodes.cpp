@@ -25,7 +25,7 @@ TResult ResultOf(const TFieldValue& value) {
   }
 }
 
-TResult Condition(bool holds) { return std::int64_t{holds}; }
+TTruth TruthOf(bool holds) { return holds ? TTruth::True : TTruth::False; }
 
 template <class T>
 int Sign(const T& a, const T& b) {
@@ -43,6 +43,22 @@ std::optional<int> Compare(const TResult& a, const TResult& b, bool ignoreCase) 
   const auto* whole = std::get_if<std::int64_t>(&a);
   const auto* otherWhole = std::get_if<std::int64_t>(&b);
   return whole && otherWhole ? Sign(*whole, *otherWhole) : Sign(ToDouble(a), ToDouble(b));
+}
+
+/// The same of a field's value and one that is written out, without a detour where both are of one
+/// kind.
+std::optional<int> CompareStored(const TFieldValue& a, const TFieldValue& b, TRelation relation,
+                                 bool ignoreCase) {
+  if (a.index() == b.index()) {
+    if (const auto* whole = std::get_if<std::int64_t>(&a)) {
+      return Sign(*whole, *std::get_if<std::int64_t>(&b));
+    }
+    const auto* text = std::get_if<std::string>(&a);
+    const bool equality = relation == TRelation::Equal || relation == TRelation::NotEqual;
+    // Texts of different lengths are told apart at once.
+    if (text && equality && !ignoreCase) return *text == *std::get_if<std::string>(&b) ? 0 : 1;
+  }
+  return Compare(ResultOf(a), ResultOf(b), ignoreCase);
 }
 
 bool Fits(TRelation relation, int order) {
@@ -89,9 +105,16 @@ TResult Calculate(char operation, const TResult& a, const TResult& b) {
 
 TResult TLiteral::Evaluate(const TRow&) const { return ResultOf(FValue); }
 
-TResult TFieldNode::Evaluate(const TRow& row) const {
-  const auto place = static_cast<std::size_t>(FFieldNo);
-  return ResultOf(place < row.Record.size() ? row.Record[place] : row.Behind(row.Record, FFieldNo));
+TResult TFieldNode::Evaluate(const TRow& row) const { return ResultOf(Value(row)); }
+
+TTruth TNode::Test(const TRow& row) const {
+  const TResult value = Evaluate(row);
+  return IsNull(value) ? TTruth::Unknown : TruthOf(value == TResult(std::int64_t{1}));
+}
+
+TResult TCondition::Evaluate(const TRow& row) const {
+  const TTruth truth = Test(row);
+  return truth == TTruth::Unknown ? TResult() : std::int64_t{truth == TTruth::True};
 }
 
 TResult TArithmetic::Evaluate(const TRow& row) const {
@@ -106,52 +129,59 @@ TResult TNegative::Evaluate(const TRow& row) const {
   return Calculate('-', std::int64_t{0}, FNode->Evaluate(row));
 }
 
-TResult TComparison::Evaluate(const TRow& row) const {
-  const TResult left = FLeft->Evaluate(row);
-  const std::optional<int> order = Compare(left, FRight->Evaluate(row), FIgnoreCase);
-  return order ? Condition(Fits(FRelation, *order)) : TResult();
+TComparison::TComparison(TRelation relation, TNodePtr left, TNodePtr right, bool ignoreCase)
+    : FRelation(relation),
+      FLeft(std::move(left)),
+      FRight(std::move(right)),
+      FField(dynamic_cast<const TFieldNode*>(FLeft.get())),
+      FLiteral(dynamic_cast<const TLiteral*>(FRight.get())),
+      FIgnoreCase(ignoreCase) {}
+
+TTruth TComparison::Test(const TRow& row) const {
+  const std::optional<int> order =
+      FField && FLiteral
+          ? CompareStored(FField->Value(row), FLiteral->Value(), FRelation, FIgnoreCase)
+          : Compare(FLeft->Evaluate(row), FRight->Evaluate(row), FIgnoreCase);
+  return order ? TruthOf(Fits(FRelation, *order)) : TTruth::Unknown;
 }
 
-TResult TLike::Evaluate(const TRow& row) const {
+TTruth TLike::Test(const TRow& row) const {
   const TResult value = FText->Evaluate(row), wanted = FPattern->Evaluate(row);
   const auto* text = std::get_if<std::string_view>(&value);
   const auto* pattern = std::get_if<std::string_view>(&wanted);
-  if (!text || !pattern) return {};
-  return Condition(FWay == Pattern ? MatchesPattern(*text, *pattern, FIgnoreCase)
-                                   : BeginsWith(*text, *pattern, FIgnoreCase));
+  if (!text || !pattern) return TTruth::Unknown;
+  return TruthOf(FWay == Pattern ? MatchesPattern(*text, *pattern, FIgnoreCase)
+                                 : BeginsWith(*text, *pattern, FIgnoreCase));
 }
 
-TResult TIn::Evaluate(const TRow& row) const {
+TTruth TIn::Test(const TRow& row) const {
   const TResult value = FNode->Evaluate(row);
-  bool unknown = false;
+  TTruth truth = TTruth::False;
   for (const TNodePtr& each : FList) {
     const std::optional<int> order = Compare(value, each->Evaluate(row), FIgnoreCase);
-    if (order == 0) return Condition(true);
-    unknown |= !order;
+    if (order == 0) return TTruth::True;
+    if (!order) truth = TTruth::Unknown;
   }
-  return unknown ? TResult() : Condition(false);
+  return truth;
 }
 
-TResult TIsNull::Evaluate(const TRow& row) const { return Condition(IsNull(FNode->Evaluate(row))); }
+TTruth TIsNull::Test(const TRow& row) const { return TruthOf(IsNull(FNode->Evaluate(row))); }
 
-TResult TNot::Evaluate(const TRow& row) const {
-  const TResult value = FNode->Evaluate(row);
-  return IsNull(value) ? value : Condition(value != Condition(true));
+TTruth TNot::Test(const TRow& row) const {
+  const TTruth truth = FNode->Test(row);
+  return truth == TTruth::Unknown ? truth : TruthOf(truth == TTruth::False);
 }
 
-TResult TJoined::Evaluate(const TRow& row) const {
-  bool unknown = false;
+TTruth TJoined::Test(const TRow& row) const {
+  // One that does not hold decides for AND, one that does for OR.
+  const TTruth decides = TruthOf(!FByAnd);
+  TTruth truth = TruthOf(FByAnd);
   for (const TNodePtr& each : FNodes) {
-    const TResult value = each->Evaluate(row);
-    unknown |= IsNull(value);
-    // One that does not hold decides for AND, one that does for OR.
-    if (!IsNull(value) && (value == Condition(true)) != FByAnd) return Condition(!FByAnd);
+    const TTruth one = each->Test(row);
+    if (one == decides) return decides;
+    if (one == TTruth::Unknown) truth = one;
   }
-  return unknown ? TResult() : Condition(FByAnd);
-}
-
-bool Holds(const TNode& condition, const TRow& row) {
-  return condition.Evaluate(row) == Condition(true);
+  return truth;
 }
 
 }  // namespace vcl::filter

@@ -12,6 +12,7 @@ namespace vcl::filter {
 class TLiteral : public TNode {
  public:
   TLiteral(TKind kind, TFieldValue value) : TNode(kind), FValue(std::move(value)) {}
+  const TFieldValue& Value() const { return FValue; }
   const std::string* Text() const { return std::get_if<std::string>(&FValue); }
   TResult Evaluate(const TRow& row) const override;
 
@@ -22,6 +23,10 @@ class TLiteral : public TNode {
 class TFieldNode : public TNode {
  public:
   TFieldNode(TKind kind, int fieldNo) : TNode(kind), FFieldNo(fieldNo) {}
+  const TFieldValue& Value(const TRow& row) const {
+    const auto place = static_cast<std::size_t>(FFieldNo);
+    return place < row.Record.size() ? row.Record[place] : row.Behind(row.Record, FFieldNo);
+  }
   TResult Evaluate(const TRow& row) const override;
 
  private:
@@ -53,35 +58,35 @@ class TNegative : public TNode {
   TNodePtr FNode;
 };
 
+class TCondition : public TNode {
+ public:
+  TCondition() : TNode(TKind::Condition) {}
+  TResult Evaluate(const TRow& row) const override;
+};
+
 enum class TRelation { Equal, NotEqual, Less, LessOrEqual, Greater, GreaterOrEqual };
 
-class TComparison : public TNode {
+class TComparison : public TCondition {
  public:
-  TComparison(TRelation relation, TNodePtr left, TNodePtr right, bool ignoreCase)
-      : TNode(TKind::Condition),
-        FRelation(relation),
-        FLeft(std::move(left)),
-        FRight(std::move(right)),
-        FIgnoreCase(ignoreCase) {}
-  TResult Evaluate(const TRow& row) const override;
+  TComparison(TRelation relation, TNodePtr left, TNodePtr right, bool ignoreCase);
+  TTruth Test(const TRow& row) const override;
 
  private:
   TRelation FRelation;
   TNodePtr FLeft, FRight;
+  /// Both, where a field is compared with a value, as it mostly is.
+  const TFieldNode* FField;
+  const TLiteral* FLiteral;
   bool FIgnoreCase;
 };
 
 /// LIKE, and texts that are compared in part.
-class TLike : public TNode {
+class TLike : public TCondition {
  public:
   enum TWay { Pattern, Beginning };
   TLike(TWay way, TNodePtr text, TNodePtr pattern, bool ignoreCase)
-      : TNode(TKind::Condition),
-        FWay(way),
-        FText(std::move(text)),
-        FPattern(std::move(pattern)),
-        FIgnoreCase(ignoreCase) {}
-  TResult Evaluate(const TRow& row) const override;
+      : FWay(way), FText(std::move(text)), FPattern(std::move(pattern)), FIgnoreCase(ignoreCase) {}
+  TTruth Test(const TRow& row) const override;
 
  private:
   TWay FWay;
@@ -89,14 +94,11 @@ class TLike : public TNode {
   bool FIgnoreCase;
 };
 
-class TIn : public TNode {
+class TIn : public TCondition {
  public:
   TIn(TNodePtr node, std::vector<TNodePtr> list, bool ignoreCase)
-      : TNode(TKind::Condition),
-        FNode(std::move(node)),
-        FList(std::move(list)),
-        FIgnoreCase(ignoreCase) {}
-  TResult Evaluate(const TRow& row) const override;
+      : FNode(std::move(node)), FList(std::move(list)), FIgnoreCase(ignoreCase) {}
+  TTruth Test(const TRow& row) const override;
 
  private:
   TNodePtr FNode;
@@ -104,30 +106,29 @@ class TIn : public TNode {
   bool FIgnoreCase;
 };
 
-class TIsNull : public TNode {
+class TIsNull : public TCondition {
  public:
-  explicit TIsNull(TNodePtr node) : TNode(TKind::Condition), FNode(std::move(node)) {}
-  TResult Evaluate(const TRow& row) const override;
+  explicit TIsNull(TNodePtr node) : FNode(std::move(node)) {}
+  TTruth Test(const TRow& row) const override;
 
  private:
   TNodePtr FNode;
 };
 
-class TNot : public TNode {
+class TNot : public TCondition {
  public:
-  explicit TNot(TNodePtr node) : TNode(TKind::Condition), FNode(std::move(node)) {}
-  TResult Evaluate(const TRow& row) const override;
+  explicit TNot(TNodePtr node) : FNode(std::move(node)) {}
+  TTruth Test(const TRow& row) const override;
 
  private:
   TNodePtr FNode;
 };
 
 /// Any number of conditions, joined by AND or by OR.
-class TJoined : public TNode {
+class TJoined : public TCondition {
  public:
-  TJoined(bool byAnd, std::vector<TNodePtr> nodes)
-      : TNode(TKind::Condition), FByAnd(byAnd), FNodes(std::move(nodes)) {}
-  TResult Evaluate(const TRow& row) const override;
+  TJoined(bool byAnd, std::vector<TNodePtr> nodes) : FByAnd(byAnd), FNodes(std::move(nodes)) {}
+  TTruth Test(const TRow& row) const override;
 
  private:
   bool FByAnd;

@@ -1,3 +1,4 @@
+// Dates and times as texts that are the same for every user.
 #include "vcl/db/private/isodates.h"
 
 #include <cstdio>

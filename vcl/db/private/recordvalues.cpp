@@ -1,3 +1,4 @@
+// The values of records in files: as texts, and read from them.
 #include "vcl/db/private/recordvalues.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// TRecordView: looks through the records, keeps them in order and follows their changes.
 #include "vcl/db/private/recordview.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Texts that begin with another one, or follow a pattern, character by character.
 #include "vcl/db/private/textmatch.h"
 
 #include <algorithm>
