@@ -9,6 +9,7 @@
 #include "vcl/db/memorydataset.h"
 #include "vcl/db/registration.h"
 #include "vcl/rtl/classes.h"
+#include "vcl/rtl/customapplication.h"
 
 namespace {
 
@@ -393,6 +394,33 @@ TEST(MasterDetail, DetailsFollowTheirMaster) {
   people.First();
   people.Close();
   EXPECT_EQ(places(), "Bern Lima Oslo Paris Rom") << "without a master, all";
+}
+
+TEST(MasterDetail, AMasterThatGoesTakesNothingWithIt) {
+  auto people = std::make_unique<TPeople>();
+  TDataSource source(nullptr);
+  source.SetDataSet(people.get());
+  TMemoryDataSet visits(nullptr);
+  visits.FieldDefs()->Add("Person", ftString);
+  visits.Open();
+  for (const char* person : {"bob", "Ann"}) visits.AppendRecord({T(person)});
+  visits.SetIndexFieldNames("Person");
+  visits.SetMasterFields("Name");
+  visits.SetMasterSource(&source);
+  visits.Append();
+  visits.SetFieldValues("Person", T("Cid"));
+  struct TListener : TCustomApplication {
+    TListener() : TCustomApplication(nullptr) {}
+    void HandleException(TObject*, const std::exception& error) override { Shown += error.what(); }
+    std::string Shown;
+  } listener;
+  visits.BeforePost = [](TDataSet*) { throw EDatabaseError("no"); };
+  people.reset();
+  EXPECT_EQ(listener.Shown, "no");
+  EXPECT_EQ(visits.State(), dsInsert) << "what cannot be posted is still being edited";
+  visits.Cancel();
+  visits.Refresh();
+  EXPECT_EQ(Names(visits, "Person"), "Ann");
 }
 
 TEST(View, ComesFromAFormFile) {

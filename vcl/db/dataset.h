@@ -282,6 +282,7 @@ class VCL_API TDataSet : public TComponent {
   bool AcceptedByHandler(const TRecord& record) const;
   std::vector<TFixed> MasterRange(const std::vector<TField*>& fields);
   void FollowMaster();
+  void ChooseDetails();
   void PostForMaster();
   void FillFixed();
 

@@ -4,6 +4,7 @@
 #include "vcl/db/dataset.h"
 #include "vcl/db/private/masterlink.h"
 #include "vcl/db/private/recordview.h"
+#include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
@@ -58,6 +59,18 @@ void TDataSet::PostForMaster() {
 
 void TDataSet::FollowMaster() {
   if (!Active() || FFollowing) return;
+  if (Master()) return ChooseDetails();
+  if (FMasterFields.empty()) return;
+  // The master may be going just now, where nothing can be raised.
+  TWatch watch(this);
+  try {
+    ChooseDetails();
+  } catch (...) {
+    BaseApplication().HandleCurrentException(watch.Gone() ? nullptr : this);
+  }
+}
+
+void TDataSet::ChooseDetails() {
   const TSetFor following(FFollowing, true, this);
   TRecord values = MasterValues();
   if (values == FMasterValues) return;

@@ -1,5 +1,6 @@
 // Which records are shown, and in what order: the filter, the fields of the order, and the master's
 // current record.
+#include <algorithm>
 #include <utility>
 
 #include "vcl/db/dataset.h"
