@@ -4,9 +4,11 @@
 
 #include "bench/mail.h"
 #include "bench/records.h"
+#include "bench/views.h"
 
 int main() {
   std::printf("# Performance without a window\n\nRatios of medians; in brackets the two times.\n");
   bench::Mail();
+  bench::Views();
   bench::Records();
 }

@@ -4,6 +4,7 @@
 
 #include "qel/data/Qeltdbascii.h"
 #include "tests/data/sqlite.h"
+#include "vcl/db/datasource.h"
 #include "vcl/rtl/convert.h"
 
 namespace {
@@ -181,6 +182,43 @@ TEST_F(Odbc, ParametersHaveNames) {
   Query.ParamByName("2")->SetAsDate(vcl::EncodeDate(1999, 12, 31));
   EXPECT_EQ(Query.ExecSQL(), 3);
   EXPECT_EQ(Database.Ask("SELECT sum(score), min(born || '') FROM people"), "4.5|1999-12-31");
+}
+
+TEST_F(Odbc, RecordsAreFilteredAndFoundAsTheyAreRead) {
+  Open("SELECT id, name FROM people ORDER BY id");
+  Query.SetFilter("name <> 'Bob'");
+  Query.SetFiltered(true);
+  EXPECT_EQ(Dump(Query), "1|Ann;3|Cid");
+  EXPECT_TRUE(Query.Locate("name", {std::string("CID")}, {vcl::loCaseInsensitive}));
+  Query.InsertRecord({{}, std::string("Eve")});
+  EXPECT_EQ(Dump(Query), "1|Ann;4|Eve;3|Cid");
+  Query.Last();
+  Query.Edit();
+  Field("name")->SetAsString("Cleo");
+  Query.Post();
+  Query.Refresh();
+  EXPECT_EQ(Dump(Query), "1|Ann;3|Cleo;4|Eve");
+  Query.Close();
+  Query.SetUniDirectional(true);
+  EXPECT_THAT(Message([&] { Query.Open(); }), HasSubstr("unidirectional"));
+  EXPECT_FALSE(Query.Active());
+}
+
+TEST_F(Odbc, ParametersFollowAMaster) {
+  vcl::TOdbcQuery visits(nullptr);
+  vcl::TDataSource source(nullptr);
+  source.SetDataSet(&Query);
+  visits.SetMasterSource(&source);
+  visits.SetConnectionString(Database.ConnectionString());
+  visits.SQL()->SetText("SELECT :id * 10 AS place, :other AS other");
+  visits.ParamByName("other")->SetAsString("x");
+  Open("SELECT id, name FROM people ORDER BY id");
+  visits.Open();
+  EXPECT_EQ(Dump(visits), "10|x");
+  Query.Next();
+  EXPECT_EQ(Dump(visits), "20|x");
+  EXPECT_TRUE(Query.Locate("name", {std::string("Cid")}));
+  EXPECT_EQ(Dump(visits), "30|x");
 }
 
 TEST_F(Odbc, TransactionsAreKeptOrRolledBack) {

@@ -46,7 +46,7 @@ void TDataLink::UpdateState() {
 
 void TDataLink::DataEvent(TDataEvent event, TField* field, int distance) {
   if (!FActive) return;
-  if (event != deUpdateRecord) KeepCurrentInside();
+  if (event != deUpdateRecord && event != deCheckBrowseMode) KeepCurrentInside();
   switch (event) {
     case deFieldChange: return RecordChanged(field);
     case deRecordChange: return RecordChanged(nullptr);
@@ -54,6 +54,7 @@ void TDataLink::DataEvent(TDataEvent event, TField* field, int distance) {
     case deDataSetScroll: return DataSetScrolled(distance);
     case deLayoutChange: return LayoutChanged();
     case deUpdateRecord: return UpdateRecord();
+    case deCheckBrowseMode: return CheckBrowseMode();
     case deUpdateState: return;
   }
 }

@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "vcl/db/datasource.h"
+#include "vcl/db/private/masterlink.h"
+#include "vcl/db/private/recordview.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/scope.h"
@@ -18,7 +20,16 @@ const TClass& TDataSet::Class() {
       "vcl::TDataSet", "vcl/db/db.h",
       {
           Property<&T::Active, &T::SetActive>("Active").Default(false).Unpublished(),
+          Property<&T::AutoCalcFields, &T::SetAutoCalcFields>("AutoCalcFields")
+              .Default(true)
+              .Unpublished(),
           Property<&T::FieldDefs, &T::SetFieldDefs>("FieldDefs").Unpublished(),
+          Property<&T::Filter, &T::SetFilter>("Filter").Default("").Unpublished(),
+          Property<&T::FilterOptions, &T::SetFilterOptions>("FilterOptions")
+              .Default(TFilterOptions())
+              .Unpublished(),
+          Property<&T::Filtered, &T::SetFiltered>("Filtered").Default(false).Unpublished(),
+          Property<&T::MasterSource, &T::SetMasterSource>("MasterSource").Unpublished(),
           Event<&T::BeforeOpen>("BeforeOpen").Unpublished(),
           Event<&T::AfterOpen>("AfterOpen").Unpublished(),
           Event<&T::BeforeClose>("BeforeClose").Unpublished(),
@@ -37,8 +48,10 @@ const TClass& TDataSet::Class() {
           Event<&T::AfterScroll>("AfterScroll").Unpublished(),
           Event<&T::BeforeRefresh>("BeforeRefresh").Unpublished(),
           Event<&T::AfterRefresh>("AfterRefresh").Unpublished(),
+          Event<&T::OnCalcFields>("OnCalcFields").Unpublished(),
           Event<&T::OnDeleteError>("OnDeleteError").Unpublished(),
           Event<&T::OnEditError>("OnEditError").Unpublished(),
+          Event<&T::OnFilterRecord>("OnFilterRecord").Unpublished(),
           Event<&T::OnNewRecord>("OnNewRecord").Unpublished(),
           Event<&T::OnPostError>("OnPostError").Unpublished(),
       });
@@ -46,7 +59,10 @@ const TClass& TDataSet::Class() {
 }
 
 TDataSet::TDataSet(TComponent* owner)
-    : TComponent(owner), FFieldDefs(std::make_unique<TFieldDefs>()) {}
+    : TComponent(owner),
+      FFieldDefs(std::make_unique<TFieldDefs>()),
+      FMasterLink(
+          std::make_unique<TMasterLink>([this] { FollowMaster(); }, [this] { PostForMaster(); })) {}
 
 TDataSet::~TDataSet() {
   AnnounceEnd();
@@ -60,6 +76,8 @@ void TDataSet::Refuse(std::string_view message) const {
 
 void TDataSet::CheckActive() const {
   if (!Active()) Refuse("Cannot perform this operation on a closed dataset");
+  if (FBusy == dsCalcFields) Refuse("Cannot perform this operation while fields are calculated");
+  if (FBusy == dsFilter) Refuse("Cannot perform this operation while records are filtered");
 }
 
 void TDataSet::CheckInactive() const {
@@ -100,8 +118,10 @@ void TDataSet::DoOpen() {
   Fire(BeforeOpen);
   {
     const TOnFailure shut([this] { Shut(); }, this);
-    FStore = &InternalOpen();
+    FRecords = &InternalOpen();
     MakeFields();
+    FMasterValues = MasterValues();
+    UseView(MakeView());
     FIndex = 0;
     FBof = true;
     FEof = FStore->At(0) == nullptr;
@@ -114,6 +134,7 @@ void TDataSet::DoOpen() {
 }
 
 void TDataSet::DoClose() {
+  CheckActive();
   Fire(BeforeClose);
   if (!Active()) return;
   FState = dsInactive;
@@ -127,8 +148,10 @@ void TDataSet::Shut() noexcept {
   FModified = false;
   FBof = FEof = true;
   FreeMadeFields();
+  FView.reset();
+  FFixed.clear();
+  FRecords = FStore = nullptr;
   InternalClose();
-  FStore = nullptr;
 }
 
 void TDataSet::MakeFields() {
@@ -143,14 +166,31 @@ void TDataSet::MakeFields() {
     field->SetReadOnly(definition.ReadOnly());
     field->SetDataSet(this);
   }
+  const int stored = FFieldDefs->Count();
+  int calculated = 0;
   for (TField* field : FFields) {
-    field->FFieldNo = FFieldDefs->IndexOf(field->FieldName());
+    field->FFieldNo = field->FFieldKind == fkData ? FFieldDefs->IndexOf(field->FieldName())
+                                                  : stored + calculated++;
     if (field->FFieldNo < 0) Refuse(Concat("Field '", field->FieldName(), "' not found"));
+  }
+  FCalculated.assign(static_cast<std::size_t>(calculated), {});
+  FCalculatedAt = -1;
+}
+
+void TDataSet::CheckPersistentFields(const TFieldDefs& definitions) const {
+  for (const TField* field : FFields) {
+    if (FFieldsMade || field->FieldKind() != fkData) continue;
+    if (definitions.IndexOf(field->FieldName()) < 0) {
+      Refuse(Concat("Field '", field->FieldName(), "' not found"));
+    }
   }
 }
 
 void TDataSet::FreeMadeFields() {
-  for (TField* field : FFields) field->FFieldNo = -1;
+  for (TField* field : FFields) {
+    field->FFieldNo = -1;
+    field->FFound.clear();
+  }
   while (FFieldsMade && FFields.Count() > 0) delete FFields[FFields.Count() - 1];
   FFieldsMade = false;
 }
@@ -171,6 +211,7 @@ void TDataSet::GetChildren(const std::function<void(TComponent*)>& each, TCompon
 }
 
 void TDataSet::DataEvent(TDataEvent event, TField* field, int distance) {
+  if (event != deFieldChange || FAutoCalcFields) FCalculatedAt = -1;
   // While controls are disabled they hear nothing; EnableControls tells them at the end.
   if (FDisableCount > 0) return;
   TWatch watch(this);

@@ -16,6 +16,8 @@ namespace vcl {
 
 class TDataLink;
 class TDataSource;
+class TMasterLink;
+class TRecordView;
 
 /// Base of the data sets.
 ///
@@ -37,7 +39,7 @@ class VCL_API TDataSet : public TComponent {
   void Open() { SetActive(true); }
   /// Gives up what is being edited.
   void Close() { SetActive(false); }
-  TDataSetState State() const { return FState; }
+  TDataSetState State() const { return FBusy == dsInactive ? FState : FBusy; }
 
   const TFields& Fields() const { return FFields; }
   int FieldCount() const { return FFields.Count(); }
@@ -77,6 +79,48 @@ class VCL_API TDataSet : public TComponent {
   /// Raises EDatabaseError when the record has gone.
   void GotoBookmark(TBookmark bookmark);
   bool BookmarkValid(TBookmark bookmark) const;
+  /// Negative, zero or positive as the first one's record stands before the other's, is the same or
+  /// stands behind it. Raises EDatabaseError when one of them has gone.
+  int CompareBookmarks(TBookmark a, TBookmark b) const;
+
+  const std::string& Filter() const { return FFilter; }
+  /// The condition that the records shown fulfil, such as "Age >= 18 AND City LIKE 'B%'".
+  ///
+  /// Fields, in brackets where their names are no words, are compared with =, <>, <, >, <= and >=,
+  /// LIKE (in which % stands for any characters and _ for one), IN (..., ...) and IS NULL; NOT,
+  /// AND, OR, parentheses, + - * and / join what is a condition or a value. Values are numbers,
+  /// TRUE, FALSE and texts in quotes: 'O''Brien', 'A*' for what begins so, and dates and times as
+  /// '2024-02-28' and '2024-02-28 12:30'. What Null is compared with is not fulfilled.
+  ///
+  /// Raises EDatabaseError with the place of what is wrong while records are being filtered, and
+  /// changes nothing; else that is found when Filtered is set or the data set is opened.
+  void SetFilter(const std::string& filter);
+  bool Filtered() const { return FFiltered; }
+  /// True: only the records that Filter and OnFilterRecord accept are shown. The current record
+  /// stays if it is one of them. Unidirectional data sets cannot be filtered.
+  void SetFiltered(bool filtered);
+  TFilterOptions FilterOptions() const { return FFilterOptions; }
+  /// How Filter compares texts.
+  void SetFilterOptions(TFilterOptions options);
+
+  /// Makes the first record the current one whose fields, named with semicolons between them, have
+  /// these values; false when there is none, and then the current record stays. Looks for the
+  /// record by the order of the records where they are ordered by these fields. Raises
+  /// EDatabaseError for values that the fields cannot hold.
+  bool Locate(std::string_view keyFields, const TRecord& values, TLocateOptions options = {});
+  /// The values of the result fields in the record that Locate would find; nothing without one. The
+  /// current record stays, and may be being edited.
+  TRecord Lookup(std::string_view keyFields, const TRecord& values, std::string_view resultFields);
+
+  bool AutoCalcFields() const { return FAutoCalcFields; }
+  /// False: fields are not calculated anew each time when a field of the record is changed, but
+  /// only when the record is posted.
+  void SetAutoCalcFields(bool autoCalcFields) { FAutoCalcFields = autoCalcFields; }
+
+  TDataSource* MasterSource() const;
+  /// The source of the data set whose current record says which records are shown here. Raises
+  /// EDatabaseError for one of this data set itself.
+  void SetMasterSource(TDataSource* source);
 
   /// In an empty data set the same as Insert.
   void Edit();
@@ -142,6 +186,11 @@ class VCL_API TDataSet : public TComponent {
   TDataSetNotifyEvent BeforeRefresh;
   /// The records have been read again.
   TDataSetNotifyEvent AfterRefresh;
+  /// A record is shown: the handler gives the calculated fields their values by the other fields.
+  TDataSetNotifyEvent OnCalcFields;
+  /// A record is looked at while Filtered is set: the handler says whether it is shown. After
+  /// another handler has been bound, Refresh filters anew.
+  TFilterRecordEvent OnFilterRecord;
   /// A record is being inserted: the handler may set its fields, which does not count as a change.
   TDataSetNotifyEvent OnNewRecord;
   /// Deleting a record has failed: the handler chooses what is done.
@@ -165,7 +214,22 @@ class VCL_API TDataSet : public TComponent {
   virtual void InternalInsert(TRecord& /*record*/) {}
   virtual void InternalUpdate(const TRecord& /*before*/, TRecord& /*record*/) {}
   virtual void InternalDelete(const TRecord& /*record*/) {}
+  /// The values of the master that choose the details.
+  virtual TRecord MasterValues();
+  /// These have changed; the details are chosen anew.
+  virtual void InternalFollow() {}
+  /// The master that is open; null without one.
+  TDataSet* Master() const;
+  const std::string& IndexFieldNames() const { return FIndexFieldNames; }
+  /// The fields by which the records are ordered, "Name;Born DESC".
+  void SetIndexFieldNames(const std::string& names);
+  const std::string& MasterFields() const { return FMasterFields; }
+  /// The fields of the master that have the values of the first ones of IndexFieldNames.
+  void SetMasterFields(const std::string& names);
   void CheckInactive() const;
+  /// Raises EDatabaseError when a field that stays while the data set is closed is not defined
+  /// there.
+  void CheckPersistentFields(const TFieldDefs& definitions) const;
   /// Closes without a word, for destructors.
   void Shut() noexcept;
   void Loaded() override;
@@ -176,6 +240,12 @@ class VCL_API TDataSet : public TComponent {
   friend class TField;
   friend class TDataLink;
   friend class TDataSource;
+
+  /// The place of a field, and the value that the records shown have in it.
+  struct TFixed {
+    std::size_t Place;
+    TFieldValue Value;
+  };
 
   void DoOpen();
   void DoClose();
@@ -191,7 +261,7 @@ class VCL_API TDataSet : public TComponent {
   void Jump(const std::function<void()>& move);
   const TRecord* ViewAt(int index) const;
   /// The record that the fields show: the current one, save while a grid looks at others.
-  const TRecord* Shown() const { return Active() ? ViewAt(FShown) : nullptr; }
+  const TRecord* Shown() const { return FLooking ? FLooking : Active() ? ViewAt(FShown) : nullptr; }
   /// Shows a record to the fields; false when there is none.
   bool Show(int index);
   void ShowCurrent() { FShown = FIndex; }
@@ -201,10 +271,43 @@ class VCL_API TDataSet : public TComponent {
   void Attempt(const TDataSetErrorEvent& onError, const std::function<void()>& operation);
   void Write(TField& field, const TFieldValue& value);
 
+  std::vector<TField*> FieldList(std::string_view names) const;
+  int FindRecord(std::string_view keyFields, const TRecord& values, TLocateOptions options);
+
+  std::unique_ptr<TRecordView> MakeView();
+  void UseView(std::unique_ptr<TRecordView> view);
+  template <class T>
+  void ChangeView(T& property, const T& value);
+  std::function<bool(const TRecord&)> MakeFilter() const;
+  bool AcceptedByHandler(const TRecord& record) const;
+  std::vector<TFixed> MasterRange(const std::vector<TField*>& fields);
+  void FollowMaster();
+  void ChooseDetails();
+  void PostForMaster();
+  void FillFixed();
+
+  template <class Call>
+  void Look(const TRecord& record, const Call& call) const;
+  const TFieldValue& Calculated(int fieldNo) const;
+  const TFieldValue& CalculatedIn(const TRecord& record, int fieldNo) const;
+  void Calculate() const;
+  void WriteCalculated(const TField& field, const TFieldValue& value);
+  bool Calculates() const { return !FCalculated.empty(); }
+
   TFields FFields;
   std::unique_ptr<TFieldDefs> FFieldDefs;
   std::vector<TDataSource*> FSources;
+  /// All records, and those that are shown, which are all where there is no view.
+  TRecordStore* FRecords = nullptr;
   TRecordStore* FStore = nullptr;
+  std::unique_ptr<TRecordView> FView;
+  std::string FFilter, FIndexFieldNames, FMasterFields;
+  bool FFiltered = false;
+  TFilterOptions FFilterOptions;
+  std::unique_ptr<TMasterLink> FMasterLink;
+  std::vector<TFixed> FFixed;
+  TRecord FMasterValues;
+  bool FFollowing = false;
   TDataSetState FState = dsInactive;
   TDataSetState FStateBefore = dsInactive;
   int FIndex = 0;
@@ -215,6 +318,13 @@ class VCL_API TDataSet : public TComponent {
   bool FModified = false;
   bool FOpenWhenLoaded = false;
   bool FFieldsMade = false;
+  bool FAutoCalcFields = true;
+  /// What a handler is being asked for; a record that fields show for it; the values of the
+  /// calculated fields and the index of the record that they are those of.
+  mutable TDataSetState FBusy = dsInactive;
+  mutable const TRecord* FLooking = nullptr;
+  mutable TRecord FCalculated;
+  mutable int FCalculatedAt = -1;
   int FDisableCount = 0;
 };
 

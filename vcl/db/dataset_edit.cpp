@@ -2,6 +2,8 @@
 #include <utility>
 
 #include "vcl/db/dataset.h"
+#include "vcl/db/private/masterlink.h"
+#include "vcl/db/private/recordview.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -12,6 +14,8 @@ void TDataSet::UpdateRecord() {
 }
 
 void TDataSet::CheckBrowseMode() {
+  CheckActive();
+  DataEvent(deCheckBrowseMode);
   CheckActive();
   if (!Editing()) return;
   UpdateRecord();
@@ -63,6 +67,7 @@ void TDataSet::BeginInsert(bool atEnd) {
   Fire(BeforeScroll);
   CheckActive();
   FEdited.assign(static_cast<std::size_t>(FFieldDefs->Count()), {});
+  FillFixed();
   FBefore = FEdited;
   if (atEnd) FIndex = FStore->Count();
   FBof = FEof = false;
@@ -81,7 +86,10 @@ void TDataSet::SetRecord(const TRecord& values) {
     Refuse(Concat("A record of ", std::to_string(values.size()), " values is too long for ",
                   std::to_string(FFields.Count()), " fields"));
   }
-  for (std::size_t i = 0; i < values.size(); ++i) FFields[static_cast<int>(i)]->SetValue(values[i]);
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    TField* field = FFields[static_cast<int>(i)];
+    if (field->FieldKind() == fkData || !IsNull(values[i])) field->SetValue(values[i]);
+  }
   Post();
 }
 
@@ -104,9 +112,12 @@ void TDataSet::Post() {
   for (TField* field : FFields) field->CheckPosted();
   const bool inserting = FState == dsInsert;
   TRecord record = FEdited;
+  // What a filter raises is heard before the record is written.
+  if (FView) FView->Accepts(record);
   Attempt(OnPostError,
           [&] { inserting ? InternalInsert(record) : InternalUpdate(FBefore, record); });
-  inserting ? FStore->Insert(FIndex, record) : FStore->Replace(FIndex, record);
+  const int place = inserting ? FStore->Insert(FIndex, record) : FStore->Replace(FIndex, record);
+  if (place >= 0) FIndex = place;
   Resync();
   Fire(AfterPost);
 }
@@ -166,6 +177,7 @@ void TDataSet::Refresh() {
   Fire(BeforeRefresh);
   CheckActive();
   InternalRefresh();
+  if (FView) FView->Reset();
   if (IsUniDirectional()) FIndex = 0;
   Resync();
   Fire(AfterRefresh);
@@ -176,6 +188,7 @@ void TDataSet::Write(TField& field, const TFieldValue& value) {
   FModified = true;
   TWatch watch(this);
   DataEvent(deFieldChange, &field);
+  if (Calculates() && FAutoCalcFields) DataEvent(deRecordChange);
   if (!watch.Gone()) field.OnChange(&field);
 }
 

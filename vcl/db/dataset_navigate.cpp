@@ -121,4 +121,10 @@ void TDataSet::GotoBookmark(TBookmark bookmark) {
   });
 }
 
+int TDataSet::CompareBookmarks(TBookmark a, TBookmark b) const {
+  CheckActive();
+  if (!BookmarkValid(a) || !BookmarkValid(b)) Refuse("The bookmark's record has gone");
+  return FStore->IndexOf(a) - FStore->IndexOf(b);
+}
+
 }  // namespace vcl

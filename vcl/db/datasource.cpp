@@ -32,7 +32,7 @@ TDataSource::~TDataSource() {
 }
 
 TDataSetState TDataSource::State() const {
-  return FEnabled && FDataSet ? FDataSet->State() : dsInactive;
+  return FEnabled && FDataSet ? FDataSet->FState : dsInactive;
 }
 
 void TDataSource::SetDataSet(TDataSet* dataSet) {
@@ -88,7 +88,7 @@ void TDataSource::DataEvent(TDataEvent event, TField* field, int distance) {
   if (FState == dsInactive) return;
   TWatch watch(this);
   ForLinks([&](TDataLink& link) { link.DataEvent(event, field, distance); });
-  if (!watch.Gone()) FireEvent(event, field);
+  if (!watch.Gone() && event != deCheckBrowseMode) FireEvent(event, field);
 }
 
 void TDataSource::FireEvent(TDataEvent event, TField* field) {

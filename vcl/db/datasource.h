@@ -103,6 +103,8 @@ class VCL_API TDataLink : public TPersistent {
   virtual void RecordChanged(TField* /*field*/) {}
   /// What is being typed is to be written into the field.
   virtual void UpdateData() {}
+  /// The data set is about to leave its current record.
+  virtual void CheckBrowseMode() {}
 
  private:
   friend class TDataSource;

@@ -31,7 +31,14 @@ const TClass& TField::Class() {
       {
           Property<&T::DisplayLabel, &T::SetDisplayLabel>("DisplayLabel"),
           Property<&T::DisplayWidth, &T::SetDisplayWidth>("DisplayWidth"),
+          Property<&T::FieldKind, &T::SetFieldKind>("FieldKind").Default(fkData),
           Property<&T::FieldName, &T::SetFieldName>("FieldName"),
+          Property<&T::KeyFields, &T::SetKeyFields>("KeyFields").Default(""),
+          Property<&T::LookupCache, &T::SetLookupCache>("LookupCache").Default(false),
+          Property<&T::LookupDataSet, &T::SetLookupDataSet>("LookupDataSet"),
+          Property<&T::LookupKeyFields, &T::SetLookupKeyFields>("LookupKeyFields").Default(""),
+          Property<&T::LookupResultField, &T::SetLookupResultField>("LookupResultField")
+              .Default(""),
           Property<&T::ReadOnly, &T::SetReadOnly>("ReadOnly").Default(false),
           Property<&T::Required, &T::SetRequired>("Required").Default(false),
           Property<&T::Visible, &T::SetVisible>("Visible").Default(true),
@@ -99,11 +106,13 @@ TComponent* TField::GetParentComponent() const { return FDataSet; }
 void TField::SetParentComponent(TComponent* parent) { SetDataSet(dynamic_cast<TDataSet*>(parent)); }
 
 bool TField::CanModify() const {
-  return FFieldNo >= 0 && !FReadOnly && FDataSet->Active() && FDataSet->CanModify();
+  return FFieldNo >= 0 && FFieldKind == fkData && !FReadOnly && FDataSet->Active() &&
+         FDataSet->CanModify();
 }
 
 const TFieldValue& TField::Raw() const {
   if (FValidating) return *FValidating;
+  if (FFieldNo >= 0 && FFieldKind != fkData) return FDataSet->Calculated(FFieldNo);
   const TRecord* record = FFieldNo >= 0 ? FDataSet->Shown() : nullptr;
   return record ? (*record)[static_cast<std::size_t>(FFieldNo)] : Null;
 }
@@ -112,7 +121,7 @@ TFieldValue TField::Value() const { return Raw(); }
 bool TField::IsNull() const { return vcl::IsNull(Raw()); }
 
 TFieldValue TField::OldValue() const {
-  if (FFieldNo < 0 || !FDataSet->Editing()) return Raw();
+  if (FFieldNo < 0 || FFieldKind != fkData || !FDataSet->Editing()) return Raw();
   return FDataSet->FBefore[static_cast<std::size_t>(FFieldNo)];
 }
 
@@ -218,10 +227,12 @@ void TField::SetText(const std::string& text) {
 }
 
 void TField::SetValue(const TFieldValue& value) {
-  const TFieldValue accepted = vcl::IsNull(value) ? value : Accept(value);
+  const TFieldValue accepted = Convert(value);
   if (!FDataSet || FFieldNo < 0) {
     throw EDatabaseError(Concat("Field '", FFieldName, "' has no open dataset"));
   }
+  if (FFieldKind != fkData) return FDataSet->WriteCalculated(*this, accepted);
+  FDataSet->CheckActive();
   if (FReadOnly) throw EDatabaseError(Concat("Field '", FFieldName, "' cannot be modified"));
   if (!FDataSet->Editing()) FDataSet->Refuse("The dataset is not in edit or insert mode");
   Write(accepted);
@@ -240,6 +251,7 @@ void TField::Write(const TFieldValue& value) {
 }
 
 void TField::CheckPosted() const {
+  if (FFieldKind != fkData) return;
   const TFieldValue& value = Raw();
   if (FRequired && vcl::IsNull(value)) {
     throw EDatabaseError(Concat("Field '", DisplayLabel(), "' must have a value"));

@@ -2,6 +2,7 @@
 // written, and TFields, all of them. The kinds of fields are in fields.h.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -36,6 +37,27 @@ class VCL_API TField : public TComponent {
   /// What users see in front of the value or above the column: FieldName unless it is set.
   const std::string& DisplayLabel() const { return FLabel.empty() ? FFieldName : FLabel; }
   void SetDisplayLabel(const std::string& label);
+  TFieldKind FieldKind() const { return FFieldKind; }
+  /// Where the values are. Fields that are calculated or looked up are in no record: they are not
+  /// among the definitions, and nothing but OnCalcFields writes them. Raises EDatabaseError while
+  /// the data set is open.
+  void SetFieldKind(TFieldKind kind);
+  const std::string& KeyFields() const { return FKeyFields; }
+  /// fkLookup: the fields of this data set whose values are sought, with semicolons between them.
+  void SetKeyFields(const std::string& names);
+  TDataSet* LookupDataSet() const { return FLookupDataSet; }
+  /// fkLookup: the data set in which the value is found; Null while it is closed.
+  void SetLookupDataSet(TDataSet* dataSet);
+  const std::string& LookupKeyFields() const { return FLookupKeyFields; }
+  /// fkLookup: the fields of that data set which have the values of KeyFields.
+  void SetLookupKeyFields(const std::string& names);
+  const std::string& LookupResultField() const { return FLookupResultField; }
+  /// fkLookup: the field of that data set whose value this one has.
+  void SetLookupResultField(const std::string& name);
+  bool LookupCache() const { return FLookupCache; }
+  /// fkLookup: what was found is kept until the data set is closed or RefreshLookupList is called.
+  void SetLookupCache(bool cache);
+  void RefreshLookupList() { FFound.clear(); }
   TDataSet* DataSet() const { return FDataSet; }
   /// Raises EDatabaseError while the data set, the former or the new one, is open.
   void SetDataSet(TDataSet* dataSet);
@@ -115,6 +137,7 @@ class VCL_API TField : public TComponent {
   /// EDatabaseError: 'value' is not a valid `kind` value for field 'X'.
   [[noreturn]] void Refuse(const TFieldValue& value, const char* kind) const;
   void LayoutChanged();
+  void Notification(TComponent* component, TOperation operation) override;
 
  private:
   friend class TDataSet;
@@ -125,9 +148,20 @@ class VCL_API TField : public TComponent {
   std::string ShownText(bool display) const;
   void CheckPosted() const;
   void Write(const TFieldValue& value);
+  TFieldValue Convert(const TFieldValue& value) const {
+    return vcl::IsNull(value) ? value : Accept(value);
+  }
+  TFieldValue LookUp();
+  template <class T>
+  void SetForLookup(T& property, const T& value);
 
   TFieldType FDataType;
   std::string FFieldName, FLabel;
+  TFieldKind FFieldKind = fkData;
+  std::string FKeyFields, FLookupKeyFields, FLookupResultField;
+  TDataSet* FLookupDataSet = nullptr;
+  bool FLookupCache = false;
+  std::map<TRecord, TFieldValue> FFound;
   TDataSet* FDataSet = nullptr;
   int FFieldNo = -1;
   int FSize = 0;

@@ -7,9 +7,13 @@
 namespace vcl {
 
 const TClass& TMemoryDataSet::Class() {
-  static const TClass info = Describe<TMemoryDataSet, TDataSet>(
+  using T = TMemoryDataSet;
+  static const TClass info = Describe<T, TDataSet>(
       "vcl::TMemoryDataSet", "vcl/db/db.h",
-      {Inherit("FieldDefs"), Inherit("Active"), Inherit(DataSetEvents)});
+      {Inherit("FieldDefs"), Inherit(DataSetView),
+       Property<&T::IndexFieldNames, &T::SetIndexFieldNames>("IndexFieldNames").Default(""),
+       Property<&T::MasterFields, &T::SetMasterFields>("MasterFields").Default(""),
+       Inherit("Active"), Inherit(DataSetEvents)});
   return info;
 }
 

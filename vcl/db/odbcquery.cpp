@@ -18,7 +18,7 @@ const TClass& TOdbcQuery::Class() {
        Property<&T::RequestLive, &T::SetRequestLive>("RequestLive").Default(false),
        Property<&T::SQL, &T::SetSQL>("SQL"),
        Property<&T::UniDirectional, &T::SetUniDirectional>("UniDirectional").Default(false),
-       Inherit("Active"), Inherit(DataSetEvents)});
+       Inherit(DataSetView), Inherit("Active"), Inherit(DataSetEvents)});
   return info;
 }
 
@@ -73,8 +73,30 @@ void TOdbcQuery::Pause() {
   if (FRows && FUniDirectional) static_cast<odbc::TForwardRows&>(*FRows).Pause();
 }
 
+/// For each parameter, the master's field of its name; null where there is none.
+std::vector<TField*> TOdbcQuery::MasterFieldsOfParams() const {
+  std::vector<TField*> fields;
+  const TDataSet* master = Master();
+  for (int i = 0; master && i < FParams->Count(); ++i) {
+    fields.push_back(master->FindField(FParams->Items(i)->Name()));
+  }
+  return fields;
+}
+
+TRecord TOdbcQuery::MasterValues() {
+  TRecord values;
+  for (const TField* field : MasterFieldsOfParams()) {
+    values.push_back(field ? field->Value() : TFieldValue());
+  }
+  return values;
+}
+
 void TOdbcQuery::Execute() {
   Pause();
+  const std::vector<TField*> fields = MasterFieldsOfParams();
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (fields[i]) FParams->Items(static_cast<int>(i))->AssignField(*fields[i]);
+  }
   std::vector<odbc::TArgument> arguments;
   for (const std::string& name : FParams->Places()) {
     const TParam& param = *FParams->ParamByName(name);

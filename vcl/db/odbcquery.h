@@ -29,6 +29,9 @@ struct TArgument;
 /// A query that has not been read to its end may keep others from writing, as it does with SQLite;
 /// RecordCount reads all of one that is not unidirectional.
 ///
+/// Parameters that are named as fields of MasterSource's data set have the values of its current
+/// record, and the query is executed again when these change.
+///
 /// The connection is made when it is needed first and stays until Connected or ConnectionString
 /// says otherwise. What ODBC refuses raises EDatabaseError with the driver's message.
 class VCL_API TOdbcQuery : public TDataSet {
@@ -80,6 +83,8 @@ class VCL_API TOdbcQuery : public TDataSet {
 
  protected:
   TRecordStore& InternalOpen() override;
+  TRecord MasterValues() override;
+  void InternalFollow() override { InternalRefresh(); }
   void InternalClose() override;
   void InternalFirst() override;
   void InternalRefresh() override;
@@ -94,6 +99,7 @@ class VCL_API TOdbcQuery : public TDataSet {
   void ReadToEnd();
   void PrepareChange();
   void Execute();
+  std::vector<TField*> MasterFieldsOfParams() const;
   void DefineFields();
   std::string FreeName(const std::string& name) const;
 

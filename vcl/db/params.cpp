@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "vcl/db/field.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 
@@ -45,6 +46,8 @@ void TParam::Set(TFieldType dataType, TFieldValue value) {
   FDataType = dataType;
   FValue = std::move(value);
 }
+
+void TParam::AssignField(const TField& field) { Set(field.DataType(), field.Value()); }
 
 void TParam::Assign(const TPersistent* source) {
   const auto* other = dynamic_cast<const TParam*>(source);

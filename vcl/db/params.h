@@ -37,6 +37,8 @@ class VCL_API TParam : public TCollectionItem {
   void SetAsTime(TDateTime value) { Set(ftTime, value); }
   void SetAsDateTime(TDateTime value) { Set(ftDateTime, value); }
   void SetAsBlob(const std::string& bytes) { Set(ftBlob, bytes); }
+  /// Value and kind of the field.
+  void AssignField(const TField& field);
   std::string DisplayName() const override { return FName.empty() ? ClassName() : FName; }
   void Assign(const TPersistent* source) override;
 

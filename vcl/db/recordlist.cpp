@@ -19,16 +19,20 @@ void TRecordList::MoveGap(std::size_t index) {
   for (; FBefore.size() < index; FBehind.pop_back()) FBefore.push_back(std::move(FBehind.back()));
 }
 
-void TRecordList::Insert(int index, const TRecord& record) {
+int TRecordList::Insert(int index, const TRecord& record) {
   TEntry entry{FLastBookmark + 1, record};
   // Records that are appended stay before the gap, so that nothing is moved for the next one.
   const bool append = index == Size();
   MoveGap(static_cast<std::size_t>(index));
   (append ? FBefore : FBehind).push_back(std::move(entry));
   ++FLastBookmark;
+  return index;
 }
 
-void TRecordList::Replace(int index, const TRecord& record) { Entry(index)->Record = record; }
+int TRecordList::Replace(int index, const TRecord& record) {
+  Entry(index)->Record = record;
+  return index;
+}
 
 void TRecordList::Erase(int index) {
   MoveGap(static_cast<std::size_t>(index));

@@ -14,11 +14,14 @@ using TBookmark = std::int64_t;
 class VCL_API TRecordStore {
  public:
   virtual ~TRecordStore() = default;
-  /// Null behind the last record. The pointer is valid until the next call.
+  /// Null behind the last record. The pointer is valid until the next call; where the store keeps
+  /// its records and all have been counted, until one of them changes.
   virtual const TRecord* At(int index) = 0;
   virtual int Count() = 0;
-  virtual void Insert(int index, const TRecord& record) = 0;
-  virtual void Replace(int index, const TRecord& record) = 0;
+  /// These return the index that the record has then; -1 when it is not among them, as one that a
+  /// filter hides.
+  virtual int Insert(int index, const TRecord& record) = 0;
+  virtual int Replace(int index, const TRecord& record) = 0;
   virtual void Erase(int index) = 0;
   virtual TBookmark BookmarkOf(int index) = 0;
   /// The index of the record; -1 when it has gone.
@@ -30,8 +33,8 @@ class VCL_API TRecordList : public TRecordStore {
  public:
   const TRecord* At(int index) override;
   int Count() override { return Size(); }
-  void Insert(int index, const TRecord& record) override;
-  void Replace(int index, const TRecord& record) override;
+  int Insert(int index, const TRecord& record) override;
+  int Replace(int index, const TRecord& record) override;
   void Erase(int index) override;
   TBookmark BookmarkOf(int index) override;
   int IndexOf(TBookmark bookmark) override;

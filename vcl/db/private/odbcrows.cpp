@@ -46,15 +46,17 @@ void TForwardRows::Restart() {
   FEnd = false;
 }
 
-void TForwardRows::Insert(int index, const TRecord& record) {
+int TForwardRows::Insert(int index, const TRecord& record) {
   // The one that was inserted here before is behind this one now, where nobody looks any more.
   if (index != FInsertedAt) ++FShift;
   FInsertedAt = index;
   FInserted = record;
+  return index;
 }
 
-void TForwardRows::Replace(int index, const TRecord& record) {
+int TForwardRows::Replace(int index, const TRecord& record) {
   (index == FInsertedAt ? FInserted : FCurrent) = record;
+  return index;
 }
 
 void TForwardRows::Erase(int index) {

@@ -31,8 +31,8 @@ class TForwardRows : public TRecordStore {
   explicit TForwardRows(TStatement& statement) : FAhead(statement) {}
   const TRecord* At(int index) override;
   int Count() override { return -1; }
-  void Insert(int index, const TRecord& record) override;
-  void Replace(int index, const TRecord& record) override;
+  int Insert(int index, const TRecord& record) override;
+  int Replace(int index, const TRecord& record) override;
   void Erase(int index) override;
   TBookmark BookmarkOf(int) override { return 0; }
   int IndexOf(TBookmark) override { return -1; }

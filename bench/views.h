@@ -1,0 +1,8 @@
+// What filtering and finding records costs.
+#pragma once
+
+namespace bench {
+
+void Views();
+
+}  // namespace bench
