@@ -1,6 +1,8 @@
 // TGalleryForm: what all pages share: bound settings, and the status bar.
 #include "demos/gallery/galleryform.h"
 
+#include "demos/gallery/listspage.h"
+#include "demos/gallery/standardpage.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/properties.h"
 
@@ -86,7 +88,19 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   SetUpSpinEdits();
   SetUpExplorer();
   SetUpHints();
+  AddPage<TStandardPage>("Standard");
+  AddPage<TListsPage>("Lists");
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
+}
+
+template <class Page>
+void TGalleryForm::AddPage(const char* caption) {
+  auto* sheet = new TTabSheet(this);
+  sheet->SetCaption(caption);
+  sheet->SetPageControl(Pages);
+  auto* page = new Page(this);
+  page->SetAlign(alClient);
+  page->SetParent(sheet);
 }
 
 TGalleryForm::~TGalleryForm() { Application()->OnHint.Clear(); }

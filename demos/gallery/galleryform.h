@@ -127,6 +127,10 @@ class TGalleryForm : public vcl::TForm {
   void HintEdgeClick(vcl::TObject* sender);
   void SelectHintDirection(vcl::TControl* control, qel::TQELDirectionB& direction);
 
+  // The pages with a form file of their own.
+  template <class Page>
+  void AddPage(const char* caption);
+
   // What the pages share.
   TSettingBinder& Bind(const std::vector<TSetting>& settings);
   void ShowStatus(const std::string& text);
