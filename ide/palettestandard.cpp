@@ -10,6 +10,7 @@
 #include "vcl/dbctrls/dbedit.h"
 #include "vcl/dbctrls/dbgrids.h"
 #include "vcl/dbctrls/registration.h"
+#include "vcl/designintf/imagelistdialog.h"
 #include "vcl/net/sockets.h"
 #include "vcl/stdctrls/buttons.h"
 #include "vcl/vcl.h"
@@ -70,6 +71,7 @@ void RegisterStandardPages() {
   };
   for (const auto& [page, classes] : pages) RegisterComponents(page, classes);
   RegisterMenuEditor();
+  RegisterImageListEditor();
   RegisterStandardActions();
   RegisterActionEditor();
 }

@@ -50,6 +50,35 @@ TEST(ImageList, MaskedPicturesLeaveTheirColorOut) {
   EXPECT_EQ(Letters(bitmap), (Rows{"GGRGG", "GRGRG", "GGGGR", "GGGRG"})) << "fills the holes";
 }
 
+TEST(ImageList, PicturesOfAnyKindComeInWithWhatTheyCover) {
+  TImageList list(nullptr, 3, 3);
+  TBitmap strip;
+  Paint(strip, {"RFFBFB", "FRFFKF", "FFRBFB"});
+  EXPECT_EQ(list.AddGraphic(strip), 0) << "as many as stand side by side";
+  ASSERT_EQ(list.Count(), 2);
+  EXPECT_EQ(Drawn(list, 0), First);
+  EXPECT_EQ(Drawn(list, 1), Second);
+
+  TBitmap wide;
+  wide.Canvas()->Brush()->SetColor(clRed);
+  wide.SetSize(12, 4);
+  wide.SetTransparentColor(clBlue);
+  TPngImage png;
+  png.Assign(&wide);
+  EXPECT_EQ(list.AddGraphic(png), 2) << "made smaller, in the middle";
+  EXPECT_EQ(Drawn(list, 2), (Rows{"YYY", "RRR", "YYY"}));
+
+  const TPngImage none;
+  EXPECT_THROW(list.AddGraphic(none), EInvalidOperation);
+  EXPECT_EQ(list.Count(), 3);
+  list.Move(0, 2);
+  EXPECT_EQ(Drawn(list, 2), First);
+  EXPECT_EQ(Drawn(list, 0), Second);
+  list.Move(2, 0);
+  EXPECT_EQ(Drawn(list, 1), Second);
+  EXPECT_THROW(list.Move(0, 3), EArgumentOutOfRangeException);
+}
+
 TEST(ImageList, PicturesForMoreDotsPerInchAreMadeOfTheNextLargerOnes) {
   TTwo list;
   EXPECT_EQ(list.ForPPI(96), &list) << "every pixel is what it was";

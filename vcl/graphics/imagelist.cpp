@@ -160,12 +160,25 @@ int TImageList::AddIcon(TIcon* icon) {
   return Added(::ImageList_ReplaceIcon(Handle(), -1, icon->Handle()));
 }
 
+void TImageList::CheckIndex(int index) const {
+  if (index >= 0 && index < Count()) return;
+  throw EArgumentOutOfRangeException(Concat("There is no image ", std::to_string(index),
+                                            " in a list of ", std::to_string(Count())));
+}
+
 void TImageList::Delete(int index) {
-  if (index < 0 || index >= Count()) {
-    throw EArgumentOutOfRangeException(Concat("There is no image ", std::to_string(index),
-                                              " in a list of ", std::to_string(Count())));
-  }
+  CheckIndex(index);
   ::ImageList_Remove(Handle(), index);
+  Changed();
+}
+
+void TImageList::Move(int from, int to) {
+  CheckIndex(from);
+  CheckIndex(to);
+  if (from == to) return;
+  const int step = from < to ? 1 : -1;
+  for (int i = from; i != to; i += step)
+    ::ImageList_Copy(Handle(), i, Handle(), i + step, ILCF_SWAP);
   Changed();
 }
 

@@ -12,6 +12,7 @@
 namespace vcl {
 
 class TBitmap;
+class TGraphic;
 class TIcon;
 class TStream;
 
@@ -80,9 +81,17 @@ class VCL_API TImageList : public TComponent {
   /// The bitmap's pixels of the colour are see-through.
   int AddMasked(TBitmap* image, TColor maskColor);
   int AddIcon(TIcon* icon);
+  /// Appends a picture of any kind with what it covers in part, and returns its index. One of the
+  /// list's height and a multiple of its width gives as many pictures; any other is made as large
+  /// as fits, in the middle. A bitmap's pixels in the colour of its lower left one are see-through.
+  /// Raises EInvalidOperation for an empty picture; the list then stays as it was.
+  int AddGraphic(const TGraphic& graphic);
   /// Raises EArgumentOutOfRangeException outside the list.
   void Delete(int index);
   void Clear();
+  /// Puts a picture at another place; those between move up. Raises EArgumentOutOfRangeException
+  /// for places outside the list.
+  void Move(int from, int to);
 
   /// Draws one picture; not enabled, its dark parts embossed. An index outside draws nothing.
   void Draw(TCanvas* canvas, int x, int y, int index, bool enabled = true);
@@ -107,6 +116,7 @@ class VCL_API TImageList : public TComponent {
   void ReadData(TStream& stream);
   void WriteData(TStream& stream) const;
   static constexpr int MostPixels = 32767;
+  void CheckIndex(int index) const;
   void CheckStrip(const TBitmap* image) const;
   int Added(int index);
   void DrawDisabled(TCanvas* canvas, int x, int y, int index);

@@ -1,11 +1,9 @@
 // TImageList: the pictures at the sizes for other dots per inch.
 #include <algorithm>
-#include <cmath>
 
 #include "vcl/graphics/bitmap.h"
-#include "vcl/graphics/handles.h"
 #include "vcl/graphics/imagelist.h"
-#include "vcl/graphics/private/resample.h"
+#include "vcl/graphics/private/alphapicture.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
@@ -15,54 +13,6 @@ namespace {
 
 /// What the pictures' sizes are meant for.
 constexpr int PlainPixelsPerInch = 96;
-
-std::unique_ptr<TBitmap> DrawnOn(TColor background, const TImageList& list, int index) {
-  auto drawn = std::make_unique<TBitmap>();
-  list.GetBitmap(index, drawn.get(), background);
-  drawn->SetPixelFormat(pf32bit);
-  return drawn;
-}
-
-/// A picture of a list with its alpha channel: where it is see-through, black and white shine
-/// through it.
-TAlphaPicture AlphaPicture(const TImageList& list, int index) {
-  const auto black = DrawnOn(clBlack, list, index);
-  const auto white = DrawnOn(clWhite, list, index);
-  TAlphaPicture picture(list.Width(), list.Height());
-  for (int y = 0; y < picture.Height; ++y) {
-    const auto* dark = static_cast<const RGBQUAD*>(black->ScanLine(y));
-    const auto* light = static_cast<const RGBQUAD*>(white->ScanLine(y));
-    for (int x = 0; x < picture.Width; ++x) {
-      float* pixel = picture.Pixel(x, y);
-      pixel[0] = dark[x].rgbBlue;
-      pixel[1] = dark[x].rgbGreen;
-      pixel[2] = dark[x].rgbRed;
-      pixel[3] = static_cast<float>(255 - (light[x].rgbGreen - dark[x].rgbGreen));
-    }
-  }
-  return picture;
-}
-
-BYTE Channel(float premultiplied, float alpha) {
-  return static_cast<BYTE>(std::min(255.0F, std::round(premultiplied * 255 / alpha)));
-}
-
-/// Fills the pixels of 32 bits as image lists take them, and the mask with white where nothing is.
-void ToBitmaps(const TAlphaPicture& picture, TBitmap& pixels, TBitmap& mask) {
-  for (int y = 0; y < picture.Height; ++y) {
-    auto* row = static_cast<RGBQUAD*>(pixels.ScanLine(y));
-    auto* holes = static_cast<RGBQUAD*>(mask.ScanLine(y));
-    for (int x = 0; x < picture.Width; ++x) {
-      const float* from = picture.Pixel(x, y);
-      const auto alpha = static_cast<BYTE>(std::round(from[3]));
-      holes[x] = alpha == 0 ? RGBQUAD{255, 255, 255, 0} : RGBQUAD{};
-      row[x] = RGBQUAD{};
-      if (alpha == 0) continue;
-      row[x] = {Channel(from[0], from[3]), Channel(from[1], from[3]), Channel(from[2], from[3]),
-                alpha};
-    }
-  }
-}
 
 }  // namespace
 
@@ -119,16 +69,10 @@ const TImageList& TImageList::SourceFor(int index, int width) const {
 }
 
 void TImageList::AddScaled(const TImageList& from, int index) {
-  const TAlphaPicture picture = Resampled(AlphaPicture(from, index), FWidth, FHeight);
-  TBitmap pixels(FWidth, FHeight);
-  pixels.SetPixelFormat(pf32bit);
-  TBitmap mask(FWidth, FHeight);
-  mask.SetPixelFormat(pf32bit);
-  ToBitmaps(picture, pixels, mask);
-  mask.SetPixelFormat(pf1bit);
-  if (::ImageList_Add(Handle(), pixels.Handle(), mask.Handle()) < 0) {
-    RaiseOutOfResources("to add an image to a list");
-  }
+  const TAlphaPicture picture = AlphaPicture(
+      from.FWidth, from.FHeight,
+      [&](TBitmap& drawn, TColor background) { from.GetBitmap(index, &drawn, background); });
+  AddPicture(Handle(), Resampled(picture, FWidth, FHeight));
 }
 
 }  // namespace vcl
