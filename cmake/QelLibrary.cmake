@@ -71,4 +71,5 @@ function(qel_add_library name)
     # Only what is marked is exported, even while nothing is marked yet.
     target_link_options(${name} PRIVATE -Wl,--exclude-all-symbols)
   endif()
+  qel_reuse_precompiled(precompiled ${name})
 endfunction()

@@ -4,6 +4,10 @@ if(WIN32 AND CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
       ${PROJECT_SOURCE_DIR}/tools/wine-run ${QEL_WINDOWS} ${PROJECT_BINARY_DIR}/wineprefix)
 endif()
 cmake_path(GET PROJECT_BINARY_DIR FILENAME QEL_BUILD_NAME)
+if(QEL_TESTS)
+  qel_precompiled(precompiled_tests DEFINITIONS _GLIBCXX_ASSERTIONS LIBRARIES GTest::gmock
+                  HEADERS <gmock/gmock.h> <gtest/gtest.h>)
+endif()
 
 # qel_add_test(AREA [NATIVE] [WINDOW] [TIMEOUT seconds] [LAUNCHER program] [LIBRARIES targets...]
 #              [FORMS ...] [RESOURCES ...])
@@ -32,6 +36,7 @@ function(qel_add_test area)
   target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
   target_compile_definitions(${target} PRIVATE _GLIBCXX_ASSERTIONS)
   target_link_libraries(${target} PRIVATE ${arg_LIBRARIES} ${main})
+  qel_reuse_precompiled(precompiled_tests ${target})
   if(WIN32)
     qel_target_resources(${target} MANIFEST FORMS ${arg_FORMS} RESOURCES ${arg_RESOURCES})
   endif()
