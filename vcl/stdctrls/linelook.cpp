@@ -2,10 +2,17 @@
 #include "vcl/stdctrls/linelook.h"
 
 #include "vcl/graphics/canvas.h"
+#include "vcl/stdctrls/private/listlines.h"
 
 namespace vcl {
 
 int TLineLook::Height(TCustomListControl& list, int /*index*/) { return list.ItemHeight(); }
+
+int TLineLook::Mark(const TCustomListControl& list, int index) { return list.List().Mark(index); }
+
+void TLineLook::SetMark(TCustomListControl& list, int index, int mark) {
+  list.List().SetMark(index, mark);
+}
 
 void TLineLook::DrawLineText(TCustomListControl& list, const TRect& rect, int indentation,
                              const std::string& text) {

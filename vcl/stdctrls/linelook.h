@@ -23,6 +23,10 @@ class VCL_API TLineLook {
   TLineLook() = default;
   TLineLook(const TLineLook&) = default;
   TLineLook& operator=(const TLineLook&) = default;
+  /// A number that the look keeps with a line, 0 at first. It goes where the line goes. Raise
+  /// EStringListError for an index that is not a line's.
+  static int Mark(const TCustomListControl& list, int index);
+  static void SetMark(TCustomListControl& list, int index, int mark);
   /// Draws the text in the canvas's font, in the middle of the line's height, behind an indentation
   /// from its left edge in pixels.
   static void DrawLineText(TCustomListControl& list, const TRect& rect, int indentation,

@@ -93,6 +93,7 @@ class VCL_API TCustomListControl : public TWinControl {
   void Loaded() override;
 
  private:
+  friend class TLineLook;
   friend class TListLines;
   void DrawFromWindow(const DRAWITEMSTRUCT& draw);
   /// The window has got the item.
