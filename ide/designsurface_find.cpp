@@ -35,9 +35,13 @@ bool TDesignSurface::IsPart(const TComponent& component) const {
   return owner && (owner == FRoot || (owner->Inline() && owner->Owner() && IsPart(*owner)));
 }
 
-/// The control, or the nearest around it that belongs to the form.
+/// The control, or the nearest that it is a part of or lies in and that belongs to the form. A part
+/// may stand beside its owner, as a labelled edit's label does.
 TComponent* TDesignSurface::Selectable(TControl* control) const {
-  while (control && control != FRoot && !IsPart(*control)) control = control->Parent();
+  while (control && control != FRoot && !IsPart(*control)) {
+    auto* owner = dynamic_cast<TControl*>(control->Owner());
+    control = owner ? owner : control->Parent();
+  }
   return control ? control : FRoot;
 }
 

@@ -1,5 +1,6 @@
 // List boxes and combo boxes: items, selection, keys, drawing.
 #include "tests/vcl/standardform.h"
+#include "vcl/stdctrls/linelook.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
 
@@ -134,6 +135,98 @@ TEST_F(Lists, OnDrawItemDrawsOnTheCanvasOfTheItem) {
   EXPECT_EQ(::GetPixel(dc, 50, 30), RGB(255, 0, 0));
   ::ReleaseDC(box->Handle(), dc);
   EXPECT_THROW(box->SetItemHeight(0), EArgumentOutOfRangeException);
+}
+
+TEST_F(Lists, ItemsHaveTheHeightsThatAreMeasured) {
+  auto* box = Make<TListBox>(10, 10);
+  auto* combo = Make<TComboBox>(200, 10);
+  box->SetStyle(lbOwnerDrawVariable);
+  combo->SetStyle(csOwnerDrawVariable);
+  int tall = 30;
+  const auto heightOf = [](TWinControl& list, UINT message, int index) {
+    return static_cast<int>(
+        ::SendMessageW(list.Handle(), message, static_cast<WPARAM>(index), 0));
+  };
+  for (TCustomListControl* list : std::initializer_list<TCustomListControl*>{box, combo}) {
+    const UINT ask = list == box ? LB_GETITEMHEIGHT : CB_GETITEMHEIGHT;
+    list->OnMeasureItem = [&](TObject*, int index, int& height) {
+      if (index == 1) height = tall;
+    };
+    list->Items()->SetCommaText("a,b");
+    list->HandleNeeded();
+    list->Items()->Add("c");
+    EXPECT_EQ(heightOf(*list, ask, 0), 16);
+    EXPECT_EQ(heightOf(*list, ask, 1), 30);
+    EXPECT_EQ(heightOf(*list, ask, 2), 16);
+    list->Items()->SetStrings(1, "B");
+    EXPECT_EQ(heightOf(*list, ask, 1), 30);
+    tall = 1000;
+    list->Font()->SetSize(20);
+    EXPECT_EQ(heightOf(*list, ask, 1), 255) << "what is measured follows the font";
+    tall = 30;
+    list->ScaleBy(2, 1);
+    EXPECT_EQ(heightOf(*list, ask, 0), 32) << "ItemHeight is scaled";
+  }
+  EXPECT_EQ(heightOf(*combo, CB_GETITEMHEIGHT, -1), 32) << "so is the field";
+}
+
+TEST_F(Lists, AHandlerThatMeasuresMayFreeItsList) {
+  for (const bool window : {false, true}) {
+    auto* box = Make<TListBox>(10, 10);
+    box->SetStyle(lbOwnerDrawVariable);
+    const TWatch watch(box);
+    box->OnMeasureItem = [box](TObject*, int, int&) { delete box; };
+    if (window) box->HandleNeeded();
+    box->Items()->Add("a");
+    if (!window) box->HandleNeeded();
+    EXPECT_TRUE(watch.Gone());
+  }
+}
+
+/// Lines as high as their number says, with a bar of their colour.
+class TBars : public TLineLook {
+ public:
+  void Draw(TCustomListControl& list, int index, const TRect& rect, TOwnerDrawState) override {
+    list.Canvas()->Brush()->SetColor(index ? clRed : clLime);
+    list.Canvas()->FillRect(rect);
+  }
+  int Height(TCustomListControl& list, int index) override {
+    return list.ScaledPixels(20 + 10 * index);
+  }
+};
+
+template <class Face>
+class TBarsIn : public Face {
+ public:
+  explicit TBarsIn(TComponent* owner) : Face(owner) {
+    this->SetLook(std::make_unique<TBars>());
+  }
+};
+
+TEST_F(Lists, ALookIsTakenByBothFaces) {
+  auto* box = Make<TBarsIn<TListBox>>(10, 10);
+  auto* combo = Make<TBarsIn<TComboBox>>(200, 10);
+  box->SetStyle(lbOwnerDrawVariable);
+  combo->SetStyle(csOwnerDrawVariable);
+  for (TCustomListControl* list : std::initializer_list<TCustomListControl*>{box, combo}) {
+    list->Items()->SetCommaText("a,b");
+  }
+  combo->SetItemIndex(1);
+  ShowForm();
+  EXPECT_EQ(box->ItemRect(0).Height(), 20);
+  EXPECT_EQ(box->ItemRect(1).Height(), 30);
+  EXPECT_EQ(::SendMessageW(combo->Handle(), CB_GETITEMHEIGHT, 1, 0), 30);
+  EXPECT_EQ(Find(clLime).Height(), 20);
+  EXPECT_EQ(Find(clRed).Height(), 30);
+  combo->Update();
+  const HDC dc = ::GetDC(combo->Handle());
+  EXPECT_EQ(::GetPixel(dc, 20, combo->Height() / 2), RGB(255, 0, 0)) << "the combo box's field";
+  ::ReleaseDC(combo->Handle(), dc);
+  box->OnDrawItem = [&](TObject*, int, const TRect& rect, TOwnerDrawState) {
+    box->Canvas()->Brush()->SetColor(clAqua);
+    box->Canvas()->FillRect(rect);
+  };
+  EXPECT_EQ(Find(clAqua).Height(), 50) << "an event comes before the look";
 }
 
 TEST_F(Lists, KeysToAComboGoThroughTheControl) {

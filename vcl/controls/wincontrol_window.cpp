@@ -80,9 +80,11 @@ TWinControl* TWinControl::FromHandle(HWND handle) {
 
 HWND TWinControl::Handle() {
   if (!FHandle) {
+    const TWatch watch(this);
     if (Parent()) Parent()->HandleNeeded();
     // Making the parent's window may have made this one.
-    if (!FHandle) CreateHandle();
+    if (!watch.Gone() && !FHandle) CreateHandle();
+    if (watch.Gone()) return nullptr;
   }
   return FHandle;
 }
@@ -106,8 +108,9 @@ void TWinControl::CreateParams(TCreateParams& params) {
 }
 
 void TWinControl::CreateHandle() {
+  const TWatch watch(this);
   CreateWnd();
-  if (!Parent()) return;
+  if (watch.Gone() || !Parent()) return;
   const HWND above = Parent()->PrecedingWindow(this);
   // The system puts a new window below its siblings: most are there already.
   if (::GetWindow(FHandle, GW_HWNDPREV) == above) return;
@@ -195,7 +198,9 @@ void TWinControl::UpdateControlState() {
 void TWinControl::UpdateShowing() {
   const bool show = Seen() && !ControlState().Has(csReadingState);
   if (show) {
+    const TWatch watch(this);
     Handle();
+    if (watch.Gone()) return;
     // Top first, as the system puts each new window below the others.
     const bool here = VisitControls(
         [](TControl* control) {

@@ -36,6 +36,10 @@ constexpr TPropertyEditorClass KindEditors[] = {
 };
 static_assert(std::size(KindEditors) == static_cast<std::size_t>(TTypeKind::Boolean) + 1);
 
+/// Of a component that cannot be another one, which is a part of its owner: it stands open like any
+/// object.
+const TPropertyEditorClass PartEditor = VCL_EDITOR(TClassProperty);
+
 #undef VCL_EDITOR
 
 }  // namespace
@@ -45,6 +49,7 @@ const TPropertyEditorClass& detail::StandardEditor(const TClass& aClass,
   for (const TPropertyEditorEntry& entry : TypeEditors()) {
     if (entry.Fits(aClass, property)) return entry.Editor;
   }
+  if (property.Kind() == TTypeKind::Component && property.ReadOnly()) return PartEditor;
   return KindEditors[static_cast<std::size_t>(property.Kind())];
 }
 

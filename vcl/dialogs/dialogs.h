@@ -1,6 +1,7 @@
 // The system's dialogs for files, colours and fonts, messages and questions.
 #pragma once
 
+#include "vcl/dialogs/colorbox.h"
 #include "vcl/dialogs/colordialog.h"
 #include "vcl/dialogs/filedialogs.h"
 #include "vcl/dialogs/fontdialog.h"

@@ -36,6 +36,8 @@ void RegisterStandardClasses() {
                      &TProcess::Class(), &TProgressBar::Class(), &TRadioGroup::Class(),
                      &TScrollBar::Class(), &TShape::Class(), &TStaticText::Class(),
                      &TUpDown::Class()});
+    RegisterClasses({&TAnimate::Class(), &TColorBox::Class(), &TColorListBox::Class(),
+                     &TLabeledEdit::Class(), &TMaskEdit::Class(), &TRichEdit::Class()});
     RegisterClasses({&TDrawGrid::Class(), &TStringGrid::Class()});
     RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
                      &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),

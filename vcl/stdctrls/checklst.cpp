@@ -57,6 +57,7 @@ const TClass& TCheckListBox::Class() {
           Inherit("OnDrawItem"),
           Inherit(FocusEvents),
           Inherit(KeyEvents),
+          Inherit("OnMeasureItem"),
           Inherit(MouseEvents),
           Inherit(WheelEvents),
           Inherit("OnStartDrag"),
@@ -145,12 +146,13 @@ void TCheckListBox::FitItems() {
 
 void TCheckListBox::CreateParams(TCreateParams& params) {
   TCustomListBox::CreateParams(params);
-  params.Style |= LBS_OWNERDRAWFIXED;
+  if (!MeasuresItems()) params.Style |= LBS_OWNERDRAWFIXED;
 }
 
 void TCheckListBox::CreateWnd() {
+  const TWatch watch(this);
   TCustomListBox::CreateWnd();
-  FitItems();
+  if (!watch.Gone()) FitItems();
 }
 
 // Input.

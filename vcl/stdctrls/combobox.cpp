@@ -47,8 +47,8 @@ const TClass& TComboBox::Class() {
           Inherit("OnClick"),        Inherit("OnCloseUp"),   Inherit("OnDblClick"),
           Inherit("OnDragDrop"),     Inherit("OnDragOver"),  Inherit("OnDrawItem"),
           Inherit("OnDropDown"),     Inherit("OnEndDrag"),   Inherit(FocusEvents),
-          Inherit(KeyEvents),        Inherit(WheelEvents),   Inherit("OnStartDrag"),
-          Inherit("Items"),          Inherit("ItemIndex"),
+          Inherit(KeyEvents),        Inherit(WheelEvents),   Inherit("OnMeasureItem"),
+          Inherit("OnStartDrag"),    Inherit("Items"),       Inherit("ItemIndex"),
       });
   return info;
 }
@@ -184,7 +184,8 @@ void TCustomComboBox::Loaded() {
 
 void TCustomComboBox::CreateParams(TCreateParams& params) {
   static constexpr DWORD styles[] = {CBS_DROPDOWN, CBS_SIMPLE, CBS_DROPDOWNLIST,
-                                     CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED};
+                                     CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED,
+                                     CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE};
   TCustomListControl::CreateParams(params);
   params.SubClassOf = "COMBOBOX";
   params.Style |= WS_VSCROLL | CBS_HASSTRINGS | CBS_AUTOHSCROLL | styles[FStyle];
@@ -192,10 +193,12 @@ void TCustomComboBox::CreateParams(TCreateParams& params) {
 
 void TCustomComboBox::CreateWnd() {
   const std::string text = Text();
+  const TWatch watch(this);
   TCustomListControl::CreateWnd();
+  if (watch.Gone()) return;
   Send(*this, CB_SETMINVISIBLE, static_cast<WPARAM>(FDropDownCount));
   if (FMaxLength > 0) Send(*this, CB_LIMITTEXT, static_cast<WPARAM>(FMaxLength));
-  if (OwnerDraw()) Send(*this, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), ItemHeight());
+  FitField();
   if (!HasEdit()) return;
   SetWindowTextUtf8(Handle(), text);
   SubclassEdit();
@@ -204,6 +207,12 @@ void TCustomComboBox::CreateWnd() {
 void TCustomComboBox::DestroyWnd() {
   TCustomListControl::DestroyWnd();
   FEdit = nullptr;
+}
+
+/// What draws its items is as high as they are; the window fits its field to each font.
+void TCustomComboBox::FitField() {
+  if (!OwnerDraw()) return;
+  SendIfAllocated(*this, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), ItemHeight());
 }
 
 /// The keyboard's messages go to the edit inside; they are to go through the control first.
@@ -273,7 +282,9 @@ void TCustomComboBox::Dispatch(TMessage& message) {
     message.Result = 1;
     return;
   }
+  const TWatch watch(this);
   TCustomListControl::Dispatch(message);
+  if (!watch.Gone() && message.Msg == CM_FONTCHANGED) FitField();
 }
 
 void TCustomComboBox::DescribeAccessible(TAccessibleInfo& info) const {

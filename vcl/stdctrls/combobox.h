@@ -12,11 +12,13 @@ enum TComboBoxStyle {
   csDropDown,       ///< An edit with a list that drops down.
   csSimple,         ///< An edit with a list below it.
   csDropDownList,   ///< The text is one of the items.
-  csOwnerDrawFixed  ///< Like csDropDownList, with the items drawn by OnDrawItem.
+  csOwnerDrawFixed,    ///< Like csDropDownList, with the items drawn by OnDrawItem.
+  csOwnerDrawVariable  ///< The same, each item in the list as high as OnMeasureItem says.
 };
 template <>
 inline constexpr TEnumText EnumText<TComboBoxStyle>{
-    "TComboBoxStyle", "csDropDown csSimple csDropDownList csOwnerDrawFixed"};
+    "TComboBoxStyle",
+    "csDropDown csSimple csDropDownList csOwnerDrawFixed csOwnerDrawVariable"};
 
 /// A combo box. OnClick tells that the user has selected an item, OnChange that the text has
 /// changed.
@@ -77,7 +79,8 @@ class VCL_API TCustomComboBox : public TCustomListControl, public TTextEditor {
   virtual void Change();
   virtual void DropDown();
   virtual void CloseUp();
-  bool OwnerDraw() const override { return FStyle == csOwnerDrawFixed; }
+  bool OwnerDraw() const override { return FStyle >= csOwnerDrawFixed; }
+  bool MeasuresItems() const override { return FStyle == csOwnerDrawVariable; }
   void CreateParams(TCreateParams& params) override;
   void CreateWnd() override;
   void DestroyWnd() override;
@@ -91,6 +94,7 @@ class VCL_API TCustomComboBox : public TCustomListControl, public TTextEditor {
   void CommandFromWindow(TMessage& message);
   void ItemChosen();
   void TellEdit(unsigned message);
+  void FitField();
   void SubclassEdit();
   static LRESULT __stdcall EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                     UINT_PTR id, DWORD_PTR self);

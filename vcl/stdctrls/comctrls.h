@@ -2,12 +2,14 @@
 // calendars, hot keys, trees and lists.
 #pragma once
 
+#include "vcl/stdctrls/animate.h"
 #include "vcl/stdctrls/datetimepicker.h"
 #include "vcl/stdctrls/hotkey.h"
 #include "vcl/stdctrls/listview.h"
 #include "vcl/stdctrls/monthcalendar.h"
 #include "vcl/stdctrls/pagecontrol.h"
 #include "vcl/stdctrls/progressbar.h"
+#include "vcl/stdctrls/richedit.h"
 #include "vcl/stdctrls/statusbar.h"
 #include "vcl/stdctrls/trackbar.h"
 #include "vcl/stdctrls/treeview.h"

@@ -7,6 +7,7 @@
 #include "vcl/stdctrls/gridpanel.h"
 #include "vcl/stdctrls/image.h"
 #include "vcl/stdctrls/paintbox.h"
+#include "vcl/stdctrls/labelededit.h"
 #include "vcl/stdctrls/panel.h"
 #include "vcl/stdctrls/radiogroup.h"
 #include "vcl/stdctrls/scrollbox.h"

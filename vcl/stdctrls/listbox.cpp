@@ -45,8 +45,8 @@ const TClass& TListBox::Class() {
           Inherit("TabStop"),     Inherit("Visible"),        Inherit("OnClick"),
           Inherit("OnDblClick"),  Inherit("OnDragDrop"),     Inherit("OnDragOver"),
           Inherit("OnDrawItem"),  Inherit("OnEndDrag"),      Inherit(FocusEvents),
-          Inherit(KeyEvents),     Inherit(MouseEvents),      Inherit(WheelEvents),
-          Inherit("OnStartDrag"),
+          Inherit(KeyEvents),     Inherit("OnMeasureItem"),  Inherit(MouseEvents),
+          Inherit(WheelEvents),   Inherit("OnStartDrag"),
       });
   return info;
 }
@@ -157,11 +157,12 @@ void TCustomListBox::RestoreSelection() {
 }
 
 void TCustomListBox::CreateParams(TCreateParams& params) {
+  static constexpr DWORD drawing[] = {0, LBS_OWNERDRAWFIXED, LBS_OWNERDRAWVARIABLE};
   TCustomListControl::CreateParams(params);
   params.SubClassOf = "LISTBOX";
   params.Style |= WS_VSCROLL | LBS_HASSTRINGS | LBS_NOTIFY;
   if (FBorderStyle == bsSingle) AddSingleBorder(params);
-  if (FStyle == lbOwnerDrawFixed) params.Style |= LBS_OWNERDRAWFIXED;
+  params.Style |= drawing[FStyle];
   if (!FIntegralHeight) params.Style |= LBS_NOINTEGRALHEIGHT;
   if (FMultiSelect) params.Style |= FExtendedSelect ? LBS_EXTENDEDSEL : LBS_MULTIPLESEL;
 }

@@ -5,10 +5,14 @@
 
 namespace vcl {
 
-/// Drawn by the system, or by OnDrawItem, all items ItemHeight high.
-enum TListBoxStyle { lbStandard, lbOwnerDrawFixed };
+enum TListBoxStyle {
+  lbStandard,          ///< Drawn by the system.
+  lbOwnerDrawFixed,    ///< Drawn by OnDrawItem, all items ItemHeight high.
+  lbOwnerDrawVariable  ///< Drawn by OnDrawItem, each item as high as OnMeasureItem says.
+};
 template <>
-inline constexpr TEnumText EnumText<TListBoxStyle>{"TListBoxStyle", "lbStandard lbOwnerDrawFixed"};
+inline constexpr TEnumText EnumText<TListBoxStyle>{
+    "TListBoxStyle", "lbStandard lbOwnerDrawFixed lbOwnerDrawVariable"};
 
 /// A list box. OnClick tells that the user has selected.
 class VCL_API TCustomListBox : public TCustomListControl {
@@ -51,6 +55,7 @@ class VCL_API TCustomListBox : public TCustomListControl {
 
  protected:
   bool OwnerDraw() const override { return FStyle != lbStandard; }
+  bool MeasuresItems() const override { return FStyle == lbOwnerDrawVariable; }
   void KeepSelection() override;
   void RestoreSelection() override;
   void CreateParams(TCreateParams& params) override;

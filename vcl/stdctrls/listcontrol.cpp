@@ -10,6 +10,7 @@
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
+#include "vcl/stdctrls/linelook.h"
 #include "vcl/stdctrls/private/listlines.h"
 
 namespace vcl {
@@ -25,7 +26,8 @@ TOwnerDrawState StateOf(UINT state) {
                 {ODS_GRAYED, odGrayed},
                 {ODS_DISABLED, odDisabled},
                 {ODS_CHECKED, odChecked},
-                {ODS_FOCUS, odFocused}};
+                {ODS_FOCUS, odFocused},
+                {ODS_COMBOBOXEDIT, odComboBoxEdit}};
   TOwnerDrawState set;
   for (const auto& each : values) {
     if (state & each.Bit) set.Include(each.Value);
@@ -44,6 +46,7 @@ const TClass& TCustomListControl::Class() {
           Property<&T::Sorted, &T::SetSorted>("Sorted").Default(false).Unpublished(),
           Inherit("ParentColor").Default(false).Unpublished(),
           Event<&T::OnDrawItem>("OnDrawItem").Unpublished(),
+          Event<&T::OnMeasureItem>("OnMeasureItem").Unpublished(),
           Property<&T::Items, &T::SetItems>("Items").Unpublished(),
           Property<&T::ItemIndex, &T::SetItemIndex>("ItemIndex").Default(-1).Unpublished(),
           Inherit("TabStop").Default(true),
@@ -66,6 +69,7 @@ TStrings* TCustomListControl::Items() const { return FItems.get(); }
 void TCustomListControl::SetItems(const TStrings* items) { FItems->Assign(items); }
 TCanvas* TCustomListControl::Canvas() const { return FCanvas.get(); }
 void TCustomListControl::Clear() { FItems->Clear(); }
+void TCustomListControl::SetLook(std::unique_ptr<TLineLook> look) { FLook = std::move(look); }
 
 int TCustomListControl::ItemIndex() const {
   return HandleAllocated() ? static_cast<int>(Send(*this, FMessages.GetSelected))
@@ -113,7 +117,9 @@ void TCustomListControl::SetSorted(bool sorted) {
   if (!HandleAllocated()) return;
   Send(*this, WM_SETREDRAW, FALSE);
   Send(*this, FMessages.Reset);
+  const TWatch watch(this);
   FItems->FillWindow();
+  if (watch.Gone()) return;
   RestoreSelection();
   Invalidate();
 }
@@ -125,10 +131,12 @@ void TCustomListControl::RestoreSelection() {
 }
 
 void TCustomListControl::CreateWnd() {
+  const TWatch watch(this);
   TWinControl::CreateWnd();
-  if (OwnerDraw()) Send(*this, FMessages.SetItemHeight, 0, FItemHeight);
+  if (OwnerDraw() && !MeasuresItems()) Send(*this, FMessages.SetItemHeight, 0, FItemHeight);
   FItems->FillWindow();
-  RestoreSelection();
+  // Its items may have been measured by a handler.
+  if (!watch.Gone()) RestoreSelection();
 }
 
 void TCustomListControl::DestroyWnd() {
@@ -139,9 +147,38 @@ void TCustomListControl::DestroyWnd() {
 void TCustomListControl::DrawItem(int index, const TRect& rect, TOwnerDrawState state) {
   if (OnDrawItem) {
     OnDrawItem(this, index, rect, state);
+  } else if (FLook) {
+    FLook->Draw(*this, index, rect, state);
   } else {
     FCanvas->TextOut(rect.Left + 2, rect.Top, FItems->Strings(index));
   }
+}
+
+void TCustomListControl::MeasureItem(int index, int& height) {
+  if (OnMeasureItem) {
+    OnMeasureItem(this, index, height);
+  } else if (FLook) {
+    height = FLook->Height(*this, index);
+  }
+}
+
+// The system asks the parent for heights (WM_MEASUREITEM), and only once for each item. Told like
+// this, they can follow the font, too.
+void TCustomListControl::ItemInserted(int index) {
+  if (!MeasuresItems()) return;
+  int height = FItemHeight;
+  const TWatch watch(this);
+  MeasureItem(index, height);
+  if (watch.Gone() || !HandleAllocated()) return;
+  Send(*this, FMessages.SetItemHeight, static_cast<WPARAM>(index),
+       std::clamp(height, 1, MostItemHeight));
+}
+
+void TCustomListControl::MeasureItems() {
+  if (!MeasuresItems() || !HandleAllocated()) return;
+  const TWatch watch(this);
+  for (int i = 0; !watch.Gone() && i < FItems->Count(); ++i) ItemInserted(i);
+  if (!watch.Gone()) Invalidate();
 }
 
 void TCustomListControl::DrawFromWindow(const DRAWITEMSTRUCT& draw) {
@@ -163,9 +200,13 @@ void TCustomListControl::DrawFromWindow(const DRAWITEMSTRUCT& draw) {
 }
 
 void TCustomListControl::Dispatch(TMessage& message) {
-  if (message.Msg != CN_DRAWITEM) return TWinControl::Dispatch(message);
-  message.Result = 1;
-  DrawFromWindow(*reinterpret_cast<const DRAWITEMSTRUCT*>(message.LParam));
+  if (message.Msg == CN_DRAWITEM) {
+    message.Result = 1;
+    return DrawFromWindow(*reinterpret_cast<const DRAWITEMSTRUCT*>(message.LParam));
+  }
+  const TWatch watch(this);
+  TWinControl::Dispatch(message);
+  if (!watch.Gone() && message.Msg == CM_FONTCHANGED) MeasureItems();
 }
 
 void TCustomListControl::Loaded() {

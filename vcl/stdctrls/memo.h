@@ -41,12 +41,15 @@ class VCL_API TCustomMemo : public TCustomEdit {
 
  protected:
   bool MultiLine() const override { return true; }
+  /// How many positions of the window's text an end of line takes.
+  virtual int LineEndUnits() const { return 2; }
   void Change() override;
   void CreateParams(TCreateParams& params) override;
   void WndProc(TMessage& message) override;
   void KeyPress(char32_t& key) override;
 
  private:
+  friend class TMemoLines;
   DWORD WrapAndScrollStyle() const;
 
   std::unique_ptr<TMemoLines> FLines;

@@ -9,6 +9,7 @@
 #include "vcl/stdctrls/groupbox.h"
 #include "vcl/stdctrls/label.h"
 #include "vcl/stdctrls/listbox.h"
+#include "vcl/stdctrls/maskedit.h"
 #include "vcl/stdctrls/memo.h"
 #include "vcl/stdctrls/scrollbar.h"
 #include "vcl/stdctrls/statictext.h"

@@ -8,6 +8,7 @@
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
+#include "vcl/stdctrls/listcontrol.h"
 
 namespace vcl {
 namespace {
@@ -59,8 +60,10 @@ void TListLines::SetStrings(int index, const std::string& text) {
   TObject* object = line.Object;
   const int mark = line.Mark;
   const bool selected = SelectedInWindow(index);
+  const TWatch watch(&FControl);
   Delete(index);
   InsertLine(index, text, object);
+  if (watch.Gone()) return;
   SetMark(index, mark);
   if (selected) SelectInWindow(index);
 }
@@ -108,6 +111,7 @@ void TListLines::TellInserted(int index, const std::string& text) {
   const LRESULT place = Send(FControl, FMessages.Insert, static_cast<WPARAM>(index),
                              reinterpret_cast<LPARAM>(wide.c_str()));
   if (place < 0) throw EOutOfResources(Concat("The list has no room for the item '", text, "'"));
+  FControl.ItemInserted(index);
 }
 
 void TListLines::Delete(int index) {
@@ -143,8 +147,11 @@ void TListLines::SelectOnly(int index) {
 
 void TListLines::FillWindow() {
   Send(FControl, WM_SETREDRAW, FALSE);
-  for (int i = 0; i < Count(); ++i) TellInserted(i, FLines[static_cast<std::size_t>(i)].Text);
-  Send(FControl, WM_SETREDRAW, TRUE);
+  const TWatch watch(&FControl);
+  for (int i = 0; !watch.Gone() && i < Count(); ++i) {
+    TellInserted(i, FLines[static_cast<std::size_t>(i)].Text);
+  }
+  if (!watch.Gone()) Send(FControl, WM_SETREDRAW, TRUE);
 }
 
 void TListLines::SetUpdateState(bool updating) {

@@ -10,7 +10,7 @@
 
 namespace vcl {
 
-class TWinControl;
+class TCustomListControl;
 
 /// What a list's window calls its messages.
 struct TListMessages {
@@ -31,7 +31,7 @@ extern const TListMessages ComboBoxMessages;
 /// also remember which of them are selected.
 class TListLines : public TStrings {
  public:
-  TListLines(TWinControl& control, const TListMessages& messages)
+  TListLines(TCustomListControl& control, const TListMessages& messages)
       : FControl(control), FMessages(messages) {}
 
   int Count() const override { return static_cast<int>(FLines.size()); }
@@ -82,7 +82,7 @@ class TListLines : public TStrings {
   bool SelectedInWindow(int index) const;
   void SelectInWindow(int index);
 
-  TWinControl& FControl;
+  TCustomListControl& FControl;
   const TListMessages& FMessages;
   std::vector<TLine> FLines;
   bool FSorted = false;

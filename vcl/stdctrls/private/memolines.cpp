@@ -1,6 +1,8 @@
 // TMemoLines: a memo's text taken as lines, changed in the window where there is one.
 #include "vcl/stdctrls/private/memolines.h"
 
+#include <algorithm>
+
 #include "vcl/controls/windowmessages.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/utf16.h"
@@ -78,7 +80,11 @@ void TMemoLines::Replace(int index, const F& choose, const std::string& with) {
   if (FMemo.HandleAllocated()) {
     const std::wstring text = ToUtf16(FMemo.Text());
     const auto [start, end] = choose(FindLine(text, index));
-    ReplaceInWindow(FMemo, start, end, with);
+    const auto position = [&](std::size_t at) {
+      const auto ends = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), L'\n');
+      return FMemo.LineEndUnits() == 1 ? at - static_cast<std::size_t>(ends) : at;
+    };
+    ReplaceInWindow(FMemo, position(start), position(end), with);
   } else {
     std::string text = FMemo.Text();
     const auto [start, end] = choose(FindLine(text, index));
