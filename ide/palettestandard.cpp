@@ -10,6 +10,7 @@
 #include "vcl/dbctrls/dbedit.h"
 #include "vcl/dbctrls/dbgrids.h"
 #include "vcl/dbctrls/registration.h"
+#include "vcl/designintf/containereditors.h"
 #include "vcl/net/sockets.h"
 #include "vcl/stdctrls/buttons.h"
 #include "vcl/vcl.h"
@@ -57,8 +58,9 @@ void RegisterStandardPages() {
         &TSplitter::Class(), &TFlowPanel::Class(), &TGridPanel::Class(), &TStringGrid::Class(),
         &TDrawGrid::Class()}},
       {"Win32",
-       {&TPageControl::Class(), &TImageList::Class(), &TTrackBar::Class(), &TTreeView::Class(),
-        &TListView::Class(), &TStatusBar::Class(), &TProgressBar::Class(), &TUpDown::Class(),
+       {&TTabControl::Class(), &TPageControl::Class(), &TImageList::Class(), &TTrackBar::Class(),
+        &TTreeView::Class(), &TListView::Class(), &THeaderControl::Class(), &TStatusBar::Class(),
+        &TToolBar::Class(), &TCoolBar::Class(), &TProgressBar::Class(), &TUpDown::Class(),
         &THotKey::Class(), &TDateTimePicker::Class(), &TMonthCalendar::Class()}},
       {"System", {&TTimer::Class(), &TPaintBox::Class(), &TProcess::Class()}},
       {"Data Access", {&TDataSource::Class(), &TMemoryDataSet::Class(), &TOdbcQuery::Class()}},
@@ -69,6 +71,8 @@ void RegisterStandardPages() {
       {"Internet", {&TClientSocket::Class()}},
   };
   for (const auto& [page, classes] : pages) RegisterComponents(page, classes);
+  RegisterNoIcon({&TTabSheet::Class(), &TToolButton::Class()});
+  RegisterContainerEditors();
   RegisterMenuEditor();
   RegisterStandardActions();
   RegisterActionEditor();

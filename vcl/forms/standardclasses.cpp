@@ -37,6 +37,8 @@ void RegisterStandardClasses() {
                      &TScrollBar::Class(), &TShape::Class(), &TStaticText::Class(),
                      &TUpDown::Class()});
     RegisterClasses({&TDrawGrid::Class(), &TStringGrid::Class()});
+    RegisterClasses({&TCoolBar::Class(), &THeaderControl::Class(), &TTabControl::Class(),
+                     &TToolBar::Class(), &TToolButton::Class()});
     RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
                      &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),
                      &TEditSelectAll::Class(), &TEditUndo::Class(), &TFileExit::Class(),
