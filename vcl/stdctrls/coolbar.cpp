@@ -163,13 +163,41 @@ void TCoolBar::ForgetOtherBands() {
 
 void TCoolBar::SendBands() {
   if (!HandleAllocated() || FSending || Destroying()) return;
-  {
-    const TSetFor sending(FSending, true, this);
-    FStale = false;
-    ForgetOtherBands();
-    for (int i = 0; i < FBands->Count(); ++i) SendBand(*FBands->Items(i), i);
+  const TWatch watch(this);
+  const TSetFor sending(FSending, true, this);
+  FStale = false;
+  ForgetOtherBands();
+  SendAll();
+  // A window that is higher than its rows need breaks them to fill itself.
+  if (!RowsHold()) {
+    FVertical ? SetWidth(0) : SetHeight(0);
+    if (watch.Gone()) return;
+    SendAll();
   }
   FitRows();
+}
+
+void TCoolBar::SendAll() {
+  for (int i = 0; i < FBands->Count(); ++i) SendBand(*FBands->Items(i), i);
+}
+
+/// Whether rows of the window begin where those of the bands do.
+bool TCoolBar::RowsHold() const {
+  for (int i = 1; i < FBands->Count(); ++i) {
+    const TCoolBand* band = FBands->Items(i);
+    REBARBANDINFOW asked{};
+    asked.cbSize = REBARBANDINFOW_V6_SIZE;
+    asked.fMask = RBBIM_STYLE;
+    Send(*this, RB_GETBANDINFOW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&asked));
+    if (band->FShown && ((asked.fStyle & RBBS_BREAK) != 0) != band->FBreak) return false;
+  }
+  return true;
+}
+
+void TCoolBar::Resize() {
+  const TWatch watch(this);
+  TWinControl::Resize();
+  if (!watch.Gone() && HandleAllocated() && !FSending && !FUserActs && !RowsHold()) SendLater();
 }
 
 void TCoolBar::SendBand(const TCoolBand& band, int index) {
@@ -197,7 +225,11 @@ void TCoolBar::SendBand(const TCoolBand& band, int index) {
     Send(*this, RB_INSERTBANDW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&sent));
   } else {
     if (former != index) Send(*this, RB_MOVEBAND, static_cast<WPARAM>(former), index);
-    Send(*this, RB_SETBANDINFOW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&sent));
+    // Not every system takes the style together with the rest.
+    for (const UINT part : {sent.fMask & ~RBBIM_STYLE, static_cast<UINT>(RBBIM_STYLE)}) {
+      sent.fMask = part;
+      Send(*this, RB_SETBANDINFOW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&sent));
+    }
   }
   Send(*this, RB_SHOWBAND, static_cast<WPARAM>(index), own.FShown);
 }
@@ -275,10 +307,15 @@ void TCoolBar::TakeLayout() {
     if (!band) continue;
     REBARBANDINFOW asked{};
     asked.cbSize = REBARBANDINFOW_V6_SIZE;
-    asked.fMask = RBBIM_SIZE | RBBIM_STYLE;
+    asked.fMask = RBBIM_STYLE;
     Send(*this, RB_GETBANDINFOW, i, reinterpret_cast<LPARAM>(&asked));
+    RECT place{};
+    Send(*this, RB_GETRECT, i, reinterpret_cast<LPARAM>(&place));
     const bool breaks = (asked.fStyle & RBBS_BREAK) != 0;
-    const auto width = static_cast<int>(asked.cx);
+    // Along the row; of a hidden one the window knows no place.
+    const auto along = static_cast<int>(FVertical ? place.bottom - place.top
+                                                  : place.right - place.left);
+    const int width = band->FShown ? along : band->FWidth;
     FChanged = FChanged || band->Index() != static_cast<int>(i) || band->FBreak != breaks ||
                band->FWidth != width;
     band->FBreak = breaks;

@@ -141,6 +141,7 @@ class VCL_API TCoolBar : public TWinControl {
   void Dispatch(TMessage& message) override;
   void Loaded() override;
   void Notification(TComponent* component, TOperation operation) override;
+  void Resize() override;
 
  private:
   friend class TCoolBand;
@@ -149,6 +150,8 @@ class VCL_API TCoolBar : public TWinControl {
   void PicturesChanged(TObject* sender);
   void BandsChanged();
   void SendBands();
+  void SendAll();
+  bool RowsHold() const;
   void SendBand(const TCoolBand& band, int index);
   void ForgetOtherBands();
   bool Shows(const TCoolBand& band) const;
