@@ -10,6 +10,7 @@
 #include "vcl/dbctrls/dbedit.h"
 #include "vcl/dbctrls/dbgrids.h"
 #include "vcl/dbctrls/registration.h"
+#include "vcl/designintf/containereditors.h"
 #include "vcl/designintf/imagelistdialog.h"
 #include "vcl/net/sockets.h"
 #include "vcl/stdctrls/buttons.h"
@@ -59,10 +60,11 @@ void RegisterStandardPages() {
         &TDrawGrid::Class(), &TMaskEdit::Class(), &TLabeledEdit::Class(), &TColorBox::Class(),
         &TColorListBox::Class()}},
       {"Win32",
-       {&TPageControl::Class(), &TImageList::Class(), &TTrackBar::Class(), &TTreeView::Class(),
-        &TListView::Class(), &TStatusBar::Class(), &TProgressBar::Class(), &TUpDown::Class(),
-        &THotKey::Class(), &TDateTimePicker::Class(), &TMonthCalendar::Class(),
-        &TRichEdit::Class(), &TAnimate::Class()}},
+       {&TTabControl::Class(), &TPageControl::Class(), &TImageList::Class(), &TTrackBar::Class(),
+        &TTreeView::Class(), &TListView::Class(), &THeaderControl::Class(), &TStatusBar::Class(),
+        &TToolBar::Class(), &TCoolBar::Class(), &TProgressBar::Class(), &TUpDown::Class(),
+        &THotKey::Class(), &TDateTimePicker::Class(), &TMonthCalendar::Class(), &TRichEdit::Class(),
+        &TAnimate::Class()}},
       {"System", {&TTimer::Class(), &TPaintBox::Class(), &TProcess::Class()}},
       {"Data Access", {&TDataSource::Class(), &TMemoryDataSet::Class(), &TOdbcQuery::Class()}},
       {"Data Controls", {&TDBEdit::Class(), &TDBGrid::Class()}},
@@ -72,6 +74,8 @@ void RegisterStandardPages() {
       {"Internet", {&TClientSocket::Class()}},
   };
   for (const auto& [page, classes] : pages) RegisterComponents(page, classes);
+  RegisterNoIcon({&TTabSheet::Class(), &TToolButton::Class()});
+  RegisterContainerEditors();
   RegisterMenuEditor();
   RegisterImageListEditor();
   RegisterStandardActions();

@@ -45,6 +45,8 @@ bool Bind(TEventBase& event, const std::function<void()>& call) {
          BindAs<TObject*, bool&>(event, call) || BindAs<TObject*, TTreeNode*>(event, call) ||
          BindAs<TObject*, TTreeNode*, bool&>(event, call) ||
          BindAs<TObject*, TListItem*, TItemChange>(event, call) ||
+         BindAs<TObject*, THeaderSection*>(event, call) ||
+         BindAs<TObject*, THeaderSection*, int, TSectionTrackState>(event, call) ||
          BindAs<TObject*, TListItem*, bool>(event, call) ||
          BindAs<TObject*, int, int>(event, call) ||
          BindAs<TObject*, int, int, bool&>(event, call) ||
@@ -74,6 +76,10 @@ class TScene {
     if (auto* list = dynamic_cast<TCustomListView*>(Control)) {
       list->SetViewStyle(vsReport);
       for (const char* each : {"one", "two"}) list->Items()->AddItem(each);
+    }
+    if (auto* header = dynamic_cast<THeaderControl*>(Control)) header->Sections()->Add();
+    if (auto* tabs = dynamic_cast<TTabControl*>(Control)) {
+      for (const char* each : {"&one", "&two"}) tabs->Tabs()->Add(each);
     }
     FForm.emplace(Form);
     FPanel.emplace(Panel);

@@ -39,6 +39,8 @@ void RegisterStandardClasses() {
     RegisterClasses({&TAnimate::Class(), &TColorBox::Class(), &TColorListBox::Class(),
                      &TLabeledEdit::Class(), &TMaskEdit::Class(), &TRichEdit::Class()});
     RegisterClasses({&TDrawGrid::Class(), &TStringGrid::Class()});
+    RegisterClasses({&TCoolBar::Class(), &THeaderControl::Class(), &TTabControl::Class(),
+                     &TToolBar::Class(), &TToolButton::Class()});
     RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
                      &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),
                      &TEditSelectAll::Class(), &TEditUndo::Class(), &TFileExit::Class(),

@@ -155,12 +155,19 @@ TButtonFace::TPlaces TButtonFace::Arrange(const TRect& client, TSize glyph, TSiz
 
 void TButtonFace::Draw(TCanvas* canvas, const TRect& client, const std::string& caption,
                        TFaceState state, int pixelsPerInch) {
-  TImageList* images = ImagesFor(pixelsPerInch);
+  DrawWith(canvas, client, caption, state, GlyphFor(state, pixelsPerInch));
+}
+
+void TButtonFace::DrawWith(TCanvas* canvas, const TRect& client, const std::string& caption,
+                           TFaceState state, const TFacePicture& picture) const {
+  TImageList* images = picture.List;
   const TSize glyph = images ? TSize{images->Width(), images->Height()} : TSize{};
   TRect measured(0, 0, client.Width(), 0);
   if (!caption.empty()) DrawTextOn(canvas, caption, measured, DT_CALCRECT);
   TPlaces places = Arrange(client, glyph, caption.empty() ? TSize{} : measured.Size());
-  if (images) DrawGlyph(canvas, images, places.Glyph, state);
+  if (images) {
+    images->Draw(canvas, places.Glyph.X, places.Glyph.Y, picture.Index, picture.Enabled);
+  }
   if (caption.empty()) return;
   constexpr UINT flags = DT_CENTER | DT_VCENTER | DT_NOCLIP;
   canvas->Brush()->SetStyle(bsClear);
@@ -187,12 +194,29 @@ TImageList* TButtonFace::ImagesFor(int pixelsPerInch) {
   return FImages->ForPPI(pixelsPerInch);
 }
 
-void TButtonFace::DrawGlyph(TCanvas* canvas, TImageList* images, TPoint place,
-                            TFaceState state) const {
+TFacePicture TButtonFace::GlyphFor(TFaceState state, int pixelsPerInch) {
   const int wanted = static_cast<int>(state);
   const bool drawn = wanted < FNumGlyphs;
-  images->Draw(canvas, place.X, place.Y, drawn ? wanted : 0,
-               drawn || state != TFaceState::Disabled);
+  return {ImagesFor(pixelsPerInch), drawn ? wanted : 0, drawn || state != TFaceState::Disabled};
+}
+
+TRect DrawFaceEdge(TCanvas* canvas, const TRect& rect, const TFaceEdge& edge) {
+  RECT frame = rect;
+  if (!edge.Flat) {
+    ::DrawFrameControl(canvas->Handle(), &frame, DFC_BUTTON,
+                       DFCS_BUTTONPUSH | DFCS_ADJUSTRECT | (edge.Down ? DFCS_PUSHED : 0u));
+    return frame;
+  }
+  if (edge.Filled) {
+    canvas->Brush()->SetColor(clBtnFace);
+    canvas->FillRect(rect);
+  }
+  if (edge.Shown) {
+    ::DrawEdge(canvas->Handle(), &frame, edge.Down ? BDR_SUNKENOUTER : BDR_RAISEDINNER, BF_RECT);
+  }
+  TRect inside = rect;
+  inside.Inflate(-1, -1);
+  return inside;
 }
 
 }  // namespace vcl

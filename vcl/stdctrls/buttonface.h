@@ -29,6 +29,23 @@ inline constexpr TIntegerText IntegerText<TNumGlyphs>{"TNumGlyphs"};
 /// down.
 enum class TFaceState { Up, Disabled, Down, Exclusive };
 
+/// How the edge of a button without a window is drawn.
+struct TFaceEdge {
+  bool Flat;    ///< One line thick, and only where it is shown.
+  bool Shown;   ///< Of a flat one.
+  bool Down;    ///< Sunk.
+  bool Filled;  ///< A flat button hides what is behind it.
+};
+/// Draws the edge; what is left inside it.
+VCL_API TRect DrawFaceEdge(TCanvas* canvas, const TRect& rect, const TFaceEdge& edge);
+
+/// A picture of a list; none without a list. One that is not enabled is drawn embossed.
+struct TFacePicture {
+  TImageList* List = nullptr;
+  int Index = 0;
+  bool Enabled = true;
+};
+
 /// What a button shows. Its glyph is a row of images of one size for the states above; a state
 /// without one has the first image, which is drawn embossed when the button is disabled. Pixels of
 /// the colour of the bitmap's lower left one are see-through.
@@ -66,6 +83,9 @@ class VCL_API TButtonFace {
   /// so many dots per inch.
   void Draw(TCanvas* canvas, const TRect& client, const std::string& caption, TFaceState state,
             int pixelsPerInch);
+  /// The same with a picture in the glyph's place.
+  void DrawWith(TCanvas* canvas, const TRect& client, const std::string& caption, TFaceState state,
+                const TFacePicture& picture) const;
 
  private:
   struct TPlaces {
@@ -78,7 +98,7 @@ class VCL_API TButtonFace {
   void CountImages();
   TSize GlyphSize() const;
   TPlaces Arrange(const TRect& client, TSize glyph, TSize text) const;
-  void DrawGlyph(TCanvas* canvas, TImageList* images, TPoint place, TFaceState state) const;
+  TFacePicture GlyphFor(TFaceState state, int pixelsPerInch);
   TImageList* ImagesFor(int pixelsPerInch);
 
   TNotifyEvent FChanged;

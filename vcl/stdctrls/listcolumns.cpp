@@ -1,8 +1,6 @@
 // TListColumn and TListGroup: their settings. What the window shows of them is the list view's.
 #include "vcl/stdctrls/listcolumns.h"
 
-#include <algorithm>
-
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
@@ -14,58 +12,19 @@ namespace vcl {
 
 const TClass& TListColumn::Class() {
   using T = TListColumn;
-  static const TClass info = Describe<T, TCollectionItem>(
+  static const TClass info = Describe<T, THeaderItem>(
       "vcl::TListColumn", "vcl/stdctrls/comctrls.h",
       {
-          Property<&T::Alignment, &T::SetAlignment>("Alignment").Default(taLeftJustify),
-          Property<&T::AutoSize, &T::SetAutoSize>("AutoSize").Default(false),
+          Inherit("Alignment"),
+          Inherit("AutoSize"),
           Property<&T::Caption, &T::SetCaption>("Caption").Default(""),
-          Property<&T::ImageIndex, &T::SetImageIndex>("ImageIndex").Default(-1),
-          Property<&T::MaxWidth, &T::SetMaxWidth>("MaxWidth").Default(0),
-          Property<&T::MinWidth, &T::SetMinWidth>("MinWidth").Default(0),
-          Property<&T::SortMark, &T::SetSortMark>("SortMark").Default(smNone),
-          Property<&T::Width, &T::SetWidth>("Width").Default(50),
+          Inherit("ImageIndex"),
+          Inherit("MaxWidth"),
+          Inherit("MinWidth"),
+          Inherit("SortMark"),
+          Inherit("Width"),
       });
   return info;
-}
-
-template <class T>
-void TListColumn::Change(T& field, const T& value) {
-  if (value == field) return;
-  field = value;
-  FWidth = Limited(FWidth);
-  Changed(false);
-}
-
-int TListColumn::Limited(int width) const {
-  width = std::max(width, FMinWidth);
-  return FMaxWidth > 0 ? std::min(width, FMaxWidth) : width;
-}
-
-void TListColumn::SetCaption(const std::string& caption) { Change(FCaption, caption); }
-void TListColumn::SetAlignment(TAlignment alignment) { Change(FAlignment, alignment); }
-void TListColumn::SetAutoSize(bool autoSize) { Change(FAutoSize, autoSize); }
-void TListColumn::SetImageIndex(int index) { Change(FImageIndex, std::max(index, -1)); }
-void TListColumn::SetMaxWidth(int width) { Change(FMaxWidth, std::max(width, 0)); }
-void TListColumn::SetMinWidth(int width) { Change(FMinWidth, std::max(width, 0)); }
-void TListColumn::SetSortMark(TSortMark mark) { Change(FSortMark, mark); }
-void TListColumn::SetWidth(int width) { Change(FWidth, Limited(std::max(width, 0))); }
-
-void TListColumn::Assign(const TPersistent* source) {
-  const auto* column = dynamic_cast<const TListColumn*>(source);
-  if (!column) return TCollectionItem::Assign(source);
-  SetAlignment(column->FAlignment);
-  SetAutoSize(column->FAutoSize);
-  SetCaption(column->FCaption);
-  SetImageIndex(column->FImageIndex);
-  SetMaxWidth(column->FMaxWidth);
-  SetMinWidth(column->FMinWidth);
-  SetSortMark(column->FSortMark);
-  SetWidth(column->FWidth);
-}
-
-std::string TListColumn::DisplayName() const {
-  return FCaption.empty() ? TCollectionItem::DisplayName() : FCaption;
 }
 
 // ---- Groups ----

@@ -9,6 +9,7 @@
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/listview.h"
+#include "vcl/stdctrls/private/headerfit.h"
 
 namespace vcl {
 
@@ -81,12 +82,11 @@ void TCustomListView::SendColumn(const TListColumn& column, UINT message) {
 void TCustomListView::SendMark(const TListColumn& column) {
   const HWND header = HeaderOf(*this);
   if (!header) return;
-  static constexpr int marks[] = {0, HDF_SORTUP, HDF_SORTDOWN};
   const auto place = static_cast<WPARAM>(column.Index());
   HDITEMW item{};
   item.mask = HDI_FORMAT;
   ::SendMessageW(header, HDM_GETITEMW, place, reinterpret_cast<LPARAM>(&item));
-  item.fmt = (item.fmt & ~(HDF_SORTUP | HDF_SORTDOWN)) | marks[column.SortMark()];
+  item.fmt = (item.fmt & ~(HDF_SORTUP | HDF_SORTDOWN)) | SortMarkFormat(column.SortMark());
   ::SendMessageW(header, HDM_SETITEMW, place, reinterpret_cast<LPARAM>(&item));
 }
 
@@ -94,19 +94,10 @@ void TCustomListView::SendMark(const TListColumn& column) {
 void TCustomListView::FitColumns() {
   if (FFitting || !HandleAllocated() || FViewStyle != vsReport) return;
   const TSetFor fitting(FFitting, true, this);
-  int left = ClientWidth();
-  int parts = 0;
-  for (int i = 0; i < FColumns->Count(); ++i) {
-    const TListColumn* column = FColumns->Items(i);
-    column->AutoSize() ? ++parts : left -= column->Width();
-  }
-  for (int i = 0; i < FColumns->Count(); ++i) {
-    TListColumn* column = FColumns->Items(i);
-    if (!column->AutoSize()) continue;
-    column->FWidth = column->Limited(std::max(left / parts--, 0));
-    left -= column->FWidth;
-    Send(*this, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(i), MAKELPARAM(column->FWidth, 0));
-  }
+  THeaderFit::Share(*FColumns, ClientWidth(), [this](const THeaderItem& column) {
+    Send(*this, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column.Index()),
+         MAKELPARAM(column.Width(), 0));
+  });
 }
 
 std::vector<int> TCustomListView::ColumnOrder() const {
@@ -185,8 +176,8 @@ void TCustomListView::HeaderSized(TMessage& message) {
   TListColumn* column = FColumns->Items(told.iItem);
   const int width = column->Limited(told.pitem->cxy);
   const bool refused = width != told.pitem->cxy;
-  if (width == column->FWidth && !refused) return;
-  column->FWidth = width;
+  if (width == column->Width() && !refused) return;
+  THeaderFit::SetWidth(*column, width);
   if (refused) {
     const TSetFor fitting(FFitting, true, this);
     Send(*this, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(told.iItem), MAKELPARAM(width, 0));

@@ -3,21 +3,17 @@
 
 #include <algorithm>
 
-#include "vcl/controls/accelerators.h"
 #include "vcl/controls/propertygroups.h"
-#include "vcl/controls/windowmessages.h"
 #include "vcl/forms/forms.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
-#include "vcl/rtl/win32.h"
-#include "vcl/stdctrls/private/commoncontrols.h"
 
 namespace vcl {
 
 const TClass& TPageControl::Class() {
   using T = TPageControl;
-  static const TClass info = Describe<T, TWinControl>(
+  static const TClass info = Describe<T, TCustomTabControl>(
       "vcl::TPageControl", "vcl/stdctrls/comctrls.h",
       {
           Property<&T::ActivePage, &T::SetActivePage>("ActivePage"),
@@ -26,17 +22,23 @@ const TClass& TPageControl::Class() {
           Inherit("DragMode"),
           Inherit("Enabled"),
           Inherit("Font"),
-          Property<&T::MultiLine, &T::SetMultiLine>("MultiLine").Default(false),
+          Inherit("HotTrack"),
+          Inherit("Images"),
+          Inherit("MultiLine"),
           Inherit("ParentFont"),
           Inherit("ParentShowHint"),
           Inherit("PopupMenu"),
+          Inherit("RaggedRight"),
           Inherit("ShowHint"),
+          Inherit("Style"),
+          Inherit("TabHeight"),
           Inherit("TabOrder"),
+          Inherit("TabPosition"),
           Inherit("TabStop").Default(true),
+          Inherit("TabWidth"),
           Inherit("Visible"),
-          Event<&T::OnChange>("OnChange"),
-          Event<&T::OnChanging>("OnChanging")
-              .Type("TTabChangingEvent", "vcl::TObject* sender, bool& allow"),
+          Inherit("OnChange"),
+          Inherit("OnChanging"),
           Inherit(DragEvents),
           Inherit(FocusEvents),
           Inherit(MouseEvents),
@@ -47,11 +49,7 @@ const TClass& TPageControl::Class() {
   return info;
 }
 
-TPageControl::TPageControl(TComponent* owner) : TWinControl(owner) {
-  SetControlStyle({csDoubleClicks, csOpaque});
-  SetBounds(0, 0, 289, 193);
-  SetTabStop(true);
-}
+TPageControl::TPageControl(TComponent* owner) : TCustomTabControl(owner) {}
 
 TPageControl::~TPageControl() {
   AnnounceEnd();
@@ -76,7 +74,7 @@ void TPageControl::SetActivePage(TTabSheet* page) {
   }
   if (page == FActivePage) return;
   TWatch watch(this);
-  const bool focus = HasFocusInside();
+  const bool focus = PageHasFocus();
   TTabSheet* former = std::exchange(FActivePage, page);
   if (page) {
     page->BringToFront();
@@ -89,7 +87,7 @@ void TPageControl::SetActivePage(TTabSheet* page) {
   if (formerIsPage && former != FActivePage) former->SetVisible(false);
   if (watch.Gone()) return;
   ShowActiveTab();
-  const int tab = FActivePage ? FActivePage->TabIndex() : -1;
+  const int tab = ActiveTab();
   if (tab >= 0) AccessibleChanged(acSelection, {tab});
 }
 
@@ -113,29 +111,34 @@ TTabSheet* TPageControl::FindNextPage(TTabSheet* current, bool goForward,
   return nullptr;
 }
 
-void TPageControl::SelectNextPage(bool goForward) {
-  UserSelects(FindNextPage(FActivePage, goForward, true));
+// Tabs.
+
+std::vector<TTabLook> TPageControl::TabLooks() const {
+  std::vector<TTabLook> looks;
+  for (const TTabSheet* page : FPages) {
+    if (page->TabVisible()) {
+      looks.push_back({page->Caption(), page->ImageIndex(), page->Accessible().Name});
+    }
+  }
+  return looks;
 }
 
-void TPageControl::UserSelects(TTabSheet* page) {
-  TWatch watch(this);
-  if (!page || page == FActivePage || !CanChange() || watch.Gone()) return;
-  SetActivePage(page);
-  if (!watch.Gone()) Change();
+int TPageControl::ActiveTab() const { return FActivePage ? FActivePage->TabIndex() : -1; }
+
+TTabSheet* TPageControl::PageOfTab(int tab) const {
+  if (tab < 0) return nullptr;  // Pages without a tab have the index -1, as has no tab at all.
+  const auto found = std::ranges::find(FPages, tab, &TTabSheet::TabIndex);
+  return found == FPages.end() ? nullptr : *found;
 }
 
-bool TPageControl::CanChange() {
-  bool allow = true;
-  OnChanging(this, allow);
-  return allow;
+/// An active page without a tab has its place among the others all the same.
+void TPageControl::UserSelectsNext(bool goForward) {
+  const TTabSheet* next = FindNextPage(FActivePage, goForward, true);
+  if (next) UserSelects(next->TabIndex());
 }
 
-void TPageControl::Change() { OnChange(this); }
-
-void TPageControl::SetMultiLine(bool multiLine) {
-  if (multiLine == FMultiLine) return;
-  FMultiLine = multiLine;
-  RecreateWnd();
+TTabSheet* TPageControl::PageAtPos(TPoint position) const {
+  return PageOfTab(IndexOfTabAt(position));
 }
 
 void TPageControl::GetChildren(const std::function<void(TComponent*)>& each, TComponent*) {
@@ -151,11 +154,11 @@ void TPageControl::SetChildOrder(TComponent* child, int order) {
 
 void TPageControl::ShowControl(TControl* control) {
   if (auto* page = dynamic_cast<TTabSheet*>(control)) SetActivePage(page);
-  TWinControl::ShowControl(control);
+  TCustomTabControl::ShowControl(control);
 }
 
 void TPageControl::Loaded() {
-  TWinControl::Loaded();
+  TCustomTabControl::Loaded();
   if (!FActivePage) SetActivePage(FindNextPage(nullptr, true, true));
 }
 
@@ -196,7 +199,7 @@ void TPageControl::MovePage(TTabSheet* page, int index) {
   UpdateTabs();
 }
 
-bool TPageControl::HasFocusInside() const {
+bool TPageControl::PageHasFocus() const {
   const TCustomForm* form = ParentForm();
   return form && FActivePage && form->ActiveControl() &&
          FActivePage->ContainsControl(form->ActiveControl());

@@ -4,26 +4,19 @@
 #include <string>
 #include <vector>
 
-#include "vcl/controls/wincontrol.h"
+#include "vcl/stdctrls/customtabs.h"
 
 namespace vcl {
 
 class TTabSheet;
 
-/// Sender, whether the user may leave the page.
-using TTabChangingEvent = TEvent<TObject*, bool&>;
-
-/// Pages behind each other, each with a tab. What the user changes fires OnChanging and OnChange;
-/// what code changes does not.
-class VCL_API TPageControl : public TWinControl {
+/// Pages behind each other, each with a tab.
+class VCL_API TPageControl : public TCustomTabControl {
  public:
   explicit TPageControl(TComponent* owner);
   ~TPageControl() override;
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
-  void DescribeAccessible(TAccessibleInfo& info) const override;
-  std::vector<TAccessiblePart> AccessibleParts() override;
-  void DoAccessiblePart(const TAccessiblePath& part) override;
 
   int PageCount() const { return static_cast<int>(FPages.size()); }
   /// The page at the index from 0, tab or not. Raises EListError outside.
@@ -39,29 +32,20 @@ class VCL_API TPageControl : public TWinControl {
   /// when there is none. The one after null is the first.
   TTabSheet* FindNextPage(TTabSheet* current, bool goForward, bool checkTabVisible) const;
   /// Goes to the next page with a tab, as the user does with Ctrl+Tab.
-  void SelectNextPage(bool goForward);
-  bool MultiLine() const { return FMultiLine; }
-  /// True: tabs that do not fit stand in another row.
-  void SetMultiLine(bool multiLine);
+  void SelectNextPage(bool goForward) { UserSelectsNext(goForward); }
   /// The page whose tab is at the position; null for none.
   TTabSheet* PageAtPos(TPoint position) const;
 
   void GetChildren(const std::function<void(TComponent*)>& each, TComponent* root) override;
   void SetChildOrder(TComponent* child, int order) override;
 
-  /// The user has brought another page to the front.
-  TNotifyEvent OnChange;
-  /// The user is about to leave the page, which the handler may refuse.
-  TTabChangingEvent OnChanging;
-
  protected:
-  virtual bool CanChange();
-  virtual void Change();
+  std::vector<TTabLook> TabLooks() const override;
+  int ActiveTab() const override;
+  void ActivateTab(int tab) override { SetActivePage(PageOfTab(tab)); }
+  bool HasFocusInside() const override { return Focused() || PageHasFocus(); }
+  void UserSelectsNext(bool goForward) override;
   void ShowControl(TControl* control) override;
-  void AdjustClientRect(TRect& rect) const override;
-  void CreateParams(TCreateParams& params) override;
-  void CreateWnd() override;
-  void Dispatch(TMessage& message) override;
   void Loaded() override;
 
  private:
@@ -69,20 +53,13 @@ class VCL_API TPageControl : public TWinControl {
   void InsertPage(TTabSheet* page);
   void RemovePage(TTabSheet* page);
   void MovePage(TTabSheet* page, int index);
-  void UpdateTabs();
-  void UpdateTab(TTabSheet* page);
-  void ShowActiveTab();
   void PageGone(int formerIndex);
-  void UserSelects(TTabSheet* page);
   TTabSheet* PageOfTab(int tab) const;
-  bool HasFocusInside() const;
+  bool PageHasFocus() const;
   void MoveFocusTo(TTabSheet* page);
-  void NotifyFromWindow(TMessage& message);
-  bool TakesAccel(WPARAM character);
 
   std::vector<TTabSheet*> FPages;
   TTabSheet* FActivePage = nullptr;
-  bool FMultiLine = false;
 };
 
 /// A page. Its caption is its tab's text; it fills the page control, which shows and hides it.
@@ -106,6 +83,9 @@ class VCL_API TTabSheet : public TWinControl {
   int PageIndex() const;
   /// Raises EListError outside. While a form is being read, it is taken from the order there.
   void SetPageIndex(int index);
+  int ImageIndex() const { return FImageIndex; }
+  /// The picture on the tab, in the page control's Images; -1 for none. Less is taken as -1.
+  void SetImageIndex(int index);
   bool TabVisible() const { return FTabVisible; }
   /// False: the page has no tab; when it is the active one, another page becomes active.
   void SetTabVisible(bool visible);
@@ -122,6 +102,7 @@ class VCL_API TTabSheet : public TWinControl {
   const TWinControl* SizeGiver() const override;
 
  private:
+  int FImageIndex = -1;
   bool FTabVisible = true;
 };
 

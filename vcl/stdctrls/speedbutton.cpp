@@ -2,7 +2,6 @@
 #include "vcl/stdctrls/speedbutton.h"
 
 #include "vcl/actions/actionlink.h"
-#include "vcl/controls/accelerators.h"
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/graphics/canvas.h"
@@ -46,7 +45,7 @@ const TClass& TSpeedButton::Class() {
 }
 
 TSpeedButton::TSpeedButton(TComponent* owner)
-    : TGraphicControl(owner), FFace(TNotifyEvent(this, &TSpeedButton::Changed)) {
+    : TPressable(owner), FFace(TNotifyEvent(this, &TSpeedButton::Changed)) {
   // It clicks by itself, when it comes up again.
   SetControlStyle({csCaptureMouse, csDoubleClicks});
   SetBounds(0, 0, 23, 22);
@@ -139,29 +138,11 @@ void TSpeedButton::SetTransparent(bool transparent) {
 TFaceState TSpeedButton::FaceState() const {
   if (!Enabled()) return TFaceState::Disabled;
   if (FDown) return TFaceState::Exclusive;
-  return FPressed ? TFaceState::Down : TFaceState::Up;
+  return Pressed() ? TFaceState::Down : TFaceState::Up;
 }
 
 bool TSpeedButton::ShowsEdge() const {
-  return !FFlat || FDown || FPressed || Designing() || (FHot && Enabled());
-}
-
-void TSpeedButton::DrawEdge(TRect& rect, bool down) {
-  RECT edge = rect;
-  if (FFlat) {
-    if (!Transparent()) {
-      Canvas()->Brush()->SetColor(clBtnFace);
-      Canvas()->FillRect(rect);
-    }
-    if (ShowsEdge()) {
-      ::DrawEdge(Canvas()->Handle(), &edge, down ? BDR_SUNKENOUTER : BDR_RAISEDINNER, BF_RECT);
-    }
-    rect.Inflate(-1, -1);
-    return;
-  }
-  ::DrawFrameControl(Canvas()->Handle(), &edge, DFC_BUTTON,
-                     DFCS_BUTTONPUSH | DFCS_ADJUSTRECT | (down ? DFCS_PUSHED : 0u));
-  rect = edge;
+  return !FFlat || FDown || Pressed() || Designing() || (Hot() && Enabled());
 }
 
 void TSpeedButton::ChangeScale(int m, int d) {
@@ -172,12 +153,13 @@ void TSpeedButton::ChangeScale(int m, int d) {
 }
 
 void TSpeedButton::Paint() {
-  TRect rect = ClientRect();
-  const bool down = FDown || FPressed;
-  DrawEdge(rect, down);
+  const bool down = FDown || Pressed();
+  TRect rect = DrawFaceEdge(
+      Canvas(), ClientRect(),
+      {.Flat = FFlat, .Shown = ShowsEdge(), .Down = down, .Filled = !Transparent()});
   const TFaceState state = FaceState();
   // One that stays down is lighter than its surroundings, save a flat one under the mouse.
-  if (state == TFaceState::Exclusive && !(FFlat && FHot)) {
+  if (state == TFaceState::Exclusive && !(FFlat && Hot())) {
     Canvas()->Brush()->SetColor(cl3DLight);
     Canvas()->FillRect(rect);
   }
@@ -188,64 +170,23 @@ void TSpeedButton::Paint() {
 
 // Input.
 
-void TSpeedButton::SetPressed(bool pressed) {
-  if (pressed == FPressed) return;
-  FPressed = pressed;
-  AccessibleChanged(acState);
-  Repaint();
-}
-
-void TSpeedButton::SetHot(bool hot) {
-  if (hot == FHot) return;
-  FHot = hot;
+void TSpeedButton::HotChanged() {
   if (FFlat) Invalidate();
 }
 
 void TSpeedButton::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
-  TWatch watch(this);
-  TGraphicControl::MouseDown(button, shift, x, y);
+  const TWatch watch(this);
+  TPressable::MouseDown(button, shift, x, y);
   if (watch.Gone() || button != mbLeft || !Enabled()) return;
-  FTracking = true;
-  SetPressed(true);
-  if (!watch.Gone() && FDown && shift.Has(ssDouble)) DblClick();
-}
-
-void TSpeedButton::MouseMove(TShiftState shift, int x, int y) {
-  TWatch watch(this);
-  TGraphicControl::MouseMove(shift, x, y);
-  if (!watch.Gone() && FTracking) SetPressed(ClientRect().Contains({x, y}));
-}
-
-void TSpeedButton::MouseUp(TMouseButton button, TShiftState shift, int x, int y) {
-  TWatch watch(this);
-  TGraphicControl::MouseUp(button, shift, x, y);
-  if (watch.Gone() || button != mbLeft || !FTracking) return;
-  FTracking = false;
-  SetPressed(false);
-  if (watch.Gone() || !ClientRect().Contains({x, y})) return;
-  DoAccessibleAction();
+  if (FDown && shift.Has(ssDouble)) DblClick();
 }
 
 void TSpeedButton::Click() { TGraphicControl::Click(); }
 
 void TSpeedButton::Dispatch(TMessage& message) {
-  const bool accelerated = message.Msg == CM_DIALOGCHAR && IsAccel(message.WParam, Caption()) &&
-                           Enabled() && Visible() && Parent() && Parent()->Showing();
-  if (accelerated) {
-    message.Result = 1;
-    return Click();
-  }
-  TWatch watch(this);
-  TGraphicControl::Dispatch(message);
-  if (watch.Gone()) return;
-  switch (message.Msg) {
-    case CM_MOUSEENTER:
-    case CM_MOUSELEAVE: return SetHot(message.Msg == CM_MOUSEENTER);
-    case CM_TEXTCHANGED: return Invalidate();
-    case CM_ENABLEDCHANGED:
-    case WM_CANCELMODE: FTracking = false; return SetPressed(false);
-    default: return;
-  }
+  if (!IsAccelerated(message)) return TPressable::Dispatch(message);
+  message.Result = 1;
+  Click();
 }
 
 // Screen readers.
@@ -254,7 +195,7 @@ void TSpeedButton::DescribeAccessible(TAccessibleInfo& info) const {
   TGraphicControl::DescribeAccessible(info);
   info.Role = arPushButton;
   info.DefaultAction = "Press";
-  if (FDown || FPressed) info.State.Include(asPressed);
+  if (FDown || Pressed()) info.State.Include(asPressed);
 }
 
 void TSpeedButton::DoAccessibleAction() {

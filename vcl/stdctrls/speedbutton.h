@@ -1,15 +1,15 @@
 // TSpeedButton: a button without a window, which never takes the focus and may stay down.
 #pragma once
 
-#include "vcl/controls/control.h"
 #include "vcl/stdctrls/buttonface.h"
+#include "vcl/stdctrls/pressable.h"
 
 namespace vcl {
 
 /// A button of a tool bar. Those of one parent with the same GroupIndex, other than 0, are a group:
 /// they stay down when they are clicked, one at a time. See TButtonFace for the glyph and where it
 /// stands.
-class VCL_API TSpeedButton : public TGraphicControl {
+class VCL_API TSpeedButton : public TPressable {
  public:
   explicit TSpeedButton(TComponent* owner);
   ~TSpeedButton() override;
@@ -58,8 +58,8 @@ class VCL_API TSpeedButton : public TGraphicControl {
   void ChangeScale(int m, int d) override;
   void Paint() override;
   void MouseDown(TMouseButton button, TShiftState shift, int x, int y) override;
-  void MouseMove(TShiftState shift, int x, int y) override;
-  void MouseUp(TMouseButton button, TShiftState shift, int x, int y) override;
+  void Released() override { DoAccessibleAction(); }
+  void HotChanged() override;
   void Dispatch(TMessage& message) override;
   void FollowAction(const TActionChange& change) override;
 
@@ -70,9 +70,6 @@ class VCL_API TSpeedButton : public TGraphicControl {
   void Changed(TObject* sender);
   TFaceState FaceState() const;
   bool ShowsEdge() const;
-  void DrawEdge(TRect& rect, bool down);
-  void SetPressed(bool pressed);
-  void SetHot(bool hot);
   void TellGroup();
   void Follow(const TSpeedButton& pressed);
 
@@ -81,9 +78,6 @@ class VCL_API TSpeedButton : public TGraphicControl {
   bool FAllowAllUp = false;
   bool FDown = false;
   bool FFlat = false;
-  bool FTracking = false;  // The mouse went down on the button and is still down.
-  bool FPressed = false;   // It looks pressed: the mouse is down, and over the button.
-  bool FHot = false;       // The mouse is over the button.
 };
 
 }  // namespace vcl

@@ -19,6 +19,7 @@ const TClass& TTabSheet::Class() {
           Inherit("Font"),
           // A page fills the page control, whatever a form file says.
           Inherit("Height").Stored(false),
+          Property<&T::ImageIndex, &T::SetImageIndex>("ImageIndex").Default(-1),
           Inherit("Left").Stored(false),
           Property<&T::PageIndex, &T::SetPageIndex>("PageIndex").Stored(false),
           Inherit("ParentFont"),
@@ -96,6 +97,11 @@ int TTabSheet::TabIndex() const {
   return static_cast<int>(std::count_if(first, first + index, hasTab));
 }
 
+void TTabSheet::SetImageIndex(int index) {
+  FImageIndex = std::max(index, -1);
+  if (PageControl()) PageControl()->UpdateTab(TabIndex());
+}
+
 void TTabSheet::SetTabVisible(bool visible) {
   if (visible == FTabVisible) return;
   FTabVisible = visible;
@@ -109,8 +115,14 @@ void TTabSheet::Dispatch(TMessage& message) {
   TWatch watch(this);
   TWinControl::Dispatch(message);
   if (watch.Gone()) return;
-  if (message.Msg == CM_TEXTCHANGED && PageControl()) PageControl()->UpdateTab(this);
+  if (message.Msg == CM_TEXTCHANGED && PageControl()) PageControl()->UpdateTab(TabIndex());
   if (message.Msg == CM_SHOWINGCHANGED) (Showing() ? OnShow : OnHide)(this);
+}
+
+void TTabSheet::DescribeAccessible(TAccessibleInfo& info) const {
+  TWinControl::DescribeAccessible(info);
+  info.Role = arPropertyPage;
+  info.KeyboardShortcut.clear();
 }
 
 }  // namespace vcl
