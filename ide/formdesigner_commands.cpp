@@ -3,12 +3,12 @@
 
 #include "ide/formdesigner.h"
 #include "vcl/forms/application.h"
-#include "vcl/forms/clipboardtext.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/formfile.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
+#include "vcl/transfer/clipboard.h"
 
 namespace ide {
 
@@ -120,7 +120,7 @@ std::string TFormDesigner::CopyText() const {
 void TFormDesigner::Copy() {
   Try([&] {
     const std::string text = CopyText();
-    if (!text.empty()) SetClipboardText(text);
+    if (!text.empty()) Clipboard()->SetAsText(text);
   });
 }
 
@@ -130,7 +130,7 @@ void TFormDesigner::Cut() {
 }
 
 void TFormDesigner::Paste() {
-  Try([&] { PasteText(ClipboardText()); });
+  Try([&] { PasteText(Clipboard()->AsText()); });
 }
 
 void TFormDesigner::PasteText(const std::string& text) {

@@ -5,11 +5,11 @@
 #include "qel/design/toollist.h"
 #include "qel/design/tools.h"
 #include "vcl/db/dataset.h"
-#include "vcl/forms/clipboardtext.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/valuetext.h"
+#include "vcl/transfer/clipboard.h"
 
 namespace qel {
 
@@ -53,14 +53,14 @@ void ShowSources(const std::string& caption, std::vector<std::string> lines,
                  const std::function<std::string(int)>& source) {
   TQELToolList list{caption, std::move(lines), source};
   list.Action = "&Copy";
-  list.Act = [&](int index) { SetClipboardText(source(index)); };
+  list.Act = [&](int index) { Clipboard()->SetAsText(source(index)); };
   ShowToolList(list);
 }
 
 }  // namespace
 
 void PasteComments(TEnvironment&) {
-  const std::string text = ClipboardText();
+  const std::string text = Clipboard()->AsText();
   std::vector<std::string> styles;
   for (const TCommentStyle& each : CommentStyles) {
     if (!text.empty()) styles.push_back(each.Caption);

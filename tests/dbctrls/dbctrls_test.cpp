@@ -256,7 +256,7 @@ TEST_F(DataControls, EditActionsBeginToEditTheRecord) {
   auto* name = MakeEdit("Name", 10);
   TEditPaste paste(nullptr);
   TEditDelete clear(nullptr);
-  SetClipboardText("Pat");
+  Clipboard()->SetAsText("Pat");
   ShowForm();
   name->SetFocus();
   name->SelectAll();

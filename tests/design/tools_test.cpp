@@ -12,9 +12,9 @@
 #include "vcl/db/memorydataset.h"
 #include "vcl/designintf/environment.h"
 #include "vcl/designintf/package.h"
-#include "vcl/forms/clipboardtext.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/registry.h"
+#include "vcl/transfer/clipboard.h"
 
 namespace vcl {
 namespace {
@@ -129,23 +129,23 @@ TEST_F(Tools, NonVisualComponentsAreSelectedAndHidden) {
 }
 
 TEST_F(Tools, WriteSources) {
-  SetClipboardText("one*/\n\nC:\\");
+  Clipboard()->SetAsText("one*/\n\nC:\\");
   const char* const comments[] = {"// one* /\n//\n// C:\\ .\n", "/// one* /\n///\n/// C:\\ .\n",
                                   "/*\n * one* /\n *\n * C:\\ .\n */\n"};
   for (int style = 0; style < 3; ++style) {
-    SetClipboardText("one*/\n\nC:\\");
+    Clipboard()->SetAsText("one*/\n\nC:\\");
     Run("Paste Comments...", L"Paste Comments", [&](HWND form) {
       Choose(form, style);
       Press(form, "&Copy");
     });
-    EXPECT_EQ(ClipboardText(), comments[style]);
+    EXPECT_EQ(Clipboard()->AsText(), comments[style]);
   }
   auto* table = Add<TMemoryDataSet>("Towns");
   table->FieldDefs()->Add("Town \"T\"", ftString, 20);
   table->FieldDefs()->Add("Area", ftFloat);
   table->FieldDefs()->Add("Since", ftDate, 0, true);
   Run("Generate Table Source", L"Generate Table Source", [](HWND form) { Press(form, "&Copy"); });
-  EXPECT_EQ(ClipboardText(),
+  EXPECT_EQ(Clipboard()->AsText(),
             "void DefineTowns(vcl::TDataSet& table) {\n"
             "  vcl::TFieldDefs& fields = *table.FieldDefs();\n  fields.Clear();\n"
             "  fields.Add(\"Town \\\"T\\\"\", vcl::ftString, 20);\n"
@@ -165,7 +165,7 @@ TEST_F(Tools, ShowTheDetailsOfALine) {
   std::ofstream(file) << "[First]\nx=1\n[Second]\ny=2\nz=\n";
   chosenFile = file.wstring();
   const TImportPatch patch("qelhost.dll", "GetOpenFileNameW", &ChooseFile);
-  SetClipboardText("copied");
+  Clipboard()->SetAsText("copied");
   const struct {
     const char* Item;
     std::wstring Form;

@@ -28,9 +28,10 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
     rooms.merge(more);
     return rooms;
   };
-  static const std::set<std::string> dialogs = with(window, {"vcl/stdctrls", "vcl/dialogs"});
+  static const std::set<std::string> dialogs =
+      with(window, {"vcl/stdctrls", "vcl/transfer", "vcl/dialogs"});
   static const std::set<std::string> vcl =
-      with(dialogs, {"vcl/stdactions", "vcl/system", "vcl/grids"});
+      with(dialogs, {"vcl/stdactions", "vcl/system", "vcl/grids", "vcl/printing"});
   static const std::set<std::string> component = with(vcl, {"qel/core"});
   static const std::set<std::string> application =
       with(component, {"vcl", "vcl/net", "vcl/db", "vcl/dbctrls", "qel", "qel/controls", "qel/data",
@@ -46,8 +47,10 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"vcl/actions", window},
       {"vcl/forms", vcl},  // Forms register the standard classes.
       {"vcl/stdctrls", window},
+      {"vcl/transfer", window},
       {"vcl/dialogs", dialogs},
-      {"vcl/grids", with(window, {"vcl/stdctrls"})},
+      {"vcl/printing", dialogs},
+      {"vcl/grids", with(window, {"vcl/stdctrls", "vcl/transfer"})},
       {"vcl/stdactions", dialogs},
       {"vcl/dbctrls", with(vcl, {"vcl/db"})},
       {"vcl/designintf", vcl},

@@ -454,7 +454,7 @@ TEST_F(ReadyActions, EditActionsWorkOnTheEditWithTheFocus) {
   auto* memo = Make<TMemo>(10, 50);
   auto* button = Make<TButton>(300, 10);
   edit->SetText("abc");
-  SetClipboardText("new");
+  Clipboard()->SetAsText("new");
   ShowForm();
   const auto enabled = [&] {
     std::string text;
@@ -476,7 +476,7 @@ TEST_F(ReadyActions, EditActionsWorkOnTheEditWithTheFocus) {
   edit->SetReadOnly(false);
   KeyWith(VK_CONTROL, 'X');
   EXPECT_EQ(edit->Text(), "");
-  EXPECT_EQ(ClipboardText(), "abc");
+  EXPECT_EQ(Clipboard()->AsText(), "abc");
   undo->Execute();
   EXPECT_EQ(edit->Text(), "abc");
   memo->SetFocus();
@@ -485,7 +485,7 @@ TEST_F(ReadyActions, EditActionsWorkOnTheEditWithTheFocus) {
   all->Execute();
   clear->Execute();
   EXPECT_EQ(memo->Text(), "");
-  EXPECT_EQ(ClipboardText(), "abc");
+  EXPECT_EQ(Clipboard()->AsText(), "abc");
   button->SetFocus();
   EXPECT_EQ(enabled(), "000000");
   EXPECT_FALSE(copy->Execute());
@@ -508,7 +508,7 @@ TEST_F(ReadyActions, EditActionsWorkInsideAComboBox) {
   list->Items()->SetText("one\ntwo");
   list->SetItemIndex(0);
   combo->SetText("abc");
-  SetClipboardText("new");
+  Clipboard()->SetAsText("new");
   ShowForm();
   const auto enabled = [&] {
     std::string text;
@@ -526,8 +526,8 @@ TEST_F(ReadyActions, EditActionsWorkInsideAComboBox) {
   EXPECT_EQ(combo->SelLength(), 3);
   EXPECT_EQ(enabled(), "111101");
   copy->Execute();
-  EXPECT_EQ(ClipboardText(), "abc");
-  SetClipboardText("new");
+  EXPECT_EQ(Clipboard()->AsText(), "abc");
+  Clipboard()->SetAsText("new");
   KeyWith(VK_CONTROL, 'V');
   EXPECT_EQ(combo->Text(), "new");
   EXPECT_EQ(enabled(), "001110");
@@ -536,11 +536,11 @@ TEST_F(ReadyActions, EditActionsWorkInsideAComboBox) {
   combo->Select(0, 2);
   cut->Execute();
   EXPECT_EQ(combo->Text(), "c");
-  EXPECT_EQ(ClipboardText(), "ab");
+  EXPECT_EQ(Clipboard()->AsText(), "ab");
   all->Execute();
   clear->Execute();
   EXPECT_EQ(combo->Text(), "");
-  EXPECT_EQ(ClipboardText(), "ab");
+  EXPECT_EQ(Clipboard()->AsText(), "ab");
   list->SetFocus();
   EXPECT_EQ(enabled(), "000000") << "it has no edit";
 }

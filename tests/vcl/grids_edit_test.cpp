@@ -161,7 +161,7 @@ TEST_F(GridEdits, BlocksGoThroughTheClipboardAsTextWithTabs) {
   ShowGrid();
   Grid->SetSelection({1, 1, 2, 2});
   KeyWith(VK_CONTROL, 'C');
-  EXPECT_EQ(ClipboardText(), "\"a\tb\"\t\"say \"\"x\"\"\"\n\"two\nlines\"\tc2r2\n");
+  EXPECT_EQ(Clipboard()->AsText(), "\"a\tb\"\t\"say \"\"x\"\"\"\n\"two\nlines\"\tc2r2\n");
   Grid->SetCol(4);
   KeyWith(VK_CONTROL, 'V');
   EXPECT_EQ(Grid->Cells(4, 2), "a\tb");
@@ -170,7 +170,7 @@ TEST_F(GridEdits, BlocksGoThroughTheClipboardAsTextWithTabs) {
   EXPECT_EQ(Grid->Cells(6, 2), "c6r2");
   Grid->SetSelection({1, 5, 2, 6});
   KeyWith(VK_CONTROL, 'X');
-  EXPECT_EQ(ClipboardText(), "c1r5\tc2r5\nc1r6\tc2r6\n");
+  EXPECT_EQ(Clipboard()->AsText(), "c1r5\tc2r5\nc1r6\tc2r6\n");
   EXPECT_EQ(Grid->Cells(2, 6), "");
   Grid->PasteText("7");
   for (const int col : {1, 2}) EXPECT_EQ(Grid->Cells(col, 6), "7") << "one value into all cells";

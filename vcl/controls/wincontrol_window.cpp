@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 #include "vcl/controls/private/handling.h"
+#include "vcl/controls/private/windowwatch.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/controls/windowtext.h"
 #include "vcl/forms/application.h"
@@ -148,6 +149,7 @@ void TWinControl::CreateWnd() {
   UpdateBounds();
   ::SendMessageW(FHandle, WM_SETFONT, reinterpret_cast<WPARAM>(Font()->Handle()), FALSE);
   Realign();
+  TWindowWatch::TellMade(*this, FHandle);
 }
 
 void TWinControl::DestroyHandle() {
@@ -233,6 +235,7 @@ LRESULT CALLBACK TWinControl::StaticWndProc(HWND window, UINT message, WPARAM wP
   TMessage record{message, wParam, lParam, 0};
   TWatch watch(control);
   const THandling handling;
+  if (message == WM_DESTROY) TWindowWatch::TellEnding(*control, window);
   try {
     if (!control->TakenByDesigner(record)) control->WndProc(record);
   } catch (...) {

@@ -68,6 +68,16 @@ bool TCommonDialog::Run(const std::function<BOOL(HWND)>& show) {
   return agreed;
 }
 
+HWND TCommonDialog::RunModeless(const std::function<HWND(HWND)>& make) {
+  const HWND active = ::GetActiveWindow();
+  Starting = this;
+  const TAtEnd started([] { Starting = nullptr; });
+  const HWND window = make(active ? active : Application()->Handle());
+  if (window) return window;
+  throw EOutOfResources(Concat("The system cannot show the ", ClassName(), ": error ",
+                               std::to_string(::CommDlgExtendedError())));
+}
+
 UINT_PTR TCommonDialog::HandleMessage(HWND window, UINT message, LPARAM) {
   if (message == WM_INITDIALOG) {
     FHandle = window;

@@ -35,6 +35,9 @@ class VCL_API TCommonDialog : public TComponent {
   /// Calls the system's function, with the window that owns the dialog; true when it is true and
   /// this object is still there.
   bool Run(const std::function<BOOL(HWND)>& show);
+  /// The same for a dialog that is not modal: the function makes its window and returns that, and
+  /// is told which window it stands in front of. Raises EOutOfResources for null.
+  HWND RunModeless(const std::function<HWND(HWND)>& make);
   /// True when an event is assigned that the hook fires.
   virtual bool NeedsHook() const { return OnShow || OnClose; }
   /// A message of the dialog; the answer is the hook's.

@@ -4,6 +4,7 @@
 #include "vcl/forms/application.h"
 #include "vcl/forms/drag.h"
 #include "vcl/forms/forms.h"
+#include "vcl/forms/private/modelessdialogs.h"
 #include "vcl/forms/screen.h"
 #include "vcl/rtl/thread.h"
 #include "vcl/rtl/win32.h"
@@ -81,7 +82,7 @@ bool TApplication::PreprocessInput(MSG& message) {
   if (EndsHint(message.message)) CancelHint();
   if (IsMouse(message.message)) TrackMouse(&message);
   if (!IsKey(message.message)) return false;
-  if (TDragSession::HandleKey(message)) return true;
+  if (TDragSession::HandleKey(message) || ToModelessDialog(message)) return true;
   TControl* const captured = TWinControl::CaptureControl();
   if (message.message == WM_KEYDOWN && captured &&
       captured->Perform(CM_CAPTUREKEY, message.wParam)) {
@@ -100,6 +101,7 @@ void TApplication::Idle() {
     CheckSynchronize();
     TrackMouse(nullptr);
     UpdateShownActions();
+    for (int i = 0; i < Screen()->FormCount(); ++i) Screen()->Forms(i)->UpdateDropFiles();
     OnIdle(this, done);
   } catch (...) {
     HandleCurrentException(this);

@@ -68,6 +68,7 @@ const TClass& TForm::Class() {
           Event<&TForm::OnDestroy>("OnDestroy"),
           Inherit("OnDragDrop"),
           Inherit("OnDragOver"),
+          Event<&TForm::OnDropFiles>("OnDropFiles"),
           Event<&TForm::OnHide>("OnHide"),
           Inherit(KeyEvents),
           Inherit(MouseEvents),

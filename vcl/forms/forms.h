@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "vcl/controls/scrolling.h"
 #include "vcl/forms/designerhook.h"
@@ -50,6 +51,13 @@ enum TCloseAction { caNone, caHide, caFree, caMinimize };
 
 using TCloseEvent = TEvent<TObject*, TCloseAction&>;
 using TCloseQueryEvent = TEvent<TObject*, bool&>;
+/// The files that another program has dropped, with their folders, and where, in the form's inner
+/// pixels.
+using TDropFilesEvent = TEvent<TObject*, const std::vector<std::string>&, TPoint>;
+template <>
+inline constexpr TEventText EventText<TDropFilesEvent>{
+    "TDropFilesEvent",
+    "vcl::TObject* sender, const std::vector<std::string>& files, vcl::TPoint position"};
 template <>
 inline constexpr TEventText EventText<TCloseEvent>{
     "TCloseEvent", "vcl::TObject* sender, vcl::TCloseAction& action"};
@@ -220,6 +228,9 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   TCloseEvent OnClose;
   /// The form is to be closed, which the handler may refuse.
   TCloseQueryEvent OnCloseQuery;
+  /// Files were dropped on the form, which takes them only while a handler is bound; the system is
+  /// told of a new handler when the window is made or the application next waits.
+  TDropFilesEvent OnDropFiles;
 
  protected:
   /// Reads the form from the RCDATA resource that is named after its class, in the given module or
@@ -289,6 +300,8 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   bool DispatchNotice(TMessage& message);
   void WMSysCommand(TMessage& message);
   void WMSize(TMessage& message);
+  void WMDropFiles(TMessage& message);
+  void UpdateDropFiles();
   // Focus.
   void SetActive(bool active);
   void SetWindowFocus();
@@ -324,8 +337,9 @@ class VCL_API TCustomForm : public TScrollingWinControl {
   bool FCreated = false;
   bool FDestroyed = false;
   bool FReleased = false;
-  bool FRemaking = false;  // The window is made anew, which is no news to handlers.
-  bool FPlaced = false;    // Position has been acted on.
+  bool FRemaking = false;    // The window is made anew, which is no news to handlers.
+  bool FPlaced = false;      // Position has been acted on.
+  bool FTakesFiles = false;  // The system has been told so.
   bool FScaled = true;
   bool FScaledToMonitor = false;  // That is done once; then the system tells.
   int FPixelsPerInch = DefaultPixelsPerInch;

@@ -4,12 +4,17 @@
 #include "vcl/controls/controlcanvas.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/forms.h"
+#include "vcl/forms/private/droppedfiles.h"
 #include "vcl/forms/private/resolution.h"
 #include "vcl/forms/private/taskwindows.h"
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/canvasbinding.h"
 #include "vcl/menus/menus.h"
 #include "vcl/rtl/scope.h"
+// It needs what stands above.
+#include <shellapi.h>
+
+#include "vcl/rtl/systemmacros.h"
 
 namespace vcl {
 
@@ -76,6 +81,8 @@ void TCustomForm::CreateWnd() {
   TScrollingWinControl::CreateWnd();
   UpdateIcon();
   UpdateMenu();
+  FTakesFiles = false;
+  UpdateDropFiles();
   if (FFormStyle == fsMDIForm && !Designing()) CreateClient();
 }
 
@@ -239,6 +246,20 @@ void TCustomForm::WMSysCommand(TMessage& message) {
   }
 }
 
+// Files that are dropped.
+
+void TCustomForm::UpdateDropFiles() {
+  const bool takes = OnDropFiles.Assigned() && !Designing();
+  if (!HandleAllocated() || takes == FTakesFiles) return;
+  FTakesFiles = takes;
+  ::DragAcceptFiles(Handle(), takes);
+}
+
+void TCustomForm::WMDropFiles(TMessage& message) {
+  const TDroppedFiles dropped = TakeDroppedFiles(message.WParam);
+  OnDropFiles(this, dropped.Names, dropped.Position);
+}
+
 // Messages.
 
 void TCustomForm::Dispatch(TMessage& message) {
@@ -272,6 +293,7 @@ bool TCustomForm::DispatchWindow(TMessage& message) {
     case WM_CLOSE: return Close(), true;
     case WM_MDIACTIVATE: return WMMDIActivate(message), true;
     case WM_QUERYENDSESSION: return message.Result = Application()->AskSessionEnd(this), true;
+    case WM_DROPFILES: return WMDropFiles(message), true;
     case WM_DPICHANGED: return WMDpiChanged(message), true;
     case WM_SIZE: return WMSize(message), true;
     case WM_SYSCOMMAND: return WMSysCommand(message), true;

@@ -7,6 +7,7 @@
 #include "vcl/graphics/imagelist.h"
 #include "vcl/grids/grids.h"
 #include "vcl/menus/menus.h"
+#include "vcl/printing/printing.h"
 #include "vcl/rtl/classregistry.h"
 #include "vcl/stdactions/stdactions.h"
 #include "vcl/stdctrls/buttons.h"
@@ -14,6 +15,7 @@
 #include "vcl/stdctrls/extctrls.h"
 #include "vcl/stdctrls/stdctrls.h"
 #include "vcl/system/process.h"
+#include "vcl/transfer/transfer.h"
 
 namespace vcl {
 
@@ -41,6 +43,10 @@ void RegisterStandardClasses() {
     RegisterClasses({&TDrawGrid::Class(), &TStringGrid::Class()});
     RegisterClasses({&TCoolBar::Class(), &THeaderControl::Class(), &TTabControl::Class(),
                      &TToolBar::Class(), &TToolButton::Class()});
+    RegisterClasses({&TClipboardMonitor::Class(), &TDropTarget::Class(), &TFindDialog::Class(),
+                     &TReplaceDialog::Class(), &TPrintDialog::Class(),
+                     &TPrinterSetupDialog::Class(), &TPageSetupDialog::Class(),
+                     &TPrintPreview::Class()});
     RegisterClasses({&TAction::Class(), &TActionList::Class(), &TEditCopy::Class(),
                      &TEditCut::Class(), &TEditDelete::Class(), &TEditPaste::Class(),
                      &TEditSelectAll::Class(), &TEditUndo::Class(), &TFileExit::Class(),

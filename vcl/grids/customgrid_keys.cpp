@@ -1,7 +1,6 @@
 // TCustomGrid: the keyboard while no cell is being edited, and the clipboard.
 #include <algorithm>
 
-#include "vcl/forms/clipboardtext.h"
 #include "vcl/forms/forms.h"
 #include "vcl/grids/customgrid.h"
 #include "vcl/grids/private/gridaxis.h"
@@ -10,6 +9,7 @@
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/inplaceedit.h"
+#include "vcl/transfer/clipboard.h"
 
 namespace vcl {
 namespace {
@@ -189,7 +189,7 @@ std::string TCustomGrid::SelectionText() {
 void TCustomGrid::CopyToClipboard() {
   const TWatch watch(this);
   const std::string text = SelectionText();
-  if (!watch.Gone()) SetClipboardText(text);
+  if (!watch.Gone()) Clipboard()->SetAsText(text);
 }
 
 void TCustomGrid::CutToClipboard() {
@@ -198,7 +198,7 @@ void TCustomGrid::CutToClipboard() {
   if (!watch.Gone()) ClearCells();
 }
 
-void TCustomGrid::PasteFromClipboard() { PasteText(ClipboardText()); }
+void TCustomGrid::PasteFromClipboard() { PasteText(Clipboard()->AsText()); }
 
 namespace {
 

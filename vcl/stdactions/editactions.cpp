@@ -3,6 +3,7 @@
 
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/win32.h"
+#include "vcl/transfer/clipboard.h"
 
 namespace vcl {
 
@@ -62,7 +63,7 @@ TEditPaste::TEditPaste(TComponent* owner)
                   vcl::ShortCut('V', {ssCtrl})) {}
 
 bool TEditPaste::Can(const TTextEditor& edit) const {
-  return edit.CanModify() && ::IsClipboardFormatAvailable(CF_UNICODETEXT);
+  return edit.CanModify() && Clipboard()->Has(dkText);
 }
 void TEditPaste::Do(TTextEditor& edit) { edit.PasteFromClipboard(); }
 
