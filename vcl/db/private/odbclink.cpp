@@ -1,5 +1,4 @@
-// TConnection: the connection to a database over ODBC, its transactions, and the primary key of a
-// table.
+// TConnection: a connection of the system's ODBC, its transaction, and the primary key of a table.
 #include "vcl/db/private/odbcstatement.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
