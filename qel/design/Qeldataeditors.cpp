@@ -7,23 +7,14 @@
 namespace qel {
 namespace {
 
-/// Those of the open data set, else those that it is going to have.
-void AddFieldNames(const vcl::TDataSet& data, vcl::TStrings& list) {
-  if (data.FieldCount() > 0) {
-    for (int i = 0; i < data.FieldCount(); ++i) list.Add(data.Fields()[i]->FieldName());
-    return;
-  }
-  const vcl::TFieldDefs& definitions = *data.FieldDefs();
-  for (int i = 0; i < definitions.Count(); ++i) list.Add(definitions.Items(i)->Name());
-}
-
 /// Those of the data set behind the holder's data source, if it has all that.
 void AddFieldNames(const vcl::TObject& holder, const std::string& sourceName, vcl::TStrings& list) {
   const vcl::TPropInfo* property = holder.ClassType().FindPublished(sourceName);
   if (!property || property->Kind() != vcl::TTypeKind::Component) return;
   const auto* source =
       dynamic_cast<const vcl::TDataSource*>(std::get<vcl::TObject*>(property->Get(holder)));
-  if (source && source->DataSet()) AddFieldNames(*source->DataSet(), list);
+  if (!source || !source->DataSet()) return;
+  for (const std::string& name : source->DataSet()->FieldNames()) list.Add(name);
 }
 
 constexpr int MostInside = 4;  // Objects in objects; they might hold each other.

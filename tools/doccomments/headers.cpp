@@ -49,6 +49,7 @@ class THeaderReader {
     if (At("template")) {
       ++FAt;
       if (At("<")) SkipAngles();
+      if (At("class") || At("struct")) return Class(scope, comment, owner);
     }
     Member(comment, owner);
   }

@@ -5,6 +5,7 @@
 
 #include "vcl/db/datasource.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -86,6 +87,20 @@ int TDataLink::ActiveRecord() const { return FActive ? DataSet()->FShown - FFirs
 void TDataLink::SetActiveRecord(int index) {
   if (!FActive || DataSet()->Show(FFirst + index)) return;
   throw EDatabaseError(Concat("There is no record ", std::to_string(index), " to show"));
+}
+
+void TDataLink::WithRecord(int number, const std::function<void()>& call) const {
+  if (!FActive) return;
+  TDataSet& data = *DataSet();
+  const int before = data.FShown;
+  if (number < 0 || !data.Show(number)) return;
+  const TAtEnd back([&] { data.FShown = before; }, &data);
+  call();
+}
+
+int TDataLink::FindRecord(std::string_view keyFields, const TRecord& values,
+                          TLocateOptions options) const {
+  return FActive ? DataSet()->FindRecord(keyFields, values, options) : -1;
 }
 
 const TClass& TFieldDataLink::Class() {

@@ -114,6 +114,21 @@ void TDataSet::Loaded() {
   }
 }
 
+std::vector<std::string> TDataSet::FieldNames() const {
+  std::vector<std::string> names;
+  for (const TField* field : FFields) names.push_back(field->FieldName());
+  for (int i = 0; FFields.Count() == 0 && i < FFieldDefs->Count(); ++i) {
+    names.push_back(FFieldDefs->Items(i)->Name());
+  }
+  return names;
+}
+
+void TDataSet::UpdateFieldDefs() {
+  if (Active() || FFieldDefs->Count() > 0) return;
+  const TAtEnd shut([this] { Shut(); }, this);
+  InternalOpen();
+}
+
 void TDataSet::DoOpen() {
   Fire(BeforeOpen);
   {

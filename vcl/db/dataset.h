@@ -52,6 +52,11 @@ class VCL_API TDataSet : public TComponent {
   TFieldDefs* FieldDefs() const { return FFieldDefs.get(); }
   /// The fields of the data: their names, kinds and limits.
   void SetFieldDefs(const TFieldDefs* definitions) { FFieldDefs->Assign(definitions); }
+  /// The names of the fields; without any, of those that FieldDefs defines.
+  std::vector<std::string> FieldNames() const;
+  /// Defines FieldDefs by the data, where nothing is defined yet, without opening the data set.
+  /// Raises what opening the data raises.
+  void UpdateFieldDefs();
 
   /// These post what has been changed before they move.
   void First();

@@ -2,7 +2,9 @@
 // TFieldDataLink.
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "vcl/db/dataset.h"
@@ -91,6 +93,13 @@ class VCL_API TDataLink : public TPersistent {
   /// Makes the fields show another of these records until it is set back. It is no move: nobody
   /// hears of it.
   void SetActiveRecord(int index);
+  /// Calls with the fields holding any record of the data set, by its number from 0, whichever the
+  /// control shows; nothing for one that is not there. It is no move either.
+  void WithRecord(int number, const std::function<void()>& call) const;
+  /// The number, from 0, of the first record whose fields have these values; -1 for none. As
+  /// TDataSet::Locate, but that the current record stays.
+  int FindRecord(std::string_view keyFields, const TRecord& values,
+                 TLocateOptions options = {}) const;
 
  protected:
   virtual void ActiveChanged() {}

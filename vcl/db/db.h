@@ -4,5 +4,6 @@
 #include "vcl/db/datasource.h"
 #include "vcl/db/fields.h"
 #include "vcl/db/memorydataset.h"
+#include "vcl/db/odbcconnection.h"
 #include "vcl/db/odbcquery.h"
 #include "vcl/db/registration.h"

@@ -101,6 +101,15 @@ int TField::Index() const {
   return -1;
 }
 
+void TField::SetIndex(int index) {
+  const int before = Index();
+  if (before < 0) return;
+  auto& fields = FDataSet->FFields.FFields;
+  fields.erase(fields.begin() + before);
+  fields.insert(fields.begin() + std::clamp(index, 0, static_cast<int>(fields.size())), this);
+  if (index != before) LayoutChanged();
+}
+
 TComponent* TField::GetParentComponent() const { return FDataSet; }
 
 void TField::SetParentComponent(TComponent* parent) { SetDataSet(dynamic_cast<TDataSet*>(parent)); }

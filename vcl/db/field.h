@@ -63,6 +63,9 @@ class VCL_API TField : public TComponent {
   void SetDataSet(TDataSet* dataSet);
   /// The place among the data set's fields, from 0; -1 without one.
   int Index() const;
+  /// Another place among the data set's fields, which those between give way to; brought to where
+  /// there are some. Without effect for a field of no data set.
+  void SetIndex(int index);
   /// The place of its value in the records, from 0; -1 while the data set is closed.
   int FieldNo() const { return FFieldNo; }
   /// How many characters a text may have; 0 for any number. Looked at when the record is posted.

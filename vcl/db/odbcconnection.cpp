@@ -1,89 +1,176 @@
-// TConnection: the connection to a database over ODBC, its transactions, and the primary key of a
-// table.
-#include "vcl/db/private/odbcstatement.h"
-#include "vcl/rtl/text.h"
-#include "vcl/rtl/utf16.h"
+// TOdbcConnection: connecting, the transaction, and the queries that share them.
+#include "vcl/db/odbcconnection.h"
 
-namespace vcl::odbc {
+#include <algorithm>
+#include <utility>
+
+#include "vcl/db/odbcquery.h"
+#include "vcl/db/private/odbcstatement.h"
+#include "vcl/rtl/customapplication.h"
+#include "vcl/rtl/exceptions.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
+#include "vcl/rtl/text.h"
+
+namespace vcl {
 namespace {
 
-/// Version 3 must be asked for before anything else is.
-void Prepare(SQLHANDLE environment) {
-  Check(SQLSetEnvAttr(environment, SQL_ATTR_ODBC_VERSION,
-                      reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0),
-        SQL_HANDLE_ENV, environment);
+/// A value in a connection string may hold anything in braces.
+std::string Braced(const std::string& value) {
+  std::string text = "{";
+  for (const char c : value) text += c == '}' ? std::string("}}") : std::string(1, c);
+  return text + "}";
 }
 
 }  // namespace
 
-TConnection::TConnection(const std::string& connectionString)
-    : FEnvironment(SQL_HANDLE_ENV, SQL_NULL_HANDLE),
-      FConnection(SQL_HANDLE_ENV, (Prepare(FEnvironment), FEnvironment)) {
-  const TWideText text = ToWide(connectionString);
-  FConnection.Check(SQLDriverConnectW(FConnection, nullptr, Argument(text), SQL_NTS, nullptr, 0,
-                                      nullptr, SQL_DRIVER_NOPROMPT));
-  FQuote = AskQuote();
+EOdbcError::~EOdbcError() = default;
+
+const TClass& TOdbcConnection::Class() {
+  using T = TOdbcConnection;
+  static const TClass info = Describe<T, TComponent>(
+      "vcl::TOdbcConnection", "vcl/db/db.h",
+      {
+          Property<&T::Connected, &T::SetConnected>("Connected").Default(false),
+          Property<&T::ConnectionString, &T::SetConnectionString>("ConnectionString").Default(""),
+          Property<&T::LoginPrompt, &T::SetLoginPrompt>("LoginPrompt").Default(false),
+          Event<&T::AfterConnect>("AfterConnect"),
+          Event<&T::AfterDisconnect>("AfterDisconnect"),
+          Event<&T::BeforeConnect>("BeforeConnect"),
+          Event<&T::BeforeDisconnect>("BeforeDisconnect"),
+          Event<&T::OnConnectionLost>("OnConnectionLost"),
+          Event<&T::OnLogin>("OnLogin"),
+      });
+  return info;
 }
 
-TConnection::~TConnection() {
-  if (FInTransaction) SQLEndTran(SQL_HANDLE_DBC, FConnection, SQL_ROLLBACK);
-  SQLDisconnect(FConnection);
+TOdbcConnection::TOdbcConnection(TComponent* owner) : TComponent(owner) {}
+
+TOdbcConnection::~TOdbcConnection() {
+  AnnounceEnd();
+  while (!FQueries.empty()) FQueries.back()->LeaveConnection();
 }
 
-std::string TConnection::AskQuote() const {
-  TWideText quote(8, u'\0');
-  SQLSMALLINT bytes = 0;
-  if (!SQL_SUCCEEDED(SQLGetInfoW(FConnection, SQL_IDENTIFIER_QUOTE_CHAR, quote.data(),
-                                 static_cast<SQLSMALLINT>(quote.size() * sizeof(char16_t)),
-                                 &bytes))) {
-    return "\"";
+TOdbcQuery* TOdbcConnection::Queries(int index) const {
+  if (index >= 0 && index < QueryCount()) return FQueries[static_cast<std::size_t>(index)];
+  throw EListError(Concat("The connection has no query ", std::to_string(index)));
+}
+
+// Connecting.
+
+void TOdbcConnection::SetConnectionString(const std::string& text) {
+  if (text == FConnectionString) return;
+  SetConnected(false);
+  FConnectionString = text;
+}
+
+void TOdbcConnection::SetConnected(bool connected) {
+  if (Loading()) {
+    FConnectWhenLoaded = connected;
+  } else if (connected) {
+    Needed();
+  } else {
+    FConnectWhenLoaded = false;
+    if (Connected()) Disconnect();
   }
-  const std::string text = ToUtf8(TWideText(quote.c_str()));
-  // A blank says that the database knows no quotes.
-  return text == " " ? std::string() : text;
 }
 
-std::string TConnection::Quoted(const std::string& name) const {
-  std::string text = FQuote;
-  for (const char c : name)
-    text += FQuote.size() == 1 && c == FQuote[0] ? FQuote + FQuote : std::string(1, c);
-  return text + FQuote;
-}
-
-void TConnection::SetAutoCommit(bool on) {
-  const std::uintptr_t value = on ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF;
-  FConnection.Check(SQLSetConnectAttrW(FConnection, SQL_ATTR_AUTOCOMMIT,
-                                       reinterpret_cast<SQLPOINTER>(value), SQL_IS_UINTEGER));
-}
-
-void TConnection::StartTransaction() {
-  if (FInTransaction) throw EDatabaseError("There is a transaction already");
-  SetAutoCommit(false);
-  FInTransaction = true;
-}
-
-void TConnection::EndTransaction(bool commit) {
-  if (!FInTransaction) throw EDatabaseError("There is no transaction");
-  FConnection.Check(SQLEndTran(SQL_HANDLE_DBC, FConnection, commit ? SQL_COMMIT : SQL_ROLLBACK));
-  FInTransaction = false;
-  SetAutoCommit(true);
-}
-
-std::vector<std::string> PrimaryKey(const TConnection& connection, const std::string& table) {
-  const THandle<SQL_HANDLE_STMT> statement(SQL_HANDLE_DBC, connection.Handle());
-  const TWideText name = ToWide(table);
-  statement.Check(SQLPrimaryKeysW(statement, nullptr, 0, nullptr, 0, Argument(name), SQL_NTS));
-  std::vector<std::string> columns;
-  constexpr SQLUSMALLINT columnName = 4;
-  while (SQL_SUCCEEDED(SQLFetch(statement))) {
-    TWideText column(256, u'\0');
-    SQLLEN bytes = 0;
-    statement.Check(SQLGetData(statement, columnName, SQL_C_WCHAR, column.data(),
-                               static_cast<SQLLEN>(column.size()) * SQLLEN{sizeof(char16_t)},
-                               &bytes));
-    columns.push_back(ToUtf8(TWideText(column.c_str())));
+void TOdbcConnection::Loaded() {
+  TComponent::Loaded();
+  if (!std::exchange(FConnectWhenLoaded, false)) return;
+  try {
+    SetConnected(true);
+  } catch (...) {
+    // A database that cannot be reached must not keep a designer from showing the form.
+    if (!Designing()) throw;
+    BaseApplication().HandleCurrentException(this);
   }
-  return columns;
 }
 
-}  // namespace vcl::odbc
+odbc::TConnection& TOdbcConnection::Needed() {
+  if (FConnection && FConnection->Lost()) {
+    const TWatch watch(this);
+    CloseQueries();
+    if (watch.Gone()) throw EAbort("The connection was freed by a handler");
+    FConnection.reset();
+    OnConnectionLost(this);
+    if (watch.Gone()) throw EAbort("The connection was freed by a handler");
+  }
+  if (!FConnection) Connect();
+  return *FConnection;
+}
+
+void TOdbcConnection::Connect() {
+  const TWatch watch(this);
+  const auto tell = [&](const TNotifyEvent& event) {
+    event(this);
+    if (watch.Gone()) throw EAbort("The connection was freed by a handler");
+  };
+  tell(BeforeConnect);
+  const std::string text = FConnectionString + LoginString();
+  if (watch.Gone()) throw EAbort("The connection was freed by a handler");
+  FConnection = std::make_unique<odbc::TConnection>(text);
+  tell(AfterConnect);
+}
+
+/// What the user's name and password add to the connection string.
+std::string TOdbcConnection::LoginString() {
+  if (!FLoginPrompt) return {};
+  if (!OnLogin) {
+    throw EDatabaseError(Concat("The connection ", Name(), " asks for a name and a password: it "
+                                "has no handler of OnLogin"));
+  }
+  std::string name, password;
+  OnLogin(this, name, password);
+  return Concat(";UID=", Braced(name), ";PWD=", Braced(password));
+}
+
+void TOdbcConnection::CloseQueries() {
+  const TWatch watch(this);
+  const std::vector<TOdbcQuery*> queries = FQueries;
+  for (TOdbcQuery* each : queries) {
+    if (watch.Gone()) return;
+    if (std::ranges::find(FQueries, each) != FQueries.end()) each->ForgetStatements();
+  }
+}
+
+void TOdbcConnection::Disconnect() {
+  const TWatch watch(this);
+  BeforeDisconnect(this);
+  if (!watch.Gone()) CloseQueries();
+  if (watch.Gone()) return;
+  FConnection.reset();
+  AfterDisconnect(this);
+}
+
+int TOdbcConnection::Execute(const std::string& sql) {
+  odbc::TStatement statement(Needed(), sql);
+  statement.Execute({});
+  return statement.RowsAffected();
+}
+
+// The transaction.
+
+/// Databases may end queries that are being read when a transaction begins or ends; so that no
+/// record is missing then, all are read before.
+void TOdbcConnection::ReadQueriesToEnd() {
+  for (TOdbcQuery* each : FQueries) each->ReadToEnd();
+}
+
+void TOdbcConnection::StartTransaction() {
+  odbc::TConnection& connection = Needed();
+  ReadQueriesToEnd();
+  connection.StartTransaction();
+}
+
+void TOdbcConnection::EndTransaction(bool commit) {
+  odbc::TConnection& connection = Needed();
+  ReadQueriesToEnd();
+  connection.EndTransaction(commit);
+}
+
+void TOdbcConnection::Commit() { EndTransaction(true); }
+void TOdbcConnection::Rollback() { EndTransaction(false); }
+bool TOdbcConnection::InTransaction() const { return FConnection && FConnection->InTransaction(); }
+
+}  // namespace vcl

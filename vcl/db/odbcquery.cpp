@@ -1,10 +1,14 @@
 // TOdbcQuery: running the query, its fields, its records' changes, and its transactions.
 #include "vcl/db/odbcquery.h"
 
+#include <vector>
+
+#include "vcl/db/odbcconnection.h"
 #include "vcl/db/private/odbclive.h"
 #include "vcl/db/private/odbcrows.h"
 #include "vcl/db/private/propertygroups.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 
 namespace vcl {
@@ -13,7 +17,8 @@ const TClass& TOdbcQuery::Class() {
   using T = TOdbcQuery;
   static const TClass info = Describe<T, TDataSet>(
       "vcl::TOdbcQuery", "vcl/db/db.h",
-      {Property<&T::ConnectionString, &T::SetConnectionString>("ConnectionString"),
+      {Property<&T::Connection, &T::SetConnection>("Connection"),
+       Property<&T::ConnectionString, &T::SetConnectionString>("ConnectionString"),
        Property<&T::IdentityQuery, &T::SetIdentityQuery>("IdentityQuery").Default(""),
        Property<&T::RequestLive, &T::SetRequestLive>("RequestLive").Default(false),
        Property<&T::SQL, &T::SetSQL>("SQL"),
@@ -23,13 +28,18 @@ const TClass& TOdbcQuery::Class() {
 }
 
 TOdbcQuery::TOdbcQuery(TComponent* owner)
-    : TDataSet(owner), FSQL(std::make_unique<TStringList>()), FParams(std::make_unique<TParams>()) {
+    : TDataSet(owner),
+      FSQL(std::make_unique<TStringList>()),
+      FParams(std::make_unique<TParams>()),
+      FOwn(std::make_unique<TOdbcConnection>(nullptr)) {
+  FOwn->FQueries.push_back(this);
   FSQL->OnChange = [this](TObject*) { SQLChanged(); };
 }
 
 TOdbcQuery::~TOdbcQuery() {
   AnnounceEnd();
   Shut();
+  std::erase(Used().FQueries, this);
 }
 
 void TOdbcQuery::SQLChanged() {
@@ -37,17 +47,57 @@ void TOdbcQuery::SQLChanged() {
   FPrepared = FParams->Parse(FSQL->Text());
 }
 
+// The connection.
+
+const std::string& TOdbcQuery::ConnectionString() const { return FOwn->ConnectionString(); }
+
 void TOdbcQuery::SetConnectionString(const std::string& text) {
-  if (text == FConnectionString) return;
-  SetConnected(false);
-  FConnectionString = text;
+  if (text == ConnectionString()) return;
+  if (!FLinked) CheckInactive();
+  FOwn->SetConnectionString(text);
 }
+
+bool TOdbcQuery::Connected() const { return Used().Connected(); }
 
 void TOdbcQuery::SetConnected(bool connected) {
   if (connected == Connected()) return;
   CheckInactive();
   FStatement.reset();  // One that has failed may still be there.
-  FConnection = connected ? std::make_unique<odbc::TConnection>(FConnectionString) : nullptr;
+  Used().SetConnected(connected);
+}
+
+odbc::TConnection& TOdbcQuery::Needed() { return Used().Needed(); }
+
+/// What belongs to a connection ends before it does.
+void TOdbcQuery::ForgetStatements() {
+  Close();
+  FStatement.reset();
+}
+
+void TOdbcQuery::UseConnection(TOdbcConnection* connection) {
+  std::erase(Used().FQueries, this);
+  FLinked = connection;
+  Used().FQueries.push_back(this);
+}
+
+void TOdbcQuery::SetConnection(TOdbcConnection* connection) {
+  if (connection == FLinked) return;
+  ForgetStatements();
+  if (FLinked) FLinked->RemoveFreeNotification(this);
+  UseConnection(connection);
+  if (connection) connection->FreeNotification(this);
+}
+
+/// The connection ends.
+void TOdbcQuery::LeaveConnection() {
+  Shut();
+  FStatement.reset();
+  UseConnection(nullptr);
+}
+
+void TOdbcQuery::Notification(TComponent* component, TOperation operation) {
+  TDataSet::Notification(component, operation);
+  if (operation == opRemove && component == FLinked && component) SetConnection(nullptr);
 }
 
 void TOdbcQuery::SetRequestLive(bool requestLive) {
@@ -64,8 +114,7 @@ bool TOdbcQuery::CanModify() const { return FLive && FLive->Known(); }
 
 void TOdbcQuery::Prepare() {
   if (Trim(FPrepared).empty()) Refuse("There is no SQL to execute");
-  SetConnected(true);
-  FStatement = std::make_unique<odbc::TStatement>(*FConnection, FPrepared);
+  FStatement = std::make_unique<odbc::TStatement>(Needed(), FPrepared);
 }
 
 /// Makes the connection free where the query is being read ahead.
@@ -114,13 +163,47 @@ int TOdbcQuery::ExecSQL() {
   return affected;
 }
 
+/// The arguments in the order of their places in the SQL.
+std::vector<odbc::TArgument> TOdbcQuery::BatchRow(const TRecord& row, std::size_t number) const {
+  if (row.size() != static_cast<std::size_t>(FParams->Count())) {
+    Refuse(Concat("Row ", std::to_string(number), " has ", std::to_string(row.size()),
+                  " values for ", std::to_string(FParams->Count()), " parameters"));
+  }
+  std::vector<odbc::TArgument> arguments;
+  for (const std::string& name : FParams->Places()) {
+    const TParam& param = *FParams->ParamByName(name);
+    arguments.push_back({row[static_cast<std::size_t>(param.Index())], param.DataType()});
+  }
+  return arguments;
+}
+
+int TOdbcQuery::ExecuteBatch(const std::vector<TRecord>& rows) {
+  CheckInactive();
+  std::vector<std::vector<odbc::TArgument>> arguments;
+  for (const TRecord& row : rows) arguments.push_back(BatchRow(row, arguments.size() + 1));
+  Prepare();
+  const bool alone = !InTransaction();
+  if (alone) StartTransaction();
+  int affected = 0;
+  {
+    const TOnFailure none([&] {
+      FStatement.reset();
+      if (alone) Rollback();
+    }, this);
+    affected = FStatement->ExecuteMany(arguments);
+    FStatement.reset();
+  }
+  if (alone) Commit();
+  return affected;
+}
+
 TRecordStore& TOdbcQuery::InternalOpen() {
   Prepare();
   Execute();
   if (FStatement->Columns().empty()) Refuse("The SQL has no records as its result: use ExecSQL");
   DefineFields();
   if (FRequestLive) {
-    FLive = std::make_unique<odbc::TLiveTable>(*FConnection, FStatement->Columns());
+    FLive = std::make_unique<odbc::TLiveTable>(Needed(), FStatement->Columns());
   }
   if (FUniDirectional) {
     FRows = std::make_unique<odbc::TForwardRows>(*FStatement);
@@ -185,8 +268,6 @@ void TOdbcQuery::InternalDelete(const TRecord& record) {
   FLive->Delete(record);
 }
 
-/// Databases may end queries that are being read when a transaction begins or ends; so that no
-/// record is missing then, all are read before.
 void TOdbcQuery::ReadToEnd() {
   if (!FRows) return;
   if (FUniDirectional && !static_cast<odbc::TForwardRows&>(*FRows).AtEnd()) {
@@ -197,24 +278,9 @@ void TOdbcQuery::ReadToEnd() {
   FRows->Count();
 }
 
-void TOdbcQuery::StartTransaction() {
-  SetConnected(true);
-  ReadToEnd();
-  FConnection->StartTransaction();
-}
-
-void TOdbcQuery::Commit() {
-  SetConnected(true);
-  ReadToEnd();
-  FConnection->EndTransaction(true);
-}
-
-void TOdbcQuery::Rollback() {
-  SetConnected(true);
-  ReadToEnd();
-  FConnection->EndTransaction(false);
-}
-
-bool TOdbcQuery::InTransaction() const { return FConnection && FConnection->InTransaction(); }
+void TOdbcQuery::StartTransaction() { Used().StartTransaction(); }
+void TOdbcQuery::Commit() { Used().Commit(); }
+void TOdbcQuery::Rollback() { Used().Rollback(); }
+bool TOdbcQuery::InTransaction() const { return Used().InTransaction(); }
 
 }  // namespace vcl

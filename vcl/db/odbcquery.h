@@ -10,6 +10,8 @@
 
 namespace vcl {
 
+class TOdbcConnection;
+
 namespace odbc {
 class TConnection;
 class TForwardRows;
@@ -32,8 +34,9 @@ struct TArgument;
 /// Parameters that are named as fields of MasterSource's data set have the values of its current
 /// record, and the query is executed again when these change.
 ///
-/// The connection is made when it is needed first and stays until Connected or ConnectionString
-/// says otherwise. What ODBC refuses raises EDatabaseError with the driver's message.
+/// The query has a connection of its own, by its ConnectionString, unless Connection is one that
+/// several share. It is made when it is needed first (see TOdbcConnection). What ODBC refuses
+/// raises EOdbcError.
 class VCL_API TOdbcQuery : public TDataSet {
  public:
   explicit TOdbcQuery(TComponent* owner);
@@ -41,10 +44,14 @@ class VCL_API TOdbcQuery : public TDataSet {
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
-  /// As the driver manager takes it: "Driver=...;Database=..." or "DSN=...". A change disconnects.
-  const std::string& ConnectionString() const { return FConnectionString; }
+  TOdbcConnection* Connection() const { return FLinked; }
+  /// The connection that the query shares with others; null for its own. A change closes the query.
+  void SetConnection(TOdbcConnection* connection);
+  const std::string& ConnectionString() const;
+  /// That of its own connection, as the driver manager takes it: "Driver=...;Database=..." or
+  /// "DSN=...". A change disconnects.
   void SetConnectionString(const std::string& text);
-  bool Connected() const { return FConnection != nullptr; }
+  bool Connected() const;
   /// Raises EDatabaseError while the query is open.
   void SetConnected(bool connected);
   /// The text that is executed; a change closes the query.
@@ -73,6 +80,11 @@ class VCL_API TOdbcQuery : public TDataSet {
 
   /// Executes what is no query, and returns how many records it has changed.
   int ExecSQL();
+  /// Executes what is no query once for each row, which has a value for each of Params in their
+  /// order, in few round trips where the driver can; returns how many records that has changed.
+  /// Where one row is refused, none of them has changed anything. Raises EDatabaseError with the
+  /// number of the row, from 1, or with those of a round trip where the driver does not say which.
+  int ExecuteBatch(const std::vector<TRecord>& rows);
   /// Until the transaction ends, what is posted here can be rolled back. These read all records of
   /// a query that is open; they raise EDatabaseError for a unidirectional one that has not been
   /// read to its end.
@@ -82,6 +94,7 @@ class VCL_API TOdbcQuery : public TDataSet {
   bool InTransaction() const;
 
  protected:
+  void Notification(TComponent* component, TOperation operation) override;
   TRecordStore& InternalOpen() override;
   TRecord MasterValues() override;
   void InternalFollow() override { InternalRefresh(); }
@@ -93,6 +106,13 @@ class VCL_API TOdbcQuery : public TDataSet {
   void InternalDelete(const TRecord& record) override;
 
  private:
+  friend class TOdbcConnection;
+  TOdbcConnection& Used() const { return FLinked ? *FLinked : *FOwn; }
+  odbc::TConnection& Needed();
+  void ForgetStatements();
+  void LeaveConnection();
+  void UseConnection(TOdbcConnection* connection);
+  std::vector<odbc::TArgument> BatchRow(const TRecord& row, std::size_t number) const;
   void SQLChanged();
   void Prepare();
   void Pause();
@@ -103,12 +123,13 @@ class VCL_API TOdbcQuery : public TDataSet {
   void DefineFields();
   std::string FreeName(const std::string& name) const;
 
-  std::string FConnectionString, FIdentityQuery, FPrepared;
+  std::string FIdentityQuery, FPrepared;
   std::unique_ptr<TStringList> FSQL;
   std::unique_ptr<TParams> FParams;
   bool FRequestLive = false;
   bool FUniDirectional = false;
-  std::unique_ptr<odbc::TConnection> FConnection;
+  std::unique_ptr<TOdbcConnection> FOwn;
+  TOdbcConnection* FLinked = nullptr;
   std::unique_ptr<odbc::TStatement> FStatement;
   std::unique_ptr<odbc::TLiveTable> FLive;
   std::unique_ptr<TRecordStore> FRows;

@@ -4,6 +4,7 @@
 #include "vcl/db/datasource.h"
 #include "vcl/db/fields.h"
 #include "vcl/db/memorydataset.h"
+#include "vcl/db/odbcconnection.h"
 #include "vcl/db/odbcquery.h"
 #include "vcl/rtl/classregistry.h"
 
@@ -15,7 +16,7 @@ void RegisterDataClasses() {
                    &TCurrencyField::Class(), &TBCDField::Class(), &TDateField::Class(),
                    &TTimeField::Class(), &TDateTimeField::Class(), &TMemoField::Class(),
                    &TBlobField::Class(), &TDataSource::Class(), &TMemoryDataSet::Class(),
-                   &TOdbcQuery::Class()});
+                   &TOdbcConnection::Class(), &TOdbcQuery::Class()});
 }
 
 }  // namespace vcl

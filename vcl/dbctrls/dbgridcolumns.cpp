@@ -92,7 +92,10 @@ void TColumn::SetWidth(int width) {
 
 bool TColumn::CanModify() const {
   const TField* field = Field();
-  return field && field->CanModify() && !ReadOnly();
+  if (!field || ReadOnly()) return false;
+  const bool lookedUp = field->FieldKind() == fkLookup;
+  const TField* written = lookedUp ? field->DataSet()->FindField(field->KeyFields()) : field;
+  return written && written->CanModify();
 }
 
 }  // namespace vcl

@@ -46,6 +46,7 @@ const TClass& TDBGrid::Class() {
           Inherit("TabOrder"),
           Inherit("TabStop"),
           Inherit("Visible"),
+          Event<&T::OnColumnMoved>("OnColumnMoved"),
           Inherit("OnDblClick"),
           Event<&T::OnDrawColumnCell>("OnDrawColumnCell"),
           Event<&T::OnEditButtonClick>("OnEditButtonClick"),
@@ -99,7 +100,7 @@ void TDBGrid::SetReadOnly(bool readOnly) {
 void TDBGrid::UseOptions() {
   static constexpr std::pair<TDBGridOption, TGridOptions> meant[] = {
       {dgEditing, {goEditing}},
-      {dgColumnResize, {goColSizing}},
+      {dgColumnResize, {goColSizing, goColMoving}},
       {dgColLines, {goVertLine, goFixedVertLine}},
       {dgRowLines, {goHorzLine, goFixedHorzLine}},
       {dgTabs, {goTabs}},
@@ -210,6 +211,21 @@ void TDBGrid::ColWidthsChanged() {
     const int width = ColWidths(FirstCol() + i);
     if (width > 0 && width != Shown(i)->Width()) Shown(i)->SetWidth(width);
   }
+}
+
+/// The column, or the field that it was made for, takes the other one's place.
+void TDBGrid::ColumnMoved(int from, int to) {
+  TColumn* const column = ColumnAt(from);
+  TColumn* const place = ColumnAt(to);
+  if (!column || !place) return DataChanged();
+  const TWatch watch(this);
+  if (HasColumns()) {
+    column->SetIndex(place->Index());
+  } else if (column->Field() && place->Field()) {
+    column->Field()->SetIndex(place->Field()->Index());
+  }
+  if (!watch.Gone()) DataChanged();
+  if (!watch.Gone()) OnColumnMoved(this, ColumnAt(to));
 }
 
 void TDBGrid::ChangeScale(int m, int d) {

@@ -15,7 +15,7 @@ enum TDBGridOption {
   dgEditing,        ///< Fields are edited in place.
   dgTitles,         ///< The columns have titles.
   dgIndicator,      ///< A column at the left marks the current record.
-  dgColumnResize,   ///< The user drags the titles' right edges.
+  dgColumnResize,   ///< The user drags the titles' right edges, and columns by their titles.
   dgColLines,       ///< Lines between columns.
   dgRowLines,       ///< Lines between rows.
   dgTabs,           ///< Tab goes from field to field.
@@ -90,6 +90,8 @@ class VCL_API TDBGrid : public TCustomGrid {
   TDrawColumnCellEvent OnDrawColumnCell;
   /// The title of a column was clicked.
   TDBGridClickEvent OnTitleClick;
+  /// The user has taken a column elsewhere.
+  TDBGridClickEvent OnColumnMoved;
   /// The button beside the edit of a cell was pressed.
   TNotifyEvent OnEditButtonClick;
 
@@ -122,6 +124,7 @@ class VCL_API TDBGrid : public TCustomGrid {
   bool ChangesByClipboard() const override { return false; }
   void Scroll(bool vertical, int command) override;
   bool ScrollByWheel(bool vertical, int wheelDelta) override;
+  void ColumnMoved(int from, int to) override;
   void ShowBar(bool vertical) override;
   bool DoKey(std::uint16_t key, TShiftState shift) override;
   bool WantsKey(WPARAM key) const override;
@@ -159,6 +162,7 @@ class VCL_API TDBGrid : public TCustomGrid {
   /// Calls with the fields holding the row's record.
   template <class Call>
   void WithRecord(int row, const Call& call);
+  static void WriteLookup(const TField& field, const std::string& text);
   void DrawFieldText(const TRect& rect, const std::string& text, TAlignment alignment);
   void DrawIndicator(int row, const TRect& rect);
   void DrawField(TGridCoord cell, TColumn& column, const TRect& rect, TGridDrawState state);

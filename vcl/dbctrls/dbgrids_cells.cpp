@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "vcl/dbctrls/dbgrids.h"
+#include "vcl/dbctrls/lookuplist.h"
 #include "vcl/dialogs/messagedialog.h"
 #include "vcl/graphics/canvas.h"
 #include "vcl/rtl/scope.h"
@@ -118,16 +119,45 @@ void TDBGrid::SetEditText(int col, int row, const std::string& text) {
   const TColumn* column = ColumnAt(col);
   TField* field = column ? column->Field() : nullptr;
   const TWatch watch(this);
-  if (field && row == Row() && FLink.Edit() && !watch.Gone()) field->SetText(text);
+  if (!field || row != Row() || !FLink.Edit() || watch.Gone()) return;
+  field->FieldKind() == fkLookup ? WriteLookup(*field, text) : field->SetText(text);
+}
+
+/// A text that is looked up stands for the key of the record that has it.
+void TDBGrid::WriteLookup(const TField& field, const std::string& text) {
+  TField& written = *field.DataSet()->FieldByName(field.KeyFields());
+  if (text.empty()) return written.Clear();
+  if (text == field.DisplayText()) return;
+  TDataSet* const data = field.LookupDataSet();
+  const TRecord found = data && data->Active() ? data->Lookup(field.LookupResultField(), {text},
+                                                              field.LookupKeyFields())
+                                               : TRecord();
+  if (found.empty()) {
+    throw EDatabaseError(Concat("There is no '", text, "' for field '", field.FieldName(), "'"));
+  }
+  written.SetValue(found[0]);
 }
 
 TEditStyle TDBGrid::GetEditStyle(int col, int /*row*/) {
   const TColumn* column = ColumnAt(col);
-  return column ? column->EditStyle() : esSimple;
+  if (!column) return esSimple;
+  const TField* field = column->Field();
+  const bool lookedUp = field && field->FieldKind() == fkLookup;
+  return lookedUp && column->ButtonStyle() == cbsAuto ? esPickList : column->EditStyle();
 }
 
 void TDBGrid::GetPickList(int col, int /*row*/, TStrings& items) {
-  if (const TColumn* column = ColumnAt(col)) items.Assign(column->PickList());
+  const TColumn* column = ColumnAt(col);
+  if (!column) return;
+  items.Assign(column->PickList());
+  const TField* field = column->Field();
+  if (items.Count() > 0 || !field || field->FieldKind() != fkLookup) return;
+  TDataSource source(nullptr);
+  source.SetDataSet(field->LookupDataSet());
+  TLookupRows rows([] {});
+  rows.SetListField(field->LookupResultField());
+  rows.SetDataSource(&source);
+  for (int i = 0; i < rows.Count(); ++i) items.Add(rows.Text(i));
 }
 
 bool TDBGrid::Checked(int col, int row) {

@@ -28,7 +28,7 @@ TWideText ToWide(std::string_view text);
 inline SQLWCHAR* Argument(TWideText& text) { return reinterpret_cast<SQLWCHAR*>(text.data()); }
 inline SQLWCHAR* Argument(const TWideText& text) { return Argument(const_cast<TWideText&>(text)); }
 
-/// Raises EDatabaseError with the driver's messages unless the call has succeeded.
+/// Raises EOdbcError with the driver's messages unless the call has succeeded.
 void Check(SQLRETURN result, SQLSMALLINT handleType, SQLHANDLE handle);
 
 /// A handle of ODBC's, freed at the end.

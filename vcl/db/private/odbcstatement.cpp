@@ -137,7 +137,10 @@ void TStatement::Prepare() {
                                     reinterpret_cast<SQLPOINTER>(SQL_CURSOR_FORWARD_ONLY),
                                     SQL_IS_UINTEGER));
   const TWideText text = ToWide(FSql);
-  FStatement->Check(SQLPrepareW(*FStatement, Argument(text), static_cast<SQLINTEGER>(text.size())));
+  Noting([&] {
+    FStatement->Check(
+        SQLPrepareW(*FStatement, Argument(text), static_cast<SQLINTEGER>(text.size())));
+  });
 }
 
 void TStatement::Bind(SQLUSMALLINT number, const TArgument& argument, TBound& bound) {
@@ -191,7 +194,7 @@ void TStatement::Execute(const std::vector<TArgument>& arguments) {
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     Bind(static_cast<SQLUSMALLINT>(i + 1), arguments[i], bound[i]);
   }
-  FStatement->Check(SQLExecute(*FStatement));
+  Noting([&] { FStatement->Check(SQLExecute(*FStatement)); });
   SQLFreeStmt(*FStatement, SQL_RESET_PARAMS);
   Describe();
 }
@@ -254,7 +257,7 @@ void TStatement::BindColumns() {
 
 bool TStatement::Fetch(TRecord& record) {
   const SQLRETURN result = SQLFetch(*FStatement);
-  FStatement->Check(result);
+  if (!SQL_SUCCEEDED(result)) Noting([&] { FStatement->Check(result); });
   if (result == SQL_NO_DATA) return false;
   record.resize(FColumns.size());
   for (std::size_t i = 0; i < FColumns.size(); ++i) Read(i, record[i]);

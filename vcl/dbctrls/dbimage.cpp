@@ -1,0 +1,353 @@
+// TDBImage: the picture in a field's bytes, and the clipboard's.
+#include "vcl/dbctrls/dbimage.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+#include "vcl/controls/propertygroups.h"
+#include "vcl/forms/clipboardtext.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/streams.h"
+#include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
+
+namespace vcl {
+namespace {
+
+using namespace std::string_view_literals;
+
+template <class T>
+std::unique_ptr<TGraphic> Make() {
+  return std::make_unique<T>();
+}
+
+struct TKind {
+  std::string_view Begins;
+  std::unique_ptr<TGraphic> (*Make)();
+};
+constexpr TKind Kinds[] = {{"\x89PNG"sv, &Make<TPngImage>},
+                           {"\xFF\xD8\xFF"sv, &Make<TJpegImage>},
+                           {"GIF8"sv, &Make<TGifImage>},
+                           {"BM"sv, &Make<TBitmap>},
+                           {"\0\0\1\0"sv, &Make<TIcon>}};
+
+/// The picture of a file with these bytes. Raises EInvalidGraphic when it is none.
+std::unique_ptr<TGraphic> Decode(const std::string& bytes) {
+  for (const TKind& kind : Kinds) {
+    if (!std::string_view(bytes).starts_with(kind.Begins)) continue;
+    auto graphic = kind.Make();
+    TStringStream stream(bytes);
+    graphic->LoadFromStream(stream);
+    return graphic;
+  }
+  throw EInvalidGraphic("The field holds no picture of a known kind");
+}
+
+std::string BytesOf(const TGraphic& graphic) {
+  TStringStream stream;
+  graphic.SaveToStream(stream);
+  return std::string(stream.DataString());
+}
+
+/// A bitmap on the clipboard is the file's without what stands in front of it.
+constexpr std::size_t FileHeader = sizeof(BITMAPFILEHEADER);
+
+void PutOnClipboard(const TGraphic& graphic) {
+  TBitmap bitmap;
+  bitmap.Assign(&graphic);
+  const std::string bytes = BytesOf(bitmap).substr(FileHeader);
+  const TClipboardTurn turn;
+  ::EmptyClipboard();
+  const HGLOBAL block = ::GlobalAlloc(GMEM_MOVEABLE, bytes.size());
+  if (!block) throw EInOutError("The picture is too large for the clipboard");
+  std::memcpy(::GlobalLock(block), bytes.data(), bytes.size());
+  ::GlobalUnlock(block);
+  if (::SetClipboardData(CF_DIB, block)) return;
+  ::GlobalFree(block);
+  throw EInOutError("The clipboard does not take the picture");
+}
+
+/// How many bytes stand between the beginning of such a bitmap and its pixels.
+std::size_t HeadLength(const BITMAPINFOHEADER& head) {
+  const std::size_t colors = head.biClrUsed      ? head.biClrUsed
+                             : head.biBitCount < 16 ? std::size_t{1} << head.biBitCount
+                                                    : 0;
+  const bool masks = head.biSize == sizeof head && head.biCompression == BI_BITFIELDS;
+  return head.biSize + (masks ? 3 * sizeof(DWORD) : 0) + colors * sizeof(RGBQUAD);
+}
+
+/// The bytes of a file with the clipboard's bitmap; none without one.
+std::string BitmapFromClipboard() {
+  const TClipboardTurn turn;
+  const HANDLE block = ::GetClipboardData(CF_DIB);
+  const auto* data = block ? static_cast<const char*>(::GlobalLock(block)) : nullptr;
+  if (!data) return {};
+  const std::string bytes(data, ::GlobalSize(block));
+  ::GlobalUnlock(block);
+  BITMAPINFOHEADER head{};
+  if (bytes.size() < sizeof head) return {};
+  std::memcpy(&head, bytes.data(), sizeof head);
+  std::string file(FileHeader, '\0');
+  const auto whole = static_cast<DWORD>(FileHeader + bytes.size());
+  const auto pixels = static_cast<DWORD>(FileHeader + HeadLength(head));
+  file[0] = 'B', file[1] = 'M';
+  std::memcpy(&file[2], &whole, sizeof whole);
+  std::memcpy(&file[10], &pixels, sizeof pixels);
+  return file + bytes;
+}
+
+}  // namespace
+
+const TClass& TDBImage::Class() {
+  using T = TDBImage;
+  static const TClass info = Describe<T, TCustomControl>(
+      "vcl::TDBImage", "vcl/dbctrls/dbctrls.h",
+      {
+          Inherit("Align"),
+          Property<&T::AutoDisplay, &T::SetAutoDisplay>("AutoDisplay").Default(true),
+          Property<&T::BorderStyle, &T::SetBorderStyle>("BorderStyle").Default(bsSingle),
+          Property<&T::Center, &T::SetCenter>("Center").Default(true),
+          Inherit("Color"),
+          Inherit("Ctl3D"),
+          Property<&T::DataField, &T::SetDataField>("DataField").Default(""),
+          Property<&T::DataSource, &T::SetDataSource>("DataSource"),
+          Inherit("DragCursor"),
+          Inherit("DragMode"),
+          Inherit("Enabled"),
+          Inherit("Font"),
+          Inherit("ParentColor"),
+          Inherit("ParentCtl3D"),
+          Inherit("ParentFont"),
+          Inherit("ParentShowHint"),
+          Inherit("PopupMenu"),
+          Property<&T::Proportional, &T::SetProportional>("Proportional").Default(false),
+          Property<&T::ReadOnly, &T::SetReadOnly>("ReadOnly").Default(false),
+          Inherit("ShowHint"),
+          Property<&T::Stretch, &T::SetStretch>("Stretch").Default(false),
+          Inherit("TabOrder"),
+          Property<&T::TabStop, &T::SetTabStop>("TabStop").Default(true),
+          Inherit("Visible"),
+          Inherit("OnClick"),
+          Inherit("OnDblClick"),
+          Inherit(DragEvents),
+          Inherit(FocusEvents),
+          Inherit(KeyEvents),
+          Inherit(MouseEvents),
+          Inherit(WheelEvents),
+          Inherit("OnStartDrag"),
+      });
+  return info;
+}
+
+TDBImage::TDBImage(TComponent* owner)
+    : TFieldEditor(owner), FPicture(std::make_unique<TPicture>()) {
+  SetControlStyle(ControlStyle() - TControlStyle{csSetCaption});
+  SetBounds(0, 0, 105, 105);
+  SetTabStop(true);
+  SetColor(clWindow);
+  SetDoubleBuffered(true);
+}
+
+TDBImage::~TDBImage() { AnnounceEnd(); }
+
+void TDBImage::Change(bool& field, bool value) {
+  field = value;
+  Invalidate();
+}
+
+void TDBImage::SetCenter(bool center) { Change(FCenter, center); }
+void TDBImage::SetProportional(bool proportional) { Change(FProportional, proportional); }
+void TDBImage::SetStretch(bool stretch) { Change(FStretch, stretch); }
+
+void TDBImage::SetAutoDisplay(bool autoDisplay) {
+  if (autoDisplay == FAutoDisplay) return;
+  FAutoDisplay = autoDisplay;
+  ShowNow();
+}
+
+void TDBImage::SetBorderStyle(TBorderStyle style) {
+  if (style == FBorderStyle) return;
+  FBorderStyle = style;
+  RecreateWnd();
+}
+
+void TDBImage::CreateParams(TCreateParams& params) {
+  TFieldEditor::CreateParams(params);
+  if (FBorderStyle == bsSingle) AddSingleBorder(params);
+}
+
+// The field.
+
+void TDBImage::LoadPicture() {
+  if (FLoaded || !Field()) return;
+  FLoaded = true;
+  const TSetFor automatic(FAutoDisplay, true, this);
+  ShowNow();
+}
+
+void TDBImage::ShowField() {
+  FLoaded = FAutoDisplay || !Field() || (FLoaded && Link().Editing());
+  FNote.clear();
+  if (FLoaded) {
+    ShowBytes(Field() ? Field()->AsString() : std::string());
+  } else {
+    FPicture->Assign(nullptr);
+    FNote = Concat("(", Field()->DisplayLabel(), ")");
+  }
+  Invalidate();
+}
+
+/// A picture that cannot be shown must not keep the user from going to the record.
+void TDBImage::ShowBytes(const std::string& bytes) {
+  FPicture->Assign(nullptr);
+  if (bytes.empty()) return;
+  try {
+    FPicture->Assign(Decode(bytes).get());
+  } catch (const Exception& error) {
+    FNote = error.Message();
+  }
+}
+
+void TDBImage::WriteField() {
+  const TGraphic* const graphic = FPicture->Graphic();
+  if (!graphic || graphic->Empty()) return Field()->Clear();
+  Field()->SetAsString(BytesOf(*graphic));
+}
+
+bool TDBImage::TakePicture(const TGraphic* graphic) {
+  const TWatch watch(this);
+  {
+    const TSetFor holding(Holding(), true, this);
+    if (!EditField()) return false;
+  }
+  FPicture->Assign(graphic);
+  FNote.clear();
+  FLoaded = true;
+  Link().Modified();
+  Invalidate();
+  return !watch.Gone();
+}
+
+void TDBImage::SetPicture(const TPicture* picture) {
+  if (TakePicture(picture ? picture->Graphic() : nullptr)) return;
+  throw EDatabaseError(Concat("The picture of '", DataField(), "' cannot be changed"));
+}
+
+// The clipboard.
+
+void TDBImage::CopyToClipboard() {
+  if (FPicture->Graphic()) PutOnClipboard(*FPicture->Graphic());
+}
+
+void TDBImage::CutToClipboard() {
+  if (!FPicture->Graphic() || !MayEditField()) return;
+  CopyToClipboard();
+  TakePicture(nullptr);
+}
+
+void TDBImage::PasteFromClipboard() {
+  const std::string file = BitmapFromClipboard();
+  if (file.empty()) return;
+  TPngImage picture;
+  picture.Assign(Decode(file).get());
+  TakePicture(&picture);
+}
+
+// Input.
+
+void TDBImage::KeyDown(std::uint16_t& key, TShiftState shift) {
+  const TWatch watch(this);
+  TFieldEditor::KeyDown(key, shift);
+  if (watch.Gone()) return;
+  if (key == VK_INSERT && shift.Has(ssShift)) PasteFromClipboard();
+  if (key == VK_INSERT && shift.Has(ssCtrl)) CopyToClipboard();
+  if (key == VK_DELETE && shift.Has(ssShift)) return CutToClipboard();
+  if (key == VK_DELETE && shift.Empty() && FPicture->Graphic()) TakePicture(nullptr);
+}
+
+void TDBImage::KeyPress(char32_t& key) {
+  constexpr char32_t ctrlC = 3, ctrlV = 22, ctrlX = 24;
+  if (key == detail::EnterCharacter && !FLoaded) {
+    key = 0;
+    return LoadPicture();
+  }
+  const TWatch watch(this);
+  TFieldEditor::KeyPress(key);
+  if (watch.Gone()) return;
+  switch (key) {
+    case ctrlC: return CopyToClipboard();
+    case ctrlV: return PasteFromClipboard();
+    case ctrlX: return CutToClipboard();
+    default: return;
+  }
+}
+
+void TDBImage::DblClick() {
+  const TWatch watch(this);
+  TFieldEditor::DblClick();
+  if (!watch.Gone()) LoadPicture();
+}
+
+void TDBImage::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
+  const TWatch watch(this);
+  if (CanFocus() && !Focused()) SetFocus();
+  if (!watch.Gone()) TFieldEditor::MouseDown(button, shift, x, y);
+}
+
+void TDBImage::Dispatch(TMessage& message) {
+  switch (message.Msg) {
+    case WM_COPY: return CopyToClipboard();
+    case WM_CUT: return CutToClipboard();
+    case WM_PASTE: return PasteFromClipboard();
+    default: break;
+  }
+  const TWatch watch(this);
+  TFieldEditor::Dispatch(message);
+  const bool focus = message.Msg == WM_SETFOCUS || message.Msg == WM_KILLFOCUS;
+  if (focus && !watch.Gone()) Invalidate();
+}
+
+// Look.
+
+TRect TDBImage::PictureRect() const {
+  int width = FPicture->Width();
+  int height = FPicture->Height();
+  const int mostWidth = ClientWidth();
+  const int mostHeight = ClientHeight();
+  if (width <= 0 || height <= 0) return {};
+  const bool tooLarge = width > mostWidth || height > mostHeight;
+  if (FProportional && (FStretch || tooLarge)) {
+    const double scale = std::min(double{1} * mostWidth / width, double{1} * mostHeight / height);
+    width = std::max(static_cast<int>(std::lround(width * scale)), 1);
+    height = std::max(static_cast<int>(std::lround(height * scale)), 1);
+  } else if (FStretch) {
+    width = mostWidth;
+    height = mostHeight;
+  }
+  const int left = FCenter ? (mostWidth - width) / 2 : 0;
+  const int top = FCenter ? (mostHeight - height) / 2 : 0;
+  return {left, top, left + width, top + height};
+}
+
+void TDBImage::Paint() {
+  TCanvas& canvas = *Canvas();
+  canvas.Brush()->SetColor(Color());
+  canvas.FillRect(ClientRect());
+  if (FPicture->Graphic()) FPicture->Graphic()->Draw(&canvas, PictureRect());
+  if (!FNote.empty()) {
+    const TSize size = canvas.TextExtent(FNote);
+    canvas.TextRect(ClientRect(), std::max((ClientWidth() - size.cx) / 2, 2),
+                    std::max((ClientHeight() - size.cy) / 2, 2), FNote);
+  }
+  if (Focused()) canvas.DrawFocusRect(ClientRect());
+}
+
+void TDBImage::DescribeAccessible(TAccessibleInfo& info) const {
+  TFieldEditor::DescribeAccessible(info);
+  info.Role = arGraphic;
+  info.Value = FNote;
+}
+
+}  // namespace vcl
