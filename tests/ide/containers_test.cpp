@@ -43,7 +43,8 @@ TEST_F(DesignedContainers, ToolBarsGetButtonsByTheirMenuAndByTheMouse) {
 }
 
 TEST_F(DesignedContainers, PagesAreMadeShownAndDeletedByTheirMenu) {
-  OpenForm(" object Pages: TPageControl\n Left = 10\n Top = 10\n Width = 300\n Height = 200\n end\n");
+  OpenForm(
+      " object Pages: TPageControl\n Left = 10\n Top = 10\n Width = 300\n Height = 200\n end\n");
   KeysInMenuAt(At(150, 150), "Down Enter");
   KeysInMenuAt(At(150, 150), "Down Enter");
   auto pages = [&] { return Find<TPageControl>("Pages"); };

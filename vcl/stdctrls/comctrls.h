@@ -1,5 +1,5 @@
-// The system's common controls: pages and tabs, tool bars, status bars, headers, track bars, progress
-// bars, arrows that count, calendars, hot keys, trees and lists.
+// The system's common controls: pages and tabs, tool bars, status bars, headers, track bars,
+// progress bars, arrows that count, calendars, hot keys, trees and lists.
 #pragma once
 
 #include "vcl/stdctrls/coolbar.h"
