@@ -442,7 +442,8 @@ TEST_F(CoolBars, ABarOnThemHidesWhatItsBandHasNoRoomFor) {
   EXPECT_EQ(Bar->Buttons(3)->Top(), 0);
   Form.SetWidth(80);
   EXPECT_TRUE(PumpUntil([&] { return !Bar->HiddenControls().empty(); }));
-  EXPECT_EQ(Bar->Left() + Bar->Width(), Cool->Bands()->FindBand(Bar)->Control()->BoundsRect().Right);
+  EXPECT_EQ(Bar->Left() + Bar->Width(),
+            Cool->Bands()->FindBand(Bar)->Control()->BoundsRect().Right);
   EXPECT_LE(Bar->Width(), 80);
 }
 

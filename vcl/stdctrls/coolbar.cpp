@@ -37,8 +37,7 @@ const TClass& TCoolBar::Class() {
   return info;
 }
 
-TCoolBar::TCoolBar(TComponent* owner)
-    : TWinControl(owner), FBands(std::make_unique<TCoolBands>()) {
+TCoolBar::TCoolBar(TComponent* owner) : TWinControl(owner), FBands(std::make_unique<TCoolBands>()) {
   SetControlStyle({csAcceptsControls, csCaptureMouse, csClickEvents, csDoubleClicks, csOpaque});
   SetBounds(0, 0, 150, 75);
   FBands->FBar = this;
@@ -259,7 +258,8 @@ bool TCoolBar::PutBack(TCoolBand& band) {
   if (!band.FControl || !band.FShown || place.Empty()) return true;
   const auto* tools = dynamic_cast<const TToolBar*>(band.FControl);
   const int height = band.FControl->Height();
-  const bool other = tools && tools->AutoSize() && height != place.Height() && height != band.FWanted;
+  const bool other =
+      tools && tools->AutoSize() && height != place.Height() && height != band.FWanted;
   if (other) band.FWanted = height;
   band.FControl->SetBounds(place.Left, place.Top, place.Width(), place.Height());
   return !other;
@@ -313,8 +313,8 @@ void TCoolBar::TakeLayout() {
     Send(*this, RB_GETRECT, i, reinterpret_cast<LPARAM>(&place));
     const bool breaks = (asked.fStyle & RBBS_BREAK) != 0;
     // Along the row; of a hidden one the window knows no place.
-    const auto along = static_cast<int>(FVertical ? place.bottom - place.top
-                                                  : place.right - place.left);
+    const auto along =
+        static_cast<int>(FVertical ? place.bottom - place.top : place.right - place.left);
     const int width = band->FShown ? along : band->FWidth;
     FChanged = FChanged || band->Index() != static_cast<int>(i) || band->FBreak != breaks ||
                band->FWidth != width;
@@ -352,8 +352,7 @@ void TCoolBar::WindowInside(const TMessage& message) {
   if (FSending || Destroying()) return;
   if (LOWORD(message.WParam) == WM_CREATE) SendLater();
   if (LOWORD(message.WParam) != WM_DESTROY) return;
-  const TCoolBand* band =
-      FBands->FindBand(FromHandle(reinterpret_cast<HWND>(message.LParam)));
+  const TCoolBand* band = FBands->FindBand(FromHandle(reinterpret_cast<HWND>(message.LParam)));
   if (!band) return;
   REBARBANDINFOW none{};
   none.cbSize = REBARBANDINFOW_V6_SIZE;

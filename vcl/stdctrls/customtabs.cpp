@@ -26,9 +26,7 @@ const TClass& TCustomTabControl::Class() {
           Property<&T::RaggedRight, &T::SetRaggedRight>("RaggedRight").Default(false).Unpublished(),
           Property<&T::Style, &T::SetStyle>("Style").Default(tsTabs).Unpublished(),
           Property<&T::TabHeight, &T::SetTabHeight>("TabHeight").Default(0).Unpublished(),
-          Property<&T::TabPosition, &T::SetTabPosition>("TabPosition")
-              .Default(tpTop)
-              .Unpublished(),
+          Property<&T::TabPosition, &T::SetTabPosition>("TabPosition").Default(tpTop).Unpublished(),
           Property<&T::TabWidth, &T::SetTabWidth>("TabWidth").Default(0).Unpublished(),
           Event<&T::OnChange>("OnChange").Unpublished(),
           Event<&T::OnChanging>("OnChanging")
@@ -69,7 +67,8 @@ namespace {
 
 int CheckedSize(const char* what, int size) {
   if (size >= 0) return size;
-  throw EArgumentOutOfRangeException(Concat("The ", what, " of tabs can't be ", std::to_string(size)));
+  throw EArgumentOutOfRangeException(
+      Concat("The ", what, " of tabs can't be ", std::to_string(size)));
 }
 
 }  // namespace

@@ -262,7 +262,8 @@ void THeaderControl::SectionSized(THeaderSection& section, int width) {
 
 void THeaderControl::Track(const THeaderSection& section, int width, TSectionTrackState state) {
   const int now = section.Limited(width);
-  Later(section, [this, now, state](THeaderSection* one) { OnSectionTrack(this, one, now, state); });
+  Later(section,
+        [this, now, state](THeaderSection* one) { OnSectionTrack(this, one, now, state); });
 }
 
 /// The user has dropped the section at the place, which is -1 where it is none.

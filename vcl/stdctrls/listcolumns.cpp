@@ -12,18 +12,18 @@ namespace vcl {
 
 const TClass& TListColumn::Class() {
   using T = TListColumn;
-  static const TClass info = Describe<T, THeaderItem>(
-      "vcl::TListColumn", "vcl/stdctrls/comctrls.h",
-      {
-          Inherit("Alignment"),
-          Inherit("AutoSize"),
-          Property<&T::Caption, &T::SetCaption>("Caption").Default(""),
-          Inherit("ImageIndex"),
-          Inherit("MaxWidth"),
-          Inherit("MinWidth"),
-          Inherit("SortMark"),
-          Inherit("Width"),
-      });
+  static const TClass info =
+      Describe<T, THeaderItem>("vcl::TListColumn", "vcl/stdctrls/comctrls.h",
+                               {
+                                   Inherit("Alignment"),
+                                   Inherit("AutoSize"),
+                                   Property<&T::Caption, &T::SetCaption>("Caption").Default(""),
+                                   Inherit("ImageIndex"),
+                                   Inherit("MaxWidth"),
+                                   Inherit("MinWidth"),
+                                   Inherit("SortMark"),
+                                   Inherit("Width"),
+                               });
   return info;
 }
 

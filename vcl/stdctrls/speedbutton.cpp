@@ -154,9 +154,9 @@ void TSpeedButton::ChangeScale(int m, int d) {
 
 void TSpeedButton::Paint() {
   const bool down = FDown || Pressed();
-  TRect rect = DrawFaceEdge(
-      Canvas(), ClientRect(),
-      {.Flat = FFlat, .Shown = ShowsEdge(), .Down = down, .Filled = !Transparent()});
+  TRect rect =
+      DrawFaceEdge(Canvas(), ClientRect(),
+                   {.Flat = FFlat, .Shown = ShowsEdge(), .Down = down, .Filled = !Transparent()});
   const TFaceState state = FaceState();
   // One that stays down is lighter than its surroundings, save a flat one under the mouse.
   if (state == TFaceState::Exclusive && !(FFlat && Hot())) {

@@ -141,8 +141,8 @@ void TToolBar::MoveCurrent(int by) {
   const auto count = static_cast<int>(usable.size());
   if (count == 0) return SetCurrent(nullptr);
   const auto place = std::ranges::find(usable, FCurrent);
-  const int from = place == usable.end() ? (by > 0 ? -1 : count)
-                                         : static_cast<int>(place - usable.begin());
+  const int from =
+      place == usable.end() ? (by > 0 ? -1 : count) : static_cast<int>(place - usable.begin());
   SetCurrent(usable[static_cast<std::size_t>((from + by + count) % count)]);
 }
 

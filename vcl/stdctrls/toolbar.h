@@ -38,8 +38,8 @@ class VCL_API TToolBar : public TCustomControl {
   TToolButton* Current() const { return FCurrent; }
 
   bool AutoSize() const { return FAutoSize; }
-  /// True makes the bar as high as its rows, and with alLeft or alRight as wide; one with alNone that
-  /// keeps one row has the width that this needs. On a cool bar the band has the say.
+  /// True makes the bar as high as its rows, and with alLeft or alRight as wide; one with alNone
+  /// that keeps one row has the width that this needs. On a cool bar the band has the say.
   void SetAutoSize(bool autoSize) { Change(FAutoSize, autoSize); }
   int ButtonHeight() const { return FButtonSize.cy; }
   /// The least height of the buttons, in pixels; what they show may need more. Raises
@@ -94,8 +94,8 @@ class VCL_API TToolBar : public TCustomControl {
   /// A control and where the bar has put it.
   struct TPlaced {
     TControl* Control;
-    TRect Cell{};   // What it takes of its row.
-    TPoint At{};    // Its top left corner there.
+    TRect Cell{};  // What it takes of its row.
+    TPoint At{};   // Its top left corner there.
     bool Known = false;
     bool Hidden = false;  // It does not fit.
   };

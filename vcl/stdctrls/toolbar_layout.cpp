@@ -55,8 +55,8 @@ void TToolBar::GetChildren(const std::function<void(TComponent*)>& each, TCompon
 /// The place is one among the controls of the same owner.
 void TToolBar::SetChildOrder(TComponent* child, int order) {
   TCustomControl::SetChildOrder(child, order);
-  const auto own = std::ranges::find_if(
-      FOrder, [child](const TPlaced& each) { return each.Control == child; });
+  const auto own =
+      std::ranges::find_if(FOrder, [child](const TPlaced& each) { return each.Control == child; });
   if (own == FOrder.end()) return;
   const TPlaced moved = *own;
   FOrder.erase(own);

@@ -10,14 +10,7 @@ class TToolBar;
 
 /// A button; one that stays down; one with a menu; room between buttons; the same with a line; a
 /// button that always shows its caption.
-enum TToolButtonStyle {
-  tbsButton,
-  tbsCheck,
-  tbsDropDown,
-  tbsSeparator,
-  tbsDivider,
-  tbsTextButton
-};
+enum TToolButtonStyle { tbsButton, tbsCheck, tbsDropDown, tbsSeparator, tbsDivider, tbsTextButton };
 template <>
 inline constexpr TEnumText EnumText<TToolButtonStyle>{
     "TToolButtonStyle", "tbsButton tbsCheck tbsDropDown tbsSeparator tbsDivider tbsTextButton"};

@@ -44,8 +44,7 @@ TFacePicture TToolButton::Picture() const {
   if (ownDisabled) images = bar->DisabledImages();
   if (Enabled() && bar->HotImages() && (Hot() || IsCurrent())) images = bar->HotImages();
   if (!images || FImageIndex >= images->Count()) return {};
-  return {images->ForPPI(CurrentPPI()), FImageIndex,
-          (Enabled() || ownDisabled) && !FIndeterminate};
+  return {images->ForPPI(CurrentPPI()), FImageIndex, (Enabled() || ownDisabled) && !FIndeterminate};
 }
 
 int TToolButton::ArrowWidth() const {
@@ -72,8 +71,7 @@ TSize TToolButton::Need() const {
       need.cy += line + (need.cy > 0 ? 1 : 0);
     }
   }
-  return {need.cx + ScaledPixels(AroundAcross) + ArrowWidth(),
-          need.cy + ScaledPixels(AroundDown)};
+  return {need.cx + ScaledPixels(AroundAcross) + ArrowWidth(), need.cy + ScaledPixels(AroundDown)};
 }
 
 // Painting.
@@ -109,8 +107,8 @@ void TToolButton::DrawFace() {
     DrawFaceEdge(Canvas(), ArrowPart(),
                  {.Flat = flat, .Shown = shown, .Down = FMenuUp || pressed, .Filled = false});
   }
-  TRect inside =
-      DrawFaceEdge(Canvas(), face, {.Flat = flat, .Shown = shown, .Down = pressed, .Filled = false});
+  TRect inside = DrawFaceEdge(Canvas(), face,
+                              {.Flat = flat, .Shown = shown, .Down = pressed, .Filled = false});
   // What stays down is lighter than its surroundings, and what is neither up nor down darker.
   if (FMarked || FIndeterminate || (FDown && !Hot())) {
     Canvas()->Brush()->SetColor(FMarked ? clHighlight : FIndeterminate ? clBtnShadow : cl3DLight);
@@ -129,8 +127,6 @@ void TToolButton::DrawFace() {
   if (IsCurrent()) Canvas()->DrawFocusRect(inside);
 }
 
-void TToolButton::Paint() {
-  IsSpace() ? DrawSpace() : DrawFace();
-}
+void TToolButton::Paint() { IsSpace() ? DrawSpace() : DrawFace(); }
 
 }  // namespace vcl
