@@ -53,7 +53,7 @@ class VCL_API TMaskText {
   /// The last editable cell before `cell`; the first editable one when there is none.
   int Previous(int cell) const;
 
-  /// The cells that a text fills. What fits no cell is left out.
+  /// The cells that a text fills, or that it shows. What fits no cell is left out.
   TEdited Edited(std::string_view text) const;
   /// The text that the cells mean, in UTF-8: empty when nothing is filled in. With the literals,
   /// empty cells are blanks; without, so are those between others.

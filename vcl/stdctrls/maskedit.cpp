@@ -2,6 +2,7 @@
 #include "vcl/stdctrls/maskedit.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/windowmessages.h"
@@ -55,12 +56,16 @@ void TCustomMaskEdit::SetEditMask(const std::string& mask) {
   FMask = std::move(cells);
   FCells.clear();
   SendIfAllocated(*this, EM_LIMITTEXT, static_cast<WPARAM>(IsMasked() ? 0 : MaxLength()));
-  SetText(text);
+  SetTextBuf(text.c_str());
   FEntered = EditText();
 }
 
 std::string TCustomMaskEdit::Text() const {
   return IsMasked() ? FMask.Text(FCells) : EditText();
+}
+
+void TCustomMaskEdit::SetText(const std::string& text) {
+  TCustomEdit::SetText(IsMasked() ? FromCells(FMask.Edited(text)) : text);
 }
 
 void TCustomMaskEdit::SetTextBuf(const char* text) {
@@ -204,13 +209,18 @@ void TCustomMaskEdit::KeyPress(char32_t& key) {
 }
 
 void TCustomMaskEdit::DoEnter() {
-  FEntered = EditText();
+  if (!std::exchange(FStays, false)) FEntered = EditText();
   TCustomEdit::DoEnter();
 }
 
 void TCustomMaskEdit::DoExit() {
   if (Altered()) {
-    const TOnFailure refused([this] { SetFocus(); }, this);
+    const auto stay = [this] {
+      FStays = true;
+      SetFocus();
+      SetSelStart(FMask.FirstMissing(FCells));
+    };
+    const TOnFailure refused(stay, this);
     ValidateEdit();
   }
   TCustomEdit::DoExit();

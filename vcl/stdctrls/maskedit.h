@@ -26,7 +26,7 @@ class VCL_API TCustomMaskEdit : public TCustomEdit {
   /// The text that the cells mean: without the literals when the mask leaves them out.
   std::string Text() const;
   /// The text, with or without the mask's literals; what fits no cell is left out.
-  void SetText(const std::string& text) { TCustomEdit::SetText(text); }
+  void SetText(const std::string& text);
   /// The text as it is seen, with literals and empty cells.
   std::string EditText() const { return TCustomEdit::Text(); }
   /// As SetText.
@@ -66,6 +66,7 @@ class VCL_API TCustomMaskEdit : public TCustomEdit {
   TEdited FCells;         // What is in the cells.
   std::string FEntered;   // The text when the focus came.
   bool FApplying = false;
+  bool FStays = false;  // The focus comes back, as the text was not complete.
 };
 
 /// An edit with a mask, for forms.

@@ -1,5 +1,6 @@
 // TCustomRichEdit: RTF and text in streams and files, and finding text.
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <exception>
 
@@ -16,9 +17,26 @@ namespace vcl {
 namespace {
 
 constexpr std::string_view RtfStart = "{\\rtf";
+constexpr std::string_view Utf8RtfStart = "{\\urtf";
 constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 
-bool IsRtf(std::string_view bytes) { return bytes.starts_with(RtfStart); }
+bool IsRtf(std::string_view bytes) {
+  return bytes.starts_with(RtfStart) || bytes.starts_with(Utf8RtfStart);
+}
+
+/// RTF in UTF-8, as some systems write it, with its characters by their numbers instead.
+std::string ForEveryReader(const std::string& rtf) {
+  if (!rtf.starts_with(Utf8RtfStart)) return rtf;
+  std::string readable = "{\\rtf1\\ansi";
+  for (const char16_t unit : ToUtf16Units(rtf.substr(Utf8RtfStart.size()))) {
+    if (unit < 0x80) {
+      readable += static_cast<char>(unit);
+    } else {
+      readable += Concat("\\u", std::to_string(static_cast<std::int16_t>(unit)), "?");
+    }
+  }
+  return readable;
+}
 
 /// The system reads RTF that ends in the middle without a word.
 void CheckRtf(std::string_view rtf) {
@@ -81,8 +99,8 @@ std::string TCustomRichEdit::Rtf() const {
     throw EWriteError(Concat("The system cannot write the text as RTF: error ",
                              std::to_string(stream.dwError)));
   }
-  // The system ends it with a zero.
-  return rtf.substr(0, rtf.find('\0'));
+  // Some systems end it with a zero.
+  return ForEveryReader(rtf.substr(0, rtf.find('\0')));
 }
 
 void TCustomRichEdit::SetRtf(const std::string& rtf) {
