@@ -1,8 +1,8 @@
 // List boxes and combo boxes: items, selection, keys, drawing.
 #include "tests/vcl/standardform.h"
-#include "vcl/stdctrls/linelook.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
+#include "vcl/stdctrls/linelook.h"
 
 namespace vcl {
 namespace {
@@ -144,8 +144,7 @@ TEST_F(Lists, ItemsHaveTheHeightsThatAreMeasured) {
   combo->SetStyle(csOwnerDrawVariable);
   int tall = 30;
   const auto heightOf = [](TWinControl& list, UINT message, int index) {
-    return static_cast<int>(
-        ::SendMessageW(list.Handle(), message, static_cast<WPARAM>(index), 0));
+    return static_cast<int>(::SendMessageW(list.Handle(), message, static_cast<WPARAM>(index), 0));
   };
   // The window counts its edges in.
   const int field = heightOf(*combo, CB_GETITEMHEIGHT, -1);
@@ -200,9 +199,7 @@ class TBars : public TLineLook {
 template <class Face>
 class TBarsIn : public Face {
  public:
-  explicit TBarsIn(TComponent* owner) : Face(owner) {
-    this->SetLook(std::make_unique<TBars>());
-  }
+  explicit TBarsIn(TComponent* owner) : Face(owner) { this->SetLook(std::make_unique<TBars>()); }
 };
 
 TEST_F(Lists, ALookIsTakenByBothFaces) {

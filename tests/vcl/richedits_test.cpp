@@ -235,13 +235,13 @@ std::string Chunk(const std::string& id, const std::string& data) {
 std::string Clip() {
   constexpr std::uint32_t width = 16, height = 8, frames = 3, size = width * height * 3;
   std::string head;
-  for (const std::uint32_t each : {100000u, 0u, 0u, 0x10u, frames, 0u, 1u, size, width, height, 0u,
-                                   0u, 0u, 0u}) {
+  for (const std::uint32_t each :
+       {100000u, 0u, 0u, 0x10u, frames, 0u, 1u, size, width, height, 0u, 0u, 0u, 0u}) {
     Put(head, each);
   }
   std::string stream = "vidsDIB ";
-  for (const std::uint32_t each : {0u, 0u, 0u, 1u, 10u, 0u, frames, size, 0xFFFFFFFFu, 0u, 0u,
-                                   height << 16 | width}) {
+  for (const std::uint32_t each :
+       {0u, 0u, 0u, 1u, 10u, 0u, frames, size, 0xFFFFFFFFu, 0u, 0u, height << 16 | width}) {
     Put(stream, each);
   }
   std::string format;

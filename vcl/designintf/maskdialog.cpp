@@ -60,12 +60,12 @@ class TMaskForm : public TForm {
 
 const TClass& TMaskForm::Class() {
   using T = TMaskForm;
-  static const TClass info = Describe<T, TForm>(
-      "vcl::TMaskForm", "vcl/designintf/maskdialog.h",
-      {Field<&T::MaskEdit>("MaskEdit"), Field<&T::SampleList>("SampleList"),
-       Field<&T::TryEdit>("TryEdit"), Field<&T::ErrorLabel>("ErrorLabel"),
-       Field<&T::OkButton>("OkButton"), Method<&T::TakeSample>("TakeSample"),
-       Method<&T::TryMask>("TryMask")});
+  static const TClass info =
+      Describe<T, TForm>("vcl::TMaskForm", "vcl/designintf/maskdialog.h",
+                         {Field<&T::MaskEdit>("MaskEdit"), Field<&T::SampleList>("SampleList"),
+                          Field<&T::TryEdit>("TryEdit"), Field<&T::ErrorLabel>("ErrorLabel"),
+                          Field<&T::OkButton>("OkButton"), Method<&T::TakeSample>("TakeSample"),
+                          Method<&T::TryMask>("TryMask")});
   return info;
 }
 

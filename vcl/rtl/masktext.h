@@ -27,11 +27,11 @@ class VCL_API EMaskError : public Exception {
 ///     \     the next character as it is             _     a blank as it is
 ///     !     optional characters are missing at the left instead of at the right
 ///
-/// Anything else stands in its cell as it is, a literal. Behind ";" may follow "0" when the literals
-/// are no part of the text, and behind another ";" the character that stands in an empty cell, "_"
-/// unless said. Characters beyond the basic plane fit no cell, so that cells are what the system's
-/// edits count. An edited text has one character for each cell; one that is the empty cell's, or a
-/// blank, is an empty cell.
+/// Anything else stands in its cell as it is, a literal. Behind ";" may follow "0" when the
+/// literals are no part of the text, and behind another ";" the character that stands in an empty
+/// cell, "_" unless said. Characters beyond the basic plane fit no cell, so that cells are what the
+/// system's edits count. An edited text has one character for each cell; one that is the empty
+/// cell's, or a blank, is an empty cell.
 class VCL_API TMaskText {
  public:
   using TEdited = std::u32string;

@@ -81,13 +81,13 @@ void TCustomRichEdit::StreamIn(const std::string& rtf) {
   std::string_view rest = rtf;
   EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, &Give};
   Send(*this, EM_LIMITTEXT, 0);  // The limit is for what the user types.
-  const TAtEnd limited(
-      [this] { Send(*this, EM_LIMITTEXT, static_cast<WPARAM>(MaxLength())); }, this);
+  const TAtEnd limited([this] { Send(*this, EM_LIMITTEXT, static_cast<WPARAM>(MaxLength())); },
+                       this);
   FFormatted = true;
   Send(*this, EM_STREAMIN, SF_RTF, reinterpret_cast<LPARAM>(&stream));
   if (stream.dwError != 0) {
-    throw EReadError(Concat("The system cannot read the RTF: error ",
-                            std::to_string(stream.dwError)));
+    throw EReadError(
+        Concat("The system cannot read the RTF: error ", std::to_string(stream.dwError)));
   }
 }
 
@@ -96,8 +96,8 @@ std::string TCustomRichEdit::Rtf() const {
   EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rtf), 0, &Take};
   Send(*this, EM_STREAMOUT, SF_RTF, reinterpret_cast<LPARAM>(&stream));
   if (stream.dwError != 0) {
-    throw EWriteError(Concat("The system cannot write the text as RTF: error ",
-                             std::to_string(stream.dwError)));
+    throw EWriteError(
+        Concat("The system cannot write the text as RTF: error ", std::to_string(stream.dwError)));
   }
   // Some systems end it with a zero.
   return ForEveryReader(rtf.substr(0, rtf.find('\0')));
@@ -146,8 +146,7 @@ int TCustomRichEdit::FindText(const std::string& text, int start, int length,
   WPARAM flags = FR_DOWN;
   if (options.Has(stWholeWord)) flags |= FR_WHOLEWORD;
   if (options.Has(stMatchCase)) flags |= FR_MATCHCASE;
-  return static_cast<int>(
-      Send(*this, EM_FINDTEXTEXW, flags, reinterpret_cast<LPARAM>(&find)));
+  return static_cast<int>(Send(*this, EM_FINDTEXTEXW, flags, reinterpret_cast<LPARAM>(&find)));
 }
 
 }  // namespace vcl
