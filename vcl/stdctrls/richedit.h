@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "vcl/rtl/systemmacros.h"
 #include "vcl/stdctrls/memo.h"
 #include "vcl/stdctrls/richattributes.h"
 
