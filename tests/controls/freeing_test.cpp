@@ -48,7 +48,8 @@ bool Bind(TEventBase& event, const std::function<void()>& call) {
          BindAs<TObject*, THeaderSection*>(event, call) ||
          BindAs<TObject*, THeaderSection*, int, TSectionTrackState>(event, call) ||
          BindAs<TObject*, TListItem*, bool>(event, call) ||
-         BindAs<TObject*, int, int>(event, call) ||
+         BindAs<TObject*, int, int>(event, call) || BindAs<TObject*, int, int&>(event, call) ||
+         BindAs<TObject*, TStrings*>(event, call) || BindAs<TObject*, const TRect&>(event, call) ||
          BindAs<TObject*, int, int, bool&>(event, call) ||
          BindAs<TObject*, int, int, std::string&>(event, call) ||
          BindAs<TObject*, int, int, const std::string&>(event, call) ||

@@ -157,6 +157,24 @@ TEST_F(PropertyEditor, KnowsDefaultsAndGoesBackToThem) {
   EXPECT_THROW(width->Revert(), EPropertyError);
 }
 
+TEST_F(PropertyEditor, APartStandsOpen) {
+  auto* edit = Add<TLabeledEdit>("Edit1");
+  const auto part = Editor("EditLabel", {edit});
+  EXPECT_TRUE(part->Offers(paSubProperties));
+  EXPECT_TRUE(part->ReadOnly());
+  Inside(part->GetProperties(), "Caption").SetValue("Street");
+  EXPECT_EQ(edit->EditLabel()->Caption(), "Street");
+  EXPECT_FALSE(part->IsDefault());
+}
+
+TEST_F(PropertyEditor, AMaskHasADialogAndIsReadBeforeItIsTaken) {
+  auto* edit = Add<TMaskEdit>("Edit1");
+  const auto mask = Editor("EditMask", {edit});
+  EXPECT_TRUE(mask->Offers(paDialog));
+  EXPECT_THROW(mask->SetValue("00;0;ab"), EMaskError);
+  EXPECT_EQ(edit->EditMask(), "");
+}
+
 TEST_F(PropertyEditor, ListsHoldTheirLinesTogether) {
   auto* first = Add<TListBox>("List1");
   auto* second = Add<TListBox>("List2");

@@ -25,8 +25,9 @@ std::string Missing(const std::string& mask, const std::string& keys) {
 TEST(MaskText, EachLetterTakesItsCharacters) {
   EXPECT_EQ(Typed("LlAa", "x9ü#5"), "xü5_");
   EXPECT_EQ(Typed("09#", "a1+2-"), "12-");
-  EXPECT_EQ(Typed("Cc", "%\x01"
-                        "ß"),
+  EXPECT_EQ(Typed("Cc",
+                  "%\x01"
+                  "ß"),
             "%ß");
   EXPECT_EQ(Typed("CC", "\xF0\x9F\x98\x80z"), "z_") << "beyond the basic plane";
   EXPECT_EQ(Typed(">LLl<ll<>LL", "aäЖaÄÜbB"), "AÄЖaäÜb");
@@ -91,7 +92,8 @@ TEST(MaskText, MalformedMasksAreRefused) {
     }
     return "taken";
   };
-  EXPECT_EQ(refusal("00\\"), "The mask '00\\' ends behind a \\, which is to stand before a character");
+  EXPECT_EQ(refusal("00\\"),
+            "The mask '00\\' ends behind a \\, which is to stand before a character");
   EXPECT_EQ(refusal("00;2"), "The mask '00;2' says neither 0 nor 1 of its literals");
   EXPECT_EQ(refusal("00;0;ab"),
             "The mask '00;0;ab' has more than one character for its empty cells");
@@ -105,7 +107,8 @@ TEST(MaskText, WhateverIsTypedFitsAndComesBack) {
   const std::string letters = "LlAaCc09#!><\\:/_;01 x-ü";
   const auto some = [&](std::size_t most) {
     std::string text;
-    for (auto count = random() % most; count > 0; --count) text += letters[random() % letters.size()];
+    for (auto count = random() % most; count > 0; --count)
+      text += letters[random() % letters.size()];
     return text;
   };
   int read = 0;

@@ -52,7 +52,7 @@ TEST_F(MaskEdits, WhatIsTypedGoesIntoTheCells) {
 TEST_F(MaskEdits, TheClipboardAndInputMethodsFillCells) {
   auto* edit = MakeMasked("00/00/00");
   const std::string empty = edit->EditText();
-  SetClipboardText("24-12 05");
+  SetClipboardText("24-1205");
   edit->PasteFromClipboard();
   EXPECT_EQ(edit->Text(), edit->EditText());
   EXPECT_EQ(edit->EditText().substr(0, 2), "24");

@@ -55,6 +55,14 @@ class VCL_API TCaptionProperty : public TStringProperty {
   TPropertyAttributes GetAttributes() const override;
 };
 
+/// The mask of an edit, with a dialog of samples in which it is tried out.
+class VCL_API TMaskProperty : public TStringProperty {
+ public:
+  using TStringProperty::TStringProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};
+
 /// A component's name: one at a time, and never without one.
 class VCL_API TComponentNameProperty : public TStringProperty {
  public:

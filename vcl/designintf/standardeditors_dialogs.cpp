@@ -1,4 +1,5 @@
 // The editors of colours and fonts.
+#include "vcl/designintf/maskdialog.h"
 #include "vcl/designintf/standardeditors.h"
 #include "vcl/dialogs/dialogs.h"
 
@@ -12,6 +13,15 @@ void TColorProperty::Edit() {
   dialog.SetColor(static_cast<TColor>(std::get<std::int64_t>(Value())));
   dialog.SetOptions({cdFullOpen});
   if (dialog.Execute()) SetAll(std::int64_t{dialog.Color()});
+}
+
+TPropertyAttributes TMaskProperty::GetAttributes() const {
+  return TStringProperty::GetAttributes() + TPropertyAttributes{paDialog};
+}
+
+void TMaskProperty::Edit() {
+  std::string mask = GetValue();
+  if (EditMask(GetName(), mask)) SetValue(mask);
 }
 
 TPropertyAttributes TFontProperty::GetAttributes() const {

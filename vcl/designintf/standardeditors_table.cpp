@@ -17,6 +17,7 @@ const std::vector<TPropertyEditorEntry>& TypeEditors() {
       {VCL_EDITOR(TComponentNameProperty), "TComponentName", &TComponent::Class(), "Name"},
       {VCL_EDITOR(TTabOrderProperty), "Integer", &TWinControl::Class(), "TabOrder"},
       {VCL_EDITOR(TCaptionProperty), "TCaption", nullptr, ""},
+      {VCL_EDITOR(TMaskProperty), "TEditMask", nullptr, ""},
       {VCL_EDITOR(TFontNameProperty), "TFontName", nullptr, ""},
       {VCL_EDITOR(TShortCutProperty), "TShortCut", nullptr, ""},
       {VCL_EDITOR(TFontProperty), "TFont", nullptr, ""},

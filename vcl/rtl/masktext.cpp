@@ -80,6 +80,7 @@ TMaskText::TEdited TMaskText::Edited(std::string_view text) const {
   TEdited empty;
   for (const TCell& cell : FCells) empty += cell.Kind == 0 ? cell.Literal : FBlank;
   TEdited characters = ToCells(text);
+  if (Fits(characters)) return characters;
   const auto cells = static_cast<std::size_t>(
       std::ranges::count_if(FCells, [](const TCell& each) { return each.Kind != 0; }));
   if (FMissingLeft && characters.size() < cells) {

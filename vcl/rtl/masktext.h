@@ -27,11 +27,11 @@ class VCL_API EMaskError : public Exception {
 ///     \     the next character as it is             _     a blank as it is
 ///     !     optional characters are missing at the left instead of at the right
 ///
-/// Anything else stands in its cell as it is, a literal. Behind ";" may follow "0" when the literals
-/// are no part of the text, and behind another ";" the character that stands in an empty cell, "_"
-/// unless said. Characters beyond the basic plane fit no cell, so that cells are what the system's
-/// edits count. An edited text has one character for each cell; one that is the empty cell's, or a
-/// blank, is an empty cell.
+/// Anything else stands in its cell as it is, a literal. Behind ";" may follow "0" when the
+/// literals are no part of the text, and behind another ";" the character that stands in an empty
+/// cell, "_" unless said. Characters beyond the basic plane fit no cell, so that cells are what the
+/// system's edits count. An edited text has one character for each cell; one that is the empty
+/// cell's, or a blank, is an empty cell.
 class VCL_API TMaskText {
  public:
   using TEdited = std::u32string;
@@ -53,7 +53,7 @@ class VCL_API TMaskText {
   /// The last editable cell before `cell`; the first editable one when there is none.
   int Previous(int cell) const;
 
-  /// The cells that a text fills. What fits no cell is left out.
+  /// The cells that a text fills, or that it shows. What fits no cell is left out.
   TEdited Edited(std::string_view text) const;
   /// The text that the cells mean, in UTF-8: empty when nothing is filled in. With the literals,
   /// empty cells are blanks; without, so are those between others.

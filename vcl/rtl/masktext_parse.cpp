@@ -17,9 +17,9 @@ struct TCaseRange {
   char32_t Last;
   char32_t Distance;
 };
-constexpr TCaseRange Ranges[] = {{U'A', U'Z', 32},     {0xC0, 0xD6, 32},    {0xD8, 0xDE, 32},
-                                 {0x391, 0x3A1, 32},   {0x3A3, 0x3AB, 32},  {0x410, 0x42F, 32},
-                                 {0x400, 0x40F, 80},   {0x531, 0x556, 48}};
+constexpr TCaseRange Ranges[] = {{U'A', U'Z', 32},   {0xC0, 0xD6, 32},   {0xD8, 0xDE, 32},
+                                 {0x391, 0x3A1, 32}, {0x3A3, 0x3AB, 32}, {0x410, 0x42F, 32},
+                                 {0x400, 0x40F, 80}, {0x531, 0x556, 48}};
 /// Capitals at even numbers resp. at odd ones, each with its small letter behind it.
 constexpr char32_t EvenPairs[][2] = {{0x100, 0x12F}, {0x132, 0x137}, {0x14A, 0x177},
                                      {0x460, 0x481}, {0x48A, 0x4BF}, {0x1E00, 0x1E95}};
@@ -35,11 +35,10 @@ bool IsDigit(char32_t c) { return c >= U'0' && c <= U'9'; }
 
 /// Of any alphabet: beyond ASCII what is no sign.
 bool IsLetter(char32_t c) {
-  constexpr char32_t signs[][2] = {{0x00, 0x40},     {0x5B, 0x60},     {0x7B, 0xA9},
-                                   {0xAB, 0xB4},     {0xB6, 0xB9},     {0xBB, 0xBF},
-                                   {0xD7, 0xD7},     {0xF7, 0xF7},     {0x2000, 0x2BFF},
-                                   {0x3000, 0x3004}, {0x3008, 0x3020}, {0xD800, 0xF8FF},
-                                   {0xFE00, 0xFE6F}, {0xFEFF, 0xFF20}, {0xFFF0, 0x10FFFF}};
+  constexpr char32_t signs[][2] = {
+      {0x00, 0x40},     {0x5B, 0x60},     {0x7B, 0xA9},     {0xAB, 0xB4},     {0xB6, 0xB9},
+      {0xBB, 0xBF},     {0xD7, 0xD7},     {0xF7, 0xF7},     {0x2000, 0x2BFF}, {0x3000, 0x3004},
+      {0x3008, 0x3020}, {0xD800, 0xF8FF}, {0xFE00, 0xFE6F}, {0xFEFF, 0xFF20}, {0xFFF0, 0x10FFFF}};
   return !InAny(signs, c);
 }
 
@@ -97,8 +96,8 @@ class TMaskText::TParser {
   void Parse() {
     while (FAt < FMask.size() && FMask[FAt] != U';') ParseCell(FMask[FAt++]);
     if (FAt < FMask.size()) ParseFields(FMask.substr(FAt + 1));
-    const bool beyond = std::ranges::any_of(
-        FMask, [](char32_t each) { return each >= 0xD800 && each <= 0xDFFF; });
+    const bool beyond =
+        std::ranges::any_of(FMask, [](char32_t each) { return each >= 0xD800 && each <= 0xDFFF; });
     if (beyond) Refuse("has a character that no edit shows in one cell");
   }
 

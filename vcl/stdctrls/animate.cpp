@@ -222,8 +222,8 @@ void TAnimate::OpenInWindow() {
   const std::wstring name = ToUtf16(FFileName.empty() ? FResName : FFileName);
   const wchar_t* which = name.empty() ? MAKEINTRESOURCEW(FResId) : name.c_str();
   const auto module = FFileName.empty() ? ::GetModuleHandleW(nullptr) : nullptr;
-  const LRESULT opened = Send(*this, ACM_OPENW, reinterpret_cast<WPARAM>(module),
-                              reinterpret_cast<LPARAM>(which));
+  const LRESULT opened =
+      Send(*this, ACM_OPENW, reinterpret_cast<WPARAM>(module), reinterpret_cast<LPARAM>(which));
   if (!opened) {
     throw EAnimateError(
         Concat("The system cannot play '", Source().Shown(), "': it has sound, or is compressed"));

@@ -25,9 +25,9 @@ class VCL_API TAnimate : public TWinControl {
   void DescribeAccessible(TAccessibleInfo& info) const override;
 
   const std::string& FileName() const { return FFileName; }
-  /// The clip's file; empty for none. Taken instead of a resource. Raises EAnimateError for one that
-  /// cannot be opened or played, and then the clip from before stays; while a form is being read,
-  /// the application's handler is told instead, and the form goes on.
+  /// The clip's file; empty for none. Taken instead of a resource. Raises EAnimateError for one
+  /// that cannot be opened or played, and then the clip from before stays; while a form is being
+  /// read, the application's handler is told instead, and the form goes on.
   void SetFileName(const std::string& fileName);
   const std::string& ResName() const { return FResName; }
   /// The name of a resource of type AVI in the program; otherwise as FileName.

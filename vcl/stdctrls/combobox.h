@@ -9,16 +9,15 @@
 namespace vcl {
 
 enum TComboBoxStyle {
-  csDropDown,       ///< An edit with a list that drops down.
-  csSimple,         ///< An edit with a list below it.
-  csDropDownList,   ///< The text is one of the items.
+  csDropDown,          ///< An edit with a list that drops down.
+  csSimple,            ///< An edit with a list below it.
+  csDropDownList,      ///< The text is one of the items.
   csOwnerDrawFixed,    ///< Like csDropDownList, with the items drawn by OnDrawItem.
   csOwnerDrawVariable  ///< The same, each item in the list as high as OnMeasureItem says.
 };
 template <>
 inline constexpr TEnumText EnumText<TComboBoxStyle>{
-    "TComboBoxStyle",
-    "csDropDown csSimple csDropDownList csOwnerDrawFixed csOwnerDrawVariable"};
+    "TComboBoxStyle", "csDropDown csSimple csDropDownList csOwnerDrawFixed csOwnerDrawVariable"};
 
 /// A combo box. OnClick tells that the user has selected an item, OnChange that the text has
 /// changed.

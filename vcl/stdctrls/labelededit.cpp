@@ -7,31 +7,31 @@
 namespace vcl {
 
 const TClass& TBoundLabel::Class() {
-  static const TClass info = Describe<TBoundLabel, TCustomLabel>(
-      "vcl::TBoundLabel", "vcl/stdctrls/extctrls.h",
-      {
-          // The edit decides them.
-          Inherit("Left").Stored(false),
-          Inherit("Top").Stored(false),
-          Inherit("Width").Stored(false),
-          Inherit("Height").Stored(false),
-          Inherit("Caption"),
-          Inherit("Color"),
-          Inherit("Font"),
-          Inherit("ParentColor"),
-          Inherit("ParentFont"),
-          Inherit("ParentShowHint"),
-          Inherit("PopupMenu"),
-          Inherit("ShowAccelChar"),
-          Inherit("ShowHint"),
-          Inherit("Transparent"),
-          Inherit("WordWrap"),
-          Inherit("OnClick"),
-          Inherit("OnDblClick"),
-          Inherit(DragEvents),
-          Inherit(MouseEvents),
-          Inherit("OnStartDrag"),
-      });
+  static const TClass info =
+      Describe<TBoundLabel, TCustomLabel>("vcl::TBoundLabel", "vcl/stdctrls/extctrls.h",
+                                          {
+                                              // The edit decides them.
+                                              Inherit("Left").Stored(false),
+                                              Inherit("Top").Stored(false),
+                                              Inherit("Width").Stored(false),
+                                              Inherit("Height").Stored(false),
+                                              Inherit("Caption"),
+                                              Inherit("Color"),
+                                              Inherit("Font"),
+                                              Inherit("ParentColor"),
+                                              Inherit("ParentFont"),
+                                              Inherit("ParentShowHint"),
+                                              Inherit("PopupMenu"),
+                                              Inherit("ShowAccelChar"),
+                                              Inherit("ShowHint"),
+                                              Inherit("Transparent"),
+                                              Inherit("WordWrap"),
+                                              Inherit("OnClick"),
+                                              Inherit("OnDblClick"),
+                                              Inherit(DragEvents),
+                                              Inherit(MouseEvents),
+                                              Inherit("OnStartDrag"),
+                                          });
   return info;
 }
 
@@ -63,19 +63,19 @@ const TClass& TLabeledEdit::Class() {
   static const TClass info = Describe<TLabeledEdit, TCustomLabeledEdit>(
       "vcl::TLabeledEdit", "vcl/stdctrls/extctrls.h",
       {
-          Inherit("AutoSelect"),     Inherit("AutoSize"),      Inherit("BorderStyle"),
-          Inherit("CharCase"),       Inherit("Color"),         Inherit("Ctl3D"),
-          Inherit("DragCursor"),     Inherit("DragMode"),      Inherit("EditLabel"),
-          Inherit("Enabled"),        Inherit("Font"),          Inherit("HideSelection"),
-          Inherit("ImeMode"),        Inherit("ImeName"),       Inherit("LabelPosition"),
-          Inherit("LabelSpacing"),   Inherit("MaxLength"),     Inherit("ParentColor"),
-          Inherit("ParentCtl3D"),    Inherit("ParentFont"),    Inherit("ParentShowHint"),
-          Inherit("PasswordChar"),   Inherit("PopupMenu"),     Inherit("ReadOnly"),
-          Inherit("ShowHint"),       Inherit("TabOrder"),      Inherit("TabStop"),
-          Inherit("Text"),           Inherit("Visible"),       Inherit("OnChange"),
-          Inherit("OnClick"),        Inherit("OnDblClick"),    Inherit(DragEvents),
-          Inherit(FocusEvents),      Inherit(KeyEvents),       Inherit(MouseEvents),
-          Inherit(WheelEvents),      Inherit("OnStartDrag"),
+          Inherit("AutoSelect"),   Inherit("AutoSize"),    Inherit("BorderStyle"),
+          Inherit("CharCase"),     Inherit("Color"),       Inherit("Ctl3D"),
+          Inherit("DragCursor"),   Inherit("DragMode"),    Inherit("EditLabel"),
+          Inherit("Enabled"),      Inherit("Font"),        Inherit("HideSelection"),
+          Inherit("ImeMode"),      Inherit("ImeName"),     Inherit("LabelPosition"),
+          Inherit("LabelSpacing"), Inherit("MaxLength"),   Inherit("ParentColor"),
+          Inherit("ParentCtl3D"),  Inherit("ParentFont"),  Inherit("ParentShowHint"),
+          Inherit("PasswordChar"), Inherit("PopupMenu"),   Inherit("ReadOnly"),
+          Inherit("ShowHint"),     Inherit("TabOrder"),    Inherit("TabStop"),
+          Inherit("Text"),         Inherit("Visible"),     Inherit("OnChange"),
+          Inherit("OnClick"),      Inherit("OnDblClick"),  Inherit(DragEvents),
+          Inherit(FocusEvents),    Inherit(KeyEvents),     Inherit(MouseEvents),
+          Inherit(WheelEvents),    Inherit("OnStartDrag"),
       });
   return info;
 }

@@ -5,10 +5,10 @@
 
 namespace vcl {
 
-/// The look of a list's lines: swatches before names, names in their own fonts, pictures. A class of
-/// lists is such a look and two faces of a few lines that take it (TCustomListControl::SetLook), one
-/// a combo box, one a list box. Both ask it in the same way, so it knows the list by what all lists
-/// have: Items, Canvas, Font, ItemHeight, ScaledPixels.
+/// The look of a list's lines: swatches before names, names in their own fonts, pictures. A class
+/// of lists is such a look and two faces of a few lines that take it (TCustomListControl::SetLook),
+/// one a combo box, one a list box. Both ask it in the same way, so it knows the list by what all
+/// lists have: Items, Canvas, Font, ItemHeight, ScaledPixels.
 class VCL_API TLineLook {
  public:
   virtual ~TLineLook() = default;

@@ -22,12 +22,9 @@ TOwnerDrawState StateOf(UINT state) {
   static constexpr struct {
     UINT Bit;
     TOwnerDrawStateValue Value;
-  } values[] = {{ODS_SELECTED, odSelected},
-                {ODS_GRAYED, odGrayed},
-                {ODS_DISABLED, odDisabled},
-                {ODS_CHECKED, odChecked},
-                {ODS_FOCUS, odFocused},
-                {ODS_COMBOBOXEDIT, odComboBoxEdit}};
+  } values[] = {{ODS_SELECTED, odSelected}, {ODS_GRAYED, odGrayed},
+                {ODS_DISABLED, odDisabled}, {ODS_CHECKED, odChecked},
+                {ODS_FOCUS, odFocused},     {ODS_COMBOBOXEDIT, odComboBoxEdit}};
   TOwnerDrawState set;
   for (const auto& each : values) {
     if (state & each.Bit) set.Include(each.Value);

@@ -2,6 +2,7 @@
 #include "vcl/stdctrls/maskedit.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/windowmessages.h"
@@ -31,18 +32,18 @@ const TClass& TMaskEdit::Class() {
   static const TClass info = Describe<TMaskEdit, TCustomMaskEdit>(
       "vcl::TMaskEdit", "vcl/stdctrls/stdctrls.h",
       {
-          Inherit("AutoSelect"),    Inherit("AutoSize"),    Inherit("BorderStyle"),
-          Inherit("CharCase"),      Inherit("Color"),       Inherit("Ctl3D"),
-          Inherit("DragCursor"),    Inherit("DragMode"),    Inherit("Enabled"),
-          Inherit("EditMask"),      Inherit("Font"),        Inherit("HideSelection"),
-          Inherit("ImeMode"),       Inherit("ImeName"),     Inherit("MaxLength"),
-          Inherit("ParentColor"),   Inherit("ParentCtl3D"), Inherit("ParentFont"),
+          Inherit("AutoSelect"),     Inherit("AutoSize"),     Inherit("BorderStyle"),
+          Inherit("CharCase"),       Inherit("Color"),        Inherit("Ctl3D"),
+          Inherit("DragCursor"),     Inherit("DragMode"),     Inherit("Enabled"),
+          Inherit("EditMask"),       Inherit("Font"),         Inherit("HideSelection"),
+          Inherit("ImeMode"),        Inherit("ImeName"),      Inherit("MaxLength"),
+          Inherit("ParentColor"),    Inherit("ParentCtl3D"),  Inherit("ParentFont"),
           Inherit("ParentShowHint"), Inherit("PasswordChar"), Inherit("PopupMenu"),
-          Inherit("ReadOnly"),      Inherit("ShowHint"),    Inherit("TabOrder"),
-          Inherit("TabStop"),       Inherit("Text"),        Inherit("Visible"),
-          Inherit("OnChange"),      Inherit("OnClick"),     Inherit("OnDblClick"),
-          Inherit(DragEvents),      Inherit(FocusEvents),   Inherit(KeyEvents),
-          Inherit(MouseEvents),     Inherit(WheelEvents),   Inherit("OnStartDrag"),
+          Inherit("ReadOnly"),       Inherit("ShowHint"),     Inherit("TabOrder"),
+          Inherit("TabStop"),        Inherit("Text"),         Inherit("Visible"),
+          Inherit("OnChange"),       Inherit("OnClick"),      Inherit("OnDblClick"),
+          Inherit(DragEvents),       Inherit(FocusEvents),    Inherit(KeyEvents),
+          Inherit(MouseEvents),      Inherit(WheelEvents),    Inherit("OnStartDrag"),
       });
   return info;
 }
@@ -55,12 +56,14 @@ void TCustomMaskEdit::SetEditMask(const std::string& mask) {
   FMask = std::move(cells);
   FCells.clear();
   SendIfAllocated(*this, EM_LIMITTEXT, static_cast<WPARAM>(IsMasked() ? 0 : MaxLength()));
-  SetText(text);
+  SetTextBuf(text.c_str());
   FEntered = EditText();
 }
 
-std::string TCustomMaskEdit::Text() const {
-  return IsMasked() ? FMask.Text(FCells) : EditText();
+std::string TCustomMaskEdit::Text() const { return IsMasked() ? FMask.Text(FCells) : EditText(); }
+
+void TCustomMaskEdit::SetText(const std::string& text) {
+  TCustomEdit::SetText(IsMasked() ? FromCells(FMask.Edited(text)) : text);
 }
 
 void TCustomMaskEdit::SetTextBuf(const char* text) {
@@ -189,8 +192,8 @@ void TCustomMaskEdit::KeyPress(char32_t& key) {
   TCustomEdit::KeyPress(key);
   if (watch.Gone() || !IsMasked()) return;
   const char32_t pressed = key;
-  const bool takes = pressed >= U' ' || pressed == VK_BACK || pressed == paste ||
-                     pressed == cut || (pressed == VK_ESCAPE && Altered());
+  const bool takes = pressed >= U' ' || pressed == VK_BACK || pressed == paste || pressed == cut ||
+                     (pressed == VK_ESCAPE && Altered());
   if (!takes) return;
   key = 0;
   if (!CanModify()) return;
@@ -204,13 +207,18 @@ void TCustomMaskEdit::KeyPress(char32_t& key) {
 }
 
 void TCustomMaskEdit::DoEnter() {
-  FEntered = EditText();
+  if (!std::exchange(FStays, false)) FEntered = EditText();
   TCustomEdit::DoEnter();
 }
 
 void TCustomMaskEdit::DoExit() {
   if (Altered()) {
-    const TOnFailure refused([this] { SetFocus(); }, this);
+    const auto stay = [this] {
+      FStays = true;
+      SetFocus();
+      SetSelStart(FMask.FirstMissing(FCells));
+    };
+    const TOnFailure refused(stay, this);
     ValidateEdit();
   }
   TCustomEdit::DoExit();
@@ -220,7 +228,10 @@ void TCustomMaskEdit::DoExit() {
 bool TCustomMaskEdit::TakeCommand(UINT message) {
   switch (message) {
     case WM_PASTE: TypeOver(ToCells(ClipboardText())); return true;
-    case WM_CUT: CopyToClipboard(); ClearSelected(); return true;
+    case WM_CUT:
+      CopyToClipboard();
+      ClearSelected();
+      return true;
     case WM_CLEAR: ClearSelected(); return true;
     default: return false;
   }

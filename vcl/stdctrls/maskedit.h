@@ -9,8 +9,8 @@
 namespace vcl {
 
 /// An edit in which what is typed goes into the cells of a mask (TMaskText). Without one it is an
-/// edit like others. When the focus leaves with a text that the user has changed and that lacks what
-/// the mask requires, EMaskError is raised and the focus stays; Escape takes back what he has
+/// edit like others. When the focus leaves with a text that the user has changed and that lacks
+/// what the mask requires, EMaskError is raised and the focus stays; Escape takes back what he has
 /// changed.
 class VCL_API TCustomMaskEdit : public TCustomEdit {
  public:
@@ -26,7 +26,7 @@ class VCL_API TCustomMaskEdit : public TCustomEdit {
   /// The text that the cells mean: without the literals when the mask leaves them out.
   std::string Text() const;
   /// The text, with or without the mask's literals; what fits no cell is left out.
-  void SetText(const std::string& text) { TCustomEdit::SetText(text); }
+  void SetText(const std::string& text);
   /// The text as it is seen, with literals and empty cells.
   std::string EditText() const { return TCustomEdit::Text(); }
   /// As SetText.
@@ -63,9 +63,10 @@ class VCL_API TCustomMaskEdit : public TCustomEdit {
 
   std::string FEditMask;
   TMaskText FMask;
-  TEdited FCells;         // What is in the cells.
-  std::string FEntered;   // The text when the focus came.
+  TEdited FCells;        // What is in the cells.
+  std::string FEntered;  // The text when the focus came.
   bool FApplying = false;
+  bool FStays = false;  // The focus comes back, as the text was not complete.
 };
 
 /// An edit with a mask, for forms.

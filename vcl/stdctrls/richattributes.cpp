@@ -67,9 +67,8 @@ std::string TTextAttributes::Name() const { return ToUtf8(CharFormat(FEdit, FOf)
 
 void TTextAttributes::SetName(const std::string& name) {
   const std::wstring wide = rich::CheckedFace(name);
-  ChangeText(FEdit, FOf, CFM_FACE, [&](CHARFORMAT2W& format) {
-    std::ranges::copy(wide, format.szFaceName);
-  });
+  ChangeText(FEdit, FOf, CFM_FACE,
+             [&](CHARFORMAT2W& format) { std::ranges::copy(wide, format.szFaceName); });
 }
 
 double TTextAttributes::Size() const {
@@ -93,8 +92,7 @@ TColor TTextAttributes::Color() const {
 }
 
 void TTextAttributes::SetColor(TColor color) {
-  ChangeText(FEdit, FOf, CFM_COLOR,
-             [&](CHARFORMAT2W& format) { rich::PutColor(format, color); });
+  ChangeText(FEdit, FOf, CFM_COLOR, [&](CHARFORMAT2W& format) { rich::PutColor(format, color); });
 }
 
 TFontStyles TTextAttributes::Style() const {

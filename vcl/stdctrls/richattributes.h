@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "vcl/graphics/font.h"
 #include "vcl/controls/controltypes.h"
+#include "vcl/graphics/font.h"
 #include "vcl/rtl/persistent.h"
 #include "vcl/rtl/systemtypes.h"
 

@@ -24,8 +24,8 @@ template <>
 inline constexpr TEventText EventText<TRichEditResizeEvent>{
     "TRichEditResizeEvent", "vcl::TObject* sender, const vcl::TRect& rect"};
 
-/// The system's rich edit. Positions count UTF-16 units, and an end of line as 1. The looks are kept
-/// when the window is made anew; form files hold the lines without them.
+/// The system's rich edit. Positions count UTF-16 units, and an end of line as 1. The looks are
+/// kept when the window is made anew; form files hold the lines without them.
 class VCL_API TCustomRichEdit : public TCustomMemo {
  public:
   explicit TCustomRichEdit(TComponent* owner);
@@ -47,8 +47,8 @@ class VCL_API TCustomRichEdit : public TCustomMemo {
   void SetPlainText(bool plain) { FPlainText = plain; }
   std::string SelText() const;
 
-  // Loading and saving (richedit_files.cpp). With PlainText it is text, else RTF; what is loaded and
-  // does not begin as RTF is taken as text.
+  // Loading and saving (richedit_files.cpp). With PlainText it is text, else RTF; what is loaded
+  // and does not begin as RTF is taken as text.
   /// Raises EReadError for RTF that is cut off; the edit then keeps what it had.
   void LoadFromStream(TStream& stream);
   void SaveToStream(TStream& stream) const;
@@ -94,9 +94,9 @@ class VCL_API TCustomRichEdit : public TCustomMemo {
   std::unique_ptr<TParaAttributes> FParagraph;
   bool FHideScrollBars = true;
   bool FPlainText = false;
-  bool FFormatted = false;     // Some text has a look of its own.
-  std::string FKeptRtf;        // While there is no window.
-  std::string FKeptDefault;    // The CHARFORMAT2W of DefAttributes, once it is not the font's.
+  bool FFormatted = false;   // Some text has a look of its own.
+  std::string FKeptRtf;      // While there is no window.
+  std::string FKeptDefault;  // The CHARFORMAT2W of DefAttributes, once it is not the font's.
 };
 
 /// A rich edit for forms.

@@ -1,5 +1,6 @@
 // TCustomRichEdit: RTF and text in streams and files, and finding text.
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <exception>
 
@@ -16,9 +17,26 @@ namespace vcl {
 namespace {
 
 constexpr std::string_view RtfStart = "{\\rtf";
+constexpr std::string_view Utf8RtfStart = "{\\urtf";
 constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 
-bool IsRtf(std::string_view bytes) { return bytes.starts_with(RtfStart); }
+bool IsRtf(std::string_view bytes) {
+  return bytes.starts_with(RtfStart) || bytes.starts_with(Utf8RtfStart);
+}
+
+/// RTF in UTF-8, as some systems write it, with its characters by their numbers instead.
+std::string ForEveryReader(const std::string& rtf) {
+  if (!rtf.starts_with(Utf8RtfStart)) return rtf;
+  std::string readable = "{\\rtf1\\ansi";
+  for (const char16_t unit : ToUtf16Units(rtf.substr(Utf8RtfStart.size()))) {
+    if (unit < 0x80) {
+      readable += static_cast<char>(unit);
+    } else {
+      readable += Concat("\\u", std::to_string(static_cast<std::int16_t>(unit)), "?");
+    }
+  }
+  return readable;
+}
 
 /// The system reads RTF that ends in the middle without a word.
 void CheckRtf(std::string_view rtf) {
@@ -63,13 +81,13 @@ void TCustomRichEdit::StreamIn(const std::string& rtf) {
   std::string_view rest = rtf;
   EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, &Give};
   Send(*this, EM_LIMITTEXT, 0);  // The limit is for what the user types.
-  const TAtEnd limited(
-      [this] { Send(*this, EM_LIMITTEXT, static_cast<WPARAM>(MaxLength())); }, this);
+  const TAtEnd limited([this] { Send(*this, EM_LIMITTEXT, static_cast<WPARAM>(MaxLength())); },
+                       this);
   FFormatted = true;
   Send(*this, EM_STREAMIN, SF_RTF, reinterpret_cast<LPARAM>(&stream));
   if (stream.dwError != 0) {
-    throw EReadError(Concat("The system cannot read the RTF: error ",
-                            std::to_string(stream.dwError)));
+    throw EReadError(
+        Concat("The system cannot read the RTF: error ", std::to_string(stream.dwError)));
   }
 }
 
@@ -78,11 +96,11 @@ std::string TCustomRichEdit::Rtf() const {
   EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rtf), 0, &Take};
   Send(*this, EM_STREAMOUT, SF_RTF, reinterpret_cast<LPARAM>(&stream));
   if (stream.dwError != 0) {
-    throw EWriteError(Concat("The system cannot write the text as RTF: error ",
-                             std::to_string(stream.dwError)));
+    throw EWriteError(
+        Concat("The system cannot write the text as RTF: error ", std::to_string(stream.dwError)));
   }
-  // The system ends it with a zero.
-  return rtf.substr(0, rtf.find('\0'));
+  // Some systems end it with a zero.
+  return ForEveryReader(rtf.substr(0, rtf.find('\0')));
 }
 
 void TCustomRichEdit::SetRtf(const std::string& rtf) {
@@ -128,8 +146,7 @@ int TCustomRichEdit::FindText(const std::string& text, int start, int length,
   WPARAM flags = FR_DOWN;
   if (options.Has(stWholeWord)) flags |= FR_WHOLEWORD;
   if (options.Has(stMatchCase)) flags |= FR_MATCHCASE;
-  return static_cast<int>(
-      Send(*this, EM_FINDTEXTEXW, flags, reinterpret_cast<LPARAM>(&find)));
+  return static_cast<int>(Send(*this, EM_FINDTEXTEXW, flags, reinterpret_cast<LPARAM>(&find)));
 }
 
 }  // namespace vcl

@@ -57,11 +57,10 @@ TFontStyles StyleOf(DWORD effects) {
 }
 
 CHARFORMAT2W FormatOf(const TFont& font) {
-  constexpr int twipsPerInch = 72 * TwipsPerPoint;
   CHARFORMAT2W format = EmptyCharFormat();
   format.dwMask = CFM_FACE | CFM_SIZE | CFM_COLOR | CFM_CHARSET | StyleMask;
   std::ranges::copy(CheckedFace(font.Name()), format.szFaceName);
-  format.yHeight = std::abs(font.Height()) * twipsPerInch / font.PixelsPerInch();
+  format.yHeight = std::abs(font.Size()) * TwipsPerPoint;
   format.bCharSet = font.Charset();
   format.dwEffects = EffectsOf(font.Style());
   PutColor(format, font.Color());

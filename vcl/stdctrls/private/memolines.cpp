@@ -81,7 +81,8 @@ void TMemoLines::Replace(int index, const F& choose, const std::string& with) {
     const std::wstring text = ToUtf16(FMemo.Text());
     const auto [start, end] = choose(FindLine(text, index));
     const auto position = [&](std::size_t at) {
-      const auto ends = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), L'\n');
+      const auto ends =
+          std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), L'\n');
       return FMemo.LineEndUnits() == 1 ? at - static_cast<std::size_t>(ends) : at;
     };
     ReplaceInWindow(FMemo, position(start), position(end), with);
