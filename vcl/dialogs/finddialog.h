@@ -5,6 +5,7 @@
 #include <string>
 
 #include "vcl/dialogs/commondialog.h"
+#include "vcl/rtl/systemmacros.h"
 
 namespace vcl {
 
