@@ -6,6 +6,7 @@
 #include "demos/notes/printtext.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/filenames.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
@@ -95,6 +96,9 @@ void TNotesForm::PrintClick(TObject*) {
   TPrinter& printer = *Printer();
   printer.SetTitle(DocumentName());
   printer.BeginDoc();
+  const TOnFailure giveUp([&printer] {
+    if (printer.Printing()) printer.Abort();
+  });
   DrawPages(this, printer);
   printer.EndDoc();
 }
