@@ -67,6 +67,46 @@ void TFindForm::CloseButtonClick(TObject*) { Close(); }
 
 // About.
 
+const TClass& TPreviewForm::Class() {
+  using T = TPreviewForm;
+  static const TClass info =
+      Describe<T, TForm>("notes::TPreviewForm", "demos/notes/dialogs.h",
+                         {
+                             Field<&T::Preview>("Preview"),
+                             Field<&T::SizeCombo>("SizeCombo"),
+                             Method<&T::PrintButtonClick>("PrintButtonClick"),
+                             Method<&T::PriorButtonClick>("PriorButtonClick"),
+                             Method<&T::NextButtonClick>("NextButtonClick"),
+                             Method<&T::SizeComboChange>("SizeComboChange"),
+                         });
+  return info;
+}
+
+TPreviewForm::TPreviewForm(TComponent* owner) : TForm(owner) {
+  LoadForm();
+  SizeCombo->SetItemIndex(0);
+}
+
+void TPreviewForm::Show(const std::string& name, const TPrintPagesEvent& draw) {
+  Preview->SetTitle(name);
+  Preview->OnPrint = draw;
+  Preview->UpdatePages();
+}
+
+void TPreviewForm::PrintButtonClick(TObject*) { Preview->Print(); }
+void TPreviewForm::PriorButtonClick(TObject*) { Preview->PriorPage(); }
+void TPreviewForm::NextButtonClick(TObject*) { Preview->NextPage(); }
+
+void TPreviewForm::SizeComboChange(TObject*) {
+  static constexpr int zooms[] = {50, 100, 200};
+  constexpr int twoPages = 1;
+  constexpr int pageWidth = 2;
+  const int chosen = SizeCombo->ItemIndex();
+  Preview->SetPagesAcross(chosen == twoPages ? 2 : 1);
+  if (chosen > pageWidth) return Preview->SetZoom(zooms[chosen - pageWidth - 1]);
+  Preview->SetSize(chosen == pageWidth ? psPageWidth : psWholePage);
+}
+
 const TClass& TAboutForm::Class() {
   using T = TAboutForm;
   static const TClass info = Describe<T, TForm>("notes::TAboutForm", "demos/notes/dialogs.h",

@@ -8,6 +8,7 @@
 #include "qel/controls/Qeltlabel.h"
 #include "qel/controls/Qeltspinedit.h"
 #include "vcl/forms/forms.h"
+#include "vcl/printing/printpreview.h"
 #include "vcl/stdctrls/extctrls.h"
 #include "vcl/stdctrls/stdctrls.h"
 
@@ -55,6 +56,27 @@ class TFindForm : public vcl::TForm {
   vcl::TEdit* WhatEdit = nullptr;
   vcl::TCheckBox* MatchCaseBox = nullptr;
   vcl::TButton* NextButton = nullptr;
+};
+
+/// The form of preview.dfm.
+class TPreviewForm : public vcl::TForm {
+ public:
+  explicit TPreviewForm(vcl::TComponent* owner);
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  /// Shows what the handler draws, under that name.
+  void Show(const std::string& name, const vcl::TPrintPagesEvent& draw);
+  using TForm::Show;
+
+ private:
+  void PrintButtonClick(vcl::TObject* sender);
+  void PriorButtonClick(vcl::TObject* sender);
+  void NextButtonClick(vcl::TObject* sender);
+  void SizeComboChange(vcl::TObject* sender);
+
+  vcl::TPrintPreview* Preview = nullptr;
+  vcl::TComboBox* SizeCombo = nullptr;
 };
 
 /// The form of about.dfm.

@@ -9,6 +9,7 @@ object NotesForm: TNotesForm
   Menu = MainMenu
   OnClose = FormClose
   OnCloseQuery = FormCloseQuery
+  OnDropFiles = FilesDropped
   OnResize = FormResize
   OnShow = FormShow
   object Editor: TMemo
@@ -79,6 +80,25 @@ object NotesForm: TNotesForm
         Hint = 'Saves the text in another file'
         ShortCut = 24659
         OnClick = SaveAsClick
+      end
+      object PrintEnd: TMenuItem
+        Caption = '-'
+      end
+      object PageSetupItem: TMenuItem
+        Caption = 'Pa&ge set-up...'
+        Hint = 'Chooses the sheet and its margins'
+        OnClick = PageSetupClick
+      end
+      object PreviewItem: TMenuItem
+        Caption = 'Print pre&view...'
+        Hint = 'Shows the pages as they will be printed'
+        OnClick = PreviewClick
+      end
+      object PrintItem: TMenuItem
+        Caption = '&Print...'
+        Hint = 'Prints the text'
+        ShortCut = 16464
+        OnClick = PrintClick
       end
       object RecentEnd: TMenuItem
         Caption = '-'
@@ -234,6 +254,14 @@ object NotesForm: TNotesForm
     Options = [fdForceFontExist]
     Left = 184
     Top = 24
+  end
+  object PageSetupDialog: TPageSetupDialog
+    Left = 264
+    Top = 72
+  end
+  object PrintDialog: TPrintDialog
+    Left = 304
+    Top = 72
   end
   object RecoveryTimer: TTimer
     OnTimer = RecoveryTimerTick

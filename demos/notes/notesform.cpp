@@ -34,6 +34,8 @@ const TClass& TNotesForm::Class() {
                              Field<&T::OpenDialog>("OpenDialog"),
                              Field<&T::SaveDialog>("SaveDialog"),
                              Field<&T::FontDialog>("FontDialog"),
+                             Field<&T::PageSetupDialog>("PageSetupDialog"),
+                             Field<&T::PrintDialog>("PrintDialog"),
                              Field<&T::RecoveryTimer>("RecoveryTimer"),
                              Field<&T::Guard>("Guard"),
                              Field<&T::Settings>("Settings"),
@@ -58,6 +60,10 @@ const TClass& TNotesForm::Class() {
                              Method<&T::SaveClick>("SaveClick"),
                              Method<&T::SaveAsClick>("SaveAsClick"),
                              Method<&T::RecentClick>("RecentClick"),
+                             Method<&T::FilesDropped>("FilesDropped"),
+                             Method<&T::PageSetupClick>("PageSetupClick"),
+                             Method<&T::PreviewClick>("PreviewClick"),
+                             Method<&T::PrintClick>("PrintClick"),
                              Method<&T::RecoveryTimerTick>("RecoveryTimerTick"),
                              Method<&T::EditorChange>("EditorChange"),
                              Method<&T::FindClick>("FindClick"),
@@ -179,10 +185,19 @@ void TNotesForm::GuardExceeded(TObject*, int) {
                         patience, nullptr);
 }
 
-// The copy waits for the answer, so the file is opened afterwards.
 void TNotesForm::TakeFromCopy(const COPYDATASTRUCT& data) {
   if (data.dwData != FileToOpen) return;
-  FWanted.emplace_back(static_cast<const char*>(data.lpData), data.cbData);
+  OpenLater({{static_cast<const char*>(data.lpData), data.cbData}});
+}
+
+void TNotesForm::FilesDropped(TObject*, const std::vector<std::string>& files, TPoint) {
+  OpenLater(files);
+}
+
+// The program that they come from waits for the answer, so the files are opened afterwards, one
+// after another.
+void TNotesForm::OpenLater(const std::vector<std::string>& files) {
+  FWanted.insert(FWanted.end(), files.begin(), files.end());
   ::PostMessageW(Handle(), WM_OPENWANTED, 0, 0);
 }
 

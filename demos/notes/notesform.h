@@ -16,6 +16,7 @@
 #include "vcl/dialogs/dialogs.h"
 #include "vcl/forms/forms.h"
 #include "vcl/menus/menus.h"
+#include "vcl/printing/printdialogs.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/comctrls.h"
 #include "vcl/stdctrls/extctrls.h"
@@ -24,8 +25,8 @@
 namespace notes {
 
 /// The form of notes.dfm. The sources hold a group of its work each: notesform.cpp the form itself
-/// and its options, notesform_file.cpp files and unsaved text, notesform_edit.cpp editing and what
-/// the status bar says.
+/// and its options, notesform_file.cpp files, printing and unsaved text, notesform_edit.cpp editing
+/// and what the status bar says.
 class TNotesForm : public vcl::TForm {
  public:
   explicit TNotesForm(vcl::TComponent* owner);
@@ -35,6 +36,8 @@ class TNotesForm : public vcl::TForm {
 
   /// Shows a file's text. Raises EInOutError, and keeps the text that is shown.
   void Open(const std::string& fileName);
+  /// Draws the text's pages, for a preview or on paper.
+  void DrawPages(vcl::TObject* sender, vcl::TPrintDocument& document);
 
  protected:
   void Loaded() override;
@@ -49,6 +52,8 @@ class TNotesForm : public vcl::TForm {
   vcl::TOpenDialog* OpenDialog = nullptr;
   vcl::TSaveDialog* SaveDialog = nullptr;
   vcl::TFontDialog* FontDialog = nullptr;
+  vcl::TPageSetupDialog* PageSetupDialog = nullptr;
+  vcl::TPrintDialog* PrintDialog = nullptr;
   vcl::TTimer* RecoveryTimer = nullptr;
   qel::TQELOnlyOne* Guard = nullptr;
   qel::TQELStoreData* Settings = nullptr;
@@ -76,6 +81,7 @@ class TNotesForm : public vcl::TForm {
   // Other copies of the program.
   void GuardExceeded(vcl::TObject* sender, int instances);
   void TakeFromCopy(const COPYDATASTRUCT& data);
+  void OpenLater(const std::vector<std::string>& files);
   void OpenNextWanted();
 
   // Files and unsaved text.
@@ -84,6 +90,11 @@ class TNotesForm : public vcl::TForm {
   void SaveClick(vcl::TObject* sender);
   void SaveAsClick(vcl::TObject* sender);
   void RecentClick(vcl::TObject* sender, std::string fileName);
+  void FilesDropped(vcl::TObject* sender, const std::vector<std::string>& files,
+                    vcl::TPoint position);
+  void PageSetupClick(vcl::TObject* sender);
+  void PreviewClick(vcl::TObject* sender);
+  void PrintClick(vcl::TObject* sender);
   void RecoveryTimerTick(vcl::TObject* sender);
   void OpenIfWanted(const std::string& fileName);
   bool Save();

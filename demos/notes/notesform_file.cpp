@@ -3,8 +3,10 @@
 
 #include "demos/common/commandline.h"
 #include "demos/notes/notesform.h"
+#include "demos/notes/printtext.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/filenames.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
@@ -77,6 +79,33 @@ void TNotesForm::RecentClick(TObject*, std::string fileName) {
 void TNotesForm::Remember(const std::string& fileName) {
   RecentFiles->Insert(fileName);
   RecentFiles->Save();
+}
+
+// Printing.
+
+void TNotesForm::PageSetupClick(TObject*) { PageSetupDialog->Execute(); }
+
+void TNotesForm::PreviewClick(TObject*) {
+  TPreviewForm form(nullptr);
+  form.Show(DocumentName(), {this, &TNotesForm::DrawPages});
+  form.ShowModal();
+}
+
+void TNotesForm::PrintClick(TObject*) {
+  if (!PrintDialog->Execute()) return;
+  TPrinter& printer = *Printer();
+  printer.SetTitle(DocumentName());
+  printer.BeginDoc();
+  const TOnFailure giveUp([&printer] {
+    if (printer.Printing()) printer.Abort();
+  });
+  DrawPages(this, printer);
+  printer.EndDoc();
+}
+
+void TNotesForm::DrawPages(TObject*, TPrintDocument& document) {
+  PrintText(document, DocumentName(), Editor->Text(), *Editor->Font(),
+            PageSetupDialog->TextArea(document));
 }
 
 // Saving.

@@ -51,6 +51,10 @@ std::vector<std::string> SaveScreenshots(TNotesForm& form, const std::string& fo
   find.Ask("Tea");
   take(find, "find");
   find.Hide();
+  TPreviewForm preview(nullptr);
+  preview.Show("Shopping", {&form, &TNotesForm::DrawPages});
+  take(preview, "preview");
+  preview.Hide();
   TOptionsForm options(nullptr);
   options.Show(TOptions());
   take(options, "options");

@@ -18,9 +18,9 @@ namespace {
 
 using namespace vcl;
 
-constexpr const char* FormClasses[] = {"TGalleryForm", "TNotesForm",   "TFindForm",
-                                       "TOptionsForm", "TAboutForm",   "TMailerForm",
-                                       "TComposeForm", "TAccountForm", "TRecordsForm"};
+constexpr const char* FormClasses[] = {
+    "TGalleryForm", "TNotesForm",  "TFindForm",    "TOptionsForm", "TAboutForm",
+    "TPreviewForm", "TMailerForm", "TComposeForm", "TAccountForm", "TRecordsForm"};
 
 std::string FormFile(const std::string& name) {
   return TResourceStream(nullptr, UpperCase(name), MAKEINTRESOURCEA(10)).ReadRest();

@@ -30,7 +30,6 @@ class TPrintPreview::TPage : public TGraphicControl {
       : TGraphicControl(&preview), FPreview(preview), FIndex(index) {
     SetParent(&preview);
   }
-  static const TClass& Class() { return TGraphicControl::Class(); }
 
   void DescribeAccessible(TAccessibleInfo& info) const override {
     TGraphicControl::DescribeAccessible(info);
@@ -140,14 +139,14 @@ void TPrintPreview::UpdatePages() {
   auto recorder = std::make_unique<TPageRecorder>(WantedMetrics());
   const TWatch watch(this);
   Draw(*recorder);
-  if (!watch.Gone()) Show(std::move(recorder));
+  if (!watch.Gone()) ShowPages(std::move(recorder));
 }
 
 void TPrintPreview::Print() { Draw(*Printer()); }
 
-void TPrintPreview::Clear() { Show(nullptr); }
+void TPrintPreview::Clear() { ShowPages(nullptr); }
 
-void TPrintPreview::Show(std::unique_ptr<TPageRecorder> recorder) {
+void TPrintPreview::ShowPages(std::unique_ptr<TPageRecorder> recorder) {
   for (TPage* page : std::exchange(FPages, {})) delete page;
   FRecorder = std::move(recorder);
   FPage = PageCount() > 0 ? 0 : -1;

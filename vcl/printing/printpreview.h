@@ -85,7 +85,7 @@ class VCL_API TPrintPreview : public TScrollingWinControl {
   class TPage;
   TPageMetrics WantedMetrics() const;
   void Draw(TPrintDocument& document);
-  void Show(std::unique_ptr<TPageRecorder> recorder);
+  void ShowPages(std::unique_ptr<TPageRecorder> recorder);
   void PlacePages();
   /// A page's size in the control's pixels.
   TSize PageSize() const;

@@ -37,9 +37,13 @@ class TDropTarget::TWindow final : public TWindowWatch {
 
  protected:
   void WindowMade(HWND window) override {
-    if (FOwner->Designing() || std::exchange(FRegistered, true)) return;
+    if (FOwner->Designing() || FRegistered) return;
     NeedOle();
-    ::RegisterDragDrop(window, FTarget.get());
+    const HRESULT result = ::RegisterDragDrop(window, FTarget.get());
+    FRegistered = SUCCEEDED(result);
+    if (FRegistered) return;
+    throw EOutOfResources(Concat("The system lets nothing be dropped on the control '",
+                                 Watched()->Name(), "': error ", std::to_string(result)));
   }
   void WindowEnding(HWND window) override {
     if (std::exchange(FRegistered, false)) ::RevokeDragDrop(window);
