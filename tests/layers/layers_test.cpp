@@ -46,7 +46,7 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"vcl/menus", window},
       {"vcl/actions", window},
       {"vcl/forms", vcl},  // Forms register the standard classes.
-      {"vcl/stdctrls", window},
+      {"vcl/stdctrls", with(window, {"vcl/transfer"})},
       {"vcl/transfer", window},
       {"vcl/dialogs", dialogs},
       {"vcl/printing", dialogs},

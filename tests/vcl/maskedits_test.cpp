@@ -3,6 +3,7 @@
 #include "tests/support/texts.h"
 #include "tests/vcl/standardform.h"
 #include "vcl/forms/standardclasses.h"
+#include "vcl/transfer/clipboard.h"
 
 namespace vcl {
 namespace {
@@ -52,7 +53,7 @@ TEST_F(MaskEdits, WhatIsTypedGoesIntoTheCells) {
 TEST_F(MaskEdits, TheClipboardAndInputMethodsFillCells) {
   auto* edit = MakeMasked("00/00/00");
   const std::string empty = edit->EditText();
-  SetClipboardText("24-1205");
+  Clipboard()->SetAsText("24-1205");
   edit->PasteFromClipboard();
   EXPECT_EQ(edit->Text(), edit->EditText());
   EXPECT_EQ(edit->EditText().substr(0, 2), "24");
@@ -60,7 +61,7 @@ TEST_F(MaskEdits, TheClipboardAndInputMethodsFillCells) {
   edit->SelectAll();
   edit->CutToClipboard();
   EXPECT_EQ(edit->EditText(), empty);
-  EXPECT_EQ(ClipboardText().substr(0, 2), "24");
+  EXPECT_EQ(Clipboard()->AsText().substr(0, 2), "24");
   edit->SetSelStart(1);
   ::SendMessageW(edit->Handle(), WM_IME_CHAR, L'7', 1);
   testinput::Pump();

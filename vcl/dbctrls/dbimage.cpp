@@ -3,15 +3,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 #include "vcl/controls/propertygroups.h"
-#include "vcl/forms/clipboardtext.h"
 #include "vcl/graphics/canvas.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
+#include "vcl/transfer/clipboard.h"
 
 namespace vcl {
 namespace {
@@ -49,53 +48,6 @@ std::string BytesOf(const TGraphic& graphic) {
   TStringStream stream;
   graphic.SaveToStream(stream);
   return std::string(stream.DataString());
-}
-
-/// A bitmap on the clipboard is the file's without what stands in front of it.
-constexpr std::size_t FileHeader = sizeof(BITMAPFILEHEADER);
-
-void PutOnClipboard(const TGraphic& graphic) {
-  TBitmap bitmap;
-  bitmap.Assign(&graphic);
-  const std::string bytes = BytesOf(bitmap).substr(FileHeader);
-  const TClipboardTurn turn;
-  ::EmptyClipboard();
-  const HGLOBAL block = ::GlobalAlloc(GMEM_MOVEABLE, bytes.size());
-  if (!block) throw EInOutError("The picture is too large for the clipboard");
-  std::memcpy(::GlobalLock(block), bytes.data(), bytes.size());
-  ::GlobalUnlock(block);
-  if (::SetClipboardData(CF_DIB, block)) return;
-  ::GlobalFree(block);
-  throw EInOutError("The clipboard does not take the picture");
-}
-
-/// How many bytes stand between the beginning of such a bitmap and its pixels.
-std::size_t HeadLength(const BITMAPINFOHEADER& head) {
-  const std::size_t colors = head.biClrUsed      ? head.biClrUsed
-                             : head.biBitCount < 16 ? std::size_t{1} << head.biBitCount
-                                                    : 0;
-  const bool masks = head.biSize == sizeof head && head.biCompression == BI_BITFIELDS;
-  return head.biSize + (masks ? 3 * sizeof(DWORD) : 0) + colors * sizeof(RGBQUAD);
-}
-
-/// The bytes of a file with the clipboard's bitmap; none without one.
-std::string BitmapFromClipboard() {
-  const TClipboardTurn turn;
-  const HANDLE block = ::GetClipboardData(CF_DIB);
-  const auto* data = block ? static_cast<const char*>(::GlobalLock(block)) : nullptr;
-  if (!data) return {};
-  const std::string bytes(data, ::GlobalSize(block));
-  ::GlobalUnlock(block);
-  BITMAPINFOHEADER head{};
-  if (bytes.size() < sizeof head) return {};
-  std::memcpy(&head, bytes.data(), sizeof head);
-  std::string file(FileHeader, '\0');
-  const auto whole = static_cast<DWORD>(FileHeader + bytes.size());
-  const auto pixels = static_cast<DWORD>(FileHeader + HeadLength(head));
-  file[0] = 'B', file[1] = 'M';
-  std::memcpy(&file[2], &whole, sizeof whole);
-  std::memcpy(&file[10], &pixels, sizeof pixels);
-  return file + bytes;
 }
 
 }  // namespace
@@ -238,7 +190,7 @@ void TDBImage::SetPicture(const TPicture* picture) {
 // The clipboard.
 
 void TDBImage::CopyToClipboard() {
-  if (FPicture->Graphic()) PutOnClipboard(*FPicture->Graphic());
+  if (FPicture->Graphic()) Clipboard()->SetPicture(*FPicture->Graphic());
 }
 
 void TDBImage::CutToClipboard() {
@@ -248,10 +200,10 @@ void TDBImage::CutToClipboard() {
 }
 
 void TDBImage::PasteFromClipboard() {
-  const std::string file = BitmapFromClipboard();
-  if (file.empty()) return;
+  TPicture pasted;
+  if (!Clipboard()->GetPicture(pasted)) return;
   TPngImage picture;
-  picture.Assign(Decode(file).get());
+  picture.Assign(pasted.Graphic());
   TakePicture(&picture);
 }
 

@@ -6,11 +6,11 @@
 
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/windowmessages.h"
-#include "vcl/forms/clipboardtext.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
+#include "vcl/transfer/clipboard.h"
 
 namespace vcl {
 
@@ -227,7 +227,7 @@ void TCustomMaskEdit::DoExit() {
 /// What keys and the menu of the system's edit send; true when it has been done here.
 bool TCustomMaskEdit::TakeCommand(UINT message) {
   switch (message) {
-    case WM_PASTE: TypeOver(ToCells(ClipboardText())); return true;
+    case WM_PASTE: TypeOver(ToCells(Clipboard()->AsText())); return true;
     case WM_CUT:
       CopyToClipboard();
       ClearSelected();
