@@ -283,6 +283,13 @@ TEST_F(Navigators, ButtonsFollowTheStateAndWork) {
   EXPECT_EQ(Enabled(), "0011111001");
   Navigator->SetDataSource(nullptr);
   EXPECT_EQ(Enabled(), "0000000000");
+  auto passing = std::make_unique<TDataSource>(nullptr);
+  passing->SetDataSet(&Data);
+  Navigator->SetDataSource(passing.get());
+  EXPECT_EQ(Enabled(), "0011111001");
+  passing.reset();
+  EXPECT_EQ(Enabled(), "0000000000");
+  EXPECT_EQ(Navigator->DataSource(), nullptr);
 }
 
 TEST_F(Navigators, KeysGoFromButtonToButton) {

@@ -337,6 +337,7 @@ void TDBImage::Paint() {
   canvas.FillRect(ClientRect());
   if (FPicture->Graphic()) FPicture->Graphic()->Draw(&canvas, PictureRect());
   if (!FNote.empty()) {
+    canvas.SetFont(Font());
     const TSize size = canvas.TextExtent(FNote);
     canvas.TextRect(ClientRect(), std::max((ClientWidth() - size.cx) / 2, 2),
                     std::max((ClientHeight() - size.cy) / 2, 2), FNote);
