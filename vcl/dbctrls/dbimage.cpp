@@ -71,7 +71,7 @@ void PutOnClipboard(const TGraphic& graphic) {
 
 /// How many bytes stand between the beginning of such a bitmap and its pixels.
 std::size_t HeadLength(const BITMAPINFOHEADER& head) {
-  const std::size_t colors = head.biClrUsed      ? head.biClrUsed
+  const std::size_t colors = head.biClrUsed         ? head.biClrUsed
                              : head.biBitCount < 16 ? std::size_t{1} << head.biBitCount
                                                     : 0;
   const bool masks = head.biSize == sizeof head && head.biCompression == BI_BITFIELDS;

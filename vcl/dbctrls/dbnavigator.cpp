@@ -20,7 +20,7 @@ std::unique_ptr<TDataSetAction> Make() {
 }
 
 constexpr std::unique_ptr<TDataSetAction> (*Makers[])() = {
-    &Make<TDataSetFirst>,  &Make<TDataSetPrior>, &Make<TDataSetNext>, &Make<TDataSetLast>,
+    &Make<TDataSetFirst>,  &Make<TDataSetPrior>,  &Make<TDataSetNext>, &Make<TDataSetLast>,
     &Make<TDataSetInsert>, &Make<TDataSetDelete>, &Make<TDataSetEdit>, &Make<TDataSetPost>,
     &Make<TDataSetCancel>, &Make<TDataSetRefresh>};
 

@@ -13,8 +13,8 @@
 namespace vcl {
 namespace {
 
-constexpr int TextMargin = 2;          // At 96 dots per inch, around a row's text.
-constexpr DWORD SearchPause = 1000;    // Milliseconds after which a search begins anew.
+constexpr int TextMargin = 2;        // At 96 dots per inch, around a row's text.
+constexpr DWORD SearchPause = 1000;  // Milliseconds after which a search begins anew.
 
 }  // namespace
 
