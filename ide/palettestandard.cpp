@@ -1,15 +1,14 @@
 // Which of the class library's components stand on which page of the palette, and which have an
 // editor of the designer's own.
 #include "ide/actionwindow.h"
+#include "ide/fieldswindow.h"
 #include "ide/menuwindow.h"
 #include "ide/palette.h"
 #include "vcl/db/datasource.h"
 #include "vcl/db/memorydataset.h"
+#include "vcl/db/odbcconnection.h"
 #include "vcl/db/odbcquery.h"
-#include "vcl/dbctrls/dbactions.h"
-#include "vcl/dbctrls/dbedit.h"
-#include "vcl/dbctrls/dbgrids.h"
-#include "vcl/dbctrls/registration.h"
+#include "vcl/dbctrls/dbctrls.h"
 #include "vcl/net/sockets.h"
 #include "vcl/stdctrls/buttons.h"
 #include "vcl/vcl.h"
@@ -61,8 +60,14 @@ void RegisterStandardPages() {
         &TListView::Class(), &TStatusBar::Class(), &TProgressBar::Class(), &TUpDown::Class(),
         &THotKey::Class(), &TDateTimePicker::Class(), &TMonthCalendar::Class()}},
       {"System", {&TTimer::Class(), &TPaintBox::Class(), &TProcess::Class()}},
-      {"Data Access", {&TDataSource::Class(), &TMemoryDataSet::Class(), &TOdbcQuery::Class()}},
-      {"Data Controls", {&TDBEdit::Class(), &TDBGrid::Class()}},
+      {"Data Access",
+       {&TDataSource::Class(), &TMemoryDataSet::Class(), &TOdbcConnection::Class(),
+        &TOdbcQuery::Class()}},
+      {"Data Controls",
+       {&TDBGrid::Class(), &TDBNavigator::Class(), &TDBText::Class(), &TDBEdit::Class(),
+        &TDBMemo::Class(), &TDBImage::Class(), &TDBListBox::Class(), &TDBComboBox::Class(),
+        &TDBCheckBox::Class(), &TDBRadioGroup::Class(), &TDBLookupListBox::Class(),
+        &TDBLookupComboBox::Class()}},
       {"Dialogs",
        {&TOpenDialog::Class(), &TSaveDialog::Class(), &TFontDialog::Class(),
         &TColorDialog::Class()}},
@@ -72,6 +77,7 @@ void RegisterStandardPages() {
   RegisterMenuEditor();
   RegisterStandardActions();
   RegisterActionEditor();
+  RegisterFieldEditors();
 }
 
 }  // namespace ide

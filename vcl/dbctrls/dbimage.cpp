@@ -127,7 +127,7 @@ const TClass& TDBImage::Class() {
           Inherit("ShowHint"),
           Property<&T::Stretch, &T::SetStretch>("Stretch").Default(false),
           Inherit("TabOrder"),
-          Property<&T::TabStop, &T::SetTabStop>("TabStop").Default(true),
+          Inherit("TabStop").Default(true),
           Inherit("Visible"),
           Inherit("OnClick"),
           Inherit("OnDblClick"),
