@@ -12,6 +12,7 @@
 #include "ide/handlers.h"
 #include "ide/selection.h"
 #include "vcl/actions/actions.h"
+#include "vcl/db/dataset.h"
 #include "vcl/designintf/designer.h"
 #include "vcl/menus/menus.h"
 
@@ -32,6 +33,7 @@ struct TDesignerEvents {
       ShowCollection;
   std::function<void(vcl::TMenu& menu)> ShowMenu;
   std::function<void(vcl::TActionList& list)> ShowActions;
+  std::function<void(vcl::TDataSet& data)> ShowFields;
   /// Says with what a change that an editor makes now belongs together; see TUndoHistory::Add.
   std::function<std::string()> ChangeKey;
   /// A component was made of the palette's class.

@@ -80,7 +80,8 @@ TMainForm::TMainForm(TComponent* owner)
       FItems(new TCollectionWindow(this)),
       FMenus(new TMenuWindow(this)),
       FActions(new TActionWindow(this)),
-      FParts{FInspector, FStructure, FItems, FMenus, FActions} {
+      FFields(new TFieldsWindow(this)),
+      FParts{FInspector, FStructure, FItems, FMenus, FActions, FFields} {
   constexpr int structureHeight = 150;
   LoadForm();
   FStructure->SetHeight(structureHeight);

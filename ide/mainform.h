@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ide/actionwindow.h"
+#include "ide/fieldswindow.h"
 #include "ide/formdesigner.h"
 #include "ide/inspector.h"
 #include "ide/menuwindow.h"
@@ -60,6 +61,7 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   TCollectionWindow& Items() { return *FItems; }
   TMenuWindow& MenuWindow() { return *FMenus; }
   TActionWindow& ActionWindow() { return *FActions; }
+  TFieldsWindow& FieldsWindow() { return *FFields; }
 
   vcl::TMainMenu& MainMenu() override { return *MainMenuBar; }
   vcl::TDesigner* ActiveDesigner() override { return FDesigner; }
@@ -175,7 +177,8 @@ class TMainForm : public vcl::TForm, public vcl::TEnvironment {
   TCollectionWindow* FItems;
   TMenuWindow* FMenus;
   TActionWindow* FActions;
-  std::vector<TDesignerPart*> FParts;  // All five of them.
+  TFieldsWindow* FFields;
+  std::vector<TDesignerPart*> FParts;  // All six of them.
   std::unique_ptr<TOpenForms> FForms;
   TFormDesigner* FDesigner = nullptr;  // The active one of them.
   std::vector<std::unique_ptr<vcl::TExpert>> FExperts;

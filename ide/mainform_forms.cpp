@@ -37,6 +37,7 @@ void TMainForm::ListenTo(TFormDesigner& designer) {
   };
   it->Events.ShowMenu = [this, it](TMenu& menu) { FMenus->ShowMenu(*it, menu); };
   it->Events.ShowActions = [this, it](TActionList& list) { FActions->ShowActions(*it, list); };
+  it->Events.ShowFields = [this, it](TDataSet& data) { FFields->ShowFields(*it, data); };
   it->Events.Placed = [this] {
     FPalette->Placed();
     TakeTool();

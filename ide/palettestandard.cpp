@@ -1,15 +1,14 @@
 // Which of the class library's components stand on which page of the palette, and which have an
 // editor of the designer's own.
 #include "ide/actionwindow.h"
+#include "ide/fieldswindow.h"
 #include "ide/menuwindow.h"
 #include "ide/palette.h"
 #include "vcl/db/datasource.h"
 #include "vcl/db/memorydataset.h"
+#include "vcl/db/odbcconnection.h"
 #include "vcl/db/odbcquery.h"
-#include "vcl/dbctrls/dbactions.h"
-#include "vcl/dbctrls/dbedit.h"
-#include "vcl/dbctrls/dbgrids.h"
-#include "vcl/dbctrls/registration.h"
+#include "vcl/dbctrls/dbctrls.h"
 #include "vcl/designintf/containereditors.h"
 #include "vcl/designintf/imagelistdialog.h"
 #include "vcl/net/sockets.h"
@@ -68,8 +67,14 @@ void RegisterStandardPages() {
       {"System",
        {&TTimer::Class(), &TPaintBox::Class(), &TProcess::Class(), &TClipboardMonitor::Class(),
         &TDropTarget::Class()}},
-      {"Data Access", {&TDataSource::Class(), &TMemoryDataSet::Class(), &TOdbcQuery::Class()}},
-      {"Data Controls", {&TDBEdit::Class(), &TDBGrid::Class()}},
+      {"Data Access",
+       {&TDataSource::Class(), &TMemoryDataSet::Class(), &TOdbcConnection::Class(),
+        &TOdbcQuery::Class()}},
+      {"Data Controls",
+       {&TDBGrid::Class(), &TDBNavigator::Class(), &TDBText::Class(), &TDBEdit::Class(),
+        &TDBMemo::Class(), &TDBImage::Class(), &TDBListBox::Class(), &TDBComboBox::Class(),
+        &TDBCheckBox::Class(), &TDBRadioGroup::Class(), &TDBLookupListBox::Class(),
+        &TDBLookupComboBox::Class()}},
       {"Dialogs",
        {&TOpenDialog::Class(), &TSaveDialog::Class(), &TFontDialog::Class(), &TColorDialog::Class(),
         &TPrintDialog::Class(), &TPrinterSetupDialog::Class(), &TPageSetupDialog::Class(),
@@ -83,6 +88,7 @@ void RegisterStandardPages() {
   RegisterImageListEditor();
   RegisterStandardActions();
   RegisterActionEditor();
+  RegisterFieldEditors();
 }
 
 }  // namespace ide

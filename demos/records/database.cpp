@@ -24,17 +24,31 @@ std::string NameForDriver(const std::string& fileName) {
 }
 
 constexpr const char* Sample[] = {
-    "1, 'Ada Bergström', 'Göteborg', '1962-03-14', 1250.5",
-    "2, 'Bruno Kowalski', 'Łódź', '1975-11-02', -40",
-    "3, 'Chiara Rossi', 'Forlì', '1988-06-30', 310.25",
-    "4, 'Dimitra Papadaki', 'Ηράκλειο', '1991-01-09', 0",
-    "5, 'Emil Nováček', 'Plzeň', '1957-08-21', 77.8",
-    "6, 'Fatma Yıldız', 'İzmir', '2001-12-24', 9100",
+    "1, 'Ada Bergström', 'Göteborg', '1962-03-14', 1250.5, 1",
+    "2, 'Bruno Kowalski', 'Łódź', '1975-11-02', -40, 2",
+    "3, 'Chiara Rossi', 'Forlì', '1988-06-30', 310.25, 1",
+    "4, 'Dimitra Papadaki', 'Ηράκλειο', '1991-01-09', 0, 3",
+    "5, 'Emil Nováček', 'Plzeň', '1957-08-21', 77.8, NULL",
+    "6, 'Fatma Yıldız', 'İzmir', '2001-12-24', 9100, 2",
 };
 
 void Execute(vcl::TOdbcQuery& query, const std::string& sql) {
   query.SQL()->SetText(sql);
   query.ExecSQL();
+}
+
+/// What people are, and what they have paid.
+void MakeOtherTables(vcl::TOdbcQuery& query) {
+  Execute(query, "CREATE TABLE kinds (id INTEGER PRIMARY KEY, name VARCHAR(12))");
+  Execute(query, "INSERT INTO kinds VALUES (1, 'Customer'), (2, 'Supplier'), (3, 'Partner')");
+  Execute(
+      query,
+      "CREATE TABLE payments (id INTEGER PRIMARY KEY, person INTEGER, day DATE, amount DOUBLE)");
+  Execute(query, "CREATE INDEX payments_person ON payments (person)");
+  Execute(query,
+          "INSERT INTO payments (person, day, amount) SELECT id, '2024-02-0' || (1 + id % 9), "
+          "100.0 * id FROM people WHERE id < 7 UNION ALL SELECT id, '2024-03-1' || (id % 9), "
+          "12.5 * id FROM people WHERE id < 5");
 }
 
 }  // namespace
@@ -46,17 +60,30 @@ std::string ConnectionString(const std::string& fileName) {
 void MakeTable(const std::string& connectionString) {
   vcl::TOdbcQuery query(nullptr);
   query.SetConnectionString(connectionString);
-  query.SQL()->SetText("SELECT name FROM sqlite_master WHERE name = 'people'");
-  query.Open();
-  if (!query.IsEmpty()) return;
-  query.Close();
+  const auto there = [&](const char* sql) {
+    query.SQL()->SetText(sql);
+    query.Open();
+    const bool found = !query.IsEmpty();
+    query.Close();
+    return found;
+  };
+  if (there("SELECT name FROM sqlite_master WHERE name = 'people'")) {
+    if (!there("SELECT name FROM pragma_table_info('people') WHERE name = 'kind'")) {
+      query.StartTransaction();
+      Execute(query, "ALTER TABLE people ADD COLUMN kind INTEGER");
+      MakeOtherTables(query);
+      query.Commit();
+    }
+    return;
+  }
   query.StartTransaction();
   Execute(query,
           "CREATE TABLE people (id INTEGER PRIMARY KEY, name VARCHAR(28) NOT NULL UNIQUE,"
-          " city VARCHAR(20), born DATE, balance DOUBLE)");
+          " city VARCHAR(20), born DATE, balance DOUBLE, kind INTEGER)");
   for (const char* values : Sample) {
     Execute(query, vcl::Concat("INSERT INTO people VALUES (", values, ")"));
   }
+  MakeOtherTables(query);
   query.Commit();
 }
 

@@ -4,21 +4,60 @@ object RecordsForm: TRecordsForm
   Constraints.MinHeight = 320
   Constraints.MinWidth = 540
   Caption = 'Records'
-  ClientHeight = 400
-  ClientWidth = 620
-  object Grid: TDBGrid
+  ClientHeight = 460
+  ClientWidth = 800
+  object TopPanel: TPanel
     Left = 0
     Top = 0
-    Width = 620
-    Height = 196
+    Width = 800
+    Height = 36
+    Align = alTop
+    BevelOuter = bvNone
+    TabOrder = 0
+    object Navigator: TDBNavigator
+      Left = 8
+      Top = 6
+      Width = 260
+      Height = 25
+      DataSource = Source
+      Flat = True
+      ShowHint = True
+      TabOrder = 0
+      TabStop = True
+    end
+    object FilterLabel: TLabel
+      Left = 290
+      Top = 10
+      Width = 50
+      Height = 15
+      Caption = '&Filter'
+      FocusControl = FilterEdit
+    end
+    object FilterEdit: TEdit
+      Left = 340
+      Top = 8
+      Width = 170
+      Height = 21
+      Hint = 'Shows whose name or city has this text'
+      ShowHint = True
+      TabOrder = 1
+      OnChange = FilterChange
+    end
+  end
+  object Grid: TDBGrid
+    Left = 0
+    Top = 36
+    Width = 800
+    Height = 220
     Align = alClient
     DataSource = Source
-    TabOrder = 0
+    Options = [dgEditing, dgTitles, dgIndicator, dgColumnResize, dgColLines, dgRowLines, dgTabs, dgConfirmDelete, dgCancelOnExit]
+    TabOrder = 1
   end
   object Splitter: TSplitter
     Left = 0
-    Top = 196
-    Width = 620
+    Top = 256
+    Width = 800
     Height = 4
     Align = alBottom
     AutoSnap = False
@@ -27,13 +66,13 @@ object RecordsForm: TRecordsForm
   end
   object DetailPanel: TPanel
     Left = 0
-    Top = 200
-    Width = 620
+    Top = 260
+    Width = 800
     Height = 180
     Align = alBottom
     BevelOuter = bvNone
     Constraints.MinHeight = 150
-    TabOrder = 1
+    TabOrder = 2
     object NameLabel: TLabel
       Left = 12
       Top = 19
@@ -102,6 +141,35 @@ object RecordsForm: TRecordsForm
       DataSource = Source
       TabOrder = 3
     end
+    object KindLabel: TLabel
+      Left = 12
+      Top = 147
+      Width = 70
+      Height = 15
+      Caption = '&Kind'
+      FocusControl = KindCombo
+    end
+    object KindCombo: TDBLookupComboBox
+      Left = 90
+      Top = 144
+      Width = 160
+      Height = 21
+      DataField = 'kind'
+      DataSource = Source
+      KeyField = 'id'
+      ListField = 'name'
+      ListSource = KindSource
+      TabOrder = 10
+    end
+    object Payments: TDBGrid
+      Left = 526
+      Top = 16
+      Width = 262
+      Height = 149
+      DataSource = PaymentSource
+      ReadOnly = True
+      TabOrder = 11
+    end
     object AddButton: TButton
       Left = 340
       Top = 15
@@ -163,10 +231,14 @@ object RecordsForm: TRecordsForm
   end
   object StatusBar: TStatusBar
     Left = 0
-    Top = 380
-    Width = 620
+    Top = 440
+    Width = 800
     Height = 20
     SimplePanel = True
+  end
+  object Connection: TOdbcConnection
+    Left = 668
+    Top = 248
   end
   object Source: TDataSource
     DataSet = Query
@@ -174,10 +246,12 @@ object RecordsForm: TRecordsForm
     Top = 216
   end
   object Query: TOdbcQuery
+    Connection = Connection
     IdentityQuery = 'SELECT last_insert_rowid()'
     RequestLive = True
     SQL.Strings = (
-      'SELECT id, name, city, born, balance FROM people ORDER BY name')
+      'SELECT id, name, city, born, balance, kind FROM people ORDER BY name')
+    FilterOptions = [foCaseInsensitive]
     Left = 540
     Top = 248
     object QueryId: TIntegerField
@@ -204,6 +278,56 @@ object RecordsForm: TRecordsForm
       DisplayLabel = 'Balance'
       DisplayWidth = 12
       FieldName = 'balance'
+    end
+    object QueryKind: TIntegerField
+      FieldName = 'kind'
+      Visible = False
+    end
+    object QueryKindName: TStringField
+      DisplayLabel = 'Kind'
+      DisplayWidth = 12
+      FieldName = 'kindname'
+      FieldKind = fkLookup
+      KeyFields = 'kind'
+      LookupCache = True
+      LookupDataSet = KindQuery
+      LookupKeyFields = 'id'
+      LookupResultField = 'name'
+    end
+  end
+  object KindSource: TDataSource
+    DataSet = KindQuery
+    Left = 604
+    Top = 216
+  end
+  object KindQuery: TOdbcQuery
+    Connection = Connection
+    SQL.Strings = (
+      'SELECT id, name FROM kinds ORDER BY name')
+    Left = 604
+    Top = 248
+  end
+  object PaymentSource: TDataSource
+    DataSet = PaymentQuery
+    Left = 636
+    Top = 216
+  end
+  object PaymentQuery: TOdbcQuery
+    Connection = Connection
+    MasterSource = Source
+    SQL.Strings = (
+      'SELECT day, amount FROM payments WHERE person = :id ORDER BY day')
+    Left = 636
+    Top = 248
+    object PaymentDay: TDateField
+      DisplayLabel = 'Paid on'
+      DisplayWidth = 12
+      FieldName = 'day'
+    end
+    object PaymentAmount: TCurrencyField
+      DisplayLabel = 'Amount'
+      DisplayWidth = 12
+      FieldName = 'amount'
     end
   end
   object TransferSource: TDataSource

@@ -23,13 +23,18 @@ const TClass& TRecordsForm::Class() {
       Describe<T, TForm>("records::TRecordsForm", "demos/records/recordsform.h",
                          {
                              Field<&T::Query>("Query"),
+                             Field<&T::Connection>("Connection"),
+                             Field<&T::KindQuery>("KindQuery"),
+                             Field<&T::PaymentQuery>("PaymentQuery"),
                              Field<&T::TransferQuery>("TransferQuery"),
                              Field<&T::Transfer>("Transfer"),
                              Field<&T::Gauge>("Gauge"),
                              Field<&T::StatusBar>("StatusBar"),
                              Field<&T::NameEdit>("NameEdit"),
+                             Field<&T::FilterEdit>("FilterEdit"),
                              Field<&T::OpenDialog>("OpenDialog"),
                              Field<&T::SaveDialog>("SaveDialog"),
+                             Method<&T::FilterChange>("FilterChange"),
                              Method<&T::AddClick>("AddClick"),
                              Method<&T::DeleteClick>("DeleteClick"),
                              Method<&T::ExportClick>("ExportClick"),
@@ -49,10 +54,26 @@ TRecordsForm::TRecordsForm(TComponent* owner) : TForm(owner) {
 void TRecordsForm::Open(const std::string& fileName) {
   const std::string connection = ConnectionString(fileName);
   MakeTable(connection);
-  Query->Close();
-  Query->SetConnectionString(connection);
+  CloseQueries();
+  Connection->SetConnectionString(connection);
   TransferQuery->SetConnectionString(connection);
-  Query->Open();
+  OpenQueries();
+}
+
+void TRecordsForm::OpenQueries() {
+  for (TOdbcQuery* each : {KindQuery, Query, PaymentQuery}) each->Open();
+}
+
+void TRecordsForm::CloseQueries() {
+  for (TOdbcQuery* each : {PaymentQuery, Query, KindQuery}) each->Close();
+}
+
+/// What is typed is sought in names and cities.
+void TRecordsForm::FilterChange(TObject*) {
+  std::string text;
+  for (const char c : FilterEdit->Text()) text += c == '\'' ? "''" : std::string(1, c);
+  Query->SetFilter(Concat("name LIKE '%", text, "%' OR city LIKE '%", text, "%'"));
+  Query->SetFiltered(!text.empty());
 }
 
 void TRecordsForm::AddClick(TObject*) {
@@ -84,7 +105,7 @@ void TRecordsForm::ShowProgress() {
 
 void TRecordsForm::Export(const std::string& fileName) {
   Query->CheckBrowseMode();
-  FAll = CountRecords(Query->ConnectionString());
+  FAll = CountRecords(Connection->ConnectionString());
   FDone = FCount = 0;
   Transfer->SetFilename(fileName);
   Transfer->DoExport();
@@ -119,9 +140,9 @@ void TRecordsForm::Import(const std::string& fileName) {
   Transfer->SetFilename(fileName);
   StatusBar->SetSimpleText(Concat("Nothing is read from ", ExtractFileName(fileName)));
   // A query that is half read keeps others from writing.
-  Query->Close();
+  CloseQueries();
   {
-    const TAtEnd reopen([this] { Query->Open(); });
+    const TAtEnd reopen([this] { OpenQueries(); });
     ImportAtOnce();
   }
   FDone = FAll;  // The header and empty lines have counted for nothing.

@@ -5,6 +5,7 @@
 
 #include "qel/controls/Qeltgauge.h"
 #include "qel/data/Qeltdbascii.h"
+#include "vcl/db/odbcconnection.h"
 #include "vcl/db/odbcquery.h"
 #include "vcl/dbctrls/dbedit.h"
 #include "vcl/dbctrls/dbgrids.h"
@@ -31,14 +32,21 @@ class TRecordsForm : public vcl::TForm {
  private:
   // What the form file fills.
   vcl::TOdbcQuery* Query = nullptr;
+  vcl::TOdbcConnection* Connection = nullptr;
+  vcl::TOdbcQuery* KindQuery = nullptr;
+  vcl::TOdbcQuery* PaymentQuery = nullptr;
   vcl::TOdbcQuery* TransferQuery = nullptr;
   qel::TQELDBAscii* Transfer = nullptr;
   qel::TQELGauge* Gauge = nullptr;
   vcl::TStatusBar* StatusBar = nullptr;
   vcl::TDBEdit* NameEdit = nullptr;
+  vcl::TEdit* FilterEdit = nullptr;
   vcl::TOpenDialog* OpenDialog = nullptr;
   vcl::TSaveDialog* SaveDialog = nullptr;
 
+  void FilterChange(vcl::TObject* sender);
+  void OpenQueries();
+  void CloseQueries();
   void AddClick(vcl::TObject* sender);
   void DeleteClick(vcl::TObject* sender);
   void ExportClick(vcl::TObject* sender);

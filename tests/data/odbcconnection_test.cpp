@@ -138,12 +138,11 @@ TEST_F(OdbcConnections, BatchesWriteAllRowsOrNone) {
   std::vector<TRecord> rows;
   for (int i = 0; i < 2500; ++i) {
     const bool named = i % 7 != 0;
-    rows.push_back({std::int64_t{10 + i},
-                    named ? TFieldValue("Näme " + std::to_string(i)) : TFieldValue()});
+    rows.push_back(
+        {std::int64_t{10 + i}, named ? TFieldValue("Näme " + std::to_string(i)) : TFieldValue()});
   }
   EXPECT_EQ(People.ExecuteBatch(rows), 2500);
-  EXPECT_EQ(Database.Ask("SELECT count(*), count(name), max(id) FROM people"),
-            "2502|2144|2509");
+  EXPECT_EQ(Database.Ask("SELECT count(*), count(name), max(id) FROM people"), "2502|2144|2509");
   EXPECT_EQ(Database.Ask("SELECT name FROM people WHERE id = 2508"), "Näme 2498");
   EXPECT_FALSE(People.InTransaction());
 
@@ -151,8 +150,8 @@ TEST_F(OdbcConnections, BatchesWriteAllRowsOrNone) {
     rows[static_cast<std::size_t>(i)] = {std::int64_t{5000 + i}, std::to_string(i % 2400)};
   }
   EXPECT_THAT(Message([&] { People.ExecuteBatch(rows); }), testing::StartsWith("Row"));
-  EXPECT_THAT(Message([&] { People.ExecuteBatch(rows); }), testing::AnyOf(
-      HasSubstr("Row 2401: "), HasSubstr("Rows 2001 to 2500: ")));
+  EXPECT_THAT(Message([&] { People.ExecuteBatch(rows); }),
+              testing::AnyOf(HasSubstr("Row 2401: "), HasSubstr("Rows 2001 to 2500: ")));
   EXPECT_EQ(Database.Ask("SELECT count(*) FROM people"), "2502") << "none of them";
   EXPECT_FALSE(People.InTransaction());
   EXPECT_THAT(Message([&] { People.ExecuteBatch({{std::int64_t{1}}}); }),

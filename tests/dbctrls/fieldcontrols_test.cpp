@@ -112,13 +112,15 @@ TEST_F(FieldControls, AllWriteTakeBackAndRefuseInTheSameWay) {
   group->SetBounds(300, 10, 120, 100);
   list->SetBounds(160, 10, 120, 100);
   ShowForm();
-  CheckEditing(*edit, "Name", "x", [&] { edit->SelectAll(), Type("x"); },
-               [&] { return edit->Text(); });
-  CheckEditing(*check, "Paid", "False", [&] { Key(VK_SPACE); },
-               [&] { return std::to_string(check->State()) + (check->Field() ? "" : "-"); });
-  CheckEditing(*combo, "Size", "L", [&] { Key(VK_DOWN); }, [&] { return combo->Text(); });
-  CheckEditing(*list, "Size", "L", [&] { Key(VK_DOWN); },
-               [&] { return std::to_string(list->ItemIndex()); });
+  CheckEditing(
+      *edit, "Name", "x", [&] { edit->SelectAll(), Type("x"); }, [&] { return edit->Text(); });
+  CheckEditing(
+      *check, "Paid", "False", [&] { Key(VK_SPACE); },
+      [&] { return std::to_string(check->State()) + (check->Field() ? "" : "-"); });
+  CheckEditing(
+      *combo, "Size", "L", [&] { Key(VK_DOWN); }, [&] { return combo->Text(); });
+  CheckEditing(
+      *list, "Size", "L", [&] { Key(VK_DOWN); }, [&] { return std::to_string(list->ItemIndex()); });
 }
 
 TEST_F(FieldControls, ATextShowsTheFieldAsItIs) {
@@ -225,7 +227,8 @@ TEST_F(FieldControls, AMemoShowsLongTextsWhenItIsAsked) {
   other->SetFocus();
   Data.Post();
   EXPECT_EQ(memo->Lines()->Count(), 2);
-  EXPECT_THAT(Value("Notes"), testing::AllOf(testing::StartsWith("one"), testing::EndsWith("more")));
+  EXPECT_THAT(Value("Notes"),
+              testing::AllOf(testing::StartsWith("one"), testing::EndsWith("more")));
   memo->SetAutoDisplay(false);
   EXPECT_EQ(memo->Text(), "(Notes)");
   memo->SetFocus();
@@ -329,11 +332,10 @@ TEST_F(FieldControls, AnImageIsCutAndPasted) {
 TEST_F(FieldControls, TheirSettingsAreKeptInFormFiles) {
   TDBImage image(nullptr);
   EXPECT_THROW(image.SetPicture(nullptr), EDatabaseError);
-  const TClass* const classes[] = {&TDBText::Class(),        &TDBMemo::Class(),
-                                   &TDBImage::Class(),       &TDBCheckBox::Class(),
-                                   &TDBComboBox::Class(),    &TDBListBox::Class(),
-                                   &TDBRadioGroup::Class(),  &TDBLookupListBox::Class(),
-                                   &TDBLookupComboBox::Class()};
+  const TClass* const classes[] = {
+      &TDBText::Class(),       &TDBMemo::Class(),          &TDBImage::Class(),
+      &TDBCheckBox::Class(),   &TDBComboBox::Class(),      &TDBListBox::Class(),
+      &TDBRadioGroup::Class(), &TDBLookupListBox::Class(), &TDBLookupComboBox::Class()};
   for (const TClass* each : classes) {
     for (const char* name : {"DataField", "DataSource"}) {
       EXPECT_NE(each->FindPublished(name), nullptr) << each->Name() << "." << name;

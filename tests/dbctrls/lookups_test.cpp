@@ -29,8 +29,7 @@ class Lookups : public TStandardForm {
   }
   void AddCities(const std::vector<std::string>& names) {
     for (const std::string& name : names) {
-      Cities.AppendRecord(
-          {std::int64_t{Cities.RecordCount() + 1}, name, std::string("DE")});
+      Cities.AppendRecord({std::int64_t{Cities.RecordCount() + 1}, name, std::string("DE")});
     }
     Cities.First();
   }
@@ -260,7 +259,9 @@ TEST_F(Navigators, ButtonsFollowTheStateAndWork) {
   Press(nbCancel);
   EXPECT_EQ(Data.State(), dsBrowse);
   std::string told;
-  Navigator->BeforeAction = [&](TObject*, TNavigateBtn) { told += "before " + std::to_string(Data.RecordCount()); };
+  Navigator->BeforeAction = [&](TObject*, TNavigateBtn) {
+    told += "before " + std::to_string(Data.RecordCount());
+  };
   Navigator->OnClick = [&](TObject*, TNavigateBtn button) {
     told += " after " + std::to_string(Data.RecordCount()) + " " + std::to_string(button);
   };
@@ -283,6 +284,13 @@ TEST_F(Navigators, ButtonsFollowTheStateAndWork) {
   EXPECT_EQ(Enabled(), "0011111001");
   Navigator->SetDataSource(nullptr);
   EXPECT_EQ(Enabled(), "0000000000");
+  auto passing = std::make_unique<TDataSource>(nullptr);
+  passing->SetDataSet(&Data);
+  Navigator->SetDataSource(passing.get());
+  EXPECT_EQ(Enabled(), "0011111001");
+  passing.reset();
+  EXPECT_EQ(Enabled(), "0000000000");
+  EXPECT_EQ(Navigator->DataSource(), nullptr);
 }
 
 TEST_F(Navigators, KeysGoFromButtonToButton) {

@@ -6,7 +6,8 @@
 #include "demos/records/recordsform.h"
 #include "tests/support/program.h"
 #include "tests/vcl/testinput.h"
-#include "vcl/dbctrls/registration.h"
+#include "vcl/dbctrls/dbctrls.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
 
 namespace records {
@@ -99,6 +100,51 @@ TEST_F(Records, AreDeletedWhenTheUserAgrees) {
     EXPECT_EQ(Count(), agreed ? 5 : 6);
     Find<vcl::TOdbcQuery>("Query")->First();
   }
+}
+
+TEST_F(Records, AreFilteredLookedUpAndHaveTheirPayments) {
+  auto* const query = Find<vcl::TOdbcQuery>("Query");
+  auto* const payments = Find<vcl::TOdbcQuery>("PaymentQuery");
+  EXPECT_EQ(Name()->AsString(), "Ada Bergström");
+  EXPECT_EQ(Find<vcl::TDBLookupComboBox>("KindCombo")->Text(), "Customer");
+  EXPECT_EQ(query->FieldByName("kindname")->AsString(), "Customer");
+  EXPECT_EQ(payments->RecordCount(), 2);
+  auto* const filter = Find<vcl::TEdit>("FilterEdit");
+  filter->SetText("forl");
+  EXPECT_EQ(Name()->AsString(), "Chiara Rossi");
+  EXPECT_EQ(Count(), 1);
+  EXPECT_EQ(payments->FieldByName("amount")->AsFloat(), 300);
+  filter->SetText("it's");
+  EXPECT_EQ(Count(), 0);
+  filter->SetText("");
+  EXPECT_EQ(Count(), 6);
+}
+
+TEST_F(Records, AHundredThousandAreShownFluently) {
+  auto* const query = Find<vcl::TOdbcQuery>("Query");
+  query->Close();
+  Find<vcl::TOdbcConnection>("Connection")
+      ->Execute(
+          "INSERT INTO people (name, city, kind) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL "
+          "SELECT i + 1 FROM n LIMIT 100000) SELECT 'Name ' || i, 'City', 1 + i % 3 FROM n");
+  const auto milliseconds = [](const std::function<void()>& call) {
+    const ULONGLONG begin = ::GetTickCount64();
+    call();
+    vcl::Application()->ProcessMessages();
+    return static_cast<int>(::GetTickCount64() - begin);
+  };
+  auto* const grid = Find<vcl::TDBGrid>("Grid");
+  EXPECT_LT(milliseconds([&] { query->Open(); }), 1000) << "the rest is read when it is needed";
+  query->Last();
+  EXPECT_EQ(query->RecordCount(), 100'006);
+  const int pages = milliseconds([&] {
+    for (int i = 0; i < 50; ++i) grid->Perform(WM_VSCROLL, SB_PAGEUP, 0), grid->Update();
+  });
+  EXPECT_LT(pages, 50 * 250) << "pages with their details, on a busy machine, too";
+  EXPECT_LT(query->RecNo(), 100'006 - 50);
+  const int filtered = milliseconds([&] { Find<vcl::TEdit>("FilterEdit")->SetText("Name 99999"); });
+  EXPECT_EQ(Name()->AsString(), "Name 99999");
+  EXPECT_LT(filtered, 2000);
 }
 
 TEST_F(Records, ANewOneBeginsWithItsName) {

@@ -117,7 +117,8 @@ void TOdbcConnection::Connect() {
 std::string TOdbcConnection::LoginString() {
   if (!FLoginPrompt) return {};
   if (!OnLogin) {
-    throw EDatabaseError(Concat("The connection ", Name(), " asks for a name and a password: it "
+    throw EDatabaseError(Concat("The connection ", Name(),
+                                " asks for a name and a password: it "
                                 "has no handler of OnLogin"));
   }
   std::string name, password;

@@ -186,10 +186,12 @@ int TOdbcQuery::ExecuteBatch(const std::vector<TRecord>& rows) {
   if (alone) StartTransaction();
   int affected = 0;
   {
-    const TOnFailure none([&] {
-      FStatement.reset();
-      if (alone) Rollback();
-    }, this);
+    const TOnFailure none(
+        [&] {
+          FStatement.reset();
+          if (alone) Rollback();
+        },
+        this);
     affected = FStatement->ExecuteMany(arguments);
     FStatement.reset();
   }

@@ -79,7 +79,7 @@ const TClass& TDBImage::Class() {
           Inherit("ShowHint"),
           Property<&T::Stretch, &T::SetStretch>("Stretch").Default(false),
           Inherit("TabOrder"),
-          Property<&T::TabStop, &T::SetTabStop>("TabStop").Default(true),
+          Inherit("TabStop").Default(true),
           Inherit("Visible"),
           Inherit("OnClick"),
           Inherit("OnDblClick"),
@@ -289,6 +289,7 @@ void TDBImage::Paint() {
   canvas.FillRect(ClientRect());
   if (FPicture->Graphic()) FPicture->Graphic()->Draw(&canvas, PictureRect());
   if (!FNote.empty()) {
+    canvas.SetFont(Font());
     const TSize size = canvas.TextExtent(FNote);
     canvas.TextRect(ClientRect(), std::max((ClientWidth() - size.cx) / 2, 2),
                     std::max((ClientHeight() - size.cy) / 2, 2), FNote);

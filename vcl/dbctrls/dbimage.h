@@ -10,8 +10,8 @@
 namespace vcl {
 
 /// Shows the picture whose file's bytes the field holds: PNG, JPEG, GIF, BMP or an icon, which its
-/// first bytes tell. What is none is told of in the picture's place. Ctrl+C, Ctrl+X and Ctrl+V copy,
-/// cut and paste it, Del takes it out; a picture that is pasted is kept as PNG.
+/// first bytes tell. What is none is told of in the picture's place. Ctrl+C, Ctrl+X and Ctrl+V
+/// copy, cut and paste it, Del takes it out; a picture that is pasted is kept as PNG.
 class VCL_API TDBImage : public TFieldEditor<TCustomControl> {
  public:
   explicit TDBImage(TComponent* owner);

@@ -152,6 +152,12 @@ void TDBListBox::WriteField() {
   if (ItemIndex() >= 0) Field()->SetText(Items()->Strings(ItemIndex()));
 }
 
+// Items that have come behind the field are there now.
+void TDBListBox::CreateWnd() {
+  TFieldEditor::CreateWnd();
+  ShowNow();
+}
+
 void TDBListBox::Loaded() {
   TFieldEditor::Loaded();
   ShowNow();
@@ -210,6 +216,11 @@ void TDBRadioGroup::ShowField() {
 
 void TDBRadioGroup::WriteField() {
   if (ItemIndex() >= 0) Field()->SetText(ValueOf(ItemIndex()));
+}
+
+void TDBRadioGroup::CreateWnd() {
+  TFieldEditor::CreateWnd();
+  ShowNow();
 }
 
 void TDBRadioGroup::Loaded() {

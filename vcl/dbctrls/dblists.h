@@ -44,6 +44,7 @@ class VCL_API TDBListBox : public TFieldEditor<TCustomListBox> {
   void ShowField() override;
   void WriteField() override;
   void Click() override;
+  void CreateWnd() override;
   void Loaded() override;
 };
 
@@ -64,6 +65,7 @@ class VCL_API TDBRadioGroup : public TFieldEditor<TCustomRadioGroup> {
   void WriteField() override;
   void KeepFocus() override;
   void Click() override;
+  void CreateWnd() override;
   void Loaded() override;
 
  private:

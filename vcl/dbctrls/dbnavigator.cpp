@@ -20,7 +20,7 @@ std::unique_ptr<TDataSetAction> Make() {
 }
 
 constexpr std::unique_ptr<TDataSetAction> (*Makers[])() = {
-    &Make<TDataSetFirst>,  &Make<TDataSetPrior>, &Make<TDataSetNext>, &Make<TDataSetLast>,
+    &Make<TDataSetFirst>,  &Make<TDataSetPrior>,  &Make<TDataSetNext>, &Make<TDataSetLast>,
     &Make<TDataSetInsert>, &Make<TDataSetDelete>, &Make<TDataSetEdit>, &Make<TDataSetPost>,
     &Make<TDataSetCancel>, &Make<TDataSetRefresh>};
 
@@ -112,7 +112,9 @@ void TDBNavigator::UpdateButtons() {
   if (Destroying()) return;
   const TWatch watch(this);
   for (std::size_t i = 0; i < FButtons.size(); ++i) {
-    TDataSource* const source = FLink.DataSource();
+    // One that ends tells of it while it still has its links.
+    const bool lives = FLink.DataSource() && !FLink.DataSource()->Destroying();
+    TDataSource* const source = lives ? FLink.DataSource() : nullptr;
     FActions[i]->SetDataSource(source);
     if (source) FActions[i]->Update();
     if (watch.Gone()) return;

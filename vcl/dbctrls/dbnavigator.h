@@ -115,8 +115,8 @@ class VCL_API TDBNavigator : public TCustomControl {
   std::array<std::unique_ptr<TDataSetAction>, ButtonCount> FActions;
   std::array<TNavButton*, ButtonCount> FButtons{};
   std::unique_ptr<TStringList> FHints;
-  TButtonSet FVisibleButtons{nbFirst, nbPrior, nbNext, nbLast,   nbInsert,
-                             nbDelete, nbEdit, nbPost, nbCancel, nbRefresh};
+  TButtonSet FVisibleButtons{nbFirst,  nbPrior, nbNext, nbLast,   nbInsert,
+                             nbDelete, nbEdit,  nbPost, nbCancel, nbRefresh};
   TNavigateBtn FFocused = nbFirst;
   bool FConfirmDelete = true;
   bool FFlat = false;

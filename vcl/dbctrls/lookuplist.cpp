@@ -13,8 +13,8 @@
 namespace vcl {
 namespace {
 
-constexpr int TextMargin = 2;          // At 96 dots per inch, around a row's text.
-constexpr DWORD SearchPause = 1000;    // Milliseconds after which a search begins anew.
+constexpr int TextMargin = 2;        // At 96 dots per inch, around a row's text.
+constexpr DWORD SearchPause = 1000;  // Milliseconds after which a search begins anew.
 
 }  // namespace
 
@@ -142,7 +142,12 @@ void TCustomLookupList::FitRows() {
   const int places = static_cast<int>(FRows.ListFields().size());
   SetColCount(places);
   SetRowCount(std::max(FRows.Count(), 1));
-  for (int i = 0; i < places; ++i) SetColWidths(i, ColumnWidth(i, places));
+  int room = ClientWidth();
+  for (int i = 0; i < places; ++i) {
+    const int own = ColumnWidth(i, places);
+    SetColWidths(i, i + 1 < places ? own : std::max(own, room));
+    room -= own;
+  }
 }
 
 void TCustomLookupList::RowsChanged() {

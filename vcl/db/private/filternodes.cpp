@@ -46,7 +46,7 @@ std::optional<int> Compare(const TResult& a, const TResult& b, bool ignoreCase) 
 }
 
 /// The same of a field's value and one that is written out, without a detour where both are of one
-/// kind.
+/// kind or numbers.
 std::optional<int> CompareStored(const TFieldValue& a, const TFieldValue& b, TRelation relation,
                                  bool ignoreCase) {
   if (a.index() == b.index()) {
@@ -57,6 +57,12 @@ std::optional<int> CompareStored(const TFieldValue& a, const TFieldValue& b, TRe
     const bool equality = relation == TRelation::Equal || relation == TRelation::NotEqual;
     // Texts of different lengths are told apart at once.
     if (text && equality && !ignoreCase) return *text == *std::get_if<std::string>(&b) ? 0 : 1;
+  }
+  if (const auto* number = std::get_if<double>(&a)) {
+    if (const auto* other = std::get_if<double>(&b)) return Sign(*number, *other);
+    if (const auto* whole = std::get_if<std::int64_t>(&b)) {
+      return Sign(*number, static_cast<double>(*whole));
+    }
   }
   return Compare(ResultOf(a), ResultOf(b), ignoreCase);
 }

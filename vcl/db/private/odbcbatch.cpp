@@ -11,8 +11,8 @@ namespace {
 
 using TRows = std::vector<std::vector<TArgument>>;
 
-constexpr std::size_t MostRows = 1000;           // In one round trip.
-constexpr std::size_t MostBytes = 1024;          // Of a value in an array.
+constexpr std::size_t MostRows = 1000;   // In one round trip.
+constexpr std::size_t MostBytes = 1024;  // Of a value in an array.
 
 /// The alternative of TFieldValue that the values of a column are of, Null for none of them; -1 for
 /// several, and for what takes a conversion of its own.
@@ -49,21 +49,21 @@ struct TStatement::TColumnArray {
 
 void TStatement::BindArray(SQLUSMALLINT number, const TColumnArray& column) {
   const bool text = column.CType == SQL_C_WCHAR;
-  FStatement->Check(SQLBindParameter(
-      *FStatement, number, SQL_PARAM_INPUT, column.CType, column.SqlType,
-      text ? std::max<SQLULEN>(column.Width / sizeof(char16_t), 1) : 1, 0,
-      const_cast<char*>(column.Bytes.data()), static_cast<SQLLEN>(column.Width),
-      const_cast<SQLLEN*>(column.Lengths.data())));
+  FStatement->Check(
+      SQLBindParameter(*FStatement, number, SQL_PARAM_INPUT, column.CType, column.SqlType,
+                       text ? std::max<SQLULEN>(column.Width / sizeof(char16_t), 1) : 1, 0,
+                       const_cast<char*>(column.Bytes.data()), static_cast<SQLLEN>(column.Width),
+                       const_cast<SQLLEN*>(column.Lengths.data())));
 }
 
 /// A driver that does not know arrays refuses the number, or takes another one.
 bool TStatement::AcceptsBlocks(std::size_t count) {
   SQLULEN taken = 0;
   const auto wanted = static_cast<std::uintptr_t>(count);
-  const bool set = SQL_SUCCEEDED(SQLSetStmtAttrW(*FStatement, SQL_ATTR_PARAMSET_SIZE,
-                                                 reinterpret_cast<SQLPOINTER>(wanted), 0)) &&
-                   SQL_SUCCEEDED(SQLGetStmtAttrW(*FStatement, SQL_ATTR_PARAMSET_SIZE, &taken, 0,
-                                                 nullptr));
+  const bool set =
+      SQL_SUCCEEDED(SQLSetStmtAttrW(*FStatement, SQL_ATTR_PARAMSET_SIZE,
+                                    reinterpret_cast<SQLPOINTER>(wanted), 0)) &&
+      SQL_SUCCEEDED(SQLGetStmtAttrW(*FStatement, SQL_ATTR_PARAMSET_SIZE, &taken, 0, nullptr));
   return set && taken == count;
 }
 
@@ -103,10 +103,9 @@ int TStatement::ExecuteBlock(const TRows& rows, std::size_t first, std::size_t c
     const auto bad = std::ranges::find(states, SQLUSMALLINT{SQL_PARAM_ERROR});
     const auto row = static_cast<std::size_t>(bad - states.begin());
     // Not every driver says which row it was.
-    const std::string which =
-        bad == states.end() ? Concat("Rows ", std::to_string(first + 1), " to ",
-                                     std::to_string(first + count))
-                            : Concat("Row ", std::to_string(first + row + 1));
+    const std::string which = bad == states.end() ? Concat("Rows ", std::to_string(first + 1),
+                                                           " to ", std::to_string(first + count))
+                                                  : Concat("Row ", std::to_string(first + row + 1));
     throw EOdbcError(Concat(which, ": ", error.Message()), error.SqlState(), error.NativeError());
   }
   return RowsAffected();
