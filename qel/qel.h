@@ -1,11 +1,20 @@
 // Every component of the package in one include.
 #pragma once
 
+#include "qel/controls/Qeltautocombo.h"
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltchecklist.h"
+#include "qel/controls/Qeltcolorcombo.h"
+#include "qel/controls/Qeltfontcombo.h"
 #include "qel/controls/Qeltgauge.h"
 #include "qel/controls/Qelthint.h"
 #include "qel/controls/Qeltlabel.h"
+#include "qel/controls/Qeltlanguagecombo.h"
+#include "qel/controls/Qeltlookupedit.h"
+#include "qel/controls/Qeltlookupmenu.h"
+#include "qel/controls/Qeltofficeedit.h"
+#include "qel/controls/Qeltrealspinedit.h"
 #include "qel/controls/Qeltspinedit.h"
 #include "qel/core/Qelclasses2.h"
 #include "qel/core/Qelfunctions.h"

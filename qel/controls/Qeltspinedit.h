@@ -1,5 +1,5 @@
-// TQELSpinButton: a square button of two halves, up and down; TQELSpinEdit: an edit for whole
-// numbers with such a button at its right edge.
+// TQELSpinButton: a square button of two halves, up and down; TQELCustomStepEdit: an edit with such
+// a button at its right edge; TQELSpinEdit: one for whole numbers.
 #pragma once
 
 #include <cstdint>
@@ -77,14 +77,12 @@ class QEL_API TQELSpinButton : public TQELCustomSpinButton {
   void Loaded() override;
 };
 
-/// An edit for a whole number with sign. The button and the arrow keys step the number, the page
-/// keys by more. It is kept within bounds when it is set or stepped and when the focus leaves; what
-/// is typed or pasted in between is not, and a text that is no number is then replaced by the value
-/// that it is read as.
-class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
+/// An edit for a number, with a button at its right edge. The button and the arrow keys step the
+/// number, the page keys by more; descendants say what a number is. What is typed or pasted is
+/// looked at when the focus leaves, and a text that is no number is then replaced.
+class QEL_API TQELCustomStepEdit : public vcl::TCustomEdit {
  public:
-  explicit TQELCustomSpinEdit(vcl::TComponent* owner);
-  ~TQELCustomSpinEdit() override;
+  ~TQELCustomStepEdit() override;
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
   void DescribeAccessible(vcl::TAccessibleInfo& info) const override;
@@ -99,31 +97,9 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   /// False: text can be neither cut nor pasted nor typed nor deleted; buttons and keys still step
   /// the number.
   void SetCutandPaste(bool allowed) { FCutandPaste = allowed; }
-  int LineSize() const { return FLineSize; }
-  /// What the button and the arrow keys add or take. Any number; a negative one turns them round.
-  void SetLineSize(int size) { FLineSize = size; }
-  int MultipleLineSize() const { return FMultipleLineSize; }
-  /// What the page keys add or take. Any number.
-  void SetMultipleLineSize(int size) { FMultipleLineSize = size; }
-  /// The greatest number; must be greater than MinValue.
-  int MaxValue() const { return FMaxValue; }
-  /// Refuses, silently, what is not greater than MinValue. A form file may give any two bounds, of
-  /// which the same twice stands for none; with a maximum less than the minimum, reading it raises
-  /// EReadError.
-  void SetMaxValue(int maxValue);
-  /// The least number; must be less than MaxValue.
-  int MinValue() const { return FMinValue; }
-  /// Refuses, silently, what is not less than MaxValue.
-  void SetMinValue(int minValue);
   bool Readonly() const { return ReadOnly(); }
   /// True: neither typing nor buttons nor keys change the number.
   void SetReadonly(bool readOnly) { SetReadOnly(readOnly); }
-  /// The number that the text says; MinValue when it says none. Writes MinValue into an empty text.
-  int GetValue() const;
-  /// Writes the number, kept within the bounds.
-  void SetValue(int value);
-  /// The number within the bounds.
-  int CheckValue(int value) const;
 
   void GetChildren(const std::function<void(vcl::TComponent*)>& each,
                    vcl::TComponent* root) override;
@@ -133,6 +109,15 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   virtual void DownClick(vcl::TObject* sender);
 
  protected:
+  explicit TQELCustomStepEdit(vcl::TComponent* owner);
+  /// Adds so many times the difference that the button and the arrow keys make to the number,
+  /// resp. the greater one of the page keys.
+  virtual void Step(int times) = 0;
+  virtual void StepPage(int times) = 0;
+  /// Makes the text one that says a number within the bounds.
+  virtual void CorrectText() = 0;
+  /// Whether the character can be part of a number.
+  virtual bool IsNumeral(char32_t key) const = 0;
   /// Whether a typed character is taken. Those that would begin a line or a column are taken here
   /// and go no further than OnKeyPress.
   virtual bool IsValidChar(char32_t key) const;
@@ -154,21 +139,64 @@ class QEL_API TQELCustomSpinEdit : public vcl::TCustomEdit {
   void Loaded() override;
 
  private:
-  void StepLine(std::int64_t difference);
-  void StepPage(std::int64_t difference);
-  void StepBy(std::int64_t difference);
-  void CheckBounds();
-  void CorrectText();
+  void StepLine(int times);
   void KeepText(std::uint16_t& key, vcl::TShiftState shift);
   bool Refuses(const vcl::TMessage& message) const;
+
+  bool FCutandPaste = true;
+  vcl::TWinControl* FButtonWindow;  // Holds the button, which has no window of its own.
+  TQELCustomSpinButton* FButton;
+};
+
+/// An edit for a whole number with sign. The button and the arrow keys step the number, the page
+/// keys by more. It is kept within bounds when it is set or stepped and when the focus leaves; what
+/// is typed or pasted in between is not, and a text that is no number is then replaced by the value
+/// that it is read as.
+class QEL_API TQELCustomSpinEdit : public TQELCustomStepEdit {
+ public:
+  explicit TQELCustomSpinEdit(vcl::TComponent* owner);
+  ~TQELCustomSpinEdit() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+  int LineSize() const { return FLineSize; }
+  /// What the button and the arrow keys add or take. Any number; a negative one turns them round.
+  void SetLineSize(int size) { FLineSize = size; }
+  int MultipleLineSize() const { return FMultipleLineSize; }
+  /// What the page keys add or take. Any number.
+  void SetMultipleLineSize(int size) { FMultipleLineSize = size; }
+  /// The greatest number; must be greater than MinValue.
+  int MaxValue() const { return FMaxValue; }
+  /// Refuses, silently, what is not greater than MinValue. A form file may give any two bounds, of
+  /// which the same twice stands for none; with a maximum less than the minimum, reading it raises
+  /// EReadError.
+  void SetMaxValue(int maxValue);
+  /// The least number; must be less than MaxValue.
+  int MinValue() const { return FMinValue; }
+  /// Refuses, silently, what is not less than MaxValue.
+  void SetMinValue(int minValue);
+  /// The number that the text says; MinValue when it says none. Writes MinValue into an empty text.
+  int GetValue() const;
+  /// Writes the number, kept within the bounds.
+  void SetValue(int value);
+  /// The number within the bounds.
+  int CheckValue(int value) const;
+
+ protected:
+  void Step(int times) override;
+  void StepPage(int times) override;
+  void CorrectText() override;
+  bool IsNumeral(char32_t key) const override;
+  void Loaded() override;
+
+ private:
+  void StepBy(std::int64_t difference);
+  void CheckBounds();
 
   int FLineSize = 1;
   int FMultipleLineSize = 10;
   int FMaxValue;
   int FMinValue;
-  bool FCutandPaste = true;
-  vcl::TWinControl* FButtonWindow;  // Holds the button, which has no window of its own.
-  TQELCustomSpinButton* FButton;
 };
 
 /// A spin edit for forms.

@@ -1,7 +1,4 @@
-// TQELCustomSpinEdit: stepping the number, keys, and what else changes the text.
-#include <algorithm>
-#include <limits>
-
+// TQELCustomStepEdit: stepping the number, keys, and what else changes the text.
 #include "qel/controls/Qeltspinedit.h"
 #include "vcl/forms/forms.h"
 #include "vcl/rtl/win32.h"
@@ -19,36 +16,23 @@ void Beep() { ::MessageBeep(0); }
 
 // Stepping.
 
-void TQELCustomSpinEdit::UpClick(vcl::TObject* /*sender*/) { StepLine(FLineSize); }
+void TQELCustomStepEdit::UpClick(vcl::TObject* /*sender*/) { StepLine(1); }
 
-void TQELCustomSpinEdit::DownClick(vcl::TObject* /*sender*/) { StepLine(-std::int64_t{FLineSize}); }
+void TQELCustomStepEdit::DownClick(vcl::TObject* /*sender*/) { StepLine(-1); }
 
-void TQELCustomSpinEdit::StepLine(std::int64_t difference) {
-  ReadOnly() ? Beep() : StepBy(difference);
-}
-
-// Other than the arrows, the page keys make no sound in a read-only edit.
-void TQELCustomSpinEdit::StepPage(std::int64_t difference) {
-  if (!ReadOnly()) StepBy(difference);
-}
-
-// The sum may be more than an int holds, with bounds or without.
-void TQELCustomSpinEdit::StepBy(std::int64_t difference) {
-  using TLimits = std::numeric_limits<int>;
-  TWatch watch(this);
-  const std::int64_t sum = GetValue() + difference;
-  if (watch.Gone()) return;
-  SetValue(static_cast<int>(std::clamp<std::int64_t>(sum, TLimits::min(), TLimits::max())));
-}
+void TQELCustomStepEdit::StepLine(int times) { ReadOnly() ? Beep() : Step(times); }
 
 // Keys and clipboard.
 
 // The number is stepped before OnKeyDown is fired: a handler can't keep a key from it.
-void TQELCustomSpinEdit::KeyDown(std::uint16_t& key, TShiftState shift) {
+void TQELCustomStepEdit::KeyDown(std::uint16_t& key, TShiftState shift) {
   TWatch watch(this);
   switch (key) {
-    case VK_PRIOR: StepPage(FMultipleLineSize); break;
-    case VK_NEXT: StepPage(-std::int64_t{FMultipleLineSize}); break;
+    // Other than the arrows, the page keys make no sound in a read-only edit.
+    case VK_PRIOR:
+    case VK_NEXT:
+      if (!ReadOnly()) StepPage(key == VK_PRIOR ? 1 : -1);
+      break;
     case VK_UP: UpClick(this); break;
     case VK_DOWN: DownClick(this); break;
     default: break;
@@ -60,21 +44,20 @@ void TQELCustomSpinEdit::KeyDown(std::uint16_t& key, TShiftState shift) {
 
 // Deleting, cutting and pasting by these keys, the system's edit sends neither a character nor a
 // message that could be refused.
-void TQELCustomSpinEdit::KeepText(std::uint16_t& key, TShiftState shift) {
+void TQELCustomStepEdit::KeepText(std::uint16_t& key, TShiftState shift) {
   const bool shifted = shift.Has(vcl::ssShift);
   if (key == VK_DELETE && !shifted) Beep();
   if (key == VK_DELETE || (key == VK_INSERT && shifted)) key = 0;
 }
 
-bool TQELCustomSpinEdit::IsValidChar(char32_t key) const {
+bool TQELCustomStepEdit::IsValidChar(char32_t key) const {
   const bool control = key < 32;
-  const bool numeral = key == U'+' || key == U'-' || (key >= U'0' && key <= U'9');
-  if (FCutandPaste) return control || numeral;
+  if (FCutandPaste) return control || IsNumeral(key);
   // Nothing that changes the text.
   return control && key != VK_BACK;
 }
 
-void TQELCustomSpinEdit::KeyPress(char32_t& key) {
+void TQELCustomStepEdit::KeyPress(char32_t& key) {
   if (!IsValidChar(key)) {
     key = 0;
     return Beep();
@@ -92,19 +75,19 @@ void TQELCustomSpinEdit::KeyPress(char32_t& key) {
   if (vcl::TCustomForm* form = ParentForm()) form->Perform(vcl::CM_DIALOGKEY, pressed);
 }
 
-void TQELCustomSpinEdit::DoEnter() {
+void TQELCustomStepEdit::DoEnter() {
   // A click puts the caret where it is instead.
   if (AutoSelect() && !ControlState().Has(vcl::csLButtonDown)) SelectAll();
   TCustomEdit::DoEnter();
 }
 
-void TQELCustomSpinEdit::DoExit() {
+void TQELCustomStepEdit::DoExit() {
   TWatch watch(this);
   CorrectText();
   if (!watch.Gone()) TCustomEdit::DoExit();
 }
 
-bool TQELCustomSpinEdit::Refuses(const vcl::TMessage& message) const {
+bool TQELCustomStepEdit::Refuses(const vcl::TMessage& message) const {
   switch (message.Msg) {
     case WM_CUT:
     case WM_PASTE: return !FCutandPaste || ReadOnly();
@@ -118,7 +101,7 @@ bool TQELCustomSpinEdit::Refuses(const vcl::TMessage& message) const {
   }
 }
 
-void TQELCustomSpinEdit::Dispatch(vcl::TMessage& message) {
+void TQELCustomStepEdit::Dispatch(vcl::TMessage& message) {
   if (Refuses(message)) return;
   TWatch watch(this);
   TCustomEdit::Dispatch(message);

@@ -2,6 +2,7 @@
 #include "qel/design/Qelbindings.h"
 
 #include "qel/controls/Qeltbackground.h"
+#include "qel/controls/Qeltlanguagecombo.h"
 #include "qel/core/Qelcomponent.h"
 #include "qel/core/Qeltstoredata.h"
 #include "qel/design/Qelcolorsinbetween.h"
@@ -40,6 +41,7 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       // The store's file name is a property of its Inifile, which this line does not reach; a
       // property of the store itself would get the editor.
       {QEL_EDITOR(TQELINIFilenameProperty), "string", &TQELStoreData::Class(), "Filename"},
+      {QEL_EDITOR(TQELLocaleProperty), "string", &TQELLanguageCombo::Class(), "Locale"},
   };
   return entries;
 }

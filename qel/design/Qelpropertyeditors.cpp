@@ -2,6 +2,7 @@
 #include "qel/design/Qelpropertyeditors.h"
 
 #include "qel/core/Qelcomponent.h"
+#include "qel/core/Qellanguagelines.h"
 #include "vcl/designintf/textdialog.h"
 #include "vcl/dialogs/dialogs.h"
 
@@ -16,6 +17,10 @@ void TQELFilenameProperty::Edit() {
 }
 
 std::string TQELFilenameProperty::GetFilter() const { return "All Files (*.*)|*.*|"; }
+
+void TQELLocaleProperty::GetValues(const std::function<void(const std::string&)>& each) const {
+  for (const TQELLanguage& language : QELLanguages(lwSupported, ldNative)) each(language.Locale);
+}
 
 // The component runs when this very text is written to it.
 void TQELShowMeNowProperty::Edit() { SetValue("(Busy...)"); }

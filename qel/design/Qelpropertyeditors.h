@@ -40,6 +40,16 @@ using TQELINIFilenameProperty = TQELFilteredProperty<filters::Ini>;
 using TQELAviFilenameProperty = TQELFilteredProperty<filters::Avi>;
 using TQELLogFilenameProperty = TQELFilteredProperty<filters::Log>;
 
+/// The short name of a language, out of those that the system knows.
+class QEL_API TQELLocaleProperty : public vcl::TStringProperty {
+ public:
+  using TStringProperty::TStringProperty;
+  vcl::TPropertyAttributes GetAttributes() const override {
+    return {vcl::paValueList, vcl::paMultiSelect, vcl::paSortList};
+  }
+  void GetValues(const std::function<void(const std::string&)>& each) const override;
+};
+
 /// An editor that shows and never edits: what Base offers, without typing.
 template <class Base>
 class TQELShownProperty : public Base {

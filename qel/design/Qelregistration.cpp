@@ -1,11 +1,20 @@
 // The palette pages with their classes, and the package's entry points.
 #include "qel/design/Qelregistration.h"
 
+#include "qel/controls/Qeltautocombo.h"
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltchecklist.h"
+#include "qel/controls/Qeltcolorcombo.h"
+#include "qel/controls/Qeltfontcombo.h"
 #include "qel/controls/Qeltgauge.h"
 #include "qel/controls/Qelthint.h"
 #include "qel/controls/Qeltlabel.h"
+#include "qel/controls/Qeltlanguagecombo.h"
+#include "qel/controls/Qeltlookupedit.h"
+#include "qel/controls/Qeltlookupmenu.h"
+#include "qel/controls/Qeltofficeedit.h"
+#include "qel/controls/Qeltrealspinedit.h"
 #include "qel/controls/Qeltspinedit.h"
 #include "qel/core/Qelclasses.h"
 #include "qel/core/Qelclasses2.h"
@@ -42,7 +51,21 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        }},
       {"QEL Controls/2",
        {
+           &TQELColorCombo::Class(),
+           &TQELLookupMenu::Class(),
            &TQELSpinEdit::Class(),
+           &TQELRealSpinEdit::Class(),
+           &TQELLookupEdit::Class(),
+           &TQELOfficeEdit::Class(),
+           &TQELOfficeEdit::Class(),
+           &TQELFontCombo::Class(),
+           &TQELFontBox::Class(),
+           &TQELCheckList::Class(),
+       }},
+      {"QEL Controls/3",
+       {
+           &TQELLanguageCombo::Class(),
+           &TQELAutoCombo::Class(),
        }},
       {"QEL DBControls",
        {
@@ -106,14 +129,26 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELNewHint::Class(),
       &TQELCustomSpinButton::Class(),
       &TQELSpinButton::Class(),
+      &TQELCustomStepEdit::Class(),
       &TQELCustomSpinEdit::Class(),
       &TQELSpinEdit::Class(),
+      &TQELRealSpinEdit::Class(),
+      &TQELColorCombo::Class(),
+      &TQELFontCombo::Class(),
+      &TQELFontBox::Class(),
+      &TQELCheckList::Class(),
+      &TQELCustomPartEdit::Class(),
+      &TQELLookupEdit::Class(),
+      &TQELOfficeEdit::Class(),
+      &TQELLookupMenu::Class(),
+      &TQELLanguageCombo::Class(),
       &TQELTimer32::Class(),
       &TQELButtonDetails::Class(),
       &TQELRegistry::Class(),
       &TQELIniFile::Class(),
       &TQELDataStore::Class(),
       &TQELStoreData::Class(),
+      &TQELAutoCombo::Class(),
       &TQELSystemTray::Class(),
       &TQELFormSaver::Class(),
       &TQELMRUItem::Class(),

@@ -6,9 +6,20 @@
 
 namespace vcl {
 
+const TClass& TCustomColorBox::Class() {
+  using T = TCustomColorBox;
+  static const TClass info = Describe<T, TCustomComboBox>(
+      "vcl::TCustomColorBox", "vcl/dialogs/dialogs.h",
+      {
+          Property<&T::Selected, &T::SetSelected>("Selected").Default(clBlack).Unpublished(),
+          Event<&T::OnGetColors>("OnGetColors").Unpublished(),
+      });
+  return info;
+}
+
 const TClass& TColorBox::Class() {
   using T = TColorBox;
-  static const TClass info = Describe<T, TCustomComboBox>(
+  static const TClass info = Describe<T, TCustomColorBox>(
       "vcl::TColorBox", "vcl/dialogs/dialogs.h",
       {
           Inherit("Align"),
@@ -16,7 +27,7 @@ const TClass& TColorBox::Class() {
           Property<&T::DefaultColorColor, &T::SetDefaultColorColor>("DefaultColorColor")
               .Default(clBlack),
           Property<&T::NoneColorColor, &T::SetNoneColorColor>("NoneColorColor").Default(clBlack),
-          Property<&T::Selected, &T::SetSelected>("Selected").Default(clBlack),
+          Inherit("Selected"),
           Inherit("Color"),
           Inherit("Ctl3D"),
           Inherit("DragCursor"),
@@ -39,7 +50,7 @@ const TClass& TColorBox::Class() {
           Inherit("OnCloseUp"),
           Inherit(DragEvents),
           Inherit("OnDropDown"),
-          Event<&T::OnGetColors>("OnGetColors"),
+          Inherit("OnGetColors"),
           Inherit(FocusEvents),
           Inherit(KeyEvents),
           Inherit(WheelEvents),
@@ -48,16 +59,22 @@ const TClass& TColorBox::Class() {
   return info;
 }
 
-TColorBox::TColorBox(TComponent* owner) : TCustomComboBox(owner) {
-  auto look = std::make_unique<TColorLines>(*this, OnGetColors);
-  FColors = look.get();
-  SetLook(std::move(look));
+TCustomColorBox::TCustomColorBox(TComponent* owner) : TCustomComboBox(owner) {
   TCustomComboBox::SetStyle(csOwnerDrawFixed);
+}
+
+void TCustomColorBox::UseColors(std::unique_ptr<TColorLines> colors) {
+  FColors = colors.get();
+  SetLook(std::move(colors));
   FColors->Fill();
+}
+
+TColorBox::TColorBox(TComponent* owner) : TCustomColorBox(owner) {
+  UseColors(std::make_unique<TColorLines>(*this, OnGetColors));
   HearOnlyAsked<TColorBox>();
 }
 
-void TColorBox::DropDown() {
+void TCustomColorBox::DropDown() {
   FBefore = Selected();
   FFromList = false;
   TCustomComboBox::DropDown();
@@ -65,7 +82,7 @@ void TColorBox::DropDown() {
 
 /// The window tells of its list's end first, and then of what a click has chosen there; what keys
 /// have chosen it has told before.
-void TColorBox::CloseUp() {
+void TCustomColorBox::CloseUp() {
   const bool moved = FFromList;
   FFromList = true;
   const TWatch watch(this);
@@ -76,12 +93,12 @@ void TColorBox::CloseUp() {
   if (!watch.Gone()) Change();
 }
 
-void TColorBox::KeyDown(std::uint16_t& key, TShiftState shift) {
+void TCustomColorBox::KeyDown(std::uint16_t& key, TShiftState shift) {
   if (!DroppedDown()) FFromList = false;
   TCustomComboBox::KeyDown(key, shift);
 }
 
-void TColorBox::Click() {
+void TCustomColorBox::Click() {
   const TWatch watch(this);
   if (DroppedDown()) {
     FFromList = true;
@@ -92,14 +109,14 @@ void TColorBox::Click() {
   if (!watch.Gone()) TCustomComboBox::Click();
 }
 
-bool TColorBox::Pick() {
+bool TCustomColorBox::Pick() {
   const TWatch watch(this);
   const bool picked = FColors->PickCustom();
   if (!picked && !watch.Gone()) SetSelected(FBefore);
   return picked;
 }
 
-void TColorBox::Loaded() {
+void TCustomColorBox::Loaded() {
   TCustomComboBox::Loaded();
   FColors->Fill();
 }

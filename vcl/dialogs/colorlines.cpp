@@ -75,14 +75,26 @@ TColor TColorLines::Selected() const {
 void TColorLines::Select(TColor color) {
   FWanted = color;
   const int index = IndexOf(color);
-  if (index < 0 && FStyle.Has(cbCustomColor)) {
-    FCustom = color;
-    SetMark(FList, 0, color);
-    FList.SetItemIndex(0);
-  } else {
-    FList.SetItemIndex(index);
-  }
+  index < 0 ? SelectUnlisted(color) : FList.SetItemIndex(index);
   FList.Invalidate();
+}
+
+void TColorLines::SelectUnlisted(TColor color) {
+  const bool custom = FStyle.Has(cbCustomColor);
+  if (custom) SetCustom(color);
+  FList.SetItemIndex(custom ? 0 : -1);
+}
+
+void TColorLines::SelectPicked(TColor color) {
+  FWanted = color;
+  SetCustom(color);
+  FList.SetItemIndex(0);
+  FList.Invalidate();
+}
+
+void TColorLines::SetCustom(TColor color) {
+  FCustom = color;
+  SetMark(FList, 0, color);
 }
 
 /// Another line's before the custom one's, whose colour may be the same.
@@ -91,7 +103,7 @@ int TColorLines::IndexOf(TColor color) const {
   for (int i = first; i < FList.Items()->Count(); ++i) {
     if (Colors(i) == color) return i;
   }
-  return first == 1 && FCustom == color ? 0 : -1;
+  return -1;
 }
 
 bool TColorLines::PickCustom() {
@@ -100,10 +112,7 @@ bool TColorLines::PickCustom() {
   dialog.SetColor(FCustom);
   dialog.SetOptions({cdFullOpen});
   if (!dialog.Execute() || watch.Gone()) return false;
-  FWanted = FCustom = dialog.Color();
-  SetMark(FList, 0, FCustom);
-  FList.SetItemIndex(0);
-  FList.Invalidate();
+  SelectPicked(dialog.Color());
   return true;
 }
 
@@ -164,18 +173,22 @@ TColor TColorLines::ShownColor(int index) const {
 }
 
 void TColorLines::Draw(TCustomListControl& list, int index, const TRect& rect, TOwnerDrawState) {
-  TCanvas& canvas = *list.Canvas();
   const int margin = list.ScaledPixels(2);
   const int size = rect.Height() - 2 * margin;
   const TRect swatch = Bounds(rect.Left + margin, rect.Top + margin, size * 3 / 2, size);
+  DrawSwatch(index, swatch);
+  DrawLineText(list, rect, swatch.Right - rect.Left + list.ScaledPixels(4),
+               list.Items()->Strings(index));
+}
+
+void TColorLines::DrawSwatch(int index, const TRect& swatch) const {
+  TCanvas& canvas = *FList.Canvas();
   const TColor back = canvas.Brush()->Color();
   canvas.Brush()->SetColor(ShownColor(index));
   canvas.FillRect(swatch);
-  canvas.Brush()->SetColor(list.Enabled() ? clWindowText : clGrayText);
+  canvas.Brush()->SetColor(FList.Enabled() ? clWindowText : clGrayText);
   canvas.FrameRect(swatch);
   canvas.Brush()->SetColor(back);
-  DrawLineText(list, rect, swatch.Right - rect.Left + list.ScaledPixels(4),
-               list.Items()->Strings(index));
 }
 
 }  // namespace vcl

@@ -49,7 +49,7 @@ class VCL_API TColorLines : public TLineLook {
   void SetDefaultColor(TColor color);
   TColor NoneColor() const { return FNone; }
   void SetNoneColor(TColor color);
-  TColor Selected() const;
+  virtual TColor Selected() const;
   /// Selects the colour's line; one that is not listed is the "Custom..." line's where there is
   /// one, else it is kept until a line of it comes.
   void Select(TColor color);
@@ -65,11 +65,23 @@ class VCL_API TColorLines : public TLineLook {
 
   void Draw(TCustomListControl& list, int index, const TRect& rect, TOwnerDrawState state) override;
 
+ protected:
+  TCustomListControl& List() const { return FList; }
+  /// The lines that Style asks for, before OnGetColors changes them.
+  virtual void AddLines(TStrings& lines) const;
+  /// Selects a colour that is not listed.
+  virtual void SelectUnlisted(TColor color);
+  /// Selects what the dialog has given.
+  virtual void SelectPicked(TColor color);
+  /// Gives the "Custom..." line, which there is, the colour.
+  void SetCustom(TColor color);
+  TColor ShownColor(int index) const;
+  /// Draws a framed swatch of the line's colour.
+  void DrawSwatch(int index, const TRect& swatch) const;
+
  private:
   std::string NameOf(const std::string& ident) const;
-  void AddLines(TStrings& lines) const;
   int IndexOf(TColor color) const;
-  TColor ShownColor(int index) const;
 
   TCustomListControl& FList;
   const TGetColorsEvent& FOnGetColors;

@@ -114,25 +114,30 @@ void TCheckListBox::InvalidateItem(int index) {
 }
 
 TRect TCheckListBox::BoxOf(const TRect& item) const {
-  const int size = BoxSize();
+  const int size = MarkSize();
   const int left = item.Left + ScaledPixels(2);
   const int top = item.Top + (item.Height() - size) / 2;
   return {left, top, left + size, top + size};
 }
 
-void TCheckListBox::DrawItem(int index, const TRect& rect, TOwnerDrawState state) {
+void TCheckListBox::DrawMark(const TRect& rect, TCheckBoxState state, bool enabled) {
   static constexpr UINT looks[] = {DFCS_BUTTONCHECK, DFCS_BUTTONCHECK | DFCS_CHECKED,
                                    DFCS_BUTTON3STATE | DFCS_CHECKED};
+  RECT box = rect;
+  ::DrawFrameControl(Canvas()->Handle(), &box, DFC_BUTTON,
+                     looks[state] | (enabled ? 0u : static_cast<UINT>(DFCS_INACTIVE)));
+}
+
+void TCheckListBox::DrawItem(int index, const TRect& rect, TOwnerDrawState state) {
   const bool usable = Enabled() && ItemEnabled(index);
-  RECT box = BoxOf(rect);
+  const TRect box = BoxOf(rect);
   TRect text = rect;
-  text.Left = box.right + ScaledPixels(2);
+  text.Left = box.Right + ScaledPixels(2);
   // The box stands on the list's colour, whether the item is selected or not.
   const TColor back = Canvas()->Brush()->Color();
   Canvas()->Brush()->SetColor(Color());
   Canvas()->FillRect(TRect(rect.Left, rect.Top, text.Left, rect.Bottom));
-  ::DrawFrameControl(Canvas()->Handle(), &box, DFC_BUTTON,
-                     looks[State(index)] | (usable ? 0u : static_cast<UINT>(DFCS_INACTIVE)));
+  DrawMark(box, State(index), usable);
   Canvas()->Brush()->SetColor(back);
   if (!usable && !state.Has(odSelected)) Canvas()->Font()->SetColor(clGrayText);
   TCustomListBox::DrawItem(index, text, state);
@@ -141,7 +146,7 @@ void TCheckListBox::DrawItem(int index, const TRect& rect, TOwnerDrawState state
 /// Items that the system would draw are as high as their font and their boxes.
 void TCheckListBox::FitItems() {
   if (Style() != lbStandard || !HandleAllocated()) return;
-  Send(*this, LB_SETITEMHEIGHT, 0, std::max(FontHeight(*Font()), BoxSize() + ScaledPixels(2)));
+  Send(*this, LB_SETITEMHEIGHT, 0, std::max(FontHeight(*Font()), MarkSize() + ScaledPixels(2)));
 }
 
 void TCheckListBox::CreateParams(TCreateParams& params) {

@@ -37,6 +37,12 @@ class VCL_API TCheckListBox : public TCustomListBox {
 
  protected:
   virtual void ClickCheck();
+  /// The width and height of the marks.
+  virtual int MarkSize() const { return ScaledPixels(13); }
+  /// Draws the mark of a state on Canvas. The inherited method draws the system's check box.
+  virtual void DrawMark(const TRect& rect, TCheckBoxState state, bool enabled);
+  /// The marks have got another size.
+  void FitItems();
   bool OwnerDraw() const override { return true; }
   void DrawItem(int index, const TRect& rect, TOwnerDrawState state) override;
   void KeyPress(char32_t& key) override;
@@ -46,11 +52,9 @@ class VCL_API TCheckListBox : public TCustomListBox {
   void Dispatch(TMessage& message) override;
 
  private:
-  int BoxSize() const { return ScaledPixels(13); }
   TRect BoxOf(const TRect& item) const;
   void Toggle(int index);
   void InvalidateItem(int index);
-  void FitItems();
 
   bool FAllowGrayed = false;
 };

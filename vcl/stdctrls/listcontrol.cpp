@@ -192,7 +192,7 @@ void TCustomListControl::DrawFromWindow(const DRAWITEMSTRUCT& draw) {
   if (!Enabled()) FCanvas->Font()->SetColor(clGrayText);
   FCanvas->FillRect(rect);
   // The system also asks for a drop-down list's field while nothing is selected.
-  if (index >= 0 && index < FItems->Count()) DrawItem(index, rect, state);
+  if (index >= 0 && index < LineCount()) DrawItem(index, rect, state);
   if (!watch.Gone() && state.Has(odFocused)) FCanvas->DrawFocusRect(rect);
 }
 

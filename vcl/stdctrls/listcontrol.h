@@ -73,6 +73,8 @@ class VCL_API TCustomListControl : public TWinControl {
   /// What the lines look like where no OnDrawItem draws them; for constructors. The list needs a
   /// style that draws its items itself.
   void SetLook(std::unique_ptr<TLineLook> look);
+  /// How many lines the window has; a list that has its lines from elsewhere says so.
+  virtual int LineCount() const { return Items()->Count(); }
   /// True when the list draws the items itself.
   virtual bool OwnerDraw() const = 0;
   /// True when the items have heights of their own, too.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "vcl/controls/windowmessages.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/screen.h"
 #include "vcl/graphics/fontmetrics.h"
@@ -40,8 +41,13 @@ void TPopupList::DropDown(const TRect& below, const std::vector<std::string>& va
     for (const std::string& value : values) Items()->Add(value);
   }
   Choose(current);
-  const int count = std::clamp(Items()->Count(), 1, MostItems);
-  const int item = ItemRect(0).Height() > 0 ? ItemRect(0).Height() : FontHeight(*Font());
+  Open(below, MostItems);
+}
+
+void TPopupList::Open(const TRect& below, int most) {
+  const int count = std::clamp(LineCount(), 1, most);
+  const int line = static_cast<int>(Send(*this, LB_GETITEMHEIGHT));
+  const int item = line > 0 ? line : FontHeight(*Font());
   const int height = count * item + 2 * Border;
   const TRect area = Screen()->WorkAreaRect(below);
   const bool fits = below.Bottom + height <= area.Bottom || below.Top - height < area.Top;
@@ -63,8 +69,8 @@ std::string TPopupList::Chosen() const {
 
 /// Moves the selection by so many items, as far as there are some.
 void TPopupList::Step(int by) {
-  if (Items()->Count() == 0) return;
-  SetItemIndex(std::clamp(ItemIndex() + by, 0, Items()->Count() - 1));
+  if (LineCount() == 0) return;
+  SetItemIndex(std::clamp(ItemIndex() + by, 0, LineCount() - 1));
 }
 
 bool TPopupList::TakeKey(std::uint16_t key) {
@@ -74,8 +80,8 @@ bool TPopupList::TakeKey(std::uint16_t key) {
     case VK_DOWN: return Step(1), true;
     case VK_PRIOR: return Step(-PageSize()), true;
     case VK_NEXT: return Step(PageSize()), true;
-    case VK_HOME: return Step(-Items()->Count()), true;
-    case VK_END: return Step(Items()->Count()), true;
+    case VK_HOME: return Step(-LineCount()), true;
+    case VK_END: return Step(LineCount()), true;
     case VK_RETURN: return OnClick(this), true;
     case VK_F4:
     case VK_ESCAPE: return CloseUp(), true;
@@ -95,14 +101,23 @@ bool TPopupList::DispatchOwn(TMessage& message) {
     case WM_LBUTTONDBLCLK:
     case WM_MOUSEMOVE: SelectAt(message); return true;
     case WM_LBUTTONUP:
-      if (ItemAtPos({message.XPos(), message.YPos()}, true) >= 0) OnClick(this);
+      if (LineAt(message) >= 0) OnClick(this);
       return true;
     default: return false;
   }
 }
 
+/// The line under the mouse; -1 for none.
+int TPopupList::LineAt(const TMessage& message) const {
+  const TPoint at{message.XPos(), message.YPos()};
+  if (!ClientRect().Contains(at)) return -1;
+  const auto height = static_cast<int>(Send(*this, LB_GETITEMHEIGHT));
+  const int line = TopIndex() + at.Y / std::max(height, 1);
+  return line < LineCount() ? line : -1;
+}
+
 void TPopupList::SelectAt(const TMessage& message) {
-  const int item = ItemAtPos({message.XPos(), message.YPos()}, true);
+  const int item = LineAt(message);
   if (item >= 0 && item != ItemIndex()) SetItemIndex(item);
 }
 

@@ -31,12 +31,15 @@ class VCL_API TPopupList : public TCustomListBox {
   int PageSize() const { return ClientHeight() / ItemHeight(); }
 
  protected:
+  /// Shows the window, high enough for the lines but for no more than `most`.
+  void Open(const TRect& below, int most);
   void CreateParams(TCreateParams& params) override;
   void Dispatch(TMessage& message) override;
 
  private:
   void Step(int by);
   bool DispatchOwn(TMessage& message);
+  int LineAt(const TMessage& message) const;
   void SelectAt(const TMessage& message);
 
   bool FDown = false;
