@@ -24,9 +24,9 @@ TEST_F(DesignedContainers, ToolBarsGetButtonsByTheirMenuAndByTheMouse) {
   OpenForm(" object Tools: TToolBar\n Left = 0\n Top = 0\n Width = 420\n Height = 29\n end\n");
   const std::string before = Document().Text();
   KeysInMenuAt(At(300, 10), "Down Enter");
-  EXPECT_THAT(SelectedNames(), ElementsAre("ToolButton1"));
+  ASSERT_THAT(SelectedNames(), ElementsAre("ToolButton1"));
   KeysInMenuAt(On("ToolButton1"), "Down Down Enter");
-  EXPECT_THAT(Buttons("Tools"), ElementsAre("ToolButton1", "ToolButton2"));
+  ASSERT_THAT(Buttons("Tools"), ElementsAre("ToolButton1", "ToolButton2"));
   EXPECT_EQ(Find<TToolButton>("ToolButton2")->Style(), tbsSeparator);
   // A new one stands behind the one that it was asked of.
   KeysInMenuAt(On("ToolButton1"), "Down Enter");
@@ -36,7 +36,7 @@ TEST_F(DesignedContainers, ToolBarsGetButtonsByTheirMenuAndByTheMouse) {
   EXPECT_EQ(Find("Edit1")->Parent(), Find("Tools"));
   EXPECT_THAT(Buttons("Tools"), ElementsAre("ToolButton1", "ToolButton3", "ToolButton2", "Edit1"));
   const TPoint from = On("ToolButton1");
-  Drag(from, {from.X + 40, from.Y});
+  Drag(from, {from.X + 30, from.Y});
   EXPECT_THAT(Buttons("Tools"), ElementsAre("ToolButton3", "ToolButton1", "ToolButton2", "Edit1"));
   while (Document().CanUndo()) It().Undo();
   EXPECT_EQ(Document().Text(), before);

@@ -138,6 +138,7 @@ void TItemsEditor::ExecuteVerb(int index) {
 void RegisterContainerEditors() {
   const auto toolBar = ComponentEditorClass<TToolBarEditor>("TToolBarEditor");
   RegisterComponentEditor(TToolBar::Class(), toolBar);
+  RegisterComponentEditor(TToolButton::Class(), toolBar);
   const auto pages = ComponentEditorClass<TPageControlEditor>("TPageControlEditor");
   RegisterComponentEditor(TPageControl::Class(), pages);
   RegisterComponentEditor(TTabSheet::Class(), pages);
