@@ -4,6 +4,8 @@
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/Qeltbutton.h"
 #include "qel/controls/Qeltgauge.h"
+#include "qel/controls/Qeltheader.h"
+#include "qel/controls/Qeltheaderlist.h"
 #include "qel/controls/Qelthint.h"
 #include "qel/controls/Qeltlabel.h"
 #include "qel/controls/Qeltspinedit.h"

@@ -4,6 +4,8 @@
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/Qeltbutton.h"
 #include "qel/controls/Qeltgauge.h"
+#include "qel/controls/Qeltheader.h"
+#include "qel/controls/Qeltheaderlist.h"
 #include "qel/controls/Qelthint.h"
 #include "qel/controls/Qeltlabel.h"
 #include "qel/controls/Qeltspinedit.h"
@@ -39,6 +41,8 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELButton::Class(),
            &TQELGauge::Class(),
            &TQELHint::Class(),
+           &TQELHeader::Class(),
+           &TQELHeaderList::Class(),
        }},
       {"QEL Controls/2",
        {
@@ -104,6 +108,10 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELGauge::Class(),
       &TQELHint::Class(),
       &TQELNewHint::Class(),
+      &TQELHeaderSection::Class(),
+      &TQELHeaderSections::Class(),
+      &TQELHeader::Class(),
+      &TQELHeaderList::Class(),
       &TQELCustomSpinButton::Class(),
       &TQELSpinButton::Class(),
       &TQELCustomSpinEdit::Class(),

@@ -20,5 +20,6 @@ inline void RegisterAll() {
                         &qel::TQELPOPMail::Class(),    &qel::TQELMRUItem::Class(),
                         &qel::TQELMRUMenu::Class(),    &qel::TQELExplorerTree::Class(),
                         &qel::TQELDBAscii::Class(),    &qel::TQELMapiMail::Class(),
-                        &qel::TQELQuickMail::Class()});
+                        &qel::TQELQuickMail::Class(),  &qel::TQELHeader::Class(),
+                        &qel::TQELHeaderList::Class()});
 }
