@@ -4,6 +4,7 @@
 #include <string>
 
 #include "bench/timing.h"
+#include "qel/controls/Qeltheaderlist.h"
 #include "vcl/forms/forms.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/listview.h"
@@ -46,6 +47,37 @@ class TShownRows {
   vcl::TListView FView;
 };
 
+/// A header list of virtual rows on the screen, which Page Down goes through.
+class TShownHeaderList {
+ public:
+  TShownHeaderList(int rows, int left) : FForm(nullptr), FList(&FForm) {
+    FForm.SetBounds(left, 0, 400, 400);
+    FList.SetParent(&FForm);
+    FList.SetBounds(10, 10, 350, 330);
+    for (int i = 0; i < 2; ++i) FList.Sections()->Add()->SetWidth(150);
+    FList.OnGetText = [](vcl::TObject*, int column, int row, std::string& text) {
+      text = std::to_string(row * (column + 1));
+    };
+    FList.SetRowCount(rows);
+    FForm.Show();
+    FForm.Update();
+  }
+
+  /// From the middle on, where there are numbers as long as any.
+  void PageDown() {
+    constexpr int lastPages = 40;
+    if (FList.ItemIndex() < 0 || FList.ItemIndex() + lastPages > FList.Count()) {
+      FList.SetItemIndex(FList.Count() / 2 - 1);
+    }
+    FList.Perform(WM_KEYDOWN, VK_NEXT);
+    FList.Update();
+  }
+
+ private:
+  vcl::TForm FForm;
+  qel::TQELHeaderList FList;
+};
+
 void AddItems(int count) {
   vcl::TForm form(nullptr);
   vcl::TListView view(&form);
@@ -65,6 +97,14 @@ void Lists() {
   TShownRows many(1'000'000, 0);
   TShownRows few(1'000, 410);
   pages.Add("TListView", {Compare([&] { many.PageDown(); }, [&] { few.PageDown(); })});
+
+  TTable headers("A header list of 1,000,000 virtual rows, against 100",
+                 "Page Down, painted. At most 1.1: only the rows that are seen cost anything.",
+                 {"page down"});
+  TShownHeaderList million(1'000'000, 0);
+  TShownHeaderList hundred(100, 410);
+  headers.Add("TQELHeaderList",
+              {Compare([&] { million.PageDown(); }, [&] { hundred.PageDown(); })});
 
   TTable items("A list view of 1,000 items, against 250",
                "Added one by one, half of them deleted from the beginning. At most 6.",

@@ -8,6 +8,8 @@
 #include "qel/controls/Qeltcolorcombo.h"
 #include "qel/controls/Qeltfontcombo.h"
 #include "qel/controls/Qeltgauge.h"
+#include "qel/controls/Qeltheader.h"
+#include "qel/controls/Qeltheaderlist.h"
 #include "qel/controls/Qelthint.h"
 #include "qel/controls/Qeltlabel.h"
 #include "qel/controls/Qeltlanguagecombo.h"

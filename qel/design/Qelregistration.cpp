@@ -8,6 +8,8 @@
 #include "qel/controls/Qeltcolorcombo.h"
 #include "qel/controls/Qeltfontcombo.h"
 #include "qel/controls/Qeltgauge.h"
+#include "qel/controls/Qeltheader.h"
+#include "qel/controls/Qeltheaderlist.h"
 #include "qel/controls/Qelthint.h"
 #include "qel/controls/Qeltlabel.h"
 #include "qel/controls/Qeltlanguagecombo.h"
@@ -48,6 +50,8 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELButton::Class(),
            &TQELGauge::Class(),
            &TQELHint::Class(),
+           &TQELHeader::Class(),
+           &TQELHeaderList::Class(),
        }},
       {"QEL Controls/2",
        {
@@ -127,6 +131,10 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELGauge::Class(),
       &TQELHint::Class(),
       &TQELNewHint::Class(),
+      &TQELHeaderSection::Class(),
+      &TQELHeaderSections::Class(),
+      &TQELHeader::Class(),
+      &TQELHeaderList::Class(),
       &TQELCustomSpinButton::Class(),
       &TQELSpinButton::Class(),
       &TQELCustomStepEdit::Class(),

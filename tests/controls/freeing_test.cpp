@@ -11,6 +11,7 @@
 #include "tests/vcl/testinput.h"
 #include "vcl/forms/standardclasses.h"
 #include "vcl/rtl/classregistry.h"
+#include "vcl/stdctrls/inplaceedit.h"
 
 namespace {
 
@@ -55,7 +56,12 @@ bool Bind(TEventBase& event, const std::function<void()>& call) {
          BindAs<TObject*, int, int, const std::string&>(event, call) ||
          BindAs<TObject*, int, int, TEditStyle&>(event, call) ||
          BindAs<TObject*, int, int, TStrings*>(event, call) ||
-         BindAs<TObject*, int, int, const TRect&, TGridDrawState>(event, call);
+         BindAs<TObject*, int, int, const TRect&, TGridDrawState>(event, call) ||
+         BindAs<TObject*, int, int&>(event, call) || BindAs<TObject*, int, bool>(event, call) ||
+         BindAs<TObject*, int, int, int, int&>(event, call) ||
+         BindAs<TObject*, qel::TQELHeaderSection*>(event, call) ||
+         BindAs<TObject*, qel::TQELHeaderSection*, int&>(event, call) ||
+         BindAs<TObject*, qel::TQELHeaderSection*, const TRect&, bool>(event, call);
 }
 
 enum class TVictim { Control, Panel, Form };
@@ -82,6 +88,11 @@ class TScene {
     if (auto* tabs = dynamic_cast<TTabControl*>(Control)) {
       for (const char* each : {"&one", "&two"}) tabs->Tabs()->Add(each);
     }
+    if (auto* header = dynamic_cast<qel::TQELHeader*>(Control)) {
+      header->SetAllowMove(true);
+      for (int i = 0; i < 2; ++i) header->Sections()->Add();
+    }
+    if (auto* list = dynamic_cast<qel::TQELHeaderList*>(Control)) Fill(*list, event);
     FForm.emplace(Form);
     FPanel.emplace(Panel);
     FOther.emplace(Other);
@@ -129,6 +140,17 @@ class TScene {
     }
   }
 
+  /// Virtual rows, or lines where these are sorted.
+  void Fill(qel::TQELHeaderList& list, const std::string& event) {
+    list.SetCheckBoxes(true);
+    list.SetReadOnly(false);
+    list.SetImages(new TImageList(Form));
+    for (int i = 0; i < 2; ++i) list.Sections()->Add()->SetText("&A");
+    for (const char* each : {"one", "two"}) list.Items()->Add(each);
+    if (event == "OnGetText" || event == "OnSetText" || event == "OnSort") list.SetRowCount(2);
+    if (event == "OnSetText")
+      list.OnGetText = [](TObject*, int, int, std::string& text) { text = "?"; };
+  }
   TWinControl* Window() const { return dynamic_cast<TWinControl*>(Control); }
   void Tell(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
     if (TWinControl* window = Window()) {
@@ -143,6 +165,25 @@ class TScene {
     if (!Window()) return;
     ::PostMessageW(Window()->Handle(), WM_KEYDOWN, key, 1);
     ::PostMessageW(Window()->Handle(), WM_KEYUP, key, 1);
+  }
+
+  /// What a header sizes and moves by.
+  void Drag(TPoint from, TPoint to) const {
+    if (!dynamic_cast<qel::TQELHeader*>(Control)) return;
+    Tell(WM_MOUSEMOVE, 0, MAKELPARAM(from.X, from.Y));
+    if (Whole()) Tell(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from.X, from.Y));
+    if (Whole()) Tell(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.X, to.Y));
+    if (Whole()) Tell(WM_LBUTTONUP, 0, MAKELPARAM(to.X, to.Y));
+  }
+  /// Types into the edit over a cell, which Enter ends.
+  void EditIn(const TWinControl& list) const {
+    for (int i = 0; i < list.ControlCount(); ++i) {
+      auto* edit = dynamic_cast<TInplaceEdit*>(list.Controls(i));
+      if (!edit) continue;
+      ::SendMessageW(edit->Handle(), WM_CHAR, 'x', 1);
+      if (Whole()) ::SendMessageW(edit->Handle(), WM_KEYDOWN, VK_RETURN, 1);
+      return;
+    }
   }
 
   std::vector<std::function<void()>> Acts() {
@@ -163,6 +204,20 @@ class TScene {
           if (Window()) Window()->SetFocus();
         },
         [this] { Key('A'); },
+        [this] {
+          Drag({50, 10}, {70, 10});
+        },
+        [this] {
+          Drag({10, 10}, {80, 10});
+        },
+        [this] {
+          auto* list = dynamic_cast<qel::TQELHeaderList*>(Control);
+          if (!list) return;
+          list->SetItemIndex(0);
+          ::SendMessageW(list->Header()->Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(9, 9));
+          if (Whole()) ::SendMessageW(list->Header()->Handle(), WM_LBUTTONUP, 0, MAKELPARAM(9, 9));
+          if (Whole() && list->EditCell(0)) EditIn(*list);
+        },
         [this] { Key(VK_DOWN); },
         [this] { Key(VK_SPACE); },
         [this] { Other->SetFocus(); },

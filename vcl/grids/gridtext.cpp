@@ -1,5 +1,5 @@
 // Blocks of cells as text: quoting and its reverse.
-#include "vcl/grids/private/gridtext.h"
+#include "vcl/grids/gridtext.h"
 
 #include <algorithm>
 

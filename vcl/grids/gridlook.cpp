@@ -1,5 +1,5 @@
 // How cells look: the text in them.
-#include "vcl/grids/private/gridlook.h"
+#include "vcl/grids/gridlook.h"
 
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/rtl/win32.h"
