@@ -5,10 +5,10 @@
 #include "qel/controls/private/columnorder.h"
 #include "qel/controls/private/headerlistparts.h"
 #include "qel/controls/private/rowset.h"
-#include "vcl/forms/clipboardtext.h"
 #include "vcl/grids/gridtext.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
+#include "vcl/transfer/clipboard.h"
 
 namespace qel {
 
@@ -159,7 +159,7 @@ std::string TQELHeaderList::SelectionText() {
 void TQELHeaderList::CopyToClipboard() {
   const TWatch watch(this);
   const std::string text = SelectionText();
-  if (!watch.Gone() && !text.empty()) vcl::SetClipboardText(text);
+  if (!watch.Gone() && !text.empty()) vcl::Clipboard()->SetAsText(text);
 }
 
 int TQELHeaderList::FindRow(const std::string& text, int column, int from) {

@@ -1,7 +1,7 @@
 // The list under a header: rows, selection, sorting, typing, editing, and a million virtual rows.
 #include "tests/controls/headerform.h"
 #include "tests/support/screenreader.h"
-#include "vcl/forms/clipboardtext.h"
+#include "vcl/transfer/clipboard.h"
 
 namespace qel {
 namespace {
@@ -141,7 +141,7 @@ TEST_F(HeaderList, SelectsSeveralRows) {
   EXPECT_EQ(It->SelCount(), 4);
   It->SetSelected(1, false);
   KeyWith(VK_CONTROL, 'C');
-  EXPECT_EQ(vcl::ClipboardText(),
+  EXPECT_EQ(vcl::Clipboard()->AsText(),
             "pear\t10\t2024-03-01\nplum\t9\t2024-01-02\nfig\t100\t1999-05-05\n");
 }
 
