@@ -134,6 +134,19 @@ void TQELGlyph::Draw(vcl::TCanvas* canvas, int x, int y, bool enabled, bool down
     CopyImage(1, image);
     DrawGrayed(image, FTransparentColor, 1);
   }
+  PutImage(canvas, image, x, y);
+}
+
+void TQELGlyph::DrawImage(vcl::TCanvas* canvas, int x, int y, int number, bool grayed) const {
+  if (FBitmap->Empty() || !FVisible || ImageWidth() == 0) return;
+  TBitmap image(ImageWidth(), FBitmap->Height());
+  const bool missing = number < 1 || number > FNumGlyphs;
+  CopyImage(missing ? 1 : number, image);
+  if (missing && grayed) DrawGrayed(image, FTransparentColor, 2);
+  PutImage(canvas, image, x, y);
+}
+
+void TQELGlyph::PutImage(vcl::TCanvas* canvas, TBitmap& image, int x, int y) const {
   if (PixelsPerInchOf(FOwner) != vcl::DefaultPixelsPerInch) {
     DrawScaled(canvas, image, x, y);
   } else if (FTransparent) {

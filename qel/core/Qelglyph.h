@@ -49,6 +49,9 @@ class QEL_API TQELGlyph : public vcl::TGraphicsObject {
   /// Draws the image for the state at (x, y). A disabled glyph is always greyed, also when the
   /// strip has an image for it; `grayed` greys the first image of an enabled one.
   void Draw(vcl::TCanvas* canvas, int x, int y, bool enabled, bool down, bool grayed) const;
+  /// Draws the image of that number, from 1, for controls that have other states: the first one
+  /// where there are fewer, which `grayed` greys then.
+  void DrawImage(vcl::TCanvas* canvas, int x, int y, int number, bool grayed) const;
   /// Turns a bitmap's colours, save the transparent one, into those of a button's face, from black
   /// to light: the more of them into dark ones, the higher the level. `color` is not used.
   void DrawGrayed(vcl::TBitmap& bitmap, vcl::TColor color, int level) const;
@@ -64,6 +67,7 @@ class QEL_API TQELGlyph : public vcl::TGraphicsObject {
   int ImageWidth() const;
   int ImageFor(bool enabled, bool down) const;
   void CopyImage(int number, vcl::TBitmap& image) const;
+  void PutImage(vcl::TCanvas* canvas, vcl::TBitmap& image, int x, int y) const;
   void DrawScaled(vcl::TCanvas* canvas, vcl::TBitmap& image, int x, int y) const;
 
   vcl::TColor FTransparentColor = vcl::clBlack;
