@@ -1,11 +1,19 @@
 // Every component of the package in one include.
 #pragma once
 
+#include "qel/controls/Qeltarrowbutton.h"
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltcheckbox.h"
+#include "qel/controls/Qeltfillbackground.h"
+#include "qel/controls/Qeltformdivider.h"
 #include "qel/controls/Qeltgauge.h"
 #include "qel/controls/Qelthint.h"
+#include "qel/controls/Qeltiebutton.h"
 #include "qel/controls/Qeltlabel.h"
+#include "qel/controls/Qeltofficebutton.h"
+#include "qel/controls/Qeltpanel.h"
+#include "qel/controls/Qeltroundbutton.h"
 #include "qel/controls/Qeltspinedit.h"
 #include "qel/core/Qelclasses2.h"
 #include "qel/core/Qelfunctions.h"

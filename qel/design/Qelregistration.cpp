@@ -1,11 +1,19 @@
 // The palette pages with their classes, and the package's entry points.
 #include "qel/design/Qelregistration.h"
 
+#include "qel/controls/Qeltarrowbutton.h"
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltcheckbox.h"
+#include "qel/controls/Qeltfillbackground.h"
+#include "qel/controls/Qeltformdivider.h"
 #include "qel/controls/Qeltgauge.h"
 #include "qel/controls/Qelthint.h"
+#include "qel/controls/Qeltiebutton.h"
 #include "qel/controls/Qeltlabel.h"
+#include "qel/controls/Qeltofficebutton.h"
+#include "qel/controls/Qeltpanel.h"
+#include "qel/controls/Qeltroundbutton.h"
 #include "qel/controls/Qeltspinedit.h"
 #include "qel/core/Qelclasses.h"
 #include "qel/core/Qelclasses2.h"
@@ -35,14 +43,26 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
       {"QEL Controls/1",
        {
            &TQELBackground::Class(),
+           &TQELCheckbox::Class(),
+           &TQELRadiobutton::Class(),
            &TQELLabel::Class(),
            &TQELButton::Class(),
+           &TQELIEButton::Class(),
+           &TQELOfficeButton::Class(),
+           &TQELPanel::Class(),
            &TQELGauge::Class(),
            &TQELHint::Class(),
+           &TQELFillBackground::Class(),
+           &TQELArrowButton::Class(),
+           &TQELRoundButton::Class(),
        }},
       {"QEL Controls/2",
        {
            &TQELSpinEdit::Class(),
+       }},
+      {"QEL Controls/3",
+       {
+           &TQELFormDivider::Class(),
        }},
       {"QEL DBControls",
        {
@@ -100,7 +120,19 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELBrushFill::Class(),
       &TQELBackground::Class(),
       &TQELLabel::Class(),
+      &TQELCustomButton::Class(),
       &TQELButton::Class(),
+      &TQELCustomCheck::Class(),
+      &TQELCheckbox::Class(),
+      &TQELRadiobutton::Class(),
+      &TQELArrowButton::Class(),
+      &TQELOfficeButton::Class(),
+      &TQELIEButton::Class(),
+      &TQELRoundButton::Class(),
+      &TQELPanel::Class(),
+      &TQELCustomFillBackground::Class(),
+      &TQELFillBackground::Class(),
+      &TQELFormDivider::Class(),
       &TQELGauge::Class(),
       &TQELHint::Class(),
       &TQELNewHint::Class(),

@@ -26,9 +26,21 @@ struct TExpected {
 };
 
 constexpr TExpected Expected[] = {
-    {"TQELButton", ROLE_SYSTEM_PUSHBUTTON, "Press"}, {"TQELLabel", ROLE_SYSTEM_STATICTEXT, ""},
-    {"TQELGauge", ROLE_SYSTEM_PROGRESSBAR, ""},      {"TQELSpinButton", ROLE_SYSTEM_SPINBUTTON, ""},
-    {"TQELSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""},    {"TQELExplorerTree", ROLE_SYSTEM_OUTLINE, ""},
+    {"TQELButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELLabel", ROLE_SYSTEM_STATICTEXT, ""},
+    {"TQELGauge", ROLE_SYSTEM_PROGRESSBAR, ""},
+    {"TQELSpinButton", ROLE_SYSTEM_SPINBUTTON, ""},
+    {"TQELSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""},
+    {"TQELExplorerTree", ROLE_SYSTEM_OUTLINE, ""},
+    {"TQELCheckbox", ROLE_SYSTEM_CHECKBUTTON, "Check"},
+    {"TQELRadiobutton", ROLE_SYSTEM_RADIOBUTTON, "Check"},
+    {"TQELArrowButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELOfficeButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELIEButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELRoundButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELPanel", ROLE_SYSTEM_GROUPING, ""},
+    {"TQELFillBackground", ROLE_SYSTEM_GRAPHIC, ""},
+    {"TQELFormDivider", ROLE_SYSTEM_SEPARATOR, ""},
 };
 
 TEST_F(Accessible, EveryControlHasARoleAndTheNameOfItsCaption) {

@@ -21,4 +21,9 @@ inline void RegisterAll() {
                         &qel::TQELMRUMenu::Class(),    &qel::TQELExplorerTree::Class(),
                         &qel::TQELDBAscii::Class(),    &qel::TQELMapiMail::Class(),
                         &qel::TQELQuickMail::Class()});
+  vcl::RegisterClasses({&qel::TQELCheckbox::Class(), &qel::TQELRadiobutton::Class(),
+                        &qel::TQELArrowButton::Class(), &qel::TQELOfficeButton::Class(),
+                        &qel::TQELIEButton::Class(), &qel::TQELRoundButton::Class(),
+                        &qel::TQELPanel::Class(), &qel::TQELFillBackground::Class(),
+                        &qel::TQELFormDivider::Class()});
 }
