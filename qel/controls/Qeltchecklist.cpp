@@ -100,7 +100,7 @@ void TQELCheckList::DrawMark(const TRect& rect, TCheckBoxState state, bool enabl
   // By number: unchecked, disabled, checked, greyed.
   static constexpr int images[] = {1, 3, 4};
   const int number = enabled || state != vcl::cbUnchecked ? images[state] : 2;
-  const bool looksDisabled = number == 2 && FGlyph->NumGlyphs() >= 2;
+  const bool looksDisabled = number == 2 && FGlyph->HasImage(number);
   FGlyph->DrawImage(Canvas(), rect.Left, rect.Top, number, !enabled && !looksDisabled);
 }
 

@@ -134,18 +134,18 @@ void TQELGlyph::Draw(vcl::TCanvas* canvas, int x, int y, bool enabled, bool down
     CopyImage(1, image);
     DrawGrayed(image, FTransparentColor, 1);
   }
-  Put(canvas, image, x, y);
+  PutImage(canvas, image, x, y);
 }
 
 void TQELGlyph::DrawImage(vcl::TCanvas* canvas, int x, int y, int number, bool grayed) const {
   if (FBitmap->Empty() || !FVisible || ImageWidth() == 0) return;
   TBitmap image(ImageWidth(), FBitmap->Height());
-  CopyImage(number <= FNumGlyphs ? number : 1, image);
+  CopyImage(HasImage(number) ? number : 1, image);
   if (grayed) DrawGrayed(image, FTransparentColor, 2);
-  Put(canvas, image, x, y);
+  PutImage(canvas, image, x, y);
 }
 
-void TQELGlyph::Put(vcl::TCanvas* canvas, TBitmap& image, int x, int y) const {
+void TQELGlyph::PutImage(vcl::TCanvas* canvas, TBitmap& image, int x, int y) const {
   if (PixelsPerInchOf(FOwner) != vcl::DefaultPixelsPerInch) {
     DrawScaled(canvas, image, x, y);
   } else if (FTransparent) {

@@ -49,6 +49,8 @@ class QEL_API TQELGlyph : public vcl::TGraphicsObject {
   /// Draws the image for the state at (x, y). A disabled glyph is always greyed, also when the
   /// strip has an image for it; `grayed` greys the first image of an enabled one.
   void Draw(vcl::TCanvas* canvas, int x, int y, bool enabled, bool down, bool grayed) const;
+  /// True when there is an image with the number, from 1.
+  bool HasImage(int number) const { return number >= 1 && number <= FNumGlyphs; }
   /// Draws the image with the number, from 1, at (x, y), greyed if wished: for controls whose
   /// images stand for other states. Where it is missing, the first one stands in.
   void DrawImage(vcl::TCanvas* canvas, int x, int y, int number, bool grayed) const;
@@ -67,7 +69,7 @@ class QEL_API TQELGlyph : public vcl::TGraphicsObject {
   int ImageWidth() const;
   int ImageFor(bool enabled, bool down) const;
   void CopyImage(int number, vcl::TBitmap& image) const;
-  void Put(vcl::TCanvas* canvas, vcl::TBitmap& image, int x, int y) const;
+  void PutImage(vcl::TCanvas* canvas, vcl::TBitmap& image, int x, int y) const;
   void DrawScaled(vcl::TCanvas* canvas, vcl::TBitmap& image, int x, int y) const;
 
   vcl::TColor FTransparentColor = vcl::clBlack;

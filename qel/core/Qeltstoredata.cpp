@@ -66,7 +66,9 @@ const vcl::TClass& TQELDataStore::Class() {
           Property<&T::ErrorStr, &T::SetErrorStr>("ErrorStr"),
           Property<&T::ErrorBool, &T::SetErrorBool>("ErrorBool").Default(false),
           Event<&T::OnError>("OnError"),
-          Property<&T::Enabled, &T::SetEnabled>("Enabled").Default(true),
+          Property<&T::Enabled, &T::SetEnabled>("Enabled")
+              .Default(true)
+              .DefaultIf<&T::EnabledHasDefault>(),
           Property<&T::Datatype, &T::SetDatatype>("Datatype").Default(sRegistry),
           Property<&T::Registry, &T::SetRegistry>("Registry"),
           Property<&T::Inifile, &T::SetInifile>("Inifile"),

@@ -81,6 +81,10 @@ class QEL_API TQELDataStore : public vcl::TPersistent {
   bool Enabled() const { return FEnabled; }
   /// False: nothing is written, and reads give the error values.
   void SetEnabled(bool enabled) { FEnabled = enabled; }
+  /// Sets Enabled as the owner gives it to its store when it makes it. Where that is false, form
+  /// files always hold it.
+  void SetInitialEnabled(bool enabled) { FEnabled = FInitialEnabled = enabled; }
+  bool EnabledHasDefault() const { return FInitialEnabled; }
   TQELDatatype Datatype() const { return FDatatype; }
   /// Whether the values are kept in the registry or in an INI file.
   void SetDatatype(TQELDatatype datatype) { FDatatype = datatype; }
@@ -143,6 +147,7 @@ class QEL_API TQELDataStore : public vcl::TPersistent {
   void Run(Operation operation) const;
 
   bool FEnabled = true;
+  bool FInitialEnabled = true;
   bool FStrict = false;
   TQELDatatype FDatatype = sRegistry;
   std::unique_ptr<TQELRegistry> FRegistry;

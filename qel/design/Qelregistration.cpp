@@ -1,22 +1,30 @@
 // The palette pages with their classes, and the package's entry points.
 #include "qel/design/Qelregistration.h"
 
+#include "qel/controls/Qeltarrowbutton.h"
 #include "qel/controls/Qeltautocombo.h"
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltcheckbox.h"
 #include "qel/controls/Qeltchecklist.h"
 #include "qel/controls/Qeltcolorcombo.h"
+#include "qel/controls/Qeltfillbackground.h"
 #include "qel/controls/Qeltfontcombo.h"
+#include "qel/controls/Qeltformdivider.h"
 #include "qel/controls/Qeltgauge.h"
 #include "qel/controls/Qeltheader.h"
 #include "qel/controls/Qeltheaderlist.h"
 #include "qel/controls/Qelthint.h"
+#include "qel/controls/Qeltiebutton.h"
 #include "qel/controls/Qeltlabel.h"
 #include "qel/controls/Qeltlanguagecombo.h"
 #include "qel/controls/Qeltlookupedit.h"
 #include "qel/controls/Qeltlookupmenu.h"
+#include "qel/controls/Qeltofficebutton.h"
 #include "qel/controls/Qeltofficeedit.h"
+#include "qel/controls/Qeltpanel.h"
 #include "qel/controls/Qeltrealspinedit.h"
+#include "qel/controls/Qeltroundbutton.h"
 #include "qel/controls/Qeltspinedit.h"
 #include "qel/core/Qelclasses.h"
 #include "qel/core/Qelclasses2.h"
@@ -46,10 +54,18 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
       {"QEL Controls/1",
        {
            &TQELBackground::Class(),
+           &TQELCheckbox::Class(),
+           &TQELRadiobutton::Class(),
            &TQELLabel::Class(),
            &TQELButton::Class(),
+           &TQELIEButton::Class(),
+           &TQELOfficeButton::Class(),
+           &TQELPanel::Class(),
            &TQELGauge::Class(),
            &TQELHint::Class(),
+           &TQELFillBackground::Class(),
+           &TQELArrowButton::Class(),
+           &TQELRoundButton::Class(),
            &TQELHeader::Class(),
            &TQELHeaderList::Class(),
        }},
@@ -70,6 +86,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        {
            &TQELLanguageCombo::Class(),
            &TQELAutoCombo::Class(),
+           &TQELFormDivider::Class(),
        }},
       {"QEL DBControls",
        {
@@ -127,7 +144,19 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELBrushFill::Class(),
       &TQELBackground::Class(),
       &TQELLabel::Class(),
+      &TQELCustomButton::Class(),
       &TQELButton::Class(),
+      &TQELCustomCheck::Class(),
+      &TQELCheckbox::Class(),
+      &TQELRadiobutton::Class(),
+      &TQELArrowButton::Class(),
+      &TQELOfficeButton::Class(),
+      &TQELIEButton::Class(),
+      &TQELRoundButton::Class(),
+      &TQELPanel::Class(),
+      &TQELCustomFillBackground::Class(),
+      &TQELFillBackground::Class(),
+      &TQELFormDivider::Class(),
       &TQELGauge::Class(),
       &TQELHint::Class(),
       &TQELNewHint::Class(),

@@ -43,6 +43,15 @@ constexpr TExpected Expected[] = {
     {"TQELOfficeEdit", ROLE_SYSTEM_TEXT, ""},
     {"TQELHeader", ROLE_SYSTEM_LIST, ""},
     {"TQELHeaderList", ROLE_SYSTEM_TABLE, ""},
+    {"TQELCheckbox", ROLE_SYSTEM_CHECKBUTTON, "Check"},
+    {"TQELRadiobutton", ROLE_SYSTEM_RADIOBUTTON, "Check"},
+    {"TQELArrowButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELOfficeButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELIEButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELRoundButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELPanel", ROLE_SYSTEM_GROUPING, ""},
+    {"TQELFillBackground", ROLE_SYSTEM_GRAPHIC, ""},
+    {"TQELFormDivider", ROLE_SYSTEM_SEPARATOR, ""},
 };
 
 TEST_F(Accessible, EveryControlHasARoleAndTheNameOfItsCaption) {

@@ -27,4 +27,9 @@ inline void RegisterAll() {
                         &qel::TQELLookupMenu::Class(), &qel::TQELLanguageCombo::Class(),
                         &qel::TQELAutoCombo::Class(),  &qel::TQELHeader::Class(),
                         &qel::TQELHeaderList::Class()});
+  vcl::RegisterClasses({&qel::TQELCheckbox::Class(), &qel::TQELRadiobutton::Class(),
+                        &qel::TQELArrowButton::Class(), &qel::TQELOfficeButton::Class(),
+                        &qel::TQELIEButton::Class(), &qel::TQELRoundButton::Class(),
+                        &qel::TQELPanel::Class(), &qel::TQELFillBackground::Class(),
+                        &qel::TQELFormDivider::Class()});
 }

@@ -7,12 +7,12 @@
 #include "vcl/controls/propertygroups.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/graphics/canvas.h"
-#include "vcl/graphics/handles.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/panel.h"
+#include "vcl/stdctrls/panes.h"
 
 namespace vcl {
 
@@ -84,49 +84,15 @@ void TSplitter::Paint() {
 
 // The panes.
 
-int TSplitter::SizeOf(const TControl& control) const {
-  return Across() ? control.Width() : control.Height();
-}
+int TSplitter::SizeOf(const TControl& control) const { return PaneSize(*this, control); }
 
-TControl* TSplitter::Pane() const {
-  TPoint beside;
-  switch (Align()) {
-    case alLeft: beside = {Left() - 1, Top() + Height() / 2}; break;
-    case alRight: beside = {Left() + Width(), Top() + Height() / 2}; break;
-    case alTop: beside = {Left() + Width() / 2, Top() - 1}; break;
-    case alBottom: beside = {Left() + Width() / 2, Top() + Height()}; break;
-    case alNone:
-    case alClient:
-    default: return nullptr;
-  }
-  for (int i = Parent() ? Parent()->ControlCount() - 1 : -1; i >= 0; --i) {
-    TControl* each = Parent()->Controls(i);
-    if (each == this || !each->Visible() || each->Align() != Align()) continue;
-    // One that has vanished still lies beside the splitter.
-    TRect bounds = each->BoundsRect();
-    bounds.Inflate(bounds.Width() == 0, bounds.Height() == 0);
-    if (bounds.Contains(beside)) return each;
-  }
-  return nullptr;
-}
+TControl* TSplitter::Pane() const { return PaneBeside(*this); }
 
-/// As far as the panes aligned along this way leave the least size to the others.
-int TSplitter::MostSize() const {
-  int room = Across() ? Parent()->ClientWidth() : Parent()->ClientHeight();
-  for (int i = 0; i < Parent()->ControlCount(); ++i) {
-    const TControl* each = Parent()->Controls(i);
-    const TAlign align = each->Align();
-    const bool along =
-        Across() ? align == alLeft || align == alRight : align == alTop || align == alBottom;
-    if (each != FPane && each->Visible() && along) room -= SizeOf(*each);
-  }
-  return std::max(room - FMinSize, FMinSize);
-}
+int TSplitter::MostSize() const { return MostPaneSize(*this, *FPane, FMinSize); }
 
 int TSplitter::SizeAt(TPoint mouse) const {
-  const int way = Across() ? mouse.X - FStart.X : mouse.Y - FStart.Y;
-  const bool near = Align() == alLeft || Align() == alTop;
-  return std::clamp(FOldSize + (near ? way : -way), FMinSize, MostSize());
+  const TPoint way{mouse.X - FStart.X, mouse.Y - FStart.Y};
+  return std::clamp(PaneSizeAfter(*this, FOldSize, way), FMinSize, MostSize());
 }
 
 bool TSplitter::AskSize(int& size) {
@@ -138,19 +104,7 @@ bool TSplitter::AskSize(int& size) {
   return accept && !watch.Gone() && FPane;
 }
 
-void TSplitter::SizePane(int size) {
-  TRect bounds = FPane->BoundsRect();
-  switch (Align()) {
-    case alLeft: bounds.Right = bounds.Left + size; break;
-    case alRight: bounds.Left = bounds.Right - size; break;
-    case alTop: bounds.Bottom = bounds.Top + size; break;
-    case alBottom: bounds.Top = bounds.Bottom - size; break;
-    case alNone:
-    case alClient:
-    default: return;
-  }
-  FPane->SetBounds(bounds.Left, bounds.Top, bounds.Width(), bounds.Height());
-}
+void TSplitter::SizePane(int size) { vcl::SizePane(*this, *FPane, size); }
 
 // Moving.
 
@@ -221,25 +175,11 @@ void TSplitter::HideLine() {
   if (FLineShown) ToggleLine();
 }
 
-/// Inverts the place that the splitter would come to, over all that stands in the parent.
 void TSplitter::ToggleLine() {
   if (FResizeStyle != rsLine && FResizeStyle != rsPattern) return;
   if (!Parent() || !Parent()->HandleAllocated()) return;
   FLineShown = !FLineShown;
-  const int way =
-      (Align() == alLeft || Align() == alTop) ? FNewSize - FOldSize : FOldSize - FNewSize;
-  TRect line = BoundsRect();
-  Across() ? line.Offset(way, 0) : line.Offset(0, way);
-  static constexpr WORD points[] = {0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA};
-  const TOwnedBitmap pattern(::CreateBitmap(8, 8, 1, 1, points));
-  const TOwnedBrush dotted(::CreatePatternBrush(pattern.Get()));
-  const HWND window = Parent()->Handle();
-  const HDC dc = ::GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS | DCX_LOCKWINDOWUPDATE);
-  const bool plain = FResizeStyle == rsLine;
-  const auto former = ::SelectObject(dc, plain ? ::GetStockObject(WHITE_BRUSH) : dotted.Get());
-  ::PatBlt(dc, line.Left, line.Top, line.Width(), line.Height(), PATINVERT);
-  ::SelectObject(dc, former);
-  ::ReleaseDC(window, dc);
+  InvertStrip(*this, FNewSize - FOldSize, FResizeStyle == rsPattern);
 }
 
 }  // namespace vcl
