@@ -26,10 +26,14 @@ struct TExpected {
 };
 
 constexpr TExpected Expected[] = {
-    {"TQELButton", ROLE_SYSTEM_PUSHBUTTON, "Press"}, {"TQELLabel", ROLE_SYSTEM_STATICTEXT, ""},
-    {"TQELGauge", ROLE_SYSTEM_PROGRESSBAR, ""},      {"TQELSpinButton", ROLE_SYSTEM_SPINBUTTON, ""},
-    {"TQELSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""},    {"TQELExplorerTree", ROLE_SYSTEM_OUTLINE, ""},
-    {"TQELHeader", ROLE_SYSTEM_LIST, ""},            {"TQELHeaderList", ROLE_SYSTEM_TABLE, ""},
+    {"TQELButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELLabel", ROLE_SYSTEM_STATICTEXT, ""},
+    {"TQELGauge", ROLE_SYSTEM_PROGRESSBAR, ""},
+    {"TQELSpinButton", ROLE_SYSTEM_SPINBUTTON, ""},
+    {"TQELSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""},
+    {"TQELExplorerTree", ROLE_SYSTEM_OUTLINE, ""},
+    {"TQELHeader", ROLE_SYSTEM_LIST, ""},
+    {"TQELHeaderList", ROLE_SYSTEM_TABLE, ""},
 };
 
 TEST_F(Accessible, EveryControlHasARoleAndTheNameOfItsCaption) {

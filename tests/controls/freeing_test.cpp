@@ -141,7 +141,8 @@ class TScene {
     for (int i = 0; i < 2; ++i) list.Sections()->Add()->SetText("&A");
     for (const char* each : {"one", "two"}) list.Items()->Add(each);
     if (event == "OnGetText" || event == "OnSetText" || event == "OnSort") list.SetRowCount(2);
-    if (event == "OnSetText") list.OnGetText = [](TObject*, int, int, std::string& text) { text = "?"; };
+    if (event == "OnSetText")
+      list.OnGetText = [](TObject*, int, int, std::string& text) { text = "?"; };
   }
   TWinControl* Window() const { return dynamic_cast<TWinControl*>(Control); }
   void Tell(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
@@ -196,8 +197,12 @@ class TScene {
           if (Window()) Window()->SetFocus();
         },
         [this] { Key('A'); },
-        [this] { Drag({50, 10}, {70, 10}); },
-        [this] { Drag({10, 10}, {80, 10}); },
+        [this] {
+          Drag({50, 10}, {70, 10});
+        },
+        [this] {
+          Drag({10, 10}, {80, 10});
+        },
         [this] {
           auto* list = dynamic_cast<qel::TQELHeaderList*>(Control);
           if (!list) return;
