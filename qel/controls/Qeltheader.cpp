@@ -92,6 +92,7 @@ TQELHeader::TQELHeader(vcl::TComponent* owner)
   FWidthStore->Inifile()->SetSection(StoreSection);
   FSections->OnUpdate = [this](vcl::TCollectionItem*) { UpdateSections(); };
   FImages.Link.OnChange = [this](vcl::TObject*) { Invalidate(); };
+  HearOnlyAsked<TQELHeader>();
 }
 
 TQELHeader::~TQELHeader() {

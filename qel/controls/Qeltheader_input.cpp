@@ -90,8 +90,8 @@ void TQELHeader::DragMove(int x, int y) {
     FPress.Target = FSections->TargetAt(x);
     return Invalidate();
   }
-  const bool over = SectionEnabled(FPress.Section) && inside &&
-                    FSections->SectionAt(x) == FPress.Section;
+  const bool over =
+      SectionEnabled(FPress.Section) && inside && FSections->SectionAt(x) == FPress.Section;
   if (std::exchange(FPress.Over, over) != over) InvalidateSection(FPress.Section);
 }
 

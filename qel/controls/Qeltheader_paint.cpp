@@ -61,8 +61,8 @@ void TQELHeader::PaintSection(int index) {
   ::DrawEdge(Canvas()->Handle(), &edge, pressed ? EDGE_SUNKEN : EDGE_RAISED, BF_RECT | BF_SOFT);
   if (index == FHot && !pressed && SectionEnabled(index)) {
     Canvas()->Brush()->SetColor(vcl::clHighlight);
-    Canvas()->FillRect({rect.Left + 1, rect.Bottom - 1 - ScaledPixels(HotWidth), rect.Right - 2,
-                        rect.Bottom - 1});
+    Canvas()->FillRect(
+        {rect.Left + 1, rect.Bottom - 1 - ScaledPixels(HotWidth), rect.Right - 2, rect.Bottom - 1});
   }
   if (OnDrawSection) {
     OnDrawSection(this, FSections->Items(index), rect, pressed);

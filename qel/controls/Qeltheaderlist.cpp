@@ -90,8 +90,8 @@ const vcl::TClass& TQELHeaderList::Class() {
               .Type("TQELSectionEvent", "vcl::TObject* sender, qel::TQELHeaderSection* section"),
           Event<&T::OnSelect>("OnSelect"),
           Event<&T::OnSetText>("OnSetText"),
-          Event<&T::OnSort>("OnSort")
-              .Type("TQELSortEvent", "vcl::TObject* sender, int column, bool descending"),
+          Event<&T::OnSort>("OnSort").Type("TQELSortEvent",
+                                           "vcl::TObject* sender, int column, bool descending"),
           Inherit("OnStartDrag"),
       });
   return info;
@@ -114,6 +114,7 @@ TQELHeaderList::TQELHeaderList(vcl::TComponent* owner)
   FHeader->SetParent(this);
   FImages.Link.OnChange = [this](vcl::TObject*) { Invalidate(); };
   FitRows();
+  HearOnlyAsked<TQELHeaderList>();
 }
 
 TQELHeaderList::~TQELHeaderList() {
@@ -294,7 +295,8 @@ void TQELHeaderList::RowInserted(int row) {
   FChecked->InsertRow(row);
   if (FItemIndex >= row) ++FItemIndex;
   if (FSelectFrom >= row) ++FSelectFrom;
-  if (FItemIndex >= 0 && FItemIndex < TCustomGrid::RowCount() - 1) PutCurrent(Col(), FItemIndex + 1);
+  if (FItemIndex >= 0 && FItemIndex < TCustomGrid::RowCount() - 1)
+    PutCurrent(Col(), FItemIndex + 1);
 }
 
 void TQELHeaderList::RowDeleted(int row) {

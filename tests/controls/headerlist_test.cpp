@@ -254,6 +254,9 @@ TEST_F(HeaderList, AMillionVirtualRowsCostWhatIsSeen) {
   EXPECT_EQ(It->RowCount(), 1'000'000);
   It->SetRowCount(10);
   EXPECT_EQ(It->SelCount(), 10);
+  It->Items()->Clear();
+  EXPECT_EQ(It->SelCount(), 10) << "of the virtual rows";
+  It->Items()->Add("pear");
   It->SetRowCount(0);
   EXPECT_EQ(It->TextOf(0, 0), "pear");
 }

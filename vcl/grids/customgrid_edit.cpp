@@ -3,8 +3,8 @@
 
 #include "vcl/forms/forms.h"
 #include "vcl/grids/customgrid.h"
-#include "vcl/grids/private/gridaxis.h"
 #include "vcl/grids/gridlook.h"
+#include "vcl/grids/private/gridaxis.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/strings.h"
 #include "vcl/rtl/utf16.h"

@@ -3,8 +3,8 @@
 
 #include "vcl/forms/forms.h"
 #include "vcl/grids/customgrid.h"
-#include "vcl/grids/private/gridaxis.h"
 #include "vcl/grids/gridtext.h"
+#include "vcl/grids/private/gridaxis.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"

@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "vcl/graphics/canvas.h"
+#include "vcl/grids/gridlook.h"
 #include "vcl/grids/private/gridcells.h"
 #include "vcl/grids/private/gridlines.h"
-#include "vcl/grids/gridlook.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"

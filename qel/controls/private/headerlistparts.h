@@ -26,7 +26,7 @@ class TQELHeaderList::TLines : public vcl::TStringList {
     FList.RowDeleted(index);
   }
   void Clear() override {
-    FList.RowsCleared();
+    if (!FList.Virtual()) FList.RowsCleared();
     TStringList::Clear();
   }
 
@@ -43,9 +43,7 @@ class TQELHeaderList::TLines : public vcl::TStringList {
 /// The header over the rows, as wide as they are and scrolled as far.
 class TQELHeaderList::TListHeader : public TQELHeader {
  public:
-  explicit TListHeader(TQELHeaderList* list) : TQELHeader(list), FList(*list) {
-    SetTabStop(false);
-  }
+  explicit TListHeader(TQELHeaderList* list) : TQELHeader(list), FList(*list) { SetTabStop(false); }
   /// Lets sections that size themselves fill what is seen of the list.
   void Fit() { UpdateSections(); }
 
