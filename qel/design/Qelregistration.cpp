@@ -1,12 +1,20 @@
 // The palette pages with their classes, and the package's entry points.
 #include "qel/design/Qelregistration.h"
 
+#include "qel/controls/Qeltanimator.h"
 #include "qel/controls/Qeltbackground.h"
 #include "qel/controls/Qeltbutton.h"
+#include "qel/controls/Qeltcommandlabel.h"
 #include "qel/controls/Qeltgauge.h"
 #include "qel/controls/Qelthint.h"
+#include "qel/controls/Qelticqmarquee.h"
+#include "qel/controls/Qeltimagescroller.h"
+#include "qel/controls/Qeltinformationlabel.h"
 #include "qel/controls/Qeltlabel.h"
+#include "qel/controls/Qeltpresentation.h"
 #include "qel/controls/Qeltspinedit.h"
+#include "qel/controls/Qeltstickylabel.h"
+#include "qel/controls/Qeltversionlabel.h"
 #include "qel/core/Qelclasses.h"
 #include "qel/core/Qelclasses2.h"
 #include "qel/core/Qelcontrols.h"
@@ -38,11 +46,19 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELLabel::Class(),
            &TQELButton::Class(),
            &TQELGauge::Class(),
+           &TQELPresentation::Class(),
            &TQELHint::Class(),
        }},
       {"QEL Controls/2",
        {
+           &TQELAnimator::Class(),
+           &TQELImageScroller::Class(),
+           &TQELCommandLabel::Class(),
+           &TQELInformationLabel::Class(),
+           &TQELStickyLabel::Class(),
+           &TQELVersionLabel::Class(),
            &TQELSpinEdit::Class(),
+           &TQELAnimator::Class(),
        }},
       {"QEL DBControls",
        {
@@ -62,6 +78,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELTimer32::Class(),
            &TQELPOPMail::Class(),
            &TQELSMTPMail::Class(),
+           &TQELICQMarquee::Class(),
            &TQELMapiMail::Class(),
        }},
       {"QEL Files",
@@ -99,7 +116,19 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELTexture::Class(),
       &TQELBrushFill::Class(),
       &TQELBackground::Class(),
+      &TQELCustomLabel::Class(),
+      &TQELComputedLabel::Class(),
       &TQELLabel::Class(),
+      &TQELStickyLabel::Class(),
+      &TQELCommandLabel::Class(),
+      &TQELInformationLabel::Class(),
+      &TQELVersionLabel::Class(),
+      &TQELAnimator::Class(),
+      &TQELImageScroller::Class(),
+      &TQELICQMarquee::Class(),
+      &TQELSlide::Class(),
+      &TQELSlides::Class(),
+      &TQELPresentation::Class(),
       &TQELButton::Class(),
       &TQELGauge::Class(),
       &TQELHint::Class(),

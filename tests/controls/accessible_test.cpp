@@ -26,9 +26,18 @@ struct TExpected {
 };
 
 constexpr TExpected Expected[] = {
-    {"TQELButton", ROLE_SYSTEM_PUSHBUTTON, "Press"}, {"TQELLabel", ROLE_SYSTEM_STATICTEXT, ""},
-    {"TQELGauge", ROLE_SYSTEM_PROGRESSBAR, ""},      {"TQELSpinButton", ROLE_SYSTEM_SPINBUTTON, ""},
-    {"TQELSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""},    {"TQELExplorerTree", ROLE_SYSTEM_OUTLINE, ""},
+    {"TQELButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELLabel", ROLE_SYSTEM_STATICTEXT, ""},
+    {"TQELGauge", ROLE_SYSTEM_PROGRESSBAR, ""},
+    {"TQELSpinButton", ROLE_SYSTEM_SPINBUTTON, ""},
+    {"TQELSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""},
+    {"TQELExplorerTree", ROLE_SYSTEM_OUTLINE, ""},
+    {"TQELStickyLabel", ROLE_SYSTEM_STATICTEXT, ""},
+    {"TQELCommandLabel", ROLE_SYSTEM_LINK, "Open"},
+    {"TQELAnimator", ROLE_SYSTEM_GRAPHIC, ""},
+    {"TQELICQMarquee", ROLE_SYSTEM_LIST, ""},
+    {"TQELImageScroller", ROLE_SYSTEM_GRAPHIC, "Start"},
+    {"TQELPresentation", ROLE_SYSTEM_GRAPHIC, "Next"},
 };
 
 TEST_F(Accessible, EveryControlHasARoleAndTheNameOfItsCaption) {

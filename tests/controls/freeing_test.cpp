@@ -11,6 +11,9 @@
 #include "tests/vcl/testinput.h"
 #include "vcl/forms/standardclasses.h"
 #include "vcl/rtl/classregistry.h"
+#include "vcl/rtl/win32.h"
+
+#include <shellapi.h>
 
 namespace {
 
@@ -46,7 +49,8 @@ bool Bind(TEventBase& event, const std::function<void()>& call) {
          BindAs<TObject*, TTreeNode*, bool&>(event, call) ||
          BindAs<TObject*, TListItem*, TItemChange>(event, call) ||
          BindAs<TObject*, TListItem*, bool>(event, call) ||
-         BindAs<TObject*, int, int>(event, call) ||
+         BindAs<TObject*, int, int>(event, call) || BindAs<TObject*, int>(event, call) ||
+         BindAs<TObject*, std::string&, bool&>(event, call) ||
          BindAs<TObject*, int, int, bool&>(event, call) ||
          BindAs<TObject*, int, int, std::string&>(event, call) ||
          BindAs<TObject*, int, int, const std::string&>(event, call) ||
@@ -204,7 +208,13 @@ class TScene {
   std::optional<TWatch> FForm, FPanel, FOther, FControl;
 };
 
+/// A label that opens what it says is refused, and told so.
+HINSTANCE WINAPI RefuseToOpen(HWND, LPCWSTR, LPCWSTR, LPCWSTR, LPCWSTR, INT) {
+  return reinterpret_cast<HINSTANCE>(std::intptr_t{SE_ERR_ACCESSDENIED});
+}
+
 TEST(Handlers, MayFreeTheirSenderAndWhatIsAroundIt) {
+  const TImportPatch shell("qel.dll", "ShellExecuteW", &RefuseToOpen);
   const TImportPatch host("qelhost.dll", DeleteName, &DeleteAndOverwrite);
   const TImportPatch package("qel.dll", DeleteName, &DeleteAndOverwrite);
   RegisterAll();
