@@ -1,7 +1,9 @@
-// TQELLabel: a label whose text is three-dimensional and may be filled with a background.
+// TQELCustomLabel: what the package's labels share; TQELComputedLabel: those whose text comes from
+// elsewhere; TQELLabel.
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "qel/controls/Qeltbackground.h"
 #include "qel/core/Qelclasses.h"
@@ -9,12 +11,12 @@
 
 namespace qel {
 
-/// A label that draws its caption in three dimensions, over a background and inside a frame. Its
-/// size does not follow the caption.
-class QEL_API TQELLabel : public vcl::TCustomLabel {
+/// Base of the labels: the text is three-dimensional, may be filled with a background, and stands
+/// over another one, inside a frame.
+class QEL_API TQELCustomLabel : public vcl::TCustomLabel {
  public:
-  explicit TQELLabel(vcl::TComponent* owner);
-  ~TQELLabel() override;
+  explicit TQELCustomLabel(vcl::TComponent* owner);
+  ~TQELCustomLabel() override;
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }
 
@@ -38,7 +40,12 @@ class QEL_API TQELLabel : public vcl::TCustomLabel {
 
  protected:
   void Paint() override;
+  void DoDrawText(vcl::TRect& rect, UINT flags) override;
   void Notification(vcl::TComponent* component, vcl::TOperation operation) override;
+  /// The font of the text as it is shown now. Here: Font.
+  virtual const vcl::TFont* ShownFont() const { return Font(); }
+  /// The flags of DrawTextEx that the text is written with.
+  virtual unsigned WriteFlags() const;
 
  private:
   void PaintGround();
@@ -50,6 +57,58 @@ class QEL_API TQELLabel : public vcl::TCustomLabel {
   TQELBackground* FFontBackground = nullptr;
   TQELBackground* FBackground = nullptr;
   std::unique_ptr<TQELFrame> FFrame;
+};
+
+/// What labels publish beside their own properties and Caption, for `Inherit` in their tables.
+inline constexpr const char* LabelProperties[] = {
+    "About",       "Align",       "Alignment",   "AutoSize",       "Background", "Color",
+    "DragCursor",  "DragMode",    "Enabled",     "Font",           "Font3D",     "FontBackground",
+    "Frame",       "ParentColor", "ParentFont",  "ParentShowHint", "PopupMenu",  "ShowHint",
+    "Transparent", "Visible",     "WordWrap",    "OnClick",        "OnDblClick", "OnDragDrop",
+    "OnDragOver",  "OnEndDrag",   "OnMouseDown", "OnMouseMove",    "OnMouseUp",  "OnStartDrag"};
+
+/// Base of the labels that show a text from elsewhere, between Prefix and Suffix. Their caption is
+/// what they show: it cannot be written, and form files never hold it. "&" marks no accelerator in
+/// it.
+class QEL_API TQELComputedLabel : public TQELCustomLabel {
+ public:
+  explicit TQELComputedLabel(vcl::TComponent* owner);
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+  /// Ignored, as is all that sets the text from outside.
+  void SetTextBuf(const char* text) override;
+
+  const std::string& Prefix() const { return FPrefix; }
+  /// The text in front of what is computed. Where that is empty, nothing is shown.
+  void SetPrefix(const std::string& prefix);
+  const std::string& Suffix() const { return FSuffix; }
+  /// The text behind what is computed.
+  void SetSuffix(const std::string& suffix);
+
+  /// Has the text computed anew.
+  void Refresh();
+
+ protected:
+  /// The bare text. Asked for by Refresh, which descendants' constructors end with.
+  virtual std::string ComputeText() const = 0;
+  void Loaded() override;
+
+ private:
+  std::string FPrefix;
+  std::string FSuffix;
+};
+
+/// A label that draws its caption in three dimensions, over a background and inside a frame. Its
+/// size does not follow the caption.
+class QEL_API TQELLabel : public TQELCustomLabel {
+ public:
+  explicit TQELLabel(vcl::TComponent* owner);
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+ protected:
+  /// "&" marks an accelerator here whatever ShowAccelChar says.
+  unsigned WriteFlags() const override;
 };
 
 }  // namespace qel

@@ -1,8 +1,10 @@
-// What the system knows of itself.
+// What the system knows of itself, as numbered texts.
 #include <cstdint>
 
 #include "qel/core/Qelfunctions.h"
+#include "qel/core/Qelsystemfacts.h"
 #include "qel/core/Qeltstoredata.h"
+#include "qel/core/private/registryfacts.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
@@ -10,6 +12,24 @@
 #include "vcl/rtl/win32.h"
 
 namespace qel {
+
+namespace {
+
+/// Empty where the registry does not tell, for whatever reason.
+std::string RegistryText(const char* path, const char* value) try {
+  const TQELRegIniFile registry(path, HKEY_LOCAL_MACHINE);
+  return registry.ReadString("CurrentVersion", value, {});
+} catch (const vcl::ERegistryException&) {
+  return {};
+}
+
+}  // namespace
+
+/// The family that Windows comes of keeps some of the values under a key of its own.
+std::string WindowsRegistryText(const char* value) {
+  const std::string text = RegistryText("\\SOFTWARE\\Microsoft\\Windows", value);
+  return text.empty() ? RegistryText("\\SOFTWARE\\Microsoft\\Windows NT", value) : text;
+}
 
 namespace {
 
@@ -23,20 +43,6 @@ std::string NameFrom(Call call) {
   wchar_t name[MaxName] = {};
   DWORD size = MaxName;
   return call(name, &size) ? vcl::ToUtf8(name) : std::string();
-}
-
-/// Empty where the registry does not tell, for whatever reason.
-std::string RegistryText(const char* path, const char* value) try {
-  const TQELRegIniFile registry(path, HKEY_LOCAL_MACHINE);
-  return registry.ReadString("CurrentVersion", value, {});
-} catch (const vcl::ERegistryException&) {
-  return {};
-}
-
-/// The family that Windows comes of keeps some of the values under a key of its own.
-std::string WindowsText(const char* value) {
-  const std::string text = RegistryText("\\SOFTWARE\\Microsoft\\Windows", value);
-  return text.empty() ? RegistryText("\\SOFTWARE\\Microsoft\\Windows NT", value) : text;
 }
 
 template <class Known>
@@ -62,29 +68,18 @@ std::string Processor() {
   return NameOf(info.dwProcessorType, known);
 }
 
-/// The version as it is: GetVersionEx tells programs an older one that they say they know. False
-/// where the system has no such call.
-bool Version(OSVERSIONINFOW& version) {
-  using TRtlGetVersion = LONG(WINAPI*)(OSVERSIONINFOW*);
-  const HMODULE module = ::GetModuleHandleW(L"ntdll.dll");
-  const FARPROC address = module ? ::GetProcAddress(module, "RtlGetVersion") : nullptr;
-  version.dwOSVersionInfoSize = sizeof version;
-  return address &&
-         reinterpret_cast<TRtlGetVersion>(reinterpret_cast<void*>(address))(&version) == 0;
-}
-
 std::string Platform() {
   constexpr TNumberName known[] = {{VER_PLATFORM_WIN32s, "Windows 3.1"},
                                    {VER_PLATFORM_WIN32_WINDOWS, "Windows 95"},
                                    {VER_PLATFORM_WIN32_NT, "Windows NT"}};
-  OSVERSIONINFOW version{};
-  return Version(version) ? NameOf(version.dwPlatformId, known) : std::string();
+  const auto version = QELWindowsVersion();
+  return version ? NameOf(version->Platform, known) : std::string();
 }
 
 std::string VersionText() {
-  OSVERSIONINFOW version{};
-  if (!Version(version)) return {};
-  return Concat(vcl::IntToStr(version.dwMajorVersion), ".", vcl::IntToStr(version.dwMinorVersion));
+  const auto version = QELWindowsVersion();
+  if (!version) return {};
+  return Concat(vcl::IntToStr(version->Major), ".", vcl::IntToStr(version->Minor));
 }
 
 std::string Amount(std::uint64_t bytes, std::uint64_t unit, const char* unitName) {
@@ -92,23 +87,21 @@ std::string Amount(std::uint64_t bytes, std::uint64_t unit, const char* unitName
 }
 
 std::string MemoryText(int item) {
-  MEMORYSTATUSEX memory{};
-  memory.dwLength = sizeof memory;
-  if (!::GlobalMemoryStatusEx(&memory)) return {};
-  if (item == inMemoryLoad) return Amount(memory.dwMemoryLoad, 1, " Percent");
-  return Amount(item == inMemorySize ? memory.ullTotalPhys : memory.ullAvailPhys, 1024, " KB");
+  const auto memory = QELMemoryFacts();
+  if (!memory) return {};
+  if (item == inMemoryLoad) return Amount(static_cast<std::uint64_t>(memory->Load), 1, " Percent");
+  return Amount(item == inMemorySize ? memory->Size : memory->Free, 1024, " KB");
 }
 
 std::string DiskText(int item) {
-  ULARGE_INTEGER available{}, size{}, free{};
-  if (!::GetDiskFreeSpaceExW(nullptr, &available, &size, &free)) return {};
+  const auto drive = QELDriveFacts();
+  if (!drive) return {};
   constexpr std::uint64_t MB = std::uint64_t{1024} * 1024;
-  if (item == inDiskSize) return Amount(size.QuadPart, MB, " MB");
-  if (item == inDiskFree) return Amount(available.QuadPart, MB, " MB");
-  if (size.QuadPart == 0) return {};
-  const double used = static_cast<double>(size.QuadPart - free.QuadPart);
-  return Amount(static_cast<std::uint64_t>(used / static_cast<double>(size.QuadPart) * 100), 1,
-                " %");
+  if (item == inDiskSize) return Amount(drive->Size, MB, " MB");
+  if (item == inDiskFree) return Amount(drive->Available, MB, " MB");
+  if (drive->Size == 0) return {};
+  const auto used = static_cast<double>(drive->Size - drive->Free);
+  return Amount(static_cast<std::uint64_t>(used / static_cast<double>(drive->Size) * 100), 1, " %");
 }
 
 }  // namespace
@@ -123,10 +116,10 @@ std::string QELGetPCName() {
 
 std::string QELGetInformationNo(int item) {
   switch (item) {
-    case inOrganization: return WindowsText("RegisteredOrganization");
-    case inOwner: return WindowsText("RegisteredOwner");
-    case inProgramFiles: return WindowsText("ProgramFilesDir");
-    case inSystemRoot: return WindowsText("SystemRoot");
+    case inOrganization: return WindowsRegistryText("RegisteredOrganization");
+    case inOwner: return WindowsRegistryText("RegisteredOwner");
+    case inProgramFiles: return WindowsRegistryText("ProgramFilesDir");
+    case inSystemRoot: return WindowsRegistryText("SystemRoot");
     case inProcessor: return Processor();
     case inPlatform: return Platform();
     case inVersion: return VersionText();

@@ -1,8 +1,13 @@
 // The table of the package's editors: which is for which property and which component.
 #include "qel/design/Qelbindings.h"
 
+#include "qel/controls/Qeltanimator.h"
 #include "qel/controls/Qeltbackground.h"
+#include "qel/controls/Qelticqmarquee.h"
+#include "qel/controls/Qeltinformationlabel.h"
 #include "qel/controls/Qeltlanguagecombo.h"
+#include "qel/controls/Qeltpresentation.h"
+#include "qel/controls/Qeltversionlabel.h"
 #include "qel/core/Qelcomponent.h"
 #include "qel/core/Qeltstoredata.h"
 #include "qel/design/Qelcolorsinbetween.h"
@@ -10,6 +15,7 @@
 #include "qel/design/Qeldataeditors.h"
 #include "qel/design/Qelmaileditors.h"
 #include "qel/design/Qelpropertyeditors.h"
+#include "qel/design/Qelslideseditor.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "vcl/controls/control.h"
@@ -32,15 +38,22 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
        "ColorsInBetween"},
       {QEL_EDITOR(TQELItemDataFieldProperty), "string", &vcl::TCollectionItem::Class(),
        "DataField"},
+      {QEL_EDITOR(TQELROStringProperty), "string", &TQELInformationLabel::Class(), "CaptionValue"},
+      {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELInformationLabel::Class(), "Caption"},
       {QEL_EDITOR(TQELShowMeNowProperty), "string", &vcl::TComponent::Class(), "DesignExecute"},
       {QEL_EDITOR(TQELHintProperty), "string", &vcl::TComponent::Class(), "Hint"},
       {QEL_EDITOR(TQELCaptionProperty), "TCaption", &vcl::TControl::Class(), "Caption"},
       {QEL_EDITOR(TQELAboutCompsProperty), "TQELAbout", &vcl::TPersistent::Class(), ""},
       {QEL_EDITOR(TQELDataFieldProperty), "string", &vcl::TComponent::Class(), "DataUsername"},
       {QEL_EDITOR(TQELDataFieldProperty), "string", &vcl::TComponent::Class(), "Datapassword"},
+      {QEL_EDITOR(TQELSlidesProperty), "TQELSlides", &TQELPresentation::Class(), "Slides"},
+      {QEL_EDITOR(TQELAviFilenameProperty), "string", &TQELAnimator::Class(), "Filename"},
       // The store's file name is a property of its Inifile, which this line does not reach; a
       // property of the store itself would get the editor.
       {QEL_EDITOR(TQELINIFilenameProperty), "string", &TQELStoreData::Class(), "Filename"},
+      {QEL_EDITOR(TQELWaveFilenameProperty), "string", &TQELICQMarquee::Class(), "Filename"},
+      {QEL_EDITOR(TQELFilenameProperty), "string", &TQELVersionLabel::Class(), "Filename"},
+      {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELVersionLabel::Class(), "Caption"},
       {QEL_EDITOR(TQELLocaleProperty), "string", &TQELLanguageCombo::Class(), "Locale"},
   };
   return entries;

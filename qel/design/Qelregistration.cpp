@@ -1,6 +1,7 @@
 // The palette pages with their classes, and the package's entry points.
 #include "qel/design/Qelregistration.h"
 
+#include "qel/controls/Qeltanimator.h"
 #include "qel/controls/Qeltarrowbutton.h"
 #include "qel/controls/Qeltautocombo.h"
 #include "qel/controls/Qeltbackground.h"
@@ -8,6 +9,7 @@
 #include "qel/controls/Qeltcheckbox.h"
 #include "qel/controls/Qeltchecklist.h"
 #include "qel/controls/Qeltcolorcombo.h"
+#include "qel/controls/Qeltcommandlabel.h"
 #include "qel/controls/Qeltfillbackground.h"
 #include "qel/controls/Qeltfontcombo.h"
 #include "qel/controls/Qeltformdivider.h"
@@ -15,7 +17,10 @@
 #include "qel/controls/Qeltheader.h"
 #include "qel/controls/Qeltheaderlist.h"
 #include "qel/controls/Qelthint.h"
+#include "qel/controls/Qelticqmarquee.h"
 #include "qel/controls/Qeltiebutton.h"
+#include "qel/controls/Qeltimagescroller.h"
+#include "qel/controls/Qeltinformationlabel.h"
 #include "qel/controls/Qeltlabel.h"
 #include "qel/controls/Qeltlanguagecombo.h"
 #include "qel/controls/Qeltlookupedit.h"
@@ -23,9 +28,12 @@
 #include "qel/controls/Qeltofficebutton.h"
 #include "qel/controls/Qeltofficeedit.h"
 #include "qel/controls/Qeltpanel.h"
+#include "qel/controls/Qeltpresentation.h"
 #include "qel/controls/Qeltrealspinedit.h"
 #include "qel/controls/Qeltroundbutton.h"
 #include "qel/controls/Qeltspinedit.h"
+#include "qel/controls/Qeltstickylabel.h"
+#include "qel/controls/Qeltversionlabel.h"
 #include "qel/core/Qelclasses.h"
 #include "qel/core/Qelclasses2.h"
 #include "qel/core/Qelcontrols.h"
@@ -62,6 +70,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELOfficeButton::Class(),
            &TQELPanel::Class(),
            &TQELGauge::Class(),
+           &TQELPresentation::Class(),
            &TQELHint::Class(),
            &TQELFillBackground::Class(),
            &TQELArrowButton::Class(),
@@ -72,12 +81,19 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
       {"QEL Controls/2",
        {
            &TQELColorCombo::Class(),
+           &TQELAnimator::Class(),
+           &TQELImageScroller::Class(),
+           &TQELCommandLabel::Class(),
+           &TQELInformationLabel::Class(),
+           &TQELStickyLabel::Class(),
+           &TQELVersionLabel::Class(),
            &TQELLookupMenu::Class(),
            &TQELSpinEdit::Class(),
            &TQELRealSpinEdit::Class(),
            &TQELLookupEdit::Class(),
            &TQELOfficeEdit::Class(),
            &TQELOfficeEdit::Class(),
+           &TQELAnimator::Class(),
            &TQELFontCombo::Class(),
            &TQELFontBox::Class(),
            &TQELCheckList::Class(),
@@ -106,6 +122,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELTimer32::Class(),
            &TQELPOPMail::Class(),
            &TQELSMTPMail::Class(),
+           &TQELICQMarquee::Class(),
            &TQELMapiMail::Class(),
        }},
       {"QEL Files",
@@ -143,7 +160,19 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELTexture::Class(),
       &TQELBrushFill::Class(),
       &TQELBackground::Class(),
+      &TQELCustomLabel::Class(),
+      &TQELComputedLabel::Class(),
       &TQELLabel::Class(),
+      &TQELStickyLabel::Class(),
+      &TQELCommandLabel::Class(),
+      &TQELInformationLabel::Class(),
+      &TQELVersionLabel::Class(),
+      &TQELAnimator::Class(),
+      &TQELImageScroller::Class(),
+      &TQELICQMarquee::Class(),
+      &TQELSlide::Class(),
+      &TQELSlides::Class(),
+      &TQELPresentation::Class(),
       &TQELCustomButton::Class(),
       &TQELButton::Class(),
       &TQELCustomCheck::Class(),

@@ -52,6 +52,12 @@ constexpr TExpected Expected[] = {
     {"TQELPanel", ROLE_SYSTEM_GROUPING, ""},
     {"TQELFillBackground", ROLE_SYSTEM_GRAPHIC, ""},
     {"TQELFormDivider", ROLE_SYSTEM_SEPARATOR, ""},
+    {"TQELStickyLabel", ROLE_SYSTEM_STATICTEXT, ""},
+    {"TQELCommandLabel", ROLE_SYSTEM_LINK, "Open"},
+    {"TQELAnimator", ROLE_SYSTEM_GRAPHIC, ""},
+    {"TQELICQMarquee", ROLE_SYSTEM_LIST, ""},
+    {"TQELImageScroller", ROLE_SYSTEM_GRAPHIC, "Start"},
+    {"TQELPresentation", ROLE_SYSTEM_GRAPHIC, "Next"},
 };
 
 TEST_F(Accessible, EveryControlHasARoleAndTheNameOfItsCaption) {

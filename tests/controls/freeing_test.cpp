@@ -11,7 +11,10 @@
 #include "tests/vcl/testinput.h"
 #include "vcl/forms/standardclasses.h"
 #include "vcl/rtl/classregistry.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/inplaceedit.h"
+
+#include <shellapi.h>
 
 namespace {
 
@@ -51,6 +54,7 @@ bool Bind(TEventBase& event, const std::function<void()>& call) {
          BindAs<TObject*, TListItem*, bool>(event, call) ||
          BindAs<TObject*, int, int>(event, call) || BindAs<TObject*, int, int&>(event, call) ||
          BindAs<TObject*, TStrings*>(event, call) || BindAs<TObject*, const TRect&>(event, call) ||
+         BindAs<TObject*, int>(event, call) || BindAs<TObject*, std::string&, bool&>(event, call) ||
          BindAs<TObject*, int, int, bool&>(event, call) ||
          BindAs<TObject*, int, int, std::string&>(event, call) ||
          BindAs<TObject*, int, int, const std::string&>(event, call) ||
@@ -266,7 +270,13 @@ class TScene {
   std::optional<TWatch> FForm, FPanel, FOther, FControl;
 };
 
+/// A label that opens what it says is refused, and told so.
+HINSTANCE WINAPI RefuseToOpen(HWND, LPCWSTR, LPCWSTR, LPCWSTR, LPCWSTR, INT) {
+  return reinterpret_cast<HINSTANCE>(std::intptr_t{SE_ERR_ACCESSDENIED});
+}
+
 TEST(Handlers, MayFreeTheirSenderAndWhatIsAroundIt) {
+  const TImportPatch shell("qel.dll", "ShellExecuteW", &RefuseToOpen);
   const TImportPatch host("qelhost.dll", DeleteName, &DeleteAndOverwrite);
   const TImportPatch package("qel.dll", DeleteName, &DeleteAndOverwrite);
   RegisterAll();

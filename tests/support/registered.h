@@ -32,4 +32,8 @@ inline void RegisterAll() {
                         &qel::TQELIEButton::Class(), &qel::TQELRoundButton::Class(),
                         &qel::TQELPanel::Class(), &qel::TQELFillBackground::Class(),
                         &qel::TQELFormDivider::Class()});
+  vcl::RegisterClasses({&qel::TQELStickyLabel::Class(), &qel::TQELCommandLabel::Class(),
+                        &qel::TQELInformationLabel::Class(), &qel::TQELVersionLabel::Class(),
+                        &qel::TQELAnimator::Class(), &qel::TQELImageScroller::Class(),
+                        &qel::TQELICQMarquee::Class(), &qel::TQELPresentation::Class()});
 }

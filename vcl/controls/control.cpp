@@ -3,6 +3,7 @@
 
 #include "vcl/actions/actionlink.h"
 #include "vcl/actions/basicaction.h"
+#include "vcl/controls/controlwatch.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/drag.h"
@@ -100,6 +101,7 @@ TControl::TControl(TComponent* owner)
 
 TControl::~TControl() {
   AnnounceEnd();
+  TControlWatch::Forget(this);
   TDragSession::Forget(this);
   if (HasApplication()) Application()->ControlGone(this);
   FFont->OnChange.Clear();
@@ -116,11 +118,13 @@ void TControl::SetParent(TWinControl* parent) {
       throw EInvalidOperation(Concat("A control cannot have itself as its parent: ", Name()));
     }
   }
+  const TWatch watch(this);
   if (FParent) FParent->Remove(this);
   if (parent) parent->Insert(this);
   KeepPlace();
   // What is being read has its parent before its properties, which may say that it does not follow.
   if (!ComponentState().Has(csReading)) FollowParent();
+  if (!watch.Gone()) TControlWatch::Changed(this);
 }
 
 void TControl::FollowParent() {
@@ -169,6 +173,7 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   Invalidate();
   RequestAlign();
   if (!watch.Gone() && resized && !Loading()) Resize();
+  if (!watch.Gone()) TControlWatch::Changed(this);
 }
 
 void TControl::SetClientSize(int width, int height) {
@@ -208,7 +213,9 @@ void TControl::RequestAlign() {
 void TControl::SetEnabled(bool enabled) {
   if (enabled == FEnabled) return;
   FEnabled = enabled;
+  const TWatch watch(this);
   Notify(CM_ENABLEDCHANGED);
+  if (!watch.Gone()) TControlWatch::Changed(this);
 }
 
 void TControl::SetVisible(bool visible) {
@@ -217,6 +224,7 @@ void TControl::SetVisible(bool visible) {
   const TWatch watch(this);
   Notify(CM_VISIBLECHANGED);
   if (!watch.Gone()) RequestAlign();
+  if (!watch.Gone()) TControlWatch::Changed(this);
 }
 
 void TControl::Show() {

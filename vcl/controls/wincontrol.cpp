@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "vcl/controls/controlwatch.h"
 #include "vcl/controls/windowtext.h"
 #include "vcl/forms/forms.h"
 #include "vcl/graphics/brush.h"
@@ -213,6 +214,7 @@ void TWinControl::SetBounds(int left, int top, int width, int height) {
   if (resized) Realign();
   if (!watch.Gone()) RequestAlign();
   if (!watch.Gone() && resized && !Loading()) Resize();
+  if (!watch.Gone()) TControlWatch::Changed(this);
 }
 
 /// The limits may have changed around a size that stays outside them.

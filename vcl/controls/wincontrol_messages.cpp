@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "vcl/controls/controlwatch.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/forms.h"
@@ -277,19 +278,18 @@ bool TWinControl::DoMouseWheel(TShiftState shift, int wheelDelta, TPoint mousePo
 }
 
 void TWinControl::WMWindowPosChanged(TMessage& message) {
-  const int width = Width();
-  const int height = Height();
+  const TRect former = BoundsRect();
   UpdateBounds();
   TWatch watch(this);
   DefaultHandler(message);
   if (watch.Gone() || ControlState().Has(csDestroyingHandle)) return;
   const auto* place = reinterpret_cast<const WINDOWPOS*>(message.LParam);
   if (!(place->flags & SWP_NOMOVE) || !(place->flags & SWP_NOSIZE)) RequestAlign();
-  if (watch.Gone() || (place->flags & SWP_NOSIZE)) return;
-  Realign();
+  if (!watch.Gone() && !(place->flags & SWP_NOSIZE)) Realign();
   if (watch.Gone()) return;
-  const bool resized = width != Width() || height != Height();
+  const bool resized = !(place->flags & SWP_NOSIZE) && former.Size() != BoundsRect().Size();
   if (resized && !Loading()) Resize();
+  if (!watch.Gone() && former != BoundsRect()) TControlWatch::Changed(this);
 }
 
 void TWinControl::WMSetCursor(TMessage& message) {
