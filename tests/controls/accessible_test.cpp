@@ -26,13 +26,20 @@ struct TExpected {
 };
 
 constexpr TExpected Expected[] = {
-    {"TQELButton", ROLE_SYSTEM_PUSHBUTTON, "Press"}, {"TQELLabel", ROLE_SYSTEM_STATICTEXT, ""},
-    {"TQELGauge", ROLE_SYSTEM_PROGRESSBAR, ""},      {"TQELSpinButton", ROLE_SYSTEM_SPINBUTTON, ""},
-    {"TQELSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""},    {"TQELExplorerTree", ROLE_SYSTEM_OUTLINE, ""},
-    {"TQELRealSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""}, {"TQELColorCombo", ROLE_SYSTEM_COMBOBOX, "Open"},
-    {"TQELFontCombo", ROLE_SYSTEM_COMBOBOX, "Open"}, {"TQELFontBox", ROLE_SYSTEM_LIST, ""},
-    {"TQELLanguageCombo", ROLE_SYSTEM_COMBOBOX, "Open"}, {"TQELCheckList", ROLE_SYSTEM_LIST, ""},
-    {"TQELAutoCombo", ROLE_SYSTEM_COMBOBOX, "Open"}, {"TQELLookupEdit", ROLE_SYSTEM_COMBOBOX, "Open"},
+    {"TQELButton", ROLE_SYSTEM_PUSHBUTTON, "Press"},
+    {"TQELLabel", ROLE_SYSTEM_STATICTEXT, ""},
+    {"TQELGauge", ROLE_SYSTEM_PROGRESSBAR, ""},
+    {"TQELSpinButton", ROLE_SYSTEM_SPINBUTTON, ""},
+    {"TQELSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""},
+    {"TQELExplorerTree", ROLE_SYSTEM_OUTLINE, ""},
+    {"TQELRealSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""},
+    {"TQELColorCombo", ROLE_SYSTEM_COMBOBOX, "Open"},
+    {"TQELFontCombo", ROLE_SYSTEM_COMBOBOX, "Open"},
+    {"TQELFontBox", ROLE_SYSTEM_LIST, ""},
+    {"TQELLanguageCombo", ROLE_SYSTEM_COMBOBOX, "Open"},
+    {"TQELCheckList", ROLE_SYSTEM_LIST, ""},
+    {"TQELAutoCombo", ROLE_SYSTEM_COMBOBOX, "Open"},
+    {"TQELLookupEdit", ROLE_SYSTEM_COMBOBOX, "Open"},
     {"TQELOfficeEdit", ROLE_SYSTEM_TEXT, ""},
 };
 

@@ -61,7 +61,7 @@ TEST(Settings, AreTakenOverOrCopied) {
   button.Font3D()->SetOffset(7);
   button.Glyph()->SetVisible(false);
   const std::tuple<vcl::TPersistent*, const char*, int> cases[] = {
-      {label.Frame(), "Offset", 3}, {button.Font3D(), "Offset", 4}, {button.Glyph(), "Visible", 2}};
+      {label.Frame(), "Offset", 3}, {button.Font3D(), "Offset", 4}, {button.Glyph(), "Visible", 5}};
   for (const auto& [ofAnother, changed, uses] : cases) {
     const vcl::TClass& type = ofAnother->ClassType();
     const vcl::TPropInfo& mark = *type.FindPublished(changed);

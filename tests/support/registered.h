@@ -20,10 +20,10 @@ inline void RegisterAll() {
                         &qel::TQELPOPMail::Class(),    &qel::TQELMRUItem::Class(),
                         &qel::TQELMRUMenu::Class(),    &qel::TQELExplorerTree::Class(),
                         &qel::TQELDBAscii::Class(),    &qel::TQELMapiMail::Class(),
-                        &qel::TQELQuickMail::Class(),
-                        &qel::TQELColorCombo::Class(), &qel::TQELFontCombo::Class(),
-                        &qel::TQELFontBox::Class(),    &qel::TQELCheckList::Class(),
-                        &qel::TQELRealSpinEdit::Class(), &qel::TQELLookupEdit::Class(),
-                        &qel::TQELOfficeEdit::Class(), &qel::TQELLookupMenu::Class(),
-                        &qel::TQELLanguageCombo::Class(), &qel::TQELAutoCombo::Class()});
+                        &qel::TQELQuickMail::Class(),  &qel::TQELColorCombo::Class(),
+                        &qel::TQELFontCombo::Class(),  &qel::TQELFontBox::Class(),
+                        &qel::TQELCheckList::Class(),  &qel::TQELRealSpinEdit::Class(),
+                        &qel::TQELLookupEdit::Class(), &qel::TQELOfficeEdit::Class(),
+                        &qel::TQELLookupMenu::Class(), &qel::TQELLanguageCombo::Class(),
+                        &qel::TQELAutoCombo::Class()});
 }

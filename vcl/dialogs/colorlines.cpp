@@ -121,9 +121,7 @@ std::string TColorLines::NameOf(const std::string& ident) const {
 }
 
 void TColorLines::AddLines(TStrings& lines) const {
-  const auto add = [&](TColor color) {
-    lines.Add(LineOf(NameOf(*ColorToIdent(color)), color));
-  };
+  const auto add = [&](TColor color) { lines.Add(LineOf(NameOf(*ColorToIdent(color)), color)); };
   if (FStyle.Has(cbIncludeDefault)) add(clDefault);
   if (FStyle.Has(cbIncludeNone)) add(clNone);
   std::vector<TColor> standard;

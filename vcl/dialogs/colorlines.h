@@ -29,8 +29,8 @@ using TColorBoxStyle = TSet<TColorBoxStyleValue>;
 inline constexpr TColorBoxStyle DefaultColorBoxStyle{cbStandardColors, cbExtendedColors,
                                                      cbSystemColors};
 
-/// Sender and the list's lines, each a name, "=" and a colour as StringToColor reads it: the handler
-/// adds lines, deletes some, puts them into another order.
+/// Sender and the list's lines, each a name, "=" and a colour as StringToColor reads it: the
+/// handler adds lines, deletes some, puts them into another order.
 using TGetColorsEvent = TEvent<TObject*, TStrings*>;
 template <>
 inline constexpr TEventText EventText<TGetColorsEvent>{
