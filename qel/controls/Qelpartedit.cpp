@@ -18,9 +18,9 @@ using vcl::TWatch;
 
 const vcl::TClass& TQELCustomPartEdit::Class() {
   using T = TQELCustomPartEdit;
-  static const vcl::TClass info = vcl::Describe<T, TCustomEdit>(
-      "qel::TQELCustomPartEdit", "qel/controls/Qelpartedit.h",
-      {vcl::ReadOnly<&T::About>("About").Unpublished()});
+  static const vcl::TClass info =
+      vcl::Describe<T, TCustomEdit>("qel::TQELCustomPartEdit", "qel/controls/Qelpartedit.h",
+                                    {vcl::ReadOnly<&T::About>("About").Unpublished()});
   return info;
 }
 
@@ -174,9 +174,7 @@ void TQELCustomPartEdit::Dispatch(vcl::TMessage& message) {
     case WM_SIZE:
     case WM_SETFONT: return SetMargins();
     case WM_CANCELMODE:
-    case WM_CAPTURECHANGED:
-      FPressed.reset();
-      return Invalidate();
+    case WM_CAPTURECHANGED: FPressed.reset(); return Invalidate();
     case vcl::CM_ENABLEDCHANGED: return Invalidate();
     case vcl::CM_MOUSEENTER:
     case vcl::CM_MOUSELEAVE:

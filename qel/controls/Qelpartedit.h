@@ -15,11 +15,11 @@ enum class TQELPartLook { Normal, Hot, Pressed, Disabled };
 
 /// What stands beside the text of an edit.
 struct TQELEditPart {
-  int Number;       ///< By which the edit knows it.
-  int Width;        ///< In pixels.
-  bool Left;        ///< Before the text, else behind it.
-  bool Button;      ///< It can be pressed.
-  const char* Name; ///< What a screen reader calls a button.
+  int Number;        ///< By which the edit knows it.
+  int Width;         ///< In pixels.
+  bool Left;         ///< Before the text, else behind it.
+  bool Button;       ///< It can be pressed.
+  const char* Name;  ///< What a screen reader calls a button.
 };
 
 /// An edit with parts beside its text, inside its border: the text keeps off them. Descendants say

@@ -53,8 +53,8 @@ void TQELCheckList::SetStates(const std::string& states) {
   }
   for (int i = 0; i < Items()->Count(); ++i) {
     const auto at = static_cast<std::size_t>(i);
-    SetState(i, at < states.size() ? static_cast<TCheckBoxState>(states[at] - '0')
-                                   : vcl::cbUnchecked);
+    SetState(i,
+             at < states.size() ? static_cast<TCheckBoxState>(states[at] - '0') : vcl::cbUnchecked);
   }
 }
 
@@ -137,8 +137,7 @@ void TQELCheckList::Resize() {
 
 void TQELCheckList::FitColumns() {
   if (FColumns == 0 || !HandleAllocated()) return;
-  vcl::Send(*this, LB_SETCOLUMNWIDTH,
-            static_cast<WPARAM>(std::max(ClientWidth() / FColumns, 1)));
+  vcl::Send(*this, LB_SETCOLUMNWIDTH, static_cast<WPARAM>(std::max(ClientWidth() / FColumns, 1)));
 }
 
 }  // namespace qel

@@ -77,8 +77,8 @@ const vcl::TClass& TQELColorCombo::Class() {
       {
           ReadOnly<&T::About>("About"),
           Inherit("Align"),
-          Property<&T::Colors, &T::SetColors>("Colors")
-              .Default(TQELColorKinds{ccStandard, ccSystem, ccCustom}),
+          Property<&T::Colors, &T::SetColors>("Colors").Default(
+              TQELColorKinds{ccStandard, ccSystem, ccCustom}),
           Inherit("Selected"),
           Property<&T::ShowNames, &T::SetShowNames>("ShowNames").Default(true),
           Property<&T::SwatchWidth, &T::SetSwatchWidth>("SwatchWidth").Default(20),

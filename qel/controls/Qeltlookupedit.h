@@ -92,11 +92,11 @@ class QEL_API TQELLookupEdit : public TQELCustomPartEdit {
   bool FCaseSensitive = false;
   bool FLimitToList = false;
   bool FShowButton = true;
-  bool FByCode = false;     // The text is being set.
-  bool FKeyTaken = false;   // Its character is still to come.
-  int FItemIndex = -1;      // Where two items are the same, the one that was chosen.
+  bool FByCode = false;    // The text is being set.
+  bool FKeyTaken = false;  // Its character is still to come.
+  int FItemIndex = -1;     // Where two items are the same, the one that was chosen.
   int FLoadedIndex = -1;
-  std::string FLastItem;    // What the text goes back to with LimitToList.
+  std::string FLastItem;  // What the text goes back to with LimitToList.
 };
 
 }  // namespace qel

@@ -6,8 +6,8 @@
 
 namespace qel {
 
-/// An edit in a thin frame, which shows where the mouse and the focus are; with a picture before its
-/// text, a cue while it is empty, a cross that empties it, and a button.
+/// An edit in a thin frame, which shows where the mouse and the focus are; with a picture before
+/// its text, a cue while it is empty, a cross that empties it, and a button.
 class QEL_API TQELOfficeEdit : public TQELCustomPartEdit {
  public:
   explicit TQELOfficeEdit(vcl::TComponent* owner);

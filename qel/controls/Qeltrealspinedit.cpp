@@ -132,9 +132,7 @@ void TQELRealSpinEdit::CorrectText() {
   if (text != Text()) SetText(text);
 }
 
-void TQELRealSpinEdit::StepBy(double difference) {
-  SetValue(QELRoundReal(Value() + difference));
-}
+void TQELRealSpinEdit::StepBy(double difference) { SetValue(QELRoundReal(Value() + difference)); }
 
 bool TQELRealSpinEdit::IsNumeral(char32_t key) const {
   if (key == U'+' || key == U'-' || (key >= U'0' && key <= U'9')) return true;

@@ -129,8 +129,7 @@ bool TQELFontLines::Shown(const TQELFontFace& face) const {
 }
 
 void TQELFontLines::AddLine(const TQELFontFace& face, bool last) {
-  const int mark =
-      face.Kind | (face.Symbol ? SymbolBit : 0) | (last ? LastRecentBit : 0);
+  const int mark = face.Kind | (face.Symbol ? SymbolBit : 0) | (last ? LastRecentBit : 0);
   SetMark(FList, FList.Items()->Add(face.Name), mark);
 }
 
@@ -198,7 +197,8 @@ void TQELFontLines::Draw(vcl::TCustomListControl& list, int index, const TRect& 
   vcl::TCanvas& canvas = *list.Canvas();
   const int size = list.ScaledPixels(12);
   const int margin = list.ScaledPixels(2);
-  DrawKind(mark, vcl::Bounds(rect.Left + margin, rect.Top + (rect.Height() - size) / 2, size, size));
+  DrawKind(mark,
+           vcl::Bounds(rect.Left + margin, rect.Top + (rect.Height() - size) / 2, size, size));
   if (FPreview && readable) canvas.Font()->SetName(name);
   const int indentation = size + 3 * margin;
   DrawLineText(list, rect, indentation, name);

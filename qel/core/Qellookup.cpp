@@ -35,8 +35,8 @@ std::vector<int> TQELTextMatcher::Find(const vcl::TStrings& lines, std::string_v
   const std::wstring wanted = Folded(text, caseSensitive);
   std::vector<int> found;
   for (std::size_t i = 0; i < FLines.size(); ++i) {
-    const bool matches = contains ? FLines[i].find(wanted) != std::wstring::npos
-                                  : FLines[i].starts_with(wanted);
+    const bool matches =
+        contains ? FLines[i].find(wanted) != std::wstring::npos : FLines[i].starts_with(wanted);
     if (matches) found.push_back(static_cast<int>(i));
   }
   return found;

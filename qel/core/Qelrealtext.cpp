@@ -46,8 +46,8 @@ std::string Money(double value, int decimals, const TQELRealSigns& signs) {
   GroupThousands(digits, signs.Thousand);
   const std::string number = digits + decimal;
   const std::string blank = signs.Blank ? " " : "";
-  return (negative ? "-" : "") + (signs.Behind ? number + blank + signs.Currency
-                                               : signs.Currency + blank + number);
+  return (negative ? "-" : "") +
+         (signs.Behind ? number + blank + signs.Currency : signs.Currency + blank + number);
 }
 
 std::string Setting(LCTYPE type, const std::string& otherwise) {

@@ -68,7 +68,7 @@ TEST(Settings, AreTakenOverOrCopied) {
   button.Glyph()->SetVisible(false);
   const std::tuple<vcl::TPersistent*, const char*, int> cases[] = {{label.Frame(), "Offset", 7},
                                                                    {button.Font3D(), "Offset", 10},
-                                                                   {button.Glyph(), "Visible", 7}};
+                                                                   {button.Glyph(), "Visible", 10}};
   for (const auto& [ofAnother, changed, uses] : cases) {
     const vcl::TClass& type = ofAnother->ClassType();
     const vcl::TPropInfo& mark = *type.FindPublished(changed);

@@ -3,8 +3,8 @@
 #include <chrono>
 #include <filesystem>
 
-#include "tests/vcl/standardform.h"
 #include "qel/qel.h"
+#include "tests/vcl/standardform.h"
 #include "vcl/rtl/files.h"
 #include "vcl/stdctrls/popuplines.h"
 
@@ -176,7 +176,8 @@ class AutoCombo : public vcl::TStandardForm {
     combo.HistoryStore()->SetEnabled(true);
   }
   std::string Items() const { return Combo->Items()->CommaText(); }
-  const std::string FileName = (std::filesystem::temp_directory_path() / "autocombo_test.ini").string();
+  const std::string FileName =
+      (std::filesystem::temp_directory_path() / "autocombo_test.ini").string();
   TQELAutoCombo* Combo;
   vcl::TEdit* Other;
 };

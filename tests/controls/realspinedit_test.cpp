@@ -1,8 +1,8 @@
 // The spin edit for real numbers: texts, steps, bounds.
 #include <limits>
 
-#include "tests/vcl/standardform.h"
 #include "qel/qel.h"
+#include "tests/vcl/standardform.h"
 
 namespace qel {
 namespace {
@@ -45,7 +45,8 @@ class RealSpinEdit : public vcl::TStandardForm {
   std::string Shown() const {
     std::string text = Spin->Text();
     const std::string sign = QELRealSigns(false).Decimal;
-    if (const auto at = text.find(sign); at != std::string::npos) text.replace(at, sign.size(), ".");
+    if (const auto at = text.find(sign); at != std::string::npos)
+      text.replace(at, sign.size(), ".");
     return text;
   }
   TQELRealSpinEdit* Spin;

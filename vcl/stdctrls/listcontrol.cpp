@@ -96,12 +96,20 @@ void TCustomListControl::SetItemHeight(int height) {
   }
   if (height == FItemHeight) return;
   FItemHeight = height;
-  if (OwnerDraw()) RecreateWnd();
+  if (!OwnerDraw() || !HandleAllocated()) return;
+  // Told, and not made anew: the window may have the focus, or an open list.
+  if (FMessages.SetFieldHeight != 0) {
+    Send(*this, FMessages.SetFieldHeight, static_cast<WPARAM>(-1), height);
+  }
+  if (MeasuresItems()) return MeasureItems();
+  Send(*this, FMessages.SetItemHeight, 0, height);
+  Invalidate();
 }
 
 void TCustomListControl::ChangeScale(int m, int d) {
+  const TWatch watch(this);
   TWinControl::ChangeScale(m, d);
-  SetItemHeight(std::clamp(ScaleMeasure(FItemHeight, m, d), 1, MostItemHeight));
+  if (!watch.Gone()) SetItemHeight(std::clamp(ScaleMeasure(FItemHeight, m, d), 1, MostItemHeight));
 }
 
 bool TCustomListControl::Sorted() const { return FItems->Sorted(); }

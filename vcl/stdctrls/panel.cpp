@@ -160,8 +160,10 @@ void TCustomPanel::Paint() {
 }
 
 void TCustomPanel::Dispatch(TMessage& message) {
-  TCustomControl::Dispatch(message);
   const UINT msg = message.Msg;
+  const TWatch watch(this);
+  TCustomControl::Dispatch(message);
+  if (watch.Gone()) return;
   if (msg == CM_TEXTCHANGED || msg == CM_ENABLEDCHANGED || msg == CM_FONTCHANGED) Invalidate();
 }
 

@@ -24,12 +24,12 @@ bool Before(const std::string& a, const std::string& b) {
 
 }  // namespace
 
-const TListMessages ListBoxMessages{LB_INSERTSTRING, LB_DELETESTRING, LB_RESETCONTENT,
-                                    LB_GETCURSEL,    LB_SETCURSEL,    LB_GETSEL,
-                                    LB_SETSEL,       LB_SETITEMHEIGHT};
+const TListMessages ListBoxMessages{LB_INSERTSTRING, LB_DELETESTRING,  LB_RESETCONTENT,
+                                    LB_GETCURSEL,    LB_SETCURSEL,     LB_GETSEL,
+                                    LB_SETSEL,       LB_SETITEMHEIGHT, 0};
 const TListMessages ComboBoxMessages{
-    CB_INSERTSTRING, CB_DELETESTRING, CB_RESETCONTENT, CB_GETCURSEL, CB_SETCURSEL, 0, 0,
-    CB_SETITEMHEIGHT};
+    CB_INSERTSTRING,  CB_DELETESTRING, CB_RESETCONTENT, CB_GETCURSEL, CB_SETCURSEL, 0, 0,
+    CB_SETITEMHEIGHT, CB_SETITEMHEIGHT};
 
 TListLines::TLine& TListLines::Line(int index) {
   CheckItem(index);

@@ -22,6 +22,7 @@ struct TListMessages {
   UINT GetItemSelected;  ///< 0 where at most one item is selected.
   UINT SetItemSelected;
   UINT SetItemHeight;
+  UINT SetFieldHeight;  ///< For -1 as index; 0 where there is no field.
 };
 extern const TListMessages ListBoxMessages;
 extern const TListMessages ComboBoxMessages;
