@@ -284,7 +284,7 @@ TEST_F(Scroller, MovesByTheClockAndOnlyWhatIsNewIsPainted) {
   int wraps = 0;
   It->OnWrap = [&](vcl::TObject*) { ++wraps; };
   ShowForm();
-  testinput::MoveMouse({0, 0});
+  testinput::MoveMouse(Form.ClientToScreen({490, 390}));
   EXPECT_EQ(Find(vcl::clRed), vcl::Bounds(20, 20, 50, 40));
   It->SetActive(true);
   TFakeTime::Pass(200);
@@ -343,7 +343,7 @@ TEST_F(Scroller, StopsUnderTheMouse) {
   const int position = It->Position();
   TFakeTime::Pass(200);
   EXPECT_EQ(It->Position(), position);
-  testinput::MoveMouse({0, 0});
+  testinput::MoveMouse(Form.ClientToScreen({490, 390}));
   TFakeTime::Pass(200);
   EXPECT_NE(It->Position(), position);
 }
@@ -376,7 +376,7 @@ class Marquee : public Moving {
 TEST_F(Marquee, ComesInFromTheSideAndGoesOutAtTheOther) {
   const TFakeTime time;
   ShowForm();
-  testinput::MoveMouse({0, 0});
+  testinput::MoveMouse(Form.ClientToScreen({490, 390}));
   EXPECT_EQ(LineOnTheWay(), 0) << "at rest";
   It->SetActive(true);
   TFakeTime::Pass(50);
@@ -394,7 +394,7 @@ TEST_F(Marquee, WaitsBetweenItsRounds) {
   It->SetDelay(1000);
   It->SetActive(true);
   ShowForm();
-  testinput::MoveMouse({0, 0});
+  testinput::MoveMouse(Form.ClientToScreen({490, 390}));
   TFakeTime::Pass(50);
   TFakeTime::Pass(20000);
   EXPECT_EQ(Rounds, 1);
