@@ -63,12 +63,9 @@ class TShownHeaderList {
     FForm.Update();
   }
 
-  /// From the middle on, where there are numbers as long as any.
+  /// From the middle each time.
   void PageDown() {
-    constexpr int lastPages = 40;
-    if (FList.ItemIndex() < 0 || FList.ItemIndex() + lastPages > FList.Count()) {
-      FList.SetItemIndex(FList.Count() / 2 - 1);
-    }
+    FList.SetItemIndex(FList.Count() / 2 - 1);
     FList.Perform(WM_KEYDOWN, VK_NEXT);
     FList.Update();
   }
