@@ -6,6 +6,7 @@
 #include "vcl/controls/propertygroups.h"
 #include "vcl/graphics/handles.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/scope.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/button.h"
 
@@ -159,11 +160,13 @@ void TQELOfficeButton::Click() {
 void TQELOfficeButton::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
   const bool drops = button == vcl::mbLeft && FSplitDropDown && Enabled() && DropDownMenu() &&
                      FFace.ArrowArea().Contains({x, y});
-  if (!drops) return TQELCustomButton::MouseDown(button, shift, x, y);
-  ExcludeState(vcl::csClicked);
   const TWatch watch(this);
-  TQELCustomControl::MouseDown(button, shift, x, y);
-  if (!watch.Gone()) FFace.DropDown();
+  {
+    // What the menu's arrow takes is no press of the button.
+    const vcl::TSetFor dropping(FDropping, drops, this);
+    TQELCustomButton::MouseDown(button, shift, x, y);
+  }
+  if (drops && !watch.Gone()) FFace.DropDown();
 }
 
 /// Whether Enter is for this button now: it has the focus, or it is the default one and no other

@@ -75,6 +75,7 @@ class QEL_API TQELOfficeButton : public TQELCustomButton, public TQELTool {
   vcl::TNotifyEvent OnMouseLeave;
 
  protected:
+  bool TakesMouse() const override { return !FDropping && TQELCustomButton::TakesMouse(); }
   void Paint() override;
   void Click() override;
   void ShowHot() override;
@@ -97,6 +98,7 @@ class QEL_API TQELOfficeButton : public TQELCustomButton, public TQELTool {
   bool FSplitDropDown = false;
   bool FDefault = false;
   bool FCancel = false;
+  bool FDropping = false;  // The mouse is down on the menu's arrow.
   vcl::TModalResult FModalResult = vcl::mrNone;
 };
 

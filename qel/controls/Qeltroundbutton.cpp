@@ -17,7 +17,6 @@ namespace qel {
 
 using vcl::TPoint;
 using vcl::TRect;
-using vcl::TWatch;
 
 namespace {
 
