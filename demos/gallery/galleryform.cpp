@@ -1,7 +1,10 @@
 // TGalleryForm: what all pages share: bound settings, and the status bar.
 #include "demos/gallery/galleryform.h"
 
+#include "demos/gallery/choicespage.h"
 #include "demos/gallery/listspage.h"
+#include "demos/gallery/movingpage.h"
+#include "demos/gallery/picklistspage.h"
 #include "demos/gallery/standardpage.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/properties.h"
@@ -88,6 +91,9 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   SetUpSpinEdits();
   SetUpExplorer();
   SetUpHints();
+  AddPage<TChoicesPage>("Choices");
+  AddPage<TMovingPage>("Moving");
+  AddPage<TPickListsPage>("Pick lists");
   AddPage<TStandardPage>("Standard");
   AddPage<TListsPage>("Lists");
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
