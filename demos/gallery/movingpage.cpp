@@ -38,7 +38,7 @@ void DrawFrames(TBitmap& strip, int frames) {
 void DrawHills(TBitmap& hills) {
   constexpr int width = 900;
   constexpr int height = 78;
-  hills.Canvas()->Brush()->SetColor(clSkyBlue);
+  hills.Canvas()->Brush()->SetColor(clAqua);
   hills.SetSize(width, height);
   const auto row = [&](TColor color, int turns, int down) {
     hills.Canvas()->Pen()->SetColor(color);
@@ -116,7 +116,7 @@ void TMovingPage::AnimatorClick(TObject*) { SampleAnimator->SetActive(AnimatorCh
 
 void TMovingPage::EffectChange(TObject*) {
   for (int i = 0; i < SampleSlides->Slides()->Count(); ++i) {
-    SampleSlides->Slides()->Items(i)->SetEffect(
+    SampleSlides->Slides()->Slides(i)->SetEffect(
         static_cast<TQELSlideEffect>(EffectBox->ItemIndex()));
   }
 }

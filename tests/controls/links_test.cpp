@@ -50,12 +50,12 @@ TEST(Links, EndWithTheComponentOrItsBackground) {
     use.It.reset();
     EXPECT_EQ(first.ClientCount(), 0);
   });
-  EXPECT_EQ(links, 13);
+  EXPECT_EQ(links, 26);
 }
 
 /// Those that take nothing over, whoever owns it.
 bool CopiesSettings(const vcl::TComponent& component) {
-  return !dynamic_cast<const TQELLabel*>(&component) &&
+  return !dynamic_cast<const TQELCustomLabel*>(&component) &&
          !dynamic_cast<const TQELGauge*>(&component) && !dynamic_cast<const TQELHint*>(&component);
 }
 
@@ -66,8 +66,8 @@ TEST(Settings, AreTakenOverOrCopied) {
   label.Frame()->SetOffset(7);
   button.Font3D()->SetOffset(7);
   button.Glyph()->SetVisible(false);
-  const std::tuple<vcl::TPersistent*, const char*, int> cases[] = {{label.Frame(), "Offset", 7},
-                                                                   {button.Font3D(), "Offset", 10},
+  const std::tuple<vcl::TPersistent*, const char*, int> cases[] = {{label.Frame(), "Offset", 11},
+                                                                   {button.Font3D(), "Offset", 17},
                                                                    {button.Glyph(), "Visible", 10}};
   for (const auto& [ofAnother, changed, uses] : cases) {
     const vcl::TClass& type = ofAnother->ClassType();
