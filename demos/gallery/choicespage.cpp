@@ -1,6 +1,7 @@
 // The page of choices: what was clicked last, and where the arrows have gone.
 #include "demos/gallery/choicespage.h"
 
+#include "vcl/rtl/classregistry.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
@@ -25,7 +26,14 @@ const TClass& TChoicesPage::Class() {
   return info;
 }
 
-TChoicesPage::TChoicesPage(TComponent* owner) : TFrame(owner) { LoadFrame(); }
+TChoicesPage::TChoicesPage(TComponent* owner) : TFrame(owner) {
+  RegisterClasses({&qel::TQELArrowButton::Class(), &qel::TQELBackground::Class(),
+                   &qel::TQELCheckbox::Class(), &qel::TQELFillBackground::Class(),
+                   &qel::TQELFormDivider::Class(), &qel::TQELIEButton::Class(),
+                   &qel::TQELOfficeButton::Class(), &qel::TQELPanel::Class(),
+                   &qel::TQELRadiobutton::Class(), &qel::TQELRoundButton::Class()});
+  LoadFrame();
+}
 
 TChoicesPage::~TChoicesPage() { AnnounceEnd(); }
 

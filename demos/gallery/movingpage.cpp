@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "vcl/dialogs/dialogs.h"
+#include "vcl/rtl/classregistry.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 
@@ -81,6 +82,10 @@ const TClass& TMovingPage::Class() {
 }
 
 TMovingPage::TMovingPage(TComponent* owner) : TFrame(owner) {
+  RegisterClasses({&TQELAnimator::Class(), &TQELCommandLabel::Class(), &TQELICQMarquee::Class(),
+                   &TQELImageScroller::Class(), &TQELInformationLabel::Class(),
+                   &TQELPresentation::Class(), &TQELStickyLabel::Class(),
+                   &TQELVersionLabel::Class()});
   LoadFrame();
   for (const char* effect :
        {"None", "Fade", "Wipe to the left", "Wipe to the right", "Wipe up", "Wipe down",

@@ -1,6 +1,7 @@
 // The page of lists to choose from: a million rows are made up when they are seen.
 #include "demos/gallery/picklistspage.h"
 
+#include "vcl/rtl/classregistry.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/properties.h"
 
@@ -20,7 +21,15 @@ const TClass& TPickListsPage::Class() {
   return info;
 }
 
-TPickListsPage::TPickListsPage(TComponent* owner) : TFrame(owner) { LoadFrame(); }
+TPickListsPage::TPickListsPage(TComponent* owner) : TFrame(owner) {
+  RegisterClasses({&qel::TQELAutoCombo::Class(), &qel::TQELCheckList::Class(),
+                   &qel::TQELColorCombo::Class(), &qel::TQELFontBox::Class(),
+                   &qel::TQELFontCombo::Class(), &qel::TQELHeader::Class(),
+                   &qel::TQELHeaderList::Class(), &qel::TQELLanguageCombo::Class(),
+                   &qel::TQELLookupEdit::Class(), &qel::TQELLookupMenu::Class(),
+                   &qel::TQELOfficeEdit::Class(), &qel::TQELRealSpinEdit::Class()});
+  LoadFrame();
+}
 
 TPickListsPage::~TPickListsPage() { AnnounceEnd(); }
 

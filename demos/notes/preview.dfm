@@ -6,6 +6,8 @@ object PreviewForm: TPreviewForm
   ClientHeight = 480
   ClientWidth = 640
   Color = clBtnFace
+  Constraints.MinHeight = 240
+  Constraints.MinWidth = 480
   Position = poMainFormCenter
   object ToolPanel: TPanel
     Left = 0

@@ -133,7 +133,7 @@ bool TQELPanel::ShowCursor(const vcl::TMessage& message) {
   const bool falling = (edges.Left && edges.Top) || (edges.Right && edges.Bottom);
   const char* shape =
       across && down ? (falling ? IDC_SIZENWSE : IDC_SIZENESW) : (across ? IDC_SIZEWE : IDC_SIZENS);
-  ::SetCursor(::LoadCursorA(nullptr, shape));
+  ::SetCursor(::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(shape)));
   return true;
 }
 

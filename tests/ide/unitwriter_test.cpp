@@ -204,11 +204,13 @@ std::string TypesOf(const vcl::TPropInfo& event) {
   const std::unique_ptr<char, decltype(&std::free)> name(
       abi::__cxa_demangle(event.Signature->name(), nullptr, nullptr, nullptr), &std::free);
   std::string called = Replaced(name.get(), " const&", "&");
-  for (const auto& [is, as] : {std::pair(" >", ">"),
-                               {"std::__cxx11::basic_string<char, std::char_traits<char>, "
-                                "std::allocator<char>>",
-                                "std::string"},
-                               {"unsigned short", "std::uint16_t"}}) {
+  for (const auto& [is, as] :
+       {std::pair(" >", ">"),
+        {"std::__cxx11::basic_string<char, std::char_traits<char>, "
+         "std::allocator<char>>",
+         "std::string"},
+        {"std::vector<std::string, std::allocator<std::string>>", "std::vector<std::string>"},
+        {"unsigned short", "std::uint16_t"}}) {
     called = Replaced(called, is, as);
   }
   return std::regex_replace(called, std::regex("vcl::TSet<(vcl::T\\w+)Value>"), "$1");

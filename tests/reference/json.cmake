@@ -80,11 +80,12 @@ function(expect_rows list members)
 endfunction()
 
 expect_rows(pages name,classes
-  "QEL Controls/1|TQELBackground,TQELLabel,TQELButton,TQELGauge,TQELHint"
-  "QEL Controls/2|TQELSpinEdit"
+  "QEL Controls/1|TQELBackground,TQELCheckbox,TQELRadiobutton,TQELLabel,TQELButton,TQELIEButton,TQELOfficeButton,TQELPanel,TQELGauge,TQELPresentation,TQELHint,TQELFillBackground,TQELArrowButton,TQELRoundButton,TQELHeader,TQELHeaderList"
+  "QEL Controls/2|TQELColorCombo,TQELAnimator,TQELImageScroller,TQELCommandLabel,TQELInformationLabel,TQELStickyLabel,TQELVersionLabel,TQELLookupMenu,TQELSpinEdit,TQELRealSpinEdit,TQELLookupEdit,TQELOfficeEdit,TQELOfficeEdit,TQELAnimator,TQELFontCombo,TQELFontBox,TQELCheckList"
+  "QEL Controls/3|TQELLanguageCombo,TQELAutoCombo,TQELFormDivider"
   "QEL DBControls|TQELDBAscii"
   "QEL System/1|TQELStoreData,TQELQuickMail,TQELSystemTray,TQELFormSaver,TQELMRUMenu"
-  "QEL System/2|TQELOnlyOne,TQELTimer32,TQELPOPMail,TQELSMTPMail,TQELMapiMail"
+  "QEL System/2|TQELOnlyOne,TQELTimer32,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
   "QEL Files|TQELExplorerTree")
 set(dialog "dialog,read-only")
 set(list "value list,multi-select,sorted list")
@@ -96,6 +97,8 @@ expect_rows(propertyEditors editor,type,class,property,attributes
   "TQELMapiProperty|TQELMapiMessages|TQELMapiMail|Messages|${dialog}"
   "TQELColorInBetweenProperty|TStrings|TQELGradient|ColorsInBetween|${dialog}"
   "TQELItemDataFieldProperty|string|TCollectionItem|DataField|${list}"
+  "TQELROStringProperty|string|TQELInformationLabel|CaptionValue|multi-select,read-only,revertable"
+  "TQELROCaptionProperty|TCaption|TQELInformationLabel|Caption|multi-select,auto-update,read-only,revertable"
   "TQELShowMeNowProperty|string|TComponent|DesignExecute|${dialog}"
   "TQELHintProperty|string|TComponent|Hint|dialog,multi-select,revertable"
   "TQELCaptionProperty|TCaption|TControl|Caption|dialog,multi-select,auto-update,revertable"

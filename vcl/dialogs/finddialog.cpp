@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "vcl/controls/messagewindow.h"
+#include "vcl/controls/windowtext.h"
 #include "vcl/forms/private/modelessdialogs.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
@@ -13,6 +14,8 @@
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
+
+#include <dlgs.h>
 
 namespace vcl {
 
@@ -68,6 +71,13 @@ struct TFindDialog::TLink {
     ::SetWindowLongPtrW(window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(inFrontOf));
     ::SetWindowSubclass(window, &EndWith, 0, reinterpret_cast<DWORD_PTR>(this));
     AddModelessDialog(window);
+  }
+
+  /// What stands in the field. The system tells it in the buffer, too, but not always anew: under
+  /// Wine what stood there at first was seen to stay.
+  std::string TextOf(int field, const wchar_t* buffer) const {
+    const HWND edit = ::GetDlgItem(Window, field);
+    return edit ? WindowText(edit) : ToUtf8(buffer);
   }
 
   void Handle(TMessage& message) const {
@@ -176,8 +186,8 @@ void TFindDialog::CloseDialog() {
 }
 
 void TFindDialog::Take(const TLink& link) {
-  FFindText = ToUtf8(link.Find);
-  FReplaceText = ToUtf8(link.Replace);
+  FFindText = link.TextOf(edt1, link.Find);
+  FReplaceText = link.TextOf(edt2, link.Replace);
   for (std::size_t i = 0; i < std::size(OptionFlags); ++i) {
     const auto option = static_cast<TFindOption>(i);
     if (!Told.Has(option)) continue;

@@ -172,13 +172,26 @@ void TImageList::Delete(int index) {
   Changed();
 }
 
+void TImageList::ReplaceIcon(int index, const TIcon& icon) {
+  if (::ImageList_ReplaceIcon(Handle(), index, icon.Handle()) != index) {
+    RaiseOutOfResources("to put an image into a list");
+  }
+}
+
 void TImageList::Move(int from, int to) {
   CheckIndex(from);
   CheckIndex(to);
   if (from == to) return;
+  // By icons, which keep see-through parts wherever they come to stand.
+  TIcon moved;
+  GetIcon(from, &moved);
   const int step = from < to ? 1 : -1;
-  for (int i = from; i != to; i += step)
-    ::ImageList_Copy(Handle(), i, Handle(), i + step, ILCF_SWAP);
+  for (int i = from; i != to; i += step) {
+    TIcon next;
+    GetIcon(i + step, &next);
+    ReplaceIcon(i, next);
+  }
+  ReplaceIcon(to, moved);
   Changed();
 }
 

@@ -117,6 +117,7 @@ class VCL_API TImageList : public TComponent {
   void WriteData(TStream& stream) const;
   static constexpr int MostPixels = 32767;
   void CheckIndex(int index) const;
+  void ReplaceIcon(int index, const TIcon& icon);
   void CheckStrip(const TBitmap* image) const;
   int Added(int index);
   void DrawDisabled(TCanvas* canvas, int x, int y, int index);

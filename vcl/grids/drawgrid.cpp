@@ -65,7 +65,8 @@ const TClass& TDrawGrid::Class() {
           Inherit(WheelEvents),
           Inherit("OnResize"),
           Event<&T::OnRowMoved>("OnRowMoved").Type("TMovedEvent", MovedParameters),
-          Event<&T::OnSelectCell>("OnSelectCell"),
+          Event<&T::OnSelectCell>("OnSelectCell")
+              .Type("TSelectCellEvent", "vcl::TObject* sender, int col, int row, bool& canSelect"),
           Event<&T::OnSetEditText>("OnSetEditText"),
           Inherit("OnStartDrag"),
           Event<&T::OnTopLeftChanged>("OnTopLeftChanged"),

@@ -93,9 +93,6 @@ template <>
 inline constexpr TEventText EventText<TSetEditEvent>{
     "TSetEditEvent", "vcl::TObject* sender, int col, int row, const std::string& text"};
 template <>
-inline constexpr TEventText EventText<TSelectCellEvent>{
-    "TSelectCellEvent", "vcl::TObject* sender, int col, int row, bool& canSelect"};
-template <>
 inline constexpr TEventText EventText<TDrawCellEvent>{
     "TDrawCellEvent",
     "vcl::TObject* sender, int col, int row, const vcl::TRect& rect, vcl::TGridDrawState state"};
