@@ -226,7 +226,8 @@ bool TQELHeader::ClickByAccel(WPARAM character) {
 
 void TQELHeader::Dispatch(vcl::TMessage& message) {
   switch (message.Msg) {
-    case WM_ERASEBKGND: message.Result = 1; return;  // Paint fills all.
+    // Paint fills all. NOLINTNEXTLINE(bugprone-branch-clone): DLGC_WANTARROWS happens to be 1.
+    case WM_ERASEBKGND: message.Result = 1; return;
     case WM_GETDLGCODE: message.Result = DLGC_WANTARROWS; return;
     case WM_SETCURSOR:
       if (LOWORD(message.LParam) != HTCLIENT || !ShowSizingCursor()) break;

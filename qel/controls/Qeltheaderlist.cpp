@@ -229,6 +229,12 @@ void TQELHeaderList::Resize() {
   if (!watch.Gone()) PlaceHeader();
 }
 
+void TQELHeaderList::Loaded() {
+  const TWatch watch(this);
+  TCustomGrid::Loaded();
+  if (!watch.Gone()) PlaceHeader();
+}
+
 void TQELHeaderList::ChangeScale(int m, int d) {
   const TWatch watch(this);
   TCustomGrid::ChangeScale(m, d);
@@ -280,10 +286,10 @@ void TQELHeaderList::SetRowCount(int count) {
     FChecked->Trim(count);
     if (FItemIndex >= count) FItemIndex = -1;
   }
-  CountChanged();
+  RowsChanged();
 }
 
-void TQELHeaderList::CountChanged() {
+void TQELHeaderList::RowsChanged() {
   const TWatch watch(this);
   TCustomGrid::SetRowCount(Count() + 1);
   if (!watch.Gone()) Invalidate();

@@ -146,6 +146,7 @@ class QEL_API TQELHeaderList : public vcl::TCustomGrid {
   bool DoKey(std::uint16_t key, vcl::TShiftState shift) override;
   void TopLeftChanged() override { PlaceHeader(); }
   void ChangeScale(int m, int d) override;
+  void Loaded() override;
   void Dispatch(vcl::TMessage& message) override;
   void KeyPress(char32_t& key) override;
   void MouseDown(vcl::TMouseButton button, vcl::TShiftState shift, int x, int y) override;
@@ -173,7 +174,7 @@ class QEL_API TQELHeaderList : public vcl::TCustomGrid {
 
   // Rows.
   bool Virtual() const { return FRowCount > 0; }
-  void CountChanged();
+  void RowsChanged();
   void RowInserted(int row);
   void RowDeleted(int row);
   void RowsCleared();

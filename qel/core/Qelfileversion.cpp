@@ -91,7 +91,7 @@ std::string QELFileVersion(const std::string& fileName, TQELVersionItem item) {
   const TBlock block = BlockOf(fileName);
   if (block.empty()) return {};
   for (const std::string& translation : Translations(block)) {
-    const std::string text = TextOf(block, translation, Keys[item]);
+    std::string text = TextOf(block, translation, Keys[item]);
     if (!text.empty()) return text;
   }
   return NumberOf(block, item);

@@ -47,10 +47,10 @@ std::vector<TQELFontFace> QELFontFaces(vcl::TFontCharset charset) {
     return vcl::AnsiCompareText(a.Name, b.Name) < 0;
   });
   // A face comes once for each of its sets of characters.
-  const auto same = std::ranges::unique(faces, [](const TQELFontFace& a, const TQELFontFace& b) {
+  const auto same = [](const TQELFontFace& a, const TQELFontFace& b) {
     return vcl::AnsiSameText(a.Name, b.Name);
-  });
-  faces.erase(same.begin(), same.end());
+  };
+  faces.erase(std::unique(faces.begin(), faces.end(), same), faces.end());
   return faces;
 }
 

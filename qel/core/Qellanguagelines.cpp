@@ -55,7 +55,7 @@ std::vector<TQELLanguage> QELLanguages(TQELLanguageWhich which, TQELLanguageDisp
 
 std::string QELLocaleName(const std::string& locale) {
   const std::wstring wide = vcl::ToUtf16(locale);
-  const std::string name =
+  std::string name =
       wide.empty() || !::IsValidLocaleName(wide.c_str()) ? "" : InfoOf(wide, LOCALE_SNAME);
   if (name.empty()) {
     throw vcl::EConvertError(

@@ -125,7 +125,7 @@ std::string QELDurationText(std::uint64_t milliseconds) {
     return digits.size() < 2 ? "0" + digits : digits;
   };
   const std::uint64_t days = seconds / 86400;
-  const std::string time =
+  std::string time =
       Concat(two(seconds / 3600 % 24), ":", two(seconds / 60 % 60), ":", two(seconds % 60));
   if (days == 0) return time;
   return Concat(IntToStr(static_cast<std::int64_t>(days)), days == 1 ? " day " : " days ", time);

@@ -295,8 +295,9 @@ TEST(Handlers, MayFreeTheirSenderAndWhatIsAroundIt) {
     if (each->InheritsFrom(qel::TQELExplorerTree::Class())) continue;
     for (const TPropInfo* event : each->Published()) {
       if (!event->IsEvent()) continue;
-      // The system's edit control works on behind this notice, with what the window had.
-      if (event->Name == "OnChange" && each->InheritsFrom(TCustomEdit::Class())) continue;
+      // The system's edit controls work on behind these notices, with what the window had.
+      const bool worksOn = event->Name == "OnChange" || event->Name == "OnSelectionChange";
+      if (worksOn && each->InheritsFrom(TCustomEdit::Class())) continue;
       for (const TVictim victim : Victims) {
         what = Concat(each->Name(), ".", event->Name, " ", std::to_string(int(victim)));
         TScene scene(*each, event->Name, victim);

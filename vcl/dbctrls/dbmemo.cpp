@@ -79,13 +79,15 @@ void TDBMemo::ShowField() {
 }
 
 void TDBMemo::KeyDown(std::uint16_t& key, TShiftState shift) {
-  FLoaded ? TFieldTextEditor::KeyDown(key, shift) : TCustomMemo::KeyDown(key, shift);
+  if (FLoaded) return TFieldTextEditor::KeyDown(key, shift);
+  // What stands for the text is no field's, so its editor hears of no key.
+  TCustomMemo::KeyDown(key, shift);  // NOLINT(bugprone-parent-virtual-call)
 }
 
 void TDBMemo::KeyPress(char32_t& key) {
   if (FLoaded) return TFieldTextEditor::KeyPress(key);
   const TWatch watch(this);
-  TCustomMemo::KeyPress(key);
+  TCustomMemo::KeyPress(key);  // NOLINT(bugprone-parent-virtual-call): as above.
   if (watch.Gone()) return;
   if (key == detail::EnterCharacter) LoadMemo();
   key = 0;

@@ -30,6 +30,7 @@ VCL_API bool ChangesText(const TMessage& message);
 /// A control that shows a field of a data source's current record. While the data set is closed, or
 /// has no such field, it shows nothing.
 template <class TControlBase>
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): its base's is virtual.
 class TFieldControl : public TControlBase {
  public:
   ~TFieldControl() override {
@@ -231,7 +232,8 @@ class TFieldTextEditor : public TFieldEditor<TControlBase> {
     if (watch.Gone()) return;
     FInside = false;
     this->ShowNow();
-    if (!watch.Gone()) TControlBase::DoExit();
+    // What the field is given has been written above.
+    if (!watch.Gone()) TControlBase::DoExit();  // NOLINT(bugprone-parent-virtual-call)
   }
 
  private:

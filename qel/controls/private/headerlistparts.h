@@ -33,7 +33,7 @@ class TQELHeaderList::TLines : public vcl::TStringList {
  protected:
   void Changed() override {
     TStringList::Changed();
-    FList.CountChanged();
+    FList.RowsChanged();
   }
 
  private:
