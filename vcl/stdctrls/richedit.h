@@ -67,7 +67,8 @@ class VCL_API TCustomRichEdit : public TCustomMemo {
   /// Sends EM_SETCHARFORMAT with a CHARFORMAT2W; for the attributes.
   void ApplyCharFormat(std::uintptr_t range, void* format);
 
-  /// The selection, or what it looks like, has changed.
+  /// The selection, or what it looks like, has changed. The control must not be freed here: the
+  /// system works on with it behind this.
   TNotifyEvent OnSelectionChange;
   /// The user is about to change protected text: the handler may allow it.
   TRichEditProtectChange OnProtectChange;
