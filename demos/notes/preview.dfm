@@ -7,7 +7,7 @@ object PreviewForm: TPreviewForm
   ClientWidth = 640
   Color = clBtnFace
   Constraints.MinHeight = 240
-  Constraints.MinWidth = 480
+  Constraints.MinWidth = 512
   Position = poMainFormCenter
   object ToolPanel: TPanel
     Left = 0

@@ -2,7 +2,7 @@ object RecordsForm: TRecordsForm
   Left = 160
   Top = 120
   Constraints.MinHeight = 320
-  Constraints.MinWidth = 540
+  Constraints.MinWidth = 720
   Caption = 'Records'
   ClientHeight = 460
   ClientWidth = 800
@@ -71,7 +71,7 @@ object RecordsForm: TRecordsForm
     Height = 180
     Align = alBottom
     BevelOuter = bvNone
-    Constraints.MinHeight = 150
+    Constraints.MinHeight = 176
     TabOrder = 2
     object NameLabel: TLabel
       Left = 12
@@ -166,6 +166,7 @@ object RecordsForm: TRecordsForm
       Top = 16
       Width = 262
       Height = 149
+      Anchors = [akLeft, akTop, akRight, akBottom]
       DataSource = PaymentSource
       ReadOnly = True
       TabOrder = 11

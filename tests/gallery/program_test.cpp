@@ -68,8 +68,9 @@ class Screenshots : public ::testing::Test {
 
 TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
   ASSERT_EQ(Result.Code, 0u) << Result.Errors;
-  const char* names[] = {"buttons.png",    "labels.png",   "backgrounds.png", "gauges.png",
-                         "spin-edits.png", "explorer.png", "hints.png"};
+  const char* names[] = {"buttons.png",    "labels.png",     "backgrounds.png", "gauges.png",
+                         "spin-edits.png", "explorer.png",   "hints.png",       "choices.png",
+                         "moving.png",     "pick-lists.png", "standard.png",    "lists.png"};
   ASSERT_EQ(Files.size(), std::size(names));
   EXPECT_FALSE(TPicture(Files[0]) == TPicture(Files[1]) ||
                TPicture(Files[1]) == TPicture(Files[2]));
@@ -84,7 +85,7 @@ TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
 }
 
 TEST_F(Screenshots, ShowAHintOnItsBackgroundAboveTheMouse) {
-  ASSERT_EQ(Files.size(), 7u);
+  ASSERT_GT(Files.size(), 6u);
   gallery::TGalleryForm form(nullptr);
   form.Show();
   const vcl::TRect stage = Place(form, 6, "HintStageField");

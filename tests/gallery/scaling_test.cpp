@@ -148,7 +148,7 @@ TEST(SampleForms, FillTheSizesThatTheUserGivesThem) {
       EXPECT_THAT(Overlaps(form), ::testing::IsEmpty()) << name << " of " << size.cx;
     }
   }
-  EXPECT_EQ(resized, 4) << "the main forms but the gallery, and the one for a mail";
+  EXPECT_EQ(resized, 5) << "the main forms but the gallery, the one for a mail and the preview";
 }
 
 }  // namespace

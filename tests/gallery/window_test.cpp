@@ -298,7 +298,7 @@ TEST_F(Gallery, AddsAFolderForTheUserToName) {
 }
 
 TEST(GalleryForm, GivesBackWhatItTakes) {
-  handles::ExpectNoneKept(3, 1, [](int) {
+  handles::ExpectNoneKept(6, 2, [](int) {
     gallery::TGalleryForm form(nullptr);
     form.Show();
     for (int i = 0; i < form.Pages->PageCount(); ++i) {

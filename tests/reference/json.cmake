@@ -105,7 +105,13 @@ expect_rows(propertyEditors editor,type,class,property,attributes
   "TQELAboutCompsProperty|TQELAbout|TPersistent||${dialog}"
   "TQELDataFieldProperty|string|TComponent|DataUsername|${list}"
   "TQELDataFieldProperty|string|TComponent|Datapassword|${list}"
-  "TQELINIFilenameProperty|string|TQELStoreData|Filename|dialog")
+  "TQELSlidesProperty|TQELSlides|TQELPresentation|Slides|${dialog}"
+  "TQELAviFilenameProperty|string|TQELAnimator|Filename|dialog"
+  "TQELINIFilenameProperty|string|TQELStoreData|Filename|dialog"
+  "TQELWaveFilenameProperty|string|TQELICQMarquee|Filename|dialog"
+  "TQELFilenameProperty|string|TQELVersionLabel|Filename|dialog"
+  "TQELROCaptionProperty|TCaption|TQELVersionLabel|Caption|multi-select,auto-update,read-only,revertable"
+  "TQELLocaleProperty|string|TQELLanguageCombo|Locale|${list}")
 expect_rows(componentEditors editor,class,verbs
   "TQELDialogEditor|TQELExecComponent|Execute the Component,QEL component library,2026"
   "TQELMailConfigEditor|TQELMailHost|Configure Mail ..."
@@ -116,12 +122,12 @@ expect_class(TQELExecComponent TQELComponent "" Qelclasses DesignExecute)
 expect_class(TQELCustomDialog TQELExecComponent "" Qelclasses Sound)
 expect_class(TQELFrame TGraphicsObject "" Qelclasses
   FrameStyle Highlight Shadow Solid Offset FrameWidth)
-expect_class(TQELButton TQELCustomControl "QEL Controls/1" Qeltbutton
+expect_class(TQELButton TQELCustomButton "QEL Controls/1" Qeltbutton
   About Font3D Glyph Enabled ParentShowHint ShowHint Font Visible Caption WordWrap ButtonSunk
   Background OnClick DragCursor DragMode ParentFont PopupMenu TabOrder TabStop OnDragDrop OnDragOver
   OnEndDrag OnKeyDown OnKeyPress OnKeyUp OnMouseDown OnMouseMove OnMouseUp OnEnter OnExit
   OnStartDrag)
-expect_class(TQELLabel TCustomLabel "QEL Controls/1" Qeltlabel
+expect_class(TQELLabel TQELCustomLabel "QEL Controls/1" Qeltlabel
   About Align Alignment Caption Color Enabled FocusControl FontBackground Font Font3D Frame
   Background Transparent ShowHint Visible WordWrap OnClick OnDblClick OnMouseDown OnMouseMove
   OnMouseUp OnDragDrop OnEndDrag OnStartDrag OnDragOver DragCursor DragMode ParentColor ParentFont
@@ -138,7 +144,7 @@ expect_class(TQELTimer32 TQELComponent "QEL System/2" Qelclasses2 Enabled Interv
 expect_class(TQELButtonDetails TPersistent "" Qelclasses2
   Glyph Visible Enabled ConfirmOnPress ConfirmMessage Caption Hint ShowHint)
 expect_class(TQELSpinEdit TQELCustomSpinEdit "QEL Controls/2" Qeltspinedit About)
-expect_class(TQELCustomSpinEdit TCustomEdit "" Qeltspinedit
+expect_class(TQELCustomSpinEdit TQELCustomStepEdit "" Qeltspinedit
   AutoSelect AutoSize Color Ctl3D ButtonColor ArrowColor DragCursor DragMode Enabled Font
   ImeMode ImeName MaxLength ParentColor ParentCtl3D ParentFont ParentShowHint PopupMenu ShowHint
   TabOrder TabStop Visible CutandPaste LineSize MaxValue MinValue MultipleLineSize Readonly Value

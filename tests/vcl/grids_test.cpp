@@ -339,6 +339,8 @@ TEST_F(Grids, ScreenReadersHearRowsAndCells) {
       testinput::PumpUntil([&] { return listener.Heard(EVENT_OBJECT_FOCUS, rows[2].Name()); }));
   Allow({goEditing});
   EXPECT_FALSE(cell.Has(STATE_SYSTEM_READONLY));
+  Grid->SetFixedRows(0);
+  EXPECT_EQ(ChildrenOf(ChildrenOf(table)[2])[1].Name(), "Column 2") << "there is no title";
 }
 
 }  // namespace

@@ -144,9 +144,9 @@ TAccessiblePart TCustomGrid::DescribeCell(const TGridBand& col, const TGridBand&
   cell.Bounds = {col.Begin, row.Begin, col.End, row.End};
   const bool title = row.Index < FixedRows();
   cell.Role = title ? arColumnHeader : arCell;
-  cell.Name = title             ? CellText(col.Index, row.Index)
-              : FixedRows() > 0 ? CellText(col.Index, FixedRows() - 1)
-                                : std::string();
+  if (FixedRows() > 0) cell.Name = CellText(col.Index, title ? row.Index : FixedRows() - 1);
+  // A cell under no title is named by its place.
+  if (cell.Name.empty() && !title) cell.Name = "Column " + std::to_string(col.Index + 1);
   if (!CanModify(col.Index, row.Index)) cell.State.Include(asReadOnly);
   if (title) return cell;
   cell.Value = CellText(col.Index, row.Index);

@@ -282,6 +282,9 @@ void THeaderControl::Drop(const THeaderSection& section, int place) {
 }
 
 void THeaderControl::NotifyFromWindow(TMessage& message) {
+  const auto code = static_cast<int>(reinterpret_cast<const NMHDR*>(message.LParam)->code);
+  // Everything else the window tells, how it is drawn as well, brings another record.
+  if (code > static_cast<int>(HDN_FIRST) || code < static_cast<int>(HDN_LAST)) return;
   const auto& told = *reinterpret_cast<const NMHEADERW*>(message.LParam);
   if (FSending || told.iItem < 0 || told.iItem >= FSections->Count()) return;
   THeaderSection& section = *FSections->Items(told.iItem);
