@@ -4,9 +4,17 @@ if(WIN32 AND CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
       ${PROJECT_SOURCE_DIR}/tools/wine-run ${QEL_WINDOWS} ${PROJECT_BINARY_DIR}/wineprefix)
 endif()
 cmake_path(GET PROJECT_BINARY_DIR FILENAME QEL_BUILD_NAME)
+# Tests run once after they are compiled: what optimizing them fully costs never comes back.
+function(qel_compile_fast target)
+  if(MINGW AND TARGET ${target})
+    target_compile_options(${target} PRIVATE -O1)
+  endif()
+endfunction()
+
 if(QEL_TESTS)
   qel_precompiled(precompiled_tests DEFINITIONS _GLIBCXX_ASSERTIONS LIBRARIES GTest::gmock
                   HEADERS <gmock/gmock.h> <gtest/gtest.h>)
+  qel_compile_fast(precompiled_tests)
 endif()
 
 # qel_add_test(AREA [NATIVE] [WINDOW] [TIMEOUT seconds] [LAUNCHER program] [LIBRARIES targets...]
@@ -37,6 +45,7 @@ function(qel_add_test area)
   target_compile_definitions(${target} PRIVATE _GLIBCXX_ASSERTIONS)
   target_link_libraries(${target} PRIVATE ${arg_LIBRARIES} ${main})
   qel_reuse_precompiled(precompiled_tests ${target})
+  qel_compile_fast(${target})
   if(WIN32)
     qel_target_resources(${target} MANIFEST FORMS ${arg_FORMS} RESOURCES ${arg_RESOURCES})
   endif()

