@@ -35,7 +35,7 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
   static const std::set<std::string> component = with(vcl, {"qel/core"});
   static const std::set<std::string> application =
       with(component, {"vcl", "vcl/net", "vcl/db", "vcl/dbctrls", "qel", "qel/controls", "qel/data",
-                       "qel/mail", "qel/services", "qel/shell"});
+                       "qel/dbcontrols", "qel/dialogs", "qel/mail", "qel/services", "qel/shell"});
   static const std::map<std::string, std::set<std::string>> allowed = {
       {"vcl/rtl", {}},
       {"vcl/net", rtl},
@@ -57,6 +57,9 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"vcl", with(vcl, {"vcl/net", "vcl/db", "vcl/dbctrls"})},
       {"qel/core", vcl},
       {"qel/controls", component},
+      {"qel/dialogs", with(component, {"qel/controls"})},
+      {"qel/dbcontrols",
+       with(component, {"qel/controls", "qel/dialogs", "vcl/db", "vcl/dbctrls"})},
       {"qel/data", {"vcl/rtl", "vcl/db", "qel/core"}},
       {"qel/mail", {"vcl/rtl", "vcl/net", "qel/core"}},
       {"qel/services", component},
