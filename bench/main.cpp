@@ -12,6 +12,7 @@
 #include "bench/gauge.h"
 #include "bench/grids.h"
 #include "bench/lists.h"
+#include "bench/painted.h"
 #include "bench/settings.h"
 #include "vcl/rtl/win32.h"
 
@@ -26,6 +27,7 @@ constexpr TGroup Groups[] = {{"backgrounds", bench::Backgrounds},
                              {"forms", bench::Forms},
                              {"grids", bench::Grids},
                              {"lists", bench::Lists},
+                             {"painted", bench::Painted},
                              {"dates", bench::Dates},
                              {"settings", bench::Settings}};
 
