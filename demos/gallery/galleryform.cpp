@@ -2,6 +2,7 @@
 #include "demos/gallery/galleryform.h"
 
 #include "demos/gallery/choicespage.h"
+#include "demos/gallery/editingpage.h"
 #include "demos/gallery/listspage.h"
 #include "demos/gallery/movingpage.h"
 #include "demos/gallery/picklistspage.h"
@@ -96,6 +97,7 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   AddPage<TPickListsPage>("Pick lists");
   AddPage<TStandardPage>("Standard");
   AddPage<TListsPage>("Lists");
+  AddPage<TEditingPage>("Editing");
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
 }
 
