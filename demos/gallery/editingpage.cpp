@@ -50,24 +50,11 @@ void TEditingPage::SetParent(TWinControl* parent) {
   if (parent && RichText->Text().empty()) WriteSample();
 }
 
-void TEditingPage::AddLine(const std::string& text, TFontStyles style, TAlignment alignment,
-                           TColor color) {
-  const int begin = static_cast<int>(RichText->Text().size());
-  RichText->SetSelStart(begin);
-  RichText->SetSelText(text + "\r\n");
-  RichText->SetSelStart(begin);
-  RichText->SetSelLength(static_cast<int>(text.size()));
-  RichText->SelAttributes().SetStyle(style);
-  RichText->SelAttributes().SetColor(color);
-  RichText->Paragraph().SetAlignment(alignment);
-}
-
 void TEditingPage::WriteSample() {
-  AddLine("A rich edit", {fsBold}, taCenter, clNavy);
-  AddLine("Its text has fonts, colours and styles of its own;", {}, taLeftJustify, clBlack);
-  AddLine("its paragraphs stand left, right or in the middle.", {fsItalic}, taRightJustify,
-          clMaroon);
-  RichText->SetSelStart(0);
+  RichText->SetRtf(R"({\rtf1\ansi{\colortbl;\red0\green0\blue128;\red128\green0\blue0;})"
+                   R"(\pard\qc\cf1\b\fs28 A rich edit\par)"
+                   R"(\pard\ql\cf0\b0\fs18 Its text has fonts, colours and styles of its own;\par)"
+                   R"(\pard\qr\cf2\i its paragraphs stand left, right or in the middle.\par})");
 }
 
 void TEditingPage::StyleClick(TObject*) {

@@ -31,8 +31,6 @@ class TEditingPage : public vcl::TFrame {
   vcl::TLabel* TabText = nullptr;
 
   void WriteSample();
-  void AddLine(const std::string& text, vcl::TFontStyles style, vcl::TAlignment alignment,
-               vcl::TColor color);
   void StyleClick(vcl::TObject*);
   void ParagraphClick(vcl::TObject*);
   void SizeClick(vcl::TObject* sender);

@@ -2,6 +2,7 @@
 #include "demos/gallery/screenshots.h"
 
 #include "demos/common/resolution.h"
+#include "vcl/forms/application.h"
 #include "vcl/forms/formpicture.h"
 #include "vcl/graphics/png.h"
 #include "vcl/rtl/files.h"
@@ -38,6 +39,7 @@ std::vector<std::string> SaveScreenshots(TGalleryForm& form, const std::string& 
     if (page == form.HintsPage) {  // At rest, as a hint copies the screen under it.
       form.ShowSampleHint();
       vcl::TakePicture(form, vcl::TFormPart::Inside, picture);
+      Application()->CancelHint();
     }
     names.push_back(FileName(folder, page->Caption()));
     SavePng(picture, names.back());
