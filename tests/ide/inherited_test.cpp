@@ -115,6 +115,18 @@ TEST_F(InheritedForm, MarksAndRevertsWhatDiffers) {
   EXPECT_THAT(Saved(), Not(HasSubstr("inherited Ok")));
 }
 
+TEST_F(InheritedForm, IsRevertedByTheInspectorsMenu) {
+  ASSERT_TRUE(Window->Open(File("order.dfm")));
+  Click(MiddleOf(Find("Ok")));
+  const int caption = LineOf("Caption");
+  EXPECT_FALSE(Grid().Row(caption).Default);
+  KeysInMenuAt(InLine(caption, Grid().Splitter() / 2), "R");
+  EXPECT_TRUE(PumpUntil([&] { return Find<TButton>("Ok")->Caption() == "OK"; }));
+  EXPECT_EQ(Grid().PopupMenu()->Items()->Items(0)->Caption(), "&Revert to Inherited")
+      << "what was pressed";
+  EXPECT_THAT(Saved(), Not(HasSubstr("inherited Ok")));
+}
+
 TEST_F(InheritedForm, KeepsWhatIsInherited) {
   ASSERT_TRUE(Window->Open(File("order.dfm")));
   It().Selected().Only(Find("Ok"));
