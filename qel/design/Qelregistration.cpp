@@ -39,6 +39,12 @@
 #include "qel/core/Qelcontrols.h"
 #include "qel/core/Qeltstoredata.h"
 #include "qel/data/Qeltdbascii.h"
+#include "qel/dbcontrols/Qeltdblabel.h"
+#include "qel/dbcontrols/Qeltdblookupedit.h"
+#include "qel/dbcontrols/Qeltdbnavigator.h"
+#include "qel/dbcontrols/Qeltdbofficeedit.h"
+#include "qel/dbcontrols/Qeltdbspinedit.h"
+#include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/design/Qelbindings.h"
 #include "qel/design/Qeltools.h"
 #include "qel/mail/Qeltiemails.h"
@@ -106,7 +112,13 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        }},
       {"QEL DBControls",
        {
+           &TQELDBLookupedit::Class(),
+           &TQELDBLabel::Class(),
+           &TQELDBNavigator::Class(),
+           &TQELDBOfficeEdit::Class(),
            &TQELDBAscii::Class(),
+           &TQELDBSpinEdit::Class(),
+           &TQELDBStickyLabel::Class(),
        }},
       {"QEL System/1",
        {
@@ -236,6 +248,12 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELADField::Class(),
       &TQELADFields::Class(),
       &TQELDBAscii::Class(),
+      &TQELDBLabel::Class(),
+      &TQELDBStickyLabel::Class(),
+      &TQELDBOfficeEdit::Class(),
+      &TQELDBSpinEdit::Class(),
+      &TQELDBLookupedit::Class(),
+      &TQELDBNavigator::Class(),
       &TQELExplorerTree::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
