@@ -39,8 +39,11 @@
 #include "qel/core/Qelcontrols.h"
 #include "qel/core/Qeltstoredata.h"
 #include "qel/data/Qeltdbascii.h"
+#include "qel/dbcontrols/Qeltdbimageview.h"
+#include "qel/dbcontrols/Qeltdbindexlookup.h"
 #include "qel/dbcontrols/Qeltdblabel.h"
 #include "qel/dbcontrols/Qeltdblookupedit.h"
+#include "qel/dbcontrols/Qeltdbmemoview.h"
 #include "qel/dbcontrols/Qeltdbnavigator.h"
 #include "qel/dbcontrols/Qeltdbofficeedit.h"
 #include "qel/dbcontrols/Qeltdbspinedit.h"
@@ -115,10 +118,13 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELDBLookupedit::Class(),
            &TQELDBLabel::Class(),
            &TQELDBNavigator::Class(),
+           &TQELDBIndexLookup::Class(),
            &TQELDBOfficeEdit::Class(),
            &TQELDBAscii::Class(),
            &TQELDBSpinEdit::Class(),
            &TQELDBStickyLabel::Class(),
+           &TQELDBImageView::Class(),
+           &TQELDBMemoView::Class(),
        }},
       {"QEL System/1",
        {
@@ -254,6 +260,9 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELDBSpinEdit::Class(),
       &TQELDBLookupedit::Class(),
       &TQELDBNavigator::Class(),
+      &TQELDBIndexLookup::Class(),
+      &TQELDBImageView::Class(),
+      &TQELDBMemoView::Class(),
       &TQELExplorerTree::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
