@@ -146,8 +146,7 @@ void TQELLookupEdit::Change() {
   text.empty() ? FList.Close() : LookUp(text);
 }
 
-/// Lets OnLookup fill the items; false when there is none, or the edit has gone.
-bool TQELLookupEdit::Ask(const std::string& text) {
+bool TQELLookupEdit::FillItems(const std::string& text) {
   if (!OnLookup) return false;
   const TWatch watch(this);
   OnLookup(this, text, FItems.get());
@@ -156,7 +155,7 @@ bool TQELLookupEdit::Ask(const std::string& text) {
 
 void TQELLookupEdit::LookUp(const std::string& text) {
   const TWatch watch(this);
-  const bool all = Ask(text);
+  const bool all = FillItems(text);
   if (watch.Gone()) return;
   OpenList(FMatcher.Find(*FItems, all ? std::string() : text, FMatchContains, FCaseSensitive),
            FLimitToList ? 0 : -1);
@@ -177,7 +176,7 @@ void TQELLookupEdit::SetDroppedDown(bool down) {
   if (down == DroppedDown()) return;
   if (!down) return FList.Close();
   const TWatch watch(this);
-  Ask(Text());
+  FillItems(Text());
   if (watch.Gone()) return;
   std::vector<int> all(static_cast<std::size_t>(FItems->Count()));
   std::iota(all.begin(), all.end(), 0);
@@ -186,7 +185,7 @@ void TQELLookupEdit::SetDroppedDown(bool down) {
 
 void TQELLookupEdit::Choose(int line) {
   const int item = FLines[static_cast<std::size_t>(line)];
-  if (ReadOnly() || !IsItem(item)) return;
+  if (!CanModify() || !IsItem(item)) return;
   const TWatch watch(this);
   SetItemIndex(item);
   if (watch.Gone()) return;
@@ -223,7 +222,7 @@ void TQELLookupEdit::DestroyWnd() {
 // Keys and the button.
 
 bool TQELLookupEdit::OpensList(std::uint16_t key, TShiftState shift) const {
-  if (DroppedDown() || ReadOnly()) return false;
+  if (DroppedDown() || !CanModify()) return false;
   return key == VK_DOWN || (key == VK_F4 && !shift.Has(vcl::ssAlt));
 }
 
@@ -266,7 +265,7 @@ std::vector<TQELEditPart> TQELLookupEdit::Parts() const {
   return {{ButtonPart, ScaledPixels(ButtonWidth), false, true, "Open"}};
 }
 
-bool TQELLookupEdit::PartEnabled(int /*number*/) const { return Enabled() && !ReadOnly(); }
+bool TQELLookupEdit::PartEnabled(int /*number*/) const { return Enabled() && CanModify(); }
 
 void TQELLookupEdit::PressPart(int /*number*/) { SetDroppedDown(!DroppedDown()); }
 

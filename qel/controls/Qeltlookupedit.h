@@ -72,15 +72,18 @@ class QEL_API TQELLookupEdit : public TQELCustomPartEdit {
   bool PartEnabled(int number) const override;
   /// Makes the list for what is typed: the matching items, or what OnLookup finds.
   virtual void LookUp(const std::string& text);
+  /// Puts what may be meant into the items. True when all of them match the text, false when those
+  /// that do are to be found, or the edit has gone. Here: OnLookup, if there is one.
+  virtual bool FillItems(const std::string& text);
   /// A line of the list has been chosen.
   virtual void Choose(int index);
+  /// The focus leaves with LimitToList: replaces a text that is no item.
+  virtual void KeepToList();
 
  private:
   bool IsItem(int index) const { return index >= 0 && index < FItems->Count(); }
   int IndexOfText(const std::string& text) const;
-  bool Ask(const std::string& text);
   void OpenList(std::vector<int> lines, int current);
-  void KeepToList();
   bool OpensList(std::uint16_t key, vcl::TShiftState shift) const;
 
   std::unique_ptr<vcl::TStringList> FItems;

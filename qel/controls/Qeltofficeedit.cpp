@@ -249,8 +249,9 @@ void TQELOfficeEdit::Change() {
   TQELCustomPartEdit::Change();
 }
 
-void TQELOfficeEdit::PressPart(int number) {
-  if (number == ButtonPart) return ButtonClick();
+void TQELOfficeEdit::PressPart(int number) { number == ButtonPart ? ButtonClick() : ClearClick(); }
+
+void TQELOfficeEdit::ClearClick() {
   SelectAll();
   ClearSelection();
 }

@@ -44,6 +44,8 @@ class QEL_API TQELOfficeEdit : public TQELCustomPartEdit {
  protected:
   /// Fires OnButtonClick.
   virtual void ButtonClick();
+  /// The cross has been pressed: empties the edit.
+  virtual void ClearClick();
   std::vector<TQELEditPart> Parts() const override;
   void DrawPart(vcl::TCanvas& canvas, int number, const vcl::TRect& rect,
                 TQELPartLook look) override;

@@ -20,7 +20,7 @@ void TQELCustomStepEdit::UpClick(vcl::TObject* /*sender*/) { StepLine(1); }
 
 void TQELCustomStepEdit::DownClick(vcl::TObject* /*sender*/) { StepLine(-1); }
 
-void TQELCustomStepEdit::StepLine(int times) { ReadOnly() ? Beep() : Step(times); }
+void TQELCustomStepEdit::StepLine(int times) { CanModify() ? Step(times) : Beep(); }
 
 // Keys and clipboard.
 
@@ -31,7 +31,7 @@ void TQELCustomStepEdit::KeyDown(std::uint16_t& key, TShiftState shift) {
     // Other than the arrows, the page keys make no sound in a read-only edit.
     case VK_PRIOR:
     case VK_NEXT:
-      if (!ReadOnly()) StepPage(key == VK_PRIOR ? 1 : -1);
+      if (CanModify()) StepPage(key == VK_PRIOR ? 1 : -1);
       break;
     case VK_UP: UpClick(this); break;
     case VK_DOWN: DownClick(this); break;
@@ -90,7 +90,7 @@ void TQELCustomStepEdit::DoExit() {
 bool TQELCustomStepEdit::Refuses(const vcl::TMessage& message) const {
   switch (message.Msg) {
     case WM_CUT:
-    case WM_PASTE: return !FCutandPaste || ReadOnly();
+    case WM_PASTE: return !FCutandPaste || !CanModify();
     // Deleting by the system's menu.
     case WM_CLEAR: return !FCutandPaste;
     // A right press on the button is none on the text: the system hands it on to the parent.

@@ -10,6 +10,10 @@
 #include "qel/controls/Qeltversionlabel.h"
 #include "qel/core/Qelcomponent.h"
 #include "qel/core/Qeltstoredata.h"
+#include "qel/dbcontrols/Qeltdblabel.h"
+#include "qel/dbcontrols/Qeltdblookupedit.h"
+#include "qel/dbcontrols/Qeltdbofficeedit.h"
+#include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/design/Qelcolorsinbetween.h"
 #include "qel/design/Qelcomponenteditors.h"
 #include "qel/design/Qeldataeditors.h"
@@ -55,6 +59,10 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELFilenameProperty), "string", &TQELVersionLabel::Class(), "Filename"},
       {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELVersionLabel::Class(), "Caption"},
       {QEL_EDITOR(TQELLocaleProperty), "string", &TQELLanguageCombo::Class(), "Locale"},
+      {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELDBLabel::Class(), "Caption"},
+      {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELDBStickyLabel::Class(), "Caption"},
+      {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELDBOfficeEdit::Class(), "Text"},
+      {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELDBLookupedit::Class(), "Text"},
   };
   return entries;
 }

@@ -39,6 +39,15 @@
 #include "qel/core/Qelcontrols.h"
 #include "qel/core/Qeltstoredata.h"
 #include "qel/data/Qeltdbascii.h"
+#include "qel/dbcontrols/Qeltdbimageview.h"
+#include "qel/dbcontrols/Qeltdbindexlookup.h"
+#include "qel/dbcontrols/Qeltdblabel.h"
+#include "qel/dbcontrols/Qeltdblookupedit.h"
+#include "qel/dbcontrols/Qeltdbmemoview.h"
+#include "qel/dbcontrols/Qeltdbnavigator.h"
+#include "qel/dbcontrols/Qeltdbofficeedit.h"
+#include "qel/dbcontrols/Qeltdbspinedit.h"
+#include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/design/Qelbindings.h"
 #include "qel/design/Qeltools.h"
 #include "qel/mail/Qeltiemails.h"
@@ -106,7 +115,16 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        }},
       {"QEL DBControls",
        {
+           &TQELDBLookupedit::Class(),
+           &TQELDBLabel::Class(),
+           &TQELDBNavigator::Class(),
+           &TQELDBIndexLookup::Class(),
+           &TQELDBOfficeEdit::Class(),
            &TQELDBAscii::Class(),
+           &TQELDBSpinEdit::Class(),
+           &TQELDBStickyLabel::Class(),
+           &TQELDBImageView::Class(),
+           &TQELDBMemoView::Class(),
        }},
       {"QEL System/1",
        {
@@ -236,6 +254,15 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELADField::Class(),
       &TQELADFields::Class(),
       &TQELDBAscii::Class(),
+      &TQELDBLabel::Class(),
+      &TQELDBStickyLabel::Class(),
+      &TQELDBOfficeEdit::Class(),
+      &TQELDBSpinEdit::Class(),
+      &TQELDBLookupedit::Class(),
+      &TQELDBNavigator::Class(),
+      &TQELDBIndexLookup::Class(),
+      &TQELDBImageView::Class(),
+      &TQELDBMemoView::Class(),
       &TQELExplorerTree::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);

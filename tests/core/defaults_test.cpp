@@ -14,6 +14,7 @@ const std::set<std::string> Exceptions = {
     "TQELButton.TabStop",          // A button stops the tab key, and its form file always says so.
     "TQELButtonDetails.ShowHint",  // Without hints, until a dialog says so.
     "TQELLabel.ParentFont",        // A label begins with a font of its own.
+    "TQELDBLabel.ParentFont",
     "TQELGauge.Width",   // A gauge of the declared size comes back from a form file with that
     "TQELGauge.Height",  // of the constructor.
     "TQELHint.UnUsedHintColor",  // The declared colours differ from the constructor's on purpose.

@@ -83,7 +83,7 @@ expect_rows(pages name,classes
   "QEL Controls/1|TQELBackground,TQELCheckbox,TQELRadiobutton,TQELLabel,TQELButton,TQELIEButton,TQELOfficeButton,TQELPanel,TQELGauge,TQELPresentation,TQELHint,TQELFillBackground,TQELArrowButton,TQELRoundButton,TQELHeader,TQELHeaderList"
   "QEL Controls/2|TQELColorCombo,TQELAnimator,TQELImageScroller,TQELCommandLabel,TQELInformationLabel,TQELStickyLabel,TQELVersionLabel,TQELLookupMenu,TQELSpinEdit,TQELRealSpinEdit,TQELLookupEdit,TQELOfficeEdit,TQELOfficeEdit,TQELAnimator,TQELFontCombo,TQELFontBox,TQELCheckList"
   "QEL Controls/3|TQELLanguageCombo,TQELAutoCombo,TQELFormDivider"
-  "QEL DBControls|TQELDBAscii"
+  "QEL DBControls|TQELDBLookupedit,TQELDBLabel,TQELDBNavigator,TQELDBIndexLookup,TQELDBOfficeEdit,TQELDBAscii,TQELDBSpinEdit,TQELDBStickyLabel,TQELDBImageView,TQELDBMemoView"
   "QEL System/1|TQELStoreData,TQELQuickMail,TQELSystemTray,TQELFormSaver,TQELMRUMenu"
   "QEL System/2|TQELOnlyOne,TQELTimer32,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
   "QEL Files|TQELExplorerTree")
@@ -111,7 +111,11 @@ expect_rows(propertyEditors editor,type,class,property,attributes
   "TQELWaveFilenameProperty|string|TQELICQMarquee|Filename|dialog"
   "TQELFilenameProperty|string|TQELVersionLabel|Filename|dialog"
   "TQELROCaptionProperty|TCaption|TQELVersionLabel|Caption|multi-select,auto-update,read-only,revertable"
-  "TQELLocaleProperty|string|TQELLanguageCombo|Locale|${list}")
+  "TQELLocaleProperty|string|TQELLanguageCombo|Locale|${list}"
+  "TQELROCaptionProperty|TCaption|TQELDBLabel|Caption|multi-select,auto-update,read-only,revertable"
+  "TQELROCaptionProperty|TCaption|TQELDBStickyLabel|Caption|multi-select,auto-update,read-only,revertable"
+  "TQELROCaptionProperty|TCaption|TQELDBOfficeEdit|Text|multi-select,auto-update,read-only,revertable"
+  "TQELROCaptionProperty|TCaption|TQELDBLookupedit|Text|multi-select,auto-update,read-only,revertable")
 expect_rows(componentEditors editor,class,verbs
   "TQELDialogEditor|TQELExecComponent|Execute the Component,QEL component library,2026"
   "TQELMailConfigEditor|TQELMailHost|Configure Mail ..."

@@ -36,4 +36,9 @@ inline void RegisterAll() {
                         &qel::TQELInformationLabel::Class(), &qel::TQELVersionLabel::Class(),
                         &qel::TQELAnimator::Class(), &qel::TQELImageScroller::Class(),
                         &qel::TQELICQMarquee::Class(), &qel::TQELPresentation::Class()});
+  vcl::RegisterClasses({&qel::TQELDBLabel::Class(), &qel::TQELDBStickyLabel::Class(),
+                        &qel::TQELDBOfficeEdit::Class(), &qel::TQELDBSpinEdit::Class(),
+                        &qel::TQELDBLookupedit::Class(), &qel::TQELDBNavigator::Class(),
+                        &qel::TQELDBIndexLookup::Class(), &qel::TQELDBImageView::Class(),
+                        &qel::TQELDBMemoView::Class()});
 }

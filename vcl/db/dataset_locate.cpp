@@ -49,6 +49,14 @@ int Compare(const TRecord& record, const std::vector<TKey>& keys, const TRecordO
   return 0;
 }
 
+/// True when the records that begin so stand behind all that come before the beginning itself: the
+/// order is that of texts without case.
+bool BeginsInOrder(const TRecordOrder& order, const std::vector<TKey>& keys,
+                   TLocateOptions options) {
+  return keys.size() == 1 && !order.front().Descending && options.Has(loPartialKey) &&
+         std::holds_alternative<std::string>(keys.front().Value);
+}
+
 }  // namespace
 
 std::vector<TField*> TDataSet::FieldList(std::string_view names) const {
@@ -81,10 +89,12 @@ int TDataSet::FindRecord(std::string_view keyFields, const TRecord& values,
                      key.Value, options);
     });
   };
-  const bool byOrder = OrderedBy(FView.get(), keys) && !options.Has(loPartialKey);
+  const bool ordered = OrderedBy(FView.get(), keys);
+  const bool byOrder = ordered && !options.Has(loPartialKey);
+  const bool fromOrder = ordered && BeginsInOrder(FView->Order(), keys, options);
   const auto compare = [&](const TRecord& record) { return Compare(record, keys, FView->Order()); };
-  for (int i = byOrder ? FView->LowerBound(compare) : 0; const TRecord* record = FStore->At(i);
-       ++i) {
+  const int first = byOrder || fromOrder ? FView->LowerBound(compare) : 0;
+  for (int i = first; const TRecord* record = FStore->At(i); ++i) {
     if (matches(*record)) return i;
     if (byOrder && compare(*record) != 0) break;
   }

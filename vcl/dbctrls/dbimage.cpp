@@ -158,7 +158,7 @@ void TDBImage::ShowBytes(const std::string& bytes) {
   try {
     FPicture->Assign(Decode(bytes).get());
   } catch (const Exception& error) {
-    FNote = error.Message();
+    FNote = NoteFor(bytes, error.Message());
   }
 }
 

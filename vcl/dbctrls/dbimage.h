@@ -54,6 +54,10 @@ class VCL_API TDBImage : public TFieldEditor<TCustomControl> {
   TRect PictureRect() const;
 
  protected:
+  /// What stands in the place of bytes that are no picture. Here: `error`, why they are none.
+  virtual std::string NoteFor(const std::string& /*bytes*/, const std::string& error) const {
+    return error;
+  }
   void ShowField() override;
   void WriteField() override;
   void CreateParams(TCreateParams& params) override;

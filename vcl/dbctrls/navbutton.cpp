@@ -1,9 +1,10 @@
-// TNavButton: the pictures of a navigator's buttons, and drawing them.
+// The pictures of a navigator's buttons, and drawing them; TNavButton.
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <vector>
 
+#include "vcl/dbctrls/navpictures.h"
 #include "vcl/dbctrls/private/navbutton.h"
 #include "vcl/graphics/canvas.h"
 
@@ -80,38 +81,39 @@ TPicture16 PictureOf(TNavigateBtn button) {
   return {};
 }
 
+void DrawIn(TCanvas& canvas, TNavigateBtn button, TPoint place, int side, TColor color) {
+  canvas.Pen()->SetColor(color);
+  canvas.Brush()->SetColor(color);
+  for (const TShape& shape : PictureOf(button)) {
+    std::vector<TPoint> points;
+    for (const TCorner& corner : shape) {
+      points.emplace_back(place.X + static_cast<int>(std::lround(corner.X * side / Square)),
+                          place.Y + static_cast<int>(std::lround(corner.Y * side / Square)));
+    }
+    canvas.Polygon(points);
+  }
+}
+
 }  // namespace
+
+void DrawNavigatorPicture(TCanvas& canvas, TNavigateBtn button, const TRect& area, int side,
+                          bool enabled) {
+  const int drawn = std::min({side, area.Width() - 2, area.Height() - 2});
+  const TPoint place(area.Left + (area.Width() - drawn) / 2,
+                     area.Top + (area.Height() - drawn) / 2);
+  if (enabled) return DrawIn(canvas, button, place, drawn, clBtnText);
+  DrawIn(canvas, button, {place.X + 1, place.Y + 1}, drawn, clBtnHighlight);
+  DrawIn(canvas, button, place, drawn, clBtnShadow);
+}
 
 TNavButton::TNavButton(TDBNavigator& navigator, TNavigateBtn button)
     : TSpeedButton(&navigator), FNavigator(navigator), FButton(button) {}
 
 void TNavButton::Click() { FNavigator.BtnClick(FButton); }
 
-void TNavButton::DrawPicture(TColor color, int offset) {
-  TCanvas& canvas = *Canvas();
-  canvas.Pen()->SetColor(color);
-  canvas.Brush()->SetColor(color);
-  const int side = std::min({ScaledPixels(16), Width() - 2, Height() - 2});
-  const int left = (Width() - side) / 2 + offset;
-  const int top = (Height() - side) / 2 + offset;
-  for (const TShape& shape : PictureOf(FButton)) {
-    std::vector<TPoint> points;
-    for (const TCorner& corner : shape) {
-      points.emplace_back(left + static_cast<int>(std::lround(corner.X * side / Square)),
-                          top + static_cast<int>(std::lround(corner.Y * side / Square)));
-    }
-    canvas.Polygon(points);
-  }
-}
-
 void TNavButton::Paint() {
   TSpeedButton::Paint();
-  if (Enabled()) {
-    DrawPicture(clBtnText, 0);
-  } else {
-    DrawPicture(clBtnHighlight, 1);
-    DrawPicture(clBtnShadow, 0);
-  }
+  DrawNavigatorPicture(*Canvas(), FButton, ClientRect(), ScaledPixels(16), Enabled());
   if (!FNavigator.Focused() || FNavigator.FocusedButton() != FButton) return;
   const int inset = ScaledPixels(3);
   Canvas()->Brush()->SetColor(clBtnFace);

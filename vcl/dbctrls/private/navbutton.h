@@ -15,8 +15,6 @@ class TNavButton : public TSpeedButton {
   void Paint() override;
 
  private:
-  void DrawPicture(TColor color, int offset);
-
   TDBNavigator& FNavigator;
   TNavigateBtn FButton;
 };
