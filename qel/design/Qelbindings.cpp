@@ -16,6 +16,8 @@
 #include "qel/design/Qelmaileditors.h"
 #include "qel/design/Qelpropertyeditors.h"
 #include "qel/design/Qelslideseditor.h"
+#include "qel/dialogs/Qeltmsgdlg.h"
+#include "qel/dialogs/Qeltmsgselect.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "vcl/controls/control.h"
@@ -55,6 +57,8 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELFilenameProperty), "string", &TQELVersionLabel::Class(), "Filename"},
       {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELVersionLabel::Class(), "Caption"},
       {QEL_EDITOR(TQELLocaleProperty), "string", &TQELLanguageCombo::Class(), "Locale"},
+      {QEL_EDITOR(TQELHintProperty), "string", &TQELMsgDlg::Class(), "Text"},
+      {QEL_EDITOR(TQELHintProperty), "string", &TQELMsgSelect::Class(), "Text"},
   };
   return entries;
 }

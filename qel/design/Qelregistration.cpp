@@ -41,6 +41,8 @@
 #include "qel/data/Qeltdbascii.h"
 #include "qel/design/Qelbindings.h"
 #include "qel/design/Qeltools.h"
+#include "qel/dialogs/Qeltmsgdlg.h"
+#include "qel/dialogs/Qeltmsgselect.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/Qeltquickmail.h"
@@ -107,6 +109,11 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
       {"QEL DBControls",
        {
            &TQELDBAscii::Class(),
+       }},
+      {"QEL Dialogs",
+       {
+           &TQELMsgDlg::Class(),
+           &TQELMsgSelect::Class(),
        }},
       {"QEL System/1",
        {
@@ -216,6 +223,9 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELStoreData::Class(),
       &TQELAutoCombo::Class(),
       &TQELSystemTray::Class(),
+      &TQELFormDialog::Class(),
+      &TQELMsgDlg::Class(),
+      &TQELMsgSelect::Class(),
       &TQELFormSaver::Class(),
       &TQELMRUItem::Class(),
       &TQELMRUMenu::Class(),

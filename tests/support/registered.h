@@ -36,4 +36,5 @@ inline void RegisterAll() {
                         &qel::TQELInformationLabel::Class(), &qel::TQELVersionLabel::Class(),
                         &qel::TQELAnimator::Class(), &qel::TQELImageScroller::Class(),
                         &qel::TQELICQMarquee::Class(), &qel::TQELPresentation::Class()});
+  vcl::RegisterClasses({&qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class()});
 }
