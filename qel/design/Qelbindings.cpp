@@ -20,6 +20,8 @@
 #include "qel/design/Qelmaileditors.h"
 #include "qel/design/Qelpropertyeditors.h"
 #include "qel/design/Qelslideseditor.h"
+#include "qel/dialogs/Qeltmsgdlg.h"
+#include "qel/dialogs/Qeltmsgselect.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "vcl/controls/control.h"
@@ -63,6 +65,8 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELDBStickyLabel::Class(), "Caption"},
       {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELDBOfficeEdit::Class(), "Text"},
       {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELDBLookupedit::Class(), "Text"},
+      {QEL_EDITOR(TQELHintProperty), "string", &TQELMsgDlg::Class(), "Text"},
+      {QEL_EDITOR(TQELHintProperty), "string", &TQELMsgSelect::Class(), "Text"},
   };
   return entries;
 }

@@ -50,6 +50,8 @@
 #include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/design/Qelbindings.h"
 #include "qel/design/Qeltools.h"
+#include "qel/dialogs/Qeltmsgdlg.h"
+#include "qel/dialogs/Qeltmsgselect.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/Qeltquickmail.h"
@@ -125,6 +127,11 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELDBStickyLabel::Class(),
            &TQELDBImageView::Class(),
            &TQELDBMemoView::Class(),
+       }},
+      {"QEL Dialogs",
+       {
+           &TQELMsgDlg::Class(),
+           &TQELMsgSelect::Class(),
        }},
       {"QEL System/1",
        {
@@ -234,6 +241,9 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELStoreData::Class(),
       &TQELAutoCombo::Class(),
       &TQELSystemTray::Class(),
+      &TQELFormDialog::Class(),
+      &TQELMsgDlg::Class(),
+      &TQELMsgSelect::Class(),
       &TQELFormSaver::Class(),
       &TQELMRUItem::Class(),
       &TQELMRUMenu::Class(),

@@ -41,4 +41,5 @@ inline void RegisterAll() {
                         &qel::TQELDBLookupedit::Class(), &qel::TQELDBNavigator::Class(),
                         &qel::TQELDBIndexLookup::Class(), &qel::TQELDBImageView::Class(),
                         &qel::TQELDBMemoView::Class()});
+  vcl::RegisterClasses({&qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class()});
 }
