@@ -2,7 +2,9 @@
 #include "demos/gallery/galleryform.h"
 
 #include "demos/gallery/choicespage.h"
+#include "demos/gallery/dialogspage.h"
 #include "demos/gallery/editingpage.h"
+#include "demos/gallery/fieldspage.h"
 #include "demos/gallery/listspage.h"
 #include "demos/gallery/movingpage.h"
 #include "demos/gallery/picklistspage.h"
@@ -98,6 +100,8 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   AddPage<TStandardPage>("Standard");
   AddPage<TListsPage>("Lists");
   AddPage<TEditingPage>("Editing");
+  AddPage<TFieldsPage>("Fields");
+  AddPage<TDialogsPage>("Dialogs");
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
 }
 

@@ -1,0 +1,52 @@
+// The page of dialogs: each is shown by a button, and what it answers is listed.
+#include "demos/gallery/dialogspage.h"
+
+#include "vcl/rtl/properties.h"
+#include "vcl/rtl/text.h"
+
+namespace gallery {
+
+using namespace vcl;
+
+const TClass& TDialogsPage::Class() {
+  using T = TDialogsPage;
+  static const TClass info =
+      Describe<T, TFrame>("gallery::TDialogsPage", "demos/gallery/dialogspage.h",
+                          {
+                              Field<&T::Question>("Question"),
+                              Field<&T::Countdown>("Countdown"),
+                              Field<&T::Selection>("Selection"),
+                              Field<&T::Answers>("Answers"),
+                              Method<&T::QuestionClick>("QuestionClick"),
+                              Method<&T::CountdownClick>("CountdownClick"),
+                              Method<&T::SelectionClick>("SelectionClick"),
+                          });
+  return info;
+}
+
+TDialogsPage::TDialogsPage(TComponent* owner) : TFrame(owner) {
+  RegisterClasses({&qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class()});
+  LoadFrame();
+}
+
+TDialogsPage::~TDialogsPage() { AnnounceEnd(); }
+
+void TDialogsPage::Tell(const std::string& answer) { Answers->Lines()->Add(answer); }
+
+void TDialogsPage::QuestionClick(TObject*) {
+  const bool yes = Question->Execute();
+  Tell(Concat("The question: button ", std::to_string(Question->Result()),
+              yes ? ", which is a yes" : ", which is none"));
+}
+
+void TDialogsPage::CountdownClick(TObject*) {
+  Countdown->Execute();
+  Tell(Concat("The countdown: button ", std::to_string(Countdown->Result())));
+}
+
+void TDialogsPage::SelectionClick(TObject*) {
+  if (!Selection->Execute()) return Tell("The choice: none");
+  Tell("The choice: " + Selection->Options()->Strings(Selection->ItemIndex()));
+}
+
+}  // namespace gallery

@@ -1,0 +1,142 @@
+object DialogsPage: TDialogsPage
+  Left = 0
+  Top = 0
+  Width = 952
+  Height = 588
+  TabOrder = 0
+  object Question: TQELMsgDlg
+    Left = 800
+    Top = 540
+    Title = 'Question'
+    Text = 'Shall %s be saved before the program ends?'
+    Values.Strings = (
+      'the letter')
+    Button1.Caption = '&Save'
+    Button2.Caption = '&Throw away'
+    Button3.Caption = '&Cancel'
+    CancelButton = 3
+  end
+  object Countdown: TQELMsgDlg
+    Left = 832
+    Top = 540
+    Title = 'Countdown'
+    Text = 'The default button is the answer in five seconds.'
+    Button1.Caption = '&Now'
+    Button2.Caption = '&Later'
+    DefaultButton = 2
+    Timeout = 5
+  end
+  object Selection: TQELMsgSelect
+    Left = 864
+    Top = 540
+    Title = 'Choice'
+    Text = 'In which order?'
+    Options.Strings = (
+      'By &name'
+      'By &size'
+      'By &date')
+  end
+  object OwnHeading: TLabel
+    Left = 16
+    Top = 8
+    Width = 440
+    Height = 13
+    AutoSize = False
+    Caption = 'Messages of the library: Ctrl+C copies them'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clNavy
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object OwnLine: TBevel
+    Left = 16
+    Top = 24
+    Width = 440
+    Height = 2
+    Shape = bsTopLine
+  end
+  object QuestionButton: TButton
+    Left = 16
+    Top = 34
+    Width = 120
+    Height = 26
+    Caption = '&Question'
+    TabOrder = 0
+    OnClick = QuestionClick
+  end
+  object QuestionText: TLabel
+    Left = 150
+    Top = 40
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'Buttons with captions of their own; Escape is one of them'
+  end
+  object CountdownButton: TButton
+    Left = 16
+    Top = 68
+    Width = 120
+    Height = 26
+    Caption = 'C&ountdown'
+    TabOrder = 1
+    OnClick = CountdownClick
+  end
+  object CountdownText: TLabel
+    Left = 150
+    Top = 74
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'The default button is pressed after five seconds'
+  end
+  object SelectionButton: TButton
+    Left = 16
+    Top = 102
+    Width = 120
+    Height = 26
+    Caption = '&Choice'
+    TabOrder = 2
+    OnClick = SelectionClick
+  end
+  object SelectionText: TLabel
+    Left = 150
+    Top = 108
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'One of some options, or of a list where they are many'
+  end
+  object AnswersHeading: TLabel
+    Left = 480
+    Top = 8
+    Width = 456
+    Height = 13
+    AutoSize = False
+    Caption = 'What was answered'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clNavy
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object AnswersLine: TBevel
+    Left = 480
+    Top = 24
+    Width = 456
+    Height = 2
+    Shape = bsTopLine
+  end
+  object Answers: TMemo
+    Left = 480
+    Top = 34
+    Width = 456
+    Height = 200
+    AccessibleName = 'Answers'
+    ReadOnly = True
+    ScrollBars = ssVertical
+    TabOrder = 20
+  end
+end

@@ -1,0 +1,31 @@
+// TDialogsPage: the page of dialogs that are components.
+#pragma once
+
+#include "qel/qel.h"
+#include "vcl/forms/frames.h"
+#include "vcl/vcl.h"
+
+namespace gallery {
+
+/// The frame of dialogspage.dfm.
+class TDialogsPage : public vcl::TFrame {
+ public:
+  explicit TDialogsPage(vcl::TComponent* owner);
+  ~TDialogsPage() override;
+  static const vcl::TClass& Class();
+  const vcl::TClass& ClassType() const override { return Class(); }
+
+ private:
+  // What the form file fills.
+  qel::TQELMsgDlg* Question = nullptr;
+  qel::TQELMsgDlg* Countdown = nullptr;
+  qel::TQELMsgSelect* Selection = nullptr;
+  vcl::TMemo* Answers = nullptr;
+
+  void QuestionClick(vcl::TObject*);
+  void CountdownClick(vcl::TObject*);
+  void SelectionClick(vcl::TObject*);
+  void Tell(const std::string& answer);
+};
+
+}  // namespace gallery
