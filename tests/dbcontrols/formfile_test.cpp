@@ -24,7 +24,7 @@ TEST_F(DataFormFile, HoldsTheBindingAndNoValue) {
     return control;
   };
   make(new TQELDBLabel(&form), "Plain", "Name");
-  make(new TQELDBStickyLabel(&form), "Sticky", "Name");
+  make(new TQELDBStickyLabel(&form), "Sticky", "Name")->SetAutoSize(false);
   make(new TQELDBOfficeEdit(&form), "Office", "Name");
   make(new TQELDBSpinEdit(&form), "Spin", "Count")->SetDecimals(3);
   auto* lookup = make(new TQELDBLookupedit(&form), "Lookup", "City");
@@ -50,6 +50,7 @@ TEST_F(DataFormFile, HoldsTheBindingAndNoValue) {
   EXPECT_EQ(spin->Text(), "") << "there are no records yet";
   auto* again = dynamic_cast<TQELDBNavigator*>(read.FindComponent("Navigator"));
   EXPECT_EQ(again->ButtonName(nbNext), "Onwards");
+  EXPECT_NE(again->Controls(nbPrior)->Hint(), "") << "a form file takes no hint away";
   EXPECT_TRUE(again->ButtonRect(nbPost).Empty());
   EXPECT_EQ(again->ButtonRect(nbNext).Width(), again->ClientWidth());
 }
