@@ -34,7 +34,10 @@ class TQELFieldLabel : public vcl::TFieldControl<TLabel> {
     if (text != this->Caption()) TLabel::SetTextBuf(text.c_str());
   }
   /// "&" marks an accelerator only where ShowAccelChar says so.
-  unsigned WriteFlags() const override { return TQELCustomLabel::WriteFlags(); }
+  unsigned WriteFlags() const override {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): TQELLabel's own marks one whatever it says.
+    return TQELCustomLabel::WriteFlags();
+  }
 };
 
 }  // namespace qel

@@ -14,6 +14,7 @@ const vcl::TClass& TQELDBImageView::Class() {
       Describe<T, TDBImage>("qel::TQELDBImageView", "qel/dbcontrols/Qeltdbimageview.h",
                             {
                                 vcl::ReadOnly<&T::About>("About"),
+                                Inherit("ParentColor").Default(false),
                                 Inherit("Proportional").Default(true),
                             });
   return info;

@@ -92,7 +92,6 @@ TQELDBNavigator::TQELDBNavigator(vcl::TComponent* owner) : TQELCustomControl(own
     const TQELNavigatorButton button = ButtonAt(i);
     FButtons[button] = new TQELNavigatorPress(*this, button);
     FButtons[button]->SetParent(this);
-    FButtons[button]->SetHint(ButtonName(button));
     FDetails[button] = std::make_unique<TQELButtonDetails>(FButtons[button]);
   }
   SetTabStop(true);
@@ -147,8 +146,19 @@ std::string TQELDBNavigator::ButtonName(TQELNavigatorButton button) const {
 void TQELDBNavigator::DetailsChanged() {
   if (FUpdating || Destroying() || !Details(nbFind)) return;
   const TWatch watch(this);
+  UpdateHints();
   Arrange();
   if (!watch.Gone()) UpdateButtons();
+}
+
+/// As in all details, hints are shown where these say so; a form file brings empty ones.
+void TQELDBNavigator::UpdateHints() {
+  for (int i = 0; i < ButtonCount; ++i) {
+    const TQELButtonDetails& details = *Details(ButtonAt(i));
+    TQELNavigatorPress& button = *FButtons[ButtonAt(i)];
+    if (details.Hint().empty()) button.SetHint(ButtonName(ButtonAt(i)));
+    button.SetShowHint(details.ShowHint());
+  }
 }
 
 bool TQELDBNavigator::Shows(TQELNavigatorButton button) const {

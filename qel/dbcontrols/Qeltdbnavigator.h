@@ -152,6 +152,7 @@ class QEL_API TQELDBNavigator : public TQELCustomControl {
   bool Shows(TQELNavigatorButton button) const;
   bool CanDo(TQELNavigatorButton button);
   bool Confirmed(TQELNavigatorButton button) const;
+  void UpdateHints();
   void UpdateButtons();
   void Arrange();
   void FocusButton(TQELNavigatorButton button);
