@@ -60,7 +60,8 @@ TDialogForm::TDialogForm(TQELFormDialog& dialog)
   SetKeyPreview(true);
   SetCaption(dialog.Title().empty() ? vcl::Application()->Title() : dialog.Title());
   dialog.FreeNotification(this);
-  SetBounds(FOver.Left + FOver.Width() / 2, FOver.Top + FOver.Height() / 2, 1, 1);
+  // On that monitor already, and larger than its border, which its size is reckoned with.
+  SetBounds(FOver.Left + FOver.Width() / 2, FOver.Top + FOver.Height() / 2, 200, 200);
   // From here on the measures are those of the monitor.
   HandleNeeded();
   SetBack(dialog.Background());
@@ -209,8 +210,7 @@ void TDialogForm::Lay() {
   const vcl::TSize rows = LayRows();
   const int top = rows.cy + ScaledPixels(Margin - Gap);
   LayButtons(rows.cx, top);
-  SetClientWidth(rows.cx);
-  SetClientHeight(top + ScaledPixels(ButtonHeight + Margin));
+  SetClientSize(rows.cx, top + ScaledPixels(ButtonHeight + Margin));
 }
 
 /// What is larger than the work area begins at its corner.
