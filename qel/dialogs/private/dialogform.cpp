@@ -126,7 +126,8 @@ void TDialogForm::AddText(const std::string& text) {
     memo->SetScrollBars(vcl::ssVertical);
     return memo->SetText(text);
   }
-  auto* label = AddRow<vcl::TLabel>(size.cx, size.cy);
+  // Letters may be drawn a little wider than they were measured.
+  auto* label = AddRow<vcl::TLabel>(size.cx + ScaledPixels(6), size.cy);
   label->SetAutoSize(false);
   label->SetShowAccelChar(false);
   label->SetWordWrap(true);
