@@ -46,11 +46,15 @@ class QEL_API TQELMsgDlg : public TQELFormDialog {
   vcl::TPicture* Picture() const { return FPicture.get(); }
   /// The picture beside the text; it is copied.
   void SetPicture(const vcl::TPicture* picture) { FPicture->Assign(picture); }
-  /// The buttons, from left to right.
+  /// The first button from the left.
   TQELButtonDetails* Button1() const { return FButtons[0].get(); }
+  /// The second button from the left.
   TQELButtonDetails* Button2() const { return FButtons[1].get(); }
+  /// The third button from the left.
   TQELButtonDetails* Button3() const { return FButtons[2].get(); }
+  /// The fourth button from the left.
   TQELButtonDetails* Button4() const { return FButtons[3].get(); }
+  /// The fifth button from the left.
   TQELButtonDetails* Button5() const { return FButtons[4].get(); }
   int DefaultButton() const { return FDefaultButton; }
   /// The number of the button that Enter presses, from 1; the first one that is shown takes the

@@ -35,8 +35,9 @@ class QEL_API TQELMsgSelect : public TQELFormDialog {
   /// The option that is chosen first, from 0; -1, and what is no option's index, for none: OK then
   /// waits for a choice. Refuses, silently, less than -1.
   void SetItemIndex(int index);
-  /// The button that takes the choice, and the one that does not.
+  /// The button that takes the choice.
   TQELButtonDetails* OkButton() const { return FOkButton.get(); }
+  /// The button that leaves ItemIndex as it was.
   TQELButtonDetails* CancelButton() const { return FCancelButton.get(); }
 
  private:

@@ -60,7 +60,8 @@ TDialogForm::TDialogForm(TQELFormDialog& dialog)
   SetKeyPreview(true);
   SetCaption(dialog.Title().empty() ? vcl::Application()->Title() : dialog.Title());
   dialog.FreeNotification(this);
-  SetBounds(FOver.Left + FOver.Width() / 2, FOver.Top + FOver.Height() / 2, 1, 1);
+  // On that monitor already, and larger than its border, which its size is reckoned with.
+  SetBounds(FOver.Left + FOver.Width() / 2, FOver.Top + FOver.Height() / 2, 200, 200);
   // From here on the measures are those of the monitor.
   HandleNeeded();
   SetBack(dialog.Background());
@@ -125,7 +126,8 @@ void TDialogForm::AddText(const std::string& text) {
     memo->SetScrollBars(vcl::ssVertical);
     return memo->SetText(text);
   }
-  auto* label = AddRow<vcl::TLabel>(size.cx, size.cy);
+  // Letters may be drawn a little wider than they were measured.
+  auto* label = AddRow<vcl::TLabel>(size.cx + ScaledPixels(6), size.cy);
   label->SetAutoSize(false);
   label->SetShowAccelChar(false);
   label->SetWordWrap(true);
@@ -209,8 +211,7 @@ void TDialogForm::Lay() {
   const vcl::TSize rows = LayRows();
   const int top = rows.cy + ScaledPixels(Margin - Gap);
   LayButtons(rows.cx, top);
-  SetClientWidth(rows.cx);
-  SetClientHeight(top + ScaledPixels(ButtonHeight + Margin));
+  SetClientSize(rows.cx, top + ScaledPixels(ButtonHeight + Margin));
 }
 
 /// What is larger than the work area begins at its corner.
