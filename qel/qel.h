@@ -42,6 +42,8 @@
 #include "qel/core/Qelsystemfacts.h"
 #include "qel/core/Qeltstoredata.h"
 #include "qel/data/Qeltdbascii.h"
+#include "qel/dialogs/Qeltmsgbox.h"
+#include "qel/dialogs/Qeltshellabout.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/Qeltquickmail.h"

@@ -41,6 +41,8 @@
 #include "qel/data/Qeltdbascii.h"
 #include "qel/design/Qelbindings.h"
 #include "qel/design/Qeltools.h"
+#include "qel/dialogs/Qeltmsgbox.h"
+#include "qel/dialogs/Qeltshellabout.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/Qeltquickmail.h"
@@ -107,6 +109,11 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
       {"QEL DBControls",
        {
            &TQELDBAscii::Class(),
+       }},
+      {"QEL Dialogs",
+       {
+           &TQELMsgBox::Class(),
+           &TQELShellAbout::Class(),
        }},
       {"QEL System/1",
        {
@@ -237,6 +244,8 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELADFields::Class(),
       &TQELDBAscii::Class(),
       &TQELExplorerTree::Class(),
+      &TQELMsgBox::Class(),
+      &TQELShellAbout::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }
