@@ -16,16 +16,21 @@ const TClass& TDialogsPage::Class() {
                               Field<&T::Question>("Question"),
                               Field<&T::Countdown>("Countdown"),
                               Field<&T::Selection>("Selection"),
+                              Field<&T::Message>("Message"),
+                              Field<&T::About>("About"),
                               Field<&T::Answers>("Answers"),
                               Method<&T::QuestionClick>("QuestionClick"),
                               Method<&T::CountdownClick>("CountdownClick"),
                               Method<&T::SelectionClick>("SelectionClick"),
+                              Method<&T::MessageClick>("MessageClick"),
+                              Method<&T::AboutClick>("AboutClick"),
                           });
   return info;
 }
 
 TDialogsPage::TDialogsPage(TComponent* owner) : TFrame(owner) {
-  RegisterClasses({&qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class()});
+  RegisterClasses({&qel::TQELMsgBox::Class(), &qel::TQELMsgDlg::Class(),
+                   &qel::TQELMsgSelect::Class(), &qel::TQELShellAbout::Class()});
   LoadFrame();
 }
 
@@ -48,5 +53,11 @@ void TDialogsPage::SelectionClick(TObject*) {
   if (!Selection->Execute()) return Tell("The choice: none");
   Tell("The choice: " + Selection->Options()->Strings(Selection->ItemIndex()));
 }
+
+void TDialogsPage::MessageClick(TObject*) {
+  Tell(Message->Execute() ? "The system's message: yes" : "The system's message: no");
+}
+
+void TDialogsPage::AboutClick(TObject*) { About->Execute(); }
 
 }  // namespace gallery

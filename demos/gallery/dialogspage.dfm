@@ -36,6 +36,20 @@ object DialogsPage: TDialogsPage
       'By &size'
       'By &date')
   end
+  object Message: TQELMsgBox
+    Left = 896
+    Top = 540
+    Caption = 'Message'
+    Text = 'Is this the system''s own box?'
+    Icon = miQuestion
+    Buttons = mbYesNo
+  end
+  object About: TQELShellAbout
+    Left = 928
+    Top = 540
+    Title = 'Gallery'
+    Text = 'The components, to try'
+  end
   object OwnHeading: TLabel
     Left = 16
     Top = 8
@@ -107,6 +121,61 @@ object DialogsPage: TDialogsPage
     Height = 13
     AutoSize = False
     Caption = 'One of some options, or of a list where they are many'
+  end
+  object SystemHeading: TLabel
+    Left = 16
+    Top = 150
+    Width = 440
+    Height = 13
+    AutoSize = False
+    Caption = 'Boxes of the system'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clNavy
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object SystemLine: TBevel
+    Left = 16
+    Top = 166
+    Width = 440
+    Height = 2
+    Shape = bsTopLine
+  end
+  object MessageButton: TButton
+    Left = 16
+    Top = 176
+    Width = 120
+    Height = 26
+    Caption = '&Message'
+    TabOrder = 3
+    OnClick = MessageClick
+  end
+  object MessageText: TLabel
+    Left = 150
+    Top = 182
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'The system''s message box'
+  end
+  object AboutButton: TButton
+    Left = 16
+    Top = 210
+    Width = 120
+    Height = 26
+    Caption = '&About'
+    TabOrder = 4
+    OnClick = AboutClick
+  end
+  object AboutText: TLabel
+    Left = 150
+    Top = 216
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'The system''s about box'
   end
   object AnswersHeading: TLabel
     Left = 480

@@ -20,11 +20,15 @@ class TDialogsPage : public vcl::TFrame {
   qel::TQELMsgDlg* Question = nullptr;
   qel::TQELMsgDlg* Countdown = nullptr;
   qel::TQELMsgSelect* Selection = nullptr;
+  qel::TQELMsgBox* Message = nullptr;
+  qel::TQELShellAbout* About = nullptr;
   vcl::TMemo* Answers = nullptr;
 
   void QuestionClick(vcl::TObject*);
   void CountdownClick(vcl::TObject*);
   void SelectionClick(vcl::TObject*);
+  void MessageClick(vcl::TObject*);
+  void AboutClick(vcl::TObject*);
   void Tell(const std::string& answer);
 };
 

@@ -50,8 +50,10 @@
 #include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/design/Qelbindings.h"
 #include "qel/design/Qeltools.h"
+#include "qel/dialogs/Qeltmsgbox.h"
 #include "qel/dialogs/Qeltmsgdlg.h"
 #include "qel/dialogs/Qeltmsgselect.h"
+#include "qel/dialogs/Qeltshellabout.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/Qeltquickmail.h"
@@ -130,7 +132,9 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        }},
       {"QEL Dialogs",
        {
+           &TQELMsgBox::Class(),
            &TQELMsgDlg::Class(),
+           &TQELShellAbout::Class(),
            &TQELMsgSelect::Class(),
        }},
       {"QEL System/1",
@@ -274,6 +278,8 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELDBImageView::Class(),
       &TQELDBMemoView::Class(),
       &TQELExplorerTree::Class(),
+      &TQELMsgBox::Class(),
+      &TQELShellAbout::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }

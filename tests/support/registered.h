@@ -41,5 +41,6 @@ inline void RegisterAll() {
                         &qel::TQELDBLookupedit::Class(), &qel::TQELDBNavigator::Class(),
                         &qel::TQELDBIndexLookup::Class(), &qel::TQELDBImageView::Class(),
                         &qel::TQELDBMemoView::Class()});
-  vcl::RegisterClasses({&qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class()});
+  vcl::RegisterClasses({&qel::TQELMsgBox::Class(), &qel::TQELMsgDlg::Class(),
+                        &qel::TQELMsgSelect::Class(), &qel::TQELShellAbout::Class()});
 }
