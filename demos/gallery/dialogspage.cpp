@@ -18,19 +18,22 @@ const TClass& TDialogsPage::Class() {
                               Field<&T::Selection>("Selection"),
                               Field<&T::Message>("Message"),
                               Field<&T::About>("About"),
+                              Field<&T::Folders>("Folders"),
                               Field<&T::Answers>("Answers"),
                               Method<&T::QuestionClick>("QuestionClick"),
                               Method<&T::CountdownClick>("CountdownClick"),
                               Method<&T::SelectionClick>("SelectionClick"),
                               Method<&T::MessageClick>("MessageClick"),
                               Method<&T::AboutClick>("AboutClick"),
+                              Method<&T::FoldersClick>("FoldersClick"),
                           });
   return info;
 }
 
 TDialogsPage::TDialogsPage(TComponent* owner) : TFrame(owner) {
-  RegisterClasses({&qel::TQELMsgBox::Class(), &qel::TQELMsgDlg::Class(),
-                   &qel::TQELMsgSelect::Class(), &qel::TQELShellAbout::Class()});
+  RegisterClasses({&qel::TQELFolderBrowser::Class(), &qel::TQELMsgBox::Class(),
+                   &qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class(),
+                   &qel::TQELShellAbout::Class()});
   LoadFrame();
 }
 
@@ -59,5 +62,9 @@ void TDialogsPage::MessageClick(TObject*) {
 }
 
 void TDialogsPage::AboutClick(TObject*) { About->Execute(); }
+
+void TDialogsPage::FoldersClick(TObject*) {
+  Tell(Folders->Execute() ? "The folder: " + Folders->Folder() : "The folder: none");
+}
 
 }  // namespace gallery

@@ -50,6 +50,12 @@ object DialogsPage: TDialogsPage
     Title = 'Gallery'
     Text = 'The components, to try'
   end
+  object Folders: TQELFolderBrowser
+    Left = 768
+    Top = 540
+    Options = [fbNewFolder, fbEdit]
+    Title = 'Where to?'
+  end
   object OwnHeading: TLabel
     Left = 16
     Top = 8
@@ -176,6 +182,23 @@ object DialogsPage: TDialogsPage
     Height = 13
     AutoSize = False
     Caption = 'The system''s about box'
+  end
+  object FoldersButton: TButton
+    Left = 16
+    Top = 244
+    Width = 120
+    Height = 26
+    Caption = '&Folders'
+    TabOrder = 5
+    OnClick = FoldersClick
+  end
+  object FoldersText: TLabel
+    Left = 150
+    Top = 250
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'The system''s folder dialog'
   end
   object AnswersHeading: TLabel
     Left = 480

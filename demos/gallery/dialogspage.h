@@ -22,6 +22,7 @@ class TDialogsPage : public vcl::TFrame {
   qel::TQELMsgSelect* Selection = nullptr;
   qel::TQELMsgBox* Message = nullptr;
   qel::TQELShellAbout* About = nullptr;
+  qel::TQELFolderBrowser* Folders = nullptr;
   vcl::TMemo* Answers = nullptr;
 
   void QuestionClick(vcl::TObject*);
@@ -29,6 +30,7 @@ class TDialogsPage : public vcl::TFrame {
   void SelectionClick(vcl::TObject*);
   void MessageClick(vcl::TObject*);
   void AboutClick(vcl::TObject*);
+  void FoldersClick(vcl::TObject*);
   void Tell(const std::string& answer);
 };
 

@@ -50,6 +50,7 @@
 #include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/design/Qelbindings.h"
 #include "qel/design/Qeltools.h"
+#include "qel/dialogs/Qeltfolderbrowser.h"
 #include "qel/dialogs/Qeltmsgbox.h"
 #include "qel/dialogs/Qeltmsgdlg.h"
 #include "qel/dialogs/Qeltmsgselect.h"
@@ -136,6 +137,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELMsgDlg::Class(),
            &TQELShellAbout::Class(),
            &TQELMsgSelect::Class(),
+           &TQELFolderBrowser::Class(),
        }},
       {"QEL System/1",
        {
@@ -278,6 +280,7 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELDBImageView::Class(),
       &TQELDBMemoView::Class(),
       &TQELExplorerTree::Class(),
+      &TQELFolderBrowser::Class(),
       &TQELMsgBox::Class(),
       &TQELShellAbout::Class(),
   };

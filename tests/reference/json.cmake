@@ -84,7 +84,7 @@ expect_rows(pages name,classes
   "QEL Controls/2|TQELColorCombo,TQELAnimator,TQELImageScroller,TQELCommandLabel,TQELInformationLabel,TQELStickyLabel,TQELVersionLabel,TQELLookupMenu,TQELSpinEdit,TQELRealSpinEdit,TQELLookupEdit,TQELOfficeEdit,TQELOfficeEdit,TQELAnimator,TQELFontCombo,TQELFontBox,TQELCheckList"
   "QEL Controls/3|TQELLanguageCombo,TQELAutoCombo,TQELFormDivider"
   "QEL DBControls|TQELDBLookupedit,TQELDBLabel,TQELDBNavigator,TQELDBIndexLookup,TQELDBOfficeEdit,TQELDBAscii,TQELDBSpinEdit,TQELDBStickyLabel,TQELDBImageView,TQELDBMemoView"
-  "QEL Dialogs|TQELMsgBox,TQELMsgDlg,TQELShellAbout,TQELMsgSelect"
+  "QEL Dialogs|TQELMsgBox,TQELMsgDlg,TQELShellAbout,TQELMsgSelect,TQELFolderBrowser"
   "QEL System/1|TQELStoreData,TQELQuickMail,TQELSystemTray,TQELFormSaver,TQELMRUMenu"
   "QEL System/2|TQELOnlyOne,TQELTimer32,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
   "QEL Files|TQELExplorerTree")

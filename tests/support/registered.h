@@ -41,6 +41,7 @@ inline void RegisterAll() {
                         &qel::TQELDBLookupedit::Class(), &qel::TQELDBNavigator::Class(),
                         &qel::TQELDBIndexLookup::Class(), &qel::TQELDBImageView::Class(),
                         &qel::TQELDBMemoView::Class()});
-  vcl::RegisterClasses({&qel::TQELMsgBox::Class(), &qel::TQELMsgDlg::Class(),
-                        &qel::TQELMsgSelect::Class(), &qel::TQELShellAbout::Class()});
+  vcl::RegisterClasses({&qel::TQELFolderBrowser::Class(), &qel::TQELMsgBox::Class(),
+                        &qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class(),
+                        &qel::TQELShellAbout::Class()});
 }
