@@ -80,6 +80,7 @@ object FieldsPage: TFieldsPage
     Top = 34
     Width = 330
     Height = 28
+    AccessibleName = 'Records'
     DataSource = PeopleSource
     TabOrder = 0
   end
@@ -240,7 +241,7 @@ object FieldsPage: TFieldsPage
     Top = 306
     Width = 440
     Height = 200
-    AccessibleName = 'Records'
+    AccessibleName = 'All records'
     DataSource = PeopleSource
     TabOrder = 5
   end
