@@ -74,7 +74,7 @@ void TEditingPage::ParagraphClick(TObject*) {
 
 /// The tag of each line of the menu is its size in points.
 void TEditingPage::SizeClick(TObject* sender) {
-  RichText->SelAttributes().SetSize(dynamic_cast<TMenuItem&>(*sender).Tag());
+  RichText->SelAttributes().SetSize(static_cast<int>(dynamic_cast<TMenuItem&>(*sender).Tag()));
 }
 
 void TEditingPage::ColorChange(TObject*) {
