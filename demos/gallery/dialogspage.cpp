@@ -19,10 +19,12 @@ const TClass& TDialogsPage::Class() {
                               Field<&T::Message>("Message"),
                               Field<&T::About>("About"),
                               Field<&T::Folders>("Folders"),
+                              Field<&T::Tips>("Tips"),
                               Field<&T::Answers>("Answers"),
                               Method<&T::QuestionClick>("QuestionClick"),
                               Method<&T::CountdownClick>("CountdownClick"),
                               Method<&T::SelectionClick>("SelectionClick"),
+                              Method<&T::TipsClick>("TipsClick"),
                               Method<&T::MessageClick>("MessageClick"),
                               Method<&T::AboutClick>("AboutClick"),
                               Method<&T::FoldersClick>("FoldersClick"),
@@ -31,9 +33,9 @@ const TClass& TDialogsPage::Class() {
 }
 
 TDialogsPage::TDialogsPage(TComponent* owner) : TFrame(owner) {
-  RegisterClasses({&qel::TQELFolderBrowser::Class(), &qel::TQELMsgBox::Class(),
-                   &qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class(),
-                   &qel::TQELShellAbout::Class()});
+  RegisterClasses({&qel::TQELTipTricks::Class(), &qel::TQELFolderBrowser::Class(),
+                   &qel::TQELMsgBox::Class(), &qel::TQELMsgDlg::Class(),
+                   &qel::TQELMsgSelect::Class(), &qel::TQELShellAbout::Class()});
   LoadFrame();
 }
 
@@ -55,6 +57,11 @@ void TDialogsPage::CountdownClick(TObject*) {
 void TDialogsPage::SelectionClick(TObject*) {
   if (!Selection->Execute()) return Tell("The choice: none");
   Tell("The choice: " + Selection->Options()->Strings(Selection->ItemIndex()));
+}
+
+void TDialogsPage::TipsClick(TObject*) {
+  Tips->Execute();
+  Tell(Tips->ShowAtStart() ? "Tips are shown at the start" : "Tips are not shown at the start");
 }
 
 void TDialogsPage::MessageClick(TObject*) {

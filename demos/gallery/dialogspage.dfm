@@ -56,6 +56,19 @@ object DialogsPage: TDialogsPage
     Options = [fbNewFolder, fbEdit]
     Title = 'Where to?'
   end
+  object Tips: TQELTipTricks
+    Left = 736
+    Top = 540
+    Title = 'Tips'
+    Force = True
+    Tips.Strings = (
+      'The palette''s search takes any part of a class''s name.'
+      ''
+      'Ctrl and an arrow move what is selected by one pixel,'
+      'Shift and an arrow size it.'
+      ''
+      'A double click on an event makes its handler.')
+  end
   object OwnHeading: TLabel
     Left = 16
     Top = 8
@@ -128,9 +141,26 @@ object DialogsPage: TDialogsPage
     AutoSize = False
     Caption = 'One of some options, or of a list where they are many'
   end
+  object TipsButton: TButton
+    Left = 16
+    Top = 136
+    Width = 120
+    Height = 26
+    Caption = '&Tips'
+    TabOrder = 3
+    OnClick = TipsClick
+  end
+  object TipsText: TLabel
+    Left = 150
+    Top = 142
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'A tip at each start, as long as they are wanted'
+  end
   object SystemHeading: TLabel
     Left = 16
-    Top = 150
+    Top = 184
     Width = 440
     Height = 13
     AutoSize = False
@@ -144,23 +174,23 @@ object DialogsPage: TDialogsPage
   end
   object SystemLine: TBevel
     Left = 16
-    Top = 166
+    Top = 200
     Width = 440
     Height = 2
     Shape = bsTopLine
   end
   object MessageButton: TButton
     Left = 16
-    Top = 176
+    Top = 210
     Width = 120
     Height = 26
     Caption = '&Message'
-    TabOrder = 3
+    TabOrder = 4
     OnClick = MessageClick
   end
   object MessageText: TLabel
     Left = 150
-    Top = 182
+    Top = 216
     Width = 306
     Height = 13
     AutoSize = False
@@ -168,16 +198,16 @@ object DialogsPage: TDialogsPage
   end
   object AboutButton: TButton
     Left = 16
-    Top = 210
+    Top = 244
     Width = 120
     Height = 26
     Caption = '&About'
-    TabOrder = 4
+    TabOrder = 5
     OnClick = AboutClick
   end
   object AboutText: TLabel
     Left = 150
-    Top = 216
+    Top = 250
     Width = 306
     Height = 13
     AutoSize = False
@@ -185,16 +215,16 @@ object DialogsPage: TDialogsPage
   end
   object FoldersButton: TButton
     Left = 16
-    Top = 244
+    Top = 278
     Width = 120
     Height = 26
     Caption = '&Folders'
-    TabOrder = 5
+    TabOrder = 6
     OnClick = FoldersClick
   end
   object FoldersText: TLabel
     Left = 150
-    Top = 250
+    Top = 284
     Width = 306
     Height = 13
     AutoSize = False

@@ -23,11 +23,13 @@ class TDialogsPage : public vcl::TFrame {
   qel::TQELMsgBox* Message = nullptr;
   qel::TQELShellAbout* About = nullptr;
   qel::TQELFolderBrowser* Folders = nullptr;
+  qel::TQELTipTricks* Tips = nullptr;
   vcl::TMemo* Answers = nullptr;
 
   void QuestionClick(vcl::TObject*);
   void CountdownClick(vcl::TObject*);
   void SelectionClick(vcl::TObject*);
+  void TipsClick(vcl::TObject*);
   void MessageClick(vcl::TObject*);
   void AboutClick(vcl::TObject*);
   void FoldersClick(vcl::TObject*);

@@ -22,6 +22,7 @@
 #include "qel/design/Qelslideseditor.h"
 #include "qel/dialogs/Qeltmsgdlg.h"
 #include "qel/dialogs/Qeltmsgselect.h"
+#include "qel/dialogs/Qelttiptricks.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "vcl/controls/control.h"
@@ -67,6 +68,7 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELDBLookupedit::Class(), "Text"},
       {QEL_EDITOR(TQELHintProperty), "string", &TQELMsgDlg::Class(), "Text"},
       {QEL_EDITOR(TQELHintProperty), "string", &TQELMsgSelect::Class(), "Text"},
+      {QEL_EDITOR(TQELFilenameProperty), "string", &TQELTipTricks::Class(), "Filename"},
   };
   return entries;
 }

@@ -55,6 +55,7 @@
 #include "qel/dialogs/Qeltmsgdlg.h"
 #include "qel/dialogs/Qeltmsgselect.h"
 #include "qel/dialogs/Qeltshellabout.h"
+#include "qel/dialogs/Qelttiptricks.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/Qeltquickmail.h"
@@ -133,6 +134,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        }},
       {"QEL Dialogs",
        {
+           &TQELTipTricks::Class(),
            &TQELMsgBox::Class(),
            &TQELMsgDlg::Class(),
            &TQELShellAbout::Class(),
@@ -280,6 +282,7 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELDBImageView::Class(),
       &TQELDBMemoView::Class(),
       &TQELExplorerTree::Class(),
+      &TQELTipTricks::Class(),
       &TQELFolderBrowser::Class(),
       &TQELMsgBox::Class(),
       &TQELShellAbout::Class(),

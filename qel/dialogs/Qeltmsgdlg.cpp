@@ -4,7 +4,7 @@
 #include <charconv>
 
 #include "qel/dialogs/private/dialogform.h"
-#include "vcl/rtl/exceptions.h"
+#include "qel/dialogs/private/keptvalues.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"
@@ -18,6 +18,7 @@ using vcl::TWatch;
 namespace {
 
 constexpr const char* StoreSection = "Answers";
+constexpr const char* AnswerValue = "Answer";
 
 /// Counts seconds down in a button's caption, and answers with it in the end.
 class TCountdown {
@@ -65,7 +66,7 @@ class TQELMsgDlg::TShown {
   explicit TShown(TQELMsgDlg& dialog) : FForm(dialog) {
     FForm.AddPicture(*dialog.FPicture);
     FForm.AddText(dialog.FilledText());
-    if (dialog.KeepsAnswers() && !dialog.FCheckText.empty()) AddCheck(dialog.FCheckText);
+    if (dialog.Kept().Used() && !dialog.FCheckText.empty()) AddCheck(dialog.FCheckText);
     AddButtons(dialog);
   }
   int Run() { return FForm.Run(); }
@@ -174,9 +175,7 @@ bool TQELMsgDlg::Execute() {
   TShown shown(*this);
   const int result = shown.Run();
   if (watch.Gone()) return false;
-  if (result > 0 && shown.Keep()) {
-    Guarded([&] { FAnswerStore->WriteStr(ValueName(), std::to_string(result)); });
-  }
+  if (result > 0 && shown.Keep()) Kept().Write(AnswerValue, std::to_string(result));
   return !watch.Gone() && Answered(result);
 }
 
@@ -187,25 +186,7 @@ bool TQELMsgDlg::Answered(int result) {
 
 // The answers that are kept.
 
-bool TQELMsgDlg::KeepsAnswers() const { return FAnswerStore->Enabled() && !Designing(); }
-
-std::string TQELMsgDlg::ValueName() const {
-  const std::string owner = Owner() ? Owner()->Name() + "." : std::string();
-  return vcl::Concat(owner, Name(), "_Answer");
-}
-
-/// What the store refuses is its own event's matter, not that of who was asked.
-template <class Call>
-void TQELMsgDlg::Guarded(Call call) {
-  const TWatch watch(this);
-  try {
-    call();
-  } catch (const vcl::EIniFileException&) {
-    if (!watch.Gone()) FAnswerStore->OnError(FAnswerStore.get());
-  } catch (const vcl::ERegistryException&) {
-    if (!watch.Gone()) FAnswerStore->OnError(FAnswerStore.get());
-  }
-}
+TKeptValues TQELMsgDlg::Kept() { return {*FAnswerStore, *this}; }
 
 /// A button that could be pressed now.
 bool TQELMsgDlg::IsAnswer(int number) const {
@@ -217,23 +198,15 @@ bool TQELMsgDlg::IsAnswer(int number) const {
 
 /// 0 when there is none, or none that still is one.
 int TQELMsgDlg::KeptAnswer() {
-  if (!KeepsAnswers()) return 0;
-  vcl::TStringList values;
   const TWatch watch(this);
-  Guarded([&] {
-    const TQELDataStore::TStrictReading strict(*FAnswerStore, this);
-    FAnswerStore->ReadStrs(values);
-  });
+  const std::string text = Kept().Read(AnswerValue);
   if (watch.Gone()) return 0;
-  const std::string text = values.Values(ValueName());
   int number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   const bool whole = error == std::errc() && end == text.data() + text.size();
   return whole && IsAnswer(number) ? number : 0;
 }
 
-void TQELMsgDlg::ForgetAnswer() {
-  if (KeepsAnswers()) FAnswerStore->DeleteKey(ValueName());
-}
+void TQELMsgDlg::ForgetAnswer() { Kept().Forget(AnswerValue); }
 
 }  // namespace qel

@@ -12,6 +12,8 @@
 
 namespace qel {
 
+class TKeptValues;
+
 /// Asks a question and says which of up to five buttons was the answer. A button without caption
 /// and glyph is not shown; when none is, the first is, as "OK".
 ///
@@ -78,13 +80,10 @@ class QEL_API TQELMsgDlg : public TQELFormDialog {
  private:
   static constexpr int ButtonCount = 5;
   class TShown;
-  std::string ValueName() const;
-  bool KeepsAnswers() const;
+  TKeptValues Kept();
   int KeptAnswer();
   bool IsAnswer(int number) const;
   bool Answered(int result);
-  template <class Call>
-  void Guarded(Call call);
 
   std::string FText;
   std::unique_ptr<vcl::TStringList> FValues;

@@ -84,7 +84,7 @@ expect_rows(pages name,classes
   "QEL Controls/2|TQELColorCombo,TQELAnimator,TQELImageScroller,TQELCommandLabel,TQELInformationLabel,TQELStickyLabel,TQELVersionLabel,TQELLookupMenu,TQELSpinEdit,TQELRealSpinEdit,TQELLookupEdit,TQELOfficeEdit,TQELOfficeEdit,TQELAnimator,TQELFontCombo,TQELFontBox,TQELCheckList"
   "QEL Controls/3|TQELLanguageCombo,TQELAutoCombo,TQELFormDivider"
   "QEL DBControls|TQELDBLookupedit,TQELDBLabel,TQELDBNavigator,TQELDBIndexLookup,TQELDBOfficeEdit,TQELDBAscii,TQELDBSpinEdit,TQELDBStickyLabel,TQELDBImageView,TQELDBMemoView"
-  "QEL Dialogs|TQELMsgBox,TQELMsgDlg,TQELShellAbout,TQELMsgSelect,TQELFolderBrowser"
+  "QEL Dialogs|TQELTipTricks,TQELMsgBox,TQELMsgDlg,TQELShellAbout,TQELMsgSelect,TQELFolderBrowser"
   "QEL System/1|TQELStoreData,TQELQuickMail,TQELSystemTray,TQELFormSaver,TQELMRUMenu"
   "QEL System/2|TQELOnlyOne,TQELTimer32,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
   "QEL Files|TQELExplorerTree")
@@ -118,7 +118,8 @@ expect_rows(propertyEditors editor,type,class,property,attributes
   "TQELROCaptionProperty|TCaption|TQELDBOfficeEdit|Text|multi-select,auto-update,read-only,revertable"
   "TQELROCaptionProperty|TCaption|TQELDBLookupedit|Text|multi-select,auto-update,read-only,revertable"
   "TQELHintProperty|string|TQELMsgDlg|Text|dialog,multi-select,revertable"
-  "TQELHintProperty|string|TQELMsgSelect|Text|dialog,multi-select,revertable")
+  "TQELHintProperty|string|TQELMsgSelect|Text|dialog,multi-select,revertable"
+  "TQELFilenameProperty|string|TQELTipTricks|Filename|dialog")
 expect_rows(componentEditors editor,class,verbs
   "TQELDialogEditor|TQELExecComponent|Execute the Component,QEL component library,2026"
   "TQELMailConfigEditor|TQELMailHost|Configure Mail ..."

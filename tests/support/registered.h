@@ -43,5 +43,5 @@ inline void RegisterAll() {
                         &qel::TQELDBMemoView::Class()});
   vcl::RegisterClasses({&qel::TQELFolderBrowser::Class(), &qel::TQELMsgBox::Class(),
                         &qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class(),
-                        &qel::TQELShellAbout::Class()});
+                        &qel::TQELShellAbout::Class(), &qel::TQELTipTricks::Class()});
 }

@@ -155,8 +155,12 @@ vcl::TBitBtn* TDialogForm::AddButton(const TQELButtonDetails& details, int resul
     question = details.ConfirmMessage().empty() ? vcl::WithoutAccel(details.Caption()) + "?"
                                                 : details.ConfirmMessage();
   }
-  FButtons.push_back({button, result, std::move(question)});
+  FButtons.push_back({button, result, std::move(question), {}});
   return button;
+}
+
+void TDialogForm::SetAct(const vcl::TBitBtn& button, std::function<void()> act) {
+  std::ranges::find(FButtons, &button, &TChoice::Button)->Act = std::move(act);
 }
 
 vcl::TBitBtn* TDialogForm::ButtonWith(int result) const {
@@ -248,7 +252,8 @@ void TDialogForm::Press(const vcl::TBitBtn& button) {
     return;
   }
   // Meanwhile the dialog may have been freed, or its time have run out.
-  if (ModalResult() == vcl::mrNone) Finish(choice.Result);
+  if (ModalResult() != vcl::mrNone) return;
+  choice.Act ? choice.Act() : Finish(choice.Result);
 }
 
 bool TDialogForm::HasCancelButton() const {

@@ -1,6 +1,7 @@
 // TDialogForm: the form that the package's own dialogs are shown in.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,10 @@ class TDialogForm : public vcl::TForm {
   /// Adds a button at the right of the others, and returns it; null for details that show none, as
   /// they are not visible or have neither caption nor glyph. `result`, above 0, is its answer.
   vcl::TBitBtn* AddButton(const TQELButtonDetails& details, int result);
+  /// Has the button do that, and leave the form open, instead of closing it.
+  void SetAct(const vcl::TBitBtn& button, std::function<void()> act);
+  /// What is copied as the form's text, when that is not what AddText has put there.
+  void SetCopiedText(const std::string& text) { FText = text; }
   /// The button with that answer, if it is shown; else null.
   vcl::TBitBtn* ButtonWith(int result) const;
   int ButtonCount() const { return static_cast<int>(FButtons.size()); }
@@ -65,7 +70,8 @@ class TDialogForm : public vcl::TForm {
   struct TChoice {
     vcl::TBitBtn* Button;
     int Result;
-    std::string Question;  // To be asked first; empty for none.
+    std::string Question;       // To be asked first; empty for none.
+    std::function<void()> Act;  // Instead of closing the form; empty for closing it.
   };
   void Put(vcl::TControl& control, int width, int height);
   void SetBack(TQELCustomBackground* background);
