@@ -14,7 +14,7 @@ const vcl::TClass& TQELFormDialog::Class() {
           Property<&T::Background, &T::SetBackground>("Background").Type("TQELBackground"),
           Property<&T::HelpContext, &T::SetHelpContext>("HelpContext").Default(0),
           Property<&T::Title, &T::SetTitle>("Title").Default(""),
-          Event<&T::OnHelp>("OnHelp"),
+          Event<&T::OnHelp>("OnHelp").Type("TQELHelpEvent", "vcl::TObject* sender, int context"),
       });
   return info;
 }

@@ -42,11 +42,3 @@ class QEL_API TQELFormDialog : public TQELCustomDialog {
 };
 
 }  // namespace qel
-
-namespace vcl {
-
-template <>
-inline constexpr TEventText EventText<qel::TQELHelpEvent>{"TQELHelpEvent",
-                                                          "vcl::TObject* sender, int context"};
-
-}  // namespace vcl

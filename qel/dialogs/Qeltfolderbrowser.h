@@ -74,4 +74,4 @@ inline constexpr vcl::TEnumText vcl::EnumText<qel::TQELFolderBrowserOption>{
 template <>
 inline constexpr vcl::TEventText vcl::EventText<qel::TQELFolderSelectionEvent>{
     "TQELFolderSelectionEvent",
-    "TObject* Sender, const std::string& Folder, bool& EnableOk, std::string& Text"};
+    "vcl::TObject* sender, const std::string& folder, bool& enableOk, std::string& text"};
