@@ -83,33 +83,40 @@ void TGalleryForm::ChooseSubject(TQELButton* button) {
 
 // The popup menu.
 
-/// The items of the menu that switch a property.
+/// The actions of the menu that switch a property.
 struct TGalleryForm::TToggle {
-  TMenuItem* TGalleryForm::*Item;
+  TAction* TGalleryForm::*Action;
   const char* Path;
 };
 const TGalleryForm::TToggle TGalleryForm::Toggles[] = {
-    {&TGalleryForm::EnabledItem, "Enabled"},
-    {&TGalleryForm::WordWrapItem, "WordWrap"},
-    {&TGalleryForm::SunkItem, "ButtonSunk"},
-    {&TGalleryForm::ThreeDimensionalItem, "Font3D.ThreeDimensional"},
+    {&TGalleryForm::EnabledAction, "Enabled"},
+    {&TGalleryForm::WordWrapAction, "WordWrap"},
+    {&TGalleryForm::SunkAction, "ButtonSunk"},
+    {&TGalleryForm::ThreeDimensionalAction, "Font3D.ThreeDimensional"},
 };
 
 void TGalleryForm::ButtonMenuPopup(TObject*) {
   TComponent* button = ButtonMenu->PopupComponent();
   if (!button) return;
-  for (const TToggle& toggle : Toggles) {
-    (this->*toggle.Item)->SetChecked(StrToBool(PropertyText(FindProperty(*button, toggle.Path))));
-  }
   const std::string style = PropertyText(FindProperty(*button, StylePath));
   for (int i = 0; i < StyleItem->Count(); ++i)
     StyleItem->Items(i)->SetChecked(StyleItem->Items(i)->Caption() == style);
 }
 
-void TGalleryForm::ButtonMenuToggle(TObject* sender) {
-  const auto* item = dynamic_cast<TMenuItem*>(sender);
-  for (const TToggle& toggle : Toggles)
-    if (item == this->*toggle.Item) SetFromMenu(toggle.Path, BoolToStr(!item->Checked()));
+void TGalleryForm::ToggleUpdate(TObject* sender) {
+  TComponent* button = ButtonMenu->PopupComponent();
+  for (const TToggle& toggle : Toggles) {
+    TAction* action = this->*toggle.Action;
+    if (button && action == sender)
+      action->SetChecked(StrToBool(PropertyText(FindProperty(*button, toggle.Path))));
+  }
+}
+
+void TGalleryForm::ToggleExecute(TObject* sender) {
+  for (const TToggle& toggle : Toggles) {
+    const TAction* action = this->*toggle.Action;
+    if (action == sender) SetFromMenu(toggle.Path, BoolToStr(!action->Checked()));
+  }
 }
 
 void TGalleryForm::ButtonMenuStyle(TObject* sender) {

@@ -1,18 +1,18 @@
 object GalleryForm: TGalleryForm
   Left = 120
   Top = 90
-  BorderIcons = [biSystemMenu, biMinimize]
-  BorderStyle = bsSingle
+  Constraints.MinHeight = 688
+  Constraints.MinWidth = 976
   Caption = 'Gallery of painted components'
-  ClientHeight = 640
-  ClientWidth = 960
+  ClientHeight = 661
+  ClientWidth = 968
   Position = poScreenCenter
   ShowHint = True
   object Pages: TPageControl
     Left = 0
     Top = 0
-    Width = 960
-    Height = 616
+    Width = 968
+    Height = 637
     AccessibleName = 'Pages'
     ActivePage = ButtonsPage
     Align = alClient
@@ -24,6 +24,7 @@ object GalleryForm: TGalleryForm
         Top = 8
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Glyphs of one to four images, enabled and disabled'
         Font.Charset = DEFAULT_CHARSET
@@ -38,6 +39,7 @@ object GalleryForm: TGalleryForm
         Top = 24
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object CaptionsHeading: TLabel
@@ -45,6 +47,7 @@ object GalleryForm: TGalleryForm
         Top = 116
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Captions, edges and backgrounds'
         Font.Charset = DEFAULT_CHARSET
@@ -59,6 +62,7 @@ object GalleryForm: TGalleryForm
         Top = 132
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object Text3DHeading: TLabel
@@ -66,6 +70,7 @@ object GalleryForm: TGalleryForm
         Top = 240
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Three-dimensional captions'
         Font.Charset = DEFAULT_CHARSET
@@ -80,6 +85,7 @@ object GalleryForm: TGalleryForm
         Top = 256
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object DragHeading: TLabel
@@ -87,6 +93,7 @@ object GalleryForm: TGalleryForm
         Top = 348
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 
           'Drag a stone to the list or the frame, or press the right mouse ' +
@@ -103,6 +110,7 @@ object GalleryForm: TGalleryForm
         Top = 364
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object DropLabel: TQELLabel
@@ -130,6 +138,7 @@ object GalleryForm: TGalleryForm
         Top = 472
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Events'
         Font.Charset = DEFAULT_CHARSET
@@ -144,6 +153,7 @@ object GalleryForm: TGalleryForm
         Top = 488
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object OneImageButton: TQELButton
@@ -985,14 +995,15 @@ object GalleryForm: TGalleryForm
         Width = 616
         Height = 84
         AccessibleName = 'Events'
+        Anchors = [akLeft, akTop, akRight, akBottom]
         ItemHeight = 13
         TabOrder = 30
       end
       object ButtonSettings: TPanel
-        Left = 656
+        Left = 664
         Top = 0
         Width = 296
-        Height = 591
+        Height = 612
         Align = alRight
         BevelOuter = bvNone
         Caption = ''
@@ -1001,7 +1012,7 @@ object GalleryForm: TGalleryForm
           Left = 0
           Top = 0
           Width = 2
-          Height = 591
+          Height = 612
           Align = alLeft
           Shape = bsLeftLine
         end
@@ -1514,6 +1525,7 @@ object GalleryForm: TGalleryForm
         Top = 8
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Every style of three-dimensional text, with every repetition'
         Font.Charset = DEFAULT_CHARSET
@@ -1528,6 +1540,7 @@ object GalleryForm: TGalleryForm
         Top = 24
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object fontRaisedCaption: TLabel
@@ -1896,6 +1909,7 @@ object GalleryForm: TGalleryForm
         Top = 168
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'The nine frames'
         Font.Charset = DEFAULT_CHARSET
@@ -1910,6 +1924,7 @@ object GalleryForm: TGalleryForm
         Top = 184
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object FrameSolidLabel: TQELLabel
@@ -2070,6 +2085,7 @@ object GalleryForm: TGalleryForm
         Top = 312
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Letters filled with a background'
         Font.Charset = DEFAULT_CHARSET
@@ -2084,6 +2100,7 @@ object GalleryForm: TGalleryForm
         Top = 328
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object SampleLabel: TQELLabel
@@ -2128,6 +2145,7 @@ object GalleryForm: TGalleryForm
         Top = 406
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Alignment, word wrap, disabled and transparent labels'
         Font.Charset = DEFAULT_CHARSET
@@ -2142,6 +2160,7 @@ object GalleryForm: TGalleryForm
         Top = 422
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object LeftLabel: TQELLabel
@@ -2276,10 +2295,10 @@ object GalleryForm: TGalleryForm
         ParentFont = False
       end
       object LabelSettings: TPanel
-        Left = 656
+        Left = 664
         Top = 0
         Width = 296
-        Height = 591
+        Height = 612
         Align = alRight
         BevelOuter = bvNone
         Caption = ''
@@ -2288,7 +2307,7 @@ object GalleryForm: TGalleryForm
           Left = 0
           Top = 0
           Width = 2
-          Height = 591
+          Height = 612
           Align = alLeft
           Shape = bsLeftLine
         end
@@ -2760,6 +2779,7 @@ object GalleryForm: TGalleryForm
         Top = 8
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'The thirteen gradients, and one of four colours'
         Font.Charset = DEFAULT_CHARSET
@@ -2774,6 +2794,7 @@ object GalleryForm: TGalleryForm
         Top = 24
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object CircleTile: TQELLabel
@@ -3117,6 +3138,7 @@ object GalleryForm: TGalleryForm
         Top = 184
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 
           'Textures: tiled, centred, stretched, and with a see-through colo' +
@@ -3133,6 +3155,7 @@ object GalleryForm: TGalleryForm
         Top = 200
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object TiledTile: TQELLabel
@@ -3236,6 +3259,7 @@ object GalleryForm: TGalleryForm
         Top = 296
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'The eight brushes, on white and on a solid colour'
         Font.Charset = DEFAULT_CHARSET
@@ -3250,6 +3274,7 @@ object GalleryForm: TGalleryForm
         Top = 312
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object CurrentSolidTile: TQELLabel
@@ -3569,6 +3594,7 @@ object GalleryForm: TGalleryForm
         Top = 412
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'One background, shared by all of these'
         Font.Charset = DEFAULT_CHARSET
@@ -3583,6 +3609,7 @@ object GalleryForm: TGalleryForm
         Top = 428
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object SharedLabel: TQELLabel
@@ -3738,10 +3765,10 @@ object GalleryForm: TGalleryForm
         TabStop = True
       end
       object BackSettings: TPanel
-        Left = 656
+        Left = 664
         Top = 0
         Width = 296
-        Height = 591
+        Height = 612
         Align = alRight
         BevelOuter = bvNone
         Caption = ''
@@ -3750,7 +3777,7 @@ object GalleryForm: TGalleryForm
           Left = 0
           Top = 0
           Width = 2
-          Height = 591
+          Height = 612
           Align = alLeft
           Shape = bsLeftLine
         end
@@ -4121,6 +4148,7 @@ object GalleryForm: TGalleryForm
         Top = 8
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'The glyph on each side of the bar'
         Font.Charset = DEFAULT_CHARSET
@@ -4135,6 +4163,7 @@ object GalleryForm: TGalleryForm
         Top = 24
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object GlyphLeftGauge: TQELGauge
@@ -4551,6 +4580,7 @@ object GalleryForm: TGalleryForm
         Top = 294
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Fonts and three-dimensional text'
         Font.Charset = DEFAULT_CHARSET
@@ -4565,6 +4595,7 @@ object GalleryForm: TGalleryForm
         Top = 310
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object RaisedGauge: TQELGauge
@@ -4692,6 +4723,7 @@ object GalleryForm: TGalleryForm
         Top = 382
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'On a background'
         Font.Charset = DEFAULT_CHARSET
@@ -4706,6 +4738,7 @@ object GalleryForm: TGalleryForm
         Top = 398
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object GaugeGradient: TQELGauge
@@ -4915,10 +4948,10 @@ object GalleryForm: TGalleryForm
         TabStop = True
       end
       object GaugeSettings: TPanel
-        Left = 656
+        Left = 664
         Top = 0
         Width = 296
-        Height = 591
+        Height = 612
         Align = alRight
         BevelOuter = bvNone
         Caption = ''
@@ -4927,7 +4960,7 @@ object GalleryForm: TGalleryForm
           Left = 0
           Top = 0
           Width = 2
-          Height = 591
+          Height = 612
           Align = alLeft
           Shape = bsLeftLine
         end
@@ -5390,6 +5423,7 @@ object GalleryForm: TGalleryForm
         Top = 8
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Ranges and steps'
         Font.Charset = DEFAULT_CHARSET
@@ -5404,6 +5438,7 @@ object GalleryForm: TGalleryForm
         Top = 24
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object UnboundedCaption: TLabel
@@ -5453,6 +5488,7 @@ object GalleryForm: TGalleryForm
         Top = 118
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Colours of the button, the arrows and the edit'
         Font.Charset = DEFAULT_CHARSET
@@ -5467,6 +5503,7 @@ object GalleryForm: TGalleryForm
         Top = 134
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object SkyCaption: TLabel
@@ -5506,6 +5543,7 @@ object GalleryForm: TGalleryForm
         Top = 208
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'What may be done'
         Font.Charset = DEFAULT_CHARSET
@@ -5520,6 +5558,7 @@ object GalleryForm: TGalleryForm
         Top = 224
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object FreeCaption: TLabel
@@ -5559,6 +5598,7 @@ object GalleryForm: TGalleryForm
         Top = 298
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Fonts, which make the edit and its button higher'
         Font.Charset = DEFAULT_CHARSET
@@ -5573,6 +5613,7 @@ object GalleryForm: TGalleryForm
         Top = 314
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object SpinSampleAreaHeading: TLabel
@@ -5580,6 +5621,7 @@ object GalleryForm: TGalleryForm
         Top = 398
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'A sample, set on the right'
         Font.Charset = DEFAULT_CHARSET
@@ -5594,6 +5636,7 @@ object GalleryForm: TGalleryForm
         Top = 414
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object SpinGauge: TQELGauge
@@ -5829,10 +5872,10 @@ object GalleryForm: TGalleryForm
         OnChange = SampleSpinChange
       end
       object SpinSettings: TPanel
-        Left = 656
+        Left = 664
         Top = 0
         Width = 296
-        Height = 591
+        Height = 612
         Align = alRight
         BevelOuter = bvNone
         Caption = ''
@@ -5841,7 +5884,7 @@ object GalleryForm: TGalleryForm
           Left = 0
           Top = 0
           Width = 2
-          Height = 591
+          Height = 612
           Align = alLeft
           Shape = bsLeftLine
         end
@@ -6114,8 +6157,8 @@ object GalleryForm: TGalleryForm
       object ExplorerPanel: TPanel
         Left = 16
         Top = 30
-        Width = 920
-        Height = 545
+        Width = 928
+        Height = 566
         AlignWithMargins = True
         Margins.Left = 16
         Margins.Top = 30
@@ -6129,7 +6172,7 @@ object GalleryForm: TGalleryForm
           Left = 420
           Top = 0
           Width = 6
-          Height = 545
+          Height = 566
           AutoSnap = False
           MinSize = 150
           ResizeStyle = rsUpdate
@@ -6138,7 +6181,7 @@ object GalleryForm: TGalleryForm
           Left = 0
           Top = 0
           Width = 420
-          Height = 545
+          Height = 566
           AccessibleName = 'Folders'
           Align = alLeft
           HideSelection = False
@@ -6148,8 +6191,8 @@ object GalleryForm: TGalleryForm
         object ExplorerSettings: TPanel
           Left = 426
           Top = 0
-          Width = 494
-          Height = 545
+          Width = 502
+          Height = 566
           Align = alClient
           BevelOuter = bvNone
           Caption = ''
@@ -6234,6 +6277,7 @@ object GalleryForm: TGalleryForm
         Top = 8
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Rest the mouse here: a hint for each side'
         Font.Charset = DEFAULT_CHARSET
@@ -6248,6 +6292,7 @@ object GalleryForm: TGalleryForm
         Top = 24
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object HintEdgeCaption: TLabel
@@ -6263,6 +6308,7 @@ object GalleryForm: TGalleryForm
         Top = 184
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'Short and long'
         Font.Charset = DEFAULT_CHARSET
@@ -6277,6 +6323,7 @@ object GalleryForm: TGalleryForm
         Top = 200
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object HintControlsHeading: TLabel
@@ -6284,6 +6331,7 @@ object GalleryForm: TGalleryForm
         Top = 268
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'On other controls'
         Font.Charset = DEFAULT_CHARSET
@@ -6298,6 +6346,7 @@ object GalleryForm: TGalleryForm
         Top = 284
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object HintStageHeading: TLabel
@@ -6305,6 +6354,7 @@ object GalleryForm: TGalleryForm
         Top = 340
         Width = 616
         Height = 13
+        Anchors = [akLeft, akTop, akRight]
         AutoSize = False
         Caption = 'A stage'
         Font.Charset = DEFAULT_CHARSET
@@ -6319,6 +6369,7 @@ object GalleryForm: TGalleryForm
         Top = 356
         Width = 616
         Height = 2
+        Anchors = [akLeft, akTop, akRight]
         Shape = bsTopLine
       end
       object HintStageField: TQELLabel
@@ -6500,10 +6551,10 @@ object GalleryForm: TGalleryForm
           'Two')
       end
       object HintSettings: TPanel
-        Left = 656
+        Left = 664
         Top = 0
         Width = 296
-        Height = 591
+        Height = 612
         Align = alRight
         BevelOuter = bvNone
         Caption = ''
@@ -6512,7 +6563,7 @@ object GalleryForm: TGalleryForm
           Left = 0
           Top = 0
           Width = 2
-          Height = 591
+          Height = 612
           Align = alLeft
           Shape = bsLeftLine
         end
@@ -6897,8 +6948,8 @@ object GalleryForm: TGalleryForm
   end
   object StatusPanel: TPanel
     Left = 0
-    Top = 616
-    Width = 960
+    Top = 637
+    Width = 968
     Height = 24
     Align = alBottom
     Alignment = taLeftJustify
@@ -7340,28 +7391,20 @@ object GalleryForm: TGalleryForm
     Left = 366
     Top = 596
     object EnabledItem: TMenuItem
-      Caption = '&Enabled'
-      Hint = ''
-      OnClick = ButtonMenuToggle
+      Action = EnabledAction
     end
     object WordWrapItem: TMenuItem
-      Caption = '&Word wrap'
-      Hint = ''
-      OnClick = ButtonMenuToggle
+      Action = WordWrapAction
     end
     object SunkItem: TMenuItem
-      Caption = '&Sunk edge'
-      Hint = ''
-      OnClick = ButtonMenuToggle
+      Action = SunkAction
     end
     object FlatLineItem: TMenuItem
       Caption = '-'
       Hint = ''
     end
     object ThreeDimensionalItem: TMenuItem
-      Caption = '&Three-dimensional'
-      Hint = ''
-      OnClick = ButtonMenuToggle
+      Action = ThreeDimensionalAction
     end
     object StyleItem: TMenuItem
       Caption = 'St&yle'
@@ -7401,6 +7444,38 @@ object GalleryForm: TGalleryForm
         RadioItem = True
         OnClick = ButtonMenuStyle
       end
+    end
+  end
+  object ButtonActions: TActionList
+    Left = 404
+    Top = 596
+    object EnabledAction: TAction
+      OnExecute = ToggleExecute
+      OnUpdate = ToggleUpdate
+      Category = 'Button'
+      Caption = '&Enabled'
+      Hint = 'Whether the button can be pressed'
+    end
+    object WordWrapAction: TAction
+      OnExecute = ToggleExecute
+      OnUpdate = ToggleUpdate
+      Category = 'Button'
+      Caption = '&Word wrap'
+      Hint = 'Whether a long caption takes several lines'
+    end
+    object SunkAction: TAction
+      OnExecute = ToggleExecute
+      OnUpdate = ToggleUpdate
+      Category = 'Button'
+      Caption = '&Sunk edge'
+      Hint = 'Whether the edge goes into the form'
+    end
+    object ThreeDimensionalAction: TAction
+      OnExecute = ToggleExecute
+      OnUpdate = ToggleUpdate
+      Category = 'Button'
+      Caption = '&Three-dimensional'
+      Hint = 'Whether the caption has a depth'
     end
   end
 end

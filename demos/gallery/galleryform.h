@@ -15,6 +15,7 @@
 #include "qel/controls/Qeltspinedit.h"
 #include "qel/core/Qeltimer32.h"
 #include "qel/shell/Qeltexplorertree.h"
+#include "vcl/actions/actions.h"
 #include "vcl/forms/forms.h"
 #include "vcl/menus/menus.h"
 #include "vcl/stdctrls/comctrls.h"
@@ -45,10 +46,10 @@ class TGalleryForm : public vcl::TForm {
   vcl::TListBox* DropList = nullptr;
   vcl::TListBox* EventList = nullptr;
   vcl::TPopupMenu* ButtonMenu = nullptr;
-  vcl::TMenuItem* EnabledItem = nullptr;
-  vcl::TMenuItem* WordWrapItem = nullptr;
-  vcl::TMenuItem* SunkItem = nullptr;
-  vcl::TMenuItem* ThreeDimensionalItem = nullptr;
+  vcl::TAction* EnabledAction = nullptr;
+  vcl::TAction* WordWrapAction = nullptr;
+  vcl::TAction* SunkAction = nullptr;
+  vcl::TAction* ThreeDimensionalAction = nullptr;
   vcl::TMenuItem* StyleItem = nullptr;
   vcl::TPanel* HintUpLeftField = nullptr;
   vcl::TPanel* HintDownRightField = nullptr;
@@ -78,7 +79,8 @@ class TGalleryForm : public vcl::TForm {
   struct TToggle;
   static const TToggle Toggles[];
   void ButtonMenuPopup(vcl::TObject* sender);
-  void ButtonMenuToggle(vcl::TObject* sender);
+  void ToggleUpdate(vcl::TObject* sender);
+  void ToggleExecute(vcl::TObject* sender);
   void ButtonMenuStyle(vcl::TObject* sender);
   void SetFromMenu(std::string_view path, const std::string& text);
   void StoneDragOver(vcl::TObject* sender, vcl::TObject* source, int x, int y,

@@ -73,6 +73,31 @@ TEST_F(ListLooks, SwatchesAreAsWideAsTold) {
   EXPECT_GT(Find(own).Width(), 80);
 }
 
+TEST_F(ListLooks, TextsThatAreTooLongEndWithDots) {
+  Make<vcl::TButton>(200, 10);  // Has the focus: what has it is in other colours.
+  auto* combo = Make<TQELColorCombo>(0, 0);
+  combo->SetWidth(120);
+  combo->Font()->SetColor(vcl::clFuchsia);
+  combo->OnGetColors = [](vcl::TObject*, vcl::TStrings* lines) {
+    lines->Add("HHHH=$00FF0000");
+    lines->Add("HHHHHHHHHHHHHHHHHHHHHHHHHHHHHHHH=$0000FF00");
+  };
+  combo->SetColors({});
+  combo->PopulateList();
+  combo->SetSelected(vcl::clBlue);
+  ShowForm();
+  const vcl::TRect letters = Find(vcl::clFuchsia);
+  combo->SetSelected(vcl::clLime);
+  testinput::Pump();
+  const auto shot = Form.GetFormImage();
+  // Where the long text ends there is nothing at the letters' heads, only the dots at their feet.
+  const int right = Find(vcl::clFuchsia).Right;
+  ASSERT_GT(right, letters.Right + 10);
+  EXPECT_EQ(shot->Canvas()->Pixels(right - 1, letters.Bottom - 1), vcl::clFuchsia);
+  for (int x = right - 4; x < right; ++x)
+    EXPECT_NE(shot->Canvas()->Pixels(x, letters.Top), vcl::clFuchsia);
+}
+
 bool Sorted(const vcl::TStrings& lines) {
   for (int i = 1; i < lines.Count(); ++i) {
     if (vcl::AnsiCompareText(lines.Strings(i - 1), lines.Strings(i)) > 0) return false;

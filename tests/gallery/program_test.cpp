@@ -79,8 +79,8 @@ TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
     EXPECT_EQ(std::filesystem::path(Files[i]).filename().string(), names[i]);
     EXPECT_EQ(PngChunks(FileBytes(Files[i])).substr(0, 4), "IHDR");
     const TPicture picture(Files[i]);
-    EXPECT_EQ(picture.Width, 960);
-    EXPECT_EQ(picture.Height, 640);
+    EXPECT_EQ(picture.Width, 968);
+    EXPECT_EQ(picture.Height, 661);
     EXPECT_GT(picture.ColorCount(), 30u);
   }
 }

@@ -2,6 +2,8 @@
 #include "vcl/stdctrls/linelook.h"
 
 #include "vcl/graphics/canvas.h"
+#include "vcl/graphics/fontmetrics.h"
+#include "vcl/rtl/win32.h"
 #include "vcl/stdctrls/private/listlines.h"
 
 namespace vcl {
@@ -17,9 +19,13 @@ void TLineLook::SetMark(TCustomListControl& list, int index, int mark) {
 void TLineLook::DrawLineText(TCustomListControl& list, const TRect& rect, int indentation,
                              const std::string& text) {
   TCanvas& canvas = *list.Canvas();
-  const int top = rect.Top + (rect.Height() - canvas.TextHeight(text)) / 2;
-  canvas.TextRect({rect.Left + indentation, rect.Top, rect.Right, rect.Bottom},
-                  rect.Left + indentation, top, text);
+  const TSize extent = canvas.TextExtent(text);
+  TRect place{rect.Left + indentation, rect.Top, rect.Right, rect.Bottom};
+  const int top = rect.Top + (rect.Height() - extent.cy) / 2;
+  if (extent.cx <= place.Width()) return canvas.TextRect(place, place.Left, top, text);
+  canvas.TextRect(place, place.Left, top, {});  // The ground alone.
+  place.Top = top;
+  DrawTextOn(&canvas, text, place, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
 }  // namespace vcl

@@ -28,7 +28,7 @@ class VCL_API TLineLook {
   static int Mark(const TCustomListControl& list, int index);
   static void SetMark(TCustomListControl& list, int index, int mark);
   /// Draws the text in the canvas's font, in the middle of the line's height, behind an indentation
-  /// from its left edge in pixels.
+  /// from its left edge in pixels; one that is wider than the line ends with dots.
   static void DrawLineText(TCustomListControl& list, const TRect& rect, int indentation,
                            const std::string& text);
 };
