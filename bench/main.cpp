@@ -8,6 +8,7 @@
 
 #include "bench/backgrounds.h"
 #include "bench/dates.h"
+#include "bench/fields.h"
 #include "bench/forms.h"
 #include "bench/gauge.h"
 #include "bench/grids.h"
@@ -28,6 +29,7 @@ constexpr TGroup Groups[] = {{"backgrounds", bench::Backgrounds},
                              {"grids", bench::Grids},
                              {"lists", bench::Lists},
                              {"painted", bench::Painted},
+                             {"fields", bench::Fields},
                              {"dates", bench::Dates},
                              {"settings", bench::Settings}};
 

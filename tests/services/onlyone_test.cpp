@@ -47,7 +47,7 @@ TEST_F(OnlyOne, BringsTheOtherToTheFrontOrEndsItself) {
     EXPECT_EQ(TCopy(Title, 1, onExceed).ExitCode(), code) << onExceed;
     EXPECT_EQ(::IsWindowVisible(Form.Handle()) != FALSE, restores) << onExceed;
     Application()->Restore();
-    ASSERT_TRUE(PumpUntil([this] { return Form.Active(); }));
+    ASSERT_TRUE(PumpUntil([this] { return ::IsWindowVisible(Form.Handle()) != FALSE; }));
   }
 }
 
