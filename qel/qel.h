@@ -52,6 +52,7 @@
 #include "qel/dbcontrols/Qeltdbspinedit.h"
 #include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/dialogs/Qelformdialog.h"
+#include "qel/dialogs/Qelhelpdialog.h"
 #include "qel/dialogs/Qeltfolderbrowser.h"
 #include "qel/dialogs/Qeltmsgbox.h"
 #include "qel/dialogs/Qeltmsgdlg.h"

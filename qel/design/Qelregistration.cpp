@@ -249,6 +249,7 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELStoreData::Class(),
       &TQELAutoCombo::Class(),
       &TQELSystemTray::Class(),
+      &TQELHelpDialog::Class(),
       &TQELFormDialog::Class(),
       &TQELMsgDlg::Class(),
       &TQELMsgSelect::Class(),
