@@ -46,6 +46,7 @@
 #include "qel/dbcontrols/Qeltdbmemoview.h"
 #include "qel/dbcontrols/Qeltdbnavigator.h"
 #include "qel/dbcontrols/Qeltdbofficeedit.h"
+#include "qel/dbcontrols/Qeltdbsearchform.h"
 #include "qel/dbcontrols/Qeltdbspinedit.h"
 #include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/design/Qelbindings.h"
@@ -121,6 +122,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        }},
       {"QEL DBControls",
        {
+           &TQELDBSearchForm::Class(),
            &TQELDBLookupedit::Class(),
            &TQELDBLabel::Class(),
            &TQELDBNavigator::Class(),
@@ -279,6 +281,7 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELDBSpinEdit::Class(),
       &TQELDBLookupedit::Class(),
       &TQELDBNavigator::Class(),
+      &TQELDBSearchForm::Class(),
       &TQELDBIndexLookup::Class(),
       &TQELDBImageView::Class(),
       &TQELDBMemoView::Class(),

@@ -236,10 +236,27 @@ int TDialogForm::Run() {
   return FResult;
 }
 
+/// Without an owner of its own, the window would go behind that form at the first click there.
+void TDialogForm::StayOpen() {
+  vcl::TCustomForm* const form = vcl::Screen()->ActiveForm();
+  if (form && form->HandleAllocated()) {
+    ::SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(form->Handle()));
+  }
+  Lay();
+  PlaceOverForm();
+  Show();
+}
+
+void TDialogForm::DoClose(vcl::TCloseAction& action) {
+  if (!Modal()) action = vcl::caFree;
+  TForm::DoClose(action);
+}
+
 // Its answer and its keys.
 
 void TDialogForm::Finish(int result) {
   FResult = result;
+  if (!Modal() && Visible()) return Close();
   SetModalResult(vcl::mrOk);
 }
 
