@@ -55,6 +55,7 @@
 #include "qel/dialogs/Qeltmsgbox.h"
 #include "qel/dialogs/Qeltmsgdlg.h"
 #include "qel/dialogs/Qeltmsgselect.h"
+#include "qel/dialogs/Qeltpagesetupdialog.h"
 #include "qel/dialogs/Qeltshellabout.h"
 #include "qel/dialogs/Qelttiptricks.h"
 #include "qel/mail/Qeltiemails.h"
@@ -142,6 +143,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELShellAbout::Class(),
            &TQELMsgSelect::Class(),
            &TQELFolderBrowser::Class(),
+           &TQELPageSetupDialog::Class(),
        }},
       {"QEL System/1",
        {
@@ -290,6 +292,8 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELFolderBrowser::Class(),
       &TQELMsgBox::Class(),
       &TQELShellAbout::Class(),
+      &TQELPageMargins::Class(),
+      &TQELPageSetupDialog::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }

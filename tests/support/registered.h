@@ -43,5 +43,6 @@ inline void RegisterAll() {
                         &qel::TQELDBMemoView::Class(), &qel::TQELDBSearchForm::Class()});
   vcl::RegisterClasses({&qel::TQELFolderBrowser::Class(), &qel::TQELMsgBox::Class(),
                         &qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class(),
-                        &qel::TQELShellAbout::Class(), &qel::TQELTipTricks::Class()});
+                        &qel::TQELShellAbout::Class(), &qel::TQELTipTricks::Class(),
+                        &qel::TQELPageSetupDialog::Class()});
 }
