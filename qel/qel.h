@@ -60,6 +60,7 @@
 #include "qel/dialogs/Qeltmsgselect.h"
 #include "qel/dialogs/Qeltpagesetupdialog.h"
 #include "qel/dialogs/Qeltshellabout.h"
+#include "qel/dialogs/Qeltsplashscreen.h"
 #include "qel/dialogs/Qelttiptricks.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"

@@ -57,6 +57,7 @@
 #include "qel/dialogs/Qeltmsgselect.h"
 #include "qel/dialogs/Qeltpagesetupdialog.h"
 #include "qel/dialogs/Qeltshellabout.h"
+#include "qel/dialogs/Qeltsplashscreen.h"
 #include "qel/dialogs/Qelttiptricks.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
@@ -141,6 +142,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELMsgBox::Class(),
            &TQELMsgDlg::Class(),
            &TQELShellAbout::Class(),
+           &TQELSplashScreen::Class(),
            &TQELMsgSelect::Class(),
            &TQELFolderBrowser::Class(),
            &TQELPageSetupDialog::Class(),
@@ -294,6 +296,7 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELShellAbout::Class(),
       &TQELPageMargins::Class(),
       &TQELPageSetupDialog::Class(),
+      &TQELSplashScreen::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }

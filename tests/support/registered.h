@@ -44,5 +44,5 @@ inline void RegisterAll() {
   vcl::RegisterClasses({&qel::TQELFolderBrowser::Class(), &qel::TQELMsgBox::Class(),
                         &qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class(),
                         &qel::TQELShellAbout::Class(), &qel::TQELTipTricks::Class(),
-                        &qel::TQELPageSetupDialog::Class()});
+                        &qel::TQELPageSetupDialog::Class(), &qel::TQELSplashScreen::Class()});
 }
