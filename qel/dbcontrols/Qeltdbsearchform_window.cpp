@@ -114,8 +114,7 @@ void TQELDBSearchForm::TWindow::FieldsChanged() {
   for (const std::string& name : FNames) {
     const vcl::TField* const field =
         name.empty() ? nullptr : FSearch.FLink.DataSet()->FindField(name);
-    const int place =
-        FField->Items()->Add(field ? field->DisplayLabel() : FSearch.FAllFieldsText);
+    const int place = FField->Items()->Add(field ? field->DisplayLabel() : FSearch.FAllFieldsText);
     if (field && field == FSearch.FLink.DataSet()->FindField(FSearch.FSearchField)) chosen = place;
   }
   FField->SetItemIndex(chosen);

@@ -13,9 +13,9 @@
 
 namespace qel {
 
-/// A form, modal or one that stays open: a picture at the left, rows of text and controls beside it, and a row of buttons
-/// below. It has its monitor's dots per inch from the beginning, so that what is put in is measured
-/// in them, and takes its size from what it holds when it is shown.
+/// A form, modal or one that stays open: a picture at the left, rows of text and controls beside
+/// it, and a row of buttons below. It has its monitor's dots per inch from the beginning, so that
+/// what is put in is measured in them, and takes its size from what it holds when it is shown.
 class TDialogForm : public vcl::TForm {
  public:
   /// Made for the dialog, whose title, background and help it has; it closes when that is freed.
