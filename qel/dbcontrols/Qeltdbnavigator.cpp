@@ -67,6 +67,7 @@ const vcl::TClass& TQELDBNavigator::Class() {
           ReadOnly<&T::PriorButton>("PriorButton"),
           ReadOnly<&T::RefreshButton>("RefreshButton"),
           Property<&T::Repeating, &T::SetRepeating>("Repeating").Default(false),
+          Property<&T::SearchForm, &T::SetSearchForm>("SearchForm"),
           Inherit("ShowHint"),
           Inherit("TabOrder"),
           Inherit("TabStop").Default(true),
@@ -134,6 +135,17 @@ void TQELDBNavigator::SetFlat(bool flat) {
   }
 }
 
+void TQELDBNavigator::SetSearchForm(TQELDBSearchForm* form) {
+  FSearchForm = form;
+  if (form) form->FreeNotification(this);
+  DetailsChanged();
+}
+
+void TQELDBNavigator::Notification(vcl::TComponent* component, vcl::TOperation operation) {
+  TQELCustomControl::Notification(component, operation);
+  if (operation == vcl::opRemove && component == FSearchForm) SetSearchForm(nullptr);
+}
+
 std::string TQELDBNavigator::ButtonName(TQELNavigatorButton button) const {
   const TQELButtonDetails* const details = Details(button);
   if (details && !details->Hint().empty()) return details->Hint();
@@ -162,12 +174,17 @@ void TQELDBNavigator::UpdateHints() {
 }
 
 bool TQELDBNavigator::Shows(TQELNavigatorButton button) const {
-  return button != nbFind && FVisibleButtons.Has(button) && Details(button)->Visible();
+  if (button == nbFind && !FSearchForm) return false;
+  return FVisibleButtons.Has(button) && Details(button)->Visible();
+}
+
+bool TQELDBNavigator::CanFind() const {
+  return FSearchForm && FLink.Active() && !FLink.DataSet()->IsUniDirectional();
 }
 
 /// What can be done, the actions know. Without a source they would look for one on the form.
 bool TQELDBNavigator::CanDo(TQELNavigatorButton button) {
-  if (button == nbFind) return false;
+  if (button == nbFind) return CanFind();
   // One that ends tells of it while it still has its links.
   const bool lives = FLink.DataSource() && !FLink.DataSource()->Destroying();
   vcl::TDataSetAction& action = *FActions[button];
@@ -240,6 +257,15 @@ bool TQELDBNavigator::Confirmed(TQELNavigatorButton button) const {
   return vcl::MessageDlg(question, vcl::mtConfirmation, {vcl::mbOK, vcl::mbCancel}) == vcl::mrOk;
 }
 
+void TQELDBNavigator::Do(TQELNavigatorButton button) {
+  if (button != nbFind) {
+    FActions[button]->Execute();
+    return;
+  }
+  if (!FSearchForm->DataSource()) FSearchForm->SetDataSource(DataSource());
+  FSearchForm->Execute();
+}
+
 void TQELDBNavigator::PressButton(TQELNavigatorButton button) {
   if (!ButtonEnabled(button) || Designing()) return;
   const TWatch watch(this);
@@ -247,7 +273,7 @@ void TQELDBNavigator::PressButton(TQELNavigatorButton button) {
   BeforeAction(this, button, allow);
   if (watch.Gone() || !allow || !Confirmed(button)) return;
   if (watch.Gone() || !CanDo(button)) return;
-  FActions[button]->Execute();
+  Do(button);
   if (!watch.Gone()) OnClick(this, button);
 }
 

@@ -9,6 +9,7 @@
 #include "qel/core/Qelbuttondetails.h"
 #include "qel/core/Qelcontrols.h"
 #include "qel/core/Qelenumerations.h"
+#include "qel/dbcontrols/Qeltdbsearchform.h"
 #include "vcl/dbctrls/dbactions.h"
 
 namespace qel {
@@ -84,6 +85,11 @@ class QEL_API TQELDBNavigator : public TQELCustomControl {
   /// True: nbPrior and nbNext, held down, go on from record to record.
   void SetRepeating(bool repeating) { FRepeating = repeating; }
 
+  TQELDBSearchForm* SearchForm() const { return FSearchForm; }
+  /// What nbFind shows, which is not owned; without it there is no nbFind. One that has no
+  /// DataSource searches the navigator's.
+  void SetSearchForm(TQELDBSearchForm* form);
+
   /// What is set of a button, whose ConfirmOnPress has the user asked first.
   TQELButtonDetails* Details(TQELNavigatorButton button) const { return FDetails[button].get(); }
   /// What is set of the button that goes to the first record.
@@ -131,6 +137,7 @@ class QEL_API TQELDBNavigator : public TQELCustomControl {
   void Loaded() override;
   void Dispatch(vcl::TMessage& message) override;
   void KeyDown(std::uint16_t& key, vcl::TShiftState shift) override;
+  void Notification(vcl::TComponent* component, vcl::TOperation operation) override;
 
  private:
   friend class TQELNavigatorPress;
@@ -151,6 +158,8 @@ class QEL_API TQELDBNavigator : public TQELCustomControl {
 
   bool Shows(TQELNavigatorButton button) const;
   bool CanDo(TQELNavigatorButton button);
+  bool CanFind() const;
+  void Do(TQELNavigatorButton button);
   bool Confirmed(TQELNavigatorButton button) const;
   void UpdateHints();
   void UpdateButtons();
@@ -167,6 +176,7 @@ class QEL_API TQELDBNavigator : public TQELCustomControl {
                                        nbEdit,  nbPost,  nbCancel, nbRefresh, nbFind};
   TQELKind FDirection = kHorizontal;
   TQELNavigatorButton FFocused = nbFirst;
+  TQELDBSearchForm* FSearchForm = nullptr;
   bool FConfirmDelete = true;
   bool FFlat = false;
   bool FRepeating = false;

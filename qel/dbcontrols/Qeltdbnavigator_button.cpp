@@ -1,4 +1,5 @@
 // TQELNavigatorPress: its picture, its name, and going on while it is held down.
+#include <algorithm>
 #include <utility>
 
 #include "qel/core/private/uistate.h"
@@ -80,8 +81,29 @@ void TQELNavigatorPress::Dispatch(vcl::TMessage& message) {
 
 // Look.
 
+/// A magnifying glass, embossed where nothing can be sought.
+void TQELNavigatorPress::DrawFind() {
+  const int side = std::min({ScaledPixels(PictureSide), Width() - 2, Height() - 2});
+  const vcl::TPoint corner((Width() - side) / 2, (Height() - side) / 2);
+  const auto draw = [&](int by, vcl::TColor color) {
+    const auto at = [&](int sixteenths) { return by + sixteenths * side / 16; };
+    vcl::TCanvas& canvas = *Canvas();
+    canvas.Pen()->SetColor(color);
+    canvas.Pen()->SetWidth(std::max(1, side / 8));
+    canvas.Brush()->SetStyle(vcl::bsClear);
+    canvas.Ellipse(corner.X + at(2), corner.Y + at(2), corner.X + at(11), corner.Y + at(11));
+    canvas.MoveTo(corner.X + at(10), corner.Y + at(10));
+    canvas.LineTo(corner.X + at(14), corner.Y + at(14));
+    canvas.Pen()->SetWidth(1);
+    canvas.Brush()->SetStyle(vcl::bsSolid);
+  };
+  if (!Enabled()) draw(1, vcl::clBtnHighlight);
+  draw(0, Enabled() ? vcl::clBtnText : vcl::clBtnShadow);
+}
+
 void TQELNavigatorPress::DrawPicture() {
-  if (FButton == nbFind || !Caption().empty() || !Glyph()->Empty()) return;
+  if (!Caption().empty() || !Glyph()->Empty()) return;
+  if (FButton == nbFind) return DrawFind();
   vcl::DrawNavigatorPicture(*Canvas(), static_cast<vcl::TNavigateBtn>(FButton), ClientRect(),
                             ScaledPixels(PictureSide), Enabled());
 }

@@ -13,6 +13,7 @@
 #include "qel/dbcontrols/Qeltdblabel.h"
 #include "qel/dbcontrols/Qeltdblookupedit.h"
 #include "qel/dbcontrols/Qeltdbofficeedit.h"
+#include "qel/dbcontrols/Qeltdbsearchform.h"
 #include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/design/Qelcolorsinbetween.h"
 #include "qel/design/Qelcomponenteditors.h"
@@ -69,6 +70,7 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELHintProperty), "string", &TQELMsgDlg::Class(), "Text"},
       {QEL_EDITOR(TQELHintProperty), "string", &TQELMsgSelect::Class(), "Text"},
       {QEL_EDITOR(TQELFilenameProperty), "string", &TQELTipTricks::Class(), "Filename"},
+      {QEL_EDITOR(TQELDataFieldProperty), "string", &TQELDBSearchForm::Class(), "DefaultField"},
   };
   return entries;
 }

@@ -46,6 +46,7 @@
 #include "qel/dbcontrols/Qeltdbmemoview.h"
 #include "qel/dbcontrols/Qeltdbnavigator.h"
 #include "qel/dbcontrols/Qeltdbofficeedit.h"
+#include "qel/dbcontrols/Qeltdbsearchform.h"
 #include "qel/dbcontrols/Qeltdbspinedit.h"
 #include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/design/Qelbindings.h"
@@ -54,7 +55,9 @@
 #include "qel/dialogs/Qeltmsgbox.h"
 #include "qel/dialogs/Qeltmsgdlg.h"
 #include "qel/dialogs/Qeltmsgselect.h"
+#include "qel/dialogs/Qeltpagesetupdialog.h"
 #include "qel/dialogs/Qeltshellabout.h"
+#include "qel/dialogs/Qeltsplashscreen.h"
 #include "qel/dialogs/Qelttiptricks.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
@@ -121,6 +124,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        }},
       {"QEL DBControls",
        {
+           &TQELDBSearchForm::Class(),
            &TQELDBLookupedit::Class(),
            &TQELDBLabel::Class(),
            &TQELDBNavigator::Class(),
@@ -138,8 +142,10 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELMsgBox::Class(),
            &TQELMsgDlg::Class(),
            &TQELShellAbout::Class(),
+           &TQELSplashScreen::Class(),
            &TQELMsgSelect::Class(),
            &TQELFolderBrowser::Class(),
+           &TQELPageSetupDialog::Class(),
        }},
       {"QEL System/1",
        {
@@ -249,6 +255,7 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELStoreData::Class(),
       &TQELAutoCombo::Class(),
       &TQELSystemTray::Class(),
+      &TQELHelpDialog::Class(),
       &TQELFormDialog::Class(),
       &TQELMsgDlg::Class(),
       &TQELMsgSelect::Class(),
@@ -278,6 +285,7 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELDBSpinEdit::Class(),
       &TQELDBLookupedit::Class(),
       &TQELDBNavigator::Class(),
+      &TQELDBSearchForm::Class(),
       &TQELDBIndexLookup::Class(),
       &TQELDBImageView::Class(),
       &TQELDBMemoView::Class(),
@@ -286,6 +294,9 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELFolderBrowser::Class(),
       &TQELMsgBox::Class(),
       &TQELShellAbout::Class(),
+      &TQELPageMargins::Class(),
+      &TQELPageSetupDialog::Class(),
+      &TQELSplashScreen::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }

@@ -8,13 +8,11 @@ namespace qel {
 const vcl::TClass& TQELFormDialog::Class() {
   using T = TQELFormDialog;
   using namespace vcl;
-  static const TClass info = Describe<T, TQELCustomDialog>(
+  static const TClass info = Describe<T, TQELHelpDialog>(
       "qel::TQELFormDialog", "qel/dialogs/Qelformdialog.h",
       {
           Property<&T::Background, &T::SetBackground>("Background").Type("TQELBackground"),
-          Property<&T::HelpContext, &T::SetHelpContext>("HelpContext").Default(0),
           Property<&T::Title, &T::SetTitle>("Title").Default(""),
-          Event<&T::OnHelp>("OnHelp").Type("TQELHelpEvent", "vcl::TObject* sender, int context"),
       });
   return info;
 }
@@ -25,7 +23,7 @@ void TQELFormDialog::SetBackground(TQELCustomBackground* background) {
 }
 
 void TQELFormDialog::Notification(vcl::TComponent* component, vcl::TOperation operation) {
-  TQELCustomDialog::Notification(component, operation);
+  TQELHelpDialog::Notification(component, operation);
   if (operation == vcl::opRemove && component == FBackground) FBackground = nullptr;
 }
 

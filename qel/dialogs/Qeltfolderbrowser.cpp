@@ -4,6 +4,7 @@
 #include <iterator>
 #include <type_traits>
 
+#include "qel/dialogs/private/systemhelp.h"
 #include "vcl/dialogs/commondialog.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/properties.h"
@@ -133,7 +134,7 @@ class TQELFolderBrowser::TBox : public vcl::TCommonDialog {
 const vcl::TClass& TQELFolderBrowser::Class() {
   using T = TQELFolderBrowser;
   using namespace vcl;
-  static const TClass info = Describe<T, TQELCustomDialog>(
+  static const TClass info = Describe<T, TQELHelpDialog>(
       "qel::TQELFolderBrowser", "qel/dialogs/Qeltfolderbrowser.h",
       {
           Property<&T::Folder, &T::SetFolder>("Folder"),
@@ -146,7 +147,7 @@ const vcl::TClass& TQELFolderBrowser::Class() {
 }
 
 TQELFolderBrowser::TQELFolderBrowser(vcl::TComponent* owner)
-    : TQELCustomDialog(owner), FBox(std::make_unique<TBox>(*this)) {}
+    : TQELHelpDialog(owner), FBox(std::make_unique<TBox>(*this)) {}
 
 TQELFolderBrowser::~TQELFolderBrowser() { AnnounceEnd(); }
 
@@ -156,8 +157,9 @@ bool TQELFolderBrowser::Execute() {
     FLastError = vcl::Concat("The folder \"", FRoot, "\" is not there");
     return false;
   }
-  TQELCustomDialog::Execute();
+  TQELHelpDialog::Execute();
   const vcl::TWatch watch(this);
+  const TSystemHelp help(*this);
   if (!FBox->Execute() || watch.Gone()) return false;
   FFolder = FBox->Chosen;
   return true;

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "qel/core/Qelclasses.h"
+#include "qel/dialogs/Qelhelpdialog.h"
 #include "vcl/rtl/sets.h"
 
 namespace qel {
@@ -25,7 +25,7 @@ using TQELFolderSelectionEvent =
 
 /// Lets the user choose a folder in the system's dialog (SHBrowseForFolderW), in front of the
 /// active form.
-class QEL_API TQELFolderBrowser : public TQELCustomDialog {
+class QEL_API TQELFolderBrowser : public TQELHelpDialog {
  public:
   explicit TQELFolderBrowser(vcl::TComponent* owner);
   ~TQELFolderBrowser() override;

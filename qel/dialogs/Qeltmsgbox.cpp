@@ -1,6 +1,7 @@
 // TQELMsgBox: its table, and the system's flags for its settings.
 #include "qel/dialogs/Qeltmsgbox.h"
 
+#include "qel/dialogs/private/systemhelp.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
@@ -25,7 +26,7 @@ constexpr int DefaultFlags[] = {MB_DEFBUTTON1, MB_DEFBUTTON2, MB_DEFBUTTON3, MB_
 const vcl::TClass& TQELMsgBox::Class() {
   using T = TQELMsgBox;
   using namespace vcl;
-  static const TClass info = Describe<T, TQELCustomDialog>(
+  static const TClass info = Describe<T, TQELHelpDialog>(
       "qel::TQELMsgBox", "qel/dialogs/Qeltmsgbox.h",
       {
           Property<&T::Buttons, &T::SetButtons>("Buttons").Default(mbOk),
@@ -42,10 +43,11 @@ void TQELMsgBox::SetDefaultButton(int button) {
 }
 
 bool TQELMsgBox::Execute() {
-  TQELCustomDialog::Execute();
+  TQELHelpDialog::Execute();
   const vcl::TWatch watch(this);
   const int flags = IconFlags[FIcon] | ButtonFlags[FButtons] | DefaultFlags[FDefaultButton - 1];
   const std::string caption = FCaption.empty() ? vcl::Application()->Title() : FCaption;
+  const TSystemHelp help(*this);
   const int answer = vcl::Application()->MessageBox(FText, caption, flags);
   if (watch.Gone()) return false;
   if (!answer) throw vcl::EOutOfResources(vcl::Concat("The system cannot show \"", FText, "\""));

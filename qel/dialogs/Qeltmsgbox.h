@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "qel/core/Qelclasses.h"
+#include "qel/dialogs/Qelhelpdialog.h"
 #include "vcl/controls/controltypes.h"
 
 namespace qel {
@@ -23,9 +23,9 @@ enum TQELMsgBoxButtons {
 
 /// Shows the system's message box in front of the active form, and keeps which button the user
 /// has pressed.
-class QEL_API TQELMsgBox : public TQELCustomDialog {
+class QEL_API TQELMsgBox : public TQELHelpDialog {
  public:
-  explicit TQELMsgBox(vcl::TComponent* owner) : TQELCustomDialog(owner) {}
+  explicit TQELMsgBox(vcl::TComponent* owner) : TQELHelpDialog(owner) {}
   ~TQELMsgBox() override { AnnounceEnd(); }
   static const vcl::TClass& Class();
   const vcl::TClass& ClassType() const override { return Class(); }

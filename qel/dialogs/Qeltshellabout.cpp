@@ -1,6 +1,7 @@
 // TQELShellAbout: its table, and the box.
 #include "qel/dialogs/Qeltshellabout.h"
 
+#include "qel/dialogs/private/systemhelp.h"
 #include "vcl/dialogs/commondialog.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/properties.h"
@@ -34,17 +35,17 @@ const vcl::TClass& TQELShellAbout::Class() {
   using T = TQELShellAbout;
   using namespace vcl;
   static const TClass info =
-      Describe<T, TQELCustomDialog>("qel::TQELShellAbout", "qel/dialogs/Qeltshellabout.h",
-                                    {
-                                        Property<&T::Icon, &T::SetIcon>("Icon"),
-                                        Property<&T::Text, &T::SetText>("Text"),
-                                        Property<&T::Title, &T::SetTitle>("Title"),
-                                    });
+      Describe<T, TQELHelpDialog>("qel::TQELShellAbout", "qel/dialogs/Qeltshellabout.h",
+                                  {
+                                      Property<&T::Icon, &T::SetIcon>("Icon"),
+                                      Property<&T::Text, &T::SetText>("Text"),
+                                      Property<&T::Title, &T::SetTitle>("Title"),
+                                  });
   return info;
 }
 
 TQELShellAbout::TQELShellAbout(vcl::TComponent* owner)
-    : TQELCustomDialog(owner),
+    : TQELHelpDialog(owner),
       FIcon(std::make_unique<vcl::TIcon>()),
       FBox(std::make_unique<TBox>(*this)) {}
 
@@ -55,7 +56,8 @@ HICON TQELShellAbout::ShownIcon() const {
 }
 
 bool TQELShellAbout::Execute() {
-  TQELCustomDialog::Execute();
+  TQELHelpDialog::Execute();
+  const TSystemHelp help(*this);
   return FBox->Execute();
 }
 

@@ -4,13 +4,13 @@
 #include <memory>
 #include <string>
 
-#include "qel/core/Qelclasses.h"
+#include "qel/dialogs/Qelhelpdialog.h"
 #include "vcl/graphics/graphics.h"
 
 namespace qel {
 
 /// Shows the system's about box for the program, in front of the active form.
-class QEL_API TQELShellAbout : public TQELCustomDialog {
+class QEL_API TQELShellAbout : public TQELHelpDialog {
  public:
   explicit TQELShellAbout(vcl::TComponent* owner);
   ~TQELShellAbout() override;

@@ -55,5 +55,57 @@ TEST_F(DataFormFile, HoldsTheBindingAndNoValue) {
   EXPECT_EQ(again->ButtonRect(nbNext).Width(), again->ClientWidth());
 }
 
+/// The views hold how they show a field, and nothing of what is in it.
+TEST_F(DataFormFile, HoldsTheSettingsOfViewsAndOfTheSearch) {
+  RegisterAll();
+  vcl::RegisterClasses({&vcl::TDataSource::Class()});
+  vcl::TForm form(nullptr);
+  auto* source = new vcl::TDataSource(&form);
+  source->SetName("Records");
+  source->SetDataSet(&Data);
+  const auto make = [&]<class T>(T* control, const char* name, const char* field) {
+    control->SetName(name);
+    control->SetParent(&form);
+    control->SetDataSource(source);
+    control->SetDataField(field);
+    return control;
+  };
+  make(new TQELDBIndexLookup(&form), "Index", "Name")->SetBeep(true);
+  auto* image = make(new TQELDBImageView(&form), "Image", "Photo");
+  image->SetStretch(true);
+  image->SetProportional(false);
+  image->SetAutoDisplay(false);
+  auto* memo = make(new TQELDBMemoView(&form), "Memo", "Notes");
+  memo->SetEditInWindow(true);
+  memo->SetScrollBars(vcl::ssVertical);
+  auto* search = new TQELDBSearchForm(&form);
+  search->SetName("Search");
+  search->SetDataSource(source);
+  search->Fields()->SetText("Name\r\nCount");
+  search->SetDefaultField("Count");
+  search->SetOptions({soCase, soFromCurrent});
+  search->CloseButton()->SetCaption("Done");
+  auto* navigator = new TQELDBNavigator(&form);
+  navigator->SetName("Navigator");
+  navigator->SetParent(&form);
+  navigator->SetSearchForm(search);
+  const std::string text = FormText(&form);
+  EXPECT_EQ(memo->Lines()->Count(), 1) << "the record is shown";
+  EXPECT_THAT(text, testing::Not(testing::HasSubstr("Lines")));
+  EXPECT_THAT(text, testing::Not(testing::HasSubstr("Picture")));
+  vcl::TForm read(nullptr);
+  ReadForm(text, &read);
+  EXPECT_EQ(FormText(&read), text);
+  const auto find = [&]<class T>(T*, const char* name) {
+    return dynamic_cast<T*>(read.FindComponent(name));
+  };
+  EXPECT_TRUE(find(static_cast<TQELDBIndexLookup*>(nullptr), "Index")->Beep());
+  EXPECT_FALSE(find(image, "Image")->Proportional());
+  EXPECT_FALSE(find(image, "Image")->AutoDisplay());
+  EXPECT_TRUE(find(memo, "Memo")->EditInWindow());
+  EXPECT_EQ(find(search, "Search")->SearchField(), "Count");
+  EXPECT_EQ(find(navigator, "Navigator")->SearchForm(), find(search, "Search"));
+}
+
 }  // namespace
 }  // namespace qel

@@ -132,6 +132,31 @@ TEST_F(Navigator, WorksByKeyboardAndTellsOfIt) {
   EXPECT_EQ(Nav->FocusedButton(), nbFirst);
 }
 
+TEST_F(Navigator, FindsWithASearchForm) {
+  ShowForm();
+  EXPECT_TRUE(Nav->ButtonRect(nbFind).Empty());
+  auto* search = new TQELDBSearchForm(&Form);
+  search->SetStayOpen(true);
+  search->SetSearchText("b&b");
+  Nav->SetSearchForm(search);
+  EXPECT_FALSE(Nav->ButtonRect(nbFind).Empty());
+  Press(nbFind);
+  EXPECT_EQ(search->DataSource(), &Source) << "the navigator's, where it had none";
+  EXPECT_TRUE(search->Shown());
+  Key(VK_RETURN);
+  EXPECT_EQ(Data.RecNo(), 2);
+  Key(VK_ESCAPE);
+  EXPECT_THAT(Done, testing::ElementsAre(nbFind));
+  Nav->FindButton()->SetEnabled(false);
+  EXPECT_FALSE(Nav->ButtonEnabled(nbFind));
+  Nav->FindButton()->SetEnabled(true);
+  Data.Close();
+  EXPECT_FALSE(Nav->ButtonEnabled(nbFind));
+  delete search;
+  EXPECT_EQ(Nav->SearchForm(), nullptr);
+  EXPECT_TRUE(Nav->ButtonRect(nbFind).Empty());
+}
+
 TEST_F(Navigator, MayBeFreedInItsOwnEvents) {
   ShowForm();
   Nav->BeforeAction = [this](vcl::TObject*, TQELNavigatorButton, bool&) { delete Nav; };

@@ -40,8 +40,9 @@ inline void RegisterAll() {
                         &qel::TQELDBOfficeEdit::Class(), &qel::TQELDBSpinEdit::Class(),
                         &qel::TQELDBLookupedit::Class(), &qel::TQELDBNavigator::Class(),
                         &qel::TQELDBIndexLookup::Class(), &qel::TQELDBImageView::Class(),
-                        &qel::TQELDBMemoView::Class()});
+                        &qel::TQELDBMemoView::Class(), &qel::TQELDBSearchForm::Class()});
   vcl::RegisterClasses({&qel::TQELFolderBrowser::Class(), &qel::TQELMsgBox::Class(),
                         &qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class(),
-                        &qel::TQELShellAbout::Class(), &qel::TQELTipTricks::Class()});
+                        &qel::TQELShellAbout::Class(), &qel::TQELTipTricks::Class(),
+                        &qel::TQELPageSetupDialog::Class(), &qel::TQELSplashScreen::Class()});
 }

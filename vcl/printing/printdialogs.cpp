@@ -150,6 +150,13 @@ void TPageSetupDialog::SetMarginTop(int margin) { FMargins.Top = CheckedMargin(m
 void TPageSetupDialog::SetMarginRight(int margin) { FMargins.Right = CheckedMargin(margin); }
 void TPageSetupDialog::SetMarginBottom(int margin) { FMargins.Bottom = CheckedMargin(margin); }
 
+void TPageSetupDialog::SetMinMargins(const TRect& margins) {
+  for (const int each : {margins.Left, margins.Top, margins.Right, margins.Bottom}) {
+    CheckedMargin(each);
+  }
+  FMinMargins = margins;
+}
+
 TRect TPageSetupDialog::TextArea(const TPrintDocument& document) const {
   constexpr int hundredthsPerInch = 2540;  // Of a millimetre.
   const TPageMetrics page = document.Metrics();
@@ -176,7 +183,12 @@ bool TPageSetupDialog::Execute() {
   data.hDevNames = blocks.Names;
   data.Flags = PSD_MARGINS | PSD_INHUNDREDTHSOFMILLIMETERS | FlagsOf(FOptions, PageFlags);
   if (NeedsHook()) data.Flags |= PSD_ENABLEPAGESETUPHOOK;
-  data.rtMargin = FMargins;
+  data.rtMinMargin = FMinMargins;
+  if (FMinMargins != TRect()) data.Flags |= PSD_MINMARGINS;
+  // The system refuses margins below the least ones.
+  data.rtMargin = {
+      std::max(FMargins.Left, FMinMargins.Left), std::max(FMargins.Top, FMinMargins.Top),
+      std::max(FMargins.Right, FMinMargins.Right), std::max(FMargins.Bottom, FMinMargins.Bottom)};
   data.lpfnPageSetupHook = &Hook;
   const bool agreed = Run([&](HWND owner) {
     data.hwndOwner = owner;

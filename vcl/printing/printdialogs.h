@@ -123,6 +123,10 @@ class VCL_API TPageSetupDialog : public TCommonDialog {
   void SetMarginBottom(int margin);
   /// All four at once.
   TRect Margins() const { return FMargins; }
+  /// The least that the user may choose; all 0, as at first, for what the printer cannot print on.
+  const TRect& MinMargins() const { return FMinMargins; }
+  /// Raises EArgumentOutOfRangeException when one is negative.
+  void SetMinMargins(const TRect& margins);
   /// The margins as pixels of the document, from the edges of the part that can be printed on.
   TRect TextArea(const TPrintDocument& document) const;
   TPageSetupOptions Options() const { return FOptions; }
@@ -132,6 +136,7 @@ class VCL_API TPageSetupDialog : public TCommonDialog {
  private:
   static constexpr int UsualMargin = 2000;
   TRect FMargins{UsualMargin, UsualMargin, UsualMargin, UsualMargin};
+  TRect FMinMargins;
   TPageSetupOptions FOptions;
 };
 

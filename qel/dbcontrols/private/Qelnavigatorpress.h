@@ -23,6 +23,7 @@ class TQELNavigatorPress : public vcl::TSpeedButton {
  private:
   bool Repeats() const;
   void Repeat();
+  void DrawFind();
   void DrawPicture();
 
   TQELDBNavigator& FNavigator;

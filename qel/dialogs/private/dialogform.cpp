@@ -236,10 +236,35 @@ int TDialogForm::Run() {
   return FResult;
 }
 
+/// Without an owner of its own, the window would go behind that form at the first click there.
+void TDialogForm::StayOpen() {
+  vcl::TCustomForm* const form = vcl::Screen()->ActiveForm();
+  if (form && form->HandleAllocated()) {
+    ::SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(form->Handle()));
+  }
+  Lay();
+  PlaceOverForm();
+  Show();
+}
+
+void TDialogForm::DoClose(vcl::TCloseAction& action) {
+  if (!Modal()) action = vcl::caFree;
+  TForm::DoClose(action);
+}
+
+/// The system ends a window with the one that it stands in front of.
+void TDialogForm::Dispatch(vcl::TMessage& message) {
+  const vcl::TWatch watch(this);
+  TForm::Dispatch(message);
+  const bool ends = message.Msg == WM_DESTROY && !watch.Gone() && !Destroying();
+  if (ends && !Modal() && !ControlState().Has(vcl::csDestroyingHandle)) Close();
+}
+
 // Its answer and its keys.
 
 void TDialogForm::Finish(int result) {
   FResult = result;
+  if (!Modal() && Visible()) return Close();
   SetModalResult(vcl::mrOk);
 }
 
