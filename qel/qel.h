@@ -38,6 +38,7 @@
 #include "qel/core/Qelclock.h"
 #include "qel/core/Qelfileversion.h"
 #include "qel/core/Qelfunctions.h"
+#include "qel/core/Qelsecret.h"
 #include "qel/core/Qelsticky.h"
 #include "qel/core/Qelsystemfacts.h"
 #include "qel/core/Qeltstoredata.h"
