@@ -46,6 +46,7 @@
 #include "qel/dbcontrols/Qeltdbmemoview.h"
 #include "qel/dbcontrols/Qeltdbnavigator.h"
 #include "qel/dbcontrols/Qeltdbofficeedit.h"
+#include "qel/dbcontrols/Qeltdbpassworddlg.h"
 #include "qel/dbcontrols/Qeltdbspinedit.h"
 #include "qel/dbcontrols/Qeltdbstickylabel.h"
 #include "qel/design/Qelbindings.h"
@@ -54,6 +55,8 @@
 #include "qel/dialogs/Qeltmsgbox.h"
 #include "qel/dialogs/Qeltmsgdlg.h"
 #include "qel/dialogs/Qeltmsgselect.h"
+#include "qel/dialogs/Qeltpassworddlg.h"
+#include "qel/dialogs/Qeltqueryaccess.h"
 #include "qel/dialogs/Qeltshellabout.h"
 #include "qel/dialogs/Qelttiptricks.h"
 #include "qel/mail/Qeltiemails.h"
@@ -124,6 +127,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELDBLookupedit::Class(),
            &TQELDBLabel::Class(),
            &TQELDBNavigator::Class(),
+           &TQELDBPasswordDlg::Class(),
            &TQELDBIndexLookup::Class(),
            &TQELDBOfficeEdit::Class(),
            &TQELDBAscii::Class(),
@@ -134,9 +138,11 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        }},
       {"QEL Dialogs",
        {
+           &TQELPasswordDlg::Class(),
            &TQELTipTricks::Class(),
            &TQELMsgBox::Class(),
            &TQELMsgDlg::Class(),
+           &TQELQueryAccess::Class(),
            &TQELShellAbout::Class(),
            &TQELMsgSelect::Class(),
            &TQELFolderBrowser::Class(),
@@ -286,6 +292,10 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELFolderBrowser::Class(),
       &TQELMsgBox::Class(),
       &TQELShellAbout::Class(),
+      &TQELSecretDialog::Class(),
+      &TQELPasswordDlg::Class(),
+      &TQELQueryAccess::Class(),
+      &TQELDBPasswordDlg::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }

@@ -44,4 +44,6 @@ inline void RegisterAll() {
   vcl::RegisterClasses({&qel::TQELFolderBrowser::Class(), &qel::TQELMsgBox::Class(),
                         &qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class(),
                         &qel::TQELShellAbout::Class(), &qel::TQELTipTricks::Class()});
+  vcl::RegisterClasses({&qel::TQELPasswordDlg::Class(), &qel::TQELQueryAccess::Class(),
+                        &qel::TQELDBPasswordDlg::Class()});
 }
