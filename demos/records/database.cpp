@@ -2,7 +2,11 @@
 #include "demos/records/database.h"
 
 #include "vcl/db/odbcquery.h"
+#include "vcl/graphics/bitmap.h"
+#include "vcl/graphics/canvas.h"
+#include "vcl/rtl/convert.h"
 #include "vcl/rtl/filenames.h"
+#include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
@@ -32,6 +36,29 @@ constexpr const char* Sample[] = {
     "6, 'Fatma Yıldız', 'İzmir', '2001-12-24', 9100, 2",
 };
 
+/// Head and shoulders, as a literal of SQL.
+std::string Portrait(vcl::TColor shirt) {
+  constexpr int size = 96;
+  vcl::TBitmap picture(size, size);
+  vcl::TCanvas& canvas = *picture.Canvas();
+  const auto fill = [&canvas](vcl::TColor color) {
+    canvas.Brush()->SetColor(color);
+    canvas.Pen()->SetColor(color);
+  };
+  fill(vcl::clSilver);
+  canvas.FillRect({0, 0, size, size});
+  fill(shirt);
+  canvas.Ellipse(8, 62, size - 8, 2 * size);
+  fill(vcl::clOlive);
+  canvas.Ellipse(28, 14, size - 28, 66);
+  vcl::TStringStream stream;
+  picture.SaveToStream(stream);
+  std::string literal = "X'";
+  for (const char byte : stream.DataString())
+    literal += vcl::IntToHex(static_cast<unsigned char>(byte), 2);
+  return literal + "'";
+}
+
 void Execute(vcl::TOdbcQuery& query, const std::string& sql) {
   query.SQL()->SetText(sql);
   query.ExecSQL();
@@ -51,6 +78,22 @@ void MakeOtherTables(vcl::TOdbcQuery& query) {
           "12.5 * id FROM people WHERE id < 5");
 }
 
+void MakePeople(vcl::TOdbcQuery& query) {
+  Execute(query,
+          "CREATE TABLE people (id INTEGER PRIMARY KEY, name VARCHAR(28) NOT NULL UNIQUE,"
+          " city VARCHAR(20), born DATE, balance DOUBLE, kind INTEGER, notes TEXT, photo BLOB)");
+  for (const char* values : Sample) {
+    Execute(query, vcl::Concat("INSERT INTO people (id, name, city, born, balance, kind) VALUES (",
+                               values, ")"));
+  }
+  Execute(query, vcl::Concat("UPDATE people SET notes = 'Met at the fair in Malmö.\nAsks for a "
+                             "quote each autumn.', photo = ",
+                             Portrait(vcl::clTeal), " WHERE id = 1"));
+  Execute(query, vcl::Concat("UPDATE people SET photo = ", Portrait(vcl::clMaroon),
+                             " WHERE id = 2"));
+  MakeOtherTables(query);
+}
+
 }  // namespace
 
 std::string ConnectionString(const std::string& fileName) {
@@ -60,30 +103,30 @@ std::string ConnectionString(const std::string& fileName) {
 void MakeTable(const std::string& connectionString) {
   vcl::TOdbcQuery query(nullptr);
   query.SetConnectionString(connectionString);
-  const auto there = [&](const char* sql) {
+  const auto there = [&](const std::string& sql) {
     query.SQL()->SetText(sql);
     query.Open();
     const bool found = !query.IsEmpty();
     query.Close();
     return found;
   };
-  if (there("SELECT name FROM sqlite_master WHERE name = 'people'")) {
-    if (!there("SELECT name FROM pragma_table_info('people') WHERE name = 'kind'")) {
-      query.StartTransaction();
-      Execute(query, "ALTER TABLE people ADD COLUMN kind INTEGER");
-      MakeOtherTables(query);
-      query.Commit();
-    }
-    return;
-  }
+  const auto hasColumn = [&](const std::string& name) {
+    return there("SELECT name FROM pragma_table_info('people') WHERE name = '" + name + "'");
+  };
+  const bool made = !there("SELECT name FROM sqlite_master WHERE name = 'people'");
   query.StartTransaction();
-  Execute(query,
-          "CREATE TABLE people (id INTEGER PRIMARY KEY, name VARCHAR(28) NOT NULL UNIQUE,"
-          " city VARCHAR(20), born DATE, balance DOUBLE, kind INTEGER)");
-  for (const char* values : Sample) {
-    Execute(query, vcl::Concat("INSERT INTO people VALUES (", values, ")"));
+  if (made) MakePeople(query);
+  if (!hasColumn("kind")) {
+    Execute(query, "ALTER TABLE people ADD COLUMN kind INTEGER");
+    MakeOtherTables(query);
   }
-  MakeOtherTables(query);
+  if (!hasColumn("photo")) {
+    Execute(query, "ALTER TABLE people ADD COLUMN notes TEXT");
+    Execute(query, "ALTER TABLE people ADD COLUMN photo BLOB");
+  }
+  // What the password is stored as; the file is open to all while there is none.
+  Execute(query,
+          "CREATE TABLE IF NOT EXISTS access (id INTEGER PRIMARY KEY, code VARCHAR(160) NOT NULL)");
   query.Commit();
 }
 

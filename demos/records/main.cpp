@@ -44,7 +44,7 @@ int RunRecords(int argc, char** argv, bool screenshot) {
   auto* form = Application()->CreateForm<TRecordsForm>();
   if (screenshot) return TakeScreenshot(*form, argv[2]);
   form->Open(argc > 1 ? argv[1] : "records.db");
-  return Application()->Run();
+  return form->LogIn() ? Application()->Run() : 0;
 }
 
 }  // namespace

@@ -14,27 +14,28 @@ object RecordsForm: TRecordsForm
     Align = alTop
     BevelOuter = bvNone
     TabOrder = 0
-    object Navigator: TDBNavigator
+    object Navigator: TQELDBNavigator
       Left = 8
       Top = 6
-      Width = 260
+      Width = 286
       Height = 25
       DataSource = Source
       Flat = True
+      SearchForm = SearchForm
       ShowHint = True
       TabOrder = 0
       TabStop = True
     end
     object FilterLabel: TLabel
-      Left = 290
+      Left = 310
       Top = 10
-      Width = 50
+      Width = 40
       Height = 15
       Caption = '&Filter'
       FocusControl = FilterEdit
     end
     object FilterEdit: TEdit
-      Left = 340
+      Left = 356
       Top = 8
       Width = 170
       Height = 21
@@ -147,9 +148,9 @@ object RecordsForm: TRecordsForm
       Width = 70
       Height = 15
       Caption = '&Kind'
-      FocusControl = KindCombo
+      FocusControl = KindEdit
     end
-    object KindCombo: TDBLookupComboBox
+    object KindEdit: TQELDBLookupedit
       Left = 90
       Top = 144
       Width = 160
@@ -159,17 +160,72 @@ object RecordsForm: TRecordsForm
       KeyField = 'id'
       ListField = 'name'
       ListSource = KindSource
-      TabOrder = 10
+      TabOrder = 4
     end
-    object Payments: TDBGrid
+    object Details: TPageControl
       Left = 526
-      Top = 16
+      Top = 12
       Width = 262
-      Height = 149
+      Height = 157
+      AccessibleName = 'Details'
+      ActivePage = PaymentsPage
       Anchors = [akLeft, akTop, akRight, akBottom]
-      DataSource = PaymentSource
-      ReadOnly = True
-      TabOrder = 11
+      TabOrder = 12
+      object PaymentsPage: TTabSheet
+        Caption = 'Payments'
+        object Payments: TDBGrid
+          Left = 0
+          Top = 0
+          Width = 254
+          Height = 129
+          Align = alClient
+          DataSource = PaymentSource
+          ReadOnly = True
+          TabOrder = 0
+        end
+      end
+      object NotesPage: TTabSheet
+        Caption = 'Notes'
+        object Notes: TQELDBMemoView
+          Left = 0
+          Top = 0
+          Width = 254
+          Height = 129
+          AccessibleName = 'Notes'
+          Align = alClient
+          DataField = 'notes'
+          DataSource = Source
+          EditInWindow = True
+          Hint = 'A double click opens a window for long notes'
+          ScrollBars = ssVertical
+          ShowHint = True
+          TabOrder = 0
+        end
+      end
+      object PhotoPage: TTabSheet
+        Caption = 'Photo'
+        object Photo: TQELDBImageView
+          Left = 0
+          Top = 0
+          Width = 254
+          Height = 104
+          AccessibleName = 'Photo'
+          Anchors = [akLeft, akTop, akRight, akBottom]
+          DataField = 'photo'
+          DataSource = Source
+          TabOrder = 0
+        end
+        object PhotoButton: TButton
+          Left = 0
+          Top = 104
+          Width = 254
+          Height = 25
+          Anchors = [akLeft, akRight, akBottom]
+          Caption = '&Load a photo...'
+          TabOrder = 1
+          OnClick = PhotoClick
+        end
+      end
     end
     object AddButton: TButton
       Left = 340
@@ -177,7 +233,7 @@ object RecordsForm: TRecordsForm
       Width = 80
       Height = 25
       Caption = 'A&dd'
-      TabOrder = 4
+      TabOrder = 5
       OnClick = AddClick
     end
     object DeleteButton: TButton
@@ -186,7 +242,7 @@ object RecordsForm: TRecordsForm
       Width = 80
       Height = 25
       Action = DeleteAction
-      TabOrder = 5
+      TabOrder = 6
     end
     object PostButton: TButton
       Left = 340
@@ -194,7 +250,7 @@ object RecordsForm: TRecordsForm
       Width = 80
       Height = 25
       Action = PostAction
-      TabOrder = 6
+      TabOrder = 7
     end
     object CancelButton: TButton
       Left = 430
@@ -202,7 +258,7 @@ object RecordsForm: TRecordsForm
       Width = 80
       Height = 25
       Action = CancelAction
-      TabOrder = 7
+      TabOrder = 8
     end
     object ExportButton: TButton
       Left = 340
@@ -210,7 +266,7 @@ object RecordsForm: TRecordsForm
       Width = 80
       Height = 25
       Caption = '&Export...'
-      TabOrder = 8
+      TabOrder = 9
       OnClick = ExportClick
     end
     object ImportButton: TButton
@@ -219,8 +275,19 @@ object RecordsForm: TRecordsForm
       Width = 80
       Height = 25
       Caption = '&Import...'
-      TabOrder = 9
+      TabOrder = 10
       OnClick = ImportClick
+    end
+    object ProtectButton: TButton
+      Left = 340
+      Top = 143
+      Width = 170
+      Height = 25
+      Caption = '&Protect by a password...'
+      Hint = 'Asks for the password when the file is opened'
+      ShowHint = True
+      TabOrder = 11
+      OnClick = ProtectClick
     end
     object Gauge: TQELGauge
       Left = 340
@@ -251,7 +318,7 @@ object RecordsForm: TRecordsForm
     IdentityQuery = 'SELECT last_insert_rowid()'
     RequestLive = True
     SQL.Strings = (
-      'SELECT id, name, city, born, balance, kind FROM people ORDER BY name')
+      'SELECT id, name, city, born, balance, kind, notes, photo FROM people ORDER BY name')
     FilterOptions = [foCaseInsensitive]
     Left = 540
     Top = 248
@@ -282,6 +349,14 @@ object RecordsForm: TRecordsForm
     end
     object QueryKind: TIntegerField
       FieldName = 'kind'
+      Visible = False
+    end
+    object QueryNotes: TMemoField
+      FieldName = 'notes'
+      Visible = False
+    end
+    object QueryPhoto: TBlobField
+      FieldName = 'photo'
       Visible = False
     end
     object QueryKindName: TStringField
@@ -330,6 +405,46 @@ object RecordsForm: TRecordsForm
       DisplayWidth = 12
       FieldName = 'amount'
     end
+  end
+  object AccessSource: TDataSource
+    DataSet = AccessQuery
+    Left = 700
+    Top = 216
+  end
+  object AccessQuery: TOdbcQuery
+    Connection = Connection
+    RequestLive = True
+    SQL.Strings = (
+      'SELECT id, code FROM access')
+    Left = 700
+    Top = 248
+  end
+  object Login: TQELDBPasswordDlg
+    DataSource = AccessSource
+    Datapassword = 'code'
+    Kind = pkPassword
+    Title = 'Records'
+    Left = 700
+    Top = 280
+  end
+  object NewPassword: TQELPasswordDlg
+    Kind = pkChange
+    MinLength = 4
+    OldPasswordLabel = ''
+    Title = 'Protect the file'
+    Left = 732
+    Top = 280
+  end
+  object SearchForm: TQELDBSearchForm
+    DataSource = Source
+    Fields.Strings = (
+      'name'
+      'city'
+      'notes')
+    StayOpen = True
+    Title = 'Search'
+    Left = 668
+    Top = 280
   end
   object TransferSource: TDataSource
     DataSet = TransferQuery
@@ -404,6 +519,12 @@ object RecordsForm: TRecordsForm
     Filter = 'Text files|*.csv;*.txt|All files|*.*'
     Options = [ofHideReadOnly, ofPathMustExist, ofFileMustExist, ofEnableSizing]
     Left = 540
+    Top = 312
+  end
+  object PhotoDialog: TOpenDialog
+    Filter = 'Pictures|*.bmp;*.png;*.jpg;*.jpeg;*.gif;*.ico'
+    Options = [ofHideReadOnly, ofPathMustExist, ofFileMustExist, ofEnableSizing]
+    Left = 604
     Top = 312
   end
   object SaveDialog: TSaveDialog

@@ -27,16 +27,27 @@ const TClass& TRecordsForm::Class() {
                              Field<&T::KindQuery>("KindQuery"),
                              Field<&T::PaymentQuery>("PaymentQuery"),
                              Field<&T::TransferQuery>("TransferQuery"),
+                             Field<&T::AccessQuery>("AccessQuery"),
+                             Field<&T::Login>("Login"),
+                             Field<&T::NewPassword>("NewPassword"),
+                             Field<&T::Navigator>("Navigator"),
+                             Field<&T::SearchForm>("SearchForm"),
+                             Field<&T::KindEdit>("KindEdit"),
+                             Field<&T::Notes>("Notes"),
+                             Field<&T::Photo>("Photo"),
                              Field<&T::Transfer>("Transfer"),
                              Field<&T::Gauge>("Gauge"),
                              Field<&T::StatusBar>("StatusBar"),
                              Field<&T::NameEdit>("NameEdit"),
                              Field<&T::FilterEdit>("FilterEdit"),
                              Field<&T::OpenDialog>("OpenDialog"),
+                             Field<&T::PhotoDialog>("PhotoDialog"),
                              Field<&T::SaveDialog>("SaveDialog"),
                              Method<&T::FilterChange>("FilterChange"),
                              Method<&T::AddClick>("AddClick"),
                              Method<&T::DeleteClick>("DeleteClick"),
+                             Method<&T::PhotoClick>("PhotoClick"),
+                             Method<&T::ProtectClick>("ProtectClick"),
                              Method<&T::ExportClick>("ExportClick"),
                              Method<&T::ImportClick>("ImportClick"),
                              Method<&T::RecordWritten>("RecordWritten"),
@@ -61,11 +72,11 @@ void TRecordsForm::Open(const std::string& fileName) {
 }
 
 void TRecordsForm::OpenQueries() {
-  for (TOdbcQuery* each : {KindQuery, Query, PaymentQuery}) each->Open();
+  for (TOdbcQuery* each : {KindQuery, Query, PaymentQuery, AccessQuery}) each->Open();
 }
 
 void TRecordsForm::CloseQueries() {
-  for (TOdbcQuery* each : {PaymentQuery, Query, KindQuery}) each->Close();
+  for (TOdbcQuery* each : {AccessQuery, PaymentQuery, Query, KindQuery}) each->Close();
 }
 
 /// What is typed is sought in names and cities.
@@ -86,6 +97,26 @@ void TRecordsForm::DeleteClick(TObject*) {
   const std::string what = name.empty() ? "this record" : name;
   if (MessageDlg(Concat("Delete ", what, "?"), mtConfirmation, {mbYes, mbNo}) == mrYes)
     Query->Delete();
+}
+
+void TRecordsForm::PhotoClick(TObject*) {
+  if (PhotoDialog->Execute()) Photo->LoadFromFile(PhotoDialog->FileName());
+}
+
+bool TRecordsForm::LogIn() { return AccessQuery->IsEmpty() || Login->Execute(); }
+
+/// The first password is asked for twice, another one takes the old one, too.
+void TRecordsForm::ProtectClick(TObject*) {
+  if (AccessQuery->IsEmpty()) {
+    if (!NewPassword->Execute()) return;
+    const TAtEnd forget([this] { NewPassword->ForgetPassword(); });
+    AccessQuery->AppendRecord({std::int64_t{1}, Login->StoredText(NewPassword->NewPassword())});
+  } else {
+    const TAtEnd asksAgain([this] { Login->SetKind(qel::pkPassword); });
+    Login->SetKind(qel::pkChange);
+    if (!Login->Execute()) return;
+  }
+  StatusBar->SetSimpleText("The password is asked for when the file is opened");
 }
 
 void TRecordsForm::ExportClick(TObject*) {

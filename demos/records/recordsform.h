@@ -5,6 +5,12 @@
 
 #include "qel/controls/Qeltgauge.h"
 #include "qel/data/Qeltdbascii.h"
+#include "qel/dbcontrols/Qeltdbimageview.h"
+#include "qel/dbcontrols/Qeltdblookupedit.h"
+#include "qel/dbcontrols/Qeltdbmemoview.h"
+#include "qel/dbcontrols/Qeltdbnavigator.h"
+#include "qel/dbcontrols/Qeltdbpassworddlg.h"
+#include "qel/dbcontrols/Qeltdbsearchform.h"
 #include "vcl/db/odbcconnection.h"
 #include "vcl/db/odbcquery.h"
 #include "vcl/dbctrls/dbedit.h"
@@ -24,6 +30,8 @@ class TRecordsForm : public vcl::TForm {
 
   /// Shows a database file, which is made when it is not there. Raises vcl::EDatabaseError.
   void Open(const std::string& fileName);
+  /// Asks for the password when the file that is open has one; false when it was not given.
+  bool LogIn();
   /// Write all records to a text file resp. insert those of one, showing how far it has come. The
   /// user is asked what becomes of a record with a value that its field does not take.
   void Export(const std::string& fileName);
@@ -36,12 +44,21 @@ class TRecordsForm : public vcl::TForm {
   vcl::TOdbcQuery* KindQuery = nullptr;
   vcl::TOdbcQuery* PaymentQuery = nullptr;
   vcl::TOdbcQuery* TransferQuery = nullptr;
+  vcl::TOdbcQuery* AccessQuery = nullptr;
+  qel::TQELDBPasswordDlg* Login = nullptr;
+  qel::TQELPasswordDlg* NewPassword = nullptr;
+  qel::TQELDBNavigator* Navigator = nullptr;
+  qel::TQELDBSearchForm* SearchForm = nullptr;
+  qel::TQELDBLookupedit* KindEdit = nullptr;
+  qel::TQELDBMemoView* Notes = nullptr;
+  qel::TQELDBImageView* Photo = nullptr;
   qel::TQELDBAscii* Transfer = nullptr;
   qel::TQELGauge* Gauge = nullptr;
   vcl::TStatusBar* StatusBar = nullptr;
   vcl::TDBEdit* NameEdit = nullptr;
   vcl::TEdit* FilterEdit = nullptr;
   vcl::TOpenDialog* OpenDialog = nullptr;
+  vcl::TOpenDialog* PhotoDialog = nullptr;
   vcl::TSaveDialog* SaveDialog = nullptr;
 
   void FilterChange(vcl::TObject* sender);
@@ -49,6 +66,8 @@ class TRecordsForm : public vcl::TForm {
   void CloseQueries();
   void AddClick(vcl::TObject* sender);
   void DeleteClick(vcl::TObject* sender);
+  void PhotoClick(vcl::TObject* sender);
+  void ProtectClick(vcl::TObject* sender);
   void ExportClick(vcl::TObject* sender);
   void ImportClick(vcl::TObject* sender);
   void RecordWritten(vcl::TObject* sender, std::string record);

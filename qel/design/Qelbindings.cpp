@@ -23,6 +23,7 @@
 #include "qel/design/Qelslideseditor.h"
 #include "qel/dialogs/Qeltmsgdlg.h"
 #include "qel/dialogs/Qeltmsgselect.h"
+#include "qel/dialogs/Qeltqueryaccess.h"
 #include "qel/dialogs/Qelttiptricks.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
@@ -71,6 +72,7 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELHintProperty), "string", &TQELMsgSelect::Class(), "Text"},
       {QEL_EDITOR(TQELFilenameProperty), "string", &TQELTipTricks::Class(), "Filename"},
       {QEL_EDITOR(TQELDataFieldProperty), "string", &TQELDBSearchForm::Class(), "DefaultField"},
+      {QEL_EDITOR(TQELCodeProperty), "string", &TQELQueryAccess::Class(), "Code"},
   };
   return entries;
 }

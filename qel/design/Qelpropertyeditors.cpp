@@ -3,6 +3,7 @@
 
 #include "qel/core/Qelcomponent.h"
 #include "qel/core/Qellanguagelines.h"
+#include "qel/dialogs/Qeltpassworddlg.h"
 #include "vcl/designintf/textdialog.h"
 #include "vcl/dialogs/dialogs.h"
 
@@ -27,6 +28,23 @@ void TQELShowMeNowProperty::Edit() { SetValue("(Busy...)"); }
 
 void TQELAboutCompsProperty::Edit() {
   if (const auto* about = dynamic_cast<const TQELAbout*>(ObjectValue())) about->Showabout();
+}
+
+std::string TQELCodeProperty::GetValue() const {
+  return TStringProperty::GetValue().empty() ? "" : "(set)";
+}
+
+void TQELCodeProperty::Edit() {
+  TQELPasswordDlg dialog(nullptr);
+  dialog.SetKind(pkChange);
+  dialog.SetTitle(GetName());
+  dialog.SetOldPasswordLabel("");
+  dialog.SetNewPasswordLabel("&New code:");
+  dialog.SetRepeatLabel("&Repeat the new code:");
+  dialog.SetMismatchText("The new code and its repetition are not the same.");
+  dialog.SetShortText("A code needs at least %d character.");
+  dialog.SetMinLength(1);
+  if (dialog.Execute()) SetValue(QELHashedCode(dialog.NewPassword()));
 }
 
 void EditInLines(vcl::TPropertyEditor& editor) {

@@ -88,6 +88,18 @@ class QEL_API TQELAboutCompsProperty : public TQELDialogOnlyProperty<vcl::TClass
   void Edit() override;
 };
 
+/// A code of which only the hash is kept: its button asks for the code, twice. It shows no more
+/// than whether there is one.
+class QEL_API TQELCodeProperty : public vcl::TStringProperty {
+ public:
+  using TStringProperty::TStringProperty;
+  vcl::TPropertyAttributes GetAttributes() const override {
+    return {vcl::paDialog, vcl::paReadOnly, vcl::paRevertable};
+  }
+  std::string GetValue() const override;
+  void Edit() override;
+};
+
 /// Edits a text in a dialog of many lines, which the text keeps as the system's texts do.
 QEL_API void EditInLines(vcl::TPropertyEditor& editor);
 

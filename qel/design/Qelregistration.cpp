@@ -46,6 +46,7 @@
 #include "qel/dbcontrols/Qeltdbmemoview.h"
 #include "qel/dbcontrols/Qeltdbnavigator.h"
 #include "qel/dbcontrols/Qeltdbofficeedit.h"
+#include "qel/dbcontrols/Qeltdbpassworddlg.h"
 #include "qel/dbcontrols/Qeltdbsearchform.h"
 #include "qel/dbcontrols/Qeltdbspinedit.h"
 #include "qel/dbcontrols/Qeltdbstickylabel.h"
@@ -56,6 +57,8 @@
 #include "qel/dialogs/Qeltmsgdlg.h"
 #include "qel/dialogs/Qeltmsgselect.h"
 #include "qel/dialogs/Qeltpagesetupdialog.h"
+#include "qel/dialogs/Qeltpassworddlg.h"
+#include "qel/dialogs/Qeltqueryaccess.h"
 #include "qel/dialogs/Qeltshellabout.h"
 #include "qel/dialogs/Qeltsplashscreen.h"
 #include "qel/dialogs/Qelttiptricks.h"
@@ -128,6 +131,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELDBLookupedit::Class(),
            &TQELDBLabel::Class(),
            &TQELDBNavigator::Class(),
+           &TQELDBPasswordDlg::Class(),
            &TQELDBIndexLookup::Class(),
            &TQELDBOfficeEdit::Class(),
            &TQELDBAscii::Class(),
@@ -138,9 +142,11 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        }},
       {"QEL Dialogs",
        {
+           &TQELPasswordDlg::Class(),
            &TQELTipTricks::Class(),
            &TQELMsgBox::Class(),
            &TQELMsgDlg::Class(),
+           &TQELQueryAccess::Class(),
            &TQELShellAbout::Class(),
            &TQELSplashScreen::Class(),
            &TQELMsgSelect::Class(),
@@ -297,6 +303,10 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELPageMargins::Class(),
       &TQELPageSetupDialog::Class(),
       &TQELSplashScreen::Class(),
+      &TQELSecretDialog::Class(),
+      &TQELPasswordDlg::Class(),
+      &TQELQueryAccess::Class(),
+      &TQELDBPasswordDlg::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }

@@ -3,9 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "qel/core/Qelcomponent.h"
+#include "qel/core/Qelsecret.h"
 #include "qel/data/Qeltdbascii.h"
+#include "qel/dbcontrols/Qeltdbpassworddlg.h"
 #include "qel/design/Qeldataeditors.h"
 #include "qel/design/Qelpropertyeditors.h"
+#include "qel/dialogs/Qeltqueryaccess.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "tests/design/dialogs.h"
@@ -122,6 +125,47 @@ TEST_F(Editors, OfferWhatTheyCanDo) {
   EXPECT_TRUE(messages->IsDefault());
   mail.Messages()->Add();
   EXPECT_FALSE(messages->IsDefault());
+}
+
+TEST_F(Editors, ACodeIsTypedTwiceAndItsHashIsSet) {
+  TQELQueryAccess query(nullptr);
+  const auto editor = MakePropertyEditor(Designer, Edited(query, "Code"));
+  EXPECT_EQ(editor->GetValue(), "");
+  EXPECT_TRUE(editor->ReadOnly());
+  const auto edit = [&](const char* code, const char* again) {
+    const TOnForm onForm(L"Code", [&](HWND form) {
+      Child<TCustomEdit>(form, 0).SetText(code);
+      Child<TCustomEdit>(form, 1).SetText(again);
+      Press(form, "OK");
+    });
+    editor->Edit();
+  };
+  edit("open", "opem");
+  edit("", "");
+  EXPECT_EQ(query.Code(), "");
+  edit("open", "open");
+  EXPECT_TRUE(QELCodeMatches("open", query.Code()));
+  EXPECT_EQ(editor->GetValue(), "(set)");
+  EXPECT_EQ(Designer.Modifications, 1);
+  editor->Revert();
+  EXPECT_EQ(query.Code(), "");
+}
+
+TEST_F(Editors, FieldsOfPasswordsAreChosen) {
+  TMemoryDataSet data(nullptr);
+  data.FieldDefs()->Add("Name", ftString, 10);
+  data.FieldDefs()->Add("Key", ftString, 120);
+  TDataSource source(nullptr);
+  source.SetDataSet(&data);
+  TQELDBPasswordDlg dialog(nullptr);
+  dialog.SetDataSource(&source);
+  for (const char* property : {"DataUsername", "Datapassword"}) {
+    std::vector<std::string> names;
+    MakePropertyEditor(Designer, Edited(dialog, property))->GetValues([&](const std::string& name) {
+      names.push_back(name);
+    });
+    EXPECT_THAT(names, ElementsAre("Name", "Key")) << property;
+  }
 }
 
 class TCounter : public TQELExecComponent {

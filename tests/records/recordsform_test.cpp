@@ -106,7 +106,7 @@ TEST_F(Records, AreFilteredLookedUpAndHaveTheirPayments) {
   auto* const query = Find<vcl::TOdbcQuery>("Query");
   auto* const payments = Find<vcl::TOdbcQuery>("PaymentQuery");
   EXPECT_EQ(Name()->AsString(), "Ada Bergström");
-  EXPECT_EQ(Find<vcl::TDBLookupComboBox>("KindCombo")->Text(), "Customer");
+  EXPECT_EQ(Find<qel::TQELDBLookupedit>("KindEdit")->Text(), "Customer");
   EXPECT_EQ(query->FieldByName("kindname")->AsString(), "Customer");
   EXPECT_EQ(payments->RecordCount(), 2);
   auto* const filter = Find<vcl::TEdit>("FilterEdit");

@@ -45,4 +45,6 @@ inline void RegisterAll() {
                         &qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class(),
                         &qel::TQELShellAbout::Class(), &qel::TQELTipTricks::Class(),
                         &qel::TQELPageSetupDialog::Class(), &qel::TQELSplashScreen::Class()});
+  vcl::RegisterClasses({&qel::TQELPasswordDlg::Class(), &qel::TQELQueryAccess::Class(),
+                        &qel::TQELDBPasswordDlg::Class()});
 }
