@@ -44,4 +44,16 @@ inline void RegisterAll() {
   vcl::RegisterClasses({&qel::TQELFolderBrowser::Class(), &qel::TQELMsgBox::Class(),
                         &qel::TQELMsgDlg::Class(), &qel::TQELMsgSelect::Class(),
                         &qel::TQELShellAbout::Class(), &qel::TQELTipTricks::Class()});
+  // The services that tell and hold something.
+  vcl::RegisterClasses({
+      &qel::TQELStartup::Class(),
+      &qel::TQELWavePlayer::Class(),
+      &qel::TQELTimeTrigger::Class(),
+      &qel::TQELResourceInfo::Class(),
+      &qel::TQELDriveVolume::Class(),
+      &qel::TQELVersionDetails::Class(),
+      &qel::TQELSystemDetails::Class(),
+      &qel::TQELJokeHolder::Class(),
+      &qel::TQELStringHolder::Class(),
+  });
 }
