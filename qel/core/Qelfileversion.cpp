@@ -47,40 +47,58 @@ const T* ValueOf(const TBlock& block, const std::string& path, UINT& size) {
              : nullptr;
 }
 
-std::string TextOf(const TBlock& block, const std::string& translation, const char* key) {
+std::string TextOf(const TBlock& block, const std::string& translation, const std::string& key) {
   UINT size = 0;
   const auto* text =
       ValueOf<wchar_t>(block, vcl::Concat("\\StringFileInfo\\", translation, "\\", key), size);
   return text ? vcl::ToUtf8(std::wstring_view(text, ::wcsnlen(text, size))) : std::string();
 }
 
-/// The languages that the texts are in, and US English, which files have that say none.
-std::vector<std::string> Translations(const TBlock& block) {
-  struct TLanguage {
-    WORD Language;
-    WORD CodePage;
-  };
+struct TLanguage {
+  WORD Language;
+  WORD CodePage;
+};
+
+/// The languages that the block says to have texts in.
+std::vector<TLanguage> Languages(const TBlock& block) {
   UINT size = 0;
   const auto* list = ValueOf<TLanguage>(block, "\\VarFileInfo\\Translation", size);
+  if (!list) return {};
+  return {list, list + size / sizeof *list};
+}
+
+/// Their names in the block, and US English, which files have that say none.
+std::vector<std::string> Translations(const TBlock& block) {
   std::vector<std::string> names;
-  for (UINT i = 0; list && i < size / sizeof *list; ++i) {
-    names.push_back(vcl::IntToHex(list[i].Language, 4) + vcl::IntToHex(list[i].CodePage, 4));
+  for (const auto& [language, codePage] : Languages(block)) {
+    names.push_back(vcl::IntToHex(language, 4) + vcl::IntToHex(codePage, 4));
   }
   names.insert(names.end(), {"040904B0", "040904E4"});
   return names;
 }
 
-std::string Number(DWORD high, DWORD low) {
-  return vcl::Concat(vcl::IntToStr(HIWORD(high)), ".", vcl::IntToStr(LOWORD(high)), ".",
-                     vcl::IntToStr(HIWORD(low)), ".", vcl::IntToStr(LOWORD(low)));
+std::array<int, 4> Parts(DWORD high, DWORD low) {
+  return {HIWORD(high), LOWORD(high), HIWORD(low), LOWORD(low)};
 }
 
-std::string NumberOf(const TBlock& block, TQELVersionItem item) {
+std::string NumberText(const std::array<int, 4>& parts) {
+  return vcl::Concat(vcl::IntToStr(parts[0]), ".", vcl::IntToStr(parts[1]), ".",
+                     vcl::IntToStr(parts[2]), ".", vcl::IntToStr(parts[3]));
+}
+
+std::optional<TQELVersionNumbers> NumbersOf(const TBlock& block) {
   UINT size = 0;
   const auto* fixed = ValueOf<VS_FIXEDFILEINFO>(block, "\\", size);
-  if (!fixed || size < sizeof *fixed) return {};
-  if (item == viFileVersion) return Number(fixed->dwFileVersionMS, fixed->dwFileVersionLS);
-  if (item == viProductVersion) return Number(fixed->dwProductVersionMS, fixed->dwProductVersionLS);
+  if (!fixed || size < sizeof *fixed) return std::nullopt;
+  return TQELVersionNumbers{Parts(fixed->dwFileVersionMS, fixed->dwFileVersionLS),
+                            Parts(fixed->dwProductVersionMS, fixed->dwProductVersionLS),
+                            fixed->dwFileFlags & fixed->dwFileFlagsMask, fixed->dwFileType};
+}
+
+std::string NumberOf(const TBlock& block, const std::string& key) {
+  const auto numbers = NumbersOf(block);
+  if (numbers && key == Keys[viFileVersion]) return NumberText(numbers->File);
+  if (numbers && key == Keys[viProductVersion]) return NumberText(numbers->Product);
   return {};
 }
 
@@ -88,13 +106,31 @@ std::string NumberOf(const TBlock& block, TQELVersionItem item) {
 
 std::string QELFileVersion(const std::string& fileName, TQELVersionItem item) {
   if (item < 0 || item >= static_cast<int>(std::size(Keys))) return {};
+  return QELFileVersion(fileName, std::string(Keys[item]));
+}
+
+std::string QELFileVersion(const std::string& fileName, const std::string& key) {
   const TBlock block = BlockOf(fileName);
-  if (block.empty()) return {};
+  if (block.empty() || key.empty()) return {};
   for (const std::string& translation : Translations(block)) {
-    std::string text = TextOf(block, translation, Keys[item]);
+    std::string text = TextOf(block, translation, key);
     if (!text.empty()) return text;
   }
-  return NumberOf(block, item);
+  return NumberOf(block, key);
+}
+
+std::optional<TQELVersionNumbers> QELFileVersionNumbers(const std::string& fileName) {
+  const TBlock block = BlockOf(fileName);
+  return block.empty() ? std::nullopt : NumbersOf(block);
+}
+
+std::string QELFileVersionLanguage(const std::string& fileName) {
+  const TBlock block = BlockOf(fileName);
+  const auto languages = block.empty() ? std::vector<TLanguage>() : Languages(block);
+  wchar_t name[256] = {};
+  if (languages.empty() || !::VerLanguageNameW(languages[0].Language, name, std::size(name)))
+    return {};
+  return vcl::ToUtf8(name);
 }
 
 }  // namespace qel

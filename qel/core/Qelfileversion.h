@@ -1,6 +1,9 @@
 // The version information that programs and libraries carry.
 #pragma once
 
+#include <array>
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "qel/core/api.h"
@@ -28,6 +31,21 @@ enum TQELVersionItem {
 /// empty name. Empty where the file, its information or the entry is missing. Of the two versions,
 /// the number that the file has stands in for a missing text: "1.2.3.4".
 QEL_API std::string QELFileVersion(const std::string& fileName, TQELVersionItem item);
+/// The same by the entry's key, be it one of the file's own.
+QEL_API std::string QELFileVersion(const std::string& fileName, const std::string& key);
+
+/// What the version information has as numbers.
+struct TQELVersionNumbers {
+  std::array<int, 4> File{};  ///< "1.2.3.4".
+  std::array<int, 4> Product{};
+  std::uint32_t Flags = 0;  ///< VS_FF_...
+  std::uint32_t Kind = 0;   ///< VFT_...
+};
+/// Of the running program for an empty name; nothing where the file or its information is missing.
+QEL_API std::optional<TQELVersionNumbers> QELFileVersionNumbers(const std::string& fileName);
+/// The language that the information is written in first, as the system calls it; empty where it
+/// says none.
+QEL_API std::string QELFileVersionLanguage(const std::string& fileName);
 
 }  // namespace qel
 

@@ -6,9 +6,12 @@
 #include <iphlpapi.h>
 #include <ws2tcpip.h>
 
+#include <algorithm>
+#include <limits>
 #include <vector>
 
 #include "qel/core/Qelfunctions.h"
+#include "qel/core/private/machinefacts.h"
 #include "qel/core/private/registryfacts.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/datetime.h"
@@ -44,7 +47,8 @@ std::optional<TQELMemoryFacts> QELMemoryFacts() {
   memory.dwLength = sizeof memory;
   if (!::GlobalMemoryStatusEx(&memory)) return std::nullopt;
   return TQELMemoryFacts{memory.ullTotalPhys, memory.ullAvailPhys,
-                         static_cast<int>(memory.dwMemoryLoad)};
+                         static_cast<int>(memory.dwMemoryLoad), memory.ullTotalPageFile,
+                         memory.ullAvailPageFile};
 }
 
 std::optional<TQELDriveFacts> QELDriveFacts(const std::string& folder) {
@@ -53,6 +57,19 @@ std::optional<TQELDriveFacts> QELDriveFacts(const std::string& folder) {
   if (!::GetDiskFreeSpaceExW(folder.empty() ? nullptr : name.c_str(), &available, &size, &free))
     return std::nullopt;
   return TQELDriveFacts{size.QuadPart, free.QuadPart, available.QuadPart};
+}
+
+int QELMegabytes(std::uint64_t bytes) {
+  constexpr std::uint64_t most = std::numeric_limits<int>::max();
+  return static_cast<int>(std::min(bytes / 1024 / 1024, most));
+}
+
+TQELHandleFacts QELHandleFacts() {
+  const HANDLE process = ::GetCurrentProcess();
+  DWORD kernel = 0;
+  ::GetProcessHandleCount(process, &kernel);
+  return {static_cast<int>(::GetGuiResources(process, GR_GDIOBJECTS)),
+          static_cast<int>(::GetGuiResources(process, GR_USEROBJECTS)), static_cast<int>(kernel)};
 }
 
 int QELProcessorCount() {
@@ -158,6 +175,7 @@ std::string QELInformation(TQELInformationItem item) {
     case iiTime: return vcl::TimeToStr(vcl::Now());
     default: break;
   }
+  if (item > iiTime) return MachineFact(item);
   // What lies between has the order of the numbered items.
   return item >= iiOrganization && item <= iiDiskLoad
              ? QELGetInformationNo(item - iiOrganization + inOrganization)

@@ -27,6 +27,9 @@
 #include "qel/dialogs/Qelttiptricks.h"
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
+#include "qel/services/Qeltdrivevolume.h"
+#include "qel/services/Qeltversiondetails.h"
+#include "qel/services/Qeltwaveplayer.h"
 #include "vcl/controls/control.h"
 
 namespace qel {
@@ -47,8 +50,11 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
        "ColorsInBetween"},
       {QEL_EDITOR(TQELItemDataFieldProperty), "string", &vcl::TCollectionItem::Class(),
        "DataField"},
+      {QEL_EDITOR(TQELROStringProperty), "string", &TQELDriveVolume::Class(), ""},
       {QEL_EDITOR(TQELROStringProperty), "string", &TQELInformationLabel::Class(), "CaptionValue"},
       {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELInformationLabel::Class(), "Caption"},
+      {QEL_EDITOR(TQELROBooleanproperty), "Boolean", &TQELDriveVolume::Class(), ""},
+      {QEL_EDITOR(TQELROIntegerProperty), "Integer", &TQELDriveVolume::Class(), ""},
       {QEL_EDITOR(TQELShowMeNowProperty), "string", &vcl::TComponent::Class(), "DesignExecute"},
       {QEL_EDITOR(TQELHintProperty), "string", &vcl::TComponent::Class(), "Hint"},
       {QEL_EDITOR(TQELCaptionProperty), "TCaption", &vcl::TControl::Class(), "Caption"},
@@ -60,6 +66,7 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       // The store's file name is a property of its Inifile, which this line does not reach; a
       // property of the store itself would get the editor.
       {QEL_EDITOR(TQELINIFilenameProperty), "string", &TQELStoreData::Class(), "Filename"},
+      {QEL_EDITOR(TQELWaveFilenameProperty), "string", &TQELWavePlayer::Class(), "WaveFile"},
       {QEL_EDITOR(TQELWaveFilenameProperty), "string", &TQELICQMarquee::Class(), "Filename"},
       {QEL_EDITOR(TQELFilenameProperty), "string", &TQELVersionLabel::Class(), "Filename"},
       {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELVersionLabel::Class(), "Caption"},
@@ -73,6 +80,7 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELFilenameProperty), "string", &TQELTipTricks::Class(), "Filename"},
       {QEL_EDITOR(TQELDataFieldProperty), "string", &TQELDBSearchForm::Class(), "DefaultField"},
       {QEL_EDITOR(TQELCodeProperty), "string", &TQELQueryAccess::Class(), "Code"},
+      {QEL_EDITOR(TQELFilenameProperty), "string", &TQELVersionDetails::Class(), "Filename"},
   };
   return entries;
 }

@@ -65,10 +65,19 @@
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/Qeltquickmail.h"
+#include "qel/services/Qeltdrivevolume.h"
 #include "qel/services/Qeltformsaver.h"
+#include "qel/services/Qeltjokeholder.h"
 #include "qel/services/Qeltmrumenu.h"
 #include "qel/services/Qeltonlyone.h"
+#include "qel/services/Qeltresourceinfo.h"
+#include "qel/services/Qeltstartup.h"
+#include "qel/services/Qeltstringholder.h"
+#include "qel/services/Qeltsystemdetails.h"
 #include "qel/services/Qeltsystemtray.h"
+#include "qel/services/Qelttimetrigger.h"
+#include "qel/services/Qeltversiondetails.h"
+#include "qel/services/Qeltwaveplayer.h"
 #include "qel/shell/Qeltexplorertree.h"
 #include "vcl/designintf/registration.h"
 #include "vcl/rtl/classregistry.h"
@@ -156,15 +165,24 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
       {"QEL System/1",
        {
            &TQELStoreData::Class(),
+           &TQELTimeTrigger::Class(),
            &TQELQuickMail::Class(),
+           &TQELResourceInfo::Class(),
+           &TQELSystemDetails::Class(),
            &TQELSystemTray::Class(),
+           &TQELWavePlayer::Class(),
+           &TQELJokeHolder::Class(),
            &TQELFormSaver::Class(),
+           &TQELStringHolder::Class(),
+           &TQELDriveVolume::Class(),
            &TQELMRUMenu::Class(),
        }},
       {"QEL System/2",
        {
            &TQELOnlyOne::Class(),
            &TQELTimer32::Class(),
+           &TQELStartup::Class(),
+           &TQELVersionDetails::Class(),
            &TQELPOPMail::Class(),
            &TQELSMTPMail::Class(),
            &TQELICQMarquee::Class(),
@@ -268,6 +286,20 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELFormSaver::Class(),
       &TQELMRUItem::Class(),
       &TQELMRUMenu::Class(),
+      &TQELStringGroup::Class(),
+      &TQELStringGroups::Class(),
+      &TQELStringHolder::Class(),
+      &TQELJokeHolder::Class(),
+      &TQELSystemDetails::Class(),
+      &TQELVersionDetails::Class(),
+      &TQELDriveVolume::Class(),
+      &TQELResourceLimits::Class(),
+      &TQELResourceInfo::Class(),
+      &TQELTrigger::Class(),
+      &TQELTriggers::Class(),
+      &TQELTimeTrigger::Class(),
+      &TQELWavePlayer::Class(),
+      &TQELStartup::Class(),
       &TQELOnlyOne::Class(),
       &TQELAttachment::Class(),
       &TQELAttachments::Class(),

@@ -61,7 +61,7 @@ const std::map<std::string, std::set<std::string>>& Allowed() {
       {"qel/dbcontrols", with(component, {"qel/controls", "qel/dialogs", "vcl/db", "vcl/dbctrls"})},
       {"qel/data", {"vcl/rtl", "vcl/db", "qel/core"}},
       {"qel/mail", {"vcl/rtl", "vcl/net", "qel/core"}},
-      {"qel/services", component},
+      {"qel/services", with(component, {"qel/dialogs"})},
       {"qel/shell", component},
       {"qel/design", with(application, {"vcl/designintf"})},
       {"qel", application},

@@ -47,4 +47,16 @@ inline void RegisterAll() {
                         &qel::TQELPageSetupDialog::Class(), &qel::TQELSplashScreen::Class()});
   vcl::RegisterClasses({&qel::TQELPasswordDlg::Class(), &qel::TQELQueryAccess::Class(),
                         &qel::TQELDBPasswordDlg::Class()});
+  // The services that tell and hold something.
+  vcl::RegisterClasses({
+      &qel::TQELStartup::Class(),
+      &qel::TQELWavePlayer::Class(),
+      &qel::TQELTimeTrigger::Class(),
+      &qel::TQELResourceInfo::Class(),
+      &qel::TQELDriveVolume::Class(),
+      &qel::TQELVersionDetails::Class(),
+      &qel::TQELSystemDetails::Class(),
+      &qel::TQELJokeHolder::Class(),
+      &qel::TQELStringHolder::Class(),
+  });
 }
