@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "qel/dialogs/Qeltpassworddlg.h"
 #include "vcl/db/datasource.h"

@@ -6,8 +6,15 @@
 #include "qel/dialogs/Qeltpassworddlg.h"
 #include "vcl/designintf/textdialog.h"
 #include "vcl/dialogs/dialogs.h"
+#include "vcl/rtl/exceptions.h"
 
 namespace qel {
+
+namespace {
+
+constexpr const char* CodeIsSet = "(set)";
+
+}  // namespace
 
 void TQELFilenameProperty::Edit() {
   vcl::TOpenDialog dialog(nullptr);
@@ -31,7 +38,12 @@ void TQELAboutCompsProperty::Edit() {
 }
 
 std::string TQELCodeProperty::GetValue() const {
-  return TStringProperty::GetValue().empty() ? "" : "(set)";
+  return TStringProperty::GetValue().empty() ? "" : CodeIsSet;
+}
+
+void TQELCodeProperty::SetValue(const std::string& text) {
+  if (text.empty()) return TStringProperty::SetValue(text);
+  if (text != GetValue()) throw vcl::EPropertyError("A code is set by its button, not typed here");
 }
 
 void TQELCodeProperty::Edit() {
@@ -44,7 +56,7 @@ void TQELCodeProperty::Edit() {
   dialog.SetMismatchText("The new code and its repetition are not the same.");
   dialog.SetShortText("A code needs at least %d character.");
   dialog.SetMinLength(1);
-  if (dialog.Execute()) SetValue(QELHashedCode(dialog.NewPassword()));
+  if (dialog.Execute()) TStringProperty::SetValue(QELHashedCode(dialog.NewPassword()));
 }
 
 void EditInLines(vcl::TPropertyEditor& editor) {

@@ -94,9 +94,11 @@ class QEL_API TQELCodeProperty : public vcl::TStringProperty {
  public:
   using TStringProperty::TStringProperty;
   vcl::TPropertyAttributes GetAttributes() const override {
-    return {vcl::paDialog, vcl::paReadOnly, vcl::paRevertable};
+    return {vcl::paDialog, vcl::paRevertable};
   }
   std::string GetValue() const override;
+  /// Raises EPropertyError, which does not repeat what was typed: it may be the code.
+  void SetValue(const std::string& text) override;
   void Edit() override;
 };
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "qel/core/Qeltstoredata.h"
 #include "qel/dialogs/Qelsecretdialog.h"

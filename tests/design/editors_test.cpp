@@ -131,7 +131,12 @@ TEST_F(Editors, ACodeIsTypedTwiceAndItsHashIsSet) {
   TQELQueryAccess query(nullptr);
   const auto editor = MakePropertyEditor(Designer, Edited(query, "Code"));
   EXPECT_EQ(editor->GetValue(), "");
-  EXPECT_TRUE(editor->ReadOnly());
+  try {
+    editor->SetValue("typed");
+    ADD_FAILURE() << "a code is no hash";
+  } catch (const EPropertyError& error) {
+    EXPECT_EQ(error.Message(), "A code is set by its button, not typed here");
+  }
   const auto edit = [&](const char* code, const char* again) {
     const TOnForm onForm(L"Code", [&](HWND form) {
       Child<TCustomEdit>(form, 0).SetText(code);
@@ -146,6 +151,7 @@ TEST_F(Editors, ACodeIsTypedTwiceAndItsHashIsSet) {
   edit("open", "open");
   EXPECT_TRUE(QELCodeMatches("open", query.Code()));
   EXPECT_EQ(editor->GetValue(), "(set)");
+  editor->SetValue("(set)");
   EXPECT_EQ(Designer.Modifications, 1);
   editor->Revert();
   EXPECT_EQ(query.Code(), "");

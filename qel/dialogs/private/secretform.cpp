@@ -12,7 +12,8 @@ namespace qel {
 namespace {
 
 constexpr int EditWidth = 260;  // At 96 dots per inch.
-constexpr int MessageLines = 3;
+constexpr int EditFrame = 8;    // In pixels: edge and inner margin, at any dots per inch.
+constexpr int MessageLines = 2;
 constexpr char32_t Dot = 0x25CF;
 constexpr char32_t ControlC = 3;
 constexpr char32_t ControlX = 24;
@@ -109,8 +110,8 @@ template <class Edit>
 Edit* TSecretForm::AddEdit(const std::string& caption) {
   vcl::TLabel* const label = AddLabel(1);
   label->SetCaption(caption);
-  auto* edit = FForm.AddRow<Edit>(FForm.ScaledPixels(EditWidth),
-                                  FontHeight(*FForm.Font()) + FForm.ScaledPixels(8));
+  auto* edit =
+      FForm.AddRow<Edit>(FForm.ScaledPixels(EditWidth), FontHeight(*FForm.Font()) + EditFrame);
   edit->SetAccessibleName(vcl::WithoutAccel(caption));
   label->SetFocusControl(edit);
   return edit;
