@@ -20,6 +20,10 @@ const TClass& TDialogsPage::Class() {
                               Field<&T::About>("About"),
                               Field<&T::Folders>("Folders"),
                               Field<&T::Tips>("Tips"),
+                              Field<&T::Password>("Password"),
+                              Field<&T::Access>("Access"),
+                              Field<&T::Splash>("Splash"),
+                              Field<&T::Page>("Page"),
                               Field<&T::Answers>("Answers"),
                               Method<&T::QuestionClick>("QuestionClick"),
                               Method<&T::CountdownClick>("CountdownClick"),
@@ -28,16 +32,16 @@ const TClass& TDialogsPage::Class() {
                               Method<&T::MessageClick>("MessageClick"),
                               Method<&T::AboutClick>("AboutClick"),
                               Method<&T::FoldersClick>("FoldersClick"),
+                              Method<&T::PasswordClick>("PasswordClick"),
+                              Method<&T::PasswordCheck>("PasswordCheck"),
+                              Method<&T::AccessClick>("AccessClick"),
+                              Method<&T::SplashClick>("SplashClick"),
+                              Method<&T::PageClick>("PageClick"),
                           });
   return info;
 }
 
-TDialogsPage::TDialogsPage(TComponent* owner) : TFrame(owner) {
-  RegisterClasses({&qel::TQELTipTricks::Class(), &qel::TQELFolderBrowser::Class(),
-                   &qel::TQELMsgBox::Class(), &qel::TQELMsgDlg::Class(),
-                   &qel::TQELMsgSelect::Class(), &qel::TQELShellAbout::Class()});
-  LoadFrame();
-}
+TDialogsPage::TDialogsPage(TComponent* owner) : TFrame(owner) { LoadFrame(); }
 
 TDialogsPage::~TDialogsPage() { AnnounceEnd(); }
 
@@ -72,6 +76,28 @@ void TDialogsPage::AboutClick(TObject*) { About->Execute(); }
 
 void TDialogsPage::FoldersClick(TObject*) {
   Tell(Folders->Execute() ? "The folder: " + Folders->Folder() : "The folder: none");
+}
+
+void TDialogsPage::PasswordClick(TObject*) {
+  if (Password->Execute()) return Tell("The password: right, of " + Password->Username());
+  Tell("The password: none. " + Password->LastError());
+}
+
+void TDialogsPage::PasswordCheck(TObject*, bool& ok) { ok = Password->Password() == "open"; }
+
+void TDialogsPage::AccessClick(TObject*) {
+  // A form file would hold its hash, which takes its time to make.
+  if (Access->Code().empty()) Access->ChangeCode("1234");
+  Tell(Access->Execute() ? "The code: right, and for 30 seconds nobody is asked again"
+                         : "The code: none. " + Access->LastError());
+}
+
+void TDialogsPage::SplashClick(TObject*) { Splash->Execute(); }
+
+void TDialogsPage::PageClick(TObject*) {
+  if (!Page->Execute()) return Tell("The page: none. " + Page->LastError());
+  Tell(Concat("The page: ", Page->PaperName(), ", ", std::to_string(Page->PaperWidth() / 100),
+              " x ", std::to_string(Page->PaperHeight() / 100), " mm"));
 }
 
 }  // namespace gallery

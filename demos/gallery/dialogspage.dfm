@@ -69,6 +69,33 @@ object DialogsPage: TDialogsPage
       ''
       'A double click on an event makes its handler.')
   end
+  object Password: TQELPasswordDlg
+    Left = 704
+    Top = 540
+    Title = 'Password'
+    Username = 'guest'
+    OnCheck = PasswordCheck
+  end
+  object Access: TQELQueryAccess
+    Left = 672
+    Top = 540
+    Title = 'Code'
+    LockAfter = 3
+    LockTime = 10
+    ValidFor = 30
+  end
+  object Splash: TQELSplashScreen
+    Left = 640
+    Top = 540
+    Message = 'The gallery is starting'
+    Percentage = 60
+  end
+  object Page: TQELPageSetupDialog
+    Left = 608
+    Top = 540
+    MarginBottom = 2000
+    MarginTop = 2000
+  end
   object OwnHeading: TLabel
     Left = 16
     Top = 8
@@ -158,9 +185,60 @@ object DialogsPage: TDialogsPage
     AutoSize = False
     Caption = 'A tip at each start, as long as they are wanted'
   end
+  object PasswordButton: TButton
+    Left = 16
+    Top = 170
+    Width = 120
+    Height = 26
+    Caption = '&Password'
+    TabOrder = 4
+    OnClick = PasswordClick
+  end
+  object PasswordText: TLabel
+    Left = 150
+    Top = 176
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'A name and a password: it is "open"'
+  end
+  object AccessButton: TButton
+    Left = 16
+    Top = 204
+    Width = 120
+    Height = 26
+    Caption = 'C&ode'
+    TabOrder = 5
+    OnClick = AccessClick
+  end
+  object AccessText: TLabel
+    Left = 150
+    Top = 210
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'The code is 1234; three wrong ones lock it for 10 seconds'
+  end
+  object SplashButton: TButton
+    Left = 16
+    Top = 238
+    Width = 120
+    Height = 26
+    Caption = '&Splash'
+    TabOrder = 6
+    OnClick = SplashClick
+  end
+  object SplashText: TLabel
+    Left = 150
+    Top = 244
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'What is shown while a program starts'
+  end
   object SystemHeading: TLabel
     Left = 16
-    Top = 184
+    Top = 286
     Width = 440
     Height = 13
     AutoSize = False
@@ -174,23 +252,23 @@ object DialogsPage: TDialogsPage
   end
   object SystemLine: TBevel
     Left = 16
-    Top = 200
+    Top = 302
     Width = 440
     Height = 2
     Shape = bsTopLine
   end
   object MessageButton: TButton
     Left = 16
-    Top = 210
+    Top = 312
     Width = 120
     Height = 26
     Caption = '&Message'
-    TabOrder = 4
+    TabOrder = 7
     OnClick = MessageClick
   end
   object MessageText: TLabel
     Left = 150
-    Top = 216
+    Top = 318
     Width = 306
     Height = 13
     AutoSize = False
@@ -198,16 +276,16 @@ object DialogsPage: TDialogsPage
   end
   object AboutButton: TButton
     Left = 16
-    Top = 244
+    Top = 346
     Width = 120
     Height = 26
     Caption = '&About'
-    TabOrder = 5
+    TabOrder = 8
     OnClick = AboutClick
   end
   object AboutText: TLabel
     Left = 150
-    Top = 250
+    Top = 352
     Width = 306
     Height = 13
     AutoSize = False
@@ -215,20 +293,37 @@ object DialogsPage: TDialogsPage
   end
   object FoldersButton: TButton
     Left = 16
-    Top = 278
+    Top = 380
     Width = 120
     Height = 26
     Caption = '&Folders'
-    TabOrder = 6
+    TabOrder = 9
     OnClick = FoldersClick
   end
   object FoldersText: TLabel
     Left = 150
-    Top = 284
+    Top = 386
     Width = 306
     Height = 13
     AutoSize = False
     Caption = 'The system''s folder dialog'
+  end
+  object PageButton: TButton
+    Left = 16
+    Top = 414
+    Width = 120
+    Height = 26
+    Caption = 'Pa&ge'
+    TabOrder = 10
+    OnClick = PageClick
+  end
+  object PageText: TLabel
+    Left = 150
+    Top = 420
+    Width = 306
+    Height = 13
+    AutoSize = False
+    Caption = 'The system''s page set-up, where there is a printer'
   end
   object AnswersHeading: TLabel
     Left = 480

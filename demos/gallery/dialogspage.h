@@ -24,6 +24,10 @@ class TDialogsPage : public vcl::TFrame {
   qel::TQELShellAbout* About = nullptr;
   qel::TQELFolderBrowser* Folders = nullptr;
   qel::TQELTipTricks* Tips = nullptr;
+  qel::TQELPasswordDlg* Password = nullptr;
+  qel::TQELQueryAccess* Access = nullptr;
+  qel::TQELSplashScreen* Splash = nullptr;
+  qel::TQELPageSetupDialog* Page = nullptr;
   vcl::TMemo* Answers = nullptr;
 
   void QuestionClick(vcl::TObject*);
@@ -33,6 +37,11 @@ class TDialogsPage : public vcl::TFrame {
   void MessageClick(vcl::TObject*);
   void AboutClick(vcl::TObject*);
   void FoldersClick(vcl::TObject*);
+  void PasswordClick(vcl::TObject*);
+  void PasswordCheck(vcl::TObject*, bool& ok);
+  void AccessClick(vcl::TObject*);
+  void SplashClick(vcl::TObject*);
+  void PageClick(vcl::TObject*);
   void Tell(const std::string& answer);
 };
 

@@ -9,6 +9,7 @@
 #include "demos/gallery/movingpage.h"
 #include "demos/gallery/picklistspage.h"
 #include "demos/gallery/standardpage.h"
+#include "demos/gallery/systempage.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/properties.h"
 
@@ -103,6 +104,7 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   AddPage<TEditingPage>("Editing");
   AddPage<TFieldsPage>("Fields");
   AddPage<TDialogsPage>("Dialogs");
+  AddPage<TSystemPage>("System");
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
 }
 

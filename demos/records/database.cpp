@@ -89,8 +89,8 @@ void MakePeople(vcl::TOdbcQuery& query) {
   Execute(query, vcl::Concat("UPDATE people SET notes = 'Met at the fair in Malmö.\nAsks for a "
                              "quote each autumn.', photo = ",
                              Portrait(vcl::clTeal), " WHERE id = 1"));
-  Execute(query, vcl::Concat("UPDATE people SET photo = ", Portrait(vcl::clMaroon),
-                             " WHERE id = 2"));
+  Execute(query,
+          vcl::Concat("UPDATE people SET photo = ", Portrait(vcl::clMaroon), " WHERE id = 2"));
   MakeOtherTables(query);
 }
 

@@ -52,7 +52,7 @@ TEST(Links, EndWithTheComponentOrItsBackground) {
     use.It.reset();
     EXPECT_EQ(first.ClientCount(), 0);
   });
-  EXPECT_EQ(links, 34);
+  EXPECT_EQ(links, 38);
 }
 
 /// Those that take nothing over, whoever owns it.
