@@ -46,6 +46,7 @@ inline void RegisterAll() {
                         &qel::TQELShellAbout::Class(), &qel::TQELTipTricks::Class()});
   // The services that tell and hold something.
   vcl::RegisterClasses({
+      &qel::TQELIllegalAbort::Class(),
       &qel::TQELStartup::Class(),
       &qel::TQELWavePlayer::Class(),
       &qel::TQELTimeTrigger::Class(),
