@@ -72,6 +72,7 @@
 #include "qel/mail/Qeltquickmail.h"
 #include "qel/services/Qeltdrivevolume.h"
 #include "qel/services/Qeltformsaver.h"
+#include "qel/services/Qeltillegalabort.h"
 #include "qel/services/Qeltjokeholder.h"
 #include "qel/services/Qeltmrumenu.h"
 #include "qel/services/Qeltonlyone.h"

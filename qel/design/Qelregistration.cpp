@@ -67,6 +67,7 @@
 #include "qel/mail/Qeltquickmail.h"
 #include "qel/services/Qeltdrivevolume.h"
 #include "qel/services/Qeltformsaver.h"
+#include "qel/services/Qeltillegalabort.h"
 #include "qel/services/Qeltjokeholder.h"
 #include "qel/services/Qeltmrumenu.h"
 #include "qel/services/Qeltonlyone.h"
@@ -176,6 +177,7 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
            &TQELStringHolder::Class(),
            &TQELDriveVolume::Class(),
            &TQELMRUMenu::Class(),
+           &TQELIllegalAbort::Class(),
        }},
       {"QEL System/2",
        {
@@ -300,6 +302,7 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELTimeTrigger::Class(),
       &TQELWavePlayer::Class(),
       &TQELStartup::Class(),
+      &TQELIllegalAbort::Class(),
       &TQELOnlyOne::Class(),
       &TQELAttachment::Class(),
       &TQELAttachments::Class(),

@@ -49,6 +49,7 @@ inline void RegisterAll() {
                         &qel::TQELDBPasswordDlg::Class()});
   // The services that tell and hold something.
   vcl::RegisterClasses({
+      &qel::TQELIllegalAbort::Class(),
       &qel::TQELStartup::Class(),
       &qel::TQELWavePlayer::Class(),
       &qel::TQELTimeTrigger::Class(),

@@ -89,9 +89,9 @@ int DayOfChange(const SYSTEMTIME& change, int year) {
 
 /// What the clock on the wall shows when it is changed.
 TMilliseconds LocalOfChange(const SYSTEMTIME& change, int year) {
-  const TMilliseconds minutes = change.wHour * 60 + change.wMinute;
-  return DayOfChange(change, year) * DayLength + minutes * MinuteLength + change.wSecond * 1000 +
-         change.wMilliseconds;
+  const TMilliseconds minutes = TMilliseconds{60} * change.wHour + change.wMinute;
+  return DayOfChange(change, year) * DayLength + minutes * MinuteLength +
+         TMilliseconds{1000} * change.wSecond + change.wMilliseconds;
 }
 
 int YearOf(TMilliseconds local) {

@@ -14,7 +14,7 @@ namespace qel {
 /// of that on the wall.
 using TMilliseconds = std::int64_t;
 inline constexpr TMilliseconds MinuteLength = 60'000;
-inline constexpr TMilliseconds DayLength = 24 * 60 * MinuteLength;
+inline constexpr TMilliseconds DayLength = MinuteLength * 24 * 60;
 
 /// How far the clock on the wall is ahead at an instant.
 using TZone = std::function<TMilliseconds(TMilliseconds instant)>;
