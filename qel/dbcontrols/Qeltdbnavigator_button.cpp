@@ -91,9 +91,9 @@ void TQELNavigatorPress::DrawFind() {
     canvas.Pen()->SetColor(color);
     canvas.Pen()->SetWidth(std::max(1, side / 8));
     canvas.Brush()->SetStyle(vcl::bsClear);
-    canvas.Ellipse(corner.X + at(2), corner.Y + at(2), corner.X + at(10), corner.Y + at(10));
-    canvas.MoveTo(corner.X + at(9), corner.Y + at(9));
-    canvas.LineTo(corner.X + at(13), corner.Y + at(13));
+    canvas.Ellipse(corner.X + at(2), corner.Y + at(2), corner.X + at(11), corner.Y + at(11));
+    canvas.MoveTo(corner.X + at(10), corner.Y + at(10));
+    canvas.LineTo(corner.X + at(14), corner.Y + at(14));
     canvas.Pen()->SetWidth(1);
     canvas.Brush()->SetStyle(vcl::bsSolid);
   };

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "qel/dbcontrols/private/searchwindow.h"
+#include "vcl/controls/accelerators.h"
 #include "vcl/forms/application.h"
 #include "vcl/graphics/fontmetrics.h"
 #include "vcl/rtl/scope.h"
@@ -56,11 +57,13 @@ void TQELDBSearchForm::TWindow::AddInput() {
     UpdateButtons();
   };
   above->SetFocusControl(FText);
+  FText->SetAccessibleName(vcl::WithoutAccel(FSearch.FTextLabel));
   vcl::TLabel* const aboveField = AddLabel(FSearch.FFieldLabel);
   FField = AddRow<vcl::TComboBox>(width, height);
   FField->SetStyle(vcl::csDropDownList);
   FField->OnClick = [this](vcl::TObject*) { FieldChosen(); };
   aboveField->SetFocusControl(FField);
+  FField->SetAccessibleName(vcl::WithoutAccel(FSearch.FFieldLabel));
 }
 
 void TQELDBSearchForm::TWindow::AddOptions() {
@@ -111,8 +114,7 @@ void TQELDBSearchForm::TWindow::FieldsChanged() {
   for (const std::string& name : FNames) {
     const vcl::TField* const field =
         name.empty() ? nullptr : FSearch.FLink.DataSet()->FindField(name);
-    const int place =
-        FField->Items()->Add(field ? field->DisplayLabel() : FSearch.FAllFieldsText);
+    const int place = FField->Items()->Add(field ? field->DisplayLabel() : FSearch.FAllFieldsText);
     if (field && field == FSearch.FLink.DataSet()->FindField(FSearch.FSearchField)) chosen = place;
   }
   FField->SetItemIndex(chosen);

@@ -147,9 +147,8 @@ void TQELPageSetupDialog::Take(const std::string& settings) {
   const bool turned = mode.dmFields & DM_ORIENTATION && mode.dmOrientation == DMORIENT_LANDSCAPE;
   const bool sized = mode.dmFields & DM_PAPERWIDTH && mode.dmFields & DM_PAPERLENGTH &&
                      mode.dmPaperWidth > 0 && mode.dmPaperLength > 0;
-  const vcl::TSize sheet = sized
-                               ? vcl::TSize{mode.dmPaperWidth * Tenth, mode.dmPaperLength * Tenth}
-                               : SheetOf(*vcl::Printer(), turned);
+  const vcl::TSize sheet = sized ? vcl::TSize{mode.dmPaperWidth * Tenth, mode.dmPaperLength * Tenth}
+                                 : SheetOf(*vcl::Printer(), turned);
   FOrientation = turned ? vcl::poLandscape : vcl::poPortrait;
   FPaperWidth = sheet.cx;
   FPaperHeight = sheet.cy;

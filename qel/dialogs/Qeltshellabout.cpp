@@ -36,11 +36,11 @@ const vcl::TClass& TQELShellAbout::Class() {
   using namespace vcl;
   static const TClass info =
       Describe<T, TQELHelpDialog>("qel::TQELShellAbout", "qel/dialogs/Qeltshellabout.h",
-                                    {
-                                        Property<&T::Icon, &T::SetIcon>("Icon"),
-                                        Property<&T::Text, &T::SetText>("Text"),
-                                        Property<&T::Title, &T::SetTitle>("Title"),
-                                    });
+                                  {
+                                      Property<&T::Icon, &T::SetIcon>("Icon"),
+                                      Property<&T::Text, &T::SetText>("Text"),
+                                      Property<&T::Title, &T::SetTitle>("Title"),
+                                  });
   return info;
 }
 

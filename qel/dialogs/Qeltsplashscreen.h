@@ -14,10 +14,10 @@ namespace qel {
 
 /// Shows a picture in the middle of the screen while the program starts, with a message and a bar
 /// on it. On a form that is read from a form file before there is a main form to be seen, it comes
-/// up of its own accord when it has been read. It goes, in the program's message loop, once the main
-/// form has painted itself and MinTime has passed; and at once when a message box or another modal
-/// window comes up. Where the picture does not cover, what is behind shows through and takes the
-/// clicks.
+/// up of its own accord when it has been read. It goes, in the program's message loop, once the
+/// main form has painted itself and MinTime has passed; and at once when a message box or another
+/// modal window comes up. Where the picture does not cover, what is behind shows through and takes
+/// the clicks.
 class QEL_API TQELSplashScreen : public TQELCustomDialog {
  public:
   explicit TQELSplashScreen(vcl::TComponent* owner);

@@ -167,6 +167,7 @@ TEST_F(SearchForm, OffersTheFieldsByTheirLabels) {
     vcl::TComboBox* const fields = ControlsOf<vcl::TComboBox>(form).front();
     EXPECT_EQ(fields->Items()->Text(), "(all fields)\r\nCalled\r\nCount\r\n");
     EXPECT_EQ(fields->ItemIndex(), 2);
+    EXPECT_EQ(fields->Accessible().Name, "Field:");
     fields->SetFocus();
     Key(VK_UP);
     EXPECT_EQ(Search->SearchField(), "Name");
@@ -193,9 +194,32 @@ TEST_F(SearchForm, AWindowThatStaysOpenLetsTheUserGoOn) {
   EXPECT_EQ(Window(), nullptr);
   EXPECT_FALSE(Search->Shown());
   ASSERT_TRUE(Search->Execute());
+  Form.SetBorderStyle(vcl::bsSizeable);
+  EXPECT_FALSE(Search->Shown()) << "the form's window was made anew";
+  testinput::Pump();
+  EXPECT_TRUE(Search->Execute());
+  ASSERT_NE(Window(), nullptr);
+  EXPECT_TRUE(::IsWindowVisible(Window()->Handle()));
+  EXPECT_EQ(::GetWindow(Window()->Handle(), GW_OWNER), Form.Handle());
   delete Search;
   testinput::Pump();
   EXPECT_EQ(Window(), nullptr) << "the window goes with its component";
+}
+
+TEST_F(SearchForm, AWindowThatStaysOpenGoesWithItsForm) {
+  ShowForm();
+  {
+    vcl::TForm second(nullptr);
+    auto* search = new TQELDBSearchForm(&second);
+    search->SetDataSource(&Source);
+    search->SetStayOpen(true);
+    second.Show();
+    testinput::Pump();
+    ASSERT_TRUE(search->Execute());
+    testinput::Pump();
+  }
+  testinput::Pump();
+  EXPECT_EQ(Window(), nullptr);
 }
 
 TEST_F(SearchForm, ALongSearchCanBeStopped) {
@@ -247,6 +271,22 @@ TEST_F(SearchForm, MayBeFreedInItsOwnEvents) {
   };
   EXPECT_FALSE(Search->Find());
   Data.FieldByName("Name")->OnGetText = nullptr;
+  Search = new TQELDBSearchForm(&Form);
+  vcl::TDataSource source(nullptr);
+  auto* data = new vcl::TMemoryDataSet(nullptr);
+  data->FieldDefs()->Add("Name", vcl::ftString);
+  data->FieldDefs()->Add("City", vcl::ftString);
+  data->Open();
+  data->AppendRecord({std::string("Ann"), std::string("Ulm")});
+  data->FieldByName("Name")->OnGetText = [&](vcl::TField*, std::string&, bool) { data->Close(); };
+  source.SetDataSet(data);
+  Search->SetDataSource(&source);
+  Search->SetSearchText("Ulm");
+  EXPECT_FALSE(Search->Find()) << "closed behind its back";
+  data->Open();
+  Search->OnProgress = [&](vcl::TObject*, int, bool&) { delete std::exchange(data, nullptr); };
+  data->FieldByName("Name")->OnGetText = [](vcl::TField*, std::string&, bool) { ::Sleep(120); };
+  EXPECT_EQ(Search->Count(), -1) << "freed behind its back";
 }
 
 TEST_F(SearchForm, SearchesQueriesTheSame) {

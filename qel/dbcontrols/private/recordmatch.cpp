@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "vcl/rtl/utf16.h"
+#include "vcl/rtl/watch.h"
 #include "vcl/rtl/win32.h"
 
 namespace qel {
@@ -26,8 +27,11 @@ bool TRecordMatch::Matches(const vcl::TField* field) const {
 
 bool TRecordMatch::operator()(const vcl::TDataSet& data,
                               const std::vector<std::string>& fields) const {
-  return std::ranges::any_of(
-      fields, [&](const std::string& name) { return Matches(data.FindField(name)); });
+  // A field's OnGetText may free the data set.
+  const vcl::TWatch watch(&data);
+  return std::ranges::any_of(fields, [&](const std::string& name) {
+    return !watch.Gone() && Matches(data.FindField(name));
+  });
 }
 
 }  // namespace qel

@@ -252,6 +252,14 @@ void TDialogForm::DoClose(vcl::TCloseAction& action) {
   TForm::DoClose(action);
 }
 
+/// The system ends a window with the one that it stands in front of.
+void TDialogForm::Dispatch(vcl::TMessage& message) {
+  const vcl::TWatch watch(this);
+  TForm::Dispatch(message);
+  const bool ends = message.Msg == WM_DESTROY && !watch.Gone() && !Destroying();
+  if (ends && !Modal() && !ControlState().Has(vcl::csDestroyingHandle)) Close();
+}
+
 // Its answer and its keys.
 
 void TDialogForm::Finish(int result) {

@@ -13,9 +13,9 @@
 
 namespace qel {
 
-/// A form, modal or one that stays open: a picture at the left, rows of text and controls beside it, and a row of buttons
-/// below. It has its monitor's dots per inch from the beginning, so that what is put in is measured
-/// in them, and takes its size from what it holds when it is shown.
+/// A form, modal or one that stays open: a picture at the left, rows of text and controls beside
+/// it, and a row of buttons below. It has its monitor's dots per inch from the beginning, so that
+/// what is put in is measured in them, and takes its size from what it holds when it is shown.
 class TDialogForm : public vcl::TForm {
  public:
   /// Made for the dialog, whose title, background and help it has; it closes when that is freed.
@@ -53,7 +53,7 @@ class TDialogForm : public vcl::TForm {
   /// Shows the form and returns the answer, 0 when it was closed or its dialog freed.
   int Run();
   /// Shows the form, which must have been made by `new`, in front of the active form's window and
-  /// lets the user go on there. It frees itself when it has been closed.
+  /// lets the user go on there. It frees itself when it has been closed, or that window has ended.
   void StayOpen();
   /// Closes the form with an answer, as if it had been chosen, and asks nothing.
   void Finish(int result);
@@ -64,6 +64,7 @@ class TDialogForm : public vcl::TForm {
   /// Null once it has been freed.
   TQELFormDialog* Dialog() const { return FDialog; }
   void DoClose(vcl::TCloseAction& action) override;
+  void Dispatch(vcl::TMessage& message) override;
   void KeyDown(std::uint16_t& key, vcl::TShiftState shift) override;
   void PaintWindow(HDC dc) override;
   void Notification(vcl::TComponent* component, vcl::TOperation operation) override;

@@ -83,6 +83,8 @@ std::unique_ptr<vcl::TBitmap> TQELSplashScreen::TWindow::DrawnOn(vcl::TColor gro
   vcl::TGraphic* const graphic = FSplash.Picture()->Graphic();
   canvas.Brush()->SetColor(graphic ? ground : vcl::clBtnFace);
   canvas.FillRect({0, 0, FSize.cx, FSize.cy});
+  canvas.Pen()->SetColor(vcl::clBtnShadow);
+  if (!graphic) canvas.Rectangle(0, 0, FSize.cx, FSize.cy);
   if (graphic) graphic->Draw(&canvas, {0, 0, FSize.cx, FSize.cy});
   const int margin = ::MulDiv(Margin, FPixelsPerInch, 96);
   const bool bar = FSplash.Percentage() >= 0;
