@@ -31,7 +31,8 @@ DEVMODEW ModeOf(const std::string& settings) {
   return mode;
 }
 
-/// The sheet's size by the printer's context, in hundredths of a millimetre.
+/// The sheet's size by the printer's context, in hundredths of a millimetre; 0 where that does not
+/// tell.
 vcl::TSize SheetOf(const vcl::TPrinter& printer, bool turned) {
   const vcl::TPageMetrics page = printer.Metrics();
   const int across = ::MulDiv(page.Paper.cx, HundredthsPerInch, page.PixelsPerInch.cx);
@@ -150,8 +151,8 @@ void TQELPageSetupDialog::Take(const std::string& settings) {
   const vcl::TSize sheet = sized ? vcl::TSize{mode.dmPaperWidth * Tenth, mode.dmPaperLength * Tenth}
                                  : SheetOf(*vcl::Printer(), turned);
   FOrientation = turned ? vcl::poLandscape : vcl::poPortrait;
-  FPaperWidth = sheet.cx;
-  FPaperHeight = sheet.cy;
+  FPaperWidth = std::max(sheet.cx, 0);
+  FPaperHeight = std::max(sheet.cy, 0);
   const auto* const end = std::find(std::begin(mode.dmFormName), std::end(mode.dmFormName), L'\0');
   const std::wstring name(std::begin(mode.dmFormName), end);
   FPaperName = mode.dmFields & DM_FORMNAME ? vcl::ToUtf8(name) : std::string();

@@ -11,6 +11,7 @@
 #include "tests/support/importpatch.h"
 #include "tests/support/registered.h"
 #include "tests/support/texts.h"
+#include "tests/vcl/testinput.h"
 #include "vcl/rtl/win32.h"
 #include "vcl/vcl.h"
 
@@ -45,9 +46,33 @@ LONG WINAPI Upright(HWND, HANDLE, LPWSTR, PDEVMODEW mode, PDEVMODEW, DWORD) {
   mode->dmPaperSize = DMPAPER_LETTER;
   return IDOK;
 }
-/// The screen stands for the printer's context, whose sheet has its size.
+/// The screen stands for the printer's context, whose sheet is 8.5 inches wide and 11 high.
 HDC WINAPI ScreenContext(LPCWSTR, LPCWSTR, LPCWSTR, const DEVMODEW*) {
   return ::CreateCompatibleDC(nullptr);
+}
+int WINAPI SheetOrScreen(HDC dc, int which) {
+  if (which == PHYSICALWIDTH) return ::GetDeviceCaps(dc, LOGPIXELSX) * 85 / 10;
+  if (which == PHYSICALHEIGHT) return ::GetDeviceCaps(dc, LOGPIXELSY) * 11;
+  return ::GetDeviceCaps(dc, which);
+}
+
+/// Sheets of one size, from one bin.
+DWORD WINAPI HasSheet(LPCWSTR, LPCWSTR, WORD which, LPWSTR out, const DEVMODEW*) {
+  constexpr std::size_t paperName = 64, binName = 24;
+  const auto put = [out](const auto& value) {
+    if (out) std::memcpy(out, &value, sizeof value);
+    return DWORD{1};
+  };
+  if (out && which == DC_PAPERNAMES) std::fill_n(out, paperName, L'\0');
+  if (out && which == DC_BINNAMES) std::fill_n(out, binName, L'\0');
+  switch (which) {
+    case DC_PAPERS: return put(WORD{DMPAPER_LETTER});
+    case DC_PAPERSIZE: return put(POINT{2159, 2794});
+    case DC_PAPERNAMES: return put(L"Letter");
+    case DC_BINS: return put(WORD{DMBIN_AUTO});
+    case DC_BINNAMES: return put(L"Bin");
+    default: return static_cast<DWORD>(-1);
+  }
 }
 
 /// What the dialog was last asked with, and what the user does there.
@@ -94,6 +119,7 @@ TEST_F(PageSetup, WithoutAPrinterItSaysSo) {
   EXPECT_EQ(Dialog->LastError(), "No printer is installed");
 }
 
+/// One printer, which only the library sees.
 class PageSetupOfOne : public PageSetup {
  private:
   const TImportPatch FPatches[6] = {{"qelhost.dll", "EnumPrintersW", &OnePrinter},
@@ -101,10 +127,46 @@ class PageSetupOfOne : public PageSetup {
                                     {"qelhost.dll", "ClosePrinter", &CloseIt},
                                     {"qelhost.dll", "DocumentPropertiesW", &Upright},
                                     {"qelhost.dll", "CreateICW", &ScreenContext},
-                                    {"qelhost.dll", "PageSetupDlgW", &AskPage}};
+                                    {"qelhost.dll", "GetDeviceCaps", &SheetOrScreen}};
 };
 
-TEST_F(PageSetupOfOne, AsksWithWhatIsSetAndTakesWhatIsChosen) {
+/// And a user who is none.
+class PageSetupOfUser : public PageSetupOfOne {
+ private:
+  const TImportPatch FPatch{"qelhost.dll", "PageSetupDlgW", &AskPage};
+};
+
+/// Where the system's dialog can be told of a sheet.
+TEST_F(PageSetupOfOne, TheDialogIsTheSystems) {
+  const HMODULE dialogs = ::GetModuleHandleA("comdlg32.dll");
+  const bool asks = FindImport(dialogs, [](const std::string& name, std::uintptr_t*) {
+    return name == "DeviceCapabilitiesW";
+  });
+  if (!asks) GTEST_SKIP() << "the system's dialog asks for sheets in another way";
+  const TImportPatch patch("comdlg32.dll", "DeviceCapabilitiesW", &HasSheet);
+  std::vector<int> asked;
+  Dialog->SetHelpContext(5);
+  Dialog->OnHelp = [&](vcl::TObject*, int context) { asked.push_back(context); };
+  Dialog->SetMarginLeft(1200);
+  const auto pressF1 = [pressed = false]() mutable {
+    ::Sleep(100);
+    if (!std::exchange(pressed, true)) {
+      testinput::SendKey(VK_F1, true);
+      testinput::SendKey(VK_F1, false);
+      ::Sleep(200);
+    }
+    return true;
+  };
+  testinput::TBoxAnswer box(IDOK, 1, pressF1);
+  EXPECT_TRUE(Dialog->Execute());
+  EXPECT_TRUE(box.Wait());
+  EXPECT_THAT(asked, testing::ElementsAre(5));
+  EXPECT_EQ(Dialog->LastError(), "");
+  EXPECT_EQ(Dialog->MarginLeft(), 1200);
+  EXPECT_NEAR(Dialog->PaperWidth(), 21590, 20) << "the sheet of the printer";
+}
+
+TEST_F(PageSetupOfUser, AsksWithWhatIsSetAndTakesWhatIsChosen) {
   Dialog->SetMarginLeft(1000);
   Dialog->MinMargins()->SetTop(3000);
   Dialog->MinMargins()->SetTop(-1);
@@ -141,19 +203,23 @@ TEST_F(PageSetupOfOne, AsksWithWhatIsSetAndTakesWhatIsChosen) {
   EXPECT_EQ(Asked.Mode.dmFields & (DM_PAPERWIDTH | DM_FORMNAME), DWORD{DM_FORMNAME});
 }
 
-TEST_F(PageSetupOfOne, ASheetWithoutASizeHasTheContexts) {
-  Asked.Answer = [](PAGESETUPDLGW&, DEVMODEW& mode) -> BOOL {
-    mode.dmFields = DM_ORIENTATION | DM_PAPERSIZE;
-    mode.dmOrientation = DMORIENT_PORTRAIT;
-    return TRUE;
-  };
-  EXPECT_TRUE(Dialog->Execute());
-  const vcl::TPageMetrics page = vcl::Printer()->Metrics();
-  EXPECT_EQ(Dialog->PaperWidth(), ::MulDiv(page.Paper.cx, 2540, page.PixelsPerInch.cx));
-  EXPECT_EQ(Dialog->PaperName(), "");
+TEST_F(PageSetupOfUser, ASheetWithoutASizeHasTheContexts) {
+  Dialog->SetPaperName("A4");
+  for (const short turned : {short{DMORIENT_PORTRAIT}, short{DMORIENT_LANDSCAPE}}) {
+    Asked.Answer = [turned](PAGESETUPDLGW&, DEVMODEW& mode) -> BOOL {
+      mode.dmFields = DM_ORIENTATION | DM_PAPERSIZE;
+      mode.dmOrientation = turned;
+      return TRUE;
+    };
+    EXPECT_TRUE(Dialog->Execute());
+    const bool upright = turned == DMORIENT_PORTRAIT;
+    EXPECT_NEAR(upright ? Dialog->PaperWidth() : Dialog->PaperHeight(), 21590, 20);
+    EXPECT_NEAR(upright ? Dialog->PaperHeight() : Dialog->PaperWidth(), 27940, 20);
+    EXPECT_EQ(Dialog->PaperName(), "");
+  }
 }
 
-TEST_F(PageSetupOfOne, AfterACancelNothingHasChanged) {
+TEST_F(PageSetupOfUser, AfterACancelNothingHasChanged) {
   Dialog->SetOrientation(vcl::poLandscape);
   Asked.Answer = [](PAGESETUPDLGW& data, DEVMODEW& mode) -> BOOL {
     data.rtMargin.left = 1;
