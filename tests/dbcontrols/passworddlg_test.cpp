@@ -23,7 +23,7 @@ class DBPasswordDlg : public vcl::TStandardForm {
     Data.AppendRecord({std::string("ann"), QELHashedCode("apple", 1000), std::string("plain1")});
     Data.AppendRecord({std::string("bob"), QELHashedCode("berry", 1000), std::string()});
     Data.AppendRecord({std::string("eve"), std::string("garbage")});
-    Data.AppendRecord({{}, QELHashedCode("nobody", 1000)});
+    Data.AppendRecord({std::string(), QELHashedCode("nobody", 1000)});
     Data.First();
     Source.SetDataSet(&Data);
     Dialog->SetName("Password1");
