@@ -207,7 +207,7 @@ object DialogsPage: TDialogsPage
     Top = 204
     Width = 120
     Height = 26
-    Caption = 'C&ode'
+    Caption = 'Co&de'
     TabOrder = 5
     OnClick = AccessClick
   end

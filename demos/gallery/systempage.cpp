@@ -1,6 +1,7 @@
 // The page of services: facts of the system, times, sounds, sayings, texts with names.
 #include "demos/gallery/systempage.h"
 
+#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
 
 namespace gallery {
@@ -59,8 +60,8 @@ void TSystemPage::VolumeClick(TObject*) {
 }
 
 void TSystemPage::VersionClick(TObject*) {
-  Version->SetFilename(Application()->ExeName());
-  if (!Version->HasVersion()) return Tell("This program says nothing about itself");
+  Version->SetFilename(ExtractFilePath(Application()->ExeName()) + "qel.dll");
+  if (!Version->HasVersion()) return Tell(Version->Filename() + " says nothing about itself");
   Tell(Concat(Version->FileDescription(), "\n", Version->FileVersion(), "\n",
               Version->LegalCopyright()));
 }

@@ -126,7 +126,7 @@ object SystemPage: TSystemPage
     Top = 102
     Width = 120
     Height = 26
-    Caption = '&Version'
+    Caption = 'Versio&n'
     TabOrder = 2
     OnClick = VersionClick
   end
@@ -136,7 +136,7 @@ object SystemPage: TSystemPage
     Width = 306
     Height = 13
     AutoSize = False
-    Caption = 'What this program says about itself'
+    Caption = 'What the file of the package says about itself'
   end
   object ResourcesButton: TButton
     Left = 16

@@ -282,6 +282,22 @@ TEST_F(Gallery, ThePopupMenuChangesItsButton) {
   EXPECT_EQ(Find<TComboBox>("ButtonSubjectBox")->Text(), "FlatButton");
 }
 
+TEST_F(Gallery, ThePageOfServicesTells) {
+  TTabSheet* const sheet = Form.Pages->Pages(Form.Pages->PageCount() - 1);
+  Form.Pages->SetActivePage(sheet);
+  const auto* frame = sheet->Controls(0);
+  const auto part = [&](const char* name) { return frame->FindComponent(name); };
+  auto& told = dynamic_cast<TMemo&>(*part("Told"));
+  for (const char* name : {"DetailsButton", "VolumeButton", "VersionButton", "ResourcesButton"}) {
+    told.Clear();
+    Click(dynamic_cast<TControl*>(part(name)));
+    EXPECT_TRUE(PumpUntil([&] { return told.Lines()->Count() > 1; })) << name << told.Text();
+  }
+  auto& text = dynamic_cast<TEdit&>(*part("TemplateEdit"));
+  text.SetText("%who% %nobody% 5%%");
+  EXPECT_EQ(dynamic_cast<TLabel&>(*part("ExpandedLabel")).Caption(), "world %nobody% 5%");
+}
+
 TEST_F(Gallery, AddsAFolderForTheUserToName) {
   const auto folder = std::filesystem::temp_directory_path() / "gallery";
   std::filesystem::create_directories(folder / "New folder");

@@ -3,7 +3,9 @@
 
 #include <fstream>
 
+#include "demos/records/database.h"
 #include "demos/records/recordsform.h"
+#include "tests/dialogs/dialogtest.h"
 #include "tests/support/program.h"
 #include "tests/vcl/testinput.h"
 #include "vcl/dbctrls/dbctrls.h"
@@ -135,6 +137,73 @@ TEST_F(Records, AHundredThousandAreShown) {
   EXPECT_LT(query->RecNo(), 100'006 - 50);
   Find<vcl::TEdit>("FilterEdit")->SetText("Name 99999");
   EXPECT_EQ(Name()->AsString(), "Name 99999");
+}
+
+TEST_F(Records, HaveNotesAndPhotosThatAreEdited) {
+  auto* const query = Find<vcl::TOdbcQuery>("Query");
+  auto* const notes = Find<qel::TQELDBMemoView>("Notes");
+  EXPECT_THAT(notes->Text(), HasSubstr("fair"));
+  EXPECT_THAT(query->FieldByName("photo")->AsString(), testing::StartsWith("BM"));
+  Find<vcl::TPageControl>("Details")->SetActivePage(Find<vcl::TTabSheet>("NotesPage"));
+  ASSERT_TRUE(testinput::PumpUntil([&] { return Form->Active(); }));
+  notes->SetFocus();
+  testinput::TypeKey(VK_HOME, {VK_CONTROL});
+  testinput::TypeKey('X');
+  EXPECT_EQ(query->State(), vcl::dsEdit);
+  query->Next();
+  EXPECT_EQ(notes->Text(), "");
+  query->First();
+  EXPECT_THAT(notes->Text(), testing::StartsWith("xMet"));
+}
+
+TEST_F(Records, AskForThePasswordOnceTheirFileHasOne) {
+  EXPECT_TRUE(Form->LogIn()) << "there is none at first";
+  const auto typed = [](std::vector<std::string> digits) {
+    return [digits = std::move(digits)](vcl::TCustomForm&) {
+      for (const std::string& text : digits) {
+        for (const char digit : text) testinput::TypeKey(static_cast<WORD>(digit));
+        testinput::TypeKey(&text == &digits.back() ? VK_RETURN : VK_TAB);
+      }
+    };
+  };
+  const auto logIn = [&](const std::string& password) {
+    const qel::TWhenShown shown([&](vcl::TCustomForm& form) {
+      typed({password})(form);
+      testinput::Pump();
+      if (form.ModalResult() == vcl::mrNone) testinput::TypeKey(VK_ESCAPE);
+    });
+    return Form->LogIn();
+  };
+  {
+    const qel::TWhenShown shown(typed({"1234", "1234"}));
+    Click("ProtectButton");
+  }
+  EXPECT_EQ(Find<vcl::TOdbcQuery>("AccessQuery")->RecordCount(), 1);
+  EXPECT_TRUE(logIn("1234"));
+  {
+    const qel::TWhenShown shown(typed({"1234", "5678", "5678"}));
+    Click("ProtectButton");
+  }
+  EXPECT_TRUE(logIn("5678"));
+  EXPECT_FALSE(logIn("1234"));
+}
+
+TEST_F(Records, OfOldFilesGetTheColumnsThatAreNew) {
+  const std::string name = (Folder.Path / "old.db").string();
+  {
+    vcl::TOdbcQuery query(nullptr);
+    query.SetConnectionString(ConnectionString(name));
+    for (const char* sql :
+         {"CREATE TABLE people (id INTEGER PRIMARY KEY, name VARCHAR(28) NOT NULL UNIQUE,"
+          " city VARCHAR(20), born DATE, balance DOUBLE)",
+          "INSERT INTO people (name) VALUES ('Old')"}) {
+      query.SQL()->SetText(sql);
+      query.ExecSQL();
+    }
+  }
+  for (int i = 0; i < 2; ++i) Form->Open(name);
+  EXPECT_EQ(Name()->AsString(), "Old");
+  EXPECT_TRUE(Form->LogIn());
 }
 
 TEST_F(Records, ANewOneBeginsWithItsName) {

@@ -83,10 +83,10 @@ expect_rows(pages name,classes
   "QEL Controls/1|TQELBackground,TQELCheckbox,TQELRadiobutton,TQELLabel,TQELButton,TQELIEButton,TQELOfficeButton,TQELPanel,TQELGauge,TQELPresentation,TQELHint,TQELFillBackground,TQELArrowButton,TQELRoundButton,TQELHeader,TQELHeaderList"
   "QEL Controls/2|TQELColorCombo,TQELAnimator,TQELImageScroller,TQELCommandLabel,TQELInformationLabel,TQELStickyLabel,TQELVersionLabel,TQELLookupMenu,TQELSpinEdit,TQELRealSpinEdit,TQELLookupEdit,TQELOfficeEdit,TQELOfficeEdit,TQELAnimator,TQELFontCombo,TQELFontBox,TQELCheckList"
   "QEL Controls/3|TQELLanguageCombo,TQELAutoCombo,TQELFormDivider"
-  "QEL DBControls|TQELDBLookupedit,TQELDBLabel,TQELDBNavigator,TQELDBIndexLookup,TQELDBOfficeEdit,TQELDBAscii,TQELDBSpinEdit,TQELDBStickyLabel,TQELDBImageView,TQELDBMemoView"
-  "QEL Dialogs|TQELTipTricks,TQELMsgBox,TQELMsgDlg,TQELShellAbout,TQELMsgSelect,TQELFolderBrowser"
-  "QEL System/1|TQELStoreData,TQELQuickMail,TQELSystemTray,TQELFormSaver,TQELMRUMenu"
-  "QEL System/2|TQELOnlyOne,TQELTimer32,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
+  "QEL DBControls|TQELDBSearchForm,TQELDBLookupedit,TQELDBLabel,TQELDBNavigator,TQELDBPasswordDlg,TQELDBIndexLookup,TQELDBOfficeEdit,TQELDBAscii,TQELDBSpinEdit,TQELDBStickyLabel,TQELDBImageView,TQELDBMemoView"
+  "QEL Dialogs|TQELPasswordDlg,TQELTipTricks,TQELMsgBox,TQELMsgDlg,TQELQueryAccess,TQELShellAbout,TQELSplashScreen,TQELMsgSelect,TQELFolderBrowser,TQELPageSetupDialog"
+  "QEL System/1|TQELStoreData,TQELTimeTrigger,TQELQuickMail,TQELResourceInfo,TQELSystemDetails,TQELSystemTray,TQELWavePlayer,TQELJokeHolder,TQELFormSaver,TQELStringHolder,TQELDriveVolume,TQELMRUMenu,TQELIllegalAbort"
+  "QEL System/2|TQELOnlyOne,TQELTimer32,TQELStartup,TQELVersionDetails,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
   "QEL Files|TQELExplorerTree")
 set(dialog "dialog,read-only")
 set(list "value list,multi-select,sorted list")
@@ -98,8 +98,11 @@ expect_rows(propertyEditors editor,type,class,property,attributes
   "TQELMapiProperty|TQELMapiMessages|TQELMapiMail|Messages|${dialog}"
   "TQELColorInBetweenProperty|TStrings|TQELGradient|ColorsInBetween|${dialog}"
   "TQELItemDataFieldProperty|string|TCollectionItem|DataField|${list}"
+  "TQELROStringProperty|string|TQELDriveVolume||multi-select,read-only,revertable"
   "TQELROStringProperty|string|TQELInformationLabel|CaptionValue|multi-select,read-only,revertable"
   "TQELROCaptionProperty|TCaption|TQELInformationLabel|Caption|multi-select,auto-update,read-only,revertable"
+  "TQELROBooleanproperty|Boolean|TQELDriveVolume||value list,multi-select,sorted list,read-only,revertable"
+  "TQELROIntegerProperty|Integer|TQELDriveVolume||multi-select,read-only,revertable"
   "TQELShowMeNowProperty|string|TComponent|DesignExecute|${dialog}"
   "TQELHintProperty|string|TComponent|Hint|dialog,multi-select,revertable"
   "TQELCaptionProperty|TCaption|TControl|Caption|dialog,multi-select,auto-update,revertable"
@@ -109,6 +112,7 @@ expect_rows(propertyEditors editor,type,class,property,attributes
   "TQELSlidesProperty|TQELSlides|TQELPresentation|Slides|${dialog}"
   "TQELAviFilenameProperty|string|TQELAnimator|Filename|dialog"
   "TQELINIFilenameProperty|string|TQELStoreData|Filename|dialog"
+  "TQELWaveFilenameProperty|string|TQELWavePlayer|WaveFile|dialog"
   "TQELWaveFilenameProperty|string|TQELICQMarquee|Filename|dialog"
   "TQELFilenameProperty|string|TQELVersionLabel|Filename|dialog"
   "TQELROCaptionProperty|TCaption|TQELVersionLabel|Caption|multi-select,auto-update,read-only,revertable"
@@ -119,7 +123,10 @@ expect_rows(propertyEditors editor,type,class,property,attributes
   "TQELROCaptionProperty|TCaption|TQELDBLookupedit|Text|multi-select,auto-update,read-only,revertable"
   "TQELHintProperty|string|TQELMsgDlg|Text|dialog,multi-select,revertable"
   "TQELHintProperty|string|TQELMsgSelect|Text|dialog,multi-select,revertable"
-  "TQELFilenameProperty|string|TQELTipTricks|Filename|dialog")
+  "TQELFilenameProperty|string|TQELTipTricks|Filename|dialog"
+  "TQELDataFieldProperty|string|TQELDBSearchForm|DefaultField|${list}"
+  "TQELCodeProperty|string|TQELQueryAccess|Code|dialog,revertable"
+  "TQELFilenameProperty|string|TQELVersionDetails|Filename|dialog")
 expect_rows(componentEditors editor,class,verbs
   "TQELDialogEditor|TQELExecComponent|Execute the Component,QEL component library,2026"
   "TQELMailConfigEditor|TQELMailHost|Configure Mail ..."
