@@ -65,10 +65,15 @@
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/Qeltquickmail.h"
+#include "qel/services/Qeltformaspect.h"
+#include "qel/services/Qeltformhook.h"
 #include "qel/services/Qeltformsaver.h"
+#include "qel/services/Qeltformsizes.h"
 #include "qel/services/Qeltmrumenu.h"
 #include "qel/services/Qeltonlyone.h"
+#include "qel/services/Qeltsystemmenu.h"
 #include "qel/services/Qeltsystemtray.h"
+#include "qel/services/Qelttopmost.h"
 #include "qel/shell/Qeltexplorertree.h"
 #include "vcl/designintf/registration.h"
 #include "vcl/rtl/classregistry.h"
@@ -164,7 +169,12 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
       {"QEL System/2",
        {
            &TQELOnlyOne::Class(),
+           &TQELTopMost::Class(),
            &TQELTimer32::Class(),
+           &TQELFormSizes::Class(),
+           &TQELSystemMenu::Class(),
+           &TQELFormAspect::Class(),
+           &TQELFormHook::Class(),
            &TQELPOPMail::Class(),
            &TQELSMTPMail::Class(),
            &TQELICQMarquee::Class(),

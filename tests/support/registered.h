@@ -47,4 +47,7 @@ inline void RegisterAll() {
                         &qel::TQELPageSetupDialog::Class(), &qel::TQELSplashScreen::Class()});
   vcl::RegisterClasses({&qel::TQELPasswordDlg::Class(), &qel::TQELQueryAccess::Class(),
                         &qel::TQELDBPasswordDlg::Class()});
+  vcl::RegisterClasses({&qel::TQELFormHook::Class(), &qel::TQELFormSizes::Class(),
+                        &qel::TQELFormAspect::Class(), &qel::TQELTopMost::Class(),
+                        &qel::TQELSystemMenu::Class()});
 }
