@@ -66,7 +66,10 @@
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/Qeltquickmail.h"
 #include "qel/services/Qeltdrivevolume.h"
+#include "qel/services/Qeltformaspect.h"
+#include "qel/services/Qeltformhook.h"
 #include "qel/services/Qeltformsaver.h"
+#include "qel/services/Qeltformsizes.h"
 #include "qel/services/Qeltillegalabort.h"
 #include "qel/services/Qeltjokeholder.h"
 #include "qel/services/Qeltmrumenu.h"
@@ -75,8 +78,10 @@
 #include "qel/services/Qeltstartup.h"
 #include "qel/services/Qeltstringholder.h"
 #include "qel/services/Qeltsystemdetails.h"
+#include "qel/services/Qeltsystemmenu.h"
 #include "qel/services/Qeltsystemtray.h"
 #include "qel/services/Qelttimetrigger.h"
+#include "qel/services/Qelttopmost.h"
 #include "qel/services/Qeltversiondetails.h"
 #include "qel/services/Qeltwaveplayer.h"
 #include "qel/shell/Qeltexplorertree.h"
@@ -182,9 +187,14 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
       {"QEL System/2",
        {
            &TQELOnlyOne::Class(),
+           &TQELTopMost::Class(),
            &TQELTimer32::Class(),
+           &TQELFormSizes::Class(),
+           &TQELSystemMenu::Class(),
+           &TQELFormAspect::Class(),
            &TQELStartup::Class(),
            &TQELVersionDetails::Class(),
+           &TQELFormHook::Class(),
            &TQELPOPMail::Class(),
            &TQELSMTPMail::Class(),
            &TQELICQMarquee::Class(),

@@ -60,4 +60,7 @@ inline void RegisterAll() {
       &qel::TQELJokeHolder::Class(),
       &qel::TQELStringHolder::Class(),
   });
+  vcl::RegisterClasses({&qel::TQELFormHook::Class(), &qel::TQELFormSizes::Class(),
+                        &qel::TQELFormAspect::Class(), &qel::TQELTopMost::Class(),
+                        &qel::TQELSystemMenu::Class()});
 }

@@ -6,6 +6,7 @@
 #include "vcl/controls/private/handling.h"
 #include "vcl/controls/private/windowwatch.h"
 #include "vcl/controls/wincontrol.h"
+#include "vcl/controls/windowhook.h"
 #include "vcl/controls/windowtext.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/forms.h"
@@ -237,7 +238,9 @@ LRESULT CALLBACK TWinControl::StaticWndProc(HWND window, UINT message, WPARAM wP
   const THandling handling;
   if (message == WM_DESTROY) TWindowWatch::TellEnding(*control, window);
   try {
-    if (!control->TakenByDesigner(record)) control->WndProc(record);
+    TWindowHook::Handle(*control, record, [&] {
+      if (!control->TakenByDesigner(record)) control->WndProc(record);
+    });
   } catch (...) {
     TControl* const sender = watch.Gone() ? nullptr : control;
     message == WM_TIMER ? Application()->HandleTimerException(sender)
