@@ -22,10 +22,20 @@ const TClass& TSystemPage::Class() {
                               Field<&T::Texts>("Texts"),
                               Field<&T::Sound>("Sound"),
                               Field<&T::Startup>("Startup"),
+                              Field<&T::TopMost>("TopMost"),
+                              Field<&T::Aspect>("Aspect"),
+                              Field<&T::Sizes>("Sizes"),
+                              Field<&T::Hook>("Hook"),
+                              Field<&T::Menu>("Menu"),
                               Field<&T::SoundDialog>("SoundDialog"),
                               Field<&T::MinutesLabel>("MinutesLabel"),
                               Field<&T::TemplateEdit>("TemplateEdit"),
                               Field<&T::ExpandedLabel>("ExpandedLabel"),
+                              Field<&T::TopMostCheck>("TopMostCheck"),
+                              Field<&T::AspectCheck>("AspectCheck"),
+                              Field<&T::SizesCheck>("SizesCheck"),
+                              Field<&T::MenuCheck>("MenuCheck"),
+                              Field<&T::SizeLabel>("SizeLabel"),
                               Field<&T::Told>("Told"),
                               Method<&T::DetailsClick>("DetailsClick"),
                               Method<&T::VolumeClick>("VolumeClick"),
@@ -38,6 +48,9 @@ const TClass& TSystemPage::Class() {
                               Method<&T::JokeClick>("JokeClick"),
                               Method<&T::StartupClick>("StartupClick"),
                               Method<&T::TemplateChange>("TemplateChange"),
+                              Method<&T::WindowClick>("WindowClick"),
+                              Method<&T::WindowSized>("WindowSized"),
+                              Method<&T::HelloClick>("HelloClick"),
                           });
   return info;
 }
@@ -107,5 +120,20 @@ void TSystemPage::StartupClick(TObject*) {
 void TSystemPage::TemplateChange(TObject*) {
   ExpandedLabel->SetCaption(Texts->Expand(TemplateEdit->Text()));
 }
+
+void TSystemPage::WindowClick(TObject*) {
+  TopMost->SetActive(TopMostCheck->Checked());
+  Aspect->SetActive(AspectCheck->Checked());
+  Sizes->SetActive(SizesCheck->Checked());
+  Menu->SetActive(MenuCheck->Checked());
+}
+
+void TSystemPage::WindowSized(TObject*, TMessage&) {
+  const TCustomForm& form = *Hook->Form();
+  SizeLabel->SetCaption(
+      Concat(std::to_string(form.Width()), " x ", std::to_string(form.Height()), " pixels"));
+}
+
+void TSystemPage::HelloClick(TObject*) { Tell("Hello from the system menu"); }
 
 }  // namespace gallery

@@ -66,6 +66,45 @@ object SystemPage: TSystemPage
     Filter = 'Sounds|*.wav'
     Options = [ofHideReadOnly, ofPathMustExist, ofFileMustExist]
   end
+  object TopMost: TQELTopMost
+    Left = 608
+    Top = 540
+    Active = False
+  end
+  object Aspect: TQELFormAspect
+    Left = 576
+    Top = 540
+    Active = False
+    AspectWidth = 3
+    AspectHeight = 2
+  end
+  object Sizes: TQELFormSizes
+    Left = 544
+    Top = 540
+    Active = False
+    MaxWidth = 1100
+  end
+  object Hook: TQELFormHook
+    Left = 512
+    Top = 540
+    Messages.Strings = (
+      'WM_SIZE')
+    OnAfterMessage = WindowSized
+  end
+  object Menu: TQELSystemMenu
+    Left = 480
+    Top = 540
+    Active = False
+    Menu = WindowMenu
+  end
+  object WindowMenu: TPopupMenu
+    Left = 448
+    Top = 540
+    object HelloItem: TMenuItem
+      Caption = '&Hello'
+      OnClick = HelloClick
+    end
+  end
   object FactsHeading: TLabel
     Left = 16
     Top = 8
@@ -294,6 +333,71 @@ object SystemPage: TSystemPage
     Height = 13
     AutoSize = False
     Caption = 'Hello, world!'
+  end
+  object WindowHeading: TLabel
+    Left = 16
+    Top = 476
+    Width = 440
+    Height = 13
+    AutoSize = False
+    Caption = 'This window'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clNavy
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object WindowLine: TBevel
+    Left = 16
+    Top = 492
+    Width = 440
+    Height = 2
+    Shape = bsTopLine
+  end
+  object TopMostCheck: TCheckBox
+    Left = 16
+    Top = 500
+    Width = 140
+    Height = 19
+    Caption = 'Stays on &top'
+    TabOrder = 9
+    OnClick = WindowClick
+  end
+  object AspectCheck: TCheckBox
+    Left = 160
+    Top = 500
+    Width = 200
+    Height = 19
+    Caption = '&Keeps 3 : 2 while it is sized'
+    TabOrder = 10
+    OnClick = WindowClick
+  end
+  object SizesCheck: TCheckBox
+    Left = 16
+    Top = 524
+    Width = 140
+    Height = 19
+    Caption = 'Not &wider than 1100'
+    TabOrder = 11
+    OnClick = WindowClick
+  end
+  object MenuCheck: TCheckBox
+    Left = 160
+    Top = 524
+    Width = 200
+    Height = 19
+    Caption = 'An entry in the system &menu'
+    TabOrder = 12
+    OnClick = WindowClick
+  end
+  object SizeLabel: TLabel
+    Left = 16
+    Top = 552
+    Width = 440
+    Height = 13
+    AutoSize = False
+    Caption = 'Its size is told here when it changes'
   end
   object ListedHeading: TLabel
     Left = 480

@@ -26,10 +26,20 @@ class TSystemPage : public vcl::TFrame {
   qel::TQELStringHolder* Texts = nullptr;
   qel::TQELWavePlayer* Sound = nullptr;
   qel::TQELStartup* Startup = nullptr;
+  qel::TQELTopMost* TopMost = nullptr;
+  qel::TQELFormAspect* Aspect = nullptr;
+  qel::TQELFormSizes* Sizes = nullptr;
+  qel::TQELFormHook* Hook = nullptr;
+  qel::TQELSystemMenu* Menu = nullptr;
   vcl::TOpenDialog* SoundDialog = nullptr;
   vcl::TLabel* MinutesLabel = nullptr;
   vcl::TEdit* TemplateEdit = nullptr;
   vcl::TLabel* ExpandedLabel = nullptr;
+  vcl::TCheckBox* TopMostCheck = nullptr;
+  vcl::TCheckBox* AspectCheck = nullptr;
+  vcl::TCheckBox* SizesCheck = nullptr;
+  vcl::TCheckBox* MenuCheck = nullptr;
+  vcl::TLabel* SizeLabel = nullptr;
   vcl::TMemo* Told = nullptr;
 
   void DetailsClick(vcl::TObject*);
@@ -43,6 +53,9 @@ class TSystemPage : public vcl::TFrame {
   void JokeClick(vcl::TObject*);
   void StartupClick(vcl::TObject*);
   void TemplateChange(vcl::TObject*);
+  void WindowClick(vcl::TObject*);
+  void WindowSized(vcl::TObject*, vcl::TMessage&);
+  void HelloClick(vcl::TObject*);
   void Tell(const std::string& text);
 };
 

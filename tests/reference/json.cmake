@@ -86,7 +86,7 @@ expect_rows(pages name,classes
   "QEL DBControls|TQELDBSearchForm,TQELDBLookupedit,TQELDBLabel,TQELDBNavigator,TQELDBPasswordDlg,TQELDBIndexLookup,TQELDBOfficeEdit,TQELDBAscii,TQELDBSpinEdit,TQELDBStickyLabel,TQELDBImageView,TQELDBMemoView"
   "QEL Dialogs|TQELPasswordDlg,TQELTipTricks,TQELMsgBox,TQELMsgDlg,TQELQueryAccess,TQELShellAbout,TQELSplashScreen,TQELMsgSelect,TQELFolderBrowser,TQELPageSetupDialog"
   "QEL System/1|TQELStoreData,TQELTimeTrigger,TQELQuickMail,TQELResourceInfo,TQELSystemDetails,TQELSystemTray,TQELWavePlayer,TQELJokeHolder,TQELFormSaver,TQELStringHolder,TQELDriveVolume,TQELMRUMenu,TQELIllegalAbort"
-  "QEL System/2|TQELOnlyOne,TQELTimer32,TQELStartup,TQELVersionDetails,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
+  "QEL System/2|TQELOnlyOne,TQELTopMost,TQELTimer32,TQELFormSizes,TQELSystemMenu,TQELFormAspect,TQELStartup,TQELVersionDetails,TQELFormHook,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
   "QEL Files|TQELExplorerTree")
 set(dialog "dialog,read-only")
 set(list "value list,multi-select,sorted list")
