@@ -8,6 +8,29 @@
 #include "vcl/rtl/win32.h"
 
 namespace qel {
+namespace {
+
+struct TLimits {
+  vcl::TSize Least, Largest;
+};
+
+/// Of the window's size: what it answers itself, and the form's constraints, 0 being none.
+TLimits LimitsOf(vcl::TCustomForm* form) {
+  MINMAXINFO info{};
+  info.ptMinTrackSize = {::GetSystemMetrics(SM_CXMINTRACK), ::GetSystemMetrics(SM_CYMINTRACK)};
+  info.ptMaxTrackSize = {::GetSystemMetrics(SM_CXMAXTRACK), ::GetSystemMetrics(SM_CYMAXTRACK)};
+  ::SendMessageW(form->Handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+  const vcl::TSizeConstraints& own = *form->Constraints();
+  const auto largest = [](int answered, int most) {
+    return most > 0 ? std::min(answered, most) : answered;
+  };
+  return {{std::max(static_cast<int>(info.ptMinTrackSize.x), own.MinWidth()),
+           std::max(static_cast<int>(info.ptMinTrackSize.y), own.MinHeight())},
+          {largest(info.ptMaxTrackSize.x, own.MaxWidth()),
+           largest(info.ptMaxTrackSize.y, own.MaxHeight())}};
+}
+
+}  // namespace
 
 const vcl::TClass& TQELFormAspect::Class() {
   using T = TQELFormAspect;
@@ -53,20 +76,16 @@ vcl::TSize TQELFormAspect::Around() const {
           static_cast<int>(window.bottom - window.top - client.bottom)};
 }
 
-/// A width whose height is inside the window's limits, too; a contradiction leaves it as it is.
+/// A width whose height is inside the form's limits, too; a contradiction leaves it as it is.
 int TQELFormAspect::WidthInLimits(int width, vcl::TSize around) const {
-  MINMAXINFO limits{};
-  limits.ptMinTrackSize = {::GetSystemMetrics(SM_CXMINTRACK), ::GetSystemMetrics(SM_CYMINTRACK)};
-  limits.ptMaxTrackSize = {::GetSystemMetrics(SM_CXMAXTRACK), ::GetSystemMetrics(SM_CYMAXTRACK)};
-  ::SendMessageW(Form()->Handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
-  const auto widthAt = [&](LONG height, int more) {
+  const TLimits limits = LimitsOf(Form());
+  const auto widthAt = [&](int height, int more) {
     const std::int64_t parts = std::int64_t{height - around.cy} * FAspectWidth + more;
     return static_cast<int>(parts / FAspectHeight);
   };
-  const int least = std::max(static_cast<int>(limits.ptMinTrackSize.x) - around.cx,
-                             widthAt(limits.ptMinTrackSize.y, FAspectHeight - 1));
-  const int largest = std::min(static_cast<int>(limits.ptMaxTrackSize.x) - around.cx,
-                               widthAt(limits.ptMaxTrackSize.y, 0));
+  const int least =
+      std::max(limits.Least.cx - around.cx, widthAt(limits.Least.cy, FAspectHeight - 1));
+  const int largest = std::min(limits.Largest.cx - around.cx, widthAt(limits.Largest.cy, 0));
   return least <= largest ? std::clamp(width, least, largest) : width;
 }
 

@@ -19,14 +19,30 @@ std::vector<const TQELTopMost*>& Working() {
 
 bool IsTopMost(HWND window) { return ::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST; }
 
-/// Behind which window one that is no longer topmost goes: the system would put it before the
-/// window of another program that the user has just turned to.
-HWND PlaceAmongOthers() {
+void PlaceBehind(HWND window, HWND behind) {
+  // The application's window, which owns the form's, stays where it is.
+  ::SetWindowPos(window, behind, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
+// Wine leaves a window topmost that has an owner, so it has none for the moment.
+void EndTopMost(HWND window) {
+  PlaceBehind(window, HWND_NOTOPMOST);
+  if (!IsTopMost(window)) return;
+  const LONG_PTR owner = ::SetWindowLongPtrW(window, GWLP_HWNDPARENT, 0);
+  PlaceBehind(window, HWND_NOTOPMOST);
+  ::SetWindowLongPtrW(window, GWLP_HWNDPARENT, owner);
+}
+
+/// The system puts a window that is no longer topmost before all others, so also before that of
+/// another program which the user has just turned to.
+void PlaceAmongOthers(HWND window) {
+  EndTopMost(window);
   const HWND front = ::GetForegroundWindow();
   DWORD process = 0;
   ::GetWindowThreadProcessId(front, &process);
-  const bool others = front && process != ::GetCurrentProcessId();
-  return others && !IsTopMost(front) ? front : HWND_NOTOPMOST;
+  const bool others = process != ::GetCurrentProcessId() && front != ::GetDesktopWindow();
+  if (front && others && !IsTopMost(front)) PlaceBehind(window, front);
 }
 
 }  // namespace
@@ -81,9 +97,7 @@ void TQELTopMost::Update() const {
   });
   const bool topMost = wanted || Form()->FormStyle() == vcl::fsStayOnTop;
   if (topMost == IsTopMost(window)) return;
-  // The application's window, which owns the form's, stays where it is.
-  ::SetWindowPos(window, topMost ? HWND_TOPMOST : PlaceAmongOthers(), 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+  topMost ? PlaceBehind(window, HWND_TOPMOST) : PlaceAmongOthers(window);
 }
 
 }  // namespace qel
