@@ -86,7 +86,7 @@ expect_rows(pages name,classes
   "QEL DBControls|TQELDBLookupedit,TQELDBLabel,TQELDBNavigator,TQELDBIndexLookup,TQELDBOfficeEdit,TQELDBAscii,TQELDBSpinEdit,TQELDBStickyLabel,TQELDBImageView,TQELDBMemoView"
   "QEL Dialogs|TQELTipTricks,TQELMsgBox,TQELMsgDlg,TQELShellAbout,TQELMsgSelect,TQELFolderBrowser"
   "QEL System/1|TQELStoreData,TQELQuickMail,TQELSystemTray,TQELFormSaver,TQELMRUMenu"
-  "QEL System/2|TQELOnlyOne,TQELTimer32,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
+  "QEL System/2|TQELOnlyOne,TQELTopMost,TQELTimer32,TQELFormSizes,TQELSystemMenu,TQELFormAspect,TQELFormHook,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
   "QEL Files|TQELExplorerTree")
 set(dialog "dialog,read-only")
 set(list "value list,multi-select,sorted list")
