@@ -6,8 +6,8 @@
 namespace qel {
 
 /// Keeps the relation of its form's width and height while the user sizes the form, by any of its
-/// edges and corners: the size across follows, at a corner the one that would be too small. The form
-/// stays inside its limits of size, where the relation allows that.
+/// edges and corners: the size across follows, at a corner the one that would be too small. The
+/// form stays inside its limits of size, where the relation allows that.
 class QEL_API TQELFormAspect : public TQELFormComponent {
  public:
   explicit TQELFormAspect(vcl::TComponent* owner);

@@ -58,6 +58,13 @@ constexpr TExpected Expected[] = {
     {"TQELICQMarquee", ROLE_SYSTEM_LIST, ""},
     {"TQELImageScroller", ROLE_SYSTEM_GRAPHIC, "Start"},
     {"TQELPresentation", ROLE_SYSTEM_GRAPHIC, "Next"},
+    {"TQELDBOfficeEdit", ROLE_SYSTEM_TEXT, ""},
+    {"TQELDBSpinEdit", ROLE_SYSTEM_SPINBUTTON, ""},
+    {"TQELDBLookupedit", ROLE_SYSTEM_COMBOBOX, "Open"},
+    {"TQELDBIndexLookup", ROLE_SYSTEM_TEXT, ""},
+    {"TQELDBNavigator", ROLE_SYSTEM_TOOLBAR, ""},
+    {"TQELDBImageView", ROLE_SYSTEM_GRAPHIC, ""},
+    {"TQELDBMemoView", ROLE_SYSTEM_TEXT, ""},
 };
 
 TEST_F(Accessible, EveryControlHasARoleAndTheNameOfItsCaption) {

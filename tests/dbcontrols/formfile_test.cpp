@@ -6,40 +6,51 @@
 namespace qel {
 namespace {
 
-class DataFormFile : public TDataForm {};
+class DataFormFile : public TDataForm {
+ protected:
+  DataFormFile() {
+    RegisterAll();
+    vcl::RegisterClasses({&vcl::TDataSource::Class()});
+    Records->SetName("Records");
+    Records->SetDataSet(&Data);
+  }
+  template <class T>
+  T* Bound(const char* name, const char* field) {
+    auto* control = new T(&Written);
+    control->SetName(name);
+    control->SetParent(&Written);
+    control->SetDataSource(Records);
+    control->SetDataField(field);
+    return control;
+  }
+  TQELDBNavigator* Navigator() {
+    auto* navigator = new TQELDBNavigator(&Written);
+    navigator->SetName("Navigator");
+    navigator->SetParent(&Written);
+    return navigator;
+  }
+
+  vcl::TForm Written{nullptr};
+  vcl::TDataSource* Records = new vcl::TDataSource(&Written);
+};
 
 /// What a record says is none of the form file's, and what is set comes back.
 TEST_F(DataFormFile, HoldsTheBindingAndNoValue) {
-  RegisterAll();
-  vcl::RegisterClasses({&vcl::TDataSource::Class()});
-  vcl::TForm form(nullptr);
-  auto* source = new vcl::TDataSource(&form);
-  source->SetName("Records");
-  source->SetDataSet(&Data);
-  const auto make = [&]<class T>(T* control, const char* name, const char* field) {
-    control->SetName(name);
-    control->SetParent(&form);
-    control->SetDataSource(source);
-    control->SetDataField(field);
-    return control;
-  };
-  make(new TQELDBLabel(&form), "Plain", "Name");
-  make(new TQELDBStickyLabel(&form), "Sticky", "Name")->SetAutoSize(false);
-  make(new TQELDBOfficeEdit(&form), "Office", "Name");
-  make(new TQELDBSpinEdit(&form), "Spin", "Count")->SetDecimals(3);
-  auto* lookup = make(new TQELDBLookupedit(&form), "Lookup", "City");
-  lookup->SetListSource(source);
+  Bound<TQELDBLabel>("Plain", "Name");
+  Bound<TQELDBStickyLabel>("Sticky", "Name")->SetAutoSize(false);
+  Bound<TQELDBOfficeEdit>("Office", "Name");
+  Bound<TQELDBSpinEdit>("Spin", "Count")->SetDecimals(3);
+  auto* lookup = Bound<TQELDBLookupedit>("Lookup", "City");
+  lookup->SetListSource(Records);
   lookup->SetKeyField("City");
   lookup->SetListField("Name");
   lookup->Items()->Add("Ann");
-  auto* navigator = new TQELDBNavigator(&form);
-  navigator->SetName("Navigator");
-  navigator->SetParent(&form);
-  navigator->SetDataSource(source);
+  TQELDBNavigator* const navigator = Navigator();
+  navigator->SetDataSource(Records);
   navigator->SetVisibleButtons({nbNext, nbPost});
   navigator->NextButton()->SetHint("Onwards");
   navigator->PostButton()->SetVisible(false);
-  const std::string text = FormText(&form);
+  const std::string text = FormText(&Written);
   EXPECT_THAT(text, testing::Not(testing::HasSubstr("Ann")));
   EXPECT_THAT(text, testing::Not(testing::HasSubstr("TSpeedButton")));
   vcl::TForm read(nullptr);
@@ -57,39 +68,24 @@ TEST_F(DataFormFile, HoldsTheBindingAndNoValue) {
 
 /// The views hold how they show a field, and nothing of what is in it.
 TEST_F(DataFormFile, HoldsTheSettingsOfViewsAndOfTheSearch) {
-  RegisterAll();
-  vcl::RegisterClasses({&vcl::TDataSource::Class()});
-  vcl::TForm form(nullptr);
-  auto* source = new vcl::TDataSource(&form);
-  source->SetName("Records");
-  source->SetDataSet(&Data);
-  const auto make = [&]<class T>(T* control, const char* name, const char* field) {
-    control->SetName(name);
-    control->SetParent(&form);
-    control->SetDataSource(source);
-    control->SetDataField(field);
-    return control;
-  };
-  make(new TQELDBIndexLookup(&form), "Index", "Name")->SetBeep(true);
-  auto* image = make(new TQELDBImageView(&form), "Image", "Photo");
+  Bound<TQELDBIndexLookup>("Index", "Name")->SetBeep(true);
+  auto* image = Bound<TQELDBImageView>("Image", "Photo");
   image->SetStretch(true);
   image->SetProportional(false);
   image->SetAutoDisplay(false);
-  auto* memo = make(new TQELDBMemoView(&form), "Memo", "Notes");
+  auto* memo = Bound<TQELDBMemoView>("Memo", "Notes");
   memo->SetEditInWindow(true);
   memo->SetScrollBars(vcl::ssVertical);
-  auto* search = new TQELDBSearchForm(&form);
+  auto* search = new TQELDBSearchForm(&Written);
   search->SetName("Search");
-  search->SetDataSource(source);
+  search->SetDataSource(Records);
   search->Fields()->SetText("Name\r\nCount");
   search->SetDefaultField("Count");
   search->SetOptions({soCase, soFromCurrent});
   search->CloseButton()->SetCaption("Done");
-  auto* navigator = new TQELDBNavigator(&form);
-  navigator->SetName("Navigator");
-  navigator->SetParent(&form);
+  TQELDBNavigator* const navigator = Navigator();
   navigator->SetSearchForm(search);
-  const std::string text = FormText(&form);
+  const std::string text = FormText(&Written);
   EXPECT_EQ(memo->Lines()->Count(), 1) << "the record is shown";
   EXPECT_THAT(text, testing::Not(testing::HasSubstr("Lines")));
   EXPECT_THAT(text, testing::Not(testing::HasSubstr("Picture")));

@@ -2,7 +2,6 @@
 #include "vcl/controls/windowhook.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -49,7 +48,8 @@ void TWindowHook::Handle(TWinControl& control, TMessage& message,
     if (each->Hears(control)) hooks.emplace_back(each, TWatch(each));
   }
   const TWatch watch(&control);
-  for (const auto& [hook, hookWatch] : std::views::reverse(hooks)) {
+  for (std::size_t i = hooks.size(); i-- > 0;) {
+    const auto& [hook, hookWatch] = hooks[i];
     if (hookWatch.Gone() || !hook->Hears(control)) continue;
     bool handled = false;
     const TBefore call = hook->FBefore;
