@@ -100,7 +100,8 @@ const vcl::TClass& TQELDBSearchForm::Class() {
           Property<&T::TextLabel, &T::SetTextLabel>("TextLabel").Default("&Text:"),
           Event<&T::OnFound>("OnFound"),
           Event<&T::OnNotFound>("OnNotFound"),
-          Event<&T::OnProgress>("OnProgress"),
+          Event<&T::OnProgress>("OnProgress")
+              .Type("TQELDBSearchProgress", "vcl::TObject* sender, int records, bool& giveUp"),
       });
   return info;
 }

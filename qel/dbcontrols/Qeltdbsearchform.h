@@ -189,6 +189,3 @@ class QEL_API TQELDBSearchForm : public TQELFormDialog {
 template <>
 inline constexpr vcl::TEnumText vcl::EnumText<qel::TQELDBSearchOption>{
     "TQELDBSearchOption", "soCase soWholeField soFromStart soFromCurrent", "TQELDBSearchOptions"};
-template <>
-inline constexpr vcl::TEventText vcl::EventText<qel::TQELDBSearchProgress>{
-    "TQELDBSearchProgress", "vcl::TObject* sender, int records, bool& giveUp"};

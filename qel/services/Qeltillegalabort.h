@@ -54,4 +54,4 @@ class QEL_API TQELIllegalAbort : public TQELComponent {
 
 template <>
 inline constexpr vcl::TEventText vcl::EventText<qel::TQELIllegalAbortEvent>{
-    "TQELIllegalAbortEvent", "vcl::TObject* sender, vcl::TDateTime startTime, int processId"};
+    "TQELIllegalAbortEvent", "vcl::TObject* sender, double startTime, int processId"};
