@@ -22,7 +22,6 @@ const TClass& TDialogsPage::Class() {
                               Field<&T::Tips>("Tips"),
                               Field<&T::Password>("Password"),
                               Field<&T::Access>("Access"),
-                              Field<&T::Splash>("Splash"),
                               Field<&T::Page>("Page"),
                               Field<&T::Answers>("Answers"),
                               Method<&T::QuestionClick>("QuestionClick"),
@@ -92,7 +91,15 @@ void TDialogsPage::AccessClick(TObject*) {
                          : "The code: none. " + Access->LastError());
 }
 
-void TDialogsPage::SplashClick(TObject*) { Splash->Execute(); }
+/// One of the form file would be seen while the gallery starts.
+void TDialogsPage::SplashClick(TObject*) {
+  if (!Splash) {
+    Splash = new qel::TQELSplashScreen(this);
+    Splash->SetMessage("The gallery is starting");
+    Splash->SetPercentage(60);
+  }
+  Splash->Execute();
+}
 
 void TDialogsPage::PageClick(TObject*) {
   if (!Page->Execute()) return Tell("The page: none. " + Page->LastError());

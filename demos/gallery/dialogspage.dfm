@@ -84,12 +84,6 @@ object DialogsPage: TDialogsPage
     LockTime = 10
     ValidFor = 30
   end
-  object Splash: TQELSplashScreen
-    Left = 640
-    Top = 540
-    Message = 'The gallery is starting'
-    Percentage = 60
-  end
   object Page: TQELPageSetupDialog
     Left = 608
     Top = 540

@@ -26,9 +26,10 @@ class TDialogsPage : public vcl::TFrame {
   qel::TQELTipTricks* Tips = nullptr;
   qel::TQELPasswordDlg* Password = nullptr;
   qel::TQELQueryAccess* Access = nullptr;
-  qel::TQELSplashScreen* Splash = nullptr;
   qel::TQELPageSetupDialog* Page = nullptr;
   vcl::TMemo* Answers = nullptr;
+
+  qel::TQELSplashScreen* Splash = nullptr;  // Made when it is first wanted.
 
   void QuestionClick(vcl::TObject*);
   void CountdownClick(vcl::TObject*);

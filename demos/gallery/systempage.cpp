@@ -1,7 +1,6 @@
 // The page of services: facts of the system, times, sounds, sayings, texts with names.
 #include "demos/gallery/systempage.h"
 
-#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
 
 namespace gallery {
@@ -73,7 +72,7 @@ void TSystemPage::VolumeClick(TObject*) {
 }
 
 void TSystemPage::VersionClick(TObject*) {
-  Version->SetFilename(ExtractFilePath(Application()->ExeName()) + "qel.dll");
+  Version->SetFilename("kernel32.dll");
   if (!Version->HasVersion()) return Tell(Version->Filename() + " says nothing about itself");
   Tell(Concat(Version->FileDescription(), "\n", Version->FileVersion(), "\n",
               Version->LegalCopyright()));

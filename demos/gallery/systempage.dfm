@@ -175,7 +175,7 @@ object SystemPage: TSystemPage
     Width = 306
     Height = 13
     AutoSize = False
-    Caption = 'What the file of the package says about itself'
+    Caption = 'What the system''s kernel32.dll says about itself'
   end
   object ResourcesButton: TButton
     Left = 16
