@@ -2,6 +2,7 @@
 #include "demos/gallery/galleryform.h"
 
 #include "demos/gallery/choicespage.h"
+#include "demos/gallery/desktoppage.h"
 #include "demos/gallery/dialogspage.h"
 #include "demos/gallery/editingpage.h"
 #include "demos/gallery/fieldspage.h"
@@ -105,6 +106,7 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   AddPage<TFieldsPage>("Fields");
   AddPage<TDialogsPage>("Dialogs");
   AddPage<TSystemPage>("System");
+  AddPage<TDesktopPage>("Desktop");
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
 }
 

@@ -153,9 +153,9 @@ void TQELCustomLabel::DoDrawText(TRect& rect, UINT flags) {
   const int wider = FFrame->BorderWidth() +
                     (FFont3D->ThreeDimensional() ? ScaledPixels(FFont3D->GetDrawingwidth()) : 0);
   const int higher = wider - FFrame->BorderWidth() + 2 * FFrame->RingCount();
-  rect.Right -= wider;
+  rect.Right -= wider + TextIndent();
   TCustomLabel::DoDrawText(rect, flags);
-  rect.Right += wider;
+  rect.Right += wider + TextIndent();
   rect.Bottom += higher;
 }
 
@@ -167,6 +167,7 @@ void TQELCustomLabel::PaintText() {
   area.Top += FFrame->RingCount();
   area.Bottom -= FFrame->RingCount();
   area.Right -= FFrame->BorderWidth();
+  area.Left += TextIndent();
   if (FFontBackground) {
     FFontBackground->Write(FFont3D.get(), ShownFont(), Canvas(), area, Caption(), flags);
   } else {

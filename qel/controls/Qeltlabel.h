@@ -44,6 +44,8 @@ class QEL_API TQELCustomLabel : public vcl::TCustomLabel {
   void Notification(vcl::TComponent* component, vcl::TOperation operation) override;
   /// The font of the text as it is shown now. Here: Font.
   virtual const vcl::TFont* ShownFont() const { return Font(); }
+  /// What stays free at the left of the text, in pixels. Here: nothing.
+  virtual int TextIndent() const { return 0; }
   /// The flags of DrawTextEx that the text is written with.
   virtual unsigned WriteFlags() const;
 

@@ -3,6 +3,7 @@
 
 #include <variant>
 
+#include "vcl/db/odbcconnection.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/scope.h"
 
@@ -75,6 +76,8 @@ std::string TQELDBPasswordDlg::Stored() const {
   try {
     const vcl::TRecord row = data.Lookup(FDataUsername, {Username()}, FDatapassword);
     return row.empty() ? std::string() : TextOf(row.front());
+  } catch (const vcl::EOdbcError&) {
+    throw;  // The database can't be asked: no password is wrong by that.
   } catch (const vcl::EDatabaseError&) {
     return {};  // A field that can't hold such a name has it in no record.
   }

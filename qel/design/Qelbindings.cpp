@@ -29,7 +29,13 @@
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/services/Qeltdrivevolume.h"
 #include "qel/services/Qeltversiondetails.h"
+#include "qel/services/Qeltwallpaper.h"
 #include "qel/services/Qeltwaveplayer.h"
+#include "qel/shell/Qeltfilelabel.h"
+#include "qel/shell/Qeltfileproperties.h"
+#include "qel/shell/Qelticoncombo.h"
+#include "qel/shell/Qeltlogfile.h"
+#include "qel/shell/Qeltfileexecute.h"
 #include "vcl/controls/control.h"
 
 namespace qel {
@@ -62,12 +68,18 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELDataFieldProperty), "string", &vcl::TComponent::Class(), "DataUsername"},
       {QEL_EDITOR(TQELDataFieldProperty), "string", &vcl::TComponent::Class(), "Datapassword"},
       {QEL_EDITOR(TQELSlidesProperty), "TQELSlides", &TQELPresentation::Class(), "Slides"},
+      {QEL_EDITOR(TQELFilenameProperty), "string", &TQELIconCombo::Class(), "Filename"},
+      {QEL_EDITOR(TQELFilenameProperty), "string", &TQELIconListbox::Class(), "Filename"},
+      {QEL_EDITOR(TQELFilenameProperty), "string", &TQELFileLabel::Class(), "Filename"},
+      {QEL_EDITOR(TQELFilenameProperty), "string", &TQELFileProperties::Class(), "Filename"},
       {QEL_EDITOR(TQELAviFilenameProperty), "string", &TQELAnimator::Class(), "Filename"},
       // The store's file name is a property of its Inifile, which this line does not reach; a
       // property of the store itself would get the editor.
       {QEL_EDITOR(TQELINIFilenameProperty), "string", &TQELStoreData::Class(), "Filename"},
       {QEL_EDITOR(TQELWaveFilenameProperty), "string", &TQELWavePlayer::Class(), "WaveFile"},
       {QEL_EDITOR(TQELWaveFilenameProperty), "string", &TQELICQMarquee::Class(), "Filename"},
+      {QEL_EDITOR(TQELBitmapFilenameProperty), "string", &TQELWallPaper::Class(), "Filename"},
+      {QEL_EDITOR(TQELLogFilenameProperty), "string", &TQELLogFile::Class(), "LogFile"},
       {QEL_EDITOR(TQELFilenameProperty), "string", &TQELVersionLabel::Class(), "Filename"},
       {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELVersionLabel::Class(), "Caption"},
       {QEL_EDITOR(TQELLocaleProperty), "string", &TQELLanguageCombo::Class(), "Locale"},
@@ -81,6 +93,8 @@ const std::vector<vcl::TPropertyEditorEntry>& PropertyEditors() {
       {QEL_EDITOR(TQELDataFieldProperty), "string", &TQELDBSearchForm::Class(), "DefaultField"},
       {QEL_EDITOR(TQELCodeProperty), "string", &TQELQueryAccess::Class(), "Code"},
       {QEL_EDITOR(TQELFilenameProperty), "string", &TQELVersionDetails::Class(), "Filename"},
+      {QEL_EDITOR(TQELROCaptionProperty), "TCaption", &TQELFileLabel::Class(), "Caption"},
+      {QEL_EDITOR(TQELFilenameProperty), "string", &TQELFileExecute::Class(), "Filename"},
   };
   return entries;
 }

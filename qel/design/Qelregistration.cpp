@@ -34,6 +34,7 @@
 #include "qel/controls/Qeltspinedit.h"
 #include "qel/controls/Qeltstickylabel.h"
 #include "qel/controls/Qeltversionlabel.h"
+#include "qel/core/Qelactioncomponent.h"
 #include "qel/core/Qelclasses.h"
 #include "qel/core/Qelclasses2.h"
 #include "qel/core/Qelcontrols.h"
@@ -65,26 +66,51 @@
 #include "qel/mail/Qeltiemails.h"
 #include "qel/mail/Qeltmapimail.h"
 #include "qel/mail/Qeltquickmail.h"
+#include "qel/services/Qeltapplication.h"
+#include "qel/services/Qeltcdtriggers.h"
+#include "qel/services/Qeltclipboard.h"
 #include "qel/services/Qeltdrivevolume.h"
+#include "qel/services/Qeltexitwindows.h"
 #include "qel/services/Qeltformaspect.h"
+#include "qel/services/Qeltformexplode.h"
 #include "qel/services/Qeltformhook.h"
 #include "qel/services/Qeltformsaver.h"
 #include "qel/services/Qeltformsizes.h"
 #include "qel/services/Qeltillegalabort.h"
 #include "qel/services/Qeltjokeholder.h"
+#include "qel/services/Qeltmousecontroller.h"
 #include "qel/services/Qeltmrumenu.h"
 #include "qel/services/Qeltonlyone.h"
 #include "qel/services/Qeltresourceinfo.h"
+#include "qel/services/Qeltscreencanvas.h"
+#include "qel/services/Qeltscreensaver.h"
 #include "qel/services/Qeltstartup.h"
 #include "qel/services/Qeltstringholder.h"
 #include "qel/services/Qeltsystemdetails.h"
+#include "qel/services/Qeltsystemkeys.h"
 #include "qel/services/Qeltsystemmenu.h"
 #include "qel/services/Qeltsystemtray.h"
 #include "qel/services/Qelttimetrigger.h"
 #include "qel/services/Qelttopmost.h"
 #include "qel/services/Qeltversiondetails.h"
+#include "qel/services/Qeltwallpaper.h"
 #include "qel/services/Qeltwaveplayer.h"
+#include "qel/shell/Qeltdrivecombo.h"
+#include "qel/shell/Qeltdroppedfiles.h"
 #include "qel/shell/Qeltexplorertree.h"
+#include "qel/shell/Qeltexplorerview.h"
+#include "qel/shell/Qeltfilecollector.h"
+#include "qel/shell/Qeltfilecombo.h"
+#include "qel/shell/Qeltfileexecute.h"
+#include "qel/shell/Qeltfilelabel.h"
+#include "qel/shell/Qeltfilelookup.h"
+#include "qel/shell/Qeltfileoperator.h"
+#include "qel/shell/Qeltfileproperties.h"
+#include "qel/shell/Qeltfolderlistbox.h"
+#include "qel/shell/Qelticoncombo.h"
+#include "qel/shell/Qeltlogfile.h"
+#include "qel/shell/Qelttextfileview.h"
+#include "qel/shell/Qelttextreplace.h"
 #include "vcl/designintf/registration.h"
 #include "vcl/rtl/classregistry.h"
 
@@ -116,22 +142,12 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        }},
       {"QEL Controls/2",
        {
-           &TQELColorCombo::Class(),
-           &TQELAnimator::Class(),
-           &TQELImageScroller::Class(),
-           &TQELCommandLabel::Class(),
-           &TQELInformationLabel::Class(),
-           &TQELStickyLabel::Class(),
-           &TQELVersionLabel::Class(),
-           &TQELLookupMenu::Class(),
-           &TQELSpinEdit::Class(),
-           &TQELRealSpinEdit::Class(),
-           &TQELLookupEdit::Class(),
-           &TQELOfficeEdit::Class(),
-           &TQELOfficeEdit::Class(),
-           &TQELAnimator::Class(),
-           &TQELFontCombo::Class(),
-           &TQELFontBox::Class(),
+           &TQELColorCombo::Class(),       &TQELAnimator::Class(),     &TQELClipboard::Class(),
+           &TQELImageScroller::Class(),    &TQELScreenCanvas::Class(), &TQELCommandLabel::Class(),
+           &TQELInformationLabel::Class(), &TQELStickyLabel::Class(),  &TQELVersionLabel::Class(),
+           &TQELLookupMenu::Class(),       &TQELSpinEdit::Class(),     &TQELRealSpinEdit::Class(),
+           &TQELLookupEdit::Class(),       &TQELOfficeEdit::Class(),   &TQELOfficeEdit::Class(),
+           &TQELAnimator::Class(),         &TQELFontCombo::Class(),    &TQELFontBox::Class(),
            &TQELCheckList::Class(),
        }},
       {"QEL Controls/3",
@@ -172,37 +188,62 @@ const std::vector<vcl::TPaletteEntry>& Pages() {
        {
            &TQELStoreData::Class(),
            &TQELTimeTrigger::Class(),
+           &TQELApplication::Class(),
            &TQELQuickMail::Class(),
            &TQELResourceInfo::Class(),
            &TQELSystemDetails::Class(),
            &TQELSystemTray::Class(),
            &TQELWavePlayer::Class(),
+           &TQELExitWindows::Class(),
            &TQELJokeHolder::Class(),
            &TQELFormSaver::Class(),
            &TQELStringHolder::Class(),
            &TQELDriveVolume::Class(),
+           &TQELScreenSaver::Class(),
            &TQELMRUMenu::Class(),
            &TQELIllegalAbort::Class(),
        }},
       {"QEL System/2",
        {
            &TQELOnlyOne::Class(),
+           &TQELFormExplode::Class(),
            &TQELTopMost::Class(),
            &TQELTimer32::Class(),
            &TQELFormSizes::Class(),
            &TQELSystemMenu::Class(),
            &TQELFormAspect::Class(),
+           &TQELWallPaper::Class(),
            &TQELStartup::Class(),
            &TQELVersionDetails::Class(),
            &TQELFormHook::Class(),
            &TQELPOPMail::Class(),
            &TQELSMTPMail::Class(),
            &TQELICQMarquee::Class(),
+           &TQELCDTriggers::Class(),
+           &TQELSystemKeys::Class(),
+           &TQELMouseController::Class(),
            &TQELMapiMail::Class(),
        }},
       {"QEL Files",
        {
+           &TQELFileOperator::Class(),
+           &TQELTextFileView::Class(),
+           &TQELDroppedFiles::Class(),
+           &TQELLogFile::Class(),
+           &TQELTextReplace::Class(),
+           &TQELFileCollector::Class(),
+           &TQELFileLabel3D::Class(),
+           &TQELFileProperties::Class(),
+           &TQELFileExecute::Class(),
+           &TQELFileCombo::Class(),
+           &TQELDriveCombo::Class(),
+           &TQELFolderListbox::Class(),
+           &TQELIconCombo::Class(),
+           &TQELIconListbox::Class(),
+           &TQELExplorerView::Class(),
            &TQELExplorerTree::Class(),
+           &TQELFileLookup::Class(),
+           &TQELFileLabel::Class(),
        }},
   };
   return pages;
@@ -341,6 +382,7 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELDBImageView::Class(),
       &TQELDBMemoView::Class(),
       &TQELExplorerTree::Class(),
+      &TQELExplorerView::Class(),
       &TQELTipTricks::Class(),
       &TQELFolderBrowser::Class(),
       &TQELMsgBox::Class(),
@@ -352,6 +394,35 @@ void ListClasses(void (*each)(const vcl::TClass& aClass, void* context), void* c
       &TQELPasswordDlg::Class(),
       &TQELQueryAccess::Class(),
       &TQELDBPasswordDlg::Class(),
+      &TQELActionComponent::Class(),
+      &TQELApplication::Class(),
+      &TQELExitWindows::Class(),
+      &TQELScreenSaver::Class(),
+      &TQELWallPaper::Class(),
+      &TQELSystemKey::Class(),
+      &TQELSystemKeyList::Class(),
+      &TQELSystemKeys::Class(),
+      &TQELMouseController::Class(),
+      &TQELCDTriggers::Class(),
+      &TQELFormExplode::Class(),
+      &TQELClipboard::Class(),
+      &TQELScreenCanvas::Class(),
+      &TQELFileOperator::Class(),
+      &TQELLogFile::Class(),
+      &TQELFileLookup::Class(),
+      &TQELIconCombo::Class(),
+      &TQELIconListbox::Class(),
+      &TQELDriveCombo::Class(),
+      &TQELFolderListbox::Class(),
+      &TQELFileCombo::Class(),
+      &TQELFileCollector::Class(),
+      &TQELFileProperties::Class(),
+      &TQELFileLabel::Class(),
+      &TQELFileLabel3D::Class(),
+      &TQELFileExecute::Class(),
+      &TQELTextReplace::Class(),
+      &TQELDroppedFiles::Class(),
+      &TQELTextFileView::Class(),
   };
   for (const vcl::TClass* aClass : classes) each(*aClass, context);
 }

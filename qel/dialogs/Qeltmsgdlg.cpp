@@ -3,8 +3,8 @@
 
 #include <charconv>
 
+#include "qel/core/private/keptvalues.h"
 #include "qel/dialogs/private/dialogform.h"
-#include "qel/dialogs/private/keptvalues.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 #include "vcl/rtl/win32.h"

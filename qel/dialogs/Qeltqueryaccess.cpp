@@ -6,7 +6,7 @@
 #include <charconv>
 #include <optional>
 
-#include "qel/dialogs/private/keptvalues.h"
+#include "qel/core/private/keptvalues.h"
 #include "qel/dialogs/private/secretform.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
@@ -122,7 +122,11 @@ void TQELQueryAccess::SetCode(const std::string& hash) {
   FGrantEnd = 0;
 }
 
-void TQELQueryAccess::ChangeCode(std::string_view code) { SetCode(QELHashedCode(code)); }
+/// What the code before has granted ends, in the store, too.
+void TQELQueryAccess::ChangeCode(std::string_view code) {
+  SetCode(QELHashedCode(code));
+  Revoke();
+}
 
 void TQELQueryAccess::SetValidFor(int seconds) {
   if (seconds >= 0 && seconds <= Year) FValidFor = seconds;

@@ -34,7 +34,7 @@ class QEL_API TQELQueryAccess : public TQELSecretDialog {
   /// which case nothing is shown.
   bool Execute() override;
   /// Has the code be another one, of which the hash is kept. Raises EQELSecretError when the system
-  /// refuses to make one.
+  /// refuses to make one. The next Execute asks.
   void ChangeCode(std::string_view code);
   /// Ends ValidFor: the next Execute asks.
   void Revoke();

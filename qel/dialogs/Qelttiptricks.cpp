@@ -6,8 +6,8 @@
 #include <numeric>
 #include <random>
 
+#include "qel/core/private/keptvalues.h"
 #include "qel/dialogs/private/dialogform.h"
-#include "qel/dialogs/private/keptvalues.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"

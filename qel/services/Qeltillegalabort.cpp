@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "qel/core/private/keptvalues.h"
 #include "vcl/controls/messagewindow.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/customapplication.h"
@@ -109,8 +110,7 @@ void TQELIllegalAbort::Loaded() {
   const vcl::TWatch watch(this);
   std::vector<TNote> aborted;
   try {
-    const std::string prefix =
-        vcl::Concat(Owner() ? Owner()->Name() + "." : std::string(), Name(), "_Run");
+    const std::string prefix = TKeptValues(*FAbortStore, *this).NameOf("Run");
     aborted = TakeAborted(prefix);
     if (watch.Gone()) return;
     FNote = prefix + vcl::IntToStr(::GetCurrentProcessId());

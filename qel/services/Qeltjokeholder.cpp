@@ -6,7 +6,7 @@
 #include <sstream>
 #include <utility>
 
-#include "qel/dialogs/private/keptvalues.h"
+#include "qel/core/private/keptvalues.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"

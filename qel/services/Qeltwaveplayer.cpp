@@ -30,6 +30,7 @@ class TQELWavePlayer::TPlay : public vcl::TThread {
     EndThread();
   }
   void Begin() {
+    Latest = this;
     Start();
     FStarted = true;
   }
@@ -41,11 +42,14 @@ class TQELWavePlayer::TPlay : public vcl::TThread {
     const auto* bytes = reinterpret_cast<const wchar_t*>(FSound.data());
     do {
       FFailed = !::PlaySoundW(bytes, nullptr, SND_MEMORY | SND_SYNC | SND_NODEFAULT);
-    } while (FLoop && !FFailed && !Terminated());
+    } while (FLoop && !FFailed && !Terminated() && Latest == this);
     Queue([&player = FPlayer] { player.Finished(); });
   }
 
  private:
+  /// The one that began last: what it has ended does not come again.
+  static inline std::atomic<const TPlay*> Latest;
+
   TQELWavePlayer& FPlayer;
   std::string FSound;
   bool FStarted = false;

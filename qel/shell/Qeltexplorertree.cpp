@@ -3,7 +3,9 @@
 
 #include <objbase.h>
 
+#include <algorithm>
 #include <cctype>
+#include <utility>
 
 #include "qel/shell/private/folders.h"
 #include "qel/shell/private/hourglass.h"
@@ -93,6 +95,7 @@ TQELExplorerTree::TQELExplorerTree(vcl::TComponent* owner) : TCustomTreeView(own
 
 TQELExplorerTree::~TQELExplorerTree() {
   AnnounceEnd();
+  for (TQELFolderLink* link : std::exchange(FLinks, {})) link->FSender = nullptr;
   Items()->Clear();  // OnDeleteItem hears of them.
   if (FComStarted) ::CoUninitialize();
 }
@@ -104,7 +107,9 @@ std::unique_ptr<TTreeNode> TQELExplorerTree::CreateNode() {
 void TQELExplorerTree::CreateWnd() {
   ReadTop();
   TCustomTreeView::CreateWnd();
-  if (!Designing() && !Selected() && !FDirectory.empty()) GoToNearest(FDirectory);
+  if (Designing()) return;
+  if (Selected()) return Selected()->MakeVisible();
+  if (!FDirectory.empty()) GoToNearest(FDirectory);
 }
 
 void TQELExplorerTree::Loaded() {
@@ -172,8 +177,9 @@ void TQELExplorerTree::GoToNearest(std::string path) {
     if (watch.Gone()) return;
   }
   if (!node) return;
-  if (node == Selected()) FDirectory = node->Folder();  // Nothing else would tell.
-  SetSelected(node);
+  if (node != Selected()) return SetSelected(node);
+  FDirectory = node->Folder();  // Nothing else would tell.
+  TellLinks();
 }
 
 void TQELExplorerTree::Change(TTreeNode* node) {
@@ -182,7 +188,34 @@ void TQELExplorerTree::Change(TTreeNode* node) {
     FDirectory = folder->Folder();
     if (Drive()) FRemembered[Drive()] = folder->Path();
   }
+  const vcl::TWatch watch(this);
   TCustomTreeView::Change(node);
+  if (!watch.Gone()) TellLinks();
+}
+
+// ---- Who goes with it ----
+
+TQELFolderLink::~TQELFolderLink() {
+  if (FSender) FSender->UnRegisterChanges(this);
+}
+
+void TQELExplorerTree::RegisterChanges(TQELFolderLink* link) {
+  if (link->FSender) link->FSender->UnRegisterChanges(link);
+  link->FSender = this;
+  FLinks.push_back(link);
+}
+
+void TQELExplorerTree::UnRegisterChanges(TQELFolderLink* link) {
+  if (std::erase(FLinks, link) > 0) link->FSender = nullptr;
+}
+
+/// What hears may free others that do, and the tree.
+void TQELExplorerTree::TellLinks() {
+  const vcl::TWatch watch(this);
+  for (TQELFolderLink* link : std::vector(FLinks)) {
+    if (watch.Gone()) return;
+    if (std::ranges::find(FLinks, link) != FLinks.end()) link->OnChange(this);
+  }
 }
 
 char TQELExplorerTree::Drive() const {

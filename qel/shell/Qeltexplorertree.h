@@ -29,6 +29,24 @@ using TQELFindDirectoryEvent = vcl::TEvent<vcl::TObject*, std::string, int, TQEL
 
 class TQELExplorerTree;
 
+/// Tells what goes with an explorer tree that another folder is selected
+/// (`TQELExplorerTree::RegisterChanges`), however many do, and leaves the tree's events alone.
+class QEL_API TQELFolderLink {
+ public:
+  TQELFolderLink() = default;
+  ~TQELFolderLink();
+  TQELFolderLink(const TQELFolderLink&) = delete;
+  TQELFolderLink& operator=(const TQELFolderLink&) = delete;
+  /// The tree that it listens to; null for none, also when the tree has been freed.
+  TQELExplorerTree* Sender() const { return FSender; }
+  /// Gets the tree, whose Directory is another one.
+  vcl::TNotifyEvent OnChange;
+
+ private:
+  friend class TQELExplorerTree;
+  TQELExplorerTree* FSender = nullptr;
+};
+
 /// The node of a folder. The shell is asked for its name and picture when they are first needed,
 /// and the disk for whether it has a button.
 class QEL_API TQELExplorerNode : public vcl::TTreeNode {
@@ -110,6 +128,10 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
   /// EInOutError when it cannot be, and for the folders of the top level.
   bool DeletePath(TQELExplorerNode* node);
 
+  /// Has the link hear when another folder is selected, until it is registered elsewhere or freed.
+  void RegisterChanges(TQELFolderLink* link);
+  void UnRegisterChanges(TQELFolderLink* link);
+
   /// Whether a folder is shown. Asked also when a look ahead decides about a button.
   TQELAddFileEvent OnAddDirectory;
   /// Searches in place of the disk.
@@ -163,8 +185,10 @@ class QEL_API TQELExplorerTree : public vcl::TCustomTreeView {
   TQELExplorerNode* ChildOf(const TQELExplorerNode* parent, const std::string& path) const;
   TQELExplorerNode* ReadChild(TQELExplorerNode* parent, const std::string& path);
   bool IsStored() const { return FDirectoryGiven; }
+  void TellLinks();
 
   std::string FDirectory;
+  std::vector<TQELFolderLink*> FLinks;
   std::map<char, std::string> FRemembered;  // The last folder of each drive.
   bool FNetwork = true;
   bool FFastLoad = false;

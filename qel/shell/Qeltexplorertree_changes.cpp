@@ -15,12 +15,6 @@ void CheckNotOnTop(const TQELExplorerNode* node, const char* what) {
   throw vcl::EInOutError(vcl::Concat("'", node->Folder(), "' cannot be ", what));
 }
 
-void CheckName(const std::string& name) {
-  const bool dots = name.find_first_not_of(". ") == std::string::npos;
-  if (!dots && name.find_first_of("\\/:*?\"<>|") == std::string::npos) return;
-  throw vcl::EInOutError(vcl::Concat("'", name, "' cannot be the name of a folder"));
-}
-
 }  // namespace
 
 TQELExplorerNode* TQELExplorerTree::AddPath(const std::string& path) {
@@ -44,7 +38,7 @@ TQELExplorerNode* TQELExplorerTree::AddPath(const std::string& path) {
 
 void TQELExplorerTree::RenamePath(TQELExplorerNode* node, const std::string& name) {
   CheckNotOnTop(node, "renamed");
-  CheckName(name);
+  folders::CheckName(name, "a folder");
   const std::string kept = name.substr(0, name.find_last_not_of(" .") + 1);
   const std::string folder = folders::ParentOf(node->Folder()) + kept + "\\";
   folders::Rename(node->Folder(), folder);
@@ -95,7 +89,7 @@ bool TQELExplorerTree::DeletePath(TQELExplorerNode* node) {
   if (watch.Gone()) return false;
   vcl::TWatch tree(this);
   const std::string parent = static_cast<TQELExplorerNode*>(node->Parent())->Path();
-  if (!folders::Recycle(node->Folder(), Handle())) return false;
+  if (!folders::Recycle({node->Folder()}, Handle())) return false;
   if (!tree.Gone()) ReadAll(parent);
   return true;
 }

@@ -291,8 +291,9 @@ TEST(Handlers, MayFreeTheirSenderAndWhatIsAroundIt) {
     if (!each->InheritsFrom(TControl::Class()) || each->InheritsFrom(TCustomForm::Class()))
       continue;
     if (!each->Maker().Component || each->Name() == "TTabSheet") continue;
-    // It shows the machine's folders, in the window of a tree view.
+    // They show the machine's folders, in the windows of a tree view and a list view.
     if (each->InheritsFrom(qel::TQELExplorerTree::Class())) continue;
+    if (each->InheritsFrom(qel::TQELExplorerView::Class())) continue;
     for (const TPropInfo* event : each->Published()) {
       if (!event->IsEvent()) continue;
       // The system's edit controls work on behind these notices, with what the window had.

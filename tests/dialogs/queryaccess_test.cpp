@@ -87,6 +87,16 @@ TEST_F(QueryAccess, AsksNoSecondTimeForAWhile) {
   EXPECT_FALSE(Enter({}));
 }
 
+TEST_F(QueryAccess, AsksForANewCodeAtOnce) {
+  Keep();
+  Query->SetValidFor(30);
+  EXPECT_TRUE(Enter({"1234"}));
+  EXPECT_TRUE(Query->Execute()) << "without asking";
+  Query->ChangeCode("new");
+  EXPECT_FALSE(Enter({"1234"}));
+  EXPECT_TRUE(Enter({"new"}));
+}
+
 TEST_F(QueryAccess, IsLockedOverARestart) {
   Keep();
   EXPECT_FALSE(Enter({"1"}));

@@ -71,7 +71,8 @@ TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
   const char* names[] = {"buttons.png",    "labels.png",     "backgrounds.png", "gauges.png",
                          "spin-edits.png", "explorer.png",   "hints.png",       "choices.png",
                          "moving.png",     "pick-lists.png", "standard.png",    "lists.png",
-                         "editing.png",    "fields.png",     "dialogs.png",     "system.png"};
+                         "editing.png",    "fields.png",     "dialogs.png",     "system.png",
+                         "desktop.png"};
   ASSERT_EQ(Files.size(), std::size(names));
   EXPECT_FALSE(TPicture(Files[0]) == TPicture(Files[1]) ||
                TPicture(Files[1]) == TPicture(Files[2]));

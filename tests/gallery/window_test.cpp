@@ -283,7 +283,7 @@ TEST_F(Gallery, ThePopupMenuChangesItsButton) {
 }
 
 TEST_F(Gallery, ThePageOfServicesTells) {
-  TTabSheet* const sheet = Form.Pages->Pages(Form.Pages->PageCount() - 1);
+  TTabSheet* const sheet = Form.Pages->Pages(Form.Pages->PageCount() - 2);
   Form.Pages->SetActivePage(sheet);
   const auto* frame = sheet->Controls(0);
   const auto part = [&](const char* name) { return frame->FindComponent(name); };

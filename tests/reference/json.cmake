@@ -81,13 +81,13 @@ endfunction()
 
 expect_rows(pages name,classes
   "QEL Controls/1|TQELBackground,TQELCheckbox,TQELRadiobutton,TQELLabel,TQELButton,TQELIEButton,TQELOfficeButton,TQELPanel,TQELGauge,TQELPresentation,TQELHint,TQELFillBackground,TQELArrowButton,TQELRoundButton,TQELHeader,TQELHeaderList"
-  "QEL Controls/2|TQELColorCombo,TQELAnimator,TQELImageScroller,TQELCommandLabel,TQELInformationLabel,TQELStickyLabel,TQELVersionLabel,TQELLookupMenu,TQELSpinEdit,TQELRealSpinEdit,TQELLookupEdit,TQELOfficeEdit,TQELOfficeEdit,TQELAnimator,TQELFontCombo,TQELFontBox,TQELCheckList"
+  "QEL Controls/2|TQELColorCombo,TQELAnimator,TQELClipboard,TQELImageScroller,TQELScreenCanvas,TQELCommandLabel,TQELInformationLabel,TQELStickyLabel,TQELVersionLabel,TQELLookupMenu,TQELSpinEdit,TQELRealSpinEdit,TQELLookupEdit,TQELOfficeEdit,TQELOfficeEdit,TQELAnimator,TQELFontCombo,TQELFontBox,TQELCheckList"
   "QEL Controls/3|TQELLanguageCombo,TQELAutoCombo,TQELFormDivider"
   "QEL DBControls|TQELDBSearchForm,TQELDBLookupedit,TQELDBLabel,TQELDBNavigator,TQELDBPasswordDlg,TQELDBIndexLookup,TQELDBOfficeEdit,TQELDBAscii,TQELDBSpinEdit,TQELDBStickyLabel,TQELDBImageView,TQELDBMemoView"
   "QEL Dialogs|TQELPasswordDlg,TQELTipTricks,TQELMsgBox,TQELMsgDlg,TQELQueryAccess,TQELShellAbout,TQELSplashScreen,TQELMsgSelect,TQELFolderBrowser,TQELPageSetupDialog"
-  "QEL System/1|TQELStoreData,TQELTimeTrigger,TQELQuickMail,TQELResourceInfo,TQELSystemDetails,TQELSystemTray,TQELWavePlayer,TQELJokeHolder,TQELFormSaver,TQELStringHolder,TQELDriveVolume,TQELMRUMenu,TQELIllegalAbort"
-  "QEL System/2|TQELOnlyOne,TQELTopMost,TQELTimer32,TQELFormSizes,TQELSystemMenu,TQELFormAspect,TQELStartup,TQELVersionDetails,TQELFormHook,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELMapiMail"
-  "QEL Files|TQELExplorerTree")
+  "QEL System/1|TQELStoreData,TQELTimeTrigger,TQELApplication,TQELQuickMail,TQELResourceInfo,TQELSystemDetails,TQELSystemTray,TQELWavePlayer,TQELExitWindows,TQELJokeHolder,TQELFormSaver,TQELStringHolder,TQELDriveVolume,TQELScreenSaver,TQELMRUMenu,TQELIllegalAbort"
+  "QEL System/2|TQELOnlyOne,TQELFormExplode,TQELTopMost,TQELTimer32,TQELFormSizes,TQELSystemMenu,TQELFormAspect,TQELWallPaper,TQELStartup,TQELVersionDetails,TQELFormHook,TQELPOPMail,TQELSMTPMail,TQELICQMarquee,TQELCDTriggers,TQELSystemKeys,TQELMouseController,TQELMapiMail"
+  "QEL Files|TQELFileOperator,TQELTextFileView,TQELDroppedFiles,TQELLogFile,TQELTextReplace,TQELFileCollector,TQELFileLabel3D,TQELFileProperties,TQELFileExecute,TQELFileCombo,TQELDriveCombo,TQELFolderListbox,TQELIconCombo,TQELIconListbox,TQELExplorerView,TQELExplorerTree,TQELFileLookup,TQELFileLabel")
 set(dialog "dialog,read-only")
 set(list "value list,multi-select,sorted list")
 expect_rows(propertyEditors editor,type,class,property,attributes
@@ -110,10 +110,16 @@ expect_rows(propertyEditors editor,type,class,property,attributes
   "TQELDataFieldProperty|string|TComponent|DataUsername|${list}"
   "TQELDataFieldProperty|string|TComponent|Datapassword|${list}"
   "TQELSlidesProperty|TQELSlides|TQELPresentation|Slides|${dialog}"
+  "TQELFilenameProperty|string|TQELIconCombo|Filename|dialog"
+  "TQELFilenameProperty|string|TQELIconListbox|Filename|dialog"
+  "TQELFilenameProperty|string|TQELFileLabel|Filename|dialog"
+  "TQELFilenameProperty|string|TQELFileProperties|Filename|dialog"
   "TQELAviFilenameProperty|string|TQELAnimator|Filename|dialog"
   "TQELINIFilenameProperty|string|TQELStoreData|Filename|dialog"
   "TQELWaveFilenameProperty|string|TQELWavePlayer|WaveFile|dialog"
   "TQELWaveFilenameProperty|string|TQELICQMarquee|Filename|dialog"
+  "TQELBitmapFilenameProperty|string|TQELWallPaper|Filename|dialog"
+  "TQELLogFilenameProperty|string|TQELLogFile|LogFile|dialog"
   "TQELFilenameProperty|string|TQELVersionLabel|Filename|dialog"
   "TQELROCaptionProperty|TCaption|TQELVersionLabel|Caption|multi-select,auto-update,read-only,revertable"
   "TQELLocaleProperty|string|TQELLanguageCombo|Locale|${list}"
@@ -126,7 +132,9 @@ expect_rows(propertyEditors editor,type,class,property,attributes
   "TQELFilenameProperty|string|TQELTipTricks|Filename|dialog"
   "TQELDataFieldProperty|string|TQELDBSearchForm|DefaultField|${list}"
   "TQELCodeProperty|string|TQELQueryAccess|Code|dialog,revertable"
-  "TQELFilenameProperty|string|TQELVersionDetails|Filename|dialog")
+  "TQELFilenameProperty|string|TQELVersionDetails|Filename|dialog"
+  "TQELROCaptionProperty|TCaption|TQELFileLabel|Caption|multi-select,auto-update,read-only,revertable"
+  "TQELFilenameProperty|string|TQELFileExecute|Filename|dialog")
 expect_rows(componentEditors editor,class,verbs
   "TQELDialogEditor|TQELExecComponent|Execute the Component,QEL component library,2026"
   "TQELMailConfigEditor|TQELMailHost|Configure Mail ..."

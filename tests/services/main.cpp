@@ -1,9 +1,10 @@
-// Runs the tests, or is a guarded program that a test has started: see TCopy.
+// Runs the tests, or is another program that a test has started: see TCopy and TRole.
 #include <gmock/gmock.h>
 
 #include <cstring>
 
 #include "qel/qel.h"
+#include "tests/services/roles.h"
 #include "tests/support/texts.h"
 #include "vcl/vcl.h"
 
@@ -47,6 +48,9 @@ int RunCopy(const std::string& title, const std::string& instances, const std::s
 
 int main(int argc, char** argv) {
   if (argc == 5 && std::strcmp(argv[1], "--copy") == 0) return RunCopy(argv[2], argv[3], argv[4]);
+  if (argc >= 3 && std::strcmp(argv[1], "--role") == 0) {
+    return PlayRole(argv[2], {argv + 3, argv + argc});
+  }
   testing::InitGoogleMock(&argc, argv);
   return RUN_ALL_TESTS();
 }

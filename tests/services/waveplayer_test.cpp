@@ -33,6 +33,8 @@ struct TSounds {
     if (!sound) return End(), TRUE;
     EXPECT_EQ(flags & SND_MEMORY, static_cast<DWORD>(SND_MEMORY));
     if (Fails) return FALSE;
+    // Another sound ends the one that is heard.
+    while (State != Silent) End(), ::Sleep(1);
     State = Heard;
     ++Played;
     while (State != Ended) ::Sleep(1);
@@ -102,6 +104,21 @@ TEST_F(WavePlayer, PlaysAgainAndAgain) {
   }
   EXPECT_TRUE(IsFinished(1));
   EXPECT_EQ(TSounds::Played, 3);
+}
+
+TEST_F(WavePlayer, EndedByAnotherItComesNotAgain) {
+  Player->SetLoop(true);
+  EXPECT_TRUE(Player->Execute());
+  EXPECT_TRUE(Plays(1));
+  TQELWavePlayer other(nullptr);
+  other.SetWaveFile(Name("sound.wav"));
+  EXPECT_TRUE(other.Execute());
+  EXPECT_TRUE(IsFinished(1));
+  EXPECT_TRUE(Plays(2));
+  testinput::PumpFor(50);
+  EXPECT_FALSE(Player->Playing());
+  EXPECT_TRUE(other.Playing());
+  EXPECT_EQ(TSounds::Played, 2);
 }
 
 TEST_F(WavePlayer, WaitsWithTheWindowsAlive) {

@@ -1,6 +1,8 @@
 // TQELSystemMenu and TQELTopMost on real windows.
 #include <gmock/gmock.h>
 
+#include <thread>
+
 #include "qel/qel.h"
 #include "tests/vcl/testinput.h"
 
@@ -66,6 +68,35 @@ class SystemMenu : public testing::Test {
   vcl::TMenuItem* Inner = nullptr;
   int Own = 0;
 };
+
+/// The window of the menu that is open; null for none.
+HWND OpenMenu() { return ::FindWindowW(L"#32768", nullptr); }
+
+TEST_F(SystemMenu, TheMouseOpensItAndChooses) {
+  TQELSystemMenu it(&Form);
+  it.SetMenu(&Menu);
+  ::SetForegroundWindow(Form.Handle());
+  testinput::Pump();
+  // The menu has its own loop: a second hand clicks while it is open.
+  std::thread hand([this] {
+    const ULONGLONG end = ::GetTickCount64() + testinput::Patience;
+    while (!OpenMenu() && ::GetTickCount64() < end) ::Sleep(10);
+    ::Sleep(100);
+    RECT line{};
+    ::GetMenuItemRect(nullptr, Form.SystemMenu(), static_cast<UINT>(Own + 1), &line);
+    testinput::Click({(line.left + line.right) / 2, (line.top + line.bottom) / 2});
+    ::Sleep(300);
+    if (!OpenMenu()) return;
+    testinput::SendKey(VK_ESCAPE, true);
+    testinput::SendKey(VK_ESCAPE, false);
+  });
+  // The icon at the beginning of the title bar.
+  const int middle = ::GetSystemMetrics(SM_CYSIZEFRAME) + ::GetSystemMetrics(SM_CYCAPTION) / 2;
+  testinput::Click({Form.Left() + middle, Form.Top() + middle});
+  EXPECT_TRUE(testinput::PumpUntil([this] { return !Log.empty(); }));
+  hand.join();
+  EXPECT_THAT(Log, ElementsAre("&First"));
+}
 
 TEST_F(SystemMenu, AppendsTheMenusLinesAlsoToANewWindow) {
   const TLog lines{"-", "&First*", "-", "More"};

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "tests/shell/link.h"
 #include "tests/support/importpatch.h"
 #include "tests/vcl/standardform.h"
 #include "vcl/dialogs/messagedialog.h"
@@ -50,59 +51,12 @@ HANDLE WINAPI FindFirst(LPCWSTR pattern, LPWIN32_FIND_DATAW found) {
   return INVALID_HANDLE_VALUE;
 }
 
-/// What a Unix system calls the file; empty where the disk is Windows's own.
-std::wstring UnixName(const fs::path& file) {
-  const auto unixName = reinterpret_cast<char*(CDECL*)(const wchar_t*)>(reinterpret_cast<void*>(
-      ::GetProcAddress(::GetModuleHandleA("kernel32.dll"), "wine_get_unix_file_name")));
-  return unixName ? vcl::ToUtf16(unixName(file.c_str())) : std::wstring();
-}
-
 /// Where a folder is a Unix system's, each new name is compared with all others there, unless the
 /// folder is named in that system's way.
 std::wstring Plain(const fs::path& folder) {
   const std::wstring name = UnixName(folder);
   return name.empty() ? folder.wstring() : L"\\\\?\\unix" + name;
 }
-
-/// A link to a folder, as the disk's own system has them: what removes all below a folder of
-/// Windows's would follow another system's.
-class TLink {
- public:
-  TLink(const fs::path& link, const fs::path& folder) : FLink(link) {
-    if (!IsUnix()) {
-      const std::wstring line = Quoted(link.wstring()) + Quoted(folder.wstring());
-      ::_wsystem((L"mklink /J" + line + L" >nul").c_str());
-    } else {
-      RunUnixProgram(L"ln", L"-s" + Quoted(UnixName(folder)) + UnixLink());
-    }
-    EXPECT_TRUE(testinput::PumpUntil([&] { return fs::exists(FLink); }));
-  }
-  ~TLink() {
-    IsUnix() ? RunUnixProgram(L"rm", UnixLink()) : static_cast<void>(fs::remove(FLink));
-    EXPECT_TRUE(testinput::PumpUntil([&] { return !fs::exists(FLink); }));
-  }
-  TLink(const TLink&) = delete;
-  TLink& operator=(const TLink&) = delete;
-
- private:
-  static std::wstring Quoted(const std::wstring& name) { return L" \"" + name + L"\""; }
-  bool IsUnix() const { return !UnixName(FLink.parent_path()).empty(); }
-  /// The link itself: its own name would be asked for where it leads.
-  std::wstring UnixLink() const {
-    return Quoted(UnixName(FLink.parent_path()) + L"/" + FLink.filename().wstring());
-  }
-  /// It can't be waited for.
-  static void RunUnixProgram(const std::wstring& name, const std::wstring& arguments) {
-    std::wstring line = name + L" " + arguments;
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
-    ::CreateProcessW((L"\\\\?\\unix\\bin\\" + name).c_str(), line.data(), nullptr, nullptr, FALSE,
-                     0, nullptr, nullptr, &startup, &process);
-  }
-
-  fs::path FLink;
-};
 
 void MakeMany(const fs::path& folder, int count) {
   const std::wstring start = Plain(folder) + L"\\f";

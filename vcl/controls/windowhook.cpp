@@ -27,7 +27,8 @@ bool MakesOrEndsWindow(UINT message) {
 }  // namespace
 
 TWindowHook::TWindowHook(TBefore before, TAfter after)
-    : FBefore(std::move(before)), FAfter(std::move(after)) {}
+    : FBefore(before ? std::move(before) : [](TMessage&, bool&) {}),
+      FAfter(after ? std::move(after) : [](TMessage&) {}) {}
 
 TWindowHook::~TWindowHook() { SetControl(nullptr); }
 

@@ -25,6 +25,7 @@ class VCL_API TWindowHook : public TWatched {
   /// The message's Result is the control's answer, which may be changed.
   using TAfter = std::function<void(TMessage& message)>;
 
+  /// Null for a call that is not wanted.
   TWindowHook(TBefore before, TAfter after);
   ~TWindowHook();
   TWindowHook(const TWindowHook&) = delete;

@@ -8,6 +8,7 @@
 
 #include "vcl/controls/private/handling.h"
 #include "vcl/controls/windowtext.h"
+#include "vcl/forms/applicationlistener.h"
 #include "vcl/forms/forms.h"
 #include "vcl/forms/private/faults.h"
 #include "vcl/forms/private/taskwindows.h"
@@ -226,18 +227,23 @@ LRESULT TApplication::WndProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       if (FMainForm) FMainForm->Close();
       return 0;
-    case WM_QUERYENDSESSION: return AskSessionEnd(FMainForm);
+    case WM_QUERYENDSESSION: return AskSessionEnd(FMainForm) && AskListeners();
     case WM_ENDSESSION:
       FSessionEnding = wParam != 0;
       if (wParam) EndSession();
       return 0;
+    case WM_POWERBROADCAST:
+    case WM_DISPLAYCHANGE: TellBroadcast(message, wParam, lParam); break;
     case WM_SIZE: SizeChanged(wParam); break;
     case WM_ACTIVATEAPP: SetActive(wParam != 0); break;
     case WM_SETFOCUS:
       if (!FMinimized) BringToFront();
       break;
     case WM_SYSCOLORCHANGE:
-    case WM_SETTINGCHANGE: TellForms(CM_SYSCOLORCHANGE); break;
+    case WM_SETTINGCHANGE:
+      TellForms(CM_SYSCOLORCHANGE);
+      if (message == WM_SETTINGCHANGE) TellBroadcast(message, wParam, lParam);
+      break;
     default: break;
   }
   return ::DefWindowProcW(FHandle, message, wParam, lParam);
@@ -249,6 +255,22 @@ bool TApplication::AskSessionEnd(TCustomForm* form) {
   return FSessionEnding = !form || form->CloseQuery();
 }
 
+bool TApplication::AskListeners() {
+  const TOnFailure goesOn([this] { FSessionEnding = false; });
+  bool canEnd = true;
+  TApplicationListener::TellAll([&](TApplicationListener& each) {
+    bool allowed = true;
+    each.QueryEndSession(allowed);
+    canEnd = canEnd && allowed;
+  });
+  return FSessionEnding = canEnd;
+}
+
+void TApplication::TellBroadcast(UINT message, WPARAM wParam, LPARAM lParam) {
+  TApplicationListener::TellAll(
+      [&](TApplicationListener& each) { each.Broadcast(message, wParam, lParam); });
+}
+
 // From the answer on the system may end the process at any time: what closing would do is done
 // before that. Code that is underway still needs the forms; they go when it has returned to Run.
 void TApplication::EndSession() {
@@ -256,6 +278,7 @@ void TApplication::EndSession() {
   try {
     TCloseAction action = caHide;
     if (FMainForm) FMainForm->DoClose(action);
+    TApplicationListener::TellAll([](TApplicationListener& each) { each.EndSession(); });
   } catch (...) {
     HandleCurrentException(FMainForm);
   }
@@ -296,6 +319,8 @@ void TApplication::SetActive(bool active) {
   FActive = active;
   CancelHint();
   (active ? OnActivate : OnDeactivate)(this);
+  TApplicationListener::TellAll(
+      [active](TApplicationListener& each) { active ? each.Activated() : each.Deactivated(); });
 }
 
 void TApplication::Minimize() {
@@ -307,6 +332,7 @@ void TApplication::Minimize() {
   ::DefWindowProcW(FHandle, WM_SYSCOMMAND, SC_MINIMIZE, 0);
   FMinimized = ::IsIconic(FHandle) != FALSE;
   OnMinimize(this);
+  TApplicationListener::TellAll([](TApplicationListener& each) { each.Minimized(); });
 }
 
 void TApplication::Restore() {
@@ -320,6 +346,7 @@ void TApplication::SizeChanged(WPARAM kind) {
   ::ShowOwnedPopups(FHandle, TRUE);
   BringToFront();
   OnRestore(this);
+  TApplicationListener::TellAll([](TApplicationListener& each) { each.Restored(); });
 }
 
 void TApplication::BringToFront() {

@@ -148,6 +148,8 @@ class VCL_API TApplication : public TCustomApplication {
   void CreateHandle();
   /// Asks the form whether the session may end; true without one.
   bool AskSessionEnd(TCustomForm* form);
+  bool AskListeners();
+  void TellBroadcast(UINT message, WPARAM wParam, LPARAM lParam);
   void EndSession();
   void SetMainFormIfNone(TCustomForm* form);
   void FreeForms();

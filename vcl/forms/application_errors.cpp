@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "vcl/forms/application.h"
+#include "vcl/forms/applicationlistener.h"
 #include "vcl/forms/private/taskwindows.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/text.h"
@@ -29,8 +30,11 @@ void TApplication::HandleException(TObject* sender, const std::exception& error)
   try {
     if (const HWND capture = ::GetCapture()) ::SendMessageW(capture, WM_CANCELMODE, 0, 0);
     if (dynamic_cast<const EAbort*>(&error)) return;
-    if (!OnException) return ShowException(error);
+    bool handled = static_cast<bool>(OnException);
     OnException(sender, error);
+    TApplicationListener::TellAll(
+        [&](TApplicationListener& each) { each.Error(sender, error, handled); });
+    if (!handled) ShowException(error);
   } catch (const std::exception& another) {
     ShowException(another);
   } catch (...) {

@@ -2,6 +2,7 @@
 #include "vcl/actions/private/shownactions.h"
 #include "vcl/controls/private/handling.h"
 #include "vcl/forms/application.h"
+#include "vcl/forms/applicationlistener.h"
 #include "vcl/forms/drag.h"
 #include "vcl/forms/forms.h"
 #include "vcl/forms/private/modelessdialogs.h"
@@ -73,6 +74,8 @@ void TApplication::Dispatch(MSG& message) {
   const THandling handling;
   bool handled = false;
   OnMessage(message, handled);
+  TApplicationListener::TellAll(
+      [&](TApplicationListener& each) { each.Message(message, handled); });
   if (handled || PreprocessInput(message)) return;
   ::TranslateMessage(&message);
   ::DispatchMessageW(&message);
@@ -103,6 +106,11 @@ void TApplication::Idle() {
     UpdateShownActions();
     for (int i = 0; i < Screen()->FormCount(); ++i) Screen()->Forms(i)->UpdateDropFiles();
     OnIdle(this, done);
+    TApplicationListener::TellAll([&done](TApplicationListener& each) {
+      bool itsDone = true;
+      each.Idle(itsDone);
+      done = done && itsDone;
+    });
   } catch (...) {
     HandleCurrentException(this);
   }
@@ -158,6 +166,7 @@ void TApplication::SetHint(const std::string& hint) {
   if (hint == FHint) return;
   FHint = hint;
   OnHint(this);
+  TApplicationListener::TellAll([](TApplicationListener& each) { each.HintChanged(); });
 }
 
 }  // namespace vcl

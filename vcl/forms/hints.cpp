@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "vcl/forms/application.h"
+#include "vcl/forms/applicationlistener.h"
 #include "vcl/forms/screen.h"
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/properties.h"
@@ -168,6 +169,8 @@ bool THintControl::Ask(THintInfo& info) {
   bool show = info.HintControl->Perform(CM_HINTSHOW, 0, reinterpret_cast<LPARAM>(&info)) == 0;
   if (watch.Gone()) return false;
   Application()->OnShowHint(info.HintStr, show, info);
+  TApplicationListener::TellAll(
+      [&](TApplicationListener& each) { each.ShowHint(info.HintStr, show, info); });
   return show && !watch.Gone() && info.HintControl == FControl && !FCancelled && FWindow &&
          !info.HintStr.empty();
 }

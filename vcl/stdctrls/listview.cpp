@@ -341,6 +341,18 @@ void TCustomListView::Edit(TListItem* item, std::string text) {
 void TCustomListView::Delete(TListItem* item) { OnDeletion(this, item); }
 void TCustomListView::Data(TListItem* item) { OnData(this, item); }
 void TCustomListView::GetImageIndex(TListItem* item) { OnGetImageIndex(this, item); }
+void TCustomListView::HeaderClick(TListColumn* column) { OnColumnClick(this, column); }
+
+int TCustomListView::DataFind(TItemFind find, const std::string& text, TPoint position, void* data,
+                              int start, TSearchDirection direction, bool wrap) {
+  int row = -1;
+  OnDataFind(this, find, text, position, data, start, direction, wrap, row);
+  return row;
+}
+
+void TCustomListView::BeginItemDrag() {
+  if (DragMode() == dmAutomatic) BeginDrag(true);
+}
 
 void TCustomListView::DescribeAccessible(TAccessibleInfo& info) const {
   TWinControl::DescribeAccessible(info);

@@ -265,6 +265,17 @@ class VCL_API TCustomListView : public TWinControl {
   /// Fills the item that stands for a row.
   virtual void Data(TListItem* item);
   virtual void GetImageIndex(TListItem* item);
+  /// The user has clicked the column's header.
+  virtual void HeaderClick(TListColumn* column);
+  /// With OwnerData: the row that is looked for; -1 for none. Here OnDataFind says.
+  virtual int DataFind(TItemFind find, const std::string& text, TPoint position, void* data,
+                       int start, TSearchDirection direction, bool wrap);
+  /// The user begins to drag an item with the left button. The inherited method drags the list view
+  /// where DragMode is dmAutomatic.
+  virtual void BeginItemDrag();
+  /// What the window draws as LargeImages and SmallImages; it stays whose it is.
+  virtual HIMAGELIST LargePictures() const;
+  virtual HIMAGELIST SmallPictures() const;
   /// Below 0 when the first item comes first.
   virtual int Compare(TListItem* first, TListItem* second);
 

@@ -116,10 +116,9 @@ TListItem* Find(const TListItems& items, int start, bool inclusive, bool wrap, F
 TListItem* TCustomListView::FindCaption(int start, const std::string& text, bool partial,
                                         bool inclusive, bool wrap) {
   if (FOwnerData) {
-    int row = -1;
     const TWatch watch(this);
-    OnDataFind(this, partial ? ifPartialString : ifExactString, text, {}, nullptr,
-               inclusive ? start : start + 1, sdAll, wrap, row);
+    const int row = DataFind(partial ? ifPartialString : ifExactString, text, {}, nullptr,
+                             inclusive ? start : start + 1, sdAll, wrap);
     return watch.Gone() ? nullptr : ItemOfRow(row);
   }
   return Find(*FItems, start, inclusive, wrap, [&](const TListItem& item) {
@@ -130,9 +129,8 @@ TListItem* TCustomListView::FindCaption(int start, const std::string& text, bool
 
 TListItem* TCustomListView::FindData(int start, void* data, bool inclusive, bool wrap) {
   if (FOwnerData) {
-    int row = -1;
     const TWatch watch(this);
-    OnDataFind(this, ifData, {}, {}, data, inclusive ? start : start + 1, sdAll, wrap, row);
+    const int row = DataFind(ifData, {}, {}, data, inclusive ? start : start + 1, sdAll, wrap);
     return watch.Gone() ? nullptr : ItemOfRow(row);
   }
   return Find(*FItems, start, inclusive, wrap,

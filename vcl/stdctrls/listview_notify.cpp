@@ -58,11 +58,9 @@ void TCustomListView::FindRow(TMessage& message) {
                          : flags & LVFI_NEARESTXY ? ifNearest
                          : flags & LVFI_PARTIAL   ? ifPartialString
                                                   : ifExactString;
-  int row = -1;
-  OnDataFind(this, find, text && told.lvfi.psz ? ToUtf8(told.lvfi.psz) : std::string(),
-             told.lvfi.pt, reinterpret_cast<void*>(told.lvfi.lParam), told.iStart, sdAll,
-             (flags & LVFI_WRAP) != 0, row);
-  message.Result = row;
+  message.Result = DataFind(find, text && told.lvfi.psz ? ToUtf8(told.lvfi.psz) : std::string(),
+                            told.lvfi.pt, reinterpret_cast<void*>(told.lvfi.lParam), told.iStart,
+                            sdAll, (flags & LVFI_WRAP) != 0);
 }
 
 // ---- What the window tells ----
@@ -180,12 +178,12 @@ void TCustomListView::NotifyFromWindow(TMessage& message) {
     case static_cast<UINT>(LVN_COLUMNCLICK): {
       const int place = reinterpret_cast<const NMLISTVIEW*>(header)->iSubItem;
       return Later(-1, nullptr, [this, place](TListItem*) {
-        if (place < FColumns->Count()) OnColumnClick(this, FColumns->Items(place));
+        if (place < FColumns->Count()) HeaderClick(FColumns->Items(place));
       });
     }
     case static_cast<UINT>(LVN_BEGINDRAG):
       return Later(-1, nullptr, [this](TListItem*) {
-        if (DragMode() == dmAutomatic && ::GetKeyState(VK_LBUTTON) < 0) BeginDrag(true);
+        if (::GetKeyState(VK_LBUTTON) < 0) BeginItemDrag();
       });
     case static_cast<UINT>(NM_CLICK):
     case static_cast<UINT>(NM_RCLICK): return NotifyOfClick(message);

@@ -92,19 +92,28 @@ void TCustomListView::SendColors() {
   if (HandleAllocated()) Invalidate();
 }
 
+namespace {
+
+HIMAGELIST HandleOf(const TLinkedImages& images) {
+  return images.List ? images.List->Handle() : nullptr;
+}
+
+}  // namespace
+
+HIMAGELIST TCustomListView::LargePictures() const { return HandleOf(FLargeImages); }
+HIMAGELIST TCustomListView::SmallPictures() const { return HandleOf(FSmallImages); }
+
 void TCustomListView::SendImages() {
   if (!HandleAllocated()) return;
-  const auto send = [this](WPARAM which, const TLinkedImages& images) {
-    const HIMAGELIST handle = images.List ? images.List->Handle() : nullptr;
-    Send(*this, LVM_SETIMAGELIST, which, reinterpret_cast<LPARAM>(handle));
+  const auto send = [this](WPARAM which, HIMAGELIST pictures) {
+    Send(*this, LVM_SETIMAGELIST, which, reinterpret_cast<LPARAM>(pictures));
   };
-  send(LVSIL_NORMAL, FLargeImages);
-  send(LVSIL_SMALL, FSmallImages);
+  send(LVSIL_NORMAL, LargePictures());
+  send(LVSIL_SMALL, SmallPictures());
   // The system draws checks of its own.
-  if (!FCheckboxes || FStateImages.List) send(LVSIL_STATE, FStateImages);
+  if (!FCheckboxes || FStateImages.List) send(LVSIL_STATE, HandleOf(FStateImages));
   if (const auto header = reinterpret_cast<HWND>(Send(*this, LVM_GETHEADER))) {
-    const HIMAGELIST small = FSmallImages.List ? FSmallImages.List->Handle() : nullptr;
-    ::SendMessageW(header, HDM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(small));
+    ::SendMessageW(header, HDM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(HandleOf(FSmallImages)));
   }
   Invalidate();
 }

@@ -67,11 +67,13 @@ void TProcess::SetMemoryLimit(int megabytes) {
 
 namespace {
 
-std::wstring LineOf(const std::string& fileName, const TStrings& arguments) {
+std::wstring LineOf(const std::string& fileName, const TStrings& arguments,
+                    const std::string& raw) {
   constexpr std::size_t most = 32766;  // CreateProcess takes no more.
   std::vector<std::string> each;
   for (int i = 0; i < arguments.Count(); ++i) each.push_back(arguments.Strings(i));
-  const std::string line = CommandLine(fileName, each);
+  std::string line = CommandLine(fileName, each);
+  if (!raw.empty()) line += " " + raw;
   if (line.find('\0') != std::string::npos) {
     throw EProcessError(Concat("An argument of ", fileName, " holds a zero character"));
   }
@@ -88,7 +90,7 @@ void TProcess::Execute() {
   constexpr std::size_t megabyte = 1 << 20;
   TProcessStart start;
   start.Program = FindProgram(FFileName);
-  start.CommandLine = LineOf(ToUtf8(start.Program), *FArguments);
+  start.CommandLine = LineOf(ToUtf8(start.Program), *FArguments, FRawArguments);
   start.Environment = EnvironmentBlock(*FEnvironment);
   start.Folder = ToUtf16(FFolder);
   start.Capture = FOptions.Has(poCaptureOutput);

@@ -37,6 +37,10 @@ template <>
 inline constexpr TEventText EventText<TProcessOutputEvent>{
     "TProcessOutputEvent", "vcl::TObject* sender, const std::string& text"};
 
+/// The file of that name in the system's folder or along PATH, with its folder; the current folder
+/// is none of them. A name without an ending means the one with ".exe". Empty when there is none.
+VCL_API std::string FileAlongPath(const std::string& name);
+
 /// Starts another program, hears what it writes, writes to it, waits for it and ends it. Events are
 /// fired in the main thread. Freed while the program runs, the component leaves it running, unless
 /// poEndWithThisOne says otherwise.
@@ -54,6 +58,10 @@ class VCL_API TProcess : public TComponent {
   TStrings* Arguments() const { return FArguments.get(); }
   /// The program's arguments, one a line; quotes are put around them as they need.
   void SetArguments(const TStrings* arguments) { FArguments->Assign(arguments); }
+  const std::string& RawArguments() const { return FRawArguments; }
+  /// What stands behind the arguments on the command line just as it is given here, for programs
+  /// that read their command line in a way of their own.
+  void SetRawArguments(const std::string& text) { FRawArguments = text; }
   TStrings* Environment() const { return FEnvironment.get(); }
   /// Lines NAME=value that the program's environment has besides this program's, or instead of it;
   /// NAME= takes one away.
@@ -116,6 +124,7 @@ class VCL_API TProcess : public TComponent {
   std::string FFileName;
   std::string FFolder;
   std::unique_ptr<TStringList> FArguments;
+  std::string FRawArguments;
   std::unique_ptr<TStringList> FEnvironment;
   TProcessOptions FOptions{poCaptureOutput};
   int FTimeLimit = 0;

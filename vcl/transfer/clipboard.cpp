@@ -1,6 +1,7 @@
 // TClipboard: opening it, and its data.
 #include "vcl/transfer/clipboard.h"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -18,7 +19,6 @@ EClipboardInUse::~EClipboardInUse() = default;
 
 namespace {
 
-constexpr int Attempts = 10;
 constexpr DWORD Pause = 20;  // Milliseconds; others hold it for a moment only.
 
 /// A block that is freed unless the clipboard has taken it.
@@ -74,8 +74,9 @@ TClipboardTurn::~TClipboardTurn() { Clipboard()->Close(); }
 
 void TClipboard::Open() {
   if (FOpened == 0) {
-    for (int i = 0; !::OpenClipboard(Application()->Handle()); ++i) {
-      if (i == Attempts) RaiseInUse();
+    const ULONGLONG end = ::GetTickCount64() + static_cast<ULONGLONG>(std::max(FPatience, 0));
+    while (!::OpenClipboard(Application()->Handle())) {
+      if (::GetTickCount64() >= end) RaiseInUse();
       ::Sleep(Pause);
     }
     FEmptied = false;

@@ -29,8 +29,8 @@ class VCL_API EClipboardInUse : public EClipboardError {
   DWORD FProcess;
 };
 
-/// The clipboard. Every call opens it for itself, and tries for a fifth of a second when another
-/// program has it; then raises EClipboardInUse, which names that one. What is put on it outlives
+/// The clipboard. Every call opens it for itself, and tries for its Patience when another program
+/// has it; then raises EClipboardInUse, which names that one. What is put on it outlives
 /// the program.
 class VCL_API TClipboard : public TTransferData {
  public:
@@ -38,6 +38,9 @@ class VCL_API TClipboard : public TTransferData {
   /// together, and what is put on it stands side by side.
   void Open();
   void Close();
+  /// For how many milliseconds it is tried; 200 at first.
+  int Patience() const { return FPatience; }
+  void SetPatience(int milliseconds) { FPatience = milliseconds; }
 
   std::vector<TTransferFormat> Formats() const override;
   /// Asks without opening the clipboard.
@@ -61,6 +64,7 @@ class VCL_API TClipboard : public TTransferData {
   TClipboard() = default;
 
   int FOpened = 0;
+  int FPatience = 200;
   bool FEmptied = false;  // Since it was opened.
 };
 

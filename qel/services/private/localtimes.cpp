@@ -42,16 +42,25 @@ TMilliseconds InstantOf(const TZone& zone, TMilliseconds local) {
 
 namespace {
 
-/// The rule's first instant of a day behind the given one.
+/// The rule's first instant of a day behind the given one. Later local times are never earlier
+/// instants, so that it is looked for by halves.
 std::optional<TMilliseconds> NextOfDay(const TTimeRule& rule, const TZone& zone, int day,
                                        TMilliseconds after) {
-  TMilliseconds time = rule.Time;
-  do {
-    const TMilliseconds instant = InstantOf(zone, day * DayLength + time);
-    if (instant > after) return instant;
-    time += rule.Every * MinuteLength;
-  } while (rule.Every > 0 && time < DayLength);
-  return std::nullopt;
+  const TMilliseconds step = rule.Every > 0 ? rule.Every * MinuteLength : DayLength;
+  const auto count = static_cast<int>((DayLength - rule.Time + step - 1) / step);
+  const auto instant = [&](int number) {
+    return InstantOf(zone, day * DayLength + rule.Time + number * step);
+  };
+  int next = 0;
+  for (int behind = count; next < behind;) {
+    const int middle = next + (behind - next) / 2;
+    if (instant(middle) <= after) {
+      next = middle + 1;
+    } else {
+      behind = middle;
+    }
+  }
+  return next == count ? std::nullopt : std::optional(instant(next));
 }
 
 }  // namespace

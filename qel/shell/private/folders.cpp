@@ -7,6 +7,7 @@
 #include <objbase.h>
 #include <shellapi.h>
 #include <shlobj.h>
+#include <shlwapi.h>
 
 #include <algorithm>
 #include <numeric>
@@ -85,29 +86,90 @@ UINT DriveType(const std::string& path) {
 
 // ---- What is there ----
 
-void Scan(const std::string& path, const std::function<bool(const std::string& name)>& each) {
-  std::wstring pattern = ForSystem(path);
-  if (!pattern.ends_with(L'\\')) pattern += L'\\';
-  pattern += L"*.*";
-  WIN32_FIND_DATAW found;
-  const HANDLE search = ::FindFirstFileW(pattern.c_str(), &found);
-  if (search == INVALID_HANDLE_VALUE) return;
-  const struct TClose {
-    HANDLE Search;
-    ~TClose() { ::FindClose(Search); }
-  } close{search};
-  do {
-    const std::wstring_view name = found.cFileName;
-    if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) || name == L"." || name == L"..") {
-      continue;
-    }
-    if (!each(ToUtf8(name))) return;
-  } while (::FindNextFileW(search, &found));
-}
-
 namespace {
 
-/// Texts compare byte by byte by their keys as they do by the user's language.
+/// The system's search, as long as there is more to find.
+class TSearch {
+ public:
+  explicit TSearch(const std::string& path) {
+    std::wstring pattern = ForSystem(path);
+    if (!pattern.ends_with(L'\\')) pattern += L'\\';
+    pattern += L"*.*";
+    FSearch = ::FindFirstFileW(pattern.c_str(), &FFound);
+    if (FSearch == INVALID_HANDLE_VALUE) FError = ::GetLastError();
+  }
+  ~TSearch() {
+    if (FSearch != INVALID_HANDLE_VALUE) ::FindClose(FSearch);
+  }
+  TSearch(const TSearch&) = delete;
+  TSearch& operator=(const TSearch&) = delete;
+
+  /// What it has found; null at the end.
+  const WIN32_FIND_DATAW* Next() {
+    while (FError == 0) {
+      if (std::exchange(FBegun, true) && !::FindNextFileW(FSearch, &FFound))
+        FError = ::GetLastError();
+      const std::wstring_view name = FFound.cFileName;
+      if (FError == 0 && name != L"." && name != L"..") return &FFound;
+    }
+    return nullptr;
+  }
+  /// Why there is no more; 0 at the end of the folder.
+  DWORD Error() const {
+    const bool end = FError == ERROR_NO_MORE_FILES || FError == ERROR_FILE_NOT_FOUND;
+    return end ? 0 : FError;
+  }
+
+ private:
+  WIN32_FIND_DATAW FFound{};
+  HANDLE FSearch = INVALID_HANDLE_VALUE;
+  DWORD FError = 0;
+  bool FBegun = false;
+};
+
+std::uint64_t Joined(DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; }
+
+}  // namespace
+
+void Scan(const std::string& path, const std::function<bool(const std::string& name)>& each) {
+  TSearch search(path);
+  while (const WIN32_FIND_DATAW* found = search.Next()) {
+    const bool folder = (found->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    if (folder && !each(ToUtf8(found->cFileName))) return;
+  }
+}
+
+void ScanEntries(const std::string& path, const std::function<bool(const TEntry& entry)>& each) {
+  const TNoErrorBoxes quiet;
+  TSearch search(path);
+  while (const WIN32_FIND_DATAW* found = search.Next()) {
+    const TEntry entry{
+        ToUtf8(found->cFileName), std::uint32_t{found->dwFileAttributes},
+        Joined(found->nFileSizeHigh, found->nFileSizeLow),
+        Joined(found->ftLastWriteTime.dwHighDateTime, found->ftLastWriteTime.dwLowDateTime)};
+    if (!each(entry)) return;
+  }
+  if (search.Error() == 0) return;
+  vcl::RaiseOSError<vcl::EInOutError>(static_cast<int>(search.Error()), "Cannot read the folder '",
+                                      path, "'");
+}
+
+std::optional<TEntry> EntryOf(const std::string& path) {
+  const TNoErrorBoxes quiet;
+  WIN32_FILE_ATTRIBUTE_DATA found{};
+  if (!::GetFileAttributesExW(ForSystem(path).c_str(), GetFileExInfoStandard, &found)) return {};
+  return TEntry{NameOf(vcl::IncludeTrailingPathDelimiter(path)),
+                std::uint32_t{found.dwFileAttributes},
+                Joined(found.nFileSizeHigh, found.nFileSizeLow),
+                Joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime)};
+}
+
+std::string SizeText(std::uint64_t size) {
+  wchar_t text[32] = L"";
+  ::StrFormatKBSizeW(static_cast<LONGLONG>(size), text, 32);
+  return ToUtf8(text);
+}
+
 std::string SortKey(const std::string& text) {
   const std::wstring wide = ToUtf16(text);
   const auto map = [&wide](std::string* key) {
@@ -120,8 +182,6 @@ std::string SortKey(const std::string& text) {
   map(&key);
   return key;
 }
-
-}  // namespace
 
 void Sort(std::vector<std::string>& paths) {
   std::vector<std::pair<std::string, std::string>> keyed;
@@ -193,6 +253,60 @@ HIMAGELIST SystemImages(int pixelsPerInch) {
   return AskOfAnyFolder("folder", info, tooSmall ? SHGFI_LARGEICON : SHGFI_SMALLICON);
 }
 
+namespace {
+
+/// What the shell says of any file with that extension.
+SHFILEINFOW AskOfFiles(const std::string& extension, UINT what) {
+  SHFILEINFOW info{};
+  ::SHGetFileInfoW(ToUtf16("file" + extension).c_str(), FILE_ATTRIBUTE_NORMAL, &info, sizeof info,
+                   what | SHGFI_USEFILEATTRIBUTES);
+  return info;
+}
+
+}  // namespace
+
+std::string TypeOfFiles(const std::string& extension) {
+  return ToUtf8(AskOfFiles(extension, SHGFI_TYPENAME).szTypeName);
+}
+
+std::string TypeOfFolders() {
+  SHFILEINFOW info{};
+  ::SHGetFileInfoW(L"folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
+                   SHGFI_TYPENAME | SHGFI_USEFILEATTRIBUTES);
+  return ToUtf8(info.szTypeName);
+}
+
+int PictureOfFiles(const std::string& extension) {
+  return AskOfFiles(extension, SHGFI_SYSICONINDEX | SHGFI_SMALLICON).iIcon;
+}
+
+int PictureOf(const std::string& file) {
+  const TNoErrorBoxes quiet;
+  SHFILEINFOW info{};
+  const auto asked = ::SHGetFileInfoW(ToUtf16(file).c_str(), 0, &info, sizeof info,
+                                      SHGFI_SYSICONINDEX | SHGFI_SMALLICON);
+  return asked ? info.iIcon : PictureOfFiles(vcl::ExtractFileExt(file));
+}
+
+bool HasOwnPicture(const std::string& extension) {
+  static constexpr const char* own[] = {".exe", ".lnk", ".ico", ".cur", ".ani", ".url", ".scr"};
+  return std::ranges::any_of(own, [&](const char* each) { return vcl::SameText(each, extension); });
+}
+
+HIMAGELIST LargeSystemImages() {
+  SHFILEINFOW info{};
+  return AskOfAnyFolder("folder", info, SHGFI_LARGEICON);
+}
+
+vcl::TDateTime LocalTime(std::uint64_t written) {
+  const FILETIME time{static_cast<DWORD>(written), static_cast<DWORD>(written >> 32)};
+  SYSTEMTIME utc{}, local{};
+  if (!::FileTimeToSystemTime(&time, &utc)) return 0;
+  if (!::SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local)) local = utc;
+  return vcl::EncodeDate(local.wYear, local.wMonth, local.wDay) +
+         vcl::EncodeTime(local.wHour, local.wMinute, local.wSecond, local.wMilliseconds);
+}
+
 // ---- Changes ----
 
 void Make(const std::string& path) {
@@ -206,19 +320,52 @@ void Rename(const std::string& path, const std::string& newPath) {
   vcl::RaiseLastOSError<vcl::EInOutError>("Cannot rename the folder '", path, "'");
 }
 
-bool Recycle(const std::string& path, HWND owner) {
-  std::wstring from = ToUtf16(path.substr(0, path.size() - 1));
-  from += L'\0';  // The end of the list.
+void CheckName(const std::string& name, std::string_view what) {
+  const bool dots = name.find_first_not_of(". ") == std::string::npos;
+  if (!dots && name.find_first_of("\\/:*?\"<>|") == std::string::npos) return;
+  throw vcl::EInOutError(vcl::Concat("'", name, "' cannot be the name of ", what));
+}
+
+namespace {
+
+/// Has the shell do something with files; false when the user stops it.
+bool Operate(UINT what, const std::vector<std::string>& paths, const std::string& target,
+             FILEOP_FLAGS flags, HWND owner, const char* failed) {
+  std::wstring from;
+  for (const std::string& path : paths) {
+    from += ToUtf16(vcl::ExcludeTrailingPathDelimiter(path));
+    from += L'\0';  // Another one ends the list.
+  }
+  const std::wstring to = ToUtf16(target) + L'\0';
   SHFILEOPSTRUCTW operation{};
   operation.hwnd = owner;
-  operation.wFunc = FO_DELETE;
+  operation.wFunc = what;
   operation.pFrom = from.c_str();
-  operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_WANTNUKEWARNING | FOF_SILENT;
+  operation.pTo = target.empty() ? nullptr : to.c_str();
+  operation.fFlags = flags;
   const int error = ::SHFileOperationW(&operation);
   if (error != 0 && !operation.fAnyOperationsAborted) {
-    vcl::RaiseOSError<vcl::EInOutError>(error, "Cannot delete the folder '", path, "'");
+    vcl::RaiseOSError<vcl::EInOutError>(error, failed, " '", paths.front(), "'");
   }
   return !operation.fAnyOperationsAborted;
+}
+
+}  // namespace
+
+bool Recycle(const std::vector<std::string>& paths, HWND owner) {
+  constexpr FILEOP_FLAGS flags =
+      FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_WANTNUKEWARNING | FOF_SILENT;
+  return Operate(FO_DELETE, paths, {}, flags, owner, "Cannot delete");
+}
+
+bool ShellRename(const std::string& path, const std::string& newPath, HWND owner) {
+  if (UpperCased(path) != UpperCased(newPath) &&
+      ::GetFileAttributesW(ForSystem(newPath).c_str()) != INVALID_FILE_ATTRIBUTES) {
+    vcl::RaiseOSError<vcl::EInOutError>(ERROR_ALREADY_EXISTS, "Cannot rename '", path, "' to '",
+                                        newPath, "'");
+  }
+  return Operate(FO_RENAME, {path}, newPath, FOF_ALLOWUNDO | FOF_NOCONFIRMATION, owner,
+                 "Cannot rename");
 }
 
 }  // namespace qel::folders

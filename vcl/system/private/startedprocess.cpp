@@ -44,6 +44,8 @@ std::wstring Found(const std::wstring& name) {
 
 }  // namespace
 
+std::string FileAlongPath(const std::string& name) { return ToUtf8(Found(ToUtf16(name))); }
+
 std::wstring FindProgram(const std::string& fileName) {
   if (fileName.empty()) throw EProcessError("A program without a name cannot be started");
   const std::string ending = ExtractFileExt(fileName);

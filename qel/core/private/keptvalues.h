@@ -1,4 +1,4 @@
-// TKeptValues: what a dialog keeps in its store from one start to the next.
+// TKeptValues: what a component keeps in its store from one start to the next.
 #pragma once
 
 #include <string>
@@ -22,9 +22,10 @@ class TKeptValues {
   void Write(const char* value, const std::string& text) const;
   /// Raises ERegistryException or EIniFileException for a store that refuses.
   void Forget(const char* value) const;
+  /// What the value is called in the store.
+  std::string NameOf(const char* value) const;
 
  private:
-  std::string NameOf(const char* value) const;
   template <class Call>
   void Guarded(Call call) const;
 

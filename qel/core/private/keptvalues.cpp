@@ -1,5 +1,5 @@
 // TKeptValues: reading and writing, and what a store that refuses does.
-#include "qel/dialogs/private/keptvalues.h"
+#include "qel/core/private/keptvalues.h"
 
 #include "vcl/rtl/exceptions.h"
 #include "vcl/rtl/strings.h"
@@ -13,7 +13,7 @@ std::string TKeptValues::NameOf(const char* value) const {
   return vcl::Concat(owner ? owner->Name() + "." : std::string(), FComponent.Name(), "_", value);
 }
 
-/// What the store refuses is its own event's matter, not that of who shows the dialog.
+/// What the store refuses is its own event's matter, not that of who reads or writes a value.
 template <class Call>
 void TKeptValues::Guarded(Call call) const {
   const vcl::TWatch watch(&FComponent);
