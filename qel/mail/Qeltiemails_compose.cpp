@@ -32,6 +32,7 @@ void AddUnlessEmpty(const char* field, const std::string& value, vcl::TStrings& 
 void CheckAttachment(const TQELAttachment& attachment) {
   CheckOneLine("FileName", attachment.FileName());
   CheckOneLine("MimeType", attachment.MimeType());
+  CheckOneLine("ContentId", attachment.ContentId());
 }
 
 void AddLines(std::initializer_list<const char*> texts, vcl::TStrings& lines) {
@@ -54,6 +55,9 @@ void TQELSMTPMail::CheckMessage(const TQELMessage& message) {
   CheckOneLine("InReplyTo", message.InReplyTo());
   CheckOneLine("SendTo", message.SendTo());
   CheckOneLine("Subject", message.Subject());
+  CheckOneLine("Cc", message.Cc());
+  CheckOneLine("Bcc", message.Bcc());
+  CheckOneLine("References", message.References());
   for (int i = 0; i < message.Attachments()->Count(); ++i) {
     CheckAttachment(*message.Attachments()->GeTQELAttachment(i));
   }

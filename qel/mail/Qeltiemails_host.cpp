@@ -1,6 +1,6 @@
 // TQELMailHost: a session with a server, its connection, its waiting and its end.
 #include <algorithm>
-#include <array>
+#include <chrono>
 
 #include "qel/core/private/arithmetic.h"
 #include "qel/mail/Qeltiemails_host.h"
@@ -23,6 +23,8 @@ class TSessionAborted : public vcl::EAbort {
 /// How long to wait at a time before the application handles its messages.
 constexpr int WaitMilliseconds = 200;
 
+using TClock = std::chrono::steady_clock;
+
 }  // namespace
 
 const vcl::TClass& TQELMailHost::Class() {
@@ -35,6 +37,13 @@ const vcl::TClass& TQELMailHost::Class() {
           vcl::Property<&T::ProgressStep, &T::SetProgressStep>("ProgressStep"),
           vcl::Property<&T::Port, &T::SetPort>("Port"),
           vcl::Property<&T::Host, &T::SetHost>("Host"),
+          vcl::Property<&T::AllowClearLogin, &T::SetAllowClearLogin>("AllowClearLogin")
+              .Default(false),
+          vcl::Property<&T::AuthMethod, &T::SetAuthMethod>("AuthMethod").Default(amNone),
+          vcl::Property<&T::Format, &T::SetFormat>("Format").Default(mfClassic),
+          vcl::Property<&T::Security, &T::SetSecurity>("Security").Default(msNone),
+          vcl::Property<&T::Timeout, &T::SetTimeout>("Timeout").Default(0),
+          vcl::Event<&T::OnCertificate>("OnCertificate"),
       });
   return info;
 }
@@ -61,7 +70,8 @@ void TQELMailHost::Abort() { FAborted = FAbortAsked = true; }
 
 void TQELMailHost::BeginSession() {
   FBusy = true;
-  FAbortAsked = false;
+  FAbortAsked = FLeftOut = false;
+  FUnread.clear();
   FClientSocket = std::make_unique<vcl::TClientSocket>(nullptr);
   FClientSocket->SetClientType(vcl::ctBlocking);
   FClientSocket->OnConnect = {this, &TQELMailHost::DoConnect};
@@ -85,7 +95,7 @@ bool TQELMailHost::RunSession(const std::function<void()>& dialogue) {
     }
     FBusy = false;
     DropConnection();
-    return !FAbortAsked;
+    return !FAbortAsked && !FLeftOut;
   } catch (...) {
     vcl::BaseApplication().HandleCurrentException(watch.Gone() ? nullptr : this);
   }
@@ -165,23 +175,39 @@ void TQELMailHost::LetWait() {
   if (FAbortAsked) throw TSessionAborted();
 }
 
+void TQELMailHost::CheckTime(TClock::time_point since) const {
+  const auto waited = TClock::now() - since;
+  if (FTimeout == 0 || waited < std::chrono::milliseconds(FTimeout)) return;
+  throw vcl::ESocketError(
+      vcl::Concat("\"", FHost, "\" did not answer within ", vcl::IntToStr(FTimeout), " ms"));
+}
+
 void TQELMailHost::SendSocketText(std::string_view text) {
-  while (!text.empty()) {
+  for (auto since = TClock::now(); !text.empty();) {
     const auto done = Stream().Write(text.data(), static_cast<std::int64_t>(text.size()));
     text.remove_prefix(static_cast<std::size_t>(done));
-    if (!text.empty()) LetWait();
+    if (done > 0) since = TClock::now();
+    if (!text.empty()) {
+      LetWait();
+      CheckTime(since);
+    }
   }
 }
 
-std::string TQELMailHost::ReadChunk() {
+std::string TQELMailHost::ReadChunk(std::size_t most) {
   if (FAbortAsked) throw TSessionAborted();
-  while (!Stream().WaitForData(WaitMilliseconds)) LetWait();
-  std::array<char, 1024> chunk;
-  const auto size = Stream().Read(chunk.data(), chunk.size());
+  const int wait = FTimeout > 0 ? std::min(FTimeout, WaitMilliseconds) : WaitMilliseconds;
+  for (const auto since = TClock::now(); !Stream().WaitForData(wait);) {
+    LetWait();
+    CheckTime(since);
+  }
+  std::string chunk(most, '\0');
+  const auto size = Stream().Read(chunk.data(), static_cast<std::int64_t>(most));
   if (Stream().AtEnd()) {
     throw vcl::ESocketError(vcl::Concat("\"", FHost, "\" has closed the connection"));
   }
-  return {chunk.data(), static_cast<std::size_t>(size)};
+  chunk.resize(static_cast<std::size_t>(size));
+  return chunk;
 }
 
 int TQELMailHost::Percent(double part, double whole) { return Round(part * 100 / whole); }

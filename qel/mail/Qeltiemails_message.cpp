@@ -24,9 +24,12 @@ bool DeleteItem(vcl::TCollection& collection, int index) {
 
 const vcl::TClass& TQELAttachment::Class() {
   using T = TQELAttachment;
-  static const vcl::TClass info =
-      vcl::Describe<T, TCollectionItem>("qel::TQELAttachment", "qel/mail/Qeltiemails.h",
-                                        {vcl::Property<&T::FileName, &T::SetFileName>("FileName")});
+  static const vcl::TClass info = vcl::Describe<T, TCollectionItem>(
+      "qel::TQELAttachment", "qel/mail/Qeltiemails.h",
+      {
+          vcl::Property<&T::FileName, &T::SetFileName>("FileName"),
+          vcl::Property<&T::ContentId, &T::SetContentId>("ContentId").Default(""),
+      });
   return info;
 }
 
@@ -63,6 +66,7 @@ void TQELAttachment::Assign(const vcl::TPersistent* source) {
   if (other == this) return;
   FFileName = other->FFileName;
   FMimeType = other->FMimeType;
+  FContentId = other->FContentId;
   FLines->Assign(other->FLines.get());
   FData = other->FData ? std::make_unique<vcl::TMemoryStream>() : nullptr;
   if (FData) other->FData->SaveToStream(*FData);
@@ -111,6 +115,9 @@ const vcl::TClass& TQELMessage::Class() {
           vcl::Property<&T::FromName, &T::SetFromName>("FromName"),
           vcl::Property<&T::Message, &T::SetMessage>("Message"),
           vcl::Property<&T::Attachments, &T::SetAttachments>("Attachments"),
+          vcl::Property<&T::Bcc, &T::SetBcc>("Bcc").Default(""),
+          vcl::Property<&T::Cc, &T::SetCc>("Cc").Default(""),
+          vcl::Property<&T::HtmlText, &T::SetHtmlText>("HtmlText").Default(""),
       });
   return info;
 }
@@ -139,7 +146,8 @@ void TQELMessage::Assign(const vcl::TPersistent* source) {
   for (std::string TQELMessage::*text :
        {&TQELMessage::FFromMail, &TQELMessage::FReplyTo, &TQELMessage::FSendTo,
         &TQELMessage::FSubject, &TQELMessage::FFromName, &TQELMessage::FMessageId,
-        &TQELMessage::FInReplyTo, &TQELMessage::FDate}) {
+        &TQELMessage::FInReplyTo, &TQELMessage::FDate, &TQELMessage::FCc, &TQELMessage::FBcc,
+        &TQELMessage::FHtmlText, &TQELMessage::FReferences, &TQELMessage::FNotes}) {
     this->*text = other->*text;
   }
   FMessage->Assign(other->FMessage.get());

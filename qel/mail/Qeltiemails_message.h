@@ -25,7 +25,7 @@ class QEL_API TQELAttachment : public vcl::TCollectionItem, public vcl::TWatched
   const vcl::TClass& ClassType() const override { return Class(); }
 
   /// The file's name. To be sent, it is opened as it stands here: a name without a folder in the
-  /// program's current folder.
+  /// program's current folder. In the standard format one that has Data is sent from there.
   const std::string& FileName() const { return FFileName; }
   void SetFileName(const std::string& fileName) { FFileName = fileName; }
   /// The lines that the contents travel as. Never null.
@@ -36,6 +36,10 @@ class QEL_API TQELAttachment : public vcl::TCollectionItem, public vcl::TWatched
   void SetData(std::unique_ptr<vcl::TMemoryStream> data);
   const std::string& MimeType() const { return FMimeType; }
   void SetMimeType(const std::string& mimeType) { FMimeType = mimeType; }
+  /// The name by which the HTML text shows the attachment ("cid:…", RFC 2392), without brackets;
+  /// empty for one that it does not show. Of the standard format.
+  const std::string& ContentId() const { return FContentId; }
+  void SetContentId(const std::string& contentId) { FContentId = contentId; }
   /// The message that it belongs to; null for an attachment of none.
   TQELMessage* Message() const;
 
@@ -49,7 +53,7 @@ class QEL_API TQELAttachment : public vcl::TCollectionItem, public vcl::TWatched
   std::string FFileName;
   std::unique_ptr<TTextLines> FLines;
   std::unique_ptr<vcl::TMemoryStream> FData;
-  std::string FMimeType;
+  std::string FMimeType, FContentId;
 };
 
 /// The attachments of a message.
@@ -77,7 +81,8 @@ class QEL_API TQELAttachments : public vcl::TCollection {
   TQELMessage* FOwner;
 };
 
-/// A mail. Addresses and texts travel as they are: nothing is encoded in the header.
+/// A mail. In the classic format addresses and texts travel as they are: nothing is encoded in the
+/// header, and Bcc, Cc, HtmlText and References are neither sent nor read.
 class QEL_API TQELMessage : public vcl::TCollectionItem, public vcl::TWatched {
  public:
   explicit TQELMessage(vcl::TCollection* collection);
@@ -100,6 +105,15 @@ class QEL_API TQELMessage : public vcl::TCollectionItem, public vcl::TWatched {
   /// The sender's name.
   const std::string& FromName() const { return FFromName; }
   void SetFromName(const std::string& fromName) { FFromName = fromName; }
+  /// Further recipients, whom all see; addresses and names, separated by commas.
+  const std::string& Cc() const { return FCc; }
+  void SetCc(const std::string& cc) { FCc = cc; }
+  /// Recipients whom nobody sees: they are in no header.
+  const std::string& Bcc() const { return FBcc; }
+  void SetBcc(const std::string& bcc) { FBcc = bcc; }
+  /// The text once more as HTML, for readers that show it; empty for none.
+  const std::string& HtmlText() const { return FHtmlText; }
+  void SetHtmlText(const std::string& htmlText) { FHtmlText = htmlText; }
   /// The text, a line an item. The setter copies.
   vcl::TStrings* Message() const { return FMessage.get(); }
   void SetMessage(const vcl::TStrings* message) { FMessage->Assign(message); }
@@ -113,6 +127,12 @@ class QEL_API TQELMessage : public vcl::TCollectionItem, public vcl::TWatched {
   /// The number of the mail that this one answers; empty for none.
   const std::string& InReplyTo() const { return FInReplyTo; }
   void SetInReplyTo(const std::string& inReplyTo) { FInReplyTo = inReplyTo; }
+  /// The numbers of the mails before it in its conversation (RFC 5322, 3.6.4).
+  const std::string& References() const { return FReferences; }
+  void SetReferences(const std::string& references) { FReferences = references; }
+  /// What was wrong with a mail that was read all the same, a line for each; empty for nothing.
+  const std::string& Notes() const { return FNotes; }
+  void SetNotes(const std::string& notes) { FNotes = notes; }
   /// Set by sending, filled by receiving.
   const std::string& Date() const { return FDate; }
   void SetDate(const std::string& date) { FDate = date; }
@@ -126,6 +146,7 @@ class QEL_API TQELMessage : public vcl::TCollectionItem, public vcl::TWatched {
 
  private:
   std::string FFromMail, FReplyTo, FSendTo, FSubject, FFromName;
+  std::string FCc, FBcc, FHtmlText, FReferences, FNotes;
   std::string FMessageId, FInReplyTo, FDate;
   std::unique_ptr<vcl::TStringList> FMessage, FHeaders;
   std::unique_ptr<TQELAttachments> FAttachments;

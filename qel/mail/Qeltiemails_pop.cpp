@@ -6,6 +6,7 @@
 #include "qel/mail/mailerror.h"
 #include "qel/mail/private/living.h"
 #include "qel/mail/private/oneline.h"
+#include "qel/mail/private/poprefusals.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/properties.h"
@@ -22,17 +23,6 @@ constexpr int PieceMilliseconds = 200;
 constexpr std::size_t MaxReplySize = 64 << 10;
 /// What is believed of a size that a server announces.
 constexpr int MaxReserved = 16 << 20;
-
-/// What the server refused.
-enum TRefusal {
-  GreetingRefused = 2000,
-  LoginRefused,
-  QuitRefused,
-  DeleRefused,
-  RetrRefused,
-  TopRefused,
-  StatRefused
-};
 
 bool HasTerminator(std::string_view text) { return text.find(Terminator) != text.npos; }
 
@@ -56,6 +46,8 @@ const vcl::TClass& TQELPOPMail::Class() {
           Property<&T::DeleteOfServer, &T::SetDeleteOfServer>("DeleteOfServer").Default(false),
           Property<&T::Username, &T::SetUsername>("Username"),
           Property<&T::Password, &T::SetPassword>("Password"),
+          Property<&T::KeepOnServer, &T::SetKeepOnServer>("KeepOnServer").Default(false),
+          Property<&T::SkipBadMessages, &T::SetSkipBadMessages>("SkipBadMessages").Default(false),
           Event<&T::OnConnect>("OnConnect"),
           Event<&T::OnDisconnect>("OnDisconnect"),
           Event<&T::OnError>("OnError"),
@@ -72,7 +64,10 @@ const vcl::TClass& TQELPOPMail::Class() {
   return info;
 }
 
-TQELPOPMail::TQELPOPMail(vcl::TComponent* owner) : TQELMailHost(owner) { SetPort("110"); }
+TQELPOPMail::TQELPOPMail(vcl::TComponent* owner)
+    : TQELMailHost(owner), FKnownIds(std::make_unique<vcl::TStringList>()) {
+  SetPort("110");
+}
 
 TQELPOPMail::~TQELPOPMail() { AnnounceEnd(); }
 
@@ -82,8 +77,9 @@ bool TQELPOPMail::Execute() {
   if (watch.Gone()) return false;
   return RunSession([this] {
            Connect();
+           if (FExtended && !Connected()) return;
            if (!Login()) {
-             ShowRefusal();
+             if (!FExtended) ShowRefusal();
              return;
            }
            Init();
@@ -107,6 +103,9 @@ void TQELPOPMail::CheckSession() const {
 void TQELPOPMail::Connect() {
   FMessageCount = 0;
   FDeleted.clear();
+  FIds = FSizes = std::nullopt;
+  FExtended = WantsExtensions();
+  if (FExtended) return OpenExtended();
   TQELMailHost::Connect();
   if (!Connected()) return;
   OpenStream(StreamTimeOut);
@@ -119,6 +118,8 @@ void TQELPOPMail::Connect() {
 // Neither this nor any other command looks whether the connection is open: on a closed one sending
 // raises.
 bool TQELPOPMail::Login() {
+  if (FExtended && AuthMethod() != amNone && AuthMethod() != amUserPass) return LogIn();
+  if (FExtended && AuthMethod() == amUserPass) CheckLoginIsSafe();
   if (!Command("USER " + FUsername, LoginRefused) || !Command("PASS " + FPassword, LoginRefused)) {
     return false;
   }
@@ -140,15 +141,17 @@ int TQELPOPMail::Init() {
 int TQELPOPMail::RetrieveAllMessages(TQELMessages*) {
   // Deletions count the mails down, but not the numbers that the server knows them by.
   const int last = FMessageCount;
+  const std::set<std::string> known = Known();
   int count = 0;
   for (int i = 1; i <= last; ++i) {
     const auto index = static_cast<std::uint16_t>(i);
     if (IsDeleted(index)) continue;
-    RetrieveMessage(index);
-    if (FDeleteOfServer) DeleteMessage(index);
-    if (Aborted()) break;
+    if (FKeepOnServer && known.contains(MailId(index))) continue;
+    if (FetchOne(index) && FDeleteOfServer && !FKeepOnServer) DeleteMessage(index);
+    if (Aborted() || (FExtended && !Connected())) break;
     ++count;
   }
+  if (FKeepOnServer) ForgetGoneIds();
   return count;
 }
 
@@ -160,9 +163,14 @@ void TQELPOPMail::DeleteMessage(std::uint16_t index) {
   Fire(OnDelete, this, index);
 }
 
-void TQELPOPMail::RetrieveHeaders(std::uint16_t index, std::string& headers) {
+void TQELPOPMail::RetrieveHeaders(std::uint16_t index, std::string& headers, int lines) {
   std::string chunk;
-  if (!Command("TOP " + vcl::IntToStr(index) + " 0", TopRefused, chunk)) return;
+  const std::string command = vcl::Concat("TOP ", vcl::IntToStr(index), " ", vcl::IntToStr(lines));
+  if (!Command(command, TopRefused, chunk)) return;
+  if (FExtended) {
+    headers = "\n" + ReadLines() + ".\r\n";
+    return;
+  }
   // The status line goes, but for its line feed.
   headers = chunk.substr(chunk.find('\r') + 1);
   while (!HasTerminator(chunk)) {
@@ -177,11 +185,12 @@ TQELMessage* TQELPOPMail::RetrieveMessage(std::uint16_t index) {
   Fire(BeforeRetrieve, this, index);
   std::string reply;
   if (!Command("RETR " + vcl::IntToStr(index), RetrRefused, reply)) return nullptr;
+  if (FExtended && FSizes && FSizes->contains(index)) FReplyText = FSizes->at(index);
   reply = FetchRest(std::move(reply));
   if (reply.empty()) return nullptr;
   // What a mail has reached stays for the next: one that comes in one piece behind it has no event.
   if (FRetrievePercent < 100) Fire(OnRetrieveProgress, this, std::uint16_t{100});
-  return ReadMessage(std::move(reply));
+  return Format() == mfStandard ? ReadStandard(std::move(reply)) : ReadMessage(std::move(reply));
 }
 
 std::string TQELPOPMail::FetchRest(std::string reply) {
@@ -193,22 +202,36 @@ std::string TQELPOPMail::FetchRest(std::string reply) {
   for (std::size_t searched = 0; reply.find(Terminator, searched) == reply.npos;) {
     Pump();
     if (Aborted()) return {};
-    GetSocketText(chunk);
+    if (FExtended) {
+      chunk = ReadBlock();
+    } else {
+      GetSocketText(chunk);
+    }
     searched = reply.size() - std::min(reply.size(), Terminator.size() - 1);
     reply += chunk;
+    if (FSkipBadMessages && IsTooLarge(reply.size())) SkipRest(reply);
     CheckSize(reply.size());
     // A server may send more than it announced, thus more than 100 percent.
     const double percent = static_cast<double>(reply.size()) * 100 / expected;
-    FRetrievePercent = Percent(std::min(percent, 65535.0), 100);
+    FRetrievePercent = Percent(std::min(percent, FExtended ? 100.0 : 65535.0), 100);
     if (StepReached(FRetrievePercent, threshold)) {
       Fire(OnRetrieveProgress, this, static_cast<std::uint16_t>(FRetrievePercent));
     }
   }
+  if (FExtended) {
+    const std::size_t end = reply.find(Terminator) + Terminator.size();
+    Unread(std::string_view(reply).substr(end));
+    reply.resize(end);
+  }
   return reply;
 }
 
+bool TQELPOPMail::IsTooLarge(std::size_t size) const {
+  return FMaxMessageSize > 0 && size > FMaxMessageSize;
+}
+
 void TQELPOPMail::CheckSize(std::size_t size) const {
-  if (FMaxMessageSize == 0 || size <= FMaxMessageSize) return;
+  if (!IsTooLarge(size)) return;
   throw EQELMailError(vcl::Concat("A mail is larger than the ", std::to_string(FMaxMessageSize),
                                   " bytes that are allowed"));
 }
@@ -230,6 +253,7 @@ bool TQELPOPMail::Command(const std::string& command, int refusal, std::string& 
 }
 
 std::string TQELPOPMail::ReadReply() {
+  if (FExtended) return ReadReplyLine();
   std::string reply, chunk;
   GetSocketText(reply);
   // Nearly always one piece. What is sent in several is put together, as far as they come at once.
@@ -260,6 +284,9 @@ void TQELPOPMail::DoErr(int code) { DoError(this, Connection(), vcl::eeGeneral, 
 void TQELPOPMail::DoError(vcl::TObject* sender, vcl::TCustomWinSocket*, vcl::TErrorEvent,
                           int& errorCode) {
   FError = true;
+  // It is raised, and told then.
+  if (FExtended && sender != this) return;
+  FLeftOut = FLeftOut || FExtended;
   CloseConnection();
   Fire(OnError, sender, errorCode, FReplyText);
 }

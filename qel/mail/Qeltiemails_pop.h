@@ -2,9 +2,13 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "qel/mail/Qeltiemails_host.h"
 
@@ -19,6 +23,9 @@ enum TQELMailSessionState { Authorization, Transaction };
 ///
 /// Mails are kept in Messages, behind those that are there. A server's reply is taken as it comes:
 /// only "-ERR" is looked for.
+///
+/// With Security, an AuthMethod, KeepOnServer or the standard Format the session asks for what the
+/// server can do (CAPA, RFC 2449) and for the sizes of the mails, and reads replies line by line.
 class QEL_API TQELPOPMail : public TQELMailHost {
  public:
   explicit TQELPOPMail(vcl::TComponent* owner);
@@ -42,6 +49,19 @@ class QEL_API TQELPOPMail : public TQELMailHost {
   /// session that does not end with a farewell: an abort, a refusal or an error in its middle.
   bool DeleteOfServer() const { return FDeleteOfServer; }
   void SetDeleteOfServer(bool deleteOfServer) { FDeleteOfServer = deleteOfServer; }
+  /// Leaves all mails on the server, whatever DeleteOfServer says, and fetches only those whose
+  /// identifiers (UIDL) are not among KnownIds. At first False.
+  bool KeepOnServer() const { return FKeepOnServer; }
+  void SetKeepOnServer(bool keepOnServer) { FKeepOnServer = keepOnServer; }
+  /// The identifiers of the mails that have been fetched, one a line, which the program keeps from
+  /// session to session. A session with KeepOnServer adds those of the mails that it fetches and
+  /// drops those that the server no longer has. The setter copies.
+  vcl::TStrings* KnownIds() const { return FKnownIds.get(); }
+  void SetKnownIds(const vcl::TStrings* ids) { FKnownIds->Assign(ids); }
+  /// A mail that cannot be read, or is too large, is told to OnError and left on the server, and
+  /// the next one comes; Execute then returns false. Else, as at first, it ends the session.
+  bool SkipBadMessages() const { return FSkipBadMessages; }
+  void SetSkipBadMessages(bool skipBadMessages) { FSkipBadMessages = skipBadMessages; }
   /// A server that sends a larger mail, or attachment, is an error (EQELMailError), which ends the
   /// session: so no server can fill the memory. In bytes, at first 256 MiB; 0 for no limit. A mail
   /// takes up to three times its size while it is read, and more when its lines are very short.
@@ -69,8 +89,12 @@ class QEL_API TQELPOPMail : public TQELMailHost {
   int RetrieveAllMessages(TQELMessages* messages);
   /// Fetches a mail; null when it is refused or the session aborted, or an event has deleted it.
   TQELMessage* RetrieveMessage(std::uint16_t index);
-  /// Fetches a mail's header. It begins with a line feed and ends with the line of the lone dot.
-  void RetrieveHeaders(std::uint16_t index, std::string& headers);
+  /// Fetches a mail's header and so many lines of its text. What comes begins with a line feed and
+  /// ends with the line of the lone dot.
+  void RetrieveHeaders(std::uint16_t index, std::string& headers, int lines = 0);
+  /// The identifier of a mail on the server (UIDL), which it has in each session; empty when it has
+  /// none. Asked for once a session.
+  std::string MailId(std::uint16_t index);
   void DeleteMessage(std::uint16_t index);
   /// Reads what has come, at most 1024 bytes, and takes status and text of the reply from it.
   void GetSocketText(std::string& text);
@@ -114,16 +138,37 @@ class QEL_API TQELPOPMail : public TQELMailHost {
   void DoErr(int code);
   /// Raises EQELMailError also for a user's name or password that breaks its line.
   void CheckSession() const override;
+  bool WantsExtensions() const override;
   void DoError(vcl::TObject* sender, vcl::TCustomWinSocket* socket, vcl::TErrorEvent errorEvent,
                int& errorCode) override;
 
  private:
+  // Sessions with extensions.
+  void OpenExtended();
+  void AskCapabilities();
+  bool HasCapability(std::string_view name) const;
+  bool SecureByCommand();
+  bool LogIn();
+  bool TryLogIn(TQELMailAuthMethod way);
+  std::string ReadReplyLine();
+  /// The lines that follow a reply, up to the lone dot, without it.
+  std::string ReadLines();
+  std::map<int, std::string> AskList(const char* command, int refusal);
+  std::set<std::string> Known() const;
+  void ForgetGoneIds();
+  void CheckAnnouncedSize(std::uint16_t index);
+  /// Reads to the end of a mail that is not kept, of which this has come last.
+  void SkipRest(std::string end);
+  bool FetchOne(std::uint16_t index);
+  TQELMessage* ReadStandard(std::string mail);
+
   void ShowRefusal();
   void TakeReply(std::string_view text);
   std::string ReadReply();
   /// True unless the server refuses, which is told with the code; `reply` is all that has come.
   bool Command(const std::string& command, int refusal, std::string& reply);
   bool Command(const std::string& command, int refusal);
+  bool IsTooLarge(std::size_t size) const;
   void CheckSize(std::size_t size) const;
   std::string FetchRest(std::string reply);
   void ReadSinglePart(TQELMessage& message, char* body, std::size_t size);
@@ -139,6 +184,14 @@ class QEL_API TQELPOPMail : public TQELMailHost {
   std::size_t FMaxMessageSize = 256u << 20;
   std::uint16_t FMessageCount = 0;
   std::set<std::uint16_t> FDeleted;
+  bool FKeepOnServer = false;
+  bool FSkipBadMessages = false;
+  std::unique_ptr<vcl::TStringList> FKnownIds;
+  /// The running session is one with extensions.
+  bool FExtended = false;
+  std::string FGreeting;
+  std::vector<std::string> FCapabilities;
+  std::optional<std::map<int, std::string>> FIds, FSizes;
   int FRetrievePercent = 0;
   int FDecodePercent = 0;
 };

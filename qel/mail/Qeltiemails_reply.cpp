@@ -62,6 +62,7 @@ void TQELSMTPMail::TakeReply(std::string_view text) {
 }
 
 void TQELSMTPMail::GetSocketText(std::string& text) {
+  if (FExtended) return ReadWholeReply(text);
   std::string unfinished;
   do {
     std::string chunk = unfinished + NextChunk();

@@ -6,6 +6,7 @@
 #include "qel/mail/Qeltiemails_smtp.h"
 #include "qel/mail/private/living.h"
 #include "qel/mail/private/oneline.h"
+#include "qel/mail/private/smtpextensions.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/customapplication.h"
 #include "vcl/rtl/datetime.h"
@@ -30,6 +31,9 @@ const vcl::TClass& TQELSMTPMail::Class() {
       {
           Property<&T::Signature, &T::SetSignature>("Signature"),
           Property<&T::DateTimeFormat, &T::SetDateTimeFormat>("DateTimeFormat"),
+          Property<&T::Password, &T::SetPassword>("Password").Default(""),
+          Property<&T::SkipRefused, &T::SetSkipRefused>("SkipRefused").Default(false),
+          Property<&T::Username, &T::SetUsername>("Username").Default(""),
           Event<&T::OnConnect>("OnConnect"),
           Event<&T::OnDisconnect>("OnDisconnect"),
           Event<&T::OnError>("OnError"),
@@ -60,6 +64,7 @@ bool TQELSMTPMail::Execute() {
   if (watch.Gone()) return false;
   return RunSession([this] {
            Connect();
+           if (FExtended && !Connected()) return;
            for (int i = 0; i < Messages()->Count(); ++i) {
              SendMessage(*Messages()->GetQELMessage(i));
            }
@@ -76,6 +81,8 @@ void TQELSMTPMail::CheckSession() const {
 
 void TQELSMTPMail::Connect() {
   FError = false;
+  FExtended = WantsExtensions();
+  if (FExtended) return OpenExtended();
   TQELMailHost::Connect();
   OpenStream(StreamTimeOut);
   FInsideLine = FMailUnderWay = false;
@@ -110,6 +117,7 @@ void TQELSMTPMail::Disconnect() {
 bool TQELSMTPMail::SendMessage(TQELMessage& message) {
   // Neither a closed connection nor a missing sender or recipient is looked for here: the server
   // answers for them.
+  if (FExtended) return SendExtended(message);
   const TLiving living(message);
   message.SetDate(vcl::FormatDateTime(FDateTimeFormat, vcl::Now()));
   const std::unique_ptr<vcl::TStringList> lines = InitializeMessage(message);
@@ -125,7 +133,7 @@ bool TQELSMTPMail::SendMessage(TQELMessage& message) {
   return true;
 }
 
-bool TQELSMTPMail::SendRecipients(const std::string& sendTo) {
+std::vector<std::string> TQELSMTPMail::SplitRecipients(const std::string& sendTo) {
   std::string_view rest = vcl::Trim(sendTo);
   std::vector<std::string> recipients;
   for (std::size_t comma; (comma = rest.find(',')) != rest.npos; rest.remove_prefix(comma + 1)) {
@@ -138,7 +146,11 @@ bool TQELSMTPMail::SendRecipients(const std::string& sendTo) {
                                              std::to_string(MaxRecipients), " recipients, not to ",
                                              std::to_string(recipients.size())));
   }
-  for (const std::string& recipient : recipients) {
+  return recipients;
+}
+
+bool TQELSMTPMail::SendRecipients(const std::string& sendTo) {
+  for (const std::string& recipient : SplitRecipients(sendTo)) {
     if (!Command("RCPT TO:<" + recipient + ">", "250")) return false;
   }
   return true;
@@ -179,6 +191,8 @@ void TQELSMTPMail::DoErr(vcl::TErrorEvent kind) {
 
 void TQELSMTPMail::DoError(vcl::TObject* sender, vcl::TCustomWinSocket*, vcl::TErrorEvent, int&) {
   FError = true;
+  // It is raised, and told then.
+  if (FExtended && sender != this) return;
   FAborted = true;
   Disconnect();
   // Without a reply so far there is no code, and the conversion raises.

@@ -69,6 +69,11 @@ inline void WriteFile(const std::string& name, const std::string& bytes) {
   std::ofstream(name, std::ios::binary) << bytes;
 }
 
+inline std::string ReadFile(const std::string& name) {
+  std::ifstream file(name, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
 #ifndef _WIN32
 /// What another mail reader, Python's, sees in the file: the subject, the sender and the number of
 /// recipients, and each attachment's name and whether it is the same as the file of that name.

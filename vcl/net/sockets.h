@@ -14,12 +14,15 @@ namespace vcl {
 
 namespace os {
 class TSocketHandle;
+class TTlsChannel;
 struct TSocketAddress;
 struct TSocketError;
+enum class TWaitFor;
 }  // namespace os
 
 class TClientSocket;
 class TCustomWinSocket;
+struct TTlsSettings;
 
 /// What the system refused a socket. The message has the system's words and its number.
 class VCL_API ESocketError : public Exception {
@@ -72,6 +75,13 @@ class VCL_API TCustomWinSocket : public TObject {
   /// This machine's name, connected or not.
   static std::string GetLocalHost();
   std::string LocalHost() const { return GetLocalHost(); }
+  /// Secures the open connection, whose bytes are encrypted from then on (TLS, vcl/net/tls.h).
+  /// Raises ETlsError when the peer refuses, takes too long or shows a certificate that is refused;
+  /// the connection is of no use then.
+  void StartTls(const TTlsSettings& settings);
+  /// The protocol that secures the connection, such as "TLSv1.2"; empty while none does.
+  std::string TlsVersion() const;
+
   /// The two ends of the connection, or of the last one: digits and ports, empty and 0 before the
   /// first; and the peer's name, which is looked up.
   std::string LocalAddress() const;
@@ -99,9 +109,14 @@ class VCL_API TCustomWinSocket : public TObject {
   /// One attempt, which does not wait: the number of bytes, or -1 when it would have to.
   int TrySend(const void* buffer, int count);
   int TryReceive(void* buffer, int count);
+  /// Waits at most so many milliseconds, negative ones for ever, until there is something to read,
+  /// the end counted, resp. until there is room to write; false when the time is over.
+  bool WaitFor(os::TWaitFor what, int milliseconds);
 
   TClientSocket* FClient;
   std::shared_ptr<os::TSocketHandle> FHandle;
+  /// Null while nothing secures the connection.
+  std::unique_ptr<os::TTlsChannel> FTls;
   std::unique_ptr<os::TSocketAddress> FLocal, FRemote;
 };
 

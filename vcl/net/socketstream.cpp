@@ -22,7 +22,7 @@ const TClass& TWinSocketStream::Class() {
 }
 
 bool TWinSocketStream::WaitForData(int milliseconds) {
-  return os::WaitForSocket(FSocket->Handle(), os::TWaitFor::Reading, milliseconds);
+  return FSocket->WaitFor(os::TWaitFor::Reading, milliseconds);
 }
 
 std::int64_t TWinSocketStream::Read(void* buffer, std::int64_t count) {
@@ -34,7 +34,7 @@ std::int64_t TWinSocketStream::Read(void* buffer, std::int64_t count) {
 
 std::int64_t TWinSocketStream::Write(const void* buffer, std::int64_t count) {
   if (count <= 0) return 0;
-  os::WaitForSocket(FSocket->Handle(), os::TWaitFor::Writing, FTimeOut);
+  FSocket->WaitFor(os::TWaitFor::Writing, FTimeOut);
   return std::max(FSocket->TrySend(buffer, Portion(count)), 0);
 }
 

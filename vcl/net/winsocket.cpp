@@ -1,7 +1,7 @@
 // TCustomWinSocket: a connection, its two ends, sending and receiving.
 #include <array>
 
-#include "vcl/net/private/socketsystem.h"
+#include "vcl/net/private/tlschannel.h"
 #include "vcl/net/sockets.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
@@ -40,6 +40,7 @@ os::TSocketHandle& TCustomWinSocket::Handle() const {
 }
 
 os::TSocketError TCustomWinSocket::Connect(const std::string& host, const std::string& service) {
+  FTls = nullptr;
   std::vector<os::TSocketAddress> addresses;
   os::TSocketError error = os::LookUp(host, service, addresses);
   for (const os::TSocketAddress& each : addresses) {
@@ -56,6 +57,7 @@ void TCustomWinSocket::Close() {
   // The handler may free this object or raise: the connection ends all the same.
   const auto closing = std::move(FHandle);
   FHandle = nullptr;
+  FTls = nullptr;  // Which takes its leave of the peer.
   if (closing) FClient->OnDisconnect(FClient, this);
 }
 
@@ -87,16 +89,22 @@ std::string TCustomWinSocket::RemoteHost() const { return os::HostNameOf(*FRemot
 
 int TCustomWinSocket::TrySend(const void* buffer, int count) {
   os::TSocketError error;
-  const int done = os::Send(Handle(), buffer, count, error);
+  const int done =
+      FTls ? FTls->Send(buffer, count, error) : os::Send(Handle(), buffer, count, error);
   if (error) Raise("send", error);
   return done;
 }
 
 int TCustomWinSocket::TryReceive(void* buffer, int count) {
   os::TSocketError error;
-  const int done = os::Receive(Handle(), buffer, count, error);
+  const int done =
+      FTls ? FTls->Receive(buffer, count, error) : os::Receive(Handle(), buffer, count, error);
   if (error) Raise("receive", error);
   return done;
+}
+
+bool TCustomWinSocket::WaitFor(os::TWaitFor what, int milliseconds) {
+  return FTls ? FTls->WaitFor(what, milliseconds) : os::WaitForSocket(Handle(), what, milliseconds);
 }
 
 int TCustomWinSocket::SendBuf(const void* buffer, int count) {
@@ -104,7 +112,7 @@ int TCustomWinSocket::SendBuf(const void* buffer, int count) {
   for (int left = count; left > 0;) {
     const int done = TrySend(next, left);
     if (done < 0) {
-      os::WaitForSocket(Handle(), os::TWaitFor::Writing, ForEver);
+      WaitFor(os::TWaitFor::Writing, ForEver);
     } else {
       next += done;
       left -= done;
@@ -120,7 +128,7 @@ int TCustomWinSocket::SendText(std::string_view bytes) {
 int TCustomWinSocket::ReceiveBuf(void* buffer, int count) {
   int done = TryReceive(buffer, count);
   for (; done < 0; done = TryReceive(buffer, count)) {
-    os::WaitForSocket(Handle(), os::TWaitFor::Reading, ForEver);
+    WaitFor(os::TWaitFor::Reading, ForEver);
   }
   return done;
 }
