@@ -39,7 +39,7 @@ enum TQELMailSecurity {
 /// How to log in to the server.
 enum TQELMailAuthMethod {
   amNone,      ///< As the component does by itself: POP3 with USER and PASS, SMTP not at all.
-  amAuto,      ///< The first of what both sides know that the server takes.
+  amAuto,      ///< One that both sides know: first one that does not say the password.
   amPlain,     ///< PLAIN (RFC 4616).
   amLogin,     ///< LOGIN.
   amCramMd5,   ///< CRAM-MD5 (RFC 2195).

@@ -114,9 +114,12 @@ bool TQELPOPMail::LogIn() {
   }
   std::vector<TQELMailAuthMethod> ways = WaysToLogIn(AuthMethod(), offered);
   const bool automatic = AuthMethod() == amAuto;
-  const bool stamped = !StampOf(FGreeting).empty();
-  if (stamped && (automatic || AuthMethod() == amApop)) ways.insert(ways.begin(), amApop);
-  if (automatic && (ways.empty() || HasCapability("USER"))) ways.push_back(amUserPass);
+  if (!StampOf(FGreeting).empty() && (automatic || AuthMethod() == amApop)) {
+    std::erase(ways, amCramMd5);
+    ways.insert(ways.begin(), amApop);
+  }
+  const bool saysPassword = !ways.empty() && (ways.back() == amPlain || ways.back() == amLogin);
+  if (automatic && !saysPassword) ways.push_back(amUserPass);
   if (ways.empty()) {
     throw EQELMailError(
         vcl::Concat("\"", Host(), "\" does not offer the way to log in that is wanted"));

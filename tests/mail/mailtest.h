@@ -69,7 +69,7 @@ inline void WriteFile(const std::string& name, const std::string& bytes) {
   std::ofstream(name, std::ios::binary) << bytes;
 }
 
-inline std::string ReadFile(const std::string& name) {
+inline std::string ReadFile(const std::filesystem::path& name) {
   std::ifstream file(name, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }

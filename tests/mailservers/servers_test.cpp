@@ -23,11 +23,6 @@ std::string Setting(const char* name) {
   return value ? value : "";
 }
 
-std::string ReadFile(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 /// The one file of a folder, once it is there.
 fs::path Delivered(const fs::path& folder) {
   for (int i = 0; i < 200; ++i) {

@@ -9,7 +9,7 @@
 
 namespace qel {
 
-struct TMimeField {
+struct QEL_API TMimeField {
   std::string Value;                              ///< In small letters, without blanks.
   std::map<std::string, std::string> Parameters;  ///< By their names in small letters, in UTF-8.
 

@@ -9,13 +9,6 @@
 #include "vcl/rtl/text.h"
 
 namespace qel {
-namespace {
-
-/// Those that a server is tried with by itself. An access token is no password: XOAUTH2 is not
-/// among them.
-constexpr TQELMailAuthMethod Known[] = {amCramMd5, amPlain, amLogin};
-
-}  // namespace
 
 const char* SaslName(TQELMailAuthMethod method) {
   switch (method) {
@@ -56,14 +49,19 @@ std::string TSaslAttempt::Answer(std::string_view question) {
 
 std::vector<TQELMailAuthMethod> WaysToLogIn(TQELMailAuthMethod wanted,
                                             const std::vector<std::string>& offered) {
-  std::vector<TQELMailAuthMethod> ways;
-  const auto add = [&](TQELMailAuthMethod way) {
-    if (std::ranges::find(offered, SaslName(way)) != offered.end()) ways.push_back(way);
+  const auto has = [&](TQELMailAuthMethod way) {
+    return std::ranges::find(offered, SaslName(way)) != offered.end();
   };
+  std::vector<TQELMailAuthMethod> ways;
   if (wanted != amAuto) {
-    add(wanted);
-  } else {
-    for (const TQELMailAuthMethod way : Known) add(way);
+    if (has(wanted)) ways.push_back(wanted);
+    return ways;
+  }
+  if (has(amCramMd5)) ways.push_back(amCramMd5);
+  for (const TQELMailAuthMethod plain : {amPlain, amLogin}) {
+    if (!has(plain)) continue;
+    ways.push_back(plain);
+    break;
   }
   return ways;
 }

@@ -34,7 +34,10 @@ class TSaslAttempt {
 /// What servers call the way; empty for amNone, amAuto and what is no way of SASL.
 const char* SaslName(TQELMailAuthMethod method);
 /// The ways to be tried, in order, with a server that has those of the names: the wanted one, or
-/// for amAuto all that are known, the safest first.
+/// for amAuto the one that keeps the password to itself and then one that says it, as servers which
+/// keep no passwords refuse the first. Not more: each attempt with a wrong password makes servers
+/// slower, and some lock the user out. An access token is no password, so XOAUTH2 is not among
+/// them.
 std::vector<TQELMailAuthMethod> WaysToLogIn(TQELMailAuthMethod wanted,
                                             const std::vector<std::string>& offered);
 /// Bytes in base64, and back; back, what is damaged ends the text.

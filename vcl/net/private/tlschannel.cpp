@@ -49,6 +49,8 @@ TTlsChannel::TTlsChannel(TSharedSocket socket, const TTlsSettings& settings)
     : FSocket(std::move(socket)), FEngine(NewTlsEngine(settings.HostName)) {
   ShakeHands(settings);
   CheckCertificate(settings);
+  // The peer's first bytes may have come with the end of the handshake.
+  FEnded = !FEngine->Decrypt(FReceived, FPlain, FToSend);
 }
 
 TTlsChannel::~TTlsChannel() {

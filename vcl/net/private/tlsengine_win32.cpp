@@ -56,6 +56,8 @@ class TSchannelEngine : public TTlsEngine {
   std::string Version() const override;
 
  private:
+  unsigned long Protocol() const;
+  void CheckProtocol() const;
   bool AcquireNewest();
   void AcquireOlder();
   SECURITY_STATUS Step(SecBufferDesc* input, std::string& toSend);
@@ -143,10 +145,17 @@ bool TSchannelEngine::ShakeHands(std::string& received, std::string& toSend) {
       const SECURITY_STATUS asked =
           QueryContextAttributesW(&FContext, SECPKG_ATTR_STREAM_SIZES, &FSizes);
       if (asked != SEC_E_OK) Raise(doing, asked);
+      CheckProtocol();
       return FShaken = true;
     }
   }
   return false;
+}
+
+/// Not every system keeps to the protocols that it was asked for.
+void TSchannelEngine::CheckProtocol() const {
+  if ((Protocol() & (SP_PROT_TLS1_2_CLIENT | SP_PROT_TLS1_3_CLIENT)) != 0) return;
+  throw ETlsError(Concat("\"", FHostName, "\" speaks no TLS of version 1.2 or newer"));
 }
 
 TTlsCertificate TSchannelEngine::CheckCertificate() {
@@ -210,12 +219,16 @@ void TSchannelEngine::SayGoodbye(std::string& toSend) {
   if (ApplyControlToken(&FContext, &tokens) == SEC_E_OK) Step(nullptr, toSend);
 }
 
-std::string TSchannelEngine::Version() const {
+unsigned long TSchannelEngine::Protocol() const {
   SecPkgContext_ConnectionInfo information{};
   // The call does not change the context that it asks.
   QueryContextAttributesW(const_cast<CtxtHandle*>(&FContext), SECPKG_ATTR_CONNECTION_INFO,
                           &information);
-  return information.dwProtocol == SP_PROT_TLS1_2_CLIENT ? "TLSv1.2" : "TLSv1.3";
+  return information.dwProtocol;
+}
+
+std::string TSchannelEngine::Version() const {
+  return (Protocol() & SP_PROT_TLS1_3_CLIENT) != 0 ? "TLSv1.3" : "TLSv1.2";
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Putting the test's authority into the user's store and taking it out again.
-#include "tests/tls/authority.h"
+#include "tests/support/authority.h"
 
 #ifdef _WIN32
 
