@@ -5,10 +5,11 @@ object AccountForm: TAccountForm
   BorderIcons = [biSystemMenu]
   BorderStyle = bsDialog
   Caption = 'Account'
-  ClientHeight = 270
-  ClientWidth = 400
+  ClientHeight = 293
+  ClientWidth = 540
   Color = clBtnFace
   Position = poScreenCenter
+  ShowHint = True
   object NameLabel: TLabel
     Left = 16
     Top = 16
@@ -18,9 +19,9 @@ object AccountForm: TAccountForm
     FocusControl = NameEdit
   end
   object NameEdit: TEdit
-    Left = 120
+    Left = 124
     Top = 12
-    Width = 264
+    Width = 400
     Height = 21
     TabOrder = 0
   end
@@ -33,9 +34,9 @@ object AccountForm: TAccountForm
     FocusControl = AddressEdit
   end
   object AddressEdit: TEdit
-    Left = 120
+    Left = 124
     Top = 40
-    Width = 264
+    Width = 400
     Height = 21
     TabOrder = 1
   end
@@ -48,26 +49,40 @@ object AccountForm: TAccountForm
     FocusControl = SmtpHostEdit
   end
   object SmtpHostEdit: TEdit
-    Left = 120
+    Left = 124
     Top = 68
-    Width = 170
+    Width = 160
     Height = 21
     TabOrder = 2
   end
   object SmtpPortLabel: TLabel
-    Left = 298
+    Left = 292
     Top = 72
-    Width = 30
+    Width = 34
     Height = 13
     Caption = 'port'
     FocusControl = SmtpPortEdit
   end
   object SmtpPortEdit: TEdit
-    Left = 330
+    Left = 328
     Top = 68
-    Width = 54
+    Width = 60
     Height = 21
     TabOrder = 3
+  end
+  object SmtpSecurityBox: TComboBox
+    Left = 396
+    Top = 68
+    Width = 128
+    Height = 21
+    Hint = 'How the connection to the server is secured'
+    Style = csDropDownList
+    TabOrder = 4
+    Items.Strings = (
+      'Not secured'
+      'STARTTLS'
+      'TLS')
+    OnChange = SmtpSecurityChange
   end
   object PopLabel: TLabel
     Left = 16
@@ -78,26 +93,40 @@ object AccountForm: TAccountForm
     FocusControl = PopHostEdit
   end
   object PopHostEdit: TEdit
-    Left = 120
+    Left = 124
     Top = 96
-    Width = 170
+    Width = 160
     Height = 21
-    TabOrder = 4
+    TabOrder = 5
   end
   object PopPortLabel: TLabel
-    Left = 298
+    Left = 292
     Top = 100
-    Width = 30
+    Width = 34
     Height = 13
     Caption = 'port'
     FocusControl = PopPortEdit
   end
   object PopPortEdit: TEdit
-    Left = 330
+    Left = 328
     Top = 96
-    Width = 54
+    Width = 60
     Height = 21
-    TabOrder = 5
+    TabOrder = 6
+  end
+  object PopSecurityBox: TComboBox
+    Left = 396
+    Top = 96
+    Width = 128
+    Height = 21
+    Hint = 'How the connection to the server is secured'
+    Style = csDropDownList
+    TabOrder = 7
+    Items.Strings = (
+      'Not secured'
+      'STARTTLS'
+      'TLS')
+    OnChange = PopSecurityChange
   end
   object UserLabel: TLabel
     Left = 16
@@ -108,11 +137,11 @@ object AccountForm: TAccountForm
     FocusControl = UserEdit
   end
   object UserEdit: TEdit
-    Left = 120
+    Left = 124
     Top = 124
-    Width = 264
+    Width = 400
     Height = 21
-    TabOrder = 6
+    TabOrder = 8
   end
   object PasswordLabel: TLabel
     Left = 16
@@ -123,47 +152,55 @@ object AccountForm: TAccountForm
     FocusControl = PasswordEdit
   end
   object PasswordEdit: TEdit
-    Left = 120
+    Left = 124
     Top = 152
-    Width = 264
+    Width = 400
     Height = 21
     PasswordChar = '*'
-    TabOrder = 7
-  end
-  object KeepPasswordBox: TCheckBox
-    Left = 120
-    Top = 180
-    Width = 270
-    Height = 17
-    Caption = '&Keep the password, readable, in the settings'
-    TabOrder = 8
-  end
-  object DeleteBox: TCheckBox
-    Left = 120
-    Top = 202
-    Width = 270
-    Height = 17
-    Caption = '&Delete mails on the server once they are fetched'
     TabOrder = 9
   end
+  object LogInBox: TCheckBox
+    Left = 124
+    Top = 182
+    Width = 400
+    Height = 17
+    Caption = '&Log in for sending, too'
+    TabOrder = 10
+  end
+  object KeepPasswordBox: TCheckBox
+    Left = 124
+    Top = 204
+    Width = 400
+    Height = 17
+    Caption = '&Keep the password, encrypted for you alone'
+    TabOrder = 11
+  end
+  object DeleteBox: TCheckBox
+    Left = 124
+    Top = 226
+    Width = 400
+    Height = 17
+    Caption = '&Delete mails on the server once they are fetched'
+    TabOrder = 12
+  end
   object OkButton: TButton
-    Left = 208
-    Top = 236
+    Left = 348
+    Top = 256
     Width = 84
     Height = 25
     Caption = 'OK'
     Default = True
-    TabOrder = 10
+    TabOrder = 13
     OnClick = OkClick
   end
   object CancelButton: TButton
-    Left = 300
-    Top = 236
+    Left = 440
+    Top = 256
     Width = 84
     Height = 25
     Cancel = True
     Caption = 'Cancel'
     ModalResult = mrCancel
-    TabOrder = 11
+    TabOrder = 14
   end
 end

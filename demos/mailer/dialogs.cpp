@@ -1,7 +1,6 @@
 // The forms for writing a mail and for the account.
 #include "demos/mailer/dialogs.h"
 
-#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/text.h"
 
@@ -52,15 +51,8 @@ void TComposeForm::AttachClick(TObject*) {
   for (int i = 0; i < OpenDialog->Files()->Count(); ++i) AddFile(OpenDialog->Files()->Strings(i));
 }
 
-// All files travel under their names alone.
 void TComposeForm::AddFile(const std::string& fileName) {
-  for (const std::string& other : Draft().Files) {
-    if (!SameText(ExtractFileName(other), ExtractFileName(fileName))) continue;
-    MessageDlg(Concat("There is a file ", ExtractFileName(fileName), " in this mail already."),
-               mtWarning, {mbOK});
-    return;
-  }
-  FileList->Items()->Add(fileName);
+  if (FileList->Items()->IndexOf(fileName) < 0) FileList->Items()->Add(fileName);
 }
 
 void TComposeForm::RemoveClick(TObject* sender) {
@@ -80,20 +72,26 @@ void TComposeForm::SendClick(TObject*) {
 
 const TClass& TAccountForm::Class() {
   using T = TAccountForm;
-  static const TClass info = Describe<T, TForm>("mailer::TAccountForm", "demos/mailer/dialogs.h",
-                                                {
-                                                    Field<&T::NameEdit>("NameEdit"),
-                                                    Field<&T::AddressEdit>("AddressEdit"),
-                                                    Field<&T::SmtpHostEdit>("SmtpHostEdit"),
-                                                    Field<&T::SmtpPortEdit>("SmtpPortEdit"),
-                                                    Field<&T::PopHostEdit>("PopHostEdit"),
-                                                    Field<&T::PopPortEdit>("PopPortEdit"),
-                                                    Field<&T::UserEdit>("UserEdit"),
-                                                    Field<&T::PasswordEdit>("PasswordEdit"),
-                                                    Field<&T::KeepPasswordBox>("KeepPasswordBox"),
-                                                    Field<&T::DeleteBox>("DeleteBox"),
-                                                    Method<&T::OkClick>("OkClick"),
-                                                });
+  static const TClass info =
+      Describe<T, TForm>("mailer::TAccountForm", "demos/mailer/dialogs.h",
+                         {
+                             Field<&T::NameEdit>("NameEdit"),
+                             Field<&T::AddressEdit>("AddressEdit"),
+                             Field<&T::SmtpHostEdit>("SmtpHostEdit"),
+                             Field<&T::SmtpPortEdit>("SmtpPortEdit"),
+                             Field<&T::PopHostEdit>("PopHostEdit"),
+                             Field<&T::PopPortEdit>("PopPortEdit"),
+                             Field<&T::SmtpSecurityBox>("SmtpSecurityBox"),
+                             Field<&T::PopSecurityBox>("PopSecurityBox"),
+                             Field<&T::UserEdit>("UserEdit"),
+                             Field<&T::PasswordEdit>("PasswordEdit"),
+                             Field<&T::LogInBox>("LogInBox"),
+                             Field<&T::KeepPasswordBox>("KeepPasswordBox"),
+                             Field<&T::DeleteBox>("DeleteBox"),
+                             Method<&T::OkClick>("OkClick"),
+                             Method<&T::SmtpSecurityChange>("SmtpSecurityChange"),
+                             Method<&T::PopSecurityChange>("PopSecurityChange"),
+                         });
   return info;
 }
 
@@ -112,6 +110,10 @@ TAccountForm::TAccountForm(TComponent* owner) : TForm(owner) { LoadForm(); }
 
 void TAccountForm::Show(const TAccount& account) {
   for (const TRow& row : Rows) (this->*row.Edit)->SetText(account.*row.Text);
+  SmtpSecurityBox->SetItemIndex(FSmtpSecurity = account.SmtpSecurity);
+  PopSecurityBox->SetItemIndex(FPopSecurity = account.PopSecurity);
+  FCertificates = account.Certificates;
+  LogInBox->SetChecked(account.LogInToSend);
   KeepPasswordBox->SetChecked(account.KeepPassword);
   DeleteBox->SetChecked(account.DeleteOfServer);
 }
@@ -119,9 +121,28 @@ void TAccountForm::Show(const TAccount& account) {
 TAccount TAccountForm::Account() const {
   TAccount account;
   for (const TRow& row : Rows) account.*row.Text = (this->*row.Edit)->Text();
+  account.SmtpSecurity = FSmtpSecurity;
+  account.PopSecurity = FPopSecurity;
+  account.Certificates = FCertificates;
+  account.LogInToSend = LogInBox->Checked();
   account.KeepPassword = KeepPasswordBox->Checked();
   account.DeleteOfServer = DeleteBox->Checked();
   return account;
+}
+
+// The port follows the security as long as it is the usual one.
+void TAccountForm::SmtpSecurityChange(TObject*) {
+  const auto chosen = static_cast<qel::TQELMailSecurity>(SmtpSecurityBox->ItemIndex());
+  if (SmtpPortEdit->Text() == UsualSmtpPort(FSmtpSecurity)) {
+    SmtpPortEdit->SetText(UsualSmtpPort(chosen));
+  }
+  FSmtpSecurity = chosen;
+}
+
+void TAccountForm::PopSecurityChange(TObject*) {
+  const auto chosen = static_cast<qel::TQELMailSecurity>(PopSecurityBox->ItemIndex());
+  if (PopPortEdit->Text() == UsualPopPort(FPopSecurity)) PopPortEdit->SetText(UsualPopPort(chosen));
+  FPopSecurity = chosen;
 }
 
 void TAccountForm::OkClick(TObject*) {

@@ -53,6 +53,8 @@ class TAccountForm : public vcl::TForm {
   };
   static const TRow Rows[];
   void OkClick(vcl::TObject* sender);
+  void SmtpSecurityChange(vcl::TObject* sender);
+  void PopSecurityChange(vcl::TObject* sender);
 
   vcl::TEdit* NameEdit = nullptr;
   vcl::TEdit* AddressEdit = nullptr;
@@ -60,10 +62,16 @@ class TAccountForm : public vcl::TForm {
   vcl::TEdit* SmtpPortEdit = nullptr;
   vcl::TEdit* PopHostEdit = nullptr;
   vcl::TEdit* PopPortEdit = nullptr;
+  vcl::TComboBox* SmtpSecurityBox = nullptr;
+  vcl::TComboBox* PopSecurityBox = nullptr;
   vcl::TEdit* UserEdit = nullptr;
   vcl::TEdit* PasswordEdit = nullptr;
+  vcl::TCheckBox* LogInBox = nullptr;
   vcl::TCheckBox* KeepPasswordBox = nullptr;
   vcl::TCheckBox* DeleteBox = nullptr;
+  /// Those that were chosen before.
+  qel::TQELMailSecurity FSmtpSecurity = qel::msNone, FPopSecurity = qel::msNone;
+  std::string FCertificates;
 };
 
 }  // namespace mailer

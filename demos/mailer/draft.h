@@ -16,9 +16,7 @@ struct TDraft {
   std::vector<std::string> Files;  ///< To be attached, with their folders.
 };
 
-/// Fills a message with the draft, without its files.
+/// Fills a message with the draft. Raises EFOpenError for a file that cannot be read.
 void FillMessage(qel::TQELMessage& message, const TDraft& draft, const TAccount& account);
-/// The time of now as mails have it (RFC 822), in a form for FormatDateTime that keeps it.
-std::string MailDateFormat();
 
 }  // namespace mailer

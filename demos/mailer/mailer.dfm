@@ -216,6 +216,10 @@ object MailerForm: TMailerForm
     Top = 120
   end
   object Sender: TQELSMTPMail
+    Format = mfStandard
+    Timeout = 60000
+    OnCertificate = MailCertificate
+    SkipRefused = True
     OnError = MailError
     OnAfterSend = MailSent
     OnEncodeStart = EncodeStart
@@ -225,6 +229,10 @@ object MailerForm: TMailerForm
     Top = 120
   end
   object Receiver: TQELPOPMail
+    Format = mfStandard
+    Timeout = 60000
+    OnCertificate = MailCertificate
+    SkipBadMessages = True
     OnError = MailError
     BeforeRetrieve = MailBegins
     AfterRetrieve = MailFetched

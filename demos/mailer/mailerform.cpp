@@ -2,6 +2,7 @@
 #include "demos/mailer/mailerform.h"
 
 #include "demos/common/commandline.h"
+#include "demos/mailer/htmltext.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
@@ -39,6 +40,7 @@ const TClass& TMailerForm::Class() {
                                                     Method<&T::AccountExecute>("AccountExecute"),
                                                     Method<&T::AbortExecute>("AbortExecute"),
                                                     Method<&T::MailError>("MailError"),
+                                                    Method<&T::MailCertificate>("MailCertificate"),
                                                     Method<&T::MailProgress>("MailProgress"),
                                                     Method<&T::EncodeStart>("EncodeStart"),
                                                     Method<&T::MailSent>("MailSent"),
@@ -51,6 +53,7 @@ const TClass& TMailerForm::Class() {
 TMailerForm::TMailerForm(TComponent* owner) : TForm(owner) {
   LoadForm();
   ReadAccount(*Settings, FAccount);
+  if (FAccount.SmtpHost.empty() && FAccount.PopHost.empty()) FAccount = NewAccount();
   ShowRunning(false);
 }
 
@@ -93,9 +96,13 @@ void TMailerForm::ShowMail(int index) {
   const qel::TQELMessage& mail = *Mails().GetQELMessage(index);
   MailList->SetItemIndex(index);
   HeaderLabel->SetCaption(Concat("From:  ", Trim(mail.FromName()), " <", mail.FromMail(),
-                                 ">\nTo:  ", mail.SendTo(), "\nDate:  ", mail.Date(),
+                                 ">\nTo:  ", mail.SendTo(), mail.Cc().empty() ? "" : ", ",
+                                 mail.Cc(), "\nDate:  ", mail.Date(),
                                  "\nSubject:  ", mail.Subject()));
-  TextMemo->SetText(mail.Message()->Text());
+  const std::string text = mail.Message()->Text();
+  // What was wrong with it stands before it.
+  const std::string notes = mail.Notes().empty() ? "" : Concat("[", mail.Notes(), "]\r\n\r\n");
+  TextMemo->SetText(notes + (Trim(text).empty() ? HtmlToText(mail.HtmlText()) : text));
   AttachmentList->Items()->Clear();
   for (int i = 0; i < mail.Attachments()->Count(); ++i) {
     AttachmentList->Items()->Add(

@@ -74,6 +74,8 @@ class TMailerForm : public vcl::TForm {
   void AccountExecute(vcl::TObject* sender);
   void AbortExecute(vcl::TObject* sender);
   void MailError(vcl::TObject* sender, int code, const std::string& text);
+  void MailCertificate(vcl::TObject* sender, const std::string& fingerprint,
+                       const std::string& problem, bool& accept);
   void MailProgress(vcl::TObject* sender, std::uint16_t percent);
   void EncodeStart(vcl::TObject* sender, const std::string& fileName, int size);
   void MailSent(vcl::TObject* sender);
@@ -85,11 +87,12 @@ class TMailerForm : public vcl::TForm {
   bool RunSession(qel::TQELMailHost& mail);
   void ShowRunning(bool running);
   [[noreturn]] void RaiseFailure() const;
-  int DropKnown(int known);
+  void SetUp(qel::TQELMailHost& mail, const std::string& host, const std::string& port,
+             qel::TQELMailSecurity security);
 
   TAccount FAccount;
-  std::string FRefusal;  ///< By a server, in the last session.
-  bool FSent = false;    ///< The last session's mail.
+  std::string FRefusals;  ///< By a server, in the last session, a line each.
+  bool FSent = false;     ///< The last session's mail.
 };
 
 }  // namespace mailer

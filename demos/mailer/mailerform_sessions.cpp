@@ -1,11 +1,9 @@
 // Sending and fetching.
 #include "demos/mailer/dialogs.h"
 #include "demos/mailer/mailerform.h"
-#include "demos/mailer/outbox.h"
 #include "vcl/forms/application.h"
 #include "vcl/rtl/convert.h"
 #include "vcl/rtl/exceptions.h"
-#include "vcl/rtl/filenames.h"
 #include "vcl/rtl/text.h"
 
 namespace mailer {
@@ -57,60 +55,58 @@ bool TMailerForm::AskAccount() {
 
 // Sessions.
 
+void TMailerForm::SetUp(qel::TQELMailHost& mail, const std::string& host, const std::string& port,
+                        qel::TQELMailSecurity security) {
+  mail.SetHost(host);
+  mail.SetPort(port);
+  mail.SetSecurity(security);
+  // Whoever has chosen no security lets the password go as it is.
+  mail.SetAllowClearLogin(security == qel::msNone);
+}
+
 void TMailerForm::Send(const TDraft& draft) {
-  const TOutbox outbox(draft.Files);
-  Sender->SetHost(FAccount.SmtpHost);
-  Sender->SetPort(FAccount.SmtpPort);
-  Sender->SetDateTimeFormat(MailDateFormat());
+  SetUp(*Sender, FAccount.SmtpHost, FAccount.SmtpPort, FAccount.SmtpSecurity);
+  Sender->SetAuthMethod(FAccount.LogInToSend ? qel::amAuto : qel::amNone);
+  Sender->SetUsername(FAccount.User);
+  Sender->SetPassword(FAccount.Password);
   Sender->Messages()->Clear();
-  qel::TQELMessage& message = *Sender->Messages()->Add();
-  FillMessage(message, draft, FAccount);
-  for (const std::string& file : draft.Files) message.Attachments()->Add(ExtractFileName(file));
+  FillMessage(*Sender->Messages()->Add(), draft, FAccount);
   Tell("The mail is being sent");
   FSent = false;
   RunSession(*Sender);
   if (!FSent) RaiseFailure();
+  if (!FRefusals.empty()) {
+    MessageDlg(Concat("The mail has been sent, but not to all:\n\n", FRefusals), mtWarning, {mbOK});
+  }
   Tell("The mail has been sent");
 }
 
 int TMailerForm::Fetch() {
-  Receiver->SetHost(FAccount.PopHost);
-  Receiver->SetPort(FAccount.PopPort);
+  SetUp(*Receiver, FAccount.PopHost, FAccount.PopPort, FAccount.PopSecurity);
+  Receiver->SetAuthMethod(qel::amAuto);
   Receiver->SetUsername(FAccount.User);
   Receiver->SetPassword(FAccount.Password);
   Receiver->SetDeleteOfServer(FAccount.DeleteOfServer);
+  // What stays on the server is known again.
+  Receiver->SetKeepOnServer(!FAccount.DeleteOfServer);
   Tell("The mailbox is being opened");
   const int known = Mails().Count();
   const bool done = RunSession(*Receiver);
-  const int fresh = DropKnown(known);
   ListMails();
   if (!done) RaiseFailure();
+  const int fresh = Mails().Count() - known;
   Tell(Concat("New mails: ", IntToStr(fresh)));
   return fresh;
 }
 
-// Mails that are left on the server come again with every session.
-int TMailerForm::DropKnown(int known) {
-  for (int i = Mails().Count() - 1; i >= known; --i) {
-    for (int j = 0; j < known; ++j) {
-      if (Mails().GetQELMessage(i)->Headers()->Text() !=
-          Mails().GetQELMessage(j)->Headers()->Text())
-        continue;
-      Mails().Delete(i);
-      break;
-    }
-  }
-  return Mails().Count() - known;
-}
-
 bool TMailerForm::RunSession(qel::TQELMailHost& mail) {
-  FRefusal.clear();
+  FRefusals.clear();
   ShowRunning(true);
   const bool done = mail.Execute();
   // An error leaves the session half open; the next call clears that up and does nothing else.
   if (mail.Busy()) mail.Execute();
   ShowRunning(false);
-  return done && FRefusal.empty();
+  return done && FRefusals.empty();
 }
 
 // There is one session at a time: to start another would end the one that runs.
@@ -125,14 +121,30 @@ void TMailerForm::ShowRunning(bool running) {
 }
 
 void TMailerForm::RaiseFailure() const {
-  if (FRefusal.empty()) throw EAbort("The session was ended");
-  throw Exception(Concat("The server refuses: ", FRefusal));
+  if (FRefusals.empty()) throw EAbort("The session was ended");
+  throw Exception(Concat("The server refuses:\n\n", FRefusals));
 }
 
 // What the components tell.
 
 void TMailerForm::MailError(TObject*, int code, const std::string& text) {
-  FRefusal = Concat(text, " (", IntToStr(code), ")");
+  FRefusals.append(FRefusals.empty() ? "" : "\n").append(Concat(text, " (", IntToStr(code), ")"));
+}
+
+void TMailerForm::MailCertificate(TObject*, const std::string& fingerprint,
+                                  const std::string& problem, bool& accept) {
+  accept = FAccount.Certificates.find(fingerprint) != std::string::npos;
+  if (accept) return;
+  const std::string question =
+      Concat("The server's certificate is refused: ", problem, ".\n\nIts fingerprint is\n",
+             fingerprint.substr(0, fingerprint.size() / 2), "\n",
+             fingerprint.substr(fingerprint.size() / 2),
+             "\n\nSomebody else may pretend to be the server. Do you know that the certificate is "
+             "its own, and take it from now on?");
+  accept = MessageDlg(question, mtWarning, {mbYes, mbNo}, mbNo) == mrYes;
+  if (!accept) return;
+  FAccount.Certificates.append(FAccount.Certificates.empty() ? "" : ",").append(fingerprint);
+  WriteAccount(*Settings, FAccount);
 }
 
 void TMailerForm::MailProgress(TObject*, std::uint16_t percent) { Gauge->SetPercentage(percent); }

@@ -34,7 +34,7 @@ std::string Setting(const char* name) {
 }
 
 TAccount SampleAccount() {
-  TAccount account;
+  TAccount account = NewAccount();
   account.Name = "Ann Bee";
   account.Address = "ann@example.test";
   account.SmtpHost = account.PopHost = "127.0.0.1";
@@ -78,6 +78,8 @@ void CheckAttachment(const qel::TQELMessage& mail, const std::string& sent) {
 
 void MakeRoundTrip(TMailerForm& form, const TDraft& draft) {
   TAccount account = SampleAccount();
+  account.SmtpSecurity = account.PopSecurity = qel::msNone;
+  account.LogInToSend = false;
   account.SmtpPort = Setting("QEL_SMTP_PORT");
   account.PopPort = Setting("QEL_POP_PORT");
   form.SetAccount(account);

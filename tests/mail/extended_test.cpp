@@ -48,7 +48,7 @@ TEST_F(SendingToday, UsesWhatTheServerHas) {
   const auto commands = Commands();
   ASSERT_EQ(commands.size(), 5u);
   EXPECT_EQ(commands[0], "EHLO");
-  EXPECT_THAT(commands[1], testing::MatchesRegex("MAIL FROM:<ann@a.test> SIZE=[0-9]+"));
+  EXPECT_THAT(commands[1], testing::StartsWith("MAIL FROM:<ann@a.test> SIZE="));
   EXPECT_THAT(commands[2], "RCPT TO:<bob@a.test>");
   EXPECT_THAT(Events, ElementsAre("connect", "before", "after", "disconnect"));
   Mail->SetFormat(qel::mfClassic);
@@ -169,7 +169,7 @@ TEST_F(SendingToday, SaysWhyItCouldNotConnect) {
   Events.clear();
   EXPECT_FALSE(Mail->Execute());
   ASSERT_EQ(Events.size(), 1u);
-  EXPECT_THAT(Events[0], testing::MatchesRegex("error [0-9]+ Cannot connect to \"127.0.0.1\".*"));
+  EXPECT_THAT(Events[0], HasSubstr(" Cannot connect to \"127.0.0.1\""));
   EXPECT_THAT(Application.Errors, IsEmpty());
 }
 
