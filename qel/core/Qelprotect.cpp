@@ -1,9 +1,10 @@
 // Encrypting for the user by the system's data protection.
 #include "qel/core/Qelprotect.h"
 
+#include <charconv>
 #include <vector>
 
-#include "vcl/rtl/exceptions.h"
+#include "qel/core/Qelsecret.h"
 #include "vcl/rtl/systemerrors.h"
 #include "vcl/rtl/win32.h"
 // It needs what stands above.
@@ -28,14 +29,14 @@ DATA_BLOB BlobOf(const void* bytes, std::size_t count) {
   return {static_cast<DWORD>(count), const_cast<BYTE*>(static_cast<const BYTE*>(bytes))};
 }
 
+/// Empty for what is no even number of digits.
 std::vector<BYTE> BytesOf(const std::string& digits) {
   std::vector<BYTE> bytes(digits.size() / 2);
-  DWORD size = static_cast<DWORD>(bytes.size());
-  const bool done =
-      ::CryptStringToBinaryA(digits.c_str(), static_cast<DWORD>(digits.size()), CRYPT_STRING_HEXRAW,
-                             bytes.data(), &size, nullptr, nullptr) != FALSE;
-  bytes.resize(done ? size : 0);
-  return bytes;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const char* const pair = digits.data() + 2 * i;
+    if (std::from_chars(pair, pair + 2, bytes[i], 16).ptr != pair + 2) return {};
+  }
+  return digits.size() % 2 == 0 ? bytes : std::vector<BYTE>();
 }
 
 }  // namespace
@@ -46,7 +47,7 @@ std::string QELProtect(const std::string& text) {
   TBlob secret;
   if (!::CryptProtectData(&plain, L"QEL", nullptr, nullptr, nullptr, CRYPTPROTECT_UI_FORBIDDEN,
                           &secret)) {
-    vcl::RaiseLastOSError();
+    vcl::RaiseLastOSError<EQELSecretError>("The text cannot be encrypted");
   }
   std::string digits;
   for (DWORD i = 0; i < secret.cbData; ++i) {

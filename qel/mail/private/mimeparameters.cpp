@@ -222,7 +222,8 @@ TMimeField ReadMimeField(std::string_view text) {
 std::string MimeParameter(std::string_view name, std::string_view value) {
   const bool plain =
       IsAscii(value) && std::ranges::all_of(value, [](char c) { return c >= ' ' && c < 127; });
-  if (plain && value.size() < MaxColumns) {
+  // What looks like an encoded word would be read as one by many programs, this one among them.
+  if (plain && value.size() < MaxColumns && value.find("=?") == value.npos) {
     return vcl::Concat("; ", name, "=", IsToken(value) ? std::string(value) : Quoted(value));
   }
   const std::string encoded = EncodePercents(value);
