@@ -1,6 +1,7 @@
 // Measuring base64 and the reading of a large mail against other programs.
 #include "bench/mail.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -8,8 +9,12 @@
 #include <stdexcept>
 #include <string>
 
+#include "bench/gmime.h"
+#include "bench/mailsink.h"
 #include "bench/timing.h"
 #include "qel/mail/Qeltiemails.h"
+#include "qel/mail/private/base64.h"
+#include "qel/mail/private/lenientbase64.h"
 
 namespace bench {
 
@@ -62,22 +67,82 @@ std::string LargeMail() {
 
 void ReadMail() {
   const std::string mail = LargeMail();
-  std::ofstream("mail", std::ios::binary) << mail.substr(5, mail.size() - 8);
-  qel::TQELPOPMail receiver(nullptr);
-  const auto ours = [&] {
-    receiver.Messages()->Clear();
-    receiver.ReadMessage(mail);
+  const std::string alone = mail.substr(5, mail.size() - 8);
+  std::ofstream("mail", std::ios::binary) << alone;
+  qel::TQELPOPMail classic(nullptr), standard(nullptr);
+  standard.SetFormat(qel::mfStandard);
+  const auto reading = [&](qel::TQELPOPMail& receiver) {
+    return [&] {
+      receiver.Messages()->Clear();
+      receiver.ReadMessage(mail);
+    };
   };
   const auto python = [] {
     TFiles::Run(
         "/usr/bin/python3 -c 'import email; m = email.message_from_binary_file(open(\"mail\", "
         "\"rb\")); m.get_payload(1).get_payload(decode=True)'");
   };
-  TTable table("A mail of 50 MB with one attachment, against Python's email package",
+  const auto gmime = [&] { ReadWithGMime(alone); };
+  TTable table("A mail of 50 MB with one attachment, against GMime and Python's email package",
                "From the mail in memory to its attachment's bytes; Python's start is measured too. "
-               "Aim: at most 0.1.",
-               {"Python"});
-  table.Add("Reading", {Compare(ours, python)});
+               "Aim: at most 0.8 and 0.1.",
+               {"GMime", "Python"});
+  for (const auto& [name, receiver] :
+       {std::pair{"Classic format", &classic}, {"Standard format", &standard}}) {
+    table.Add(name, {Compare(reading(*receiver), gmime), Compare(reading(*receiver), python)});
+  }
+}
+
+/// Small mails over one session, against curl.
+void SendMany() {
+  constexpr int count = 10000;
+  const TMailSink sink;
+  const std::string port = std::to_string(sink.Port());
+  qel::TQELSMTPMail sender(nullptr);
+  sender.SetHost("127.0.0.1");
+  sender.SetPort(port);
+  sender.SetFormat(qel::mfStandard);
+  std::ofstream("small")
+      << "From: <ann@a.test>\r\nTo: <bob@a.test>\r\nSubject: Small\r\n\r\nHello\r\n";
+  std::ofstream configuration("curl");
+  for (int i = 0; i < count; ++i) {
+    qel::TQELMessage* const message = sender.Messages()->Add();
+    message->SetFromMail("ann@a.test");
+    message->SetSendTo("bob@a.test");
+    message->SetSubject("Small");
+    message->Message()->Add("Hello");
+    configuration << (i > 0 ? "next\n" : "") << "url = smtp://127.0.0.1:" << port
+                  << "\nmail-from = ann@a.test\nmail-rcpt = bob@a.test\nupload-file = small\n";
+  }
+  configuration.close();
+  const auto ours = [&] {
+    const int before = sink.Mails();
+    sender.Execute();
+    if (sink.Mails() != before + count) throw std::runtime_error("Mails are missing");
+  };
+  TTable table(
+      "10,000 small mails over one session, against curl",
+      "To a server that only counts; curl writes no mails, it sends a file. Aim: at most 1.",
+      {"curl"});
+  table.Add("Sending",
+            {CompareLeast(ours, [] { TFiles::Run("curl -s -S -K curl >curl.log 2>&1"); })});
+}
+
+/// Base64 from memory to memory.
+void CodeAgainstGMime() {
+  const std::string bytes(Size, 'x');
+  const std::string letters = EncodedByGMime(bytes);
+  std::string ours((Size + 2) / 3 * 4, '\0');
+  const auto encode = [&] {
+    qel::EncodeBase64(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size(),
+                      ours.data());
+  };
+  TTable table("64 MiB in base64, in memory, against GMime",
+               "GMime's letters have lines, which are skipped when they are read. Aim: at most 1.",
+               {"GMime"});
+  table.Add("Encoding", {Compare(encode, [&] { EncodedByGMime(bytes); })});
+  table.Add("Decoding", {Compare([&] { qel::DecodeLenientBase64(letters); },
+                                 [&] { DecodedByGMime(letters); })});
 }
 
 }  // namespace
@@ -108,7 +173,13 @@ void Mail() {
   table.Add("Decoding",
             {Compare(decode, shell("base64 -d letters >kept")),
              Compare(decode, shell(Python("decodebytes(open(\"letters\",\"rb\").read())")))});
-  ReadMail();
+  if (HasGMime()) {
+    ReadMail();
+    CodeAgainstGMime();
+  } else {
+    std::printf("GMime (libgmime-3.0-0) is missing: mails are not measured against it.\n");
+  }
+  SendMany();
 }
 
 }  // namespace bench

@@ -31,11 +31,11 @@
 #include "qel/services/Qeltversiondetails.h"
 #include "qel/services/Qeltwallpaper.h"
 #include "qel/services/Qeltwaveplayer.h"
+#include "qel/shell/Qeltfileexecute.h"
 #include "qel/shell/Qeltfilelabel.h"
 #include "qel/shell/Qeltfileproperties.h"
 #include "qel/shell/Qelticoncombo.h"
 #include "qel/shell/Qeltlogfile.h"
-#include "qel/shell/Qeltfileexecute.h"
 #include "vcl/controls/control.h"
 
 namespace qel {

@@ -201,13 +201,12 @@ std::string TQELMailHost::ReadChunk(std::size_t most) {
     LetWait();
     CheckTime(since);
   }
-  std::string chunk(most, '\0');
-  const auto size = Stream().Read(chunk.data(), static_cast<std::int64_t>(most));
+  FChunk.resize(std::max(FChunk.size(), most));
+  const auto size = Stream().Read(FChunk.data(), static_cast<std::int64_t>(most));
   if (Stream().AtEnd()) {
     throw vcl::ESocketError(vcl::Concat("\"", FHost, "\" has closed the connection"));
   }
-  chunk.resize(static_cast<std::size_t>(size));
-  return chunk;
+  return {FChunk.data(), static_cast<std::size_t>(size)};
 }
 
 int TQELMailHost::Percent(double part, double whole) { return Round(part * 100 / whole); }

@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "qel/core/Qelcomponent.h"
 #include "qel/mail/Qeltiemails_message.h"
@@ -33,7 +34,7 @@ enum TQELMailSecurity {
   msNone,      ///< Not at all.
   msStartTls,  ///< It begins in clear and is secured before anything is said that matters (RFC
                ///< 3207, RFC 2595). A server that does not offer this is an error.
-  msTls  ///< From its first byte on.
+  msTls        ///< From its first byte on.
 };
 
 /// How to log in to the server.
@@ -225,6 +226,8 @@ class QEL_API TQELMailHost : public TQELExecComponent {
   bool FAllowClearLogin = false;
   int FTimeout = 0;
   std::string FUnread;
+  /// Room for what is received, kept from time to time.
+  std::vector<char> FChunk;
 };
 
 }  // namespace qel

@@ -190,7 +190,7 @@ TQELMessage* TQELPOPMail::RetrieveMessage(std::uint16_t index) {
   if (reply.empty()) return nullptr;
   // What a mail has reached stays for the next: one that comes in one piece behind it has no event.
   if (FRetrievePercent < 100) Fire(OnRetrieveProgress, this, std::uint16_t{100});
-  return Format() == mfStandard ? ReadStandard(std::move(reply)) : ReadMessage(std::move(reply));
+  return ReadMessage(std::move(reply));
 }
 
 std::string TQELPOPMail::FetchRest(std::string reply) {

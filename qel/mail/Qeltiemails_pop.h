@@ -102,7 +102,7 @@ class QEL_API TQELPOPMail : public TQELMailHost {
   /// Adds the message that the text of a whole reply holds: a line of status, the mail, and the
   /// line with the lone dot. Raises EQELMailError and EStringListError for a mail of several parts
   /// that cannot be told apart; what could be read until then stays. Null when an event has deleted
-  /// it.
+  /// it. In the standard format nothing is refused; Notes says what was wrong.
   TQELMessage* ReadMessage(std::string reply);
   /// These decode the attachment's lines. Raise EInvalidOperation when an event deletes it.
   void Base64Decode(TQELAttachment& attachment);

@@ -61,7 +61,7 @@ void TQELPOPMail::OpenExtended() {
 }
 
 std::string TQELPOPMail::ReadReplyLine() {
-  const std::string line = ReadLine() + "\r\n";
+  std::string line = ReadLine() + "\r\n";
   TakeReply(line);
   return line;
 }

@@ -52,8 +52,11 @@ void TakeHeader(std::string_view mail, TQELMessage& message) {
 }  // namespace
 
 TQELMessage* TQELPOPMail::ReadStandard(std::string reply) {
-  const std::string text = WithSingleDots(MailIn(reply));
-  reply = {};
+  const std::string_view received = MailIn(reply);
+  // Most mails have no such dots, and are large.
+  const bool doubled = received.starts_with('.') || received.find("\n.") != received.npos;
+  const std::string single = doubled ? WithSingleDots(received) : std::string();
+  const std::string_view text = doubled ? single : received;
   TReadMail mail = ReadMime(text);
   const TLiving living(*Messages()->Add());
   TakeFields(mail, *living);
@@ -66,8 +69,7 @@ TQELMessage* TQELPOPMail::ReadStandard(std::string reply) {
     // An event may have deleted it.
     const int last = living->Attachments()->Count() - 1;
     if (last < 0 || living->Attachments()->GeTQELAttachment(last) != attachment) continue;
-    attachment->Data()->WriteText(each.Data);
-    each.Data = {};
+    attachment->SetData(std::make_unique<vcl::TStringStream>(std::move(each.Data)));
     Fire(OnDecodeProgress, this, std::uint16_t{100});
     Fire(OnDecodeEnd, this);
   }

@@ -136,6 +136,7 @@ std::unique_ptr<TTextLines> TakeEmbedded(std::string_view line, TLineFilter& tex
 }  // namespace
 
 TQELMessage* TQELPOPMail::ReadMessage(std::string reply) {
+  if (Format() == mfStandard) return ReadStandard(std::move(reply));
   const std::string_view mail = BehindFirstLine(std::string_view(reply).substr(0, LastLine(reply)));
   const TLiving living(*Messages()->Add());
   THeader read = ReadHeader(mail);

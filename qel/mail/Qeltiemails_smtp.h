@@ -126,6 +126,7 @@ class QEL_API TQELSMTPMail : public TQELMailHost {
   void ReadWholeReply(std::string& text);
   /// True when the reply to the line has a code that begins so.
   bool Request(const std::string& command, const char* wanted);
+  bool ReadAnswer(const char* wanted);
   void OpenExtended();
   bool SayHello();
   bool SecureByCommand();
@@ -141,6 +142,8 @@ class QEL_API TQELSMTPMail : public TQELMailHost {
   std::vector<std::string> RecipientsOf(const TQELMessage& message) const;
   std::vector<std::string> EnvelopeOf(const TQELMessage& message, std::string_view mail) const;
   bool SendEnvelope(const TQELMessage& message, std::string_view mail);
+  /// Has the server forget sender and recipients; false.
+  bool ForgetEnvelope();
   bool SendContents(std::string_view mail);
   /// Tells the refusal that was read last, and ends the session unless it is to go on behind it.
   void Refuse();

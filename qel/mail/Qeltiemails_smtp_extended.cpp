@@ -31,7 +31,7 @@ constexpr int MaxQuestions = 10;
 
 /// This machine as servers want it named: a domain, else its address (RFC 5321, 4.1.3).
 std::string HelloName(const vcl::TCustomWinSocket& connection) {
-  const std::string name = vcl::TCustomWinSocket::GetLocalHost();
+  std::string name = vcl::TCustomWinSocket::GetLocalHost();
   const bool domain = !name.empty() && std::ranges::all_of(name, [](char c) {
     return std::isalnum(static_cast<unsigned char>(c)) || c == '-' || c == '.';
   });
@@ -61,6 +61,10 @@ void TQELSMTPMail::ReadWholeReply(std::string& text) {
 
 bool TQELSMTPMail::Request(const std::string& command, const char* wanted) {
   SendSocketText(command + "\r\n");
+  return ReadAnswer(wanted);
+}
+
+bool TQELSMTPMail::ReadAnswer(const char* wanted) {
   std::string text;
   GetSocketText(text);
   FError = !FReplyCode.starts_with(wanted);
@@ -152,7 +156,7 @@ void TQELSMTPMail::RefuseUnsent(const char* code, const std::string& why) {
 bool TQELSMTPMail::SendExtended(TQELMessage& message) {
   if (!Connected()) return false;
   const TLiving living(message);
-  const std::string mail = Compose(message);
+  std::string mail = Compose(message);
   if (mail.empty() || Aborted()) return false;
   DoOnBeforeSend();
   CheckMessage(*living);  // It may be another one by now.
@@ -162,7 +166,8 @@ bool TQELSMTPMail::SendExtended(TQELMessage& message) {
                            " bytes, the server takes at most ", std::to_string(FServer->MaxSize)));
     return false;
   }
-  if (!SendEnvelope(*living, mail) || !SendContents(mail)) return false;
+  // Its end goes with it: for a piece that comes alone the systems on both sides would wait.
+  if (!SendEnvelope(*living, mail) || !SendContents(mail += ".\r\n")) return false;
   DoOnAfterSend();
   return true;
 }
@@ -210,10 +215,7 @@ bool TQELSMTPMail::SendEnvelope(const TQELMessage& message, std::string_view mai
     SendSocketText(group);
     bool sender = true;
     for (std::size_t i = begin; i < end; ++i) {
-      std::string text;
-      GetSocketText(text);
-      FError = !FReplyCode.starts_with('2');
-      taken += FError ? 0 : 1;
+      taken += ReadAnswer("2") ? 1 : 0;
       if (!FError || !sender) continue;
       // To the refusals behind that of the sender nobody listens.
       sender = i > 0;
@@ -221,10 +223,15 @@ bool TQELSMTPMail::SendEnvelope(const TQELMessage& message, std::string_view mai
       Refuse();
       if (!Connected()) return false;
     }
-    if (!sender) return Request("RSET", "250") && false;
+    if (!sender) return ForgetEnvelope();
   }
   // None but the sender: there is nobody to send it to.
-  return taken > 1 || (Request("RSET", "250") && false);
+  return taken > 1 || ForgetEnvelope();
+}
+
+bool TQELSMTPMail::ForgetEnvelope() {
+  Request("RSET", "250");
+  return false;
 }
 
 bool TQELSMTPMail::SendContents(std::string_view mail) {
@@ -243,7 +250,7 @@ bool TQELSMTPMail::SendContents(std::string_view mail) {
       if (StepReached(FLastSendPercent, threshold)) DoSendProgress(FLastSendPercent);
       LetWait();
     }
-    if (Request(".", "250")) return true;
+    if (ReadAnswer("250")) return true;
   }
   Refuse();
   return false;

@@ -102,7 +102,7 @@ std::string TQELSMTPMail::ComposeStandard(TQELMessage& message) {
 
 TWriteAttachment TQELSMTPMail::Encoding(const TQELAttachment& attachment, std::size_t& room) {
   TWriteAttachment written;
-  const std::string name = attachment.FileName();
+  const std::string& name = attachment.FileName();
   written.Name = vcl::ExtractFileName(name);
   written.Type =
       attachment.MimeType().empty() ? TQELAttachments::GetMimeType(name) : attachment.MimeType();

@@ -252,7 +252,8 @@ void TQELTextFileView::Scroll(vcl::TMessage& message, int bar) {
       case SB_TOP: return GoTo(FContents->Text.Begin(), 0);
       case SB_BOTTOM: return ScrollToEnd();
       case SB_THUMBTRACK: {
-        const double part = static_cast<double>(info.nTrackPos) / (Ticks - Ticks / 50);
+        constexpr int range = Ticks - Ticks / 50;
+        const double part = static_cast<double>(info.nTrackPos) / range;
         if (part >= 1) return ScrollToEnd();
         const auto place = static_cast<TPlace>(part * static_cast<double>(FContents->Text.Size()));
         return GoTo(FContents->Text.BeginOf(place), 0);

@@ -1,8 +1,11 @@
 // The file operator on real trees.
 #include "qel/shell/Qeltfileoperator.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <random>
 #include <sstream>
 
 #include "tests/shell/link.h"
@@ -279,6 +282,63 @@ TEST_F(FileOperator, MayBeFreedByItsEvent) {
   };
   EXPECT_FALSE(other->Execute());
   EXPECT_EQ(other, nullptr);
+}
+
+/// Ends the program that moves or copies at a random moment, again and again, and looks at what is
+/// there then. QEL_KILLS says how often.
+class EndedInTheMiddle : public FileOperator {
+ protected:
+  static constexpr std::size_t Size = 300000;
+  static constexpr int Count = 12;
+
+  EndedInTheMiddle() {
+    for (int i = 0; i < Count; ++i) Write("one/" + Number(i), Whole('a'));
+    fs::create_directory(Folder.Path / "two");
+  }
+  static std::string Number(int i) { return std::to_string(i) + ".txt"; }
+  static std::string Whole(char letter) { return std::string(Size, letter); }
+  /// Of one letter, as it was written.
+  static bool IsWhole(const std::string& text) { return text == Whole(text.front()); }
+
+  void EndAgainAndAgain(const std::wstring& role, const std::function<void()>& check) {
+    const char* const wanted = std::getenv("QEL_KILLS");
+    const int times = wanted ? std::atoi(wanted) : 8;
+    std::minstd_rand random(7);
+    for (int i = 0; i < times && !HasFailure(); ++i) {
+      fs::remove(Folder.Path / "begun");
+      testing_support::TProgram program(
+          L"test_shell",
+          role + L" \"" + vcl::ToUtf16(Name("one")) + L"\" \"" + vcl::ToUtf16(Name("two")) + L"\"");
+      for (int wait = 0; wait < 1000 && !There("begun"); ++wait) ::Sleep(10);
+      ASSERT_TRUE(There("begun"));
+      ::Sleep(random() % 250);
+      program.End();
+      check();
+    }
+  }
+};
+
+TEST_F(EndedInTheMiddle, AMoveLosesNoFile) {
+  EndAgainAndAgain(L"--move", [this] {
+    for (int i = 0; i < Count; ++i) {
+      const std::string here = Read("one/" + Number(i)), there = Read("two/" + Number(i));
+      EXPECT_TRUE(here == Whole('a') || there == Whole('a')) << i;
+      EXPECT_TRUE(here == Whole('a') || here == "none") << i << " is torn";
+      EXPECT_TRUE(there == Whole('a') || there == "none") << i << " is torn";
+    }
+  });
+}
+
+TEST_F(EndedInTheMiddle, ACopyLeavesTheOldFileOrTheNewOne) {
+  for (int i = 0; i < Count; ++i) Write("two/" + Number(i), Whole('a'));
+  EndAgainAndAgain(L"--copy", [this] {
+    for (int i = 0; i < Count; ++i) {
+      const std::string there = Read("two/" + Number(i));
+      EXPECT_TRUE(there.size() == Size && IsWhole(there)) << i << ", " << there.size() << " bytes";
+      // The program itself may have been about to write its source.
+      Write("one/" + Number(i), Whole('a'));
+    }
+  });
 }
 
 }  // namespace

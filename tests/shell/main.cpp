@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "tests/shell/logprogram.h"
+#include "tests/shell/transferprogram.h"
 #include "vcl/rtl/utf16.h"
 #include "vcl/rtl/win32.h"
 // It needs what stands above.
@@ -67,6 +68,8 @@ int main(int argc, char** argv) {
     return RunLogProgram(
         {argv[2], std::stoi(argv[3]), std::stoi(argv[4]), std::stoi(argv[5]), argv[6][0], argv[7]});
   }
+  if (argc == 4 && std::strcmp(argv[1], "--move") == 0) MoveForEver(argv[2], argv[3]);
+  if (argc == 4 && std::strcmp(argv[1], "--copy") == 0) CopyForEver(argv[2], argv[3]);
   if (argc >= 3 && std::strcmp(argv[1], "--child") == 0) return Play(argv[2]);
   testing::InitGoogleMock(&argc, argv);
   return RUN_ALL_TESTS();

@@ -115,7 +115,7 @@ std::size_t CutAt(std::string_view line, std::size_t beginning) {
   const std::size_t wanted = line.find_last_of(" \t", MaxColumns);
   if (wanted != line.npos && wanted > beginning) return wanted;
   const std::size_t next = line.find_first_of(" \t", std::max(MaxColumns, beginning + 1));
-  if (next != line.npos && next <= MaxLine) return next;
+  if (next <= MaxLine) return next;
   return line.size() > MaxLine ? MaxLine : line.npos;
 }
 

@@ -16,7 +16,7 @@ using folders::TEntry;
 /// A full name, exactly as it is: the system takes dots and blanks from the ends of others, and so
 /// might touch another file.
 std::wstring Exact(const std::string& path) {
-  const std::wstring wide = vcl::ToUtf16(path);
+  std::wstring wide = vcl::ToUtf16(path);
   if (wide.starts_with(L"\\\\?\\")) return wide;
   return wide.starts_with(L"\\\\") ? L"\\\\?\\UNC" + wide.substr(1) : L"\\\\?\\" + wide;
 }
@@ -75,7 +75,7 @@ std::string FreeName(const std::string& path) {
   const std::string extension = vcl::ExtractFileExt(path);
   const std::string start = path.substr(0, path.size() - extension.size());
   for (int number = 2;; ++number) {
-    const std::string name = vcl::Concat(start, " (", std::to_string(number), ")", extension);
+    std::string name = vcl::Concat(start, " (", std::to_string(number), ")", extension);
     if (!IsThere(name)) return name;
   }
 }

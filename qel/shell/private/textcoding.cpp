@@ -60,7 +60,7 @@ std::u32string DecodeUtf16(std::string_view bytes, bool big) {
     units += static_cast<char16_t>(big ? one << 8 | two : two << 8 | one);
   }
   std::u32string text = FromUtf16(units);
-  if (bytes.size() % 2 == 1) text += Stray + Byte(bytes.back());
+  if (bytes.size() % 2 == 1) text += static_cast<char32_t>(Stray + Byte(bytes.back()));
   return text;
 }
 
