@@ -269,7 +269,7 @@ object FilesForm: TFilesForm
       Top = 8
       Width = 52
       Height = 13
-      Caption = 'Comman&d'
+      Caption = 'Comman&d:'
       FocusControl = CommandEdit
     end
     object CommandEdit: TEdit

@@ -1,6 +1,8 @@
 // TFilesForm: its fields, and the two sides.
 #include "demos/files/filesform.h"
 
+#include <utility>
+
 #include "qel/core/Qelsystemfacts.h"
 #include "vcl/rtl/filenames.h"
 #include "vcl/rtl/properties.h"
@@ -53,6 +55,7 @@ TFilesForm::TFilesForm(TComponent* owner) : TForm(owner) {
   LoadForm();
   FActive = LeftPane;
   FFormerWidth = ClientWidth();
+  FFormerPixels = PixelsPerInch();
   for (TPane* pane : {LeftPane, RightPane}) {
     pane->OnActive = [this](TPane& active) { FActive = &active; };
     pane->OnOpen = [this](const std::string& path) { OpenFile(path); };
@@ -70,7 +73,9 @@ void TFilesForm::FormShow(TObject*) { LeftPane->View->SetFocus(); }
 
 /// Both sides stay in their relation.
 void TFilesForm::FormResize(TObject*) {
-  if (FFormerWidth > 0) {
+  // With the dots per inch the panes grow by themselves.
+  const bool scaled = std::exchange(FFormerPixels, PixelsPerInch()) != PixelsPerInch();
+  if (FFormerWidth > 0 && !scaled) {
     LeftPane->SetWidth(
         static_cast<int>(std::int64_t{LeftPane->Width()} * ClientWidth() / FFormerWidth));
   }

@@ -70,7 +70,7 @@ class TFilesForm : public vcl::TForm {
   void OpenFile(const std::string& path);
 
   TPane* FActive = nullptr;
-  int FFormerWidth = 0;
+  int FFormerWidth = 0, FFormerPixels = 0;
 };
 
 }  // namespace files
