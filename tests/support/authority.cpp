@@ -20,9 +20,10 @@ std::vector<unsigned char> ReadAuthority() {
   std::ifstream file(std::string(std::getenv("QEL_TLS_FOLDER")) + "/ca.pem");
   const std::string text{std::istreambuf_iterator<char>(file), {}};
   std::vector<unsigned char> bytes(text.size());
-  DWORD size = bytes.size();
-  EXPECT_TRUE(::CryptStringToBinaryA(text.c_str(), text.size(), CRYPT_STRING_BASE64HEADER,
-                                     bytes.data(), &size, nullptr, nullptr));
+  auto size = static_cast<DWORD>(bytes.size());
+  EXPECT_TRUE(::CryptStringToBinaryA(text.c_str(), static_cast<DWORD>(text.size()),
+                                     CRYPT_STRING_BASE64HEADER, bytes.data(), &size, nullptr,
+                                     nullptr));
   bytes.resize(size);
   return bytes;
 }
@@ -31,7 +32,8 @@ std::vector<unsigned char> ReadAuthority() {
 std::wstring Thumbprint(const std::vector<unsigned char>& certificate) {
   unsigned char digest[20];
   DWORD size = sizeof digest;
-  ::CryptHashCertificate(0, CALG_SHA1, 0, certificate.data(), certificate.size(), digest, &size);
+  ::CryptHashCertificate(0, CALG_SHA1, 0, certificate.data(),
+                         static_cast<DWORD>(certificate.size()), digest, &size);
   std::wstring text;
   for (const unsigned char byte : digest) {
     text += L"0123456789ABCDEF"[byte >> 4];
