@@ -49,8 +49,8 @@ TTrustedAuthority::TTrustedAuthority() {
   HCERTSTORE store =
       ::CertOpenStore(CERT_STORE_PROV_SYSTEM_W, 0, 0, CERT_SYSTEM_STORE_CURRENT_USER, L"Root");
   EXPECT_TRUE(::CertAddEncodedCertificateToStore(store, X509_ASN_ENCODING, certificate.data(),
-                                                 certificate.size(), CERT_STORE_ADD_ALWAYS,
-                                                 nullptr));
+                                                 static_cast<DWORD>(certificate.size()),
+                                                 CERT_STORE_ADD_ALWAYS, nullptr));
   ::CertControlStore(store, 0, CERT_STORE_CTRL_COMMIT, nullptr);
   ::CertCloseStore(store, 0);
 }
