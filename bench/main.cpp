@@ -3,12 +3,14 @@
 // are measured.
 #include <algorithm>
 #include <cstdio>
+#include <exception>
 #include <string_view>
 #include <vector>
 
 #include "bench/backgrounds.h"
 #include "bench/dates.h"
 #include "bench/fields.h"
+#include "bench/files.h"
 #include "bench/forms.h"
 #include "bench/gauge.h"
 #include "bench/grids.h"
@@ -37,6 +39,15 @@ constexpr TGroup Groups[] = {{"backgrounds", bench::Backgrounds},
 
 int main(int count, char** arguments) {
   ::SetConsoleOutputCP(CP_UTF8);
+  if (count == 4 && arguments[1] == std::string_view("--files")) {
+    try {
+      std::printf("%.3f\n", bench::DoFilesJob(arguments[2], arguments[3]));
+      return 0;
+    } catch (const std::exception& error) {
+      std::fprintf(stderr, "%s\n", error.what());
+      return 1;
+    }
+  }
   const std::vector<std::string_view> wanted(arguments + 1, arguments + count);
   for (const std::string_view name : wanted) {
     if (std::ranges::count(Groups, name, &TGroup::Name) > 0) continue;

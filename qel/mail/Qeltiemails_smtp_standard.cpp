@@ -50,6 +50,9 @@ std::vector<std::string> TQELSMTPMail::RecipientsOf(const TQELMessage& message) 
 }
 
 void TQELSMTPMail::CheckAddresses(const TQELMessage& message) const {
+  if (message.FromMail().empty()) {
+    throw EQELMailError(vcl::Concat("The mail \"", message.Subject(), "\" has no sender"));
+  }
   std::vector<std::string> addresses = RecipientsOf(message);
   if (addresses.empty()) {
     throw EQELMailError(vcl::Concat("The mail \"", message.Subject(), "\" has no recipient"));

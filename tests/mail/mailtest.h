@@ -2,6 +2,8 @@
 // folder for files.
 #pragma once
 
+#include <unistd.h>
+
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -39,9 +41,9 @@ class TTestApplication : public vcl::TCustomApplication {
 /// A folder that is the current one and goes with all its files.
 class TWorkFolder {
  public:
-  explicit TWorkFolder(const char* name)
+  explicit TWorkFolder(const std::string& name)
       : FBefore(std::filesystem::current_path()),
-        FPath(std::filesystem::temp_directory_path() / name) {
+        FPath(std::filesystem::temp_directory_path() / (name + std::to_string(::getpid()))) {
     std::filesystem::remove_all(FPath);
     std::filesystem::create_directories(FPath);
     std::filesystem::current_path(FPath);

@@ -102,9 +102,7 @@ std::string EncodeQ(std::string_view bytes, bool inPhrase) {
     } else if (StandsForItself(c, inPhrase)) {
       letters += c;
     } else {
-      constexpr const char* digits = "0123456789ABCDEF";
-      const auto byte = static_cast<unsigned char>(c);
-      letters.append({'=', digits[byte >> 4], digits[byte & 15]});
+      AppendHex('=', c, letters);
     }
   }
   return letters;

@@ -180,14 +180,12 @@ bool IsAttributeCharacter(char c) {
 }
 
 std::string EncodePercents(std::string_view value) {
-  constexpr const char* digits = "0123456789ABCDEF";
   std::string text;
   for (const char c : value) {
-    const auto byte = static_cast<unsigned char>(c);
     if (IsAttributeCharacter(c)) {
       text += c;
     } else {
-      text.append({'%', digits[byte >> 4], digits[byte & 15]});
+      AppendHex('%', c, text);
     }
   }
   return text;

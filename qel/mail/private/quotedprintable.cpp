@@ -5,7 +5,6 @@ namespace qel {
 namespace {
 
 constexpr std::size_t MaxLine = 76;
-constexpr const char* Digits = "0123456789ABCDEF";
 
 /// Appends a line without the blanks at its end, decoded; false when its end is not the text's.
 bool AppendDecoded(std::string_view line, std::string& text) {
@@ -39,6 +38,12 @@ int HexValue(char digit) {
   return -1;
 }
 
+void AppendHex(char mark, char byte, std::string& text) {
+  constexpr const char* digits = "0123456789ABCDEF";
+  const auto value = static_cast<unsigned char>(byte);
+  text.append({mark, digits[value >> 4], digits[value & 15]});
+}
+
 std::string DecodeQuotedPrintable(std::string_view text) {
   std::string decoded;
   decoded.reserve(text.size());
@@ -63,10 +68,11 @@ void EncodeQuotedPrintableLine(std::string_view line,
     const bool last = i + 1 == line.size();
     const bool begins = i == 0 && (line == "." || line.starts_with("From "));
     const bool blankAtEnd = last && (c == ' ' || c == '\t');
-    std::string letters(1, c);
+    std::string letters;
     if (!IsPlain(c) || begins || blankAtEnd) {
-      const auto byte = static_cast<unsigned char>(c);
-      letters = {'=', Digits[byte >> 4], Digits[byte & 15]};
+      AppendHex('=', c, letters);
+    } else {
+      letters = c;
     }
     // Room for the mark that the line goes on.
     if (encoded.size() + letters.size() + (last ? 0 : 1) > MaxLine) {

@@ -21,5 +21,7 @@ QEL_API void EncodeQuotedPrintableLine(std::string_view line,
 
 /// The value of a hexadecimal digit, small or capital; -1 for another character.
 int HexValue(char digit);
+/// Appends a byte as two capital hexadecimal digits behind a mark.
+void AppendHex(char mark, char byte, std::string& text);
 
 }  // namespace qel

@@ -2,6 +2,7 @@
 #include "qel/shell/private/textdocument.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "qel/shell/private/regularexpression.h"
 #include "vcl/rtl/exceptions.h"
@@ -246,15 +247,23 @@ std::optional<std::uint64_t> TTextDocument::Find(const std::string& text, bool m
   std::string wanted = Encoded(text);
   if (!matchCase) small(wanted);
   if (wanted.empty()) return {};
+  // Skips what cannot be it: several times faster than a look at each byte.
+  const std::boyer_moore_horspool_searcher searcher(wanted.begin(), wanted.end());
+  const auto behind = [&](const std::string& bytes, std::size_t at) {
+    const auto found =
+        std::search(bytes.begin() + static_cast<std::ptrdiff_t>(at), bytes.end(), searcher);
+    return found == bytes.end() ? std::string::npos
+                                : static_cast<std::size_t>(found - bytes.begin());
+  };
   const auto inPortion = [&](std::uint64_t begin,
                              std::uint64_t end) -> std::optional<std::uint64_t> {
     std::string bytes = FBytes.Read(begin, static_cast<std::size_t>(end - begin));
     if (!matchCase) small(bytes);
-    std::size_t at = backwards ? bytes.rfind(wanted) : bytes.find(wanted);
+    std::size_t at = backwards ? bytes.rfind(wanted) : behind(bytes, 0);
     // A character does not begin in the middle of another one.
     while (at != std::string::npos && Unit() == 2 && (begin + at - FBegin) % 2 == 1) {
       if (backwards && at == 0) return {};
-      at = backwards ? bytes.rfind(wanted, at - 1) : bytes.find(wanted, at + 1);
+      at = backwards ? bytes.rfind(wanted, at - 1) : behind(bytes, at + 1);
     }
     if (at == std::string::npos) return {};
     return begin + at;
