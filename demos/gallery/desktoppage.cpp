@@ -20,6 +20,7 @@ const TClass& TDesktopPage::Class() {
                               Field<&T::Paper>("Paper"),
                               Field<&T::Ending>("Ending"),
                               Field<&T::Drives>("Drives"),
+                              Field<&T::Aborts>("Aborts"),
                               Field<&T::Events>("Events"),
                               Field<&T::PaperDialog>("PaperDialog"),
                               Field<&T::History>("History"),
@@ -39,6 +40,7 @@ const TClass& TDesktopPage::Class() {
                               Method<&T::SaverStart>("SaverStart"),
                               Method<&T::SaverStop>("SaverStop"),
                               Method<&T::DriveInsert>("DriveInsert"),
+                              Method<&T::AbortsIllegalAbort>("AbortsIllegalAbort"),
                               Method<&T::DriveRemove>("DriveRemove"),
                               Method<&T::EventsActivate>("EventsActivate"),
                               Method<&T::EventsDeactivate>("EventsDeactivate"),
@@ -171,6 +173,12 @@ void TDesktopPage::TrayClick(TObject*) {
 
 void TDesktopPage::SaverStart(TObject*) { Tell("The screen saver has come"); }
 void TDesktopPage::SaverStop(TObject*) { Tell("The screen saver has gone"); }
+// It tells while the page is read, of a start that was killed or has crashed.
+void TDesktopPage::AbortsIllegalAbort(TObject*, TDateTime started, int process) {
+  Tell(Concat("The gallery of ", DateTimeToStr(started), ", process ", IntToStr(process),
+              ", was not ended properly"));
+}
+
 void TDesktopPage::DriveInsert(TObject*, char drive) {
   Tell(Concat("In drive ", std::string(1, drive), " there is something"));
 }

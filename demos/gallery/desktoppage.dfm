@@ -60,6 +60,14 @@ object DesktopPage: TDesktopPage
     OnDisplayChange = EventsDisplayChange
     OnSettingsChange = EventsSettingsChange
   end
+  object Aborts: TQELIllegalAbort
+    Left = 608
+    Top = 540
+    AbortStore.Enabled = True
+    AbortStore.Registry.Path = 'Software\QELGallery'
+    AbortStore.Registry.Section = 'Runs'
+    OnIllegalAbort = AbortsIllegalAbort
+  end
   object PaperDialog: TOpenDialog
     Left = 640
     Top = 540

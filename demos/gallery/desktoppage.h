@@ -28,6 +28,7 @@ class TDesktopPage : public vcl::TFrame {
   qel::TQELExitWindows* Ending = nullptr;
   qel::TQELCDTriggers* Drives = nullptr;
   qel::TQELApplication* Events = nullptr;
+  qel::TQELIllegalAbort* Aborts = nullptr;
   vcl::TOpenDialog* PaperDialog = nullptr;
   vcl::TListBox* History = nullptr;
   vcl::TImage* Shot = nullptr;
@@ -48,6 +49,7 @@ class TDesktopPage : public vcl::TFrame {
   void SaverStop(vcl::TObject*);
   void DriveInsert(vcl::TObject*, char drive);
   void DriveRemove(vcl::TObject*, char drive);
+  void AbortsIllegalAbort(vcl::TObject*, vcl::TDateTime started, int process);
   void EventsActivate(vcl::TObject*);
   void EventsDeactivate(vcl::TObject*);
   void EventsDisplayChange(vcl::TObject*);
