@@ -15,6 +15,8 @@ const TClass& TComposeForm::Class() {
   static const TClass info = Describe<T, TForm>("mailer::TComposeForm", "demos/mailer/dialogs.h",
                                                 {
                                                     Field<&T::ToEdit>("ToEdit"),
+                                                    Field<&T::CcEdit>("CcEdit"),
+                                                    Field<&T::BccEdit>("BccEdit"),
                                                     Field<&T::SubjectEdit>("SubjectEdit"),
                                                     Field<&T::TextMemo>("TextMemo"),
                                                     Field<&T::FileList>("FileList"),
@@ -32,6 +34,8 @@ TComposeForm::TComposeForm(TComponent* owner) : TForm(owner) { LoadForm(); }
 
 void TComposeForm::Show(const TDraft& draft) {
   ToEdit->SetText(draft.To);
+  CcEdit->SetText(draft.Cc);
+  BccEdit->SetText(draft.Bcc);
   SubjectEdit->SetText(draft.Subject);
   TextMemo->SetText(draft.Text);
   FileList->Items()->Clear();
@@ -39,7 +43,8 @@ void TComposeForm::Show(const TDraft& draft) {
 }
 
 TDraft TComposeForm::Draft() const {
-  TDraft draft{ToEdit->Text(), SubjectEdit->Text(), TextMemo->Text(), {}};
+  TDraft draft{ToEdit->Text(), SubjectEdit->Text(), TextMemo->Text(), {},
+               CcEdit->Text(), BccEdit->Text()};
   for (int i = 0; i < FileList->Items()->Count(); ++i) {
     draft.Files.push_back(FileList->Items()->Strings(i));
   }

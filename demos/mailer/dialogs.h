@@ -28,6 +28,8 @@ class TComposeForm : public vcl::TForm {
   void AddFile(const std::string& fileName);
 
   vcl::TEdit* ToEdit = nullptr;
+  vcl::TEdit* CcEdit = nullptr;
+  vcl::TEdit* BccEdit = nullptr;
   vcl::TEdit* SubjectEdit = nullptr;
   vcl::TMemo* TextMemo = nullptr;
   vcl::TListBox* FileList = nullptr;

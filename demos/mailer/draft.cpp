@@ -10,6 +10,8 @@ void FillMessage(qel::TQELMessage& message, const TDraft& draft, const TAccount&
   message.SetFromName(account.Name);
   message.SetFromMail(account.Address);
   message.SetSendTo(draft.To);
+  message.SetCc(draft.Cc);
+  message.SetBcc(draft.Bcc);
   message.SetSubject(draft.Subject);
   message.Message()->SetText(draft.Text);
   for (const std::string& file : draft.Files) {

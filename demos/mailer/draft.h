@@ -14,6 +14,7 @@ struct TDraft {
   std::string Subject;
   std::string Text;
   std::vector<std::string> Files;  ///< To be attached, with their folders.
+  std::string Cc = {}, Bcc = {};   ///< As To; nobody sees Bcc.
 };
 
 /// Fills a message with the draft. Raises EFOpenError for a file that cannot be read.

@@ -116,6 +116,8 @@ TEST_F(Mailer, SendsAndFetchesOverTls) {
   Account.LogInToSend = true;
   Draft.Subject = "Grüße";
   Draft.Text = "Größe\r\n";
+  Draft.Cc = "Carl <bob@example.test>";
+  Draft.Bcc = "bob@example.test";
   Draft.Files = {NewFile("grün.bin", contents[0]), NewFile("GRÜN.bin", contents[1])};
   ForUser("bob");
   Form.Send(Draft);
@@ -123,6 +125,7 @@ TEST_F(Mailer, SendsAndFetchesOverTls) {
   const qel::TQELMessage& mail = *Form.Mails().GetQELMessage(0);
   EXPECT_EQ(mail.Subject(), "Grüße");
   EXPECT_EQ(mail.FromName(), "Änn Größe");
+  EXPECT_EQ(mail.Cc(), "Carl <bob@example.test>");
   EXPECT_EQ(mail.Message()->Text(), "Größe\r\n");
   ASSERT_EQ(mail.Attachments()->Count(), 2);
   EXPECT_EQ(mail.Attachments()->GeTQELAttachment(0)->FileName(), "grün.bin");
