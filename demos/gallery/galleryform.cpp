@@ -6,6 +6,7 @@
 #include "demos/gallery/dialogspage.h"
 #include "demos/gallery/editingpage.h"
 #include "demos/gallery/fieldspage.h"
+#include "demos/gallery/filespage.h"
 #include "demos/gallery/listspage.h"
 #include "demos/gallery/movingpage.h"
 #include "demos/gallery/picklistspage.h"
@@ -107,6 +108,7 @@ TGalleryForm::TGalleryForm(TComponent* owner) : TForm(owner) {
   AddPage<TDialogsPage>("Dialogs");
   AddPage<TSystemPage>("System");
   AddPage<TDesktopPage>("Desktop");
+  AddPage<TFilesPage>("Files");
   Application()->OnHint = [this](TObject*) { ShowStatus(Application()->Hint()); };
 }
 

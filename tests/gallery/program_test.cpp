@@ -72,7 +72,7 @@ TEST_F(Screenshots, AreOnePngAPageAndTheirNamesArePrinted) {
                          "spin-edits.png", "explorer.png",   "hints.png",       "choices.png",
                          "moving.png",     "pick-lists.png", "standard.png",    "lists.png",
                          "editing.png",    "fields.png",     "dialogs.png",     "system.png",
-                         "desktop.png"};
+                         "desktop.png",    "files.png"};
   ASSERT_EQ(Files.size(), std::size(names));
   EXPECT_FALSE(TPicture(Files[0]) == TPicture(Files[1]) ||
                TPicture(Files[1]) == TPicture(Files[2]));

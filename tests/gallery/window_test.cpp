@@ -283,7 +283,11 @@ TEST_F(Gallery, ThePopupMenuChangesItsButton) {
 }
 
 TEST_F(Gallery, ThePageOfServicesTells) {
-  TTabSheet* const sheet = Form.Pages->Pages(Form.Pages->PageCount() - 2);
+  TTabSheet* sheet = nullptr;
+  for (int i = 0; i < Form.Pages->PageCount(); ++i) {
+    if (Form.Pages->Pages(i)->Caption() == "System") sheet = Form.Pages->Pages(i);
+  }
+  ASSERT_TRUE(sheet);
   Form.Pages->SetActivePage(sheet);
   const auto* frame = sheet->Controls(0);
   const auto part = [&](const char* name) { return frame->FindComponent(name); };
