@@ -315,6 +315,7 @@ object FilesForm: TFilesForm
     Height = 536
     Align = alLeft
     MinSize = 200
+    OnMoved = MiddleMoved
   end
   inline RightPane: TPane
     Left = 502

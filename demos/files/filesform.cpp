@@ -47,6 +47,7 @@ const TClass& TFilesForm::Class() {
                              Method<&T::WorkError>("WorkError"),
                              Method<&T::FormResize>("FormResize"),
                              Method<&T::FormShow>("FormShow"),
+                             Method<&T::MiddleMoved>("MiddleMoved"),
                          });
   return info;
 }
@@ -54,8 +55,7 @@ const TClass& TFilesForm::Class() {
 TFilesForm::TFilesForm(TComponent* owner) : TForm(owner) {
   LoadForm();
   FActive = LeftPane;
-  FFormerWidth = ClientWidth();
-  FFormerPixels = PixelsPerInch();
+  MiddleMoved(this);
   for (TPane* pane : {LeftPane, RightPane}) {
     pane->OnActive = [this](TPane& active) { FActive = &active; };
     pane->OnOpen = [this](const std::string& path) { OpenFile(path); };
@@ -71,15 +71,13 @@ void TFilesForm::Open(const std::string& left, const std::string& right) {
 
 void TFilesForm::FormShow(TObject*) { LeftPane->View->SetFocus(); }
 
-/// Both sides stay in their relation.
+/// Both sides stay in the relation that the user gave them.
 void TFilesForm::FormResize(TObject*) {
-  // With the dots per inch the panes grow by themselves.
-  const bool scaled = std::exchange(FFormerPixels, PixelsPerInch()) != PixelsPerInch();
-  if (FFormerWidth > 0 && !scaled) {
-    LeftPane->SetWidth(
-        static_cast<int>(std::int64_t{LeftPane->Width()} * ClientWidth() / FFormerWidth));
-  }
-  FFormerWidth = ClientWidth();
+  if (FLeftShare > 0) LeftPane->SetWidth(static_cast<int>(FLeftShare * ClientWidth()));
+}
+
+void TFilesForm::MiddleMoved(TObject*) {
+  if (ClientWidth() > 0) FLeftShare = static_cast<double>(LeftPane->Width()) / ClientWidth();
 }
 
 }  // namespace files

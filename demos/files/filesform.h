@@ -63,6 +63,7 @@ class TFilesForm : public vcl::TForm {
                  qel::TQELFileFailure& action);
   void FormResize(vcl::TObject*);
   void FormShow(vcl::TObject*);
+  void MiddleMoved(vcl::TObject*);
 
   TPane& Active() const { return *FActive; }
   TPane& Other() const { return FActive == LeftPane ? *RightPane : *LeftPane; }
@@ -70,7 +71,7 @@ class TFilesForm : public vcl::TForm {
   void OpenFile(const std::string& path);
 
   TPane* FActive = nullptr;
-  int FFormerWidth = 0, FFormerPixels = 0;
+  double FLeftShare = 0;  // Of the form's inside.
 };
 
 }  // namespace files

@@ -319,6 +319,40 @@ TEST_F(Scaling, AFormIsPaintedOnceItIsScaled) {
   EXPECT_TRUE(::IsWindowVisible(form.Handle()));
 }
 
+TEST_F(Scaling, SizesAreToldOnceBehindIt) {
+  TForm form(nullptr);
+  form.SetBounds(10, 10, 300, 200);
+  auto* panel = new TPanel(&form);
+  panel->SetParent(&form);
+  auto* inner = new TPanel(&form);
+  inner->SetParent(panel);
+  // Layout by hand, as before there were anchors: it must not be scaled on top.
+  std::vector<TObject*> told;
+  form.OnResize = [&](TObject* sender) {
+    told.push_back(sender);
+    panel->SetBounds(10, 10, form.ClientWidth() - 20, form.ClientHeight() - 20);
+  };
+  panel->OnResize = [&](TObject* sender) {
+    told.push_back(sender);
+    inner->SetBounds(panel->Width() / 2, 0, panel->Width() / 2, panel->Height());
+  };
+  form.Show();
+  form.SetClientWidth(320);
+  form.SetClientHeight(240);
+  told.clear();
+  form.ScaleForPPI(192);
+  EXPECT_EQ(form.ClientWidth(), 640);
+  EXPECT_EQ(panel->BoundsRect(), TRect(10, 10, 630, 470));
+  EXPECT_EQ(inner->BoundsRect(), TRect(310, 0, 620, 460));
+  EXPECT_EQ(told, (std::vector<TObject*>{&form, panel}));
+  form.OnResize = [&](TObject*) { delete std::exchange(panel, nullptr); };
+  form.ScaleForPPI(96);
+  EXPECT_EQ(form.ControlCount(), 0);
+  form.OnResize = [&](TObject*) { throw EInvalidOperation("no size"); };
+  EXPECT_THROW(form.ScaleForPPI(144), EInvalidOperation);
+  EXPECT_EQ(form.PixelsPerInch(), 144);
+}
+
 TEST_F(Scaling, AHandlerMayHideTheFormThatIsScaled) {
   TForm form(nullptr);
   form.SetBounds(10, 10, 300, 200);

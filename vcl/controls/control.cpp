@@ -172,7 +172,7 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   KeepPlace();
   Invalidate();
   RequestAlign();
-  if (!watch.Gone() && resized && !Loading()) Resize();
+  if (!watch.Gone() && resized) TellResize();
   if (!watch.Gone()) TControlWatch::Changed(this);
 }
 

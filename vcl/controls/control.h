@@ -273,7 +273,8 @@ class VCL_API TControl : public TComponent {
 
   virtual void SetZOrder(bool topmost);
   virtual void SetClientSize(int width, int height);
-  /// Called after the bounds have changed.
+  /// Called after the size has changed; after that of a scaling once, behind it, when everything
+  /// inside has its place, too.
   virtual void Resize() {}
   /// The size within Constraints and what OnConstrainedResize makes of them.
   TSize ConstrainedSize(int width, int height);
@@ -324,6 +325,7 @@ class VCL_API TControl : public TComponent {
   friend class TWinControl;
   friend class TControlCanvas;
   friend class TDragSession;
+  friend class TScaling;
   void FontChanged(TObject* sender);
   void ForgetCapture();
   void Notify(UINT notice);
@@ -342,6 +344,7 @@ class VCL_API TControl : public TComponent {
   void ScaleFonts(int m, int d);
   void ScaleOwnFont(int m, int d);
   TRect ScaleEdges(const TRect& rect, int m, int d);
+  void TellResize();
   void FitFont();
 
   /// What the anchors count from: the bounds that somebody gave the control, and the size that the
@@ -371,6 +374,7 @@ class VCL_API TControl : public TComponent {
     std::vector<TScaledMeasure> Scaled;
     std::size_t Next = 0;
     TScaledMeasure FontHeight;
+    bool ResizeHeld = false;  // Resize is called behind the scaling that goes on.
   };
   std::unique_ptr<TMeasures> FMeasures;                    // Made when the control is scaled.
   mutable std::unique_ptr<TSizeConstraints> FConstraints;  // Made when asked for.

@@ -1,6 +1,7 @@
 // TControl and TWinControl: measures at other dots per inch.
 #include <algorithm>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "vcl/controls/wincontrol.h"
@@ -45,6 +46,65 @@ class TPaintHold {
 
 }  // namespace
 
+/// A control and all inside it being scaled. Whose size has changed is told so behind it: a handler
+/// that arranges what stands inside by hand would find half of it scaled, and what it has done
+/// would be scaled on top.
+class TScaling {
+ public:
+  explicit TScaling(TControl& topmost) : FTopmost(topmost), FAround(std::exchange(Now, this)) {}
+  ~TScaling() {
+    for (const THeld& held : FHeld) {
+      if (!held.Watch.Gone()) held.Control->FMeasures->ResizeHeld = false;
+    }
+    Now = FAround;
+  }
+  TScaling(const TScaling&) = delete;
+  TScaling& operator=(const TScaling&) = delete;
+
+  /// True when a scaling goes on that will tell the control.
+  static bool Takes(TControl& control) {
+    for (TScaling* each = Now; each; each = each->FAround) {
+      if (each->Holds(control)) return true;
+    }
+    return false;
+  }
+
+  /// The scaling is over. What encloses others is told first: what it does to them, they hear at
+  /// once and not again.
+  void Tell() {
+    FEnded = true;
+    for (std::size_t i = FHeld.size(); i-- > 0;) {
+      if (FHeld[i].Watch.Gone()) continue;
+      TControl& control = *FHeld[i].Control;
+      if (std::exchange(control.FMeasures->ResizeHeld, false)) control.Resize();
+    }
+  }
+
+ private:
+  struct THeld {
+    TControl* Control;
+    TWatch Watch;
+  };
+
+  bool Holds(TControl& control) {
+    if (FEnded) return false;
+    const TControl* each = &control;
+    while (each && each != &FTopmost) each = each->Parent();
+    if (!each) return false;
+    if (!control.FMeasures) control.FMeasures = std::make_unique<TControl::TMeasures>();
+    if (!std::exchange(control.FMeasures->ResizeHeld, true)) {
+      FHeld.push_back({&control, TWatch(&control)});
+    }
+    return true;
+  }
+
+  inline static TScaling* Now = nullptr;
+  TControl& FTopmost;
+  TScaling* FAround;
+  std::vector<THeld> FHeld;
+  bool FEnded = false;
+};
+
 int TControl::CurrentPPI() const {
   const TCustomForm* form = ParentForm();
   return form ? form->PixelsPerInch() : DefaultPixelsPerInch;
@@ -65,12 +125,21 @@ void TControl::ScaleBy(int m, int d) {
   // What another window lies around would leave traces there.
   const std::unique_ptr<TPaintHold> hold =
       window && !FParent ? std::make_unique<TPaintHold>(*window) : nullptr;
+  TScaling scaling(*this);
   ScaleStep(m, d);
   if (watch.Gone()) return;
   if (window) window->KeepParentSizes();
   // What takes its size from its font does so where it stands already.
   ScaleFonts(m, d);
-  if (!watch.Gone()) Invalidate();
+  if (watch.Gone()) return;
+  Invalidate();
+  scaling.Tell();
+}
+
+void TControl::TellResize() {
+  if (Loading() || TScaling::Takes(*this)) return;
+  if (FMeasures) FMeasures->ResizeHeld = false;
+  Resize();
 }
 
 // Measures.

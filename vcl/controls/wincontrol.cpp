@@ -213,7 +213,7 @@ void TWinControl::SetBounds(int left, int top, int width, int height) {
   KeepPlace();
   if (resized) Realign();
   if (!watch.Gone()) RequestAlign();
-  if (!watch.Gone() && resized && !Loading()) Resize();
+  if (!watch.Gone() && resized) TellResize();
   if (!watch.Gone()) TControlWatch::Changed(this);
 }
 

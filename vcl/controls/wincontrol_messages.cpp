@@ -288,7 +288,7 @@ void TWinControl::WMWindowPosChanged(TMessage& message) {
   if (!watch.Gone() && !(place->flags & SWP_NOSIZE)) Realign();
   if (watch.Gone()) return;
   const bool resized = !(place->flags & SWP_NOSIZE) && former.Size() != BoundsRect().Size();
-  if (resized && !Loading()) Resize();
+  if (resized) TellResize();
   if (!watch.Gone() && former != BoundsRect()) TControlWatch::Changed(this);
 }
 
