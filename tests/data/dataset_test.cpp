@@ -245,6 +245,12 @@ TEST(Fields, ReadAsOtherTypesAndShowThemselves) {
   money.SetAsCurrency(2.5);
   EXPECT_EQ(money.DisplayText() + " " + money.Text(), "2.50 2.5");
   EXPECT_EQ(money.AsCurrency(), 2.5);
+  static_cast<TNumericField&>(money).SetDisplayFormat("0.000 'EUR';;-");
+  EXPECT_EQ(money.Text(), "2.5") << "as it is edited";
+  EXPECT_TRUE(money.DisplayText() == "2.500 EUR" || money.DisplayText() == "2,500 EUR");
+  static_cast<TNumericField&>(number).SetDisplayFormat("000");
+  number.SetAsInteger(7);
+  EXPECT_EQ(number.DisplayText() + " " + number.AsString(), "007 7");
   static_cast<TBooleanField&>(sure).SetDisplayValues("Yes;No");
   sure.SetAsString("no");
   EXPECT_FALSE(sure.AsBoolean());

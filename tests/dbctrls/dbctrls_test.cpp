@@ -86,6 +86,81 @@ TEST_F(DataControls, AnEditShowsTheFieldAndWritesWhatIsTyped) {
   EXPECT_EQ(name->Text(), "");
 }
 
+TEST_F(DataControls, AFieldsMaskSaysWhatIsTypedAndHowTextsAreShown) {
+  auto* name = MakeEdit("Name", 10);
+  auto* money = MakeEdit("Money", 40);
+  TField& phone = *Data.FieldByName("Name");
+  phone.SetEditMask("000-0000;0;_");
+  EXPECT_THROW(phone.SetEditMask("0\\"), EMaskError);
+  ShowForm();
+  money->SetFocus();
+  EXPECT_EQ(name->Text(), "Ann") << "the mask would take it away";
+  Data.Edit();
+  phone.SetAsString("5551234");
+  Data.Post();
+  EXPECT_EQ(name->Text(), "555-1234");
+  name->SetFocus();
+  EXPECT_TRUE(name->IsMasked());
+  Key(VK_HOME);
+  Type("x9");
+  EXPECT_EQ(name->EditText(), "955-1234");
+  EXPECT_EQ(Data.State(), dsEdit);
+  Key(VK_ESCAPE);
+  EXPECT_EQ(name->EditText(), "555-1234");
+  Data.Cancel();
+  Key(VK_HOME);
+  Key(VK_DELETE);
+  EXPECT_EQ(Data.State(), dsEdit);
+  EXPECT_EQ(name->EditText(), "_55-1234");
+  money->SetFocus();
+  testinput::Pump();
+  EXPECT_THAT(std::exchange(Errors, {}), testing::HasSubstr("'_55-1234' is not complete"));
+  EXPECT_TRUE(name->Focused());
+  EXPECT_THROW(Data.Post(), EMaskError);
+  EXPECT_EQ(Name(), "5551234");
+  Type("8");
+  money->SetFocus();
+  EXPECT_EQ(name->Text(), "855-1234");
+  Data.Post();
+  EXPECT_EQ(Name(), "8551234");
+  // Another record comes while the focus is there, then one that is begun.
+  name->SetFocus();
+  Data.Next();
+  Data.Append();
+  EXPECT_EQ(name->EditText(), "___-____");
+  money->SetFocus();
+  EXPECT_TRUE(money->Focused()) << "nothing was typed: " << Errors;
+  name->SetFocus();
+  EXPECT_EQ(name->EditText(), "___-____") << "also while the record is edited already";
+  Data.Cancel();
+  Source.SetAutoEdit(false);
+  const std::string shown = name->EditText();
+  Type("1");
+  EXPECT_EQ(name->EditText(), shown);
+  EXPECT_EQ(Data.State(), dsBrowse);
+}
+
+TEST_F(DataControls, AGridEditsByTheFieldsMask) {
+  auto* grid = Make<TDBGrid>(10, 10);
+  grid->SetDataSource(&Source);
+  grid->SetWidth(300);
+  grid->SetOptions({dgEditing, dgTitles, dgIndicator});
+  Data.FieldByName("Name")->SetEditMask(">L-00;0;_");
+  ShowForm();
+  grid->SetFocus();
+  Type("7a1");
+  Key(VK_RETURN);
+  EXPECT_THAT(std::exchange(Errors, {}), testing::HasSubstr("'A-1_' is not complete"));
+  Type("2");
+  Key(VK_RETURN);
+  EXPECT_EQ(Name(), "A12");
+  Data.Cancel();
+  Type("b");
+  Key(VK_ESCAPE);
+  EXPECT_EQ(Errors, "") << "what is given up need not be complete";
+  EXPECT_EQ(Name(), "Ann");
+}
+
 TEST_F(DataControls, AGridMovesByKeysMouseAndScrollBar) {
   auto* grid = Make<TDBGrid>(10, 10);
   grid->SetDataSource(&Source);

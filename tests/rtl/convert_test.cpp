@@ -30,6 +30,42 @@ TEST(Convert, ReadsIntegers) {
 }
 // clang-format on
 
+// clang-format off
+TEST(Convert, FormatsNumbers) {
+  struct TCase { const char* Format; double Value; const char* Text; };
+  const TCase cases[] = {
+      {"", 1234.5, "1234.5"}, {"0", 1234.5, "1235"}, {"0", -1234.5, "-1235"}, {"0", 0.4, "0"},
+      {"0.00", 2.675, "2.68"}, {"0.00", 0.995, "1.00"}, {"0.00", 99.999, "100.00"},
+      {"0.00", -0.001, "0.00"}, {"0.00", 1e15, "1000000000000000.00"}, {"0.00", 1e-300, "0.00"},
+      {"#.##", 1234.5, "1234.5"}, {"#.##", 0, ""}, {"#.##", 12, "12"}, {"#.##", 0.25, ".25"},
+      {".00", 12.5, "12.50"}, {"0.0#", 1.25, "1.25"}, {"0.0#", 1, "1.0"}, {"0.#0", 1, "1.00"},
+      {"#,##0", 1234567, "1,234,567"}, {"#,##0.00", 999.995, "1,000.00"}, {"#,##0", 12, "12"},
+      {"0,", 1234, "1,234"}, {"000,000", 12, "000,012"}, {"000", 7, "007"}, {"#0#", 5, "05"},
+      {"000-0000", 5551234, "555-1234"}, {"#-##", 12345, "123-45"},
+      {"0.00 'EUR'", 3, "3.00 EUR"}, {"\"0;\"0", 4, "0;4"}, {"0 'open", 4, "4 open"},
+      {"0;(0)", -5, "(5)"}, {"0;(0)", 5, "5"}, {"0;;'none'", -5, "-5"}, {"0.0;;'none'", 0.04, "none"},
+      {"0.00;;'none'", 0.04, "0.04"}, {"0;(0);-", -0.2, "-"}, {"0.0.0", 1.25, "1.25"},
+      {"0.000E+00", 123456, "1.235E+05"}, {"0.0E-0", 0.00123, "1.2E-3"}, {"0.0e-0", 1230, "1.2e3"},
+      {"0.0E+0", 9.99, "1.0E+1"}, {"00.0E+0", 123456, "12.3E+4"}, {"0.0E+0", 0, "0.0E+0"},
+      {"0E", 5, "5E"}, {"text", 5, "text"}, {"0.00", 1.7e308, nullptr},
+  };
+  // clang-format on
+  const TFormatSettings english;
+  for (const TCase& each : cases) {
+    const std::string text = FormatFloat(each.Format, each.Value, english);
+    if (each.Text) {
+      EXPECT_EQ(text, each.Text) << each.Format << " of " << each.Value;
+    } else {
+      EXPECT_EQ(text.size(), 312u);
+    }
+  }
+  TFormatSettings german;
+  german.DecimalSeparator = ",";
+  german.ThousandSeparator = ".";
+  EXPECT_EQ(FormatFloat("#,##0.00", 1234567.5, german), "1.234.567,50");
+  EXPECT_EQ(FormatFloat("0.0", std::numeric_limits<double>::infinity(), english), "inf");
+}
+
 TEST(Convert, NamesWhatIsNoValue) {
   const std::pair<std::function<void()>, const char*> cases[] = {
       {[] { StrToInt("abc"); }, "'abc' is not a valid integer value"},

@@ -50,6 +50,38 @@ TEST_F(GridEdits, TypingEditsACellAndEnterMakesItHold) {
   EXPECT_EQ(Grid->Cells(1, 2), "c1r2");
 }
 
+TEST_F(GridEdits, AHandlerGivesTheMaskOfACell) {
+  Allow({goEditing});
+  Grid->OnGetEditMask = [](TObject*, int col, int, std::string& mask) {
+    mask = col == 1 ? "00:00;1;_" : col == 3 ? "0\\" : "";
+  };
+  Grid->SetCells(1, 1, "12:34");
+  ShowGrid();
+  Key(VK_F2);
+  Key(VK_HOME);
+  Type("9x8");
+  Key(VK_RETURN);
+  EXPECT_EQ(Errors, "");
+  EXPECT_EQ(Grid->Cells(1, 1), "98:34");
+  Key(VK_F2);
+  Key(VK_HOME);
+  Key(VK_DELETE);
+  Key(VK_DOWN);
+  EXPECT_NE(std::exchange(Errors, {}).find("is not complete"), std::string::npos);
+  EXPECT_EQ(Current(), "1,1");
+  Key(VK_ESCAPE);
+  EXPECT_EQ(Errors, "");
+  EXPECT_EQ(Grid->Cells(1, 1), "98:34");
+  Key(VK_RIGHT);
+  Type("9x8");
+  Key(VK_RETURN);
+  EXPECT_EQ(Grid->Cells(2, 1), "9x8") << "no mask";
+  Key(VK_RIGHT);
+  Type("1");
+  EXPECT_NE(std::exchange(Errors, {}).find("0\\"), std::string::npos) << "malformed";
+  EXPECT_FALSE(Grid->EditorMode());
+}
+
 TEST_F(GridEdits, AClickOnTheCurrentCellEditsAndLeavingMakesItHold) {
   auto* other = Make<TEdit>(10, 300);
   Allow({goEditing});

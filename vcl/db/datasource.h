@@ -144,6 +144,8 @@ class VCL_API TFieldDataLink : public TDataLink {
   bool Edit() { return CanModify() && TDataLink::Edit(); }
   /// The user is changing the value: OnUpdateData is to be fired before the record is posted.
   void Modified() { FModified = true; }
+  /// True while what he has made of it is not in the field yet.
+  bool HasChange() const { return FModified; }
   /// Shows the field's value again.
   void Reset();
 

@@ -6,6 +6,7 @@
 
 #include "vcl/db/dataset.h"
 #include "vcl/rtl/convert.h"
+#include "vcl/rtl/masktext.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/scope.h"
 #include "vcl/rtl/text.h"
@@ -31,6 +32,10 @@ const TClass& TField::Class() {
       {
           Property<&T::DisplayLabel, &T::SetDisplayLabel>("DisplayLabel"),
           Property<&T::DisplayWidth, &T::SetDisplayWidth>("DisplayWidth"),
+          Property<&T::EditMask, &T::SetEditMask>("EditMask")
+              .Default("")
+              .Type("TEditMask")
+              .Unpublished(),
           Property<&T::FieldKind, &T::SetFieldKind>("FieldKind").Default(fkData),
           Property<&T::FieldName, &T::SetFieldName>("FieldName"),
           Property<&T::KeyFields, &T::SetKeyFields>("KeyFields").Default(""),
@@ -77,6 +82,12 @@ void TField::SetVisible(bool visible) {
 
 void TField::SetDisplayWidth(int width) {
   FDisplayWidth = width > 0 && width != DefaultWidth() ? width : 0;
+  LayoutChanged();
+}
+
+void TField::SetEditMask(const std::string& mask) {
+  if (!mask.empty()) static_cast<void>(TMaskText(mask));
+  FEditMask = mask;
   LayoutChanged();
 }
 
@@ -151,7 +162,20 @@ void TField::Refuse(const TFieldValue& value, const char* kind) const {
 std::string TField::TextOf(const TFieldValue& value, bool display) const {
   if (vcl::IsNull(value)) return {};
   const auto* text = std::get_if<std::string>(&value);
-  return text ? *text : ToText(value, display);
+  if (!text) return ToText(value, display);
+  return display && !FEditMask.empty() ? Masked(*text) : *text;
+}
+
+/// The text in the mask's literals; one that the mask would take something from, as it is.
+std::string TField::Masked(const std::string& text) const {
+  const TMaskText mask(FEditMask);
+  TMaskText::TEdited cells = mask.Edited(text);
+  if (mask.KeepsLiterals() || mask.Text(cells) != text) return text;
+  for (int i = 0; i < mask.Length(); ++i) {
+    char32_t& cell = cells[static_cast<std::size_t>(i)];
+    if (mask.Editable(i) && cell == mask.Blank()) cell = U' ';
+  }
+  return FromCells(cells);
 }
 
 std::string TField::AsString() const { return TextOf(Raw(), false); }

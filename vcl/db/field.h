@@ -83,6 +83,11 @@ class VCL_API TField : public TComponent {
   /// How many characters wide a column is.
   int DisplayWidth() const { return FDisplayWidth ? FDisplayWidth : DefaultWidth(); }
   void SetDisplayWidth(int width);
+  const std::string& EditMask() const { return FEditMask; }
+  /// What may be typed for the value in edits and grids, in TMaskText's language; texts are shown
+  /// in it, too, but for those that do not fit it. Empty for anything. Raises EMaskError for a
+  /// malformed mask, and then the old one stays.
+  void SetEditMask(const std::string& mask);
   /// True when data-aware controls may write it.
   bool CanModify() const;
 
@@ -148,6 +153,7 @@ class VCL_API TField : public TComponent {
   [[noreturn]] void NoSuchAccess(const char* kind) const;
   const TFieldValue& Raw() const;
   std::string TextOf(const TFieldValue& value, bool display) const;
+  std::string Masked(const std::string& text) const;
   std::string ShownText(bool display) const;
   void CheckPosted() const;
   void Write(const TFieldValue& value);
@@ -159,7 +165,7 @@ class VCL_API TField : public TComponent {
   void SetForLookup(T& property, const T& value);
 
   TFieldType FDataType;
-  std::string FFieldName, FLabel;
+  std::string FFieldName, FLabel, FEditMask;
   TFieldKind FFieldKind = fkData;
   std::string FKeyFields, FLookupKeyFields, FLookupResultField;
   TDataSet* FLookupDataSet = nullptr;

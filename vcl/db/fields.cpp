@@ -9,6 +9,7 @@
 
 #include "vcl/rtl/classregistry.h"
 #include "vcl/rtl/convert.h"
+#include "vcl/rtl/numberformat.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
@@ -70,7 +71,8 @@ TField* NewField(TFieldType dataType, TComponent* owner) {
 const TClass& TStringField::Class() {
   using T = TStringField;
   static const TClass info = Describe<T, TField>(
-      "vcl::TStringField", "vcl/db/db.h", {Property<&T::Size, &T::SetSize>("Size").Default(0)});
+      "vcl::TStringField", "vcl/db/db.h",
+      {Inherit("EditMask"), Property<&T::Size, &T::SetSize>("Size").Default(0)});
   return info;
 }
 
@@ -94,7 +96,29 @@ void TBlobField::SaveToFile(const std::string& fileName) const {
   TFileStream(fileName, fmCreate).WriteText(AsString());
 }
 
-const TClass& TIntegerField::Class() { return PlainClass<TIntegerField, TField>("TIntegerField"); }
+const TClass& TNumericField::Class() {
+  using T = TNumericField;
+  static const TClass info = Describe<T, TField>(
+      "vcl::TNumericField", "vcl/db/db.h",
+      {Property<&T::DisplayFormat, &T::SetDisplayFormat>("DisplayFormat").Default("")});
+  return info;
+}
+
+void TNumericField::SetDisplayFormat(const std::string& format) {
+  FDisplayFormat = format;
+  LayoutChanged();
+}
+
+std::string TNumericField::ToText(const TFieldValue& value, bool display) const {
+  const auto* whole = std::get_if<std::int64_t>(&value);
+  const double number = whole ? static_cast<double>(*whole) : std::get<double>(value);
+  if (display && !FDisplayFormat.empty()) return FormatFloat(FDisplayFormat, number);
+  return whole ? IntToStr(*whole) : FloatToStr(number);
+}
+
+const TClass& TIntegerField::Class() {
+  return PlainClass<TIntegerField, TNumericField>("TIntegerField");
+}
 const TClass& TSmallintField::Class() {
   return PlainClass<TSmallintField, TIntegerField>("TSmallintField");
 }
@@ -123,12 +147,7 @@ TFieldValue TIntegerField::Accept(const TFieldValue& value) const {
   return number;
 }
 
-std::string TIntegerField::ToText(const TFieldValue& value, bool) const {
-  const auto* whole = std::get_if<std::int64_t>(&value);
-  return whole ? IntToStr(*whole) : FloatToStr(std::get<double>(value));
-}
-
-const TClass& TFloatField::Class() { return PlainClass<TFloatField, TField>("TFloatField"); }
+const TClass& TFloatField::Class() { return PlainClass<TFloatField, TNumericField>("TFloatField"); }
 const TClass& TCurrencyField::Class() {
   return PlainClass<TCurrencyField, TFloatField>("TCurrencyField");
 }
@@ -148,14 +167,9 @@ TFieldValue TFloatField::Accept(const TFieldValue& value) const {
   return number;
 }
 
-std::string TFloatField::ToText(const TFieldValue& value, bool) const {
-  const auto* number = std::get_if<double>(&value);
-  return number ? FloatToStr(*number) : IntToStr(std::get<std::int64_t>(value));
-}
-
 std::string TCurrencyField::ToText(const TFieldValue& value, bool display) const {
   const auto* number = std::get_if<double>(&value);
-  if (!display || !number) return TFloatField::ToText(value, display);
+  if (!display || !number || !DisplayFormat().empty()) return TFloatField::ToText(value, display);
   // Amounts of any size fit: the greatest double has 309 digits.
   char text[330];
   std::snprintf(text, sizeof text, "%.2f", *number);
@@ -206,7 +220,8 @@ const TClass& TDateTimeField::Class() {
   using T = TDateTimeField;
   static const TClass info = Describe<T, TField>(
       "vcl::TDateTimeField", "vcl/db/db.h",
-      {Property<&T::DisplayFormat, &T::SetDisplayFormat>("DisplayFormat").Default("")});
+      {Property<&T::DisplayFormat, &T::SetDisplayFormat>("DisplayFormat").Default(""),
+       Inherit("EditMask")});
   return info;
 }
 

@@ -44,17 +44,35 @@ class VCL_API TMemoField : public TBlobField {
   const TClass& ClassType() const override { return Class(); }
 };
 
+/// What fields of numbers have in common.
+class VCL_API TNumericField : public TField {
+ public:
+  static const TClass& Class();
+  const TClass& ClassType() const override { return Class(); }
+
+  /// FormatFloat's format for DisplayText, with the user's decimal sign; empty for the usual one.
+  /// Whole numbers beyond 2^53 lose their last digits in it.
+  const std::string& DisplayFormat() const { return FDisplayFormat; }
+  void SetDisplayFormat(const std::string& format);
+
+ protected:
+  using TField::TField;
+  std::string ToText(const TFieldValue& value, bool display) const override;
+
+ private:
+  std::string FDisplayFormat;
+};
+
 /// Whole numbers; a floating one is rounded.
-class VCL_API TIntegerField : public TField {
+class VCL_API TIntegerField : public TNumericField {
  public:
   explicit TIntegerField(TComponent* owner) : TIntegerField(owner, ftInteger) {}
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
  protected:
-  TIntegerField(TComponent* owner, TFieldType dataType) : TField(owner, dataType) {}
+  using TNumericField::TNumericField;
   TFieldValue Accept(const TFieldValue& value) const override;
-  std::string ToText(const TFieldValue& value, bool display) const override;
 };
 
 class VCL_API TSmallintField : public TIntegerField {
@@ -74,19 +92,18 @@ class VCL_API TLargeintField : public TIntegerField {
   int DefaultWidth() const override { return 15; }
 };
 
-class VCL_API TFloatField : public TField {
+class VCL_API TFloatField : public TNumericField {
  public:
   explicit TFloatField(TComponent* owner) : TFloatField(owner, ftFloat) {}
   static const TClass& Class();
   const TClass& ClassType() const override { return Class(); }
 
  protected:
-  TFloatField(TComponent* owner, TFieldType dataType) : TField(owner, dataType) {}
+  using TNumericField::TNumericField;
   TFieldValue Accept(const TFieldValue& value) const override;
-  std::string ToText(const TFieldValue& value, bool display) const override;
 };
 
-/// An amount of money: shown with two decimals.
+/// An amount of money: shown with two decimals unless DisplayFormat says else.
 class VCL_API TCurrencyField : public TFloatField {
  public:
   explicit TCurrencyField(TComponent* owner) : TFloatField(owner, ftCurrency) {}

@@ -8,7 +8,7 @@ namespace vcl {
 
 const TClass& TDBEdit::Class() {
   using T = TDBEdit;
-  static const TClass info = Describe<T, TCustomEdit>(
+  static const TClass info = Describe<T, TCustomMaskEdit>(
       "vcl::TDBEdit", "vcl/dbctrls/dbctrls.h",
       {
           Inherit("AutoSelect"),
@@ -41,6 +41,17 @@ const TClass& TDBEdit::Class() {
           Inherit(WheelEvents),
       });
   return info;
+}
+
+void TDBEdit::ShowField() {
+  const TField* const field = Field();
+  SetEditMask(field && Inside() ? field->EditMask() : std::string());
+  TFieldTextEditor::ShowField();
+}
+
+void TDBEdit::WriteField() {
+  ValidateEdit();
+  TFieldTextEditor::WriteField();
 }
 
 }  // namespace vcl

@@ -110,6 +110,7 @@ class VCL_API TDBGrid : public TCustomGrid {
   std::string CellText(int col, int row) override;
   bool SelectCell(int col, int row) override;
   std::string GetEditText(int col, int row) override;
+  std::string GetEditMask(int col, int row) override;
   void SetEditText(int col, int row, const std::string& text) override;
   TEditStyle GetEditStyle(int col, int row) override;
   void GetPickList(int col, int row, TStrings& items) override;

@@ -115,6 +115,12 @@ std::string TDBGrid::GetEditText(int col, int row) {
   return text;
 }
 
+std::string TDBGrid::GetEditMask(int col, int /*row*/) {
+  const TColumn* column = ColumnAt(col);
+  const TField* field = column ? column->Field() : nullptr;
+  return field ? field->EditMask() : std::string();
+}
+
 void TDBGrid::SetEditText(int col, int row, const std::string& text) {
   const TColumn* column = ColumnAt(col);
   TField* field = column ? column->Field() : nullptr;

@@ -220,7 +220,7 @@ class TFieldTextEditor : public TFieldEditor<TControlBase> {
   void DoEnter() override {
     const TWatch watch(this);
     FInside = true;
-    if (this->Link().CanModify() && !this->Link().Editing()) this->ShowNow();
+    if (this->Link().CanModify() && !this->Link().HasChange()) this->ShowNow();
     if (!watch.Gone()) TControlBase::DoEnter();
   }
   void DoExit() override {

@@ -171,6 +171,8 @@ class VCL_API TCustomGrid : public TCustomControl {
   virtual bool SelectCell(int /*col*/, int /*row*/) { return true; }
   virtual std::string GetEditText(int /*col*/, int /*row*/) { return {}; }
   virtual void SetEditText(int /*col*/, int /*row*/, const std::string& /*text*/) {}
+  /// The mask that the cell is edited with (see TMaskText); empty for none.
+  virtual std::string GetEditMask(int /*col*/, int /*row*/) { return {}; }
   virtual TEditStyle GetEditStyle(int /*col*/, int /*row*/) { return esSimple; }
   virtual void GetPickList(int /*col*/, int /*row*/, TStrings& /*items*/) {}
   /// Whether the user may change the cell.

@@ -47,8 +47,10 @@ void TCustomGrid::ShowEditor() {
   const TEditStyle style = watch.Gone() ? esCheckBox : GetEditStyle(Col(), Row());
   if (style == esCheckBox) return;
   const std::string text = watch.Gone() ? std::string() : GetEditText(Col(), Row());
+  const std::string mask = watch.Gone() ? std::string() : GetEditMask(Col(), Row());
   if (watch.Gone()) return;
   MakeEditor();
+  FEdit->SetEditMask(mask);
   FEditStyle = style;
   FEditing = true;
   FEdit->SetColor(Color());
@@ -62,6 +64,7 @@ void TCustomGrid::ShowEditor() {
 
 void TCustomGrid::CommitEdit() {
   if (!FEditing || !FEdit->Modified()) return;
+  FEdit->ValidateEdit();
   const TWatch watch(this);
   SetEditText(Col(), Row(), FEdit->Text());
   if (watch.Gone()) return;
@@ -90,6 +93,7 @@ void TCustomGrid::EndEdit() {
 
 void TCustomGrid::CancelEdit() {
   if (!FEditing) return;
+  FEdit->Reset();
   FEdit->SetModified(false);
   const TWatch watch(this);
   HideEditor();
@@ -100,6 +104,7 @@ void TCustomGrid::CancelActions() {
   const TWatch watch(this);
   EndPress(false);
   if (watch.Gone() || !FEditing) return;
+  FEdit->Reset();
   FEdit->SetModified(false);
   HideEditor();
 }

@@ -58,6 +58,7 @@ const TClass& TDrawGrid::Class() {
           Inherit(FocusEvents),
           Event<&T::OnFixedCellClick>("OnFixedCellClick").Type("TCellEvent", CellParameters),
           Event<&T::OnGetEditStyle>("OnGetEditStyle"),
+          Event<&T::OnGetEditMask>("OnGetEditMask"),
           Event<&T::OnGetEditText>("OnGetEditText"),
           Event<&T::OnGetPickList>("OnGetPickList"),
           Inherit(KeyEvents),
@@ -94,6 +95,12 @@ std::string TDrawGrid::GetEditText(int col, int row) {
 
 void TDrawGrid::SetEditText(int col, int row, const std::string& text) {
   OnSetEditText(this, col, row, text);
+}
+
+std::string TDrawGrid::GetEditMask(int col, int row) {
+  std::string mask;
+  OnGetEditMask(this, col, row, mask);
+  return mask;
 }
 
 TEditStyle TDrawGrid::GetEditStyle(int col, int row) {

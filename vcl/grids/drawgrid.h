@@ -85,6 +85,8 @@ class VCL_API TDrawGrid : public TCustomGrid {
   TMovedEvent OnFixedCellClick;
   /// A cell is about to be edited: the handler says how.
   TGetEditStyleEvent OnGetEditStyle;
+  /// A cell is about to be edited: the handler gives the mask of what may be typed (see TMaskText).
+  TGetEditEvent OnGetEditMask;
   /// A cell's text is needed, to be edited or copied: the handler gives it.
   TGetEditEvent OnGetEditText;
   /// The list of values of a cell drops down: the handler fills it.
@@ -103,6 +105,7 @@ class VCL_API TDrawGrid : public TCustomGrid {
   bool SelectCell(int col, int row) override;
   std::string GetEditText(int col, int row) override;
   void SetEditText(int col, int row, const std::string& text) override;
+  std::string GetEditMask(int col, int row) override;
   TEditStyle GetEditStyle(int col, int row) override;
   void GetPickList(int col, int row, TStrings& items) override;
   void ToggleChecked(int col, int row) override;

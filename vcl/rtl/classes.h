@@ -14,6 +14,7 @@
 #include "vcl/rtl/files.h"
 #include "vcl/rtl/formfile.h"
 #include "vcl/rtl/inifile.h"
+#include "vcl/rtl/numberformat.h"
 #include "vcl/rtl/properties.h"
 #include "vcl/rtl/reader.h"
 #include "vcl/rtl/scope.h"

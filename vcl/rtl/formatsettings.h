@@ -1,4 +1,4 @@
-// How the user writes dates and times.
+// How the user writes dates, times and numbers.
 #pragma once
 
 #include <array>
@@ -8,8 +8,9 @@
 
 namespace vcl {
 
-/// The formats of dates and times, in FormatDateTime's specifiers, and the words in them. A new one
-/// has the English ones; `FormatSettings()` those of the user.
+/// The formats of dates and times, in FormatDateTime's specifiers, the words in them, and the signs
+/// in numbers that are shown by FormatFloat. A new one has the English ones; `FormatSettings()`
+/// those of the user.
 struct TFormatSettings {
   std::string DateSeparator = "/";
   std::string TimeSeparator = ":";
@@ -32,6 +33,8 @@ struct TFormatSettings {
   /// A year of two digits is the first one with them that is not more than this many years ago; 0
   /// puts it in the present century.
   int TwoDigitYearCenturyWindow = 50;
+  std::string DecimalSeparator = ".";
+  std::string ThousandSeparator = ",";
 };
 
 /// The program's settings: the user's until the program changes them, which it does before other

@@ -1,4 +1,4 @@
-// How the user writes dates and times: what the locale of a POSIX system says.
+// How the user writes dates, times and numbers: what the locale of a POSIX system says.
 #include <langinfo.h>
 
 #include <clocale>
@@ -113,6 +113,8 @@ TFormatSettings SystemFormatSettings() {
   TakeNames(settings.LongMonthNames, locale, MON_1);
   TakeNames(settings.ShortDayNames, locale, ABDAY_1);
   TakeNames(settings.LongDayNames, locale, DAY_1);
+  Take(settings.DecimalSeparator, locale.Text(RADIXCHAR));
+  Take(settings.ThousandSeparator, locale.Text(THOUSEP));
   return settings;
 }
 

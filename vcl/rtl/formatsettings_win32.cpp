@@ -1,4 +1,4 @@
-// How the user writes dates and times: what Windows's settings say.
+// How the user writes dates, times and numbers: what Windows's settings say.
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
@@ -71,6 +71,8 @@ TFormatSettings SystemFormatSettings() {
   TakeNames(settings.LongMonthNames, LOCALE_SMONTHNAME1);
   TakeDayNames(settings.ShortDayNames, LOCALE_SABBREVDAYNAME1);
   TakeDayNames(settings.LongDayNames, LOCALE_SDAYNAME1);
+  Take(settings.DecimalSeparator, LocaleText(LOCALE_SDECIMAL));
+  Take(settings.ThousandSeparator, LocaleText(LOCALE_STHOUSAND));
   return settings;
 }
 

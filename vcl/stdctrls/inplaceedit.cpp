@@ -7,7 +7,7 @@
 
 namespace vcl {
 
-TInplaceEdit::TInplaceEdit(TComponent* owner) : TCustomEdit(owner) {
+TInplaceEdit::TInplaceEdit(TComponent* owner) : TCustomMaskEdit(owner) {
   SetAutoSize(false);
   SetBorderStyle(bsNone);
   SetTabStop(false);
@@ -15,7 +15,7 @@ TInplaceEdit::TInplaceEdit(TComponent* owner) : TCustomEdit(owner) {
 
 // Without this style a text that is wider than the edit could not be scrolled.
 void TInplaceEdit::CreateParams(TCreateParams& params) {
-  TCustomEdit::CreateParams(params);
+  TCustomMaskEdit::CreateParams(params);
   params.Style |= ES_AUTOHSCROLL;
 }
 
@@ -29,7 +29,7 @@ void TInplaceEdit::Dispatch(TMessage& message) {
     default: break;
   }
   TWatch watch(this);
-  TCustomEdit::Dispatch(message);
+  TCustomMaskEdit::Dispatch(message);
   if (watch.Gone()) return;
   // The text stands where the line's value is painted; a font brings margins of its own.
   if (message.Msg == WM_SETFONT) {

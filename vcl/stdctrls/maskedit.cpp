@@ -57,19 +57,25 @@ void TCustomMaskEdit::SetEditMask(const std::string& mask) {
   FCells.clear();
   SendIfAllocated(*this, EM_LIMITTEXT, static_cast<WPARAM>(IsMasked() ? 0 : MaxLength()));
   SetTextBuf(text.c_str());
-  FEntered = EditText();
 }
 
 std::string TCustomMaskEdit::Text() const { return IsMasked() ? FMask.Text(FCells) : EditText(); }
 
+/// A text that shows the same leaves the caret where it is.
 void TCustomMaskEdit::SetText(const std::string& text) {
+  if (IsMasked() && FMask.Edited(text) == FCells) {
+    FEntered = EditText();
+    return;
+  }
   TCustomEdit::SetText(IsMasked() ? FromCells(FMask.Edited(text)) : text);
 }
 
 void TCustomMaskEdit::SetTextBuf(const char* text) {
-  if (!IsMasked()) return TCustomEdit::SetTextBuf(text);
-  FCells = FMask.Edited(text);
-  TCustomEdit::SetTextBuf(FromCells(FCells).c_str());
+  if (IsMasked()) FCells = FMask.Edited(text);
+  const TWatch watch(this);
+  TCustomEdit::SetTextBuf(IsMasked() ? FromCells(FCells).c_str() : text);
+  // It is no change by the user.
+  if (!watch.Gone()) FEntered = EditText();
 }
 
 void TCustomMaskEdit::ValidateEdit() {
@@ -107,8 +113,8 @@ void TCustomMaskEdit::Apply(const TEdited& edited, int caret) {
 }
 
 /// What has come into the window by other ways than keys, such as an input method, goes into the
-/// cells where it stands.
-TMaskText::TEdited TCustomMaskEdit::Mended(const TEdited& shown) const {
+/// cells where it stands; the caret comes behind what has fitted.
+TMaskText::TEdited TCustomMaskEdit::Mended(const TEdited& shown, int& caret) const {
   const auto [at, other] = std::ranges::mismatch(FCells, shown);
   const auto start = static_cast<std::size_t>(at - FCells.begin());
   std::size_t kept = 0;
@@ -118,7 +124,7 @@ TMaskText::TEdited TCustomMaskEdit::Mended(const TEdited& shown) const {
   }
   TEdited mended = FCells;
   FMask.Clear(mended, static_cast<int>(start), static_cast<int>(FCells.size() - kept));
-  int caret = static_cast<int>(start);
+  caret = static_cast<int>(start);
   FMask.TypeAll(mended, caret, shown.substr(start, shown.size() - kept - start));
   return mended;
 }
@@ -126,7 +132,11 @@ TMaskText::TEdited TCustomMaskEdit::Mended(const TEdited& shown) const {
 void TCustomMaskEdit::Change() {
   if (IsMasked() && !FApplying && HandleAllocated()) {
     const TEdited shown = Shown();
-    if (!FMask.Fits(shown)) return Apply(Mended(shown), FMask.Next(SelStart()));
+    if (!FMask.Fits(shown)) {
+      int caret = 0;
+      const TEdited mended = Mended(shown, caret);
+      return Apply(mended, FMask.Next(caret));
+    }
     FCells = shown;
   }
   TCustomEdit::Change();
@@ -178,8 +188,9 @@ void TCustomMaskEdit::KeyDown(std::uint16_t& key, TShiftState shift) {
   const bool plain = !shift.Has(ssShift) && !shift.Has(ssCtrl);
   if (plain && MoveCaret(key)) {
     key = 0;
-  } else if (key == VK_DELETE && CanModify() && !shift.Has(ssShift)) {
+  } else if (key == VK_DELETE && !shift.Has(ssShift)) {
     key = 0;
+    if (!EditCanModify() || watch.Gone()) return;
     const int cell = FMask.Next(SelStart());
     SelLength() > 0 ? ClearSelected() : ClearCells(cell, cell + 1);
   }
@@ -196,10 +207,10 @@ void TCustomMaskEdit::KeyPress(char32_t& key) {
                      (pressed == VK_ESCAPE && Altered());
   if (!takes) return;
   key = 0;
-  if (!CanModify()) return;
+  if (pressed == VK_ESCAPE) return Reset();
+  if (!EditCanModify() || watch.Gone()) return;
   switch (pressed) {
     case VK_BACK: return Backspace();
-    case VK_ESCAPE: return Reset();
     case paste: return PasteFromClipboard();
     case cut: return CutToClipboard();
     default: return TypeOver({pressed});

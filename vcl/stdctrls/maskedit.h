@@ -35,11 +35,13 @@ class VCL_API TCustomMaskEdit : public TCustomEdit {
   /// does nothing when none is.
   void ValidateEdit();
   /// Takes back what the user has changed since the focus came.
-  void Reset();
+  virtual void Reset();
 
   void SetTextBuf(const char* text) override;
 
  protected:
+  /// Asked before the user changes a text with a mask; false leaves it as it is.
+  virtual bool EditCanModify() { return CanModify(); }
   void Change() override;
   void CreateWnd() override;
   void KeyDown(std::uint16_t& key, TShiftState shift) override;
@@ -59,7 +61,7 @@ class VCL_API TCustomMaskEdit : public TCustomEdit {
   void TypeOver(const TEdited& characters);
   bool MoveCaret(std::uint16_t key);
   bool TakeCommand(UINT message);
-  TEdited Mended(const TEdited& shown) const;
+  TEdited Mended(const TEdited& shown, int& caret) const;
 
   std::string FEditMask;
   TMaskText FMask;
