@@ -11,6 +11,7 @@
 #include "vcl/dbctrls/dbctrls.h"
 #include "vcl/designintf/containereditors.h"
 #include "vcl/designintf/imagelistdialog.h"
+#include "vcl/designintf/treeitemsdialog.h"
 #include "vcl/net/sockets.h"
 #include "vcl/stdctrls/buttons.h"
 #include "vcl/vcl.h"
@@ -86,6 +87,7 @@ void RegisterStandardPages() {
   RegisterContainerEditors();
   RegisterMenuEditor();
   RegisterImageListEditor();
+  RegisterTreeItemsEditor();
   RegisterStandardActions();
   RegisterActionEditor();
   RegisterFieldEditors();

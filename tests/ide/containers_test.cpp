@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/ide/designerfixture.h"
+#include "tests/vcl/dropfiles.h"
 
 namespace ide {
 namespace {
@@ -69,6 +70,92 @@ TEST_F(DesignedContainers, CoolBarsGetABandForEachControl) {
   EXPECT_EQ(cool()->Bands()->Items(0)->Control(), Find("Edit1"));
   It().Undo();
   EXPECT_EQ(cool()->Bands()->Count(), 0);
+}
+
+/// Opens the first dialog of a component's menu, and has the keys and whatever else happen in it.
+class DesignedItems : public DesignedContainers {
+ protected:
+  void InDialogOf(TPoint screen, const std::string& caption, const std::function<void()>& act) {
+    MoveMouse(screen);
+    RightDown();
+    QueueMouse(MOUSEEVENTF_RIGHTUP);
+    KeysInDialogs("Down Enter", {{caption, act}});
+  }
+};
+
+TEST_F(DesignedItems, TreesGetTheirNodesInADialog) {
+  OpenForm(" object Tree: TTreeView\n Left = 10\n Top = 10\n Width = 200\n Height = 150\n end\n");
+  const std::string before = Document().Text();
+  const auto tree = [&] { return Find<TTreeView>("Tree"); };
+  InDialogOf(On("Tree"), "Items of Tree", [] {
+    SendKeys("Alt+N");
+    Type("Fruit");
+    SendKeys("Alt+S");
+    Type("Apple");
+    SendKeys("Alt+N");
+    Type("Pear");
+    SendKeys("Alt+I");
+    Type("3");
+    SendKeys("Alt+U");
+    SendKeys("Enter");
+  });
+  const auto lines = [&] {
+    std::string text;
+    for (TTreeNode* each = tree()->Items()->GetFirstNode(); each; each = each->GetNext()) {
+      text += Concat(std::to_string(each->Level()), each->Text(), " ");
+    }
+    return text;
+  };
+  ASSERT_EQ(lines(), "0Fruit 1Pear 1Apple ");
+  EXPECT_EQ(tree()->Items()->GetFirstNode()->GetFirstChild()->ImageIndex(), 3);
+  EXPECT_NE(Document().Text().find("Items.Data"), std::string::npos);
+  InDialogOf(On("Tree"), "Items of Tree", [] { SendKeys("Alt+D Esc"); });
+  EXPECT_EQ(lines(), "0Fruit 1Pear 1Apple ") << "cancelled";
+  InDialogOf(On("Tree"), "Items of Tree", [] { SendKeys("Alt+D Enter"); });
+  EXPECT_EQ(lines(), "");
+  It().Undo();
+  EXPECT_EQ(lines(), "0Fruit 1Pear 1Apple ");
+  while (Document().CanUndo()) It().Undo();
+  EXPECT_EQ(Document().Text(), before);
+}
+
+TEST_F(DesignedItems, ImageListsTakeFilesThatAreDropped) {
+  OpenForm(" object Pictures: TImageList\n Left = 100\n Top = 100\n end\n");
+  TBitmap bitmap;
+  bitmap.SetSize(16, 16);
+  bitmap.SaveToFile(File("dot.bmp"));
+  Write("no picture.bmp", "no picture");
+  const auto images = [&] { return Find<TImageList>("Pictures"); };
+  const std::vector<std::string> files = {File("dot.bmp"), File("no picture.bmp"), File("dot.bmp")};
+  MoveMouse(At(110, 110));
+  RightDown();
+  QueueMouse(MOUSEEVENTF_RIGHTUP);
+  KeysInDialogs("Down Enter", {{"Images of Pictures",
+                                [&] {
+                                  const HDROP drop = MakeDrop(files, {50, 50});
+                                  ::PostMessageW(::GetForegroundWindow(), WM_DROPFILES,
+                                                 reinterpret_cast<WPARAM>(drop), 0);
+                                }},
+                               {"Error", [] { SendKeys("Enter"); }},  // One is no picture.
+                               {"Images of Pictures", [] { SendKeys("Enter"); }}});
+  EXPECT_EQ(images()->Count(), 2);
+  It().Undo();
+  EXPECT_EQ(images()->Count(), 0);
+}
+
+TEST_F(DesignedItems, MasksAreTriedOut) {
+  OpenForm(" object Edit: TMaskEdit\n Left = 10\n Top = 10\n Width = 200\n Height = 21\n end\n");
+  Click(On("Edit"));
+  const int line = LineOf("EditMask");
+  Click(InLine(line, Grid().Splitter() + 20));
+  KeysInDialogs("Ctrl+Enter", {{"EditMask", [] {
+                                  Type("\\");
+                                  SendKeys("Enter");  // Malformed: the button is disabled.
+                                  SendKeys("BkSp");
+                                  Type("000");
+                                  SendKeys("Enter");
+                                }}});
+  EXPECT_EQ(Find<TMaskEdit>("Edit")->EditMask(), "000");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <atomic>
 #include <thread>
 
+#include "tests/vcl/dropfiles.h"
 #include "tests/vcl/standardform.h"
 #include "vcl/forms/standardclasses.h"
 #include "vcl/graphics/codedimage.h"
@@ -516,20 +517,6 @@ TEST_F(OleDrag, TheMouseDragsFromControlToControl) {
 }
 
 // Files that are dropped on a form.
-
-HDROP MakeDrop(const std::vector<std::string>& names, POINT place) {
-  TDataObject data;
-  data.SetFiles(names);
-  std::string bytes = *data.Bytes(tfFiles);
-  DROPFILES head{};
-  std::copy_n(bytes.data(), sizeof head, reinterpret_cast<char*>(&head));
-  head.pt = place;
-  std::copy_n(reinterpret_cast<const char*>(&head), sizeof head, bytes.data());
-  const HGLOBAL block = ::GlobalAlloc(GMEM_MOVEABLE, bytes.size());
-  std::copy(bytes.begin(), bytes.end(), static_cast<char*>(::GlobalLock(block)));
-  ::GlobalUnlock(block);
-  return static_cast<HDROP>(block);
-}
 
 TEST_F(Transfer, AFormTakesDroppedFilesWhileAHandlerIsBound) {
   ShowForm();

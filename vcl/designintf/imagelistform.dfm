@@ -103,6 +103,7 @@ object ImageListForm: TImageListForm
         Width = 75
         Height = 25
         Caption = 'OK'
+        Default = True
         ModalResult = mrOk
         TabOrder = 0
       end
