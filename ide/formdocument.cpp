@@ -114,7 +114,7 @@ void TFormDocument::Take(TRoot root) {
 
 std::string TFormDocument::State() const {
   TStringStream stream;
-  WriteComponentBinary(stream, FRoot.get(), Frames());
+  WriteComponentBinary(stream, FRoot.get(), TFormAncestry{FAncestor.get(), Frames().MakeFrame});
   return stream.DataString();
 }
 
@@ -226,23 +226,23 @@ void TFormDocument::Changed(const std::string& key) {
   Tell(OnChange);
 }
 
-void TFormDocument::Restore(const std::string& state) {
+void TFormDocument::Restore(const std::string& state, bool quiet) {
   // A class of which one instance may exist would refuse a second form beside the first.
   Tell(OnRootGoing);
   FRoot.reset();
   {
-    const vcl::TSetFor quiet(FQuiet, true);
-    Take(Read(state, {}, {FOrigin.Class, {}, {}}));
+    const vcl::TSetFor told(FQuiet, quiet);
+    Take(Read(state, FFileName, FOrigin));
   }
   Tell(OnChange);
 }
 
 void TFormDocument::Undo() {
-  if (CanUndo()) Restore(FHistory.Undo());
+  if (CanUndo()) Restore(FHistory.Undo(), true);
 }
 
 void TFormDocument::Redo() {
-  if (CanRedo()) Restore(FHistory.Redo());
+  if (CanRedo()) Restore(FHistory.Redo(), true);
 }
 
 // The copy for the case that the program is killed.

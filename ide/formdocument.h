@@ -75,6 +75,12 @@ class TFormDocument {
   std::string FrameText(const std::string& fileName, const std::string& name);
   /// Where the files of its ancestors and frames are; empty when there is no folder yet.
   const std::string& Folder() const { return FKeeper.Folder; }
+  /// True when the form descends from a class or has a frame of it.
+  bool StandsOn(const std::string& className) const;
+  /// The form file of a class that the form stands on has been written: takes over what it holds
+  /// now, under what the form itself changes. Raises what Load raises; the form is as before then.
+  /// That is no step of undo.
+  void Rebase();
   /// The form with what it inherits, as the text of a file that stands on no ancestor's.
   std::string WholeText() const { return TextOf(*FRoot, nullptr); }
   /// How frames are written: as the difference from their own files.
@@ -147,7 +153,7 @@ class TFormDocument {
   void NameClass();
   void CheckFolder();
   const std::string& CopyOf() const { return FFileName.empty() ? FCopyName : FFileName; }
-  void Restore(const std::string& state);
+  void Restore(const std::string& state, bool quiet);
   std::string State() const;
   void Tell(const std::function<void()>& event) const {
     if (event) event();

@@ -1,4 +1,7 @@
 // TFormDocument: what it inherits: from its ancestor, and in its frames.
+#include <algorithm>
+#include <utility>
+
 #include "ide/formdocument.h"
 #include "ide/handlers.h"
 #include "vcl/forms/frames.h"
@@ -61,6 +64,38 @@ const TObject* TFormDocument::AncestorOf(const TObject& object) const {
     if (!found) found = in(each);
   });
   return found;
+}
+
+bool TFormDocument::StandsOn(const std::string& className) const {
+  if (!FRoot) return false;
+  bool found = std::ranges::any_of(FOrigin.Files, [&](const TAncestorFile& each) {
+    return SameText(each.ClassName, className);
+  });
+  EachOfForm(*FRoot, [&](const TComponent& each) {
+    found |= each.Inline() && SameText(each.FileClassName(), className);
+  });
+  return found;
+}
+
+void TFormDocument::Rebase() {
+  // What the form itself changes was noted when it still stood on the former files.
+  const std::string state = FHistory.Present();
+  const bool clean = FHistory.Clean();
+  TFormOrigin origin = Base() ? OriginFrom(Base()->FileName) : FOrigin;
+  TRoot ancestor = ReadAncestor(origin);
+  std::swap(FOrigin, origin);
+  std::swap(FAncestor, ancestor);
+  try {
+    Restore(state, false);
+  } catch (const Exception&) {
+    FOrigin = std::move(origin);
+    FAncestor = std::move(ancestor);
+    Restore(state, true);
+    throw;
+  }
+  FHistory.Replace(State());
+  if (clean) FHistory.MarkClean();
+  Tell(OnChange);
 }
 
 std::string TFormDocument::FrameText(const std::string& fileName, const std::string& name) {

@@ -113,6 +113,13 @@ void TOpenForms::Save(TFormDesigner& designer, const std::string& fileName) {
   for (TFormDesigner* each : All()) {
     if (each != &designer) each->Document().TakeNamesOf(designer.Root());
   }
+  // Its descendants, and forms with such a frame, show at once what it has become.
+  const std::string className = designer.Root().FileClassName();
+  for (TFormDesigner* each : All()) {
+    TFormDocument& document = each->Document();
+    if (each == &designer || !document.StandsOn(className)) continue;
+    each->Try([&document] { document.Rebase(); });
+  }
 }
 
 // Names.

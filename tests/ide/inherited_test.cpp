@@ -141,6 +141,67 @@ TEST_F(InheritedForm, KeepsWhatIsInherited) {
   EXPECT_EQ(Find("Amount"), nullptr);
 }
 
+TEST_F(InheritedForm, FollowsWhatItsOpenAncestorIsSavedWith) {
+  ASSERT_TRUE(Window->Open(File("order.dfm")));
+  TFormDesigner& order = It();
+  const auto in = [&](const char* name) {
+    return dynamic_cast<TControl*>(order.Root().FindComponent(name));
+  };
+  in("Amount")->SetLeft(120);
+  order.Modified();
+  ASSERT_TRUE(Window->Open(File("base.dfm")));
+  ASSERT_NE(&It(), &order);
+  Find("Ok")->SetLeft(30);
+  Find<TButton>("Ok")->SetCaption("Base");
+  auto* added = new TLabel(&Root());
+  added->SetName("Added");
+  added->SetParent(&Root());
+  It().Modified();
+  EXPECT_EQ(in("Ok")->Left(), 8) << "not before it is saved";
+  TypeKey('S', {VK_CONTROL});
+  EXPECT_EQ(in("Ok")->Left(), 30);
+  EXPECT_EQ(dynamic_cast<TButton*>(in("Ok"))->Caption(), "Order") << "its own";
+  EXPECT_NE(in("Added"), nullptr);
+  EXPECT_EQ(in("Amount")->Left(), 120);
+  EXPECT_TRUE(order.Document().Modified());
+  order.Undo();
+  EXPECT_EQ(in("Amount")->Left(), 100);
+  EXPECT_EQ(in("Ok")->Left(), 30) << "that is no step of its own";
+  EXPECT_FALSE(order.Document().Modified());
+  EXPECT_EQ(order.Document().Text(), Order);
+
+  // Of two of one name the descendant's own gets another one, and says so.
+  added->SetName("Amount");
+  Find("Ok")->SetLeft(50);
+  It().Modified();
+  TypeKey('S', {VK_CONTROL});
+  EXPECT_THAT(Messages(), Contains(HasSubstr("Amount")));
+  EXPECT_EQ(in("Ok")->Left(), 50);
+  EXPECT_NE(dynamic_cast<TLabel*>(in("Amount")), nullptr);
+  EXPECT_NE(in("Edit1"), nullptr);
+}
+
+TEST_F(InheritedForm, FollowsTheFramesThatItHas) {
+  Write("part.dfm",
+        "object PartFrame: TPartFrame\n Width = 100\n Height = 50\n object Inner: TButton\n"
+        " Left = 5\n end\nend\n");
+  Write("part.h", "class TPartFrame : public vcl::TFrame {\n};\n");
+  OpenForm(
+      " inline Part: TPartFrame\n Left = 10\n Top = 10\n inherited Inner: TButton\n"
+      " Top = 7\n end\n end\n");
+  TFormDesigner& user = It();
+  const auto inner = [&] {
+    return dynamic_cast<TControl*>(user.Root().FindComponent("Part")->FindComponent("Inner"));
+  };
+  ASSERT_TRUE(Window->Open(File("part.dfm")));
+  dynamic_cast<TControl&>(*Document().Root().FindComponent("Inner")).SetLeft(9);
+  It().Modified();
+  TypeKey('S', {VK_CONTROL});
+  EXPECT_EQ(inner()->Left(), 9);
+  EXPECT_EQ(inner()->Top(), 7);
+  EXPECT_FALSE(user.Document().Modified());
+}
+
 TEST_F(InheritedForm, SaysWhatIsMissing) {
   std::filesystem::remove(Folder.Path / "base.dfm");
   EXPECT_FALSE(Window->Open(File("order.dfm")));
