@@ -94,11 +94,17 @@ int TDataSet::FindRecord(std::string_view keyFields, const TRecord& values,
   const bool fromOrder = ordered && BeginsInOrder(FView->Order(), keys, options);
   const auto compare = [&](const TRecord& record) { return Compare(record, keys, FView->Order()); };
   const int first = byOrder || fromOrder ? FView->LowerBound(compare) : 0;
-  for (int i = first; const TRecord* record = FStore->At(i); ++i) {
-    if (matches(*record)) return i;
-    if (byOrder && compare(*record) != 0) break;
-  }
-  return -1;
+  int index = first;
+  int found = -1;
+  FStore->Visit(first, [&](const TRecord& record) {
+    if (matches(record)) {
+      found = index;
+      return false;
+    }
+    ++index;
+    return !byOrder || compare(record) == 0;
+  });
+  return found;
 }
 
 bool TDataSet::Locate(std::string_view keyFields, const TRecord& values, TLocateOptions options) {

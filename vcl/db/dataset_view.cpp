@@ -112,13 +112,13 @@ std::function<bool(const TRecord&)> TDataSet::MakeFilter() const {
     return CalculatedIn(record, fieldNo);
   };
   return [this, condition, behind](const TRecord& record) {
-    return (!condition || filter::Holds(*condition, {record, behind})) && AcceptedByHandler(record);
+    return (!condition || filter::Holds(*condition, {record, behind})) &&
+           (!OnFilterRecord || AcceptedByHandler(record));
   };
 }
 
 bool TDataSet::AcceptedByHandler(const TRecord& record) const {
   bool accept = true;
-  if (!OnFilterRecord) return accept;
   Look(record, [&] {
     const TSetFor busy(FBusy, dsFilter, this);
     const TWatch watch(this);

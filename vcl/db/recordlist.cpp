@@ -1,7 +1,17 @@
-// TRecordList: records in memory in the order of a data set, with the bookmarks that name them.
+// TRecordStore and TRecordList: records in memory in the order of a data set, with the bookmarks
+// that name them.
 #include "vcl/db/recordstore.h"
 
+#include <algorithm>
+
 namespace vcl {
+
+bool TRecordStore::Visit(int from, const TVisitor& each) {
+  for (int i = from; const TRecord* record = At(i); ++i) {
+    if (!each(*record)) return false;
+  }
+  return true;
+}
 
 TRecordList::TEntry* TRecordList::Entry(int index) {
   if (index < 0 || index >= Size()) return nullptr;
@@ -12,6 +22,15 @@ TRecordList::TEntry* TRecordList::Entry(int index) {
 const TRecord* TRecordList::At(int index) {
   const TEntry* entry = Entry(index);
   return entry ? &entry->Record : nullptr;
+}
+
+/// What filters and searches do with each of many records: past the gap without a detour.
+bool TRecordList::Visit(int from, const TVisitor& each) {
+  auto index = static_cast<std::size_t>(from);
+  for (; index < FBefore.size(); ++index) {
+    if (!each(FBefore[index].Record)) return false;
+  }
+  return TRecordStore::Visit(static_cast<int>(index), each);
 }
 
 void TRecordList::MoveGap(std::size_t index) {
@@ -42,10 +61,11 @@ void TRecordList::Erase(int index) {
 TBookmark TRecordList::BookmarkOf(int index) { return Entry(index)->Bookmark; }
 
 int TRecordList::IndexOf(TBookmark bookmark) {
-  for (int i = 0; i < Size(); ++i) {
-    if (Entry(i)->Bookmark == bookmark) return i;
-  }
-  return -1;
+  const auto before = std::ranges::find(FBefore, bookmark, &TEntry::Bookmark);
+  if (before != FBefore.end()) return static_cast<int>(before - FBefore.begin());
+  const auto behind = std::ranges::find(FBehind, bookmark, &TEntry::Bookmark);
+  if (behind == FBehind.end()) return -1;
+  return Size() - 1 - static_cast<int>(behind - FBehind.begin());
 }
 
 void TRecordList::Clear() {

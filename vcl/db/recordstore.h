@@ -1,6 +1,7 @@
 // Where a data set's records are while it is open.
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "vcl/db/dbtypes.h"
@@ -18,6 +19,10 @@ class VCL_API TRecordStore {
   /// its records and all have been counted, until one of them changes.
   virtual const TRecord* At(int index) = 0;
   virtual int Count() = 0;
+  /// Hands the records from the index on to `each`, one after another, until that returns false;
+  /// true when all have been seen. `each` may change the store.
+  using TVisitor = std::function<bool(const TRecord&)>;
+  virtual bool Visit(int from, const TVisitor& each);
   /// These return the index that the record has then; -1 when it is not among them, as one that a
   /// filter hides.
   virtual int Insert(int index, const TRecord& record) = 0;
@@ -33,6 +38,7 @@ class VCL_API TRecordList : public TRecordStore {
  public:
   const TRecord* At(int index) override;
   int Count() override { return Size(); }
+  bool Visit(int from, const TVisitor& each) override;
   int Insert(int index, const TRecord& record) override;
   int Replace(int index, const TRecord& record) override;
   void Erase(int index) override;

@@ -55,7 +55,7 @@ struct TDigits {
   void AddOne() {
     while (!Digits.empty() && Digits.back() == '9') Digits.pop_back();
     if (!Digits.empty()) return static_cast<void>(++Digits.back());
-    Digits = "1";
+    Digits.assign(1, '1');
     ++Point;
   }
   void Trim() {
@@ -118,10 +118,17 @@ class TNumberFormat {
     }
   }
   std::string Exponent(const std::string& letters, int exponent) const {
-    std::string digits = IntToStr(std::abs(exponent));
-    while (static_cast<int>(digits.size()) < FExponentDigits) digits.insert(0, 1, '0');
-    const bool sign = exponent < 0 || letters[1] == '+';
-    return letters.substr(0, 1) + (!sign ? "" : exponent < 0 ? "-" : "+") + digits;
+    const std::string digits = IntToStr(std::abs(exponent));
+    std::string text(1, letters[0]);
+    if (exponent < 0) {
+      text += '-';
+    } else if (letters[1] == '+') {
+      text += '+';
+    }
+    text.append(
+        static_cast<std::size_t>(std::max(FExponentDigits - static_cast<int>(digits.size()), 0)),
+        '0');
+    return text += digits;
   }
 
   std::vector<TElement> FElements;
@@ -147,7 +154,7 @@ std::string TNumberFormat::Print(TDigits digits, bool negative,
     digits.Round(FDecimals);
     normalize();  // 9.99 may have become 10.
   }
-  std::string text;
+  std::string text(negative ? 1 : 0, '-');
   const auto whole = [&](int from, int to) {
     for (int place = from; place >= to; --place) {
       text += digits.At(place);
@@ -183,7 +190,7 @@ std::string TNumberFormat::Print(TDigits digits, bool negative,
       default: text += each.Text; break;
     }
   }
-  return (negative ? "-" : "") + text;
+  return text;
 }
 
 /// The format's parts, as far as there are; quoted semicolons part nothing.

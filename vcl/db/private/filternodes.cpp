@@ -45,38 +45,17 @@ std::optional<int> Compare(const TResult& a, const TResult& b, bool ignoreCase) 
   return whole && otherWhole ? Sign(*whole, *otherWhole) : Sign(ToDouble(a), ToDouble(b));
 }
 
-/// The same of a field's value and one that is written out, without a detour where both are of one
-/// kind or numbers.
-std::optional<int> CompareStored(const TFieldValue& a, const TFieldValue& b, TRelation relation,
-                                 bool ignoreCase) {
-  if (a.index() == b.index()) {
-    if (const auto* whole = std::get_if<std::int64_t>(&a)) {
-      return Sign(*whole, *std::get_if<std::int64_t>(&b));
-    }
-    const auto* text = std::get_if<std::string>(&a);
-    const bool equality = relation == TRelation::Equal || relation == TRelation::NotEqual;
-    // Texts of different lengths are told apart at once.
-    if (text && equality && !ignoreCase) return *text == *std::get_if<std::string>(&b) ? 0 : 1;
-  }
-  if (const auto* number = std::get_if<double>(&a)) {
-    if (const auto* other = std::get_if<double>(&b)) return Sign(*number, *other);
-    if (const auto* whole = std::get_if<std::int64_t>(&b)) {
-      return Sign(*number, static_cast<double>(*whole));
-    }
-  }
-  return Compare(ResultOf(a), ResultOf(b), ignoreCase);
-}
-
-bool Fits(TRelation relation, int order) {
+/// The orders that fulfil a relation: 1 for below zero, 2 for zero, 4 for above.
+unsigned FittingOrders(TRelation relation) {
   switch (relation) {
-    case TRelation::Equal: return order == 0;
-    case TRelation::NotEqual: return order != 0;
-    case TRelation::Less: return order < 0;
-    case TRelation::LessOrEqual: return order <= 0;
-    case TRelation::Greater: return order > 0;
+    case TRelation::Equal: return 2;
+    case TRelation::NotEqual: return 1 | 4;
+    case TRelation::Less: return 1;
+    case TRelation::LessOrEqual: return 1 | 2;
+    case TRelation::Greater: return 4;
     case TRelation::GreaterOrEqual: break;
   }
-  return order >= 0;
+  return 2 | 4;
 }
 
 /// Whole numbers as long as their result is one that fits.
@@ -136,19 +115,41 @@ TResult TNegative::Evaluate(const TRow& row) const {
 }
 
 TComparison::TComparison(TRelation relation, TNodePtr left, TNodePtr right, bool ignoreCase)
-    : FRelation(relation),
+    : FFits(FittingOrders(relation)),
       FLeft(std::move(left)),
       FRight(std::move(right)),
-      FField(dynamic_cast<const TFieldNode*>(FLeft.get())),
-      FLiteral(dynamic_cast<const TLiteral*>(FRight.get())),
-      FIgnoreCase(ignoreCase) {}
+      FIgnoreCase(ignoreCase) {
+  const auto* literal = dynamic_cast<const TLiteral*>(FRight.get());
+  if (!literal) return;
+  FField = dynamic_cast<const TFieldNode*>(FLeft.get());
+  FWanted = literal->Value();
+  if (FWanted.index() == 1 || FWanted.index() == 2) FNumber = ToDouble(ResultOf(FWanted));
+}
 
+/// Of a field and a value written out, without a detour: this is done for each record.
 TTruth TComparison::Test(const TRow& row) const {
+  if (!FField) return TestResults(row);
+  const TFieldValue& value = FField->Value(row);
+  const std::size_t wanted = FWanted.index();
+  if (const auto* whole = std::get_if<std::int64_t>(&value)) {
+    if (wanted == 1) return Truth(*whole, *std::get_if<std::int64_t>(&FWanted));
+    if (wanted == 2) return Truth(static_cast<double>(*whole), FNumber);
+  } else if (const auto* number = std::get_if<double>(&value)) {
+    if (wanted == 1 || wanted == 2) return Truth(*number, FNumber);
+  } else if (const auto* text = std::get_if<std::string>(&value)) {
+    // Texts of different lengths are told apart at once.
+    const bool equality = FFits == 2 || FFits == (1 | 4);
+    if (wanted == 3 && equality && !FIgnoreCase) {
+      return TruthOf((*text == *std::get_if<std::string>(&FWanted)) == (FFits == 2));
+    }
+  }
+  return TestResults(row);
+}
+
+TTruth TComparison::TestResults(const TRow& row) const {
   const std::optional<int> order =
-      FField && FLiteral
-          ? CompareStored(FField->Value(row), FLiteral->Value(), FRelation, FIgnoreCase)
-          : Compare(FLeft->Evaluate(row), FRight->Evaluate(row), FIgnoreCase);
-  return order ? TruthOf(Fits(FRelation, *order)) : TTruth::Unknown;
+      Compare(FLeft->Evaluate(row), FRight->Evaluate(row), FIgnoreCase);
+  return order ? Truth(*order, 0) : TTruth::Unknown;
 }
 
 TTruth TLike::Test(const TRow& row) const {

@@ -72,12 +72,21 @@ class TComparison : public TCondition {
   TTruth Test(const TRow& row) const override;
 
  private:
-  TRelation FRelation;
+  /// The same for an order: below zero, zero or above.
+  template <class T>
+  TTruth Truth(const T& a, const T& b) const {
+    return TTruth((FFits >> (1 + (b < a) - (a < b))) & 1);
+  }
+  TTruth TestResults(const TRow& row) const;
+
+  unsigned FFits;  ///< A bit for each order that fulfils it: below zero first.
   TNodePtr FLeft, FRight;
-  /// Both, where a field is compared with a value, as it mostly is.
-  const TFieldNode* FField;
-  const TLiteral* FLiteral;
   bool FIgnoreCase;
+  /// Where a field is compared with a value that is written out, as it mostly is: the field, and
+  /// the value by its kind, a number also as a floating one.
+  const TFieldNode* FField = nullptr;
+  TFieldValue FWanted;
+  double FNumber = 0;
 };
 
 /// LIKE, and texts that are compared in part.

@@ -2,6 +2,7 @@
 #include "vcl/db/private/recordview.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "vcl/rtl/text.h"
 
@@ -45,20 +46,21 @@ int CompareRecords(const TRecord& a, const TRecord& b, const TRecordOrder& order
   return 0;
 }
 
-/// Looks at the next record of the store; false when there is none. What the filter raises leaves
-/// it the next one.
-bool TRecordView::LookFurther() {
-  const TRecord* record = FComplete ? nullptr : FRecords.At(FLooked);
-  FComplete = record == nullptr;
-  if (FComplete) return false;
-  if (FAccepts(*record)) FShown.push_back(FLooked);
-  ++FLooked;
-  return true;
+/// Looks at further records of the store until that many are shown; false when there are not so
+/// many. What the filter raises leaves the record to the next time.
+bool TRecordView::LookUntil(int size) {
+  if (Size() >= size) return true;
+  FComplete = FComplete || FRecords.Visit(FLooked, [this, size](const TRecord& record) {
+    if (FAccepts(record)) FShown.push_back(FLooked);
+    ++FLooked;
+    return Size() < size;
+  });
+  return Size() >= size;
 }
 
 void TRecordView::LookAtAll() {
   if (FComplete) return;
-  while (LookFurther()) continue;
+  LookUntil(std::numeric_limits<int>::max());
   if (!Ordered()) return;
   // All have been read: they stay where they are.
   std::vector<std::pair<const TRecord*, int>> records;
@@ -72,8 +74,7 @@ void TRecordView::LookAtAll() {
 
 const TRecord* TRecordView::At(int index) {
   if (Ordered()) LookAtAll();
-  while (Size() <= index && LookFurther()) continue;
-  return index >= 0 && index < Size() ? FRecords.At(Shown(index)) : nullptr;
+  return index >= 0 && LookUntil(index + 1) ? FRecords.At(Shown(index)) : nullptr;
 }
 
 int TRecordView::Count() {
@@ -141,7 +142,7 @@ int TRecordView::IndexOf(TBookmark bookmark) {
   const int place = FRecords.IndexOf(bookmark);
   if (place < 0) return -1;
   if (Ordered()) LookAtAll();
-  while (FLooked <= place && LookFurther()) continue;
+  while (FLooked <= place && LookUntil(Size() + 1)) continue;
   const auto found = std::ranges::find(FShown, place);
   return found == FShown.end() ? -1 : static_cast<int>(found - FShown.begin());
 }

@@ -35,7 +35,7 @@ class TRecordView : public TRecordStore {
   int LowerBound(const std::function<int(const TRecord&)>& compare);
 
  private:
-  bool LookFurther();
+  bool LookUntil(int size);
   void LookAtAll();
   int PlaceOf(const TRecord& record);
   void Shift(int from, int by);
