@@ -15,6 +15,11 @@ if(QEL_TESTS)
   qel_precompiled(precompiled_tests DEFINITIONS _GLIBCXX_ASSERTIONS LIBRARIES GTest::gmock
                   HEADERS <gmock/gmock.h> <gtest/gtest.h>)
   qel_compile_fast(precompiled_tests)
+  # The tests that use the screen take the class library as one header, too (testinput.h).
+  qel_precompiled(precompiled_window_tests DEFINITIONS _GLIBCXX_ASSERTIONS
+                  LIBRARIES GTest::gmock FOLDERS ${PROJECT_SOURCE_DIR}
+                  HEADERS <gmock/gmock.h> <gtest/gtest.h> "vcl/vcl.h")
+  qel_compile_fast(precompiled_window_tests)
 endif()
 
 # qel_add_test(AREA [NATIVE] [WINDOW] [TIMEOUT seconds] [LAUNCHER program] [LIBRARIES targets...]
@@ -44,7 +49,11 @@ function(qel_add_test area)
   target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
   target_compile_definitions(${target} PRIVATE _GLIBCXX_ASSERTIONS)
   target_link_libraries(${target} PRIVATE ${arg_LIBRARIES} ${main})
-  qel_reuse_precompiled(precompiled_tests ${target})
+  if(arg_WINDOW)
+    qel_reuse_precompiled(precompiled_window_tests ${target})
+  else()
+    qel_reuse_precompiled(precompiled_tests ${target})
+  endif()
   qel_compile_fast(${target})
   if(WIN32)
     qel_target_resources(${target} MANIFEST FORMS ${arg_FORMS} RESOURCES ${arg_RESOURCES})
