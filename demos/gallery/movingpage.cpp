@@ -3,10 +3,15 @@
 
 #include <cmath>
 
+#include "demos/gallery/clip.h"
 #include "vcl/dialogs/dialogs.h"
 #include "vcl/rtl/classregistry.h"
+#include "vcl/rtl/filenames.h"
+#include "vcl/rtl/files.h"
 #include "vcl/rtl/properties.h"
+#include "vcl/rtl/streams.h"
 #include "vcl/rtl/text.h"
+#include "vcl/rtl/win32.h"
 
 namespace gallery {
 
@@ -71,6 +76,7 @@ const TClass& TMovingPage::Class() {
                           {
                               Field<&T::SampleAnimator>("SampleAnimator"),
                               Field<&T::AnimatorCheck>("AnimatorCheck"),
+                              Field<&T::SampleClip>("SampleClip"),
                               Field<&T::SampleScroller>("SampleScroller"),
                               Field<&T::SampleSlides>("SampleSlides"),
                               Field<&T::EffectBox>("EffectBox"),
@@ -96,12 +102,17 @@ TMovingPage::TMovingPage(TComponent* owner) : TFrame(owner) {
   DrawPictures();
 }
 
-TMovingPage::~TMovingPage() { AnnounceEnd(); }
+TMovingPage::~TMovingPage() {
+  AnnounceEnd();
+  SampleClip->SetFileName("");
+  DeleteFile(FClipFile);
+}
 
 void TMovingPage::DrawPictures() {
   TBitmap strip;
   DrawFrames(strip, SampleAnimator->FrameCount());
   SampleAnimator->SetStrip(&strip);
+  PlayClip(strip);
   TBitmap hills;
   DrawHills(hills);
   TPicture picture;
@@ -117,7 +128,18 @@ void TMovingPage::DrawPictures() {
   }
 }
 
-void TMovingPage::AnimatorClick(TObject*) { SampleAnimator->SetActive(AnimatorCheck->Checked()); }
+/// The system's control plays files.
+void TMovingPage::PlayClip(const TBitmap& strip) {
+  FClipFile = Concat(IncludeTrailingPathDelimiter(QELInformation(iiTempFolder)), "gallery-",
+                     std::to_string(::GetCurrentProcessId()), ".avi");
+  TFileStream(FClipFile, fmCreate).WriteText(ClipOf(strip, SampleAnimator->FrameCount()));
+  SampleClip->SetFileName(FClipFile);
+}
+
+void TMovingPage::AnimatorClick(TObject*) {
+  SampleAnimator->SetActive(AnimatorCheck->Checked());
+  SampleClip->SetActive(AnimatorCheck->Checked());
+}
 
 void TMovingPage::EffectChange(TObject*) {
   for (int i = 0; i < SampleSlides->Slides()->Count(); ++i) {

@@ -119,6 +119,20 @@ object MovingPage: TMovingPage
     TabOrder = 1
     OnClick = AnimatorClick
   end
+  object SampleClip: TAnimate
+    Left = 240
+    Top = 206
+    Width = 48
+    Height = 48
+    Active = True
+  end
+  object ClipLabel: TLabel
+    Left = 304
+    Top = 221
+    Width = 152
+    Height = 13
+    Caption = 'The same as a clip of the system'
+  end
   object ScrollerHeading: TLabel
     Left = 16
     Top = 278

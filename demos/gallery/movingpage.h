@@ -20,6 +20,7 @@ class TMovingPage : public vcl::TFrame {
   // What the form file fills.
   qel::TQELAnimator* SampleAnimator = nullptr;
   vcl::TCheckBox* AnimatorCheck = nullptr;
+  vcl::TAnimate* SampleClip = nullptr;
   qel::TQELImageScroller* SampleScroller = nullptr;
   qel::TQELPresentation* SampleSlides = nullptr;
   vcl::TComboBox* EffectBox = nullptr;
@@ -28,6 +29,9 @@ class TMovingPage : public vcl::TFrame {
   void EffectChange(vcl::TObject*);
   void LinkCommand(vcl::TObject*, std::string& target, bool& allow);
   void DrawPictures();
+  void PlayClip(const vcl::TBitmap& strip);
+
+  std::string FClipFile;  // It is there while the page is.
 };
 
 }  // namespace gallery

@@ -8,8 +8,11 @@
 #include "demos/files/replaceform.h"
 #include "demos/files/searchform.h"
 #include "demos/files/viewerform.h"
+#include "tests/support/formlayout.h"
 #include "tests/support/program.h"
+#include "tests/support/registered.h"
 #include "tests/vcl/testinput.h"
+#include "vcl/forms/standardclasses.h"
 #include "vcl/vcl.h"
 
 namespace files {
@@ -121,6 +124,15 @@ TEST_F(Files, TextsAreCountedAndReplaced) {
   dynamic_cast<vcl::TButton&>(*part("ReplaceButton")).Click();
   EXPECT_EQ(status.Caption(), "Replaced 1 times in 1 files");
   EXPECT_TRUE(There("left/a.txt.bak"));
+}
+
+TEST(FilesForms, FitAtOtherDotsPerInch) {
+  vcl::RegisterStandardClasses();
+  RegisterAll();
+  vcl::RegisterClasses({&TPane::Class()});
+  for (const char* name : {"TFilesForm", "TSearchForm", "TReplaceForm", "TViewerForm"}) {
+    formlayout::ExpectToFit(formlayout::FormFile(name), name);
+  }
 }
 
 TEST_F(Files, ASearchLooksIntoFiles) {

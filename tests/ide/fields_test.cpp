@@ -78,6 +78,23 @@ TEST_F(DesignedFields, AreMadeOfTheDataOrderedAndDeleted) {
   EXPECT_FALSE(window.Visible());
 }
 
+TEST_F(DesignedFields, AreMembersOfTheFormsClass) {
+  Execute("People", 0);
+  Window->FieldsWindow().AddAll();
+  It().SetSelection({Find<TComponent>("PeopleBornon")});
+  auto editors = PropertiesOf(It(), {Find<TComponent>("PeopleBornon")},
+                              [](const TPropInfo& each) { return each.Name == "OnValidate"; });
+  ASSERT_EQ(editors.size(), 1u);
+  editors[0]->SetValue("CheckBirthday");
+  Document().Save(File("form.dfm"));
+  ASSERT_TRUE(Window->WriteUnit());
+  const std::string header = Read("form.h");
+  EXPECT_THAT(header, HasSubstr("vcl::TStringField* PeopleName = nullptr;"));
+  EXPECT_THAT(header, HasSubstr("vcl::TDateField* PeopleBornon = nullptr;"));
+  EXPECT_THAT(header, HasSubstr("void CheckBirthday(vcl::TField* sender);"));
+  EXPECT_THAT(Read("form.cpp"), HasSubstr("Field<&TF::PeopleName>(\"PeopleName\")"));
+}
+
 TEST_F(DesignedFields, AreOfferedWhereTheyAreNamed) {
   EXPECT_THAT(Offered(*Find<TDBEdit>("Edit"), "DataField"), ElementsAre("Name", "Born on"));
   EXPECT_THAT(Offered(*Find<TMemoryDataSet>("People"), "IndexFieldNames"),

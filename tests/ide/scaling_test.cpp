@@ -5,6 +5,8 @@
 
 #include "ide/palettepage.h"
 #include "tests/ide/designerfixture.h"
+#include "tests/support/formlayout.h"
+#include "vcl/forms/module.h"
 #include "vcl/graphics/fontmetrics.h"
 
 namespace ide {
@@ -79,6 +81,12 @@ TEST_F(ScaledDesigner, ItsOtherWindowsHaveRoomForTheirButtons) {
         EXPECT_LE(button->BoundsRect().Bottom, each->ClientHeight()) << button->Caption();
       }
     }
+  }
+}
+
+TEST_F(ScaledDesigner, ItsDialogsFit) {
+  for (const char* name : {"TImageListForm", "TLinesForm", "TMaskForm", "TTreeItemsForm"}) {
+    formlayout::ExpectToFit(formlayout::FormFile(name, ModuleOf(&TForm::Class())), name);
   }
 }
 
