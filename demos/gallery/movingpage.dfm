@@ -131,7 +131,7 @@ object MovingPage: TMovingPage
     Top = 221
     Width = 152
     Height = 13
-    Caption = 'The same as a clip of the system'
+    Caption = 'The same as a clip'
   end
   object ScrollerHeading: TLabel
     Left = 16

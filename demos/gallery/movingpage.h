@@ -5,6 +5,7 @@
 
 #include "qel/qel.h"
 #include "vcl/forms/frames.h"
+#include "vcl/stdctrls/animate.h"
 
 namespace gallery {
 

@@ -110,7 +110,7 @@ object StandardPage: TStandardPage
   object ShapeGroup: TRadioGroup
     Left = 16
     Top = 166
-    Width = 210
+    Width = 218
     Height = 134
     Caption = '&Shape'
     Columns = 2

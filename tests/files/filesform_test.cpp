@@ -131,7 +131,7 @@ TEST(FilesForms, FitAtOtherDotsPerInch) {
   RegisterAll();
   vcl::RegisterClasses({&TPane::Class()});
   for (const char* name : {"TFilesForm", "TSearchForm", "TReplaceForm", "TViewerForm"}) {
-    formlayout::ExpectToFit(formlayout::FormFile(name), name);
+    formlayout::ExpectToFit<vcl::TForm>(formlayout::FormFile(name), name);
   }
 }
 

@@ -28,8 +28,8 @@ TEST(SampleForms, FitAtOtherDotsPerInch) {
   RegisterAll();
   RegisterDataClasses();
   RegisterDataControls();
-  for (const char* name : FormClasses) ExpectToFit(FormFile(name), name);
-  for (const char* name : PageClasses) ExpectToFit(FormFile(name), name);
+  for (const char* name : FormClasses) ExpectToFit<TForm>(FormFile(name), name);
+  for (const char* name : PageClasses) ExpectToFit<TFrame>(FormFile(name), name);
 }
 
 TEST(SampleForms, FillTheSizesThatTheUserGivesThem) {

@@ -86,7 +86,8 @@ TEST_F(ScaledDesigner, ItsOtherWindowsHaveRoomForTheirButtons) {
 
 TEST_F(ScaledDesigner, ItsDialogsFit) {
   for (const char* name : {"TImageListForm", "TLinesForm", "TMaskForm", "TTreeItemsForm"}) {
-    formlayout::ExpectToFit(formlayout::FormFile(name, ModuleOf(&TForm::Class())), name);
+    formlayout::ExpectToFit<vcl::TForm>(formlayout::FormFile(name, ModuleOf(&TForm::Class())),
+                                        name);
   }
 }
 

@@ -4,6 +4,7 @@
 #include "vcl/actions/actionlink.h"
 #include "vcl/actions/basicaction.h"
 #include "vcl/controls/controlwatch.h"
+#include "vcl/controls/private/painthold.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/forms/application.h"
 #include "vcl/forms/drag.h"
@@ -325,7 +326,7 @@ void TControl::Invalidate() { InvalidateArea(FVisible, FControlStyle.Has(csOpaqu
 
 void TControl::InvalidateArea(bool visible, bool opaque) {
   if (!visible && !Designing()) return;
-  if (!FParent || !FParent->HandleAllocated()) return;
+  if (!FParent || !FParent->HandleAllocated() || TPaintHold::Covers(*this)) return;
   const RECT area = BoundsRect();
   const bool covered = opaque || FParent->ControlStyle().Has(csOpaque);
   ::InvalidateRect(FParent->Handle(), &area, !covered);

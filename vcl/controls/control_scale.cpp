@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "vcl/controls/private/painthold.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/forms/forms.h"
 #include "vcl/rtl/exceptions.h"
@@ -12,39 +13,6 @@
 #include "vcl/rtl/win32.h"
 
 namespace vcl {
-
-namespace {
-
-/// Holds back the painting of a window of its own, and of all inside, that changes in many places:
-/// it is painted once, at the end.
-class TPaintHold {
- public:
-  explicit TPaintHold(TWinControl& control) : FWatch(&control), FControl(control) {
-    if (!control.HandleAllocated() || !::IsWindowVisible(control.Handle())) return;
-    FWindow = control.Handle();
-    ::SendMessageW(FWindow, WM_SETREDRAW, FALSE, 0);
-  }
-  ~TPaintHold() {
-    // A handler may have freed the control, made its window anew or hidden it.
-    if (FWatch.Gone() || !FWindow || TWinControl::FromHandle(FWindow) != &FControl) return;
-    ::SendMessageW(FWindow, WM_SETREDRAW, TRUE, 0);
-    if (!FControl.Showing()) {
-      ::ShowWindow(FWindow, SW_HIDE);
-      return;
-    }
-    ::RedrawWindow(FWindow, nullptr, nullptr,
-                   RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
-  }
-  TPaintHold(const TPaintHold&) = delete;
-  TPaintHold& operator=(const TPaintHold&) = delete;
-
- private:
-  TWatch FWatch;
-  TWinControl& FControl;
-  HWND FWindow = nullptr;
-};
-
-}  // namespace
 
 /// A control and all inside it being scaled. Whose size has changed is told so behind it: a handler
 /// that arranges what stands inside by hand would find half of it scaled, and what it has done

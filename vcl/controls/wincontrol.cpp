@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "vcl/controls/controlwatch.h"
+#include "vcl/controls/private/painthold.h"
 #include "vcl/controls/windowtext.h"
 #include "vcl/forms/forms.h"
 #include "vcl/graphics/brush.h"
@@ -198,8 +199,9 @@ void TWinControl::SetBounds(int left, int top, int width, int height) {
   if (HandleAllocated() && !::IsIconic(FHandle)) {
     // The window asks for its limits (WM_WINDOWPOSCHANGING) and tells of its new place
     // (WM_WINDOWPOSCHANGED), which then becomes ours.
+    const UINT silent = Parent() && TPaintHold::Covers(*this) ? SWP_NOREDRAW : 0;
     ::SetWindowPos(FHandle, nullptr, left, top, std::max(width, 0), std::max(height, 0),
-                   SWP_NOZORDER | SWP_NOACTIVATE);
+                   SWP_NOZORDER | SWP_NOACTIVATE | silent);
     return;
   }
   const TWatch watch(this);

@@ -1,5 +1,6 @@
 // TWinControl: painting, and TCustomControl.
 #include "vcl/controls/controlcanvas.h"
+#include "vcl/controls/private/painthold.h"
 #include "vcl/controls/wincontrol.h"
 #include "vcl/graphics/brush.h"
 #include "vcl/graphics/canvasbinding.h"
@@ -41,7 +42,8 @@ void MoveOrigin(HDC dc, int x, int y) {
 }  // namespace
 
 void TWinControl::Invalidate() {
-  if (FHandle) ::InvalidateRect(FHandle, nullptr, !ControlStyle().Has(csOpaque));
+  if (!FHandle || TPaintHold::Covers(*this)) return;
+  ::InvalidateRect(FHandle, nullptr, !ControlStyle().Has(csOpaque));
 }
 
 void TWinControl::Update() {

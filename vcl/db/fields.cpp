@@ -20,7 +20,7 @@ namespace {
 /// The class of the kinds that publish nothing more than their parent.
 template <class T, class Parent>
 const TClass& PlainClass(const char* name) {
-  static const TClass info = Describe<T, Parent>(name, "db", {});
+  static const TClass info = Describe<T, Parent>(name, "vcl/db/db.h", {});
   return info;
 }
 
@@ -85,8 +85,10 @@ std::string TStringField::ToText(const TFieldValue& value, bool) const {
   return whole ? IntToStr(*whole) : FloatToStr(std::get<double>(value));
 }
 
-const TClass& TBlobField::Class() { return PlainClass<TBlobField, TStringField>("TBlobField"); }
-const TClass& TMemoField::Class() { return PlainClass<TMemoField, TBlobField>("TMemoField"); }
+const TClass& TBlobField::Class() {
+  return PlainClass<TBlobField, TStringField>("vcl::TBlobField");
+}
+const TClass& TMemoField::Class() { return PlainClass<TMemoField, TBlobField>("vcl::TMemoField"); }
 
 void TBlobField::LoadFromFile(const std::string& fileName) {
   SetAsString(TFileStream(fileName, fmOpenRead | fmShareDenyWrite).ReadRest());
@@ -117,13 +119,13 @@ std::string TNumericField::ToText(const TFieldValue& value, bool display) const 
 }
 
 const TClass& TIntegerField::Class() {
-  return PlainClass<TIntegerField, TNumericField>("TIntegerField");
+  return PlainClass<TIntegerField, TNumericField>("vcl::TIntegerField");
 }
 const TClass& TSmallintField::Class() {
-  return PlainClass<TSmallintField, TIntegerField>("TSmallintField");
+  return PlainClass<TSmallintField, TIntegerField>("vcl::TSmallintField");
 }
 const TClass& TLargeintField::Class() {
-  return PlainClass<TLargeintField, TIntegerField>("TLargeintField");
+  return PlainClass<TLargeintField, TIntegerField>("vcl::TLargeintField");
 }
 
 TFieldValue TIntegerField::Accept(const TFieldValue& value) const {
@@ -147,11 +149,13 @@ TFieldValue TIntegerField::Accept(const TFieldValue& value) const {
   return number;
 }
 
-const TClass& TFloatField::Class() { return PlainClass<TFloatField, TNumericField>("TFloatField"); }
-const TClass& TCurrencyField::Class() {
-  return PlainClass<TCurrencyField, TFloatField>("TCurrencyField");
+const TClass& TFloatField::Class() {
+  return PlainClass<TFloatField, TNumericField>("vcl::TFloatField");
 }
-const TClass& TBCDField::Class() { return PlainClass<TBCDField, TFloatField>("TBCDField"); }
+const TClass& TCurrencyField::Class() {
+  return PlainClass<TCurrencyField, TFloatField>("vcl::TCurrencyField");
+}
+const TClass& TBCDField::Class() { return PlainClass<TBCDField, TFloatField>("vcl::TBCDField"); }
 
 TFieldValue TFloatField::Accept(const TFieldValue& value) const {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return static_cast<double>(*whole);
@@ -225,8 +229,12 @@ const TClass& TDateTimeField::Class() {
   return info;
 }
 
-const TClass& TDateField::Class() { return PlainClass<TDateField, TDateTimeField>("TDateField"); }
-const TClass& TTimeField::Class() { return PlainClass<TTimeField, TDateTimeField>("TTimeField"); }
+const TClass& TDateField::Class() {
+  return PlainClass<TDateField, TDateTimeField>("vcl::TDateField");
+}
+const TClass& TTimeField::Class() {
+  return PlainClass<TTimeField, TDateTimeField>("vcl::TTimeField");
+}
 
 void TDateTimeField::SetDisplayFormat(const std::string& format) {
   FDisplayFormat = format;

@@ -124,7 +124,8 @@ TSize TCustomForm::FrameSize() const {
 
 TRect TCustomForm::ClientRect() const {
   TRect rect = TScrollingWinControl::ClientRect();
-  if (!HandleAllocated()) {
+  // Each control that is put onto the form asks; what the form file says of both needs no frame.
+  if (!HandleAllocated() && (FClientWidth < 0 || FClientHeight < 0)) {
     const TSize frame = FrameSize();
     rect.Right = std::max(rect.Right - frame.cx, 0);
     rect.Bottom = std::max(rect.Bottom - frame.cy, 0);
